@@ -1,0 +1,19 @@
+# What every target of the project shares.
+add_library(morvane_options INTERFACE)
+target_compile_options(morvane_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+# Recoloured pixels are compared byte for byte with the plain arithmetic: no fused or reordered operations.
+target_compile_options(morvane_options INTERFACE -ffp-contract=off)
+target_compile_definitions(morvane_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS)
+
+# morvane_test(NAME FILES...): one GoogleTest program for one folder of tests, each case a ctest of its own.
+function(morvane_test name)
+    add_executable(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE morvane_test_support)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+endfunction()
+
+# morvane_bench(NAME FILES...): one Google Benchmark program.
+function(morvane_bench name)
+    add_executable(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE morvane_engine benchmark::benchmark_main)
+endfunction()

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/error.h"
+#include "core/user_interface.h"
+
+#include <new>
+
+namespace morvane {
+
+/// How a routine tells of its failure: what stands in front of the error's description, under which title.
+struct FailureReport {
+    QString title = u"Morvane Error"_s;
+    MessageKind kind = MessageKind::error;
+    QString prefix = {}; ///< such as "Sub Main\n"; nothing is put between it and the description
+    bool withCancel = false;
+};
+
+void showFailure(UserInterface& user, const FailureReport& report, const QString& description);
+
+/// The boundary of a routine: runs it, and turns an exception into the one message of the report.
+/// True when the routine came to its end. A failure is told once and never crosses this line, so the caller
+/// goes on with what it has.
+template <class Routine>
+bool reportFailures(UserInterface& user, const FailureReport& report, Routine&& routine) {
+    try {
+        routine();
+        return true;
+    } catch (const Error& error) {
+        showFailure(user, report, error.description());
+    } catch (const std::bad_alloc&) {
+        showFailure(user, report, Error(ErrorCode::outOfMemory).description());
+    } catch (const std::exception& error) {
+        showFailure(user, report, QString::fromUtf8(error.what()));
+    }
+    return false;
+}
+
+} // namespace morvane

@@ -1,0 +1,132 @@
+#include "core/file_path.h"
+
+#include "core/error.h"
+#include "core/numbers.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace morvane {
+
+namespace {
+
+bool isSeparator(QChar c) {
+    return c == u'\\' || c == u'/';
+}
+
+bool existsExactly(const QString& path) {
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink(); // a dangling link is there, too
+}
+
+/// The name as the folder spells it, or as given when the folder has no such name in any case.
+QString spellingOnDisk(const QString& folder, const QString& name) {
+    const auto filters = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    const QStringList entries = QDir(folder).entryList(filters, QDir::Name);
+    for (const QString& entry : entries)
+        if (entry.compare(name, Qt::CaseInsensitive) == 0) return entry;
+    return name;
+}
+
+void refuseUnsafe(QStringView name) {
+    const bool unsafe = name == u".." || name.contains(QChar(u'\0')) || name.contains(u':');
+    if (unsafe) throw Error(ErrorCode::pathNotFound, name.toString());
+}
+
+} // namespace
+
+FilePath::FilePath(const QString& systemPath) : root_(systemPath) {
+#ifdef Q_OS_WIN
+    root_.replace(u'\\', u'/');
+#endif
+    while (root_.size() > 1 && root_.endsWith(u'/') && !root_.endsWith(u":/"))
+        root_.chop(1);
+}
+
+FilePath FilePath::operator/(QStringView relative) const {
+    FilePath joined = *this;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= relative.size(); ++i) {
+        if (i < relative.size() && !isSeparator(relative[i])) continue;
+        const QStringView name = relative.mid(start, i - start);
+        start = i + 1;
+        if (name.isEmpty() || name == u".") continue;
+        refuseUnsafe(name);
+        joined.names_.append(name.toString());
+    }
+    return joined;
+}
+
+FilePath FilePath::child(const QString& name) const {
+    const bool single = std::none_of(name.begin(), name.end(), isSeparator);
+    if (name.isEmpty() || name == u"." || !single) throw Error(ErrorCode::pathNotFound, name);
+    return *this / QStringView(name);
+}
+
+FilePath FilePath::parent() const {
+    FilePath above = *this;
+    if (!above.names_.isEmpty())
+        above.names_.removeLast();
+    else
+        above.root_ = QFileInfo(root_).path();
+    return above;
+}
+
+QString FilePath::fileName() const {
+    return names_.isEmpty() ? QFileInfo(root_).fileName() : names_.last();
+}
+
+QString FilePath::text() const {
+    const QString joined = names_.isEmpty() ? root_ : root_ + u'/' + names_.join(u'/');
+    return QDir::toNativeSeparators(joined);
+}
+
+QString FilePath::native() const {
+    if (names_.isEmpty()) return root_;
+    const QString base = root_.endsWith(u'/') ? root_ : root_ + u'/';
+    const QString asJoined = base + names_.join(u'/');
+#ifdef Q_OS_WIN
+    return asJoined;
+#else
+    if (existsExactly(asJoined)) return asJoined;
+    QString path = root_;
+    for (const QString& name : names_) {
+        const QString folder = path.endsWith(u'/') ? path : path + u'/';
+        path = folder + name;
+        if (!existsExactly(path)) path = folder + spellingOnDisk(folder, name);
+    }
+    return path;
+#endif
+}
+
+bool matchesMask(QStringView name, QStringView mask) {
+    if (mask == u"*.*" || mask == u"*") return true;
+    // Greedy walk with one point of return: the last "*" seen.
+    qsizetype n = 0, m = 0, starMask = -1, starName = 0;
+    while (n < name.size()) {
+        const bool same =
+            m < mask.size() && (mask[m] == u'?' || mask[m].toCaseFolded() == name[n].toCaseFolded());
+        if (m < mask.size() && mask[m] == u'*') {
+            starMask = m++;
+            starName = n;
+        } else if (same) {
+            ++n, ++m;
+        } else if (starMask >= 0) {
+            m = starMask + 1;
+            n = ++starName;
+        } else {
+            return false;
+        }
+    }
+    while (m < mask.size() && mask[m] == u'*')
+        ++m;
+    return m == mask.size();
+}
+
+QString StripBackslash(const QString& path) {
+    QString stripped = trimmedBlanks(path);
+    if (stripped.endsWith(u'\\')) stripped.chop(1);
+    return stripped;
+}
+
+} // namespace morvane

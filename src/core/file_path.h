@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace morvane {
+
+/// A path as the program speaks of it. The program and the simulator join their paths with "\" and read them
+/// without regard to case, while the folder may lie on a file system that knows case. Texts joined here take
+/// "\" and "/"; `native()` gives the spelling that is on the disk.
+///
+/// No joined text leads out of the root: "..", a drive or a NUL in it raises "Path not found".
+class FilePath {
+public:
+    FilePath() = default;
+    /// A folder or file as the system spells it (a user's choice, the environment); taken as it stands.
+    explicit FilePath(const QString& systemPath);
+
+    /// Appends one or more names, as in `appPath / "Scenery\\World\\texture"`. Empty names are passed over.
+    FilePath operator/(QStringView relative) const;
+    FilePath operator/(const char16_t* relative) const { return *this / QStringView(relative); }
+    /// Appends exactly one name, a set's or a file's. An empty name, or one that holds a separator, raises
+    /// "Path not found": a name from the store or the user can never reach another folder.
+    FilePath child(const QString& name) const;
+    /// The folder above; a path without joined names loses the last name of its root.
+    FilePath parent() const;
+
+    bool isEmpty() const { return root_.isEmpty(); }
+    QString fileName() const;
+    /// The part that was joined behind the root, with "\" between the names.
+    QString relative() const { return names_.join(u'\\'); }
+    /// For messages: the path as joined, with the system's separators.
+    QString text() const;
+    /// The path on this system. Each name is taken in the spelling found on the disk, if need be without
+    /// regard to case; names that do not exist stay as joined. Exact spelling wins over any other.
+    QString native() const;
+
+private:
+    QString root_;
+    QStringList names_;
+};
+
+/// True when the mask ("*" any run, "?" one character) takes the whole name, without regard to case.
+/// "*.*" takes every name, with or without a dot.
+bool matchesMask(QStringView name, QStringView mask);
+
+/// Trims blanks and removes one trailing "\".
+QString StripBackslash(const QString& path);
+
+} // namespace morvane

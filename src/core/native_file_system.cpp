@@ -1,0 +1,190 @@
+#include "core/error.h"
+#include "core/file_system.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStorageInfo>
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+
+namespace morvane {
+
+namespace {
+
+constexpr qint64 copyBlockSize = 1 << 18;
+
+ErrorCode codeOf(const std::error_code& error) {
+    if (error == std::errc::no_such_file_or_directory) return ErrorCode::pathNotFound;
+    if (error == std::errc::no_space_on_device) return ErrorCode::diskFull;
+    if (error == std::errc::io_error) return ErrorCode::ioFailure;
+    return ErrorCode::permissionDenied;
+}
+
+ErrorCode codeOf(QFileDevice::FileError error, ErrorCode otherwise) {
+    switch (error) {
+    case QFileDevice::PermissionsError:
+        return ErrorCode::permissionDenied;
+    case QFileDevice::ResourceError:
+        return ErrorCode::diskFull;
+    case QFileDevice::ReadError:
+        return ErrorCode::ioFailure;
+    // A write that fails on an open file has no room left, in all but broken hardware.
+    case QFileDevice::WriteError:
+        return ErrorCode::diskFull;
+    default:
+        return otherwise;
+    }
+}
+
+std::filesystem::path systemPath(const FilePath& path) {
+    return path.native().toStdU16String();
+}
+
+void raise(const std::error_code& error, const FilePath& path) {
+    if (error) throw Error(codeOf(error), path.text());
+}
+
+void openOrRaise(QFileDevice& file, QIODevice::OpenMode mode, const FilePath& path, ErrorCode otherwise) {
+    if (!file.open(mode)) throw Error(codeOf(file.error(), otherwise), path.text());
+}
+
+ErrorCode missingOrDenied(const FilePath& path) {
+    return QFileInfo::exists(path.native()) ? ErrorCode::permissionDenied : ErrorCode::fileNotFound;
+}
+
+void writeAll(QFileDevice& file, const char* bytes, qint64 count, const FilePath& path) {
+    if (file.write(bytes, count) != count)
+        throw Error(codeOf(file.error(), ErrorCode::diskFull), path.text());
+}
+
+QStringList sortedByUpperName(QStringList names) {
+    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
+        const QString upperA = a.toUpper(), upperB = b.toUpper();
+        return upperA != upperB ? upperA < upperB : a < b;
+    });
+    return names;
+}
+
+} // namespace
+
+bool NativeFileSystem::exists(const FilePath& path) {
+    return QFileInfo::exists(path.native());
+}
+
+bool NativeFileSystem::isFolder(const FilePath& path) {
+    return QFileInfo(path.native()).isDir();
+}
+
+QStringList NativeFileSystem::list(const FilePath& folder, const QString& mask) {
+    const QDir directory(folder.native());
+    if (!directory.exists()) return {};
+    if (!directory.isReadable()) throw Error(ErrorCode::permissionDenied, folder.text());
+    QStringList taken;
+    const QStringList names = directory.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Unsorted);
+    for (const QString& name : names)
+        if (matchesMask(name, mask)) taken << name;
+    return sortedByUpperName(taken);
+}
+
+QStringList NativeFileSystem::listFolders(const FilePath& folder) {
+    const auto filters = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks;
+    return sortedByUpperName(QDir(folder.native()).entryList(filters, QDir::Unsorted));
+}
+
+void NativeFileSystem::makeFolder(const FilePath& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(systemPath(folder), error);
+    raise(error, folder);
+}
+
+void NativeFileSystem::copyContents(const FilePath& source, const FilePath& target) {
+    QFile in(source.native());
+    openOrRaise(in, QIODevice::ReadOnly | QIODevice::Unbuffered, source, missingOrDenied(source));
+    QFile out(target.native());
+    openOrRaise(out, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered, target,
+                ErrorCode::pathNotFound);
+    QByteArray block(std::min(copyBlockSize, std::max<qint64>(in.size(), 1)), Qt::Uninitialized);
+    while (true) {
+        const qint64 count = in.read(block.data(), block.size());
+        if (count < 0) throw Error(ErrorCode::ioFailure, source.text());
+        if (count == 0) break;
+        writeAll(out, block.constData(), count, target);
+    }
+}
+
+void NativeFileSystem::rename(const FilePath& source, const FilePath& target) {
+    std::error_code error;
+    std::filesystem::rename(systemPath(source), systemPath(target), error);
+    raise(error, target);
+}
+
+void NativeFileSystem::remove(const FilePath& file) {
+    if (!QFile::remove(file.native())) throw Error(missingOrDenied(file), file.text());
+}
+
+void NativeFileSystem::removeFolder(const FilePath& folder) {
+    std::error_code error;
+    const auto path = systemPath(folder);
+    if (!std::filesystem::is_directory(path)) throw Error(ErrorCode::pathNotFound, folder.text());
+    std::filesystem::remove(path, error); // refuses a folder that is not empty
+    raise(error, folder);
+}
+
+bool NativeFileSystem::isLink(const FilePath& path) {
+    return QFileInfo(path.native()).isSymLink();
+}
+
+bool NativeFileSystem::isReadOnly(const FilePath& file) {
+    const QFileInfo info(file.native());
+    return info.exists() && !(info.permissions() & QFileDevice::WriteOwner);
+}
+
+void NativeFileSystem::setReadOnly(const FilePath& file, bool readOnly) {
+    const auto write = QFileDevice::WriteOwner | QFileDevice::WriteUser;
+    auto permissions = QFileInfo(file.native()).permissions();
+    permissions = readOnly ? permissions & ~(write | QFileDevice::WriteGroup | QFileDevice::WriteOther)
+                           : permissions | write;
+    if (!QFile::setPermissions(file.native(), permissions)) throw Error(missingOrDenied(file), file.text());
+}
+
+void NativeFileSystem::copyMode(const FilePath& model, const FilePath& target) {
+    const auto permissions = QFileInfo(model.native()).permissions();
+    if (!QFile::setPermissions(target.native(), permissions))
+        throw Error(missingOrDenied(target), target.text());
+}
+
+std::int64_t NativeFileSystem::size(const FilePath& file) {
+    const QFileInfo info(file.native());
+    if (!info.exists()) throw Error(ErrorCode::fileNotFound, file.text());
+    return info.size();
+}
+
+std::int64_t NativeFileSystem::freeSpace(const FilePath& folder) {
+    return QStorageInfo(folder.native()).bytesAvailable();
+}
+
+QByteArray NativeFileSystem::read(const FilePath& file) {
+    QFile in(file.native());
+    openOrRaise(in, QIODevice::ReadOnly, file, missingOrDenied(file));
+    const QByteArray contents = in.readAll();
+    if (in.error() != QFileDevice::NoError) throw Error(ErrorCode::ioFailure, file.text());
+    return contents;
+}
+
+void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
+    QSaveFile out(file.native());
+    openOrRaise(out, QIODevice::WriteOnly, file, ErrorCode::pathNotFound);
+    writeAll(out, contents.constData(), contents.size(), file);
+    if (!out.commit()) throw Error(codeOf(out.error(), ErrorCode::permissionDenied), file.text());
+}
+
+void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {
+    QFile out(file.native());
+    openOrRaise(out, QIODevice::Append | QIODevice::Unbuffered, file, ErrorCode::pathNotFound);
+    writeAll(out, contents.constData(), contents.size(), file);
+}
+
+} // namespace morvane

@@ -1,0 +1,114 @@
+#pragma once
+
+#include "core/clock.h"
+#include "core/file_path.h"
+#include "core/file_system.h"
+#include "core/user_interface.h"
+
+#include <QString>
+#include <QStringList>
+#include <array>
+#include <cstdint>
+#include <memory>
+
+namespace morvane {
+
+class Store;
+class clsBackups;
+class clsConfigs;
+class clsNightTextureSets;
+class clsResourceFolders;
+class clsSkyTextureSets;
+class clsSkyTextureSubSets;
+class clsTextureSets;
+class clsWxFinders;
+
+/// Six effective colour values in the order of a `ColorSettings` text: what the colouriser takes.
+struct ColourValues {
+    float saturation = 0; ///< -100..100
+    float red = 0;        ///< -20..20, as green and blue
+    float green = 0;
+    float blue = 0;
+    float brightness = 0; ///< -30..30, as contrast
+    float contrast = 0;
+};
+
+/// What modal screens are given and what was chosen on them (UserInterface::showModal).
+struct ModalState {
+    /// frm_TsRequired: sets wanted for the cloud covers 1 to 5, and whether OK was pressed.
+    std::array<std::int16_t, 5> setCounts{};
+    bool setCountsConfirmed = false;
+    /// frm_MultiDelete: the names offered and those that were confirmed.
+    QStringList multiNames;
+    QStringList multiConfirmed;
+};
+
+/// The ground set in hand: written by a selection in the list, read by the actions.
+struct GroundSelection {
+    QString SelectedGroundKey; ///< "Key:" and the TsID
+    QString SelectedGroundSet;
+    bool SelectedGroundActivated = false;
+    QString SelectedGroundCover;
+    QString SelectedGroundDescription; ///< at most 255 characters
+    ColourValues colours;
+    /// Names of all rows that are selected in the list; the row in hand alone when it was clicked alone.
+    QStringList selectedRows;
+};
+
+/// Everything that lives from start-up to exit. The entry point owns the one session and hands it on.
+class Session {
+public:
+    struct Services {
+        UserInterface& user;
+        FileSystem& files;
+        Clock& clock;
+        RandomSource& random;
+    };
+
+    Session(const Services& services, const FilePath& appPath);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    UserInterface& user;
+    FileSystem& files;
+    Clock& clock;
+    RandomSource& random;
+
+    /// Folder of the executable, or MORVANE_HOME.
+    const FilePath AppPath;
+    FilePath FSPath;     ///< the simulator's folder, the one with fs9.exe
+    FilePath BackupPath; ///< "\Backup" below AppPath
+    QString MyDocumentsPath;
+    QString DecimalSep = u"."_s; ///< monetary decimal separator of the locale
+    QString AirportQuery;
+
+    bool IsWideClient = false;
+    bool InhibitCustomSplash = false;
+    bool IsDutch = false, IsTropical = false, IsHalo = false, IsFastExit = false;
+    bool CommandLineRun = false;
+    bool StartingUp = false;
+    bool ExitInProgress = false;
+    bool MinimiseForLaunch = false;
+    bool RefreshGroundList = false, RefreshSkyList = false, RefreshNightList = false;
+
+    QStringList WxCloudList, WxStrengthList; ///< the weather of a flight, one element a point
+    bool CoverCancelled = false;
+
+    ModalState modal;
+    GroundSelection ground;
+    QString SelectedSkySet;
+
+    std::unique_ptr<Store> adoConn; ///< the one connection; open from start-up to exit
+
+    std::unique_ptr<clsConfigs> gConfigs;
+    std::unique_ptr<clsResourceFolders> gResources;
+    std::unique_ptr<clsBackups> gBackups;
+    std::unique_ptr<clsTextureSets> gTextureSets;
+    std::unique_ptr<clsNightTextureSets> gNightTextureSets;
+    std::unique_ptr<clsSkyTextureSets> gSkyTextureSets;
+    std::unique_ptr<clsSkyTextureSubSets> gSkyTextureSubSets;
+    std::unique_ptr<clsWxFinders> gWxFinders;
+};
+
+} // namespace morvane

@@ -1,0 +1,81 @@
+#include "core/error.h"
+#include "core/file_path.h"
+#include "core/file_system.h"
+#include "support/temporary_folder.h"
+
+#include "support/printing.h"
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::readFile;
+using test::TemporaryFolder;
+using test::writeFile;
+
+TEST(FilePath, findsTheSpellingOnTheDisk) {
+    TemporaryFolder folder;
+    writeFile(folder / u"Scenery/World/texture/029H2SU6.BMP", "old");
+    const FilePath target = folder / u"Scenery\\WORLD\\Texture\\" / u"029h2su6.bmp";
+    EXPECT_TRUE(target.native().endsWith("/Scenery/World/texture/029H2SU6.BMP"))
+        << qPrintable(target.native());
+    const FilePath fresh = folder / u"scenery\\world\\Texture\\new.bmp";
+    EXPECT_TRUE(fresh.native().endsWith("/Scenery/World/texture/new.bmp")) << qPrintable(fresh.native());
+    writeFile(folder / u"Ünï.txt", "x");
+    EXPECT_TRUE((folder / u"üNÏ.TXT").native().endsWith("/Ünï.txt"));
+}
+
+TEST(FilePath, exactSpellingWinsOverAnother) {
+    TemporaryFolder folder;
+    QFile lower(folder.path().native() + "/a.bmp"), upper(folder.path().native() + "/A.BMP");
+    ASSERT_TRUE(lower.open(QIODevice::WriteOnly) && upper.open(QIODevice::WriteOnly));
+    EXPECT_EQ((folder / u"a.bmp").native(), lower.fileName());
+    EXPECT_EQ((folder / u"A.BMP").native(), upper.fileName());
+}
+
+TEST(FilePath, noTextLeadsOutOfTheRoot) {
+    const FilePath root("/somewhere");
+    for (const char16_t* text : {u"..\\x", u"a\\..\\..\\b", u"C:\\x", u"a/../../etc"})
+        EXPECT_THROW(root / text, Error) << QStringView(text).toString().toStdString();
+    for (const char* name : {"", ".", "..", "a\\b", "a/b", "C:"})
+        EXPECT_THROW(root.child(QString(name)), Error) << name;
+    EXPECT_EQ((root / u"\\a\\\\b\\").text(), "/somewhere/a/b");
+}
+
+TEST(FilePath, masksMatchWithoutRegardToCase) {
+    struct Case {
+        const char16_t *name, *mask;
+        bool taken;
+    };
+    const Case cases[] = {
+        {u"029h2su6.bmp", u"029*2su*.bmp", true},
+        {u"029H2SU6.BMP", u"029*2su*.bmp", true},
+        {u"006a2sp7.bmp", u"006a2sp*.bmp", true},
+        {u"006b2sp7.bmp", u"006a2sp*.bmp", false},
+        {u"readme", u"*.*", true},
+        {u"eugolsp1.bmp", u"eugolsp*.bmp", true},
+        {u"x.bmp.part", u"*.bmp", false},
+        {u"ab", u"a?", true},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(matchesMask(c.name, c.mask), c.taken) << QStringView(c.mask).toString().toStdString();
+}
+
+TEST(NativeFileSystem, listsFilesByUpperCasedNameAndSeesTheOwnersMode) {
+    TemporaryFolder folder;
+    for (const char16_t* name : {u"b.bmp", u"A.BMP", u".hidden.bmp", u"_.bmp", u"c.txt"})
+        writeFile(folder / name, "x");
+    NativeFileSystem files;
+    files.makeFolder(folder / u"folder.bmp");
+    EXPECT_EQ(files.list(folder.path(), "*.bmp"), QStringList({".hidden.bmp", "A.BMP", "b.bmp", "_.bmp"}));
+    EXPECT_TRUE(files.list(folder / u"missing", "*.*").isEmpty());
+    files.setReadOnly(folder / u"b.bmp", true);
+    EXPECT_TRUE(files.isReadOnly(folder / u"B.BMP")); // also for root, who may write to it all the same
+    EXPECT_THROW(files.removeFolder(folder.path()), Error);
+    EXPECT_THROW(files.read(folder / u"missing.txt"), Error);
+}
+
+} // namespace
+} // namespace morvane

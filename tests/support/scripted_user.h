@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/user_interface.h"
+
+#include <QStringList>
+#include <deque>
+#include <functional>
+#include <vector>
+
+namespace morvane::test {
+
+/// A user made of a script: records every call and gives the answers it was told to give.
+class ScriptedUser : public UserInterface {
+public:
+    void showMessage(const Message& message) override;
+    void updateProgress(const QString& title, const QString& text, double value) override;
+    void setProgressFile(const QString& line) override;
+    void hideMessage() override;
+    bool isMessageVisible() const override { return messageVisible_; }
+    bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
+    QString browseForFolder(const QString& startFolder) override;
+    void showModal(Screen screen) override;
+    void showScreen(Screen screen) override;
+    void hideScreen(Screen screen) override;
+    void refreshScreen(Screen screen) override;
+    void pumpMessages() override;
+
+    /// Answers of questions and system boxes, first to last; after the last one `otherwise` is given.
+    std::deque<bool> answersToGive;
+    bool otherwise = true;
+    std::deque<QString> foldersToChoose;
+    std::function<void(Screen)> onModal = [](Screen) {};
+    std::function<void()> onPump = [] {};
+
+    /// What was shown, in order. Calls are lines such as "hide frm_Main", "progress 50", "file Processing
+    /// ...".
+    std::vector<Message> messages;
+    QStringList calls;
+
+    /// The messages that ask for attention: every kind but Progress, as "Kind|title|text".
+    QStringList told() const;
+    int countOfKind(MessageKind kind) const;
+
+private:
+    bool nextAnswer();
+    bool messageVisible_ = false;
+};
+
+} // namespace morvane::test
