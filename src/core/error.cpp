@@ -34,6 +34,8 @@ QString tableText(ErrorCode code) {
         return u"Invalid property value"_s;
     case ErrorCode::duplicateKey:
         return u"This key is already associated with an element of this collection"_s;
+    case ErrorCode::invalidPicture:
+        return u"Invalid picture"_s;
     case ErrorCode::storeFailure:
         return u"The database cannot be used"_s;
     }

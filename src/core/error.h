@@ -23,6 +23,7 @@ enum class ErrorCode {
     pathNotFound = 76,
     invalidPropertyValue = 380,
     duplicateKey = 457,
+    invalidPicture = 481,
     storeFailure = 3709,
 };
 
