@@ -1,0 +1,90 @@
+#pragma once
+
+#include "core/error.h"
+#include "core/file_path.h"
+
+#include <QHash>
+#include <QStringList>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace morvane {
+
+struct TranslatedStatement;
+
+/// The one relational database file, `Morvane.mdb`, and the connection to it. Statements are those of the
+/// program (see statement_translation.h); texts compare without regard to case.
+///
+/// A new store is closed, and every use of a closed one raises: a failed open is no end of the program.
+/// Failures raise Error: "Disk full", "Device I/O error" and "Permission denied" (also for a locked store,
+/// which is waited for a quarter of a second) with the file's path, everything else under storeFailure. A
+/// process that is killed leaves a store that opens, with every statement done that had returned.
+class Store {
+public:
+    Store();
+    ~Store(); ///< closes
+    Store(const Store&) = delete;
+    Store& operator=(const Store&) = delete;
+
+    /// Makes a new, empty store and opens it. An existing file raises.
+    void create(const FilePath& file);
+    /// Opens an existing store. A missing file raises and is not made; so do a file that is no database, one
+    /// without any table, and a locked one.
+    void open(const FilePath& file);
+    bool isOpen() const { return connection_ != nullptr; }
+    /// Moves everything into the one file and leaves no other beside it. A closed store stays closed.
+    void close();
+
+    /// Runs a statement that returns no rows. One that changes the schema runs whole or not at all.
+    void execute(const QString& statement);
+
+    /// Names as they were created, sorted. An unknown table has no columns. The tests do not regard case.
+    QStringList tables();
+    QStringList columns(const QString& table);
+    bool hasTable(const QString& table);
+    bool hasColumn(const QString& table, const QString& column);
+
+private:
+    friend class StoreStatement;
+    friend class StoreTransaction;
+
+    struct Finaliser {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    struct Closer {
+        void operator()(sqlite3* connection) const;
+    };
+    using Prepared = std::shared_ptr<sqlite3_stmt>;
+
+    void connect(const FilePath& file, int flags);
+    Prepared prepared(const QString& statement);
+    void run(const QString& statement, const QStringList& texts = {});
+    void runSchemaChange(const TranslatedStatement& change);
+    [[noreturn]] void raise(int result) const;
+
+    QString path_;
+    std::unique_ptr<sqlite3, Closer> connection_;
+    QHash<QString, Prepared> prepared_;
+    int openTransactions_ = 0;
+};
+
+/// Several statements as one: all of them are done at `commit`, none when the object goes before it.
+/// Inside another transaction it is a part of that one.
+class StoreTransaction {
+public:
+    explicit StoreTransaction(Store& store);
+    ~StoreTransaction();
+    StoreTransaction(const StoreTransaction&) = delete;
+    StoreTransaction& operator=(const StoreTransaction&) = delete;
+
+    void commit();
+
+private:
+    Store& store_;
+    int level_;
+    bool isOpen_ = true;
+};
+
+} // namespace morvane
