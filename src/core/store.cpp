@@ -70,6 +70,7 @@ void Store::connect(const FilePath& file, int flags) {
         // A write then never waits for the disk, and a kill can lose nothing that had been written.
         run(u"PRAGMA journal_mode = WAL"_s);
         run(u"PRAGMA synchronous = NORMAL"_s);
+        run(u"PRAGMA wal_autocheckpoint = 4000"_s); // pages; each time costs two waits for the disk
     } catch (const Error&) {
         close();
         throw;
