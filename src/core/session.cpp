@@ -1,0 +1,22 @@
+#include "core/session.h"
+
+#include "core/store.h"
+#include "ground/texture_sets.h"
+#include "night/night_texture_sets.h"
+#include "simulator/backups.h"
+#include "simulator/configs.h"
+#include "simulator/resource_folders.h"
+#include "sky/sky_texture_sets.h"
+#include "sky/sky_texture_sub_sets.h"
+#include "weather/wx_finders.h"
+
+namespace morvane {
+
+Session::Session(const Services& services, const FilePath& appPath)
+    : user(services.user), files(services.files), clock(services.clock), random(services.random),
+      AppPath(appPath) {}
+
+/// Members go in the reverse of their order: the collections first, then the store that they were read from.
+Session::~Session() = default;
+
+} // namespace morvane

@@ -1,0 +1,74 @@
+#include "core/store_records.h"
+
+#include "core/store_schema.h"
+
+namespace morvane {
+
+namespace {
+
+const QString dateForm = u"yyyy/MM/dd HH:mm:ss"_s;
+
+} // namespace
+
+Store& connectedStore(const Session& session) {
+    if (!session.adoConn) throw Error(ErrorCode::storeFailure, u"it is not open"_s);
+    return *session.adoConn;
+}
+
+bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine) {
+    try {
+        routine();
+        return true;
+    } catch (const std::exception& error) {
+        user.systemBox(QString::fromUtf8(error.what()), QString(), SystemBoxButtons::ok);
+        return false;
+    }
+}
+
+std::int16_t readNewestKey(Store& store, const NewestKey& newestKey) {
+    return RowSet(store, newestKey.statement).integer(newestKey.field);
+}
+
+void readField(const RowSet& row, const QString& column, QString& value) {
+    value = row.text(column);
+}
+
+void readField(const RowSet& row, const QString& column, bool& value) {
+    value = row.flag(column);
+}
+
+void readField(const RowSet& row, const QString& column, std::int16_t& value) {
+    value = row.integer(column);
+}
+
+void readField(const RowSet& row, const QString& column, QDateTime& value) {
+    const QString text = row.text(column);
+    value = QDateTime::fromString(text, dateForm);
+    if (!value.isValid() && !text.isEmpty()) throw Error(ErrorCode::typeMismatch);
+}
+
+void writeField(RowSet& row, const QString& column, const QString& value) {
+    row.setText(column, value);
+}
+
+void writeField(RowSet& row, const QString& column, bool value) {
+    row.setFlag(column, value);
+}
+
+void writeField(RowSet& row, const QString& column, std::int16_t value) {
+    row.setNumber(column, value);
+}
+
+void writeField(RowSet& row, const QString& column, const QDateTime& value) {
+    row.setText(column, value.toString(dateForm));
+}
+
+QString localNumbers(const QString& stored, TextForm form, const QString& decimalSep) {
+    return form == TextForm::localNumbers ? applyDecimalSeparator(stored, decimalSep) : stored;
+}
+
+QString storedNumbers(const QString& local, TextForm form, const QString& decimalSep) {
+    return form == TextForm::plain ? local : removeDecimalSeparator(local, decimalSep);
+}
+
+} // namespace morvane

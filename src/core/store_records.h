@@ -1,0 +1,179 @@
+#pragma once
+
+#include "core/failure_report.h"
+#include "core/keyed_collection.h"
+#include "core/row_set.h"
+#include "core/session.h"
+#include "core/store.h"
+
+#include <QDateTime>
+#include <functional>
+#include <variant>
+#include <vector>
+
+namespace morvane {
+
+/// How a text column is kept.
+enum class TextForm {
+    plain,
+    storedNumbers, ///< numbers joined by ":"; written with "."
+    localNumbers,  ///< the same, and read with the user's decimal separator
+};
+
+/// A column and the property of the record that mirrors it.
+template <class Record>
+struct RecordColumn {
+    QString name;
+    std::variant<QString Record::*, bool Record::*, std::int16_t Record::*, QDateTime Record::*> member;
+    TextForm form = TextForm::plain;
+};
+
+template <class Record>
+using RecordColumns = std::vector<RecordColumn<Record>>;
+
+/// The statement that reads the newest key of a table, and the name that it gives the value.
+struct NewestKey {
+    QString statement;
+    QString field;
+};
+
+/// What the data object of one table works with. Every record has a key and, but for the user never to see, a
+/// name; `nameColumn` is set where a new row's name gets its key put in front ("12-Storm").
+template <class Record>
+struct RecordTable {
+    QString selectRow; ///< the key's text follows
+    NewestKey newestKey;
+    QString nameColumn;
+    std::int16_t Record::*key;
+    QString Record::*name;
+    RecordColumns<Record> columns; ///< in the order in which they are written, without the key
+};
+
+/// The session's store; raises when none was ever connected.
+Store& connectedStore(const Session& session);
+
+/// The collection of that name in the session; raises when it was not made yet.
+template <class Collection>
+Collection& required(const std::unique_ptr<Collection>& global) {
+    if (!global) throw Error(ErrorCode::invalidCall);
+    return *global;
+}
+
+/// A reload is always a fresh collection: who holds a record from before keeps it.
+template <class Collection, class... Arguments>
+bool reloadCollection(Session& session, std::unique_ptr<Collection>& global,
+                      bool (Collection::*load)(Arguments...), Arguments... arguments) {
+    global = std::make_unique<Collection>(session);
+    return (*global.*load)(arguments...);
+}
+
+/// Runs the routine; a failure is told in a plain system box without title, as the oldest loaders do.
+bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine);
+
+/// Raises "Overflow" for a key beyond 16 bits.
+std::int16_t readNewestKey(Store& store, const NewestKey& newestKey);
+
+// One field, by the type of its property. A stored date is "yyyy/mm/dd hh:mm:ss", and none is "".
+void readField(const RowSet& row, const QString& column, QString& value);
+void readField(const RowSet& row, const QString& column, bool& value);
+void readField(const RowSet& row, const QString& column, std::int16_t& value);
+void readField(const RowSet& row, const QString& column, QDateTime& value);
+void writeField(RowSet& row, const QString& column, const QString& value);
+void writeField(RowSet& row, const QString& column, bool value);
+void writeField(RowSet& row, const QString& column, std::int16_t value);
+void writeField(RowSet& row, const QString& column, const QDateTime& value);
+
+/// The colour numbers of a record, from the store's separator to the user's or back.
+QString localNumbers(const QString& stored, TextForm form, const QString& decimalSep);
+QString storedNumbers(const QString& local, TextForm form, const QString& decimalSep);
+
+template <class Record>
+void readFields(const RowSet& row, const RecordColumns<Record>& columns, const QString& decimalSep,
+                Record& record) {
+    for (const auto& column : columns) {
+        std::visit([&](auto member) { readField(row, column.name, record.*member); }, column.member);
+        if (const auto* text = std::get_if<QString Record::*>(&column.member))
+            record.** text = localNumbers(record.**text, column.form, decimalSep);
+    }
+}
+
+template <class Record>
+void writeFields(RowSet& row, const RecordColumns<Record>& columns, const QString& decimalSep,
+                 Record record) {
+    for (const auto& column : columns) {
+        if (const auto* text = std::get_if<QString Record::*>(&column.member))
+            record.** text = storedNumbers(record.**text, column.form, decimalSep);
+        std::visit([&](auto member) { writeField(row, column.name, record.*member); }, column.member);
+    }
+}
+
+/// Walks the statement's rows and hands each to the collection; it stays filled as far as the walk came.
+template <class Record>
+void loadRecords(const Session& session, const QString& statement, const RecordTable<Record>& table,
+                 KeyedCollection<Record>& collection) {
+    for (RowSet rows(connectedStore(session), statement); !rows.atEnd(); rows.next()) {
+        Record record;
+        readField(rows, u"ID"_s, record.*table.key);
+        readFields(rows, table.columns, session.DecimalSep, record);
+        collection.popCollection(std::move(record));
+    }
+}
+
+/// Adds the row of a new record: the key is read as the newest one, then the name gets it in front.
+/// The record has its final key and name afterwards.
+template <class Record>
+void writeNewRow(Store& store, RowSet& row, const RecordTable<Record>& table, Record& record) {
+    row.update();
+    record.*table.key = readNewestKey(store, table.newestKey);
+    if (table.nameColumn.isEmpty()) return;
+    record.*table.name = QString::number(record.*table.key) + u'-' + record.*table.name;
+    row.setText(table.nameColumn, record.*table.name);
+    row.update();
+}
+
+/// Writes a record's row, all or nothing. A new record gets its key, its final name and IsNew false; on a
+/// failure it is as it was.
+template <class Record>
+void writeRecord(const Session& session, const RecordTable<Record>& table, Record& record) {
+    Store& store = connectedStore(session);
+    Record written = record;
+    StoreTransaction transaction(store);
+    RowSet row(store, table.selectRow + QString::number(record.*table.key));
+    if (record.IsNew) row.addNew();
+    writeFields(row, table.columns, session.DecimalSep, record);
+    if (record.IsNew)
+        writeNewRow(store, row, table, written);
+    else
+        row.update();
+    transaction.commit();
+    written.IsNew = false;
+    record = std::move(written);
+}
+
+/// `Save` of the data objects: a new record joins the collection; an existing one is written and its copy in
+/// memory left as it is until the next load.
+template <class Record>
+void saveRecord(const Session& session, const RecordTable<Record>& table, Record& record,
+                KeyedCollection<Record>& collection) {
+    const bool isNew = record.IsNew;
+    writeRecord(session, table, record);
+    if (isNew) collection.AddItem(record);
+}
+
+/// Writes every set of the collection back, the one of that name as installed and all others as not: at most
+/// one is at any time. All rows or none; false after the one message of a failure.
+template <class Record>
+bool writeInstalledSet(Session& session, const RecordTable<Record>& table,
+                       const KeyedCollection<Record>& collection, const QString& name) {
+    return reportFailures(session.user, {}, [&] {
+        StoreTransaction transaction(connectedStore(session));
+        for (const auto& kept : collection) {
+            Record record = *kept;
+            record.Installed = nameOf(record) == name;
+            writeRecord(session, table, record);
+        }
+        transaction.commit();
+    });
+}
+
+} // namespace morvane

@@ -1,0 +1,58 @@
+#include "simulator/backups.h"
+
+#include "core/store_records.h"
+
+namespace morvane {
+
+namespace {
+
+const RecordTable<clsBackup> table = {
+    u"SELECT * FROM MV_BACKUP WHERE ID = "_s,
+    {u"select max(ID) as BUID from MV_BACKUP"_s, u"BUID"_s},
+    u"BACKUP_NAME"_s,
+    &clsBackup::BackupID,
+    &clsBackup::BackupName,
+    {{u"BACKUP_NAME"_s, &clsBackup::BackupName}, {u"BACKUP_DATE_TIME"_s, &clsBackup::BackupDateTime}},
+};
+
+} // namespace
+
+bool clsBackups::reload(Session& session) {
+    return reloadCollection(session, session.gBackups, &clsBackups::getBackups);
+}
+
+bool clsBackups::getBackups() {
+    return clsBackupData(session_).getBackupData();
+}
+
+bool clsBackups::RemoveItem(const QString& key, std::int16_t id) {
+    remove(key);
+    return clsBackupData(session_).deleteBackup(id);
+}
+
+bool clsBackups::UpdateBackups(clsBackup& record) {
+    return clsBackupData(session_).Save(record);
+}
+
+bool clsBackupData::getBackupData() {
+    return reportInSystemBox(session_.user, [&] {
+        loadRecords(session_, u"SELECT * FROM MV_BACKUP"_s, table, required(session_.gBackups));
+    });
+}
+
+bool clsBackupData::deleteBackup(std::int16_t id) {
+    return reportFailures(session_.user, {}, [&] {
+        connectedStore(session_).execute(u"DELETE FROM MV_BACKUP WHERE ID = "_s + QString::number(id));
+    });
+}
+
+bool clsBackupData::Save(clsBackup& record) {
+    return reportFailures(session_.user, {},
+                          [&] { saveRecord(session_, table, record, required(session_.gBackups)); });
+}
+
+std::int16_t clsBackupData::getNextID() {
+    return readNewestKey(connectedStore(session_), table.newestKey);
+}
+
+} // namespace morvane
