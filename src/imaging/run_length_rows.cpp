@@ -1,5 +1,7 @@
 #include "imaging/palette.h"
 
+#include <algorithm>
+
 namespace morvane {
 
 namespace {
@@ -30,6 +32,13 @@ private:
         palette_.paint(static_cast<std::size_t>(index), rowOf(picture_, y_) + 3 * x_++);
     }
 
+    /// A place outside is no fault until a pixel goes there; it is held at the edge, as the numbers would run
+    /// over in a long file.
+    void moveTo(int x, int y) {
+        x_ = std::min(x, picture_.width);
+        y_ = std::min(y, picture_.height);
+    }
+
     /// With four bits a byte holds two indexes, the left one in its upper half; they take turns in a run.
     int indexIn(int value, int position) const {
         if (!isPacked_) return value;
@@ -43,13 +52,12 @@ private:
 
     void obey(int command) {
         if (command == 0) {
-            x_ = 0;
-            ++y_;
+            moveTo(0, y_ + 1);
         } else if (command == 1) {
             ended_ = true;
         } else if (command == 2) {
-            x_ += nextByte();
-            y_ += nextByte();
+            const int right = nextByte(), up = nextByte();
+            moveTo(x_ + right, y_ + up);
         } else {
             paintSingles(command);
         }
