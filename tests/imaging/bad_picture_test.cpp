@@ -139,12 +139,8 @@ TEST(BadPicture, runsThatLeadOutOfIt) {
 // Enough of them to make a 32-bit row number run over and come back into the picture.
 TEST(BadPicture, manyJumpsStayOutside) {
     const QByteArray jumps = hex("0002 00FF").repeated(8421505);
-    const auto file = [&](const char* end) {
-        return bitmapFile(
-            {.bits = 8, .compression = 1, .behindHeader = paletteOf(2), .pixels = jumps + hex(end)});
-    };
-    EXPECT_NO_THROW(readPicture(file("0001")));
-    EXPECT_TRUE(isRefused(file("0101 0001")));
+    EXPECT_TRUE(isRefused(bitmapFile(
+        {.bits = 8, .compression = 1, .behindHeader = paletteOf(2), .pixels = jumps + hex("0101 0001")})));
 }
 
 } // namespace
