@@ -1,7 +1,7 @@
 #include "imaging/texture_codec.h"
 
 #include "core/error.h"
-#include "imaging/colour_block.h"
+#include "imaging/colour_blocks.h"
 #include "imaging/picture_reader.h"
 #include "imaging/texture_level.h"
 
@@ -66,8 +66,7 @@ void writeHeader(char* header, int width, int height) {
 }
 
 /// The pixels of one block; beyond the edge of a small level the edge is repeated.
-BlockPixels blockAt(const TextureLevel& level, int left, int firstRow) {
-    BlockPixels block;
+void fillBlock(const TextureLevel& level, int left, int firstRow, BlockPixels& block) {
     for (int y = 0; y < blockSide; ++y) {
         const int row = std::min(firstRow + y, level.height - 1);
         const auto rowStart = static_cast<std::size_t>(row) * static_cast<std::size_t>(level.width);
@@ -81,14 +80,24 @@ BlockPixels blockAt(const TextureLevel& level, int left, int firstRow) {
                 target,
                 &level.pixels[(rowStart + static_cast<std::size_t>(std::min(x, level.width - 1))) * 4], 4);
     }
-    return block;
 }
 
 /// Rows lie bottom-up in the file as in the picture, so blocks follow in the order of memory, without a flip.
 std::uint8_t* encodeLevel(const TextureLevel& level, std::uint8_t* target) {
-    for (int y = 0; y < level.height; y += blockSide)
-        for (int x = 0; x < level.width; x += blockSide, target += blockSize)
-            encodeColourBlock(blockAt(level, x, y), target);
+    const int count = sizeOfLevels(level.width, level.height, 1) / blockSize;
+    FourBlockPixels blocks = {};
+    std::array<std::uint8_t, blocksAtOnce * blockSize> encoded;
+    int x = 0, y = 0;
+    for (int left = count; left > 0; left -= blocksAtOnce) {
+        const int taken = std::min(blocksAtOnce, left); // the smallest levels do not fill the lanes
+        for (int i = 0; i < taken; ++i) {
+            fillBlock(level, x, y, blocks[static_cast<std::size_t>(i)]);
+            x += blockSide;
+            if (x >= level.width) x = 0, y += blockSide;
+        }
+        encodeColourBlocks(blocks, encoded.data());
+        target = std::copy_n(encoded.data(), taken * blockSize, target);
+    }
     return target;
 }
 
