@@ -12,12 +12,14 @@ import csv
 import re
 import shutil
 import sys
+import textwrap
 from pathlib import Path
 
 DATA = Path(__file__).resolve().parent.parent / "data"
 HEADING = ["code", "name", "city", "region", "country", "latitude", "longitude", "elevation_m"]
 SIZES = ["large_airport", "medium_airport", "small_airport", "seaplane_base", "heliport", "balloonport", "closed"]
 METRES_A_FOOT = 0.3048
+LONGEST_REGION = 50  # characters, as many as the store takes
 
 
 def rows_of(path):
@@ -52,9 +54,13 @@ def one_line(text):
 
 
 def region_name(airport, regions):
-    """Empty where the source only says that the region is not known."""
+    """Empty where the source only says that the region is not known; long ones lose their last words."""
     name = regions[airport["iso_region"]]
-    return "" if name == "(unassigned)" else name
+    if name == "(unassigned)":
+        return ""
+    if len(name) > LONGEST_REGION:
+        name = name.partition(" (")[0]
+    return textwrap.shorten(name, LONGEST_REGION, placeholder="")
 
 
 def airport_lines(source):
