@@ -40,12 +40,12 @@ bool isMiles(const MetarToken& token) {
 
 QString temperatureText(QStringView text) {
     const bool isMinus = text.startsWith(u'm', Qt::CaseInsensitive);
-    return isMinus ? u"Minus " % text.mid(1) : text.toString();
+    return isMinus ? u"Minus "_s % text.mid(1) : text.toString();
 }
 
 QString pressureText(const MetarToken& token) {
-    if (token.lower.startsWith(u'q')) return token.text.mid(1) % u" Millibars";
-    return token.text.mid(1, 2) % u'.' % token.text.mid(3, 2) % u" Inches of Mercury";
+    if (token.lower.startsWith(u'q')) return token.text.mid(1) % u" Millibars"_s;
+    return token.text.mid(1, 2) % u'.' % token.text.mid(3, 2) % u" Inches of Mercury"_s;
 }
 
 /// Only length and letter decide: "Q////" and "ABOVE" are pressures, too.
@@ -125,7 +125,7 @@ void clsDecodeMetar::setDirectionAndSpeed(QStringView wind) {
     const QStringView speed = wind.mid(3);
     const bool hasDegrees = isDigits(direction);
     if (hasDegrees)
-        WindDirection = direction % u" degrees";
+        WindDirection = direction % u" degrees"_s;
     else if (direction.compare(u"vrb", Qt::CaseInsensitive) == 0)
         WindDirection = u"Variable"_s;
     if (!isDigits(speed)) return;
@@ -163,7 +163,8 @@ void clsDecodeMetar::Visibility(const MetarTokens& tokens) {
     for (std::size_t i = 0; i < groups.size(); ++i) {
         const MetarToken& token = groups[i];
         if (token.isAuto) continue;
-        if (isMiles(token)) return setVisibility(wholeMiles % token.text.chopped(2) % u" Mile(s)", u"mph"_s);
+        if (isMiles(token))
+            return setVisibility(wholeMiles % token.text.chopped(2) % u" Mile(s)"_s, u"mph"_s);
         if (!isDigits(token.text)) continue;
         if (token.text.size() == 4) return setVisibility(visibilityText(token.text), u"km"_s);
         if (token.text.size() == 1 && i + 1 < groups.size() && isMiles(groups[i + 1]))
@@ -211,7 +212,7 @@ void clsDecodeMetar::Obscuration(const MetarTokens& tokens) {
         if (trimmedBlanksView(MetarObscuration).isEmpty())
             MetarObscuration = trimmedBlanks(text);
         else
-            MetarObscuration += u" and " % text;
+            MetarObscuration += u" and "_s + text;
     }
 }
 
