@@ -81,7 +81,10 @@ INSTANTIATE_TEST_SUITE_P(
         WindCase{"25050GP99KT", {"250 degrees", "050", "kts"}, "99"}, WindCase{"24015G//KT", {"", "", ""}},
         WindCase{"2401500KT", {"", "", ""}}, WindCase{"AUTOKT 24012KT", {"240 degrees", "012", "kts"}},
         WindCase{"AUTOKT", {"", "", ""}}, WindCase{"Q1012 24012KT", {"", "", ""}},
-        WindCase{"RMK 24012KT", {"", "", ""}}, WindCase{"KT", {"", "", "kts"}}));
+        WindCase{"RMK 24012KT", {"", "", ""}}, WindCase{"KT", {"", "", "kts"}},
+        WindCase{"////KT 24010KT", {"240 degrees", "010", "kts"}}, WindCase{"///KT 24010KT", {"", "", "kts"}},
+        WindCase{"VRBM02KT", {"Variable", "02", "kts"}},
+        WindCase{"24015G28K9KT", {"240 degrees", "015", "kts"}, "28"}));
 
 TEST(MetarDecoder, windVariation) {
     struct Case {
@@ -191,6 +194,8 @@ TEST(MetarDecoder, cloudGroups) {
         {"OVC010CU FEW020TCU SCT030CB",
          cloud(u"Overcast: Cumulonimbus observed: Towering Cumulonimbus observed: Cumulus observed"_s, 5)},
         {"OVC010 SKC CLR NSC FEW SCT020 BKN030", cloud(u"Overcast"_s, 5)},
+        {"NCD SCT020", cloud(u"No Cloud Data Available"_s, 3)}, // the first of equals stays
+        {"SKC CAVOK", cloud(u"Sky Clear"_s, 1)},
         {"SKC FEW020", cloud(u"Mostly Clear"_s, 2)},
         {"ovc010 VV001", cloud(u"Sky obscured"_s, 6)},
         {"NCD FEW020CB", cloud(u"No Cloud Data Available: Cumulonimbus observed"_s, 3)},
