@@ -1,0 +1,68 @@
+#include "imaging/colouriser.h"
+
+#include "core/failure_report.h"
+#include "imaging/pixel_recolouring.h"
+#include "imaging/pixel_walk.h"
+
+namespace morvane {
+
+namespace {
+
+/// Green stands alone in the first condition. Not to be evened out: autogen's pictures were drawn for it.
+bool isKeyColour(const RgbColour& pixel) {
+    const auto [red, green, blue] = pixel;
+    const bool first = red == 0 || green == 255 || blue == 0;
+    const bool anyFull = red == 255 || green == 255 || blue == 255;
+    const bool anyEmpty = red == 0 || green == 0 || blue == 0;
+    return first && anyFull && anyEmpty;
+}
+
+} // namespace
+
+void cColourise::report(const std::function<void()>& operation) {
+    reportFailures(user_, {}, operation);
+}
+
+const Recolouring& cColourise::recolouring() {
+    if (!recolouring_ || !(recolouring_->values() == values())) recolouring_.emplace(values());
+    return *recolouring_;
+}
+
+void cColourise::process(const cDIBSection& source, cDIBSection& destination) {
+    report([&] { recolouring().apply(source, destination); });
+}
+
+void cColourise::process8Bit(const cDIBSection& source, cDIBSection& destination) {
+    process(source, destination);
+}
+
+void cColourise::processAutogen(const cDIBSection& source, cDIBSection& destination) {
+    const ColourValues colours = values();
+    report([&] {
+        walkPixels(source, destination, [&](const RgbColour& colour, std::uint8_t* target, int, int) {
+            if (!isKeyColour(colour)) storeClamped(recolouredPixel(colours, colour), target);
+        });
+    });
+}
+
+void cColourise::processSkyTexture(const cDIBSection& source, cDIBSection& destination) {
+    processGroups(skyTextureGroups, source, destination);
+}
+
+void cColourise::processSky(const cDIBSection& source, cDIBSection& destination) {
+    processGroups(skyPaletteGroups, source, destination);
+}
+
+void cColourise::processGroups(const SkyGroups& groups, const cDIBSection& source, cDIBSection& destination) {
+    report([&] {
+        walkPixels(source, destination, [&](RgbColour colour, std::uint8_t* target, int x, int y) {
+            // What goes on to the next group is not clamped; only what is stored.
+            for (const SkyGroup& group : groups) {
+                if (belongsToGroup(group, x, y)) colour = recolouredByGroup(group, colour);
+                storeClamped(colour, target);
+            }
+        });
+    });
+}
+
+} // namespace morvane
