@@ -7,8 +7,7 @@
 namespace morvane {
 
 /// Pixels of three bytes, one after the other, handed out in blocks of one size. The last, partial block is
-/// filled up with black in a copy, so that a kernel knows whole blocks only. Reading past the end gives
-/// black.
+/// filled up with black in a copy, so that a kernel knows whole blocks only.
 template <std::size_t blockPixels>
 class PixelRun {
 public:
