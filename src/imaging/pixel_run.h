@@ -16,8 +16,8 @@ public:
         if (whole != count) std::memcpy(tail_, pixels + 3 * whole, 3 * (count - whole));
     }
 
-    /// The block that starts at that pixel, a multiple of the block's size. Past the end there is still one to
-    /// read, of no meaning.
+    /// The block that starts at that pixel, a multiple of the block's size. Past the end there is still one
+    /// to read, of no meaning.
     const std::uint8_t* block(std::size_t first) const {
         return first + blockPixels <= count_ ? pixels_ + 3 * first : tail_;
     }
