@@ -72,7 +72,7 @@ Painter painterOf(LandKind kind) {
 
 /// Under a low winter sun shadows are longer, and the snow between them keeps them light.
 art::Sun sunOf(const BaseImage& image) {
-    if (image.season == BaseImageSeason::winter) return {1.0f, 0.40f, 0.26f};
+    if (image.season == BaseImageSeason::winter) return {1.0f, 0.45f, 0.24f};
     return {1.25f, 0.46f, 0.28f};
 }
 

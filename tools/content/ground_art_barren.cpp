@@ -29,7 +29,7 @@ float steepness(Canvas& canvas, int index) {
 
 /// Rock faces with bands of other stone; scree and some grass where it is less steep, snow in winter.
 void paintRockFaces(Scene& scene) {
-    raiseCrests(scene, 15);
+    raiseCrests(scene, 11);
     const NoiseField stone = scene.noise({8, 4, 0.6f}, 124);
     const NoiseField growth = scene.noise({4, 4, 0.55f}, 125);
     const float meadow = growth.quantile(0.76f);
@@ -40,9 +40,9 @@ void paintRockFaces(Scene& scene) {
         const Color face = scaled(scene.palette.rock, 0.84f + 0.2f * band + 0.2f * (stone[index] - 0.5f));
         const Color scree = mix(scene.palette.rock, scene.palette.sand, 0.4f);
         const Color level = mix(scree, scene.palette.grass[0], clampedToUnit((growth[index] - meadow) * 12));
-        const Color ground = mix(level, face, clampedToUnit(steep * 1.1f - 0.3f));
-        const float lying = scene.palette.snowCover * clampedToUnit(1.7f - steep * 1.1f);
-        return mix(ground, scene.palette.snow, lying * 0.9f);
+        const Color ground = mix(level, face, clampedToUnit(steep * 1.4f - 0.3f));
+        const float lying = scene.palette.snowCover * clampedToUnit(1.25f - steep * 1.1f);
+        return mix(ground, scene.palette.snow, lying * 0.75f);
     });
 }
 
@@ -52,7 +52,7 @@ void paintTundra(Scene& scene) {
     const NoiseField ground = scene.noise({8, 5, 0.6f}, 132);
     const NoiseField hollows = scene.noise({8, 4, 0.55f}, 133);
     const float pond = hollows.quantile(0.13f);
-    const float drift = ground.quantile(scene.season() == BaseImageSeason::summer ? 0.06f : 0.2f);
+    const float drift = ground.quantile(scene.season() == BaseImageSeason::summer ? 0.03f : 0.12f);
     const Color moss = mix(scene.palette.soil, scene.palette.hedge, 0.4f);
     for (int index = 0; index < Canvas::pixelCount; ++index) {
         Color& color = scene.canvas.color(index);
@@ -67,7 +67,7 @@ void paintTundra(Scene& scene) {
 
 /// Snow with wind drifts; stone shows on the crests, more of it in the warm half of the year.
 void paintSnowfield(Scene& scene) {
-    raiseCrests(scene, 7);
+    raiseCrests(scene, 5);
     const NoiseField drifts = scene.noise({16, 4, 0.6f}, 141);
     const NoiseField stone = scene.noise({8, 5, 0.6f}, 142);
     const bool isWarm = scene.season() == BaseImageSeason::summer || scene.season() == BaseImageSeason::fall;

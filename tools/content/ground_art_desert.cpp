@@ -29,9 +29,9 @@ void raiseDunes(Scene& scene, float height) {
         const float x = static_cast<float>(index % canvasSide) / canvasSide;
         const float y = static_cast<float>(index / canvasSide) / canvasSide;
         const float phase =
-            x * static_cast<float>(waves.across) + y * static_cast<float>(waves.down) + bend[index] * 4.5f;
+            x * static_cast<float>(waves.across) + y * static_cast<float>(waves.down) + bend[index] * 3;
         const float crest = duneProfile(phase) * clampedToUnit(fade[index] * 2.6f - 0.55f);
-        scene.canvas.height(index) = crest * height;
+        scene.canvas.height(index) = crest * height + fade[index] * 2;
         Color& color = scene.canvas.color(index);
         color = scaled(color, 0.93f + 0.15f * crest);
     }
@@ -74,6 +74,18 @@ void paintPlain(Scene& scene) {
     }
 }
 
+/// Spring rain lets a little green come up; winter light is paler.
+void tintBySeason(Scene& scene) {
+    const NoiseField growth = scene.noise({8, 4, 0.6f}, 117);
+    const bool isSpring = scene.season() == BaseImageSeason::spring;
+    const Color tint = isSpring ? scene.palette.grass[0] : rgb(0xe2dac8);
+    const float strength = isSpring ? 0.22f : scene.isWinter() ? 0.3f : 0.0f;
+    for (int index = 0; index < Canvas::pixelCount; ++index) {
+        Color& color = scene.canvas.color(index);
+        color = mix(color, tint, strength * (isSpring ? growth[index] * 1.6f : 1.0f));
+    }
+}
+
 } // namespace
 
 void paintDesert(Scene& scene) {
@@ -83,14 +95,13 @@ void paintDesert(Scene& scene) {
     const Color earth = mix(scene.palette.soil, sand, 0.45f);
     cover(scene, [&](int index) { return mix(sand, earth, clampedToUnit(tone[index] * 1.8f - 0.5f)); });
     if (hasDunes) {
-        raiseDunes(scene, scene.random.between(5, 8));
+        raiseDunes(scene, scene.random.between(3.2f, 4.6f));
     } else {
         paintPlain(scene);
         cutWadis(scene);
     }
-    // Spring rain lets a little green come up.
-    const bool isSpring = scene.season() == BaseImageSeason::spring;
-    strewThorns(scene, hasDunes ? 120 : isSpring ? 900 : 600);
+    tintBySeason(scene);
+    strewThorns(scene, hasDunes ? 120 : 700);
     if (scene.random.chance(0.4f))
         paintPath(scene, windingLine(scene, scene.random.chance(0.5f), 24), 1.6f, scene.palette.track, 0.7f);
     mottle(scene, {64, 2, 0.8f}, 116, 0.05f);

@@ -38,9 +38,7 @@ void paintWood(Scene& scene, const Quad& parcel) {
 void paintMeadow(Scene& scene, const Quad& parcel, const NoiseField& tone) {
     paintField(scene, parcel,
                {scene.random.pick(scene.palette.grass), scene.palette.grass[1], 5, 0.015f, false}, tone);
-    for (int tree = 0; tree < 3; ++tree)
-        paintTree(scene, parcel.at(scene.random.unit(), scene.random.unit()),
-                  scene.random.between(1.5f, 2.6f));
+    strewTrees(scene, parcel, 3);
 }
 
 /// A parcel as several narrow fields side by side.
@@ -85,8 +83,9 @@ void paintHamlet(Scene& scene, const Quad& cell) {
     for (int house = 0; house < 14; ++house) {
         const float side = house % 2 == 0 ? 1.0f : -1.0f;
         const float forward = static_cast<float>(house / 2) * 9 - 30;
-        const Vector2 place = cell.corners[0] + along * (forward + scene.random.between(-1.5f, 1.5f)) +
-                              perpendicular(along) * (side * scene.random.between(6, 8));
+        const float fromRoad = side * scene.random.between(6, 8);
+        const float shifted = forward + scene.random.between(-1.5f, 1.5f);
+        const Vector2 place = cell.corners[0] + along * shifted + perpendicular(along) * fromRoad;
         scene.canvas.paintBox({place, along, 4.5f, 4.5f}, scene.palette.grass[0]);
         paintHouse(scene, {place, along, scene.random.between(2.4f, 3.4f), 1.9f}, 1.6f);
         paintTree(scene, place + scene.anyDirection() * 5, 1.8f);

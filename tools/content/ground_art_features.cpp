@@ -8,6 +8,11 @@ Vector2 Scene::anyDirection() {
     return unitVector(point);
 }
 
+Vector2 Scene::anywhereIn(const Quad& quad) {
+    const float s = random.unit();
+    return quad.at(s, random.unit());
+}
+
 void mottle(Scene& scene, NoiseShape shape, unsigned salt, float strength) {
     const NoiseField noise = scene.noise(shape, salt);
     for (int index = 0; index < Canvas::pixelCount; ++index) {
@@ -39,13 +44,13 @@ void paintCrown(Scene& scene, const Disc& crown, Color color, float top, float o
 } // namespace
 
 void paintBroadleaf(Scene& scene, Vector2 place, float radius) {
-    const Color color = scaled(scene.random.pick(scene.palette.broadleaf), scene.random.between(0.9f, 1.1f));
+    const Color color = scene.anyShade(scene.palette.broadleaf, 0.9f, 1.1f);
     const float cover = scene.palette.crownCover;
     paintCrown(scene, {place, radius}, color, (0.6f + radius * 0.9f) * (cover > 0.8f ? 1.0f : 0.6f), cover);
 }
 
 void paintConifer(Scene& scene, Vector2 place, float radius) {
-    const Color color = scaled(scene.random.pick(scene.palette.conifers), scene.random.between(0.9f, 1.15f));
+    const Color color = scene.anyShade(scene.palette.conifers, 0.9f, 1.15f);
     paintCrown(scene, {place, radius * 0.85f}, color, 1.2f + radius * 1.3f, 1);
 }
 
@@ -81,12 +86,20 @@ void paintTreesIn(Scene& scene, const Quad& quad, float spacing, float radius) {
 void paintGrove(Scene& scene, Vector2 centre, float reach, int count) {
     for (int i = 0; i < count; ++i) {
         const float distance = reach * scene.random.unit();
-        paintTree(scene, centre + scene.anyDirection() * distance, scene.random.between(1.3f, 2.6f));
+        const Vector2 place = centre + scene.anyDirection() * distance;
+        paintTree(scene, place, scene.random.between(1.3f, 2.6f));
+    }
+}
+
+void strewTrees(Scene& scene, const Quad& quad, int count) {
+    for (int tree = 0; tree < count; ++tree) {
+        const Vector2 place = scene.anywhereIn(quad);
+        paintTree(scene, place, scene.random.between(1.4f, 2.6f));
     }
 }
 
 void paintHouse(Scene& scene, const Box& box, float eaves) {
-    const Color roof = scaled(scene.random.pick(scene.palette.roofs), scene.random.between(0.88f, 1.12f));
+    const Color roof = scene.anyShade(scene.palette.roofs, 0.88f, 1.12f);
     visitBox(box, [&](const Touch& touch) {
         const float ridge = 1 - std::fabs(touch.v) / box.halfWidth;
         scene.canvas.paint(touch, roof);
@@ -95,7 +108,7 @@ void paintHouse(Scene& scene, const Box& box, float eaves) {
 }
 
 void paintFlatBuilding(Scene& scene, const Box& box, float height) {
-    const Color roof = scaled(scene.random.pick(scene.palette.flatRoofs), scene.random.between(0.9f, 1.1f));
+    const Color roof = scene.anyShade(scene.palette.flatRoofs, 0.9f, 1.1f);
     visitBox(box, [&](const Touch& touch) {
         const bool onRim = std::fabs(touch.u) > box.halfLength - 1 || std::fabs(touch.v) > box.halfWidth - 1;
         scene.canvas.paint(touch, scaled(roof, onRim ? 1.1f : 0.97f));

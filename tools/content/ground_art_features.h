@@ -20,6 +20,8 @@ void paintConifer(Scene& scene, Vector2 place, float radius);
 void paintTreeRow(Scene& scene, Vector2 from, Vector2 to, float spacing, float gaps);
 /// Crowns all over a parcel; `spacing` is their mean distance.
 void paintTreesIn(Scene& scene, const Quad& quad, float spacing, float radius);
+/// So many crowns anywhere in a parcel.
+void strewTrees(Scene& scene, const Quad& quad, int count);
 /// A clump of crowns around a place.
 void paintGrove(Scene& scene, Vector2 centre, float reach, int count);
 

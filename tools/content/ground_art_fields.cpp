@@ -6,7 +6,7 @@ namespace morvane::art {
 
 FieldWork drawFieldWork(Scene& scene) {
     FieldWork work;
-    work.crop = scaled(scene.random.pick(scene.palette.crops), scene.random.between(0.92f, 1.08f));
+    work.crop = scene.anyShade(scene.palette.crops, 0.92f, 1.08f);
     if (scene.random.chance(0.22f)) work.crop = scene.random.pick(scene.palette.grass);
     work.earth = scene.palette.soil;
     work.furrow = scene.random.between(2.6f, 6);

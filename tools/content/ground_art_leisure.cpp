@@ -27,7 +27,7 @@ void paintFairway(Scene& scene, const Hole& hole, float halfWidth) {
         const float share = static_cast<float>(piece) / pieces;
         const float width = halfWidth * (0.8f + 0.35f * share);
         visitDisc({onFairway(hole, share), width}, [&](const Touch& touch) {
-            scene.canvas.paint(touch, scaled(light, piece / 4 % 2 == 0 ? 1.04f : 0.95f));
+            scene.canvas.paint(touch, scaled(light, piece / 4 % 2 == 0 ? 1.02f : 0.98f));
             scene.canvas.raise(touch, 0);
         });
     }
@@ -59,12 +59,13 @@ void paintGreen(Scene& scene, const Hole& hole) {
 /// Holes side by side, played up and down in turn.
 std::vector<Hole> layOutHoles(Scene& scene) {
     constexpr int count = 5;
+    const float lean = scene.random.between(-44, 44);
     std::vector<Hole> holes;
     for (int number = 0; number < count; ++number) {
         const float x = (static_cast<float>(number) + 0.5f) * canvasSide / count;
         const float low = scene.random.between(20, 60);
         const float high = scene.random.between(196, 240);
-        const float sway = scene.random.between(-26, 26);
+        const float sway = lean + scene.random.between(-14, 14);
         const Vector2 upper{x - sway * 0.4f, low};
         const Vector2 lower{x - sway * 0.4f, high};
         const Vector2 bend{x + sway * 1.4f, scene.random.between(100, 150)};
@@ -97,7 +98,7 @@ void paintGolfCourse(Scene& scene) {
     paintRough(scene);
     const std::vector<Hole> holes = layOutHoles(scene);
     for (const Hole& hole : holes)
-        paintFairway(scene, hole, 10.5f);
+        paintFairway(scene, hole, 9.5f);
     for (const Hole& hole : holes) {
         paintGreen(scene, hole);
         paintBunker(scene, onFairway(hole, 0.6f) + Vector2{11, 0});

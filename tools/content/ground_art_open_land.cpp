@@ -37,12 +37,16 @@ void paintSward(Scene& scene, float bare) {
     coverWithGrass(scene, 91);
     const NoiseField dryness = scene.noise({4, 5, 0.6f}, 92);
     const float edge = dryness.quantile(1 - bare);
-    const Color straw = mix(scene.palette.crops[5], scene.palette.grass[1], 0.35f);
+    const Color straw = mix(scene.palette.sand, scene.palette.grass[1], 0.5f);
+    // Savanna grass is green only after the spring rains.
+    const bool isParched = scene.image.kind == LandKind::savanna;
+    const float everywhere = !isParched ? 0.0f : scene.season() == BaseImageSeason::spring ? 0.35f : 0.7f;
     for (int index = 0; index < Canvas::pixelCount; ++index) {
         const float dry = clampedToUnit((dryness[index] - edge) * 7 + 0.5f);
         const float bald = clampedToUnit((dryness[index] - edge) * 6 - 0.55f);
         scene.canvas.color(index) =
-            mix(mix(scene.canvas.color(index), straw, dry * 0.75f), scene.palette.soil, bald * 0.8f);
+            mix(mix(scene.canvas.color(index), straw, std::max(dry * 0.75f, everywhere)), scene.palette.soil,
+                bald * 0.8f);
         scene.canvas.height(index) = dryness[index] * 9;
     }
 }

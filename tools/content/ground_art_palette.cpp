@@ -16,7 +16,7 @@ struct SeasonColors {
 constexpr std::array<SeasonColors, 4> seasonColors = {{
     {{rgb(0x7d9a4a), rgb(0x8aa656), rgb(0x6f8f45)},
      {rgb(0x79a046), rgb(0x92b258), rgb(0x957a58), rgb(0xd2c044), rgb(0x648c3d), rgb(0xa68d68)},
-     {rgb(0x7f9f48), rgb(0x6c9144), rgb(0x94ad58), rgb(0x5d843c)},
+     {rgb(0x6a8a3e), rgb(0x5c7f3b), rgb(0x7d974a), rgb(0x507435)},
      rgb(0x55733a),
      0.95f},
     {{rgb(0x6e8346), rgb(0x7c8d4e), rgb(0x60783f)},
@@ -26,14 +26,14 @@ constexpr std::array<SeasonColors, 4> seasonColors = {{
      1.0f},
     {{rgb(0x7f8248), rgb(0x8c8a52), rgb(0x727a42)},
      {rgb(0xc2aa74), rgb(0x75593f), rgb(0xa98d52), rgb(0x7f8a49), rgb(0xd0bc8e), rgb(0x5f4a37)},
-     {rgb(0xb06c2c), rgb(0xbd8d38), rgb(0x96502a), rgb(0x7c7034)},
+     {rgb(0x9c6530), rgb(0xa67f38), rgb(0x87502e), rgb(0x6f6833)},
      rgb(0x7a6232),
      0.95f},
     {{rgb(0x7c7a52), rgb(0x87835c), rgb(0x72734d)},
      {rgb(0x8f8159), rgb(0x6d5945), rgb(0x9b8c66), rgb(0x737a4c), rgb(0xa39574), rgb(0x5d4c3c)},
      {rgb(0x72645a), rgb(0x655a52), rgb(0x7d7066), rgb(0x6a6055)},
      rgb(0x5a5247),
-     0.62f},
+     0.78f},
 }};
 
 /// What a variant letter tells of the land.
@@ -111,22 +111,22 @@ constexpr std::array<Color, 4> flatRoofColors = {rgb(0xb8b3a9), rgb(0x9b9995), r
 
 void mixLand(Palette& palette, const PaletteMixer& mixer, const SeasonColors& colors) {
     palette.grass = mixer.plants(colors.grass, 0.9f);
-    palette.crops = mixer.plants(colors.crops, 0.88f);
-    palette.broadleaf = mixer.plants(colors.broadleaf, 0.22f);
-    palette.conifers = mixer.plants(coniferColors, 0.2f);
-    palette.hedge = mixer.plant(colors.hedge, 0.2f);
-    palette.soil = mixer.ground(rgb(0x8e7656), 0.85f);
+    palette.crops = mixer.plants(colors.crops, 0.74f);
+    palette.broadleaf = mixer.plants(colors.broadleaf, 0.12f);
+    palette.conifers = mixer.plants(coniferColors, 0.12f);
+    palette.hedge = mixer.plant(colors.hedge, 0.1f);
+    palette.soil = mixer.ground(rgb(0x8e7656), 0.62f);
     palette.track = mixer.ground(rgb(0xb7a07a), 0.6f);
     palette.sand = mixer.ground(rgb(0xd8c193), 0.85f);
     palette.rock = mixer.ground(rgb(0x8f877b), 0.55f);
 }
 
 void mixBuildings(Palette& palette, const PaletteMixer& mixer) {
-    palette.roofs = mixer.builtAll(roofColors, 0.72f);
-    palette.flatRoofs = mixer.builtAll(flatRoofColors, 0.8f);
-    palette.mainRoad = mixer.built(rgb(0x76767a), 0.2f);
-    palette.street = mixer.built(rgb(0x8f8d89), 0.35f);
-    palette.pavement = mixer.built(rgb(0xaaa59b), 0.6f);
+    palette.roofs = mixer.builtAll(roofColors, 0.52f);
+    palette.flatRoofs = mixer.builtAll(flatRoofColors, 0.6f);
+    palette.mainRoad = mixer.built(rgb(0x76767a), 0.06f);
+    palette.street = mixer.built(rgb(0x8f8d89), 0.14f);
+    palette.pavement = mixer.built(rgb(0xaaa59b), 0.38f);
     palette.water = mixer.built(rgb(0x37535c), 0.5f);
 }
 

@@ -11,7 +11,8 @@ namespace morvane::art {
 /// A base image under work: what to paint, with which colours and draws, and on what.
 ///
 /// The draws depend on class, letter and number but not on the season: a field stays where it is all year.
-/// So a painter must take the same number of draws in every season.
+/// So a painter must take the same number of draws in every season. And it takes at most one draw among the
+/// arguments of a call: compilers are free to work them out in any order.
 struct Scene {
     const BaseImage& image;
     std::uint64_t seed;
@@ -26,8 +27,15 @@ struct Scene {
         return {shape, scrambled(seed ^ salt * 77747u)};
     }
     Vector2 anywhere() { return {random.between(0, canvasSide), random.between(0, canvasSide)}; }
+    Vector2 anywhereIn(const Quad& quad);
     /// A direction of length 1, all alike likely.
     Vector2 anyDirection();
+    /// One of the colours, lightened or darkened by a factor of that range.
+    template <class Array>
+    Color anyShade(const Array& colors, float low, float high) {
+        const Color color = random.pick(colors);
+        return scaled(color, random.between(low, high));
+    }
 };
 
 /// Gives every pixel the colour that `colorOf(index)` returns.

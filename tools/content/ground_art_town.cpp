@@ -27,13 +27,13 @@ constexpr TownStyle cityCentreStyle = {{2, 1, 1}, 3, 34, 3.6f, 7, 5, {0.5f, 5, 4
 constexpr TownStyle cityStyle = {
     {1, 0, 2}, 5, 42, 3.2f, 7.5f, 4, {4, 4, 0.7f, 0.7f, 0.4f, 1.1f, 0.3f, 0.1f, 0}};
 constexpr TownStyle suburbStyle = {
-    {2, 1, 1}, 14, 40, 2.6f, 8.5f, 3, {8, 0.6f, 0.1f, 0.3f, 0.3f, 0.9f, 0.4f, 0.9f, 0}};
+    {2, 1, 1}, 14, 40, 2.6f, 8.5f, 3, {8, 0.6f, 0.1f, 0.3f, 0.3f, 0.8f, 0.15f, 0.9f, 0}};
 constexpr TownStyle industryStyle = {
     {1, 0, 2}, 4, 66, 3.6f, 8, 3, {0.3f, 0.2f, 0.2f, 7, 1.4f, 0.2f, 0, 1.2f, 0}};
 constexpr TownStyle townStyle = {
-    {1, 0, 2}, 16, 48, 2.6f, 9, 3, {5, 1, 0, 0.5f, 0.2f, 0.8f, 0.4f, 1.5f, 1.2f}};
+    {1, 0, 2}, 16, 48, 2.6f, 9, 3, {5.5f, 1.2f, 0, 0.5f, 0.2f, 0.7f, 0.15f, 1.4f, 1.2f}};
 constexpr TownStyle villageStyle = {
-    {1, 0, 2}, 20, 56, 2.2f, 11, 2.5f, {2.4f, 0.1f, 0, 0.15f, 0, 0.3f, 0.2f, 1.3f, 4.5f}};
+    {1, 0, 2}, 20, 56, 2.2f, 11, 2.5f, {2.4f, 0.1f, 0, 0.15f, 0, 0.3f, 0.08f, 1.3f, 4.5f}};
 
 /// The five grids differ in angle and size; which one a class and letter takes is a draw.
 constexpr std::array<GridShape, 5> turnedGrids = {{{1, 0, 2}, {2, 1, 1}, {1, 1, 2}, {3, 1, 1}, {1, 0, 3}}};
@@ -128,7 +128,7 @@ private:
         paintLawn(gardens);
         const Vector2 size = block.size();
         if (std::min(size.x, size.y) > 2.5f * style_.lot)
-            paintTreesIn(scene_, block.inset(style_.lot * 0.95f), 7.5f, 1.7f);
+            paintTreesIn(scene_, block.inset(style_.lot * 0.95f), 8, 1.5f);
         paintHouseRow(block.corners[0], block.corners[1], size.y);
         paintHouseRow(block.corners[2], block.corners[3], size.y);
         const float taken = 1.5f * style_.lot;
@@ -286,8 +286,7 @@ private:
         if (scene_.random.chance(0.45f)) paintPond(scene_, inner.at(0.5f, 0.35f), pond);
         for (std::size_t side = 0; side < 4; ++side)
             paintTreeRow(scene_, inner.corners[side], inner.corners[(side + 1) % 4], 4.5f, 0.15f);
-        for (int tree = 0; tree < static_cast<int>(size.x * size.y / 90); ++tree)
-            paintTree(scene_, inner.at(scene_.random.unit(), scene_.random.unit()), 2);
+        strewTrees(scene_, inner, static_cast<int>(size.x * size.y / 90));
     }
 
     void paintSports(const Quad& block) {
@@ -311,10 +310,8 @@ private:
 
     void paintOpen(const Quad& block) {
         paintLawn(block);
-        const int trees = static_cast<int>(block.size().x * block.size().y / 110);
-        for (int tree = 0; tree < trees; ++tree)
-            paintTree(scene_, block.at(scene_.random.unit(), scene_.random.unit()),
-                      scene_.random.between(1.4f, 2.6f));
+        const Vector2 size = block.size();
+        strewTrees(scene_, block, static_cast<int>(size.x * size.y / 110));
     }
 
     void paintFarmField(const Quad& block) {

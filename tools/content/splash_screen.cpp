@@ -84,8 +84,10 @@ public:
         // Toward the sun the cloud is thinner: its rim is lit.
         const float sunward = smoothAt(shapes_, across - 3, distance * 2.4f - 3);
         const float body = weather_.cover >= 1 ? 1.0f : art::clampedToUnit((value - edge_) * 13);
-        const float light = 0.86f - 0.30f * weather_.gloom + (value - sunward) * 2.2f -
-                            (value - edge_) * (0.5f + 0.6f * weather_.gloom);
+        const float contrast = 1 - 0.6f * weather_.gloom;
+        const float thickness = std::min(value - edge_, 0.3f);
+        const float light =
+            0.88f - 0.26f * weather_.gloom + ((value - sunward) * 2.2f - thickness * 0.8f) * contrast;
         const Color cloud =
             art::scaled(mix(rgb(0xffffff), rgb(0xdde3ea), weather_.gloom), std::min(1.0f, light + 0.1f));
         const float far = art::clampedToUnit(distance / 150 - 0.15f);
@@ -175,7 +177,7 @@ void paintHills(QImage& image, const Weather& weather) {
                 smoothAt(crests, static_cast<float>(x) * 0.35f, static_cast<float>(chain * 90 + 20));
             const int top = horizon - static_cast<int>((rise - 0.28f) * highestHill * 2 *
                                                        (1 - 0.45f * static_cast<float>(chain)));
-            for (int y = std::max(0, top); y < horizon + 2; ++y)
+            for (int y = top; y < horizon + 2; ++y)
                 setPixel(image, x, y, hill);
         }
     }

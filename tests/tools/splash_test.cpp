@@ -1,0 +1,53 @@
+#include "splash_lettering.h"
+#include "splash_screen.h"
+
+#include "core/literals.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+/// Mean of blue minus red over the sky's upper half: large for a blue sky.
+double blueness(const QImage& splash) {
+    double sum = 0;
+    for (int y = 0; y < 100; ++y)
+        for (int x = 0; x < splash.width(); ++x)
+            sum += qBlue(splash.pixel(x, y)) - qRed(splash.pixel(x, y));
+    return sum / (100.0 * splash.width());
+}
+
+TEST(Splash, skyGreysWithTheCover) {
+    double bluer = 256;
+    for (const QString& word : {u"SKC"_s, u"FEW"_s, u"SCT"_s, u"BKN"_s, u"OVC"_s}) {
+        const QImage splash = drawSplash(word);
+        EXPECT_EQ(splash.size(), QSize(500, 350));
+        EXPECT_EQ(splash.depth(), 24);
+        EXPECT_LT(blueness(splash), bluer - 3) << word.toStdString();
+        bluer = blueness(splash);
+    }
+}
+
+TEST(Splash, wordStandsInTheLowerRightCorner) {
+    const QRect corner(350, 290, 150, 60);
+    EXPECT_NE(drawSplash(u"SCT"_s).copy(corner), drawSplash({}).copy(corner));
+    EXPECT_EQ(drawSplash(u"SCT"_s).copy(0, 0, 500, 200), drawSplash({}).copy(0, 0, 500, 200));
+}
+
+TEST(SplashLettering, hasEveryLetterOfFileNamesAndCaptions) {
+    const QString letters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789.,:-_/()%&"_s;
+    for (const QChar letter : letters)
+        EXPECT_FALSE(letteringPath(letter, 20).isEmpty()) << letter.toLatin1();
+    EXPECT_TRUE(letteringPath(u" "_s, 20).isEmpty());
+}
+
+TEST(SplashLettering, scalesWithTheHeightAndFillsItsWidth) {
+    const QString text = u"Morvane 029h2su6.bmp"_s;
+    EXPECT_NEAR(letteringPath(u"H"_s, 30).boundingRect().height(), 30, 0.01);
+    EXPECT_NEAR(letteringPath(text, 24).boundingRect().width(), letteringWidth(text, 24), 0.5);
+    EXPECT_NEAR(letteringWidth(text, 24), 2 * letteringWidth(text, 12), 0.01);
+    EXPECT_EQ(letteringWidth({}, 24), 0);
+}
+
+} // namespace
+} // namespace morvane
