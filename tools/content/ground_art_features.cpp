@@ -126,8 +126,7 @@ void paintFlatBuilding(Scene& scene, const Box& box, float height) {
 void paintHall(Scene& scene, const Box& box) {
     const bool isBlue = scene.random.chance(0.25f);
     const Color base = isBlue ? rgb(0x8497a6) : scene.random.pick(scene.palette.flatRoofs);
-    const Color roof = mix(scaled(base, scene.random.between(0.95f, 1.15f)), scene.palette.snow,
-                           scene.palette.snowCover * 0.6f);
+    const Color roof = scene.snowed(scaled(base, scene.random.between(0.95f, 1.15f)), 0.6f);
     const float height = scene.random.between(2.5f, 4.5f);
     const float bay = scene.random.between(5, 8);
     visitBox(box, [&](const Touch& touch) {

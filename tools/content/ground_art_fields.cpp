@@ -36,4 +36,31 @@ void paintHedges(Scene& scene, const Quad& field, float share) {
     }
 }
 
+void paintFarmRoads(Scene& scene, const ParcelPlan& plan) {
+    const bool isPaved = scene.image.kind == LandKind::rural || scene.random.chance(0.5f);
+    for (const Quad& cell : plan.cells(0))
+        for (std::size_t side = 0; side < 4; side += 3) {
+            const Vector2 from = cell.corners[side];
+            const Vector2 to = cell.corners[(side + 1) % 4];
+            scene.canvas.paintLine(from, to, 3, scene.palette.grass[2], 0.8f);
+            scene.canvas.paintLine(from, to, 1.7f, isPaved ? scene.palette.street : scene.palette.track);
+            if (scene.random.chance(0.35f))
+                paintTreeRow(scene, from + Vector2{2, 2}, to + Vector2{2, 2}, 6, 0.25f);
+        }
+}
+
+void paintHamlet(Scene& scene, const Quad& cell) {
+    const Vector2 along = unitVector(cell.corners[1] - cell.corners[0]);
+    for (int house = 0; house < 14; ++house) {
+        const float side = house % 2 == 0 ? 1.0f : -1.0f;
+        const float forward = static_cast<float>(house / 2) * 9 - 30;
+        const float fromRoad = side * scene.random.between(6, 8);
+        const float shifted = forward + scene.random.between(-1.5f, 1.5f);
+        const Vector2 place = cell.corners[0] + along * shifted + perpendicular(along) * fromRoad;
+        scene.canvas.paintBox({place, along, 4.5f, 4.5f}, scene.palette.grass[0]);
+        paintHouse(scene, {place, along, scene.random.between(2.4f, 3.4f), 1.9f}, 1.6f);
+        paintTree(scene, place + scene.anyDirection() * 5, 1.8f);
+    }
+}
+
 } // namespace morvane::art

@@ -4,6 +4,9 @@
 
 namespace morvane::art {
 
+/// Field country follows one of these; which one is a draw.
+constexpr std::array<GridShape, 4> farmGrids = {{{1, 0, 1}, {2, 1, 1}, {1, 1, 1}, {1, 0, 2}}};
+
 /// How a field is worked.
 struct FieldWork {
     Color crop;
@@ -21,5 +24,9 @@ FieldWork drawFieldWork(Scene& scene);
 void paintField(Scene& scene, const Quad& field, const FieldWork& work, const NoiseField& tone);
 /// Hedges or rows of trees along some of the parcel's sides.
 void paintHedges(Scene& scene, const Quad& field, float share);
+/// Roads and tracks along two sides of each cell, some lined with trees.
+void paintFarmRoads(Scene& scene, const ParcelPlan& plan);
+/// Houses on both sides of the road that starts at the cell's first corner.
+void paintHamlet(Scene& scene, const Quad& cell);
 
 } // namespace morvane::art

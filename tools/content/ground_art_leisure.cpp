@@ -34,7 +34,7 @@ void paintFairway(Scene& scene, const Hole& hole, float halfWidth) {
 }
 
 void paintBunker(Scene& scene, Vector2 centre) {
-    const Color sand = mix(rgb(0xeadfbc), scene.palette.snow, scene.palette.snowCover * 0.6f);
+    const Color sand = scene.snowed(rgb(0xeadfbc), 0.6f);
     for (int lobe = 0; lobe < 3; ++lobe) {
         const Vector2 place = centre + scene.anyDirection() * 2.2f;
         visitDisc({place, scene.random.between(1.8f, 3)}, [&](const Touch& touch) {
@@ -102,8 +102,7 @@ void paintGolfCourse(Scene& scene) {
     for (const Hole& hole : holes) {
         paintGreen(scene, hole);
         paintBunker(scene, onFairway(hole, 0.6f) + Vector2{11, 0});
-        scene.canvas.paintBox({hole.tee, {0, 1}, 3.4f, 2},
-                              mix(rgb(0x9cc862), scene.palette.snow, scene.palette.snowCover * 0.7f));
+        scene.canvas.paintBox({hole.tee, {0, 1}, 3.4f, 2}, scene.snowed(rgb(0x9cc862), 0.7f));
         paintCartPath(scene, hole, 14);
     }
     for (int pond = 0; pond < 3; ++pond) {

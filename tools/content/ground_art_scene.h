@@ -22,6 +22,10 @@ struct Scene {
 
     BaseImageSeason season() const { return image.season; }
     bool isWinter() const { return image.season == BaseImageSeason::winter; }
+    /// The colour of something on which so much of the snow stays that lies on open ground.
+    Color snowed(Color color, float share) const {
+        return mix(color, palette.snow, palette.snowCover * share);
+    }
     /// A noise of its own for each salt.
     NoiseField noise(NoiseShape shape, unsigned salt) const {
         return {shape, scrambled(seed ^ salt * 77747u)};
