@@ -5,6 +5,7 @@
 #include <array>
 #include <set>
 #include <string_view>
+#include <utility>
 
 namespace morvane {
 

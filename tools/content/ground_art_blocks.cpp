@@ -101,7 +101,7 @@ void paintTowers(const BlockSite& site, const Quad& block) {
     }
 }
 
-void paintPark(const BlockSite& site, const Quad& block) {
+void paintPublicGarden(const BlockSite& site, const Quad& block) {
     site.paintLawn(block);
     const Quad inner = block.inset(2);
     site.scene.canvas.paintLine(inner.corners[0], inner.corners[2], 1.3f, site.scene.palette.track);

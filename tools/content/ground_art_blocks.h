@@ -25,7 +25,8 @@ void paintHouses(const BlockSite& site, const Quad& block);
 /// A closed ring of buildings around a court.
 void paintPerimeter(const BlockSite& site, const Quad& block);
 void paintTowers(const BlockSite& site, const Quad& block);
-void paintPark(const BlockSite& site, const Quad& block);
+/// Paths crosswise, trees around.
+void paintPublicGarden(const BlockSite& site, const Quad& block);
 /// A pitch in a running track.
 void paintSports(const BlockSite& site, const Quad& block);
 /// Grass and trees.

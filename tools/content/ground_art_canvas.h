@@ -112,7 +112,6 @@ public:
     static constexpr int pixelCount = canvasSide * canvasSide;
 
     Color& color(int index) { return colors_[static_cast<std::size_t>(index)]; }
-    const Color& color(int index) const { return colors_[static_cast<std::size_t>(index)]; }
     float& height(int index) { return heights_[static_cast<std::size_t>(index)]; }
 
     void paint(const Touch& touch, Color color, float opacity = 1) {

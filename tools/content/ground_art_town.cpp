@@ -102,7 +102,7 @@ private:
         case BlockKind::carPark:
             return paintCarPark(site_, block);
         case BlockKind::park:
-            return paintPark(site_, block);
+            return paintPublicGarden(site_, block);
         case BlockKind::sports:
             return paintSports(site_, block);
         case BlockKind::open:
