@@ -16,6 +16,7 @@ void BlockSite::paintLawn(const Quad& quad) const {
 
 namespace {
 
+/// Houses along a street; the block lies to the right of the way from `from` to `to`, `depth` deep.
 void paintHouseRow(const BlockSite& site, Vector2 from, Vector2 to, float depth) {
     const int lots = static_cast<int>(length(to - from) / site.lot);
     const Vector2 along = unitVector(to - from);
@@ -36,6 +37,7 @@ void paintHouseRow(const BlockSite& site, Vector2 from, Vector2 to, float depth)
     }
 }
 
+/// Buildings wall to wall between two corners of a block.
 void paintTerrace(const BlockSite& site, Vector2 from, Vector2 to, float halfDepth) {
     const Vector2 along = unitVector(to - from);
     const float end = length(to - from) + halfDepth;
@@ -69,7 +71,6 @@ void paintHouses(const BlockSite& site, const Quad& block) {
     paintHouseRow(site, block.at(0, 1 - taken / size.y), block.at(0, taken / size.y), size.x);
 }
 
-/// Houses along a street; the block lies to the right of the way from `from` to `to`, `depth` deep.
 void paintPerimeter(const BlockSite& site, const Quad& block) {
     site.paintGround(block, site.scene.palette.pavement);
     const float depth =
@@ -84,7 +85,6 @@ void paintPerimeter(const BlockSite& site, const Quad& block) {
         paintTerrace(site, ring.corners[side], ring.corners[(side + 1) % 4], depth / 2);
 }
 
-/// Buildings wall to wall between two corners of a block.
 void paintTowers(const BlockSite& site, const Quad& block) {
     site.paintGround(block, site.scene.palette.pavement);
     if (site.scene.random.chance(0.4f)) site.paintLawn(block.inset(3));

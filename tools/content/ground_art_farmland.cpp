@@ -47,10 +47,7 @@ void paintStrips(Scene& scene, const Quad& parcel, const NoiseField& tone) {
     for (int strip = 0; strip < strips; ++strip) {
         const float from = static_cast<float>(strip) / static_cast<float>(strips);
         const float to = static_cast<float>(strip + 1) / static_cast<float>(strips);
-        const Quad field =
-            isWide ? Quad{{parcel.at(from, 0), parcel.at(to, 0), parcel.at(to, 1), parcel.at(from, 1)}}
-                   : Quad{{parcel.at(0, from), parcel.at(1, from), parcel.at(1, to), parcel.at(0, to)}};
-        paintField(scene, field, drawFieldWork(scene), tone);
+        paintField(scene, parcel.slice(isWide, from, to), drawFieldWork(scene), tone);
     }
 }
 

@@ -67,6 +67,11 @@ struct Quad {
     /// Directions of the mid lines, length 1.
     Vector2 along() const { return unitVector(at(1, 0.5f) - at(0, 0.5f)); }
     Vector2 across() const { return unitVector(at(0.5f, 1) - at(0.5f, 0)); }
+    /// The slice between two shares of the way from side 0-3 to 1-2, or (`lengthwise` false) from 0-1 to 3-2.
+    constexpr Quad slice(bool lengthwise, float from, float to) const {
+        if (lengthwise) return {{at(from, 0), at(to, 0), at(to, 1), at(from, 1)}};
+        return {{at(0, from), at(1, from), at(1, to), at(0, to)}};
+    }
     /// The quad with each side moved inward by so many pixels, as far as that goes.
     Quad inset(float pixels) const {
         const Vector2 sides = size();

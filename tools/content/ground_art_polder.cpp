@@ -34,8 +34,7 @@ void paintDitchedStrips(Scene& scene, const Quad& cell, const NoiseField& tone) 
     for (int strip = 0; strip < strips; ++strip) {
         const float from = (static_cast<float>(strip) + 0.06f) / static_cast<float>(strips);
         const float to = (static_cast<float>(strip) + 0.94f) / static_cast<float>(strips);
-        const Quad field{{cell.at(0, from), cell.at(1, from), cell.at(1, to), cell.at(0, to)}};
-        paintField(scene, field, drawStripWork(scene, hasBulbs), tone);
+        paintField(scene, cell.slice(false, from, to), drawStripWork(scene, hasBulbs), tone);
     }
 }
 

@@ -5,7 +5,7 @@ namespace morvane::art {
 
 namespace {
 
-/// Crowns close together all over the tile, but for the clearings of a noise. The larger ones come last.
+/// Crowns close together all over the tile, but for the clearings of a noise.
 void paintCanopy(Scene& scene, const NoiseField& openness, float clearing) {
     constexpr int columns = 58;
     const float spacing = static_cast<float>(canvasSide) / columns;

@@ -50,10 +50,8 @@ void paintHalls(const BlockSite& site, const Quad& block) {
     const Vector2 size = block.size();
     const bool isWide = size.x > size.y;
     const float split = site.scene.random.between(0.3f, 0.45f);
-    const Quad yard = isWide ? Quad{{block.at(0, 0), block.at(split, 0), block.at(split, 1), block.at(0, 1)}}
-                             : Quad{{block.at(0, 0), block.at(1, 0), block.at(1, split), block.at(0, split)}};
-    const Quad rest = isWide ? Quad{{block.at(split, 0), block.at(1, 0), block.at(1, 1), block.at(split, 1)}}
-                             : Quad{{block.at(0, split), block.at(1, split), block.at(1, 1), block.at(0, 1)}};
+    const Quad yard = block.slice(isWide, 0, split);
+    const Quad rest = block.slice(isWide, split, 1);
     paintHallOn(site, rest.inset(2.5f));
     const int use = site.scene.random.below(4);
     if (use == 0)
