@@ -5,6 +5,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
+#include <filesystem>
 
 namespace morvane {
 
@@ -21,11 +23,14 @@ bool existsExactly(const QString& path) {
 
 /// The name as the folder spells it, or as given when the folder has no such name in any case.
 QString spellingOnDisk(const QString& folder, const QString& name) {
-    const auto filters = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    const QStringList entries = QDir(folder).entryList(filters, QDir::Name);
-    for (const QString& entry : entries)
-        if (entry.compare(name, Qt::CaseInsensitive) == 0) return entry;
-    return name;
+    QString found;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.toStdU16String(), error)) {
+        const QString spelling = QString::fromStdU16String(entry.path().filename().u16string());
+        const bool same = spelling.compare(name, Qt::CaseInsensitive) == 0;
+        if (same && (found.isEmpty() || spelling < found)) found = spelling;
+    }
+    return found.isEmpty() ? name : found;
 }
 
 void refuseUnsafe(QStringView name) {

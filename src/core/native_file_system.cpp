@@ -1,10 +1,10 @@
 #include "core/error.h"
 #include "core/file_system.h"
+#include "core/safe_copy.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStorageInfo>
 #include <algorithm>
 #include <cerrno>
@@ -175,10 +175,14 @@ QByteArray NativeFileSystem::read(const FilePath& file) {
 }
 
 void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
-    QSaveFile out(file.native());
-    openOrRaise(out, QIODevice::WriteOnly, file, ErrorCode::pathNotFound);
-    writeAll(out, contents.constData(), contents.size(), file);
-    if (!out.commit()) throw Error(codeOf(out.error(), ErrorCode::permissionDenied), file.text());
+    const FilePath placed(file.native());
+    const FilePath part(placed.native() + partialCopySuffix);
+    {
+        QFile out(part.native());
+        openOrRaise(out, QIODevice::WriteOnly | QIODevice::Unbuffered, file, ErrorCode::pathNotFound);
+        writeAll(out, contents.constData(), contents.size(), file);
+    }
+    rename(part, placed);
 }
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {

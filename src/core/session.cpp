@@ -14,7 +14,7 @@ namespace morvane {
 
 Session::Session(const Services& services, const FilePath& appPath)
     : user(services.user), files(services.files), clock(services.clock), random(services.random),
-      AppPath(appPath) {}
+      registry(services.registry), AppPath(appPath.native()) {}
 
 /// Members go in the reverse of their order: the collections first, then the store that they were read from.
 Session::~Session() = default;

@@ -4,6 +4,7 @@
 #include "core/file_path.h"
 #include "core/file_system.h"
 #include "core/user_interface.h"
+#include "imaging/colour_values.h"
 
 #include <QString>
 #include <QStringList>
@@ -13,6 +14,7 @@
 
 namespace morvane {
 
+class Registry;
 class Store;
 class clsBackups;
 class clsConfigs;
@@ -22,16 +24,6 @@ class clsSkyTextureSets;
 class clsSkyTextureSubSets;
 class clsTextureSets;
 class clsWxFinders;
-
-/// Six effective colour values in the order of a `ColorSettings` text: what the colouriser takes.
-struct ColourValues {
-    float saturation = 0; ///< -100..100
-    float red = 0;        ///< -20..20, as green and blue
-    float green = 0;
-    float blue = 0;
-    float brightness = 0; ///< -30..30, as contrast
-    float contrast = 0;
-};
 
 /// What modal screens are given and what was chosen on them (UserInterface::showModal).
 struct ModalState {
@@ -63,6 +55,7 @@ public:
         FileSystem& files;
         Clock& clock;
         RandomSource& random;
+        Registry& registry;
     };
 
     Session(const Services& services, const FilePath& appPath);
@@ -74,6 +67,7 @@ public:
     FileSystem& files;
     Clock& clock;
     RandomSource& random;
+    Registry& registry;
 
     /// Folder of the executable, or MORVANE_HOME.
     const FilePath AppPath;
@@ -91,6 +85,9 @@ public:
     bool ExitInProgress = false;
     bool MinimiseForLaunch = false;
     bool RefreshGroundList = false, RefreshSkyList = false, RefreshNightList = false;
+
+    /// A long job is running; another one is not started from inside it.
+    bool jobRunning = false;
 
     QStringList WxCloudList, WxStrengthList; ///< the weather of a flight, one element a point
     bool CoverCancelled = false;

@@ -1,3 +1,4 @@
+#include "core/registry.h"
 #include "core/row_set.h"
 #include "core/session.h"
 #include "core/store.h"
@@ -72,7 +73,8 @@ protected:
     NativeFileSystem files;
     FixedClock clock;
     ReseedingRandomSource random;
-    Session session{{user, files, clock, random}, folder.path()};
+    IniRegistry registry{files, folder / u"registry.ini"};
+    Session session{{user, files, clock, random, registry}, folder.path()};
 };
 
 TEST_F(RecordsTest, aNewSetGetsItsKeyInFrontOfItsName) {

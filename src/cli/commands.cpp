@@ -1,0 +1,235 @@
+#include "cli/commands.h"
+
+#include "cli/json_output.h"
+#include "cli/terminal.h"
+#include "core/application.h"
+#include "core/failure_report.h"
+#include "core/numbers.h"
+#include "core/options.h"
+#include "core/text_decoding.h"
+#include "ground/colour_settings.h"
+#include "ground/ground_generation.h"
+#include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
+#include "ground/texture_catalogue.h"
+#include "imaging/colouriser.h"
+#include "imaging/picture_reader.h"
+#include "imaging/texture_codec.h"
+#include "simulator/originals.h"
+#include "simulator/set_matching.h"
+#include "weather/metar_decoder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+
+namespace morvane {
+
+namespace {
+
+FilePath pathOfArgument(const QString& argument) {
+    return FilePath(QDir::current().absoluteFilePath(argument));
+}
+
+void fail(CommandContext& context, const QString& text) {
+    context.user.showMessage({MessageKind::error, u"Morvane Error"_s, text, true, false, false});
+}
+
+bool decode(CommandContext& context) {
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) throw Error(ErrorCode::ioFailure);
+    QStringList lines = splitLines(decodeText(input.readAll()));
+    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
+    for (const QString& line : lines) {
+        clsDecodeMetar report(context.user);
+        report.decodeMetarString(line);
+        printJson(QJsonDocument(toJson(report)));
+    }
+    return true;
+}
+
+bool recolourPicture(CommandContext& context) {
+    ColourValues colours;
+    try {
+        colours = parseColourSettings(context.arguments[0]);
+    } catch (const Error&) {
+        return false;
+    }
+    cDIBSection source, result;
+    source.CreateFromPicture(loadPicture(context.session.files, pathOfArgument(context.arguments[1])));
+    if (!result.Create(source.Width(), source.Height())) throw Error(ErrorCode::outOfMemory);
+    cColourise colourise(context.user);
+    colourise.saturation = colours.saturation;
+    colourise.Red = colours.red;
+    colourise.green = colours.green;
+    colourise.blue = colours.blue;
+    colourise.brightness = colours.brightness;
+    colourise.contrast = colours.contrast;
+    colourise.process(source, result);
+    const FilePath target = pathOfArgument(context.arguments[2]);
+    if (!result.SavePicture(target)) throw Error(ErrorCode::diskFull, target.text());
+    return true;
+}
+
+bool compress(CommandContext& context) {
+    const FilePath source = pathOfArgument(context.arguments[0]);
+    const FilePath target = pathOfArgument(context.arguments[1]);
+    if (!BMPScompressBMPVB(context.session.files, source, u"1"_s, 10, -1, 0, target))
+        fail(context, u"No texture was made of "_s + source.text());
+    return true;
+}
+
+bool showCatalogue(CommandContext& context) {
+    TextureCatalogue catalogue(context.session);
+    printJson(QJsonDocument(toJson(catalogue.popTextureList(0, 0, true, context.arguments[0]))));
+    return true;
+}
+
+bool groundCreate(CommandContext& context) {
+    std::array<std::int16_t, 5> counts{};
+    for (std::size_t i = 0; i < counts.size(); ++i) {
+        const QString& text = context.arguments[static_cast<qsizetype>(i)];
+        if (!isDigits(text)) return false;
+        counts[i] = toInteger(text.toLongLong());
+    }
+    context.user.onModal = [&](Screen screen) {
+        if (screen != Screen::frm_TsRequired) return;
+        context.session.modal.setCounts = counts;
+        context.session.modal.setCountsConfirmed = true;
+    };
+    GroundGeneration(context.session).createTextureSets(true);
+    return true;
+}
+
+bool groundList(CommandContext& context) {
+    QJsonArray sets;
+    for (const auto& set : loadedGroundSets(context.session))
+        sets << toJson(*set, context.session.DecimalSep);
+    printJson(QJsonDocument(sets));
+    return true;
+}
+
+/// The set of the first argument, selected as by a click on its row; nothing after the message that it is not
+/// there.
+std::shared_ptr<const clsTextureSet> clickedSet(CommandContext& context) {
+    const QString& name = context.arguments[0];
+    if (clickGroundRow(context.session, name)) return findGroundSet(context.session, name);
+    fail(context, u"There is no ground texture set named '"_s + name + u"'"_s);
+    return nullptr;
+}
+
+bool groundActivate(CommandContext& context) {
+    const auto set = clickedSet(context);
+    if (!set) return true;
+    if (set->TextureSet == u"Default" || set->Actvated == flagText(true))
+        fail(context, u"The ground texture set '"_s + set->TextureSet + u"' is activated already"_s);
+    else
+        GroundGeneration(context.session).activateTextureSet();
+    return true;
+}
+
+bool groundDeactivate(CommandContext& context) {
+    if (clickedSet(context)) GroundGeneration(context.session).deleteTextureSet(true);
+    return true;
+}
+
+bool groundDelete(CommandContext& context) {
+    if (clickedSet(context)) GroundGeneration(context.session).deleteTextureSet(false);
+    return true;
+}
+
+bool groundInstall(CommandContext& context) {
+    const auto set = clickedSet(context);
+    if (set && set->Actvated != flagText(true))
+        fail(context, u"The ground texture set '"_s + set->TextureSet + u"' is not activated"_s);
+    else if (set)
+        GroundInstallation(context.session).installTextureSet(true);
+    return true;
+}
+
+Originals originalsOf(Session& session) {
+    return Originals(session.files, session.FSPath, session.AppPath);
+}
+
+bool originalsList(CommandContext& context) {
+    QJsonArray list;
+    for (const KeptOriginal& original : originalsOf(context.session).list())
+        list << toJson(original);
+    printJson(QJsonDocument(list));
+    return true;
+}
+
+bool originalsRestore(CommandContext& context) {
+    const int count = originalsOf(context.session).restore();
+    // The simulator shows the pilot's own files again, so no set of ours is the installed one.
+    loadedGroundSets(context.session).markInstalled({});
+    writeStandardError(u"%1 files put back\n"_s.arg(count));
+    return true;
+}
+
+bool flyWord(CommandContext& context) {
+    context.session.CommandLineRun = true;
+    getCustomSplashVal(context.session);
+    runCommandLine(context.session, context.arguments[0]);
+    return true;
+}
+
+bool flyMetar(CommandContext& context) {
+    getCustomSplashVal(context.session);
+    if (processMetarString(context.session, context.arguments[0])) flyNow(context.session);
+    return true;
+}
+
+const Command* findCommand(const QStringList& words) {
+    for (const Command& command : commandTable()) {
+        if (words.size() != command.words.size() + command.argumentCount) continue;
+        if (words.first(command.words.size()) == command.words) return &command;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+const std::vector<Command>& commandTable() {
+    static const std::vector<Command> table{
+        {{u"decode"_s}, 0, false, decode, u"decode  (METAR lines on stdin, one JSON object a line)"_s},
+        {{u"recolour"_s}, 3, false, recolourPicture, u"recolour S:R:G:B:BR:C IN OUT"_s},
+        {{u"compress"_s}, 2, false, compress, u"compress IN OUT"_s},
+        {{u"catalogue"_s}, 1, true, showCatalogue, u"catalogue SET"_s},
+        {{u"ground"_s, u"create"_s}, 5, true, groundCreate, u"ground create N1 N2 N3 N4 N5"_s},
+        {{u"ground"_s, u"list"_s}, 0, true, groundList, u"ground list"_s},
+        {{u"ground"_s, u"activate"_s}, 1, true, groundActivate, u"ground activate NAME"_s},
+        {{u"ground"_s, u"deactivate"_s}, 1, true, groundDeactivate, u"ground deactivate NAME"_s},
+        {{u"ground"_s, u"delete"_s}, 1, true, groundDelete, u"ground delete NAME"_s},
+        {{u"ground"_s, u"install"_s}, 1, true, groundInstall, u"ground install NAME"_s},
+        {{u"originals"_s, u"list"_s}, 0, true, originalsList, u"originals list"_s},
+        {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
+        {{u"fly"_s, u"--metar"_s}, 1, true, flyMetar, u"fly --metar \"TEXT\""_s},
+        {{u"fly"_s}, 1, true, flyWord, u"fly WORD  (CLR, FEW, SCT, BKN or OVC)"_s},
+    };
+    return table;
+}
+
+QString usageText() {
+    QString text = u"usage: morvane-cli [--home DIR] [--answer yes|no|ask] COMMAND\n"_s;
+    for (const Command& command : commandTable())
+        text += u"  "_s + command.usage + u'\n';
+    return text;
+}
+
+int runCommand(const QStringList& words, Session& session, ConsoleUser& user) {
+    const Command* command = findCommand(words);
+    if (!command) return exitWrongUsage;
+    CommandContext context{session, user, words.mid(command->words.size())};
+    bool understood = true;
+    if (!command->needsInstall || startUp(session))
+        reportFailures(user, {}, [&] { understood = command->run(context); });
+    else
+        return exitFailed;
+    closeDatabase(session);
+    if (!understood) return exitWrongUsage;
+    return user.hasFailed() ? exitFailed : exitDone;
+}
+
+} // namespace morvane

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "core/user_interface.h"
+
+#include <QElapsedTimer>
+#include <functional>
+
+namespace morvane {
+
+/// Who answers the questions of a console run.
+enum class AnswerPolicy { yes, no, ask };
+
+/// The seam's console: messages and progress on stderr, answers from the keyboard or from a policy.
+/// Ctrl-C is the cancel button, already confirmed; a second one kills.
+class ConsoleUser : public UserInterface {
+public:
+    struct Settings {
+        AnswerPolicy policy = AnswerPolicy::no;
+        bool enterMeansYes = false; ///< what an empty line says when asked
+    };
+    explicit ConsoleUser(const Settings& settings);
+
+    void showMessage(const Message& message) override;
+    void updateProgress(const QString& title, const QString& text, double value) override;
+    void setProgressFile(const QString& line) override { progressFile_ = line; }
+    void hideMessage() override;
+    bool isMessageVisible() const override { return progressVisible_; }
+    bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
+    QString browseForFolder(const QString& startFolder) override;
+    void showModal(Screen screen) override { onModal(screen); }
+    void showScreen(Screen) override {}
+    void hideScreen(Screen) override {}
+    void refreshScreen(Screen) override {}
+    void pumpMessages() override;
+
+    /// What a modal screen does here; the command that expects one sets it.
+    std::function<void(Screen)> onModal = [](Screen) {};
+
+    /// True once a message of any kind but Information, Question and Progress was shown, or a plain box.
+    bool hasFailed() const { return failed_; }
+
+private:
+    bool answerOf(const QString& question);
+    void endProgressLine();
+
+    Settings settings_;
+    bool failed_ = false;
+    bool progressVisible_ = false;
+    bool progressLineOpen_ = false;
+    bool canChooseFolder_;
+    QString progressTitle_, progressFile_;
+    QElapsedTimer lastPaint_;
+};
+
+} // namespace morvane

@@ -1,0 +1,79 @@
+#include "cli/json_output.h"
+
+#include "cli/terminal.h"
+#include "ground/texture_catalogue.h"
+#include "ground/texture_sets.h"
+#include "simulator/originals.h"
+#include "weather/metar_decoder.h"
+
+#include <QDir>
+#include <QJsonArray>
+
+namespace morvane {
+
+QJsonObject toJson(const clsDecodeMetar& report) {
+    return {
+        {u"MetarICAO"_s, report.MetarICAO},
+        {u"WindSpeedMeasurement"_s, report.WindSpeedMeasurement},
+        {u"WindDirection"_s, report.WindDirection},
+        {u"WindSpeed"_s, report.WindSpeed},
+        {u"WindGusting"_s, report.WindGusting},
+        {u"WindGust"_s, report.WindGust},
+        {u"WindVarying"_s, report.WindVarying},
+        {u"WindVaryingFrom"_s, report.WindVaryingFrom},
+        {u"WindVaryingTo"_s, report.WindVaryingTo},
+        {u"MetarDate"_s, report.MetarDate},
+        {u"MetarTime"_s, report.MetarTime},
+        {u"MetarMonth"_s, report.MetarMonth},
+        {u"MetarYear"_s, report.MetarYear},
+        {u"MetarVisiblity"_s, report.MetarVisiblity},
+        {u"MetarVisibilityFormat"_s, report.MetarVisibilityFormat},
+        {u"MetarWeather"_s, report.MetarWeather},
+        {u"MetarWeatherStrength"_s, report.MetarWeatherStrength},
+        {u"MetarObscuration"_s, report.MetarObscuration},
+        {u"MetarCloud"_s, report.MetarCloud},
+        {u"MetarMaxCloud"_s, report.MetarMaxCloud},
+        {u"MetarTemp"_s, report.MetarTemp},
+        {u"MetarDewpoint"_s, report.MetarDewpoint},
+        {u"MetarPressure"_s, report.MetarPressure},
+    };
+}
+
+QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator) {
+    QString colours = set.ColorSettings;
+    return {
+        {u"Installed"_s, set.Installed},
+        {u"IsNew"_s, set.IsNew},
+        {u"TsID"_s, set.TsID},
+        {u"ColorSettings"_s, colours.replace(decimalSeparator, u"."_s)},
+        {u"TextureSet"_s, set.TextureSet},
+        {u"Actvated"_s, set.Actvated},
+        {u"Description"_s, set.Description},
+        {u"CloudCover"_s, set.CloudCover},
+        {u"IsDutch"_s, set.IsDutch},
+    };
+}
+
+QJsonObject toJson(const KeptOriginal& original) {
+    return {{u"path"_s, original.path}, {u"size"_s, qint64(original.size)}, {u"sha1"_s, original.checksum}};
+}
+
+QJsonObject toJson(const std::vector<CatalogueFile>& files) {
+    QJsonArray names, sources, targets, temps;
+    for (const CatalogueFile& file : files) {
+        names << file.fileName;
+        sources << file.sourceFolder.text();
+        targets << file.targetFolder.text();
+        temps << QString(file.tempFolder.text() + QDir::separator());
+    }
+    return {{u"fileNames"_s, names},
+            {u"sourceFolders"_s, sources},
+            {u"targetFolders"_s, targets},
+            {u"tempFolders"_s, temps}};
+}
+
+void printJson(const QJsonDocument& document) {
+    writeStandardOutput(QString::fromUtf8(document.toJson(QJsonDocument::Compact)) + u'\n');
+}
+
+} // namespace morvane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace morvane {
+
+class clsDecodeMetar;
+class clsTextureSet;
+struct CatalogueFile;
+struct KeptOriginal;
+
+/// Records as JSON, properties by their names.
+QJsonObject toJson(const clsDecodeMetar& report);
+/// Numbers of the colour text come with "." whatever separator the record holds.
+QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator);
+QJsonObject toJson(const KeptOriginal& original);
+/// The catalogue's four parallel arrays.
+QJsonObject toJson(const std::vector<CatalogueFile>& files);
+
+/// One line, UTF-8, on stdout.
+void printJson(const QJsonDocument& document);
+
+} // namespace morvane

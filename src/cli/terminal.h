@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+namespace morvane {
+
+/// The few things that a console program needs of its terminal.
+
+bool isTerminal();      ///< someone can be asked: stdin and stderr are a terminal
+bool isErrorTerminal(); ///< stderr is one, so a line may be painted over
+void writeStandardError(const QString& text);
+void writeStandardOutput(const QString& text);
+/// A line of stdin without its end; nothing at the end of input or after an interrupt.
+std::optional<QString> readLine();
+
+/// Makes the first Ctrl-C a wish that `wasInterrupted` tells once; the second one kills.
+void catchInterrupts();
+bool wasInterrupted();
+
+} // namespace morvane

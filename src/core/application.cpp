@@ -1,0 +1,138 @@
+#include "core/application.h"
+
+#include "core/failure_report.h"
+#include "core/options.h"
+#include "core/registry.h"
+#include "core/store.h"
+#include "ground/cloud_cover.h"
+#include "ground/texture_sets.h"
+#include "night/night_texture_sets.h"
+#include "simulator/backups.h"
+#include "simulator/configs.h"
+#include "simulator/resource_folders.h"
+#include "simulator/set_matching.h"
+#include "sky/sky_texture_sets.h"
+#include "sky/sky_texture_sub_sets.h"
+#include "weather/wx_finders.h"
+
+#include <QCoreApplication>
+#include <QProcessEnvironment>
+#include <clocale>
+
+namespace morvane {
+
+namespace {
+
+bool holdsSimulator(Session& session, const QString& path) {
+    return !path.isEmpty() && session.files.exists(FilePath(path) / u"fs9.exe");
+}
+
+/// Asks until a folder with the simulator is chosen; empty when the user gives up.
+QString askForSimulator(Session& session) {
+    session.user.systemBox(
+        u"Your registry does not contain the proper path to FS9.EXE. Please browse to your main "
+        "Flight Simulator 2004 folder (it needs to contain FS9.EXE)."_s,
+        {}, SystemBoxButtons::ok);
+    while (true) {
+        const QString path = session.user.browseForFolder({});
+        if (holdsSimulator(session, path)) return path;
+        const bool again = session.user.systemBox(u"The folder path you selected does not contain FS9.EXE. "
+                                                  u"Please verify your FS2004 path and try again. "
+                                                  "You can do this by right-clicking your shortcut to Flight "
+                                                  "Simulator, and select Properties. You will "
+                                                  "see the folder listed. Would you like to try to locate "
+                                                  "the folder again? If you select no, we will "
+                                                  "exit."_s,
+                                                  {}, SystemBoxButtons::yesNo);
+        if (!again) return {};
+    }
+}
+
+bool findSimulator(Session& session) {
+    QString path =
+        StripBackslash(session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s));
+    if (!holdsSimulator(session, path)) {
+        path = askForSimulator(session);
+        if (path.isEmpty()) return false;
+        session.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
+        session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, path);
+    }
+    session.FSPath = FilePath(path);
+    return true;
+}
+
+void clearDownloadedCycles(Session& session) {
+    const FilePath folder = session.AppPath / u"METAR";
+    if (session.files.list(folder, u"*.txt"_s).isEmpty()) return;
+    for (const QString& name : session.files.list(folder, u"*.*"_s))
+        session.files.remove(folder.child(name));
+}
+
+} // namespace
+
+QString defaultInstallFolder() {
+    const QString home = QProcessEnvironment::systemEnvironment().value(u"MORVANE_HOME"_s);
+    return home.isEmpty() ? QCoreApplication::applicationDirPath() : home;
+}
+
+QString getDecimalSeparator() {
+    const std::lconv* conventions = std::localeconv();
+    const QString separator = QString::fromLocal8Bit(conventions->mon_decimal_point);
+    return separator.isEmpty() ? u"."_s : separator;
+}
+
+void connectDatabase(Session& session) {
+    try {
+        session.adoConn = std::make_unique<Store>();
+        session.adoConn->open(session.AppPath / u"Morvane.mdb");
+    } catch (const Error& error) {
+        session.user.systemBox(error.description(), {}, SystemBoxButtons::ok);
+    }
+}
+
+void closeDatabase(Session& session) {
+    if (session.adoConn) session.adoConn->close();
+    session.adoConn.reset();
+}
+
+bool startUp(Session& session) {
+    bool found = false;
+    const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
+    const bool done = reportFailures(session.user, report, [&] {
+        found = findSimulator(session);
+        if (!found) return;
+        connectDatabase(session);
+        session.DecimalSep = getDecimalSeparator();
+        session.AirportQuery = u"SELECT * FROM AIRPORTDATA"_s;
+        getSideFSVal(session);
+        session.BackupPath = session.AppPath / u"Backup";
+        session.files.makeFolder(session.BackupPath);
+        readSwitches(session);
+    });
+    return done && found;
+}
+
+void runCommandLine(Session& session, const QString& argument) {
+    session.WxCloudList.clear();
+    session.WxStrengthList.clear();
+    if (const CloudCover* cover = cloudCoverOfCode(argument)) {
+        session.WxCloudList = QStringList{QString::number(cover->number)};
+        session.WxStrengthList = QStringList{QString()};
+    }
+    flyNow(session);
+}
+
+void exitProgram(Session& session) {
+    session.gConfigs.reset();
+    session.gResources.reset();
+    session.gBackups.reset();
+    session.gTextureSets.reset();
+    session.gNightTextureSets.reset();
+    session.gSkyTextureSets.reset();
+    session.gSkyTextureSubSets.reset();
+    session.gWxFinders.reset();
+    reportFailures(session.user, {}, [&] { clearDownloadedCycles(session); });
+    closeDatabase(session);
+}
+
+} // namespace morvane

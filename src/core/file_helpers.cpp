@@ -1,0 +1,68 @@
+#include "core/file_helpers.h"
+
+#include "core/failure_report.h"
+
+#include <QFileInfo>
+#include <QtEndian>
+
+namespace morvane {
+
+bool FolderExists(FileSystem& files, QString& path) {
+    path = StripBackslash(path);
+    return !path.isEmpty() && files.isFolder(FilePath(path));
+}
+
+bool FileExists(FileSystem& files, const FilePath& path) {
+    return files.exists(path);
+}
+
+QString FormatSystemTimeTime(const QDateTime& time) {
+    const QTime t = time.time();
+    return u"%1:%2:%3.%4"_s.arg(t.hour()).arg(t.minute()).arg(t.second()).arg(t.msec());
+}
+
+QString FormatSystemTimeDate(const QDateTime& time) {
+    return time.toString(u"yyyy/MM/dd");
+}
+
+QString getUtcText(const Clock& clock) {
+    return clock.utcTime().toString(u"yyyy/MM/dd hh:mm");
+}
+
+QString GetFileTime(Session& session, const FilePath& path) {
+    QString text;
+    const FailureReport report{u"Morvane Error"_s, MessageKind::exclamation, u"Function GetFileTime: "_s};
+    reportFailures(session.user, report, [&] {
+        const QFileInfo info(path.native());
+        if (!info.isFile() || !info.isReadable()) {
+            session.user.showMessage(
+                {MessageKind::error, u"Morvane Error"_s, u"Error opening file"_s, true, false, false});
+            return;
+        }
+        const QDateTime time = info.lastModified();
+        text = FormatSystemTimeDate(time) + time.toString(u" hh:mm") + u":00"_s;
+    });
+    return text;
+}
+
+QString getFileVersionText(FileSystem& files, const FilePath& path) {
+    // The fixed version record begins with this mark; its file version stands 8 bytes behind.
+    static const QByteArray mark("\xbd\x04\xef\xfe", 4);
+    QByteArray contents;
+    try {
+        contents = files.read(path);
+    } catch (const Error&) {
+        return {};
+    }
+    const qsizetype at = contents.indexOf(mark);
+    if (at < 0 || at + 16 > contents.size()) return {};
+    const auto high = qFromLittleEndian<quint32>(contents.constData() + at + 8);
+    const auto low = qFromLittleEndian<quint32>(contents.constData() + at + 12);
+    return u"%1.%2.%3.%4"_s.arg(high >> 16).arg(high & 0xffff).arg(low >> 16).arg(low & 0xffff);
+}
+
+int versionPart(const QString& version, int index) {
+    return version.split(u'.').value(index).toInt();
+}
+
+} // namespace morvane

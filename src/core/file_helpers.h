@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/session.h"
+
+namespace morvane {
+
+/// True for a folder. The caller's text loses blanks at its ends and a trailing backslash.
+bool FolderExists(FileSystem& files, QString& path);
+/// True for a file or a folder.
+bool FileExists(FileSystem& files, const FilePath& path);
+
+/// Last write time as "2006/07/14 14:07:00": local time, the seconds always "00". A file that cannot be
+/// opened is told in a message and gives an empty text.
+QString GetFileTime(Session& session, const FilePath& path);
+/// "14:7:33.250": hour, minute, second and milliseconds without padding.
+QString FormatSystemTimeTime(const QDateTime& time);
+/// "2006/07/14".
+QString FormatSystemTimeDate(const QDateTime& time);
+/// Now in UTC as "2006/07/14 14:07".
+QString getUtcText(const Clock& clock);
+
+/// File version of a Windows executable as "a.b.c.d", from its fixed version record; empty without one.
+QString getFileVersionText(FileSystem& files, const FilePath& path);
+/// The part of a version text by index; missing and non-numeric parts count as 0.
+int versionPart(const QString& version, int index);
+
+} // namespace morvane

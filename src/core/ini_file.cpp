@@ -1,0 +1,130 @@
+#include "core/ini_file.h"
+
+#include "core/error.h"
+#include "core/literals.h"
+#include "core/numbers.h"
+#include "core/text_decoding.h"
+
+#include <QRegularExpression>
+#include <QStringDecoder>
+
+namespace morvane {
+
+namespace {
+
+constexpr qsizetype longestValue = 511;
+
+bool sameName(QStringView a, QStringView b) {
+    return trimmedBlanksView(a).compare(trimmedBlanksView(b), Qt::CaseInsensitive) == 0;
+}
+
+std::optional<QStringView> sectionName(QStringView line) {
+    const QStringView text = line.trimmed();
+    if (!text.startsWith(u'[')) return std::nullopt;
+    const qsizetype close = text.lastIndexOf(u']'); // registry keys may hold brackets themselves
+    return close > 0 ? text.mid(1, close - 1) : text.mid(1);
+}
+
+IniFile readIni(FileSystem& files, const FilePath& file) {
+    try {
+        return IniFile::parse(files.read(file));
+    } catch (const Error&) {
+        return {}; // an unreadable profile reads as empty, as the system's does
+    }
+}
+
+} // namespace
+
+IniFile IniFile::parse(const QByteArray& bytes) {
+    IniFile ini;
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    QString text = decoder(bytes); // NULs stay: the registry cuts at them, an INI value turns them to blanks
+    if (decoder.hasError()) text = QString::fromLatin1(bytes);
+    ini.lines_ = splitLines(text);
+    if (!ini.lines_.isEmpty() && ini.lines_.last().isEmpty()) ini.lines_.removeLast();
+    return ini;
+}
+
+QByteArray IniFile::toBytes() const {
+    QByteArray bytes;
+    for (const QString& line : lines_)
+        bytes += line.toUtf8() + "\r\n";
+    return bytes;
+}
+
+std::optional<IniFile::Span> IniFile::linesOf(const QString& section) const {
+    std::optional<Span> span;
+    for (qsizetype i = 0; i < lines_.size(); ++i) {
+        const auto name = sectionName(lines_[i]);
+        if (!name) continue;
+        if (span) return Span{span->first, i};
+        if (sameName(*name, section)) span = Span{i + 1, lines_.size()};
+    }
+    return span;
+}
+
+qsizetype IniFile::lineOf(const QString& section, const QString& key) const {
+    const auto span = linesOf(section);
+    if (!span) return -1;
+    for (qsizetype i = span->first; i < span->end; ++i) {
+        const qsizetype equals = lines_[i].indexOf(u'=');
+        if (equals > 0 && sameName(QStringView(lines_[i]).first(equals), key)) return i;
+    }
+    return -1;
+}
+
+bool IniFile::hasSection(const QString& section) const {
+    return linesOf(section).has_value();
+}
+
+void IniFile::addSection(const QString& section) {
+    if (!hasSection(section)) lines_ << u"["_s + section + u"]"_s;
+}
+
+std::optional<QString> IniFile::rawValue(const QString& section, const QString& key) const {
+    const qsizetype line = lineOf(section, key);
+    if (line < 0) return std::nullopt;
+    return trimmedBlanks(QStringView(lines_[line]).mid(lines_[line].indexOf(u'=') + 1));
+}
+
+void IniFile::setRawValue(const QString& section, const QString& key, const QString& value) {
+    const qsizetype line = lineOf(section, key);
+    const QString text = key + u'=' + value;
+    if (line >= 0) {
+        lines_[line] = text;
+        return;
+    }
+    addSection(section);
+    lines_.insert(linesOf(section)->end, text);
+}
+
+QString withoutQuotes(const QString& value) {
+    const bool quoted = value.size() >= 2 && value.front() == value.back() &&
+                        (value.front() == u'"' || value.front() == u'\'');
+    return quoted ? value.mid(1, value.size() - 2) : value;
+}
+
+int GetIniInt(FileSystem& files, const QString& section, const QString& key, const FilePath& file) {
+    static const QRegularExpression number(u"^-?[0-9]+"_s);
+    return number.match(GetIniString(files, section, key, file)).captured().toInt();
+}
+
+QString GetIniString(FileSystem& files, const QString& section, const QString& key, const FilePath& file) {
+    QString value = withoutQuotes(readIni(files, file).rawValue(section, key).value_or(QString()));
+    value.replace(QChar(u'\0'), u' ');
+    return trimmedBlanks(value.left(longestValue));
+}
+
+int WriteIni(FileSystem& files, const QString& section, const QString& key, const QString& value,
+             const FilePath& file) {
+    IniFile ini = readIni(files, file);
+    ini.setRawValue(section, key, value);
+    try {
+        files.write(file, ini.toBytes());
+        return 1;
+    } catch (const Error&) {
+        return 0;
+    }
+}
+
+} // namespace morvane

@@ -1,0 +1,39 @@
+#include "core/safe_copy.h"
+
+#include "core/error.h"
+
+namespace morvane {
+
+namespace {
+
+/// The failure on its way to the user matters; a part that cannot be removed now goes with the next install.
+void removeQuietly(FileSystem& files, const FilePath& file) {
+    try {
+        files.remove(file);
+    } catch (const Error&) {
+    }
+}
+
+} // namespace
+
+void replaceFile(FileSystem& files, const FilePath& source, const FilePath& target) {
+    const FilePath placed(target.native()); // the spelling on the disk, looked up once
+    const FilePath part(placed.native() + partialCopySuffix);
+    const bool isLink = files.isLink(placed);
+    if (!isLink && files.isReadOnly(placed)) throw Error(ErrorCode::permissionDenied, placed.text());
+    try {
+        files.copyContents(source, part);
+        if (!isLink && files.exists(placed)) files.copyMode(placed, part);
+        files.rename(part, placed);
+    } catch (const Error&) {
+        removeQuietly(files, part);
+        throw;
+    }
+}
+
+void removePartialCopies(FileSystem& files, const FilePath& folder) {
+    for (const QString& name : files.list(folder, u"*"_s + partialCopySuffix))
+        files.remove(folder.child(name));
+}
+
+} // namespace morvane

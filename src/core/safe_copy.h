@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/file_system.h"
+#include "core/literals.h"
+
+namespace morvane {
+
+/// What a copy is called until it is whole. No listing of textures takes the name.
+inline const QString partialCopySuffix = u".morvane-part"_s;
+
+/// Copies the contents of `source` over `target` so that at every moment, a kill or a full disk included, the
+/// target is whole: the old file or the new one. A replaced file keeps its spelling and its mode, a new one
+/// gets the normal mode; a link is replaced by a plain file and what it points to is left alone.
+/// Raises "Permission denied" for a read-only target, which a replacing rename would not notice by itself.
+void replaceFile(FileSystem& files, const FilePath& source, const FilePath& target);
+
+/// Removes what a killed run left beside its targets in that folder.
+void removePartialCopies(FileSystem& files, const FilePath& folder);
+
+} // namespace morvane

@@ -1,0 +1,135 @@
+#include "ground/texture_passes.h"
+
+#include "core/failure_report.h"
+#include "core/ordered_work.h"
+#include "imaging/picture_reader.h"
+#include "imaging/recolouring.h"
+#include "imaging/texture_codec.h"
+
+#include <memory>
+#include <optional>
+
+namespace morvane {
+
+namespace {
+
+/// What a worker hands back: a recoloured picture, or why there is none.
+struct ColouredFile {
+    std::unique_ptr<cDIBSection> picture;
+    std::optional<QString> failure;
+};
+
+/// The base file's picture in the set's colours. A failure is carried to the thread that may show it.
+ColouredFile openImageForTextureSet(FileSystem& files, const FilePath& path, const Recolouring& recolouring) {
+    ColouredFile coloured;
+    try {
+        cDIBSection source;
+        source.CreateFromPicture(loadPicture(files, path));
+        auto result = std::make_unique<cDIBSection>();
+        if (!result->Create(source.Width(), source.Height())) throw Error(ErrorCode::outOfMemory);
+        coloured.picture = std::move(result);
+        recolouring.apply(source, *coloured.picture);
+    } catch (const Error& error) {
+        coloured.failure = error.description();
+    } catch (const std::exception&) {
+        coloured.failure = Error(ErrorCode::outOfMemory).description();
+    }
+    return coloured;
+}
+
+/// Empty for a picture that the format does not take: the set then has one file fewer, and nobody is told.
+QByteArray compressedFile(FileSystem& files, const FilePath& path) {
+    try {
+        return compressTexture(loadPicture(files, path));
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+} // namespace
+
+void TexturePasses::showProgress(const QString& text) {
+    session_.user.showMessage({MessageKind::progress, description_.caption, text, false, true, true});
+}
+
+TexturePasses::Progress TexturePasses::openProgress(const QString& verb, int process, std::size_t count) {
+    const QString text = verb + u" texture set "_s + QString::number(description_.setNumber) + u" of "_s +
+                         QString::number(description_.setTotal) + u" texture sets.  Process "_s +
+                         QString::number(process) + u" of 2 "_s + description_.duration +
+                         u"system specification. \nPlease wait............"_s;
+    showProgress(text);
+    return {text, count > 1 ? 100.0 / static_cast<double>(count + 1) : 100.0};
+}
+
+void TexturePasses::advance(Progress& progress, std::size_t index, std::size_t count) {
+    progress.position += progress.step;
+    if (!session_.user.isMessageVisible()) showProgress(progress.text);
+    session_.user.setProgressFile(u"Processing file "_s + QString::number(index + 1) + u" of "_s +
+                                  QString::number(count) + u" files"_s);
+    session_.user.updateProgress({}, {}, progress.position);
+}
+
+void TexturePasses::saveColoured(const CatalogueFile& file) {
+    const FilePath target = file.tempFolder.child(file.fileName);
+    if (resultDib_.Width() > 0)
+        resultDib_.SavePicture(target);
+    else if (session_.files.exists(target))
+        session_.files.remove(target); // an earlier set's bitmap must not pass for this one's
+}
+
+void TexturePasses::colourFiles(const std::vector<CatalogueFile>& files, const ColourValues& colours) {
+    reportFailures(session_.user, {}, [&] {
+        session_.user.hideScreen(description_.hiddenScreen);
+        Progress progress = openProgress(u"Colorizing"_s, 1, files.size());
+        const Recolouring recolouring(colours);
+        OrderedWork<ColouredFile> work(static_cast<int>(files.size()), [&](int i) {
+            const CatalogueFile& file = files[static_cast<std::size_t>(i)];
+            return openImageForTextureSet(session_.files, file.sourceFolder.child(file.fileName),
+                                          recolouring);
+        });
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            session_.user.pumpMessages();
+            if (job_.isCancelled()) return;
+            ColouredFile coloured = work.next();
+            if (coloured.picture) resultDib_ = std::move(*coloured.picture);
+            if (coloured.failure) showFailure(session_.user, {}, *coloured.failure);
+            saveColoured(files[i]);
+            advance(progress, i, files.size());
+        }
+        session_.user.updateProgress({}, {}, 100);
+    });
+}
+
+void TexturePasses::makeSetFolders() {
+    const FilePath& folder = description_.setFolder;
+    if (!session_.files.isFolder(folder)) {
+        for (const QString& name : description_.subfolders)
+            session_.files.makeFolder(folder.child(name));
+    } else {
+        // A favourite's or a deactivated set's folder, whose others are taken to exist.
+        session_.files.makeFolder(folder.child(description_.lastSubfolder));
+    }
+}
+
+void TexturePasses::convertFiles(const std::vector<CatalogueFile>& files) {
+    reportFailures(session_.user, {}, [&] {
+        Progress progress = openProgress(u"Converting"_s, 2, files.size());
+        makeSetFolders();
+        OrderedWork<QByteArray> work(static_cast<int>(files.size()), [&](int i) {
+            const CatalogueFile& file = files[static_cast<std::size_t>(i)];
+            return compressedFile(session_.files, file.tempFolder.child(file.fileName));
+        });
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            session_.user.pumpMessages();
+            if (job_.isCancelled()) return;
+            // No contents, no file: a codec failure is not noticed.
+            const QByteArray texture = work.next();
+            const FilePath target = files[i].targetFolder.child(files[i].fileName);
+            if (!texture.isEmpty()) session_.files.write(target, texture);
+            advance(progress, i, files.size());
+        }
+        session_.user.updateProgress({}, {}, 100);
+    });
+}
+
+} // namespace morvane

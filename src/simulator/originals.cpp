@@ -1,0 +1,140 @@
+#include "simulator/originals.h"
+
+#include "core/error.h"
+#include "core/literals.h"
+#include "core/safe_copy.h"
+#include "core/text_decoding.h"
+
+#include <QCryptographicHash>
+#include <algorithm>
+
+namespace morvane {
+
+namespace {
+
+/// The simulator's names are read without regard to case, so the list's are, too.
+QString keyOf(const QString& path) {
+    return path.toCaseFolded();
+}
+
+QByteArray readIfThere(FileSystem& files, const FilePath& file) {
+    try {
+        return files.read(file);
+    } catch (const Error& error) {
+        if (error.code() == ErrorCode::fileNotFound) return {};
+        throw; // an unreadable list must stop the install: without it our files would pass for the pilot's
+    }
+}
+
+} // namespace
+
+Originals::Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath)
+    : files_(files), simulator_(simulator), folder_(appPath / u"Backup\\Originals"),
+      listFile_(appPath / u"Backup\\Originals\\originals.lst") {
+    load();
+}
+
+void Originals::load() {
+    for (const QString& text : splitLines(QString::fromUtf8(readIfThere(files_, listFile_)))) {
+        const QStringList fields = text.split(u'\t');
+        if (fields.size() != 4) continue; // the torn last line of a killed run
+        const QString& path = fields[3];
+        const Fingerprint print{fields[1].toLongLong(), fields[2]};
+        paths_.insert(keyOf(path), path);
+        if (fields[0] == u"kept") kept_.insert(keyOf(path), {path, print.size, print.checksum});
+        if (fields[0] == u"ours" && !ours_.contains(keyOf(path), print)) ours_.insert(keyOf(path), print);
+    }
+}
+
+Originals::Fingerprint Originals::fingerprint(const FilePath& file) {
+    const QByteArray contents = files_.read(file);
+    const QByteArray sum = QCryptographicHash::hash(contents, QCryptographicHash::Sha1).toHex();
+    return {contents.size(), QString::fromLatin1(sum)};
+}
+
+QString Originals::line(const char* fact, const Fingerprint& print, const QString& path) {
+    return QString::fromLatin1(fact) + u'\t' + QString::number(print.size) + u'\t' + print.checksum + u'\t' +
+           path + u'\n';
+}
+
+void Originals::announce(const std::vector<FileCopy>& copies) {
+    QString lines;
+    for (const FileCopy& copy : copies) {
+        const QString path = copy.target.relative();
+        const Fingerprint print = fingerprint(copy.source);
+        paths_.insert(keyOf(path), path);
+        announced_.insert(keyOf(path), print); // of several copies to one path the last one stays
+        if (ours_.contains(keyOf(path), print)) continue;
+        ours_.insert(keyOf(path), print);
+        lines += line("ours", print, path);
+    }
+    if (lines.isEmpty()) return;
+    files_.makeFolder(folder_);
+    // A line break first: a line that a kill tore must not swallow the next one.
+    files_.append(listFile_, (u'\n' + lines).toUtf8());
+}
+
+void Originals::settle() {
+    for (auto latest = announced_.cbegin(); latest != announced_.cend(); ++latest) {
+        ours_.remove(latest.key());
+        ours_.insert(latest.key(), latest.value());
+    }
+    QString text;
+    for (const KeptOriginal& original : list())
+        text += line("kept", {original.size, original.checksum}, original.path);
+    for (auto print = ours_.cbegin(); print != ours_.cend(); ++print)
+        text += line("ours", print.value(), paths_.value(print.key()));
+    files_.write(listFile_, text.toUtf8());
+    announced_.clear();
+}
+
+bool Originals::isOurs(const QString& key, const FilePath& target) {
+    if (!ours_.contains(key)) return false;
+    try {
+        return ours_.contains(key, fingerprint(target));
+    } catch (const Error& error) {
+        if (error.code() != ErrorCode::fileNotFound) throw;
+        return true; // not there: nothing to keep
+    }
+}
+
+void Originals::keep(const FilePath& target) {
+    const QString path = target.relative();
+    if (kept_.contains(keyOf(path)) || isOurs(keyOf(path), target)) return;
+    const FilePath copy = folder_ / path;
+    if (!files_.exists(copy)) {
+        const FilePath part(copy.native() + partialCopySuffix);
+        files_.makeFolder(copy.parent());
+        try {
+            files_.copyContents(target, part);
+        } catch (const Error& error) {
+            if (error.code() == ErrorCode::fileNotFound) return;
+            throw;
+        }
+        files_.rename(part, copy);
+    }
+    const Fingerprint print = fingerprint(copy);
+    files_.append(listFile_, (u'\n' + line("kept", print, path)).toUtf8());
+    kept_.insert(keyOf(path), {path, print.size, print.checksum});
+}
+
+std::vector<KeptOriginal> Originals::list() const {
+    std::vector<KeptOriginal> sorted(kept_.begin(), kept_.end());
+    std::sort(sorted.begin(), sorted.end(), [](const auto& a, const auto& b) { return a.path < b.path; });
+    return sorted;
+}
+
+int Originals::restore() {
+    int count = 0;
+    for (const KeptOriginal& original : list()) {
+        const FilePath target((simulator_ / original.path).native());
+        const bool wasReadOnly = files_.isReadOnly(target);
+        if (wasReadOnly) files_.setReadOnly(target, false);
+        replaceFile(files_, folder_ / original.path, target);
+        if (wasReadOnly) files_.setReadOnly(target, true);
+        ++count;
+    }
+    return count;
+}
+
+} // namespace morvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/session.h"
+
+namespace morvane {
+
+/// Turns the weather of a flight into one cloud-cover word and installs an activated set that fits it.
+class SetMatching {
+public:
+    explicit SetMatching(Session& session) : session_(session) {}
+
+    /// The cloud class of the session's two weather lists; the average of their points with a weather
+    /// strength on top. 0 after a failure was told.
+    std::int16_t getAverageCloudCover();
+    /// Asks, and on Yes installs. True when the user said yes.
+    bool askInstallMatchingSets();
+    void installMatchingSets(const QString& cover);
+
+    /// The next word to try, one step away; empty for an unknown word.
+    static QString getClosestCloudCover(const QString& cover);
+    /// The word of a class: 1 to 5, above that "Overcast", below it "Partly Cloudy".
+    static QString coverWord(int cloudClass);
+
+    int filesCopied() const { return filesCopied_; }
+
+private:
+    QString chooseGroundSet(const QString& cover);
+    QString closestGroundSet(const QString& cover);
+    int getRandomIndex(int upper);
+
+    Session& session_;
+    int filesCopied_ = 0;
+};
+
+/// The decoder's whole text into the session's lists: its cloud class and no strength. False, after the
+/// message that told so, for a report without a cloud group; the list then holds "0".
+bool processMetarString(Session& session, const QString& metar);
+
+/// The road of the Fly Now button from the chosen weather on: the question and the install.
+/// Returns what was installed for reports: files copied, or -1 when the user said no.
+int flyNow(Session& session);
+
+} // namespace morvane

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/session.h"
+#include "simulator/originals.h"
+
+namespace morvane {
+
+/// The only way by which a file of ours gets into the simulator's folders: the pilot's own file is kept
+/// first, and the target is old or new as a whole at every moment.
+class SimulatorCopier {
+public:
+    explicit SimulatorCopier(Session& session);
+
+    /// Takes the whole list before the first copy: clears what a killed run left beside the targets and notes
+    /// what will be put where.
+    void prepare(const std::vector<FileCopy>& copies);
+    void copy(const FileCopy& copy);
+    /// After the last copy of the list.
+    void finish() { originals_.settle(); }
+
+private:
+    Session& session_;
+    Originals originals_;
+};
+
+/// One file, with everything that SimulatorCopier does for a list.
+void copyIntoSimulator(Session& session, const FilePath& source, const FilePath& target);
+
+/// The simulator's splash, "\Uires\dlgsplash.bmp".
+FilePath splashTarget(const Session& session);
+
+/// Appends every file of `source` that the mask takes, to be put under its own name into `target`.
+void addFolderFiles(Session& session, const FilePath& source, const QString& mask, const FilePath& target,
+                    std::vector<FileCopy>& copies);
+
+} // namespace morvane

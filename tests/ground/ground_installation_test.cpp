@@ -1,0 +1,150 @@
+#include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::readFile;
+using test::SmallInstall;
+using test::writeFile;
+
+struct GroundInstall : testing::Test {
+    SmallInstall install;
+    Session& session = install.session;
+
+    void SetUp() override {
+        install.addGroundSet("2-Storm", "Overcast", true,
+                             {"Texture\\029h2su6.bmp", "Texture\\029B2SU6.BMP", "Texture\\new.bmp",
+                              "UTEurLC\\034b2su4.bmp", "Dutch\\029h2su6.bmp"});
+    }
+    void installSet(const QString& name) {
+        session.ground.SelectedGroundSet = name;
+        GroundInstallation(session).installTextureSet(true);
+    }
+    QByteArray world(const char16_t* name) {
+        return readFile(install.simulator() / u"Scenery\\World\\texture" / name);
+    }
+    QByteArray splash() { return readFile(install.simulator() / u"Uires\\dlgsplash.bmp"); }
+};
+
+TEST_F(GroundInstall, copiesTheSetAndRecordsIt) {
+    writeFile(install.home() / u"GENERIC WORLD\\029h2an.agn", "annotation");
+    installSet("2-Storm");
+    EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Texture\\029h2su6.bmp");
+    EXPECT_EQ(world(u"new.bmp"), "2-Storm Texture\\new.bmp");
+    EXPECT_EQ(world(u"029h2an.agn"), "annotation");
+    EXPECT_EQ(splash(), "splash OVC");
+    EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
+    EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_TRUE(install.user.calls.contains("file Installing Overcast (OVC) ground textures"));
+    // "029H2SU6.BMP" was replaced, not doubled, and keeps its spelling.
+    EXPECT_EQ(install.files.list(install.simulator() / u"Scenery\\World\\texture", "*.bmp"),
+              QStringList({"002C2WI1.BMP", "005A2SU2.BMP", "029B2SU6.BMP", "029H2SU6.BMP", "new.bmp"}));
+}
+
+TEST_F(GroundInstall, storeThenSplashThenFiles) {
+    // A splash that cannot be copied: the store names the set already, no texture has come yet.
+    install.files.remove(install.home() / u"Media\\dlgSplashOVC.bmp");
+    installSet("2-Storm");
+    EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
+    EXPECT_EQ(world(u"029h2su6.bmp"), "the pilot's GENERIC WORLD\\029h2su6.bmp");
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+}
+
+TEST_F(GroundInstall, dutchAndTropicalFollowTheirSwitches) {
+    session.IsDutch = true;
+    installSet("2-Storm");
+    EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Dutch\\029h2su6.bmp"); // behind the generic one, so it stays
+    session.IsDutch = false;
+    session.IsTropical = true;
+    installSet("2-Storm");
+    EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Texture\\029B2SU6.BMP"); // the "b" picture in the "h" file
+    EXPECT_EQ(tropicalName("029B2su6b.bmp"), "029h2su6b.bmp");
+}
+
+TEST_F(GroundInstall, theAddOnsFolderDecidesDifferentlyForDefault) {
+    const FilePath textures = install.simulator() / u"Scenery\\UTEurLC\\Texture";
+    installSet("2-Storm");
+    EXPECT_EQ(readFile(textures / u"034b2su4.bmp"), "2-Storm UTEurLC\\034b2su4.bmp");
+    // Without "Texture" a set passes its add-on files over, "Default" still tries them and fails.
+    install.files.rename(textures, install.simulator() / u"Scenery\\UTEurLC\\Elsewhere");
+    installSet("2-Storm");
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 0);
+    installSet("Default");
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+}
+
+TEST_F(GroundInstall, defaultBringsTheBodiesAndItsSplashWhateverTheOption) {
+    installSet("2-Storm");
+    session.InhibitCustomSplash = true;
+    writeFile(install.simulator() / u"Uires\\dlgsplash.bmp", "the pilot's second splash");
+    installSet("2-Storm");
+    EXPECT_EQ(splash(), "the pilot's second splash");
+    installSet("Default");
+    EXPECT_EQ(splash(), "splash SCT");
+    EXPECT_EQ(world(u"029h2su6.bmp"), "body of GENERIC WORLD\\029h2su6.bmp");
+    EXPECT_EQ(readFile(install.simulator() / u"Scenery\\UTEurLC\\Texture\\034b2su4.bmp"),
+              "body of UTIND\\034b2su4.bmp");
+    EXPECT_EQ(world(u"005a2su2.bmp"), "the pilot's DUTCH\\005a2su2.bmp"); // the switch is off
+    EXPECT_EQ(install.installedSets(), QStringList({"Default"}));
+    EXPECT_TRUE(install.user.calls.contains("file Installing Partly Cloudy (SCT) ground textures"));
+    EXPECT_EQ(world(u"new.bmp"), "2-Storm Texture\\new.bmp"); // what the new set lacks keeps its content
+}
+
+TEST_F(GroundInstall, readOnlyTargetsRaiseAndLinksAreReplaced) {
+    const FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029h2su6.bmp";
+    install.files.setReadOnly(texture, true);
+    installSet("2-Storm");
+    EXPECT_EQ(world(u"029h2su6.bmp"), "the pilot's GENERIC WORLD\\029h2su6.bmp");
+    ASSERT_EQ(install.user.countOfKind(MessageKind::error), 1);
+    EXPECT_TRUE(install.user.told().last().startsWith("Error|Morvane Error|Permission denied: "));
+
+    install.files.remove(texture);
+    writeFile(install.folder / u"elsewhere.bmp", "mine");
+    ASSERT_TRUE(QFile::link((install.folder / u"elsewhere.bmp").native(), texture.native()));
+    installSet("2-Storm");
+    EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Texture\\029h2su6.bmp");
+    EXPECT_EQ(readFile(install.folder / u"elsewhere.bmp"), "mine");
+}
+
+TEST_F(GroundInstall, severalSelectedRowsAreRefused) {
+    clickGroundRow(session, "2-Storm");
+    session.ground.selectedRows = QStringList{"2-Storm", "Default"};
+    GroundInstallation(session).installTextureSet(false);
+    EXPECT_TRUE(install.installedSets().isEmpty());
+    EXPECT_EQ(
+        install.user.told(),
+        QStringList(
+            {"Exclamation|Multiple Selection Detetected!|Morvane has detected more than one selection for "
+             "installation.  You can only select one sky texture set to be installed at any one time.  "
+             "Please check your selection and try again!."}));
+}
+
+TEST_F(GroundInstall, aStaleCollectionOverwritesNoOtherSet) {
+    install.addGroundSet("3-Calm", "Sky Clear", true);
+    clsTextureSet changed = *findGroundSet(session, "3-Calm");
+    changed.Actvated = "False";
+    ASSERT_TRUE(session.gTextureSets->UpdateTextureSet(changed)); // in memory it still says "True"
+    installSet("2-Storm");
+    install.reload();
+    EXPECT_EQ(findGroundSet(session, "3-Calm")->Actvated, "False");
+}
+
+TEST_F(GroundInstall, theModeOfAReplacedFileStays) {
+    const FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP";
+    const auto mode = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup;
+    QFile::setPermissions(texture.native(), mode);
+    installSet("2-Storm");
+    const auto shown = QFile::permissions(texture.native());
+    EXPECT_TRUE(shown.testFlag(QFileDevice::ReadGroup));
+    EXPECT_FALSE(shown.testFlag(QFileDevice::ReadOther));
+}
+
+} // namespace
+} // namespace morvane

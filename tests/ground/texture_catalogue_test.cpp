@@ -1,0 +1,90 @@
+#include "ground/texture_catalogue.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::SmallInstall;
+
+QStringList namesOf(const std::vector<CatalogueFile>& files) {
+    QStringList names;
+    for (const CatalogueFile& file : files)
+        names << file.fileName;
+    return names;
+}
+
+QStringList walk(SmallInstall& install, int category, int seasonCount = 0) {
+    TextureCatalogue catalogue(install.session);
+    catalogue.flags.categories[static_cast<std::size_t>(category - 1)] = true;
+    return namesOf(catalogue.popTextureList(seasonCount, 1, true, "7-Storm"));
+}
+
+TEST(TextureCatalogue, walksSeasonsOutsideAndPatternsInside) {
+    SmallInstall install({{u"GENERIC WORLD\\030a2sp1.bmp"_s, u"GENERIC WORLD\\029b2su6.bmp"_s,
+                           u"GENERIC WORLD\\029h2sp6.bmp"_s, u"GENERIC WORLD\\029a2sp6.bmp"_s,
+                           u"GENERIC WORLD\\136a2wi1.bmp"_s, u"GENERIC WORLD\\029a2lm6.bmp"_s}});
+    EXPECT_EQ(walk(install, 1),
+              QStringList({"029a2sp6.bmp", "029h2sp6.bmp", "030a2sp1.bmp", "029b2su6.bmp", "136a2wi1.bmp"}));
+}
+
+TEST(TextureCatalogue, takesOnlyTheLettersOfACategory) {
+    SmallInstall install({{u"GENERIC WORLD\\006a2sp7.bmp"_s, u"GENERIC WORLD\\006c2sp7.bmp"_s,
+                           u"GENERIC WORLD\\006k2sp7.bmp"_s, u"GENERIC WORLD\\013c2sp7.bmp"_s}});
+    EXPECT_EQ(walk(install, 3), QStringList({"006a2sp7.bmp", "013c2sp7.bmp"}));
+    EXPECT_EQ(walk(install, 10), QStringList({"006c2sp7.bmp"}));
+}
+
+TEST(TextureCatalogue, winterOfTheRedSoilStandsTwice) {
+    SmallInstall install({{u"GENERIC WORLD\\002c2wi1.bmp"_s, u"GENERIC WORLD\\052c2wi1.bmp"_s,
+                           u"GENERIC WORLD\\052c2su1.bmp"_s}});
+    EXPECT_EQ(walk(install, 10),
+              QStringList({"052c2su1.bmp", "002c2wi1.bmp", "052c2wi1.bmp", "002c2wi1.bmp", "052c2wi1.bmp"}));
+    // With its flag off the winter comes all the same, once.
+    EXPECT_EQ(walk(install, 10, 1), QStringList({"002c2wi1.bmp", "052c2wi1.bmp"}));
+}
+
+TEST(TextureCatalogue, industrialAreasAreFiveRuns) {
+    SmallInstall install(
+        {{u"UTIND\\034b2su4.bmp"_s, u"UTIND\\038b2wi4.bmp"_s, u"GENERIC WORLD\\003a2wi1.bmp"_s,
+          u"GENERIC WORLD\\056a2su3.bmp"_s, u"GENERIC WORLD\\056a2sp3.bmp"_s,
+          u"GENERIC WORLD\\139b2fa1.bmp"_s, u"GENERIC WORLD\\139b2fa2.bmp"_s,
+          u"GENERIC WORLD\\142b2su1.bmp"_s, u"GENERIC WORLD\\142b2wi1.bmp"_s}});
+    TextureCatalogue catalogue(install.session);
+    catalogue.flags.categories[12] = true;
+    const auto files = catalogue.popTextureList(0, 1, true, "7-Storm");
+    EXPECT_EQ(namesOf(files), QStringList({"034b2su4.bmp", "038b2wi4.bmp", "003a2wi1.bmp", "056a2su3.bmp",
+                                           "139b2fa1.bmp", "142b2su1.bmp"}));
+    for (const CatalogueFile& file : files) {
+        EXPECT_EQ(file.targetFolder.relative(), "Texture Sets\\7-Storm\\UTEurLC");
+        EXPECT_EQ(file.tempFolder.relative(), "TempBitmaps\\UTEurLC");
+    }
+    EXPECT_EQ(files.front().sourceFolder.relative(), "Resources\\UTIND");
+    EXPECT_EQ(files.back().sourceFolder.relative(), "Resources\\GENERIC WORLD");
+    EXPECT_TRUE(catalogue.flags.popSpring &&
+                catalogue.flags.popWinter); // put back after the summer-only runs
+}
+
+TEST(TextureCatalogue, targetsAreTheSetsOrTheSimulatorsFolders) {
+    SmallInstall install({{u"DUTCH\\008a2su2.bmp"_s}});
+    TextureCatalogue catalogue(install.session);
+    catalogue.flags.categories[13] = true;
+    const auto forSet = catalogue.popTextureList(0, 1, true, "7-Storm");
+    const auto forSimulator = catalogue.popTextureList(0, 1, false, "");
+    ASSERT_EQ(forSet.size(), 1u);
+    EXPECT_EQ(forSet[0].targetFolder.relative(), "Texture Sets\\7-Storm\\Dutch");
+    EXPECT_EQ(forSimulator[0].targetFolder.relative(), "Scenery\\World\\texture");
+    EXPECT_EQ(forSimulator[0].tempFolder.relative(), "TempBitmaps\\Dutch");
+}
+
+TEST(TextureCatalogue, upgradeCategoryIsNeverSwitchedOn) {
+    SmallInstall install({{u"GENERIC WORLD\\022a2su1.bmp"_s}});
+    TextureCatalogue catalogue(install.session);
+    EXPECT_EQ(namesOf(catalogue.popTextureList(0, 0, true, "x")), QStringList({"022a2su1.bmp"}));
+    EXPECT_FALSE(catalogue.flags.categories[14]);
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "core/clock.h"
+#include "core/file_system.h"
+
+#include <deque>
+#include <vector>
+
+namespace morvane::test {
+
+/// A clock that stands still until told otherwise, or hands out given times one by one.
+class ScriptedClock : public Clock {
+public:
+    QDateTime localTime() const override;
+    QDateTime utcTime() const override { return now.toUTC(); }
+
+    QDateTime now{QDate(2007, 5, 30), QTime(21, 14, 9)};
+    mutable std::deque<QDateTime> upcoming;
+};
+
+/// Hands out the given numbers in turn, over and over.
+class ScriptedRandom : public RandomSource {
+public:
+    double draw() override;
+
+    std::vector<double> numbers{0.5};
+    int draws = 0;
+};
+
+/// The real file system, but its n-th operation fails: with an Error, or, for a test of existence, with "no".
+/// Counts every operation.
+class FaultyFileSystem : public FileSystem {
+public:
+    /// Counted from 1 and from now; 0 means never. `forever`: all later ones fail, too.
+    void failAt(int n, bool forever);
+    int operations() const { return operations_; }
+    /// Whether the operation that failed first was a test of existence.
+    bool failedAtTest() const { return failedAtTest_; }
+    bool hasFailed() const { return hasFailed_; }
+
+    bool exists(const FilePath& path) override { return test() && real_.exists(path); }
+    bool isFolder(const FilePath& path) override { return test() && real_.isFolder(path); }
+    bool isLink(const FilePath& path) override { return test() && real_.isLink(path); }
+    QStringList list(const FilePath& folder, const QString& mask) override;
+    QStringList listFolders(const FilePath& folder) override;
+    void makeFolder(const FilePath& folder) override;
+    void copyContents(const FilePath& source, const FilePath& target) override;
+    void rename(const FilePath& source, const FilePath& target) override;
+    void remove(const FilePath& file) override;
+    void removeFolder(const FilePath& folder) override;
+    bool isReadOnly(const FilePath& file) override;
+    void setReadOnly(const FilePath& file, bool readOnly) override;
+    void copyMode(const FilePath& model, const FilePath& target) override;
+    std::int64_t size(const FilePath& file) override;
+    std::int64_t freeSpace(const FilePath& folder) override;
+    QByteArray read(const FilePath& file) override;
+    void write(const FilePath& file, const QByteArray& contents) override;
+    void append(const FilePath& file, const QByteArray& contents) override;
+
+private:
+    bool isFailing();
+    bool test();
+    void act(const FilePath& path);
+    NativeFileSystem real_;
+    int operations_ = 0, failing_ = 0;
+    bool forever_ = false, hasFailed_ = false, failedAtTest_ = false;
+};
+
+} // namespace morvane::test

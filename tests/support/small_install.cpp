@@ -1,0 +1,147 @@
+#include "support/small_install.h"
+
+#include "core/application.h"
+#include "core/row_set.h"
+#include "core/store.h"
+#include "core/store_schema.h"
+#include "ground/ground_sets.h"
+
+#include <QBuffer>
+#include <QDirIterator>
+#include <QImage>
+
+namespace morvane::test {
+
+namespace {
+
+void addResourceRow(RowSet& rows, const QString& name, const QString& setFolder, const QString& destination) {
+    rows.addNew();
+    rows.setText(u"RESOURCE_NAME", name);
+    rows.setText(u"RESOURCE_SOURCE", name);
+    rows.setText(u"RESOURCE_TEXTURE_SET", setFolder);
+    rows.setText(u"RESOURCE_DESTINATION", destination);
+    rows.update();
+}
+
+void addSetRow(RowSet& rows, const QString& name, const QString& cover, bool activated) {
+    rows.addNew();
+    rows.setText(u"TEXTURE_SET", name);
+    rows.setText(u"CLOUD_COVER", cover);
+    rows.setText(u"ACTIVATED", activated ? u"True"_s : u"False"_s);
+    rows.setText(u"COLOR_SETTINGS", u"0:1.4:0:-1:3:-1.5"_s);
+    rows.setText(u"DESCRIPTION", u"A set of a test"_s);
+    rows.setFlag(u"DUTCH", true);
+    rows.setFlag(u"INSTALLED", false);
+    rows.update();
+}
+
+void makeStore(const FilePath& path) {
+    Store store;
+    store.create(path);
+    createSchema(store);
+    RowSet resources(store, u"SELECT * FROM RESOURCE_FOLDERS"_s);
+    addResourceRow(resources, u"GENERIC WORLD"_s, u"Texture"_s, u"Scenery\\World\\texture"_s);
+    addResourceRow(resources, u"UT EUROPE"_s, u"Texture"_s, u"Scenery\\World\\texture"_s);
+    addResourceRow(resources, u"UTIND"_s, u"UTEurLC"_s, u"Scenery\\UTEurLC\\Texture"_s);
+    addResourceRow(resources, u"DUTCH"_s, u"Dutch"_s, u"Scenery\\World\\texture"_s);
+    RowSet switches(store, u"SELECT * FROM TEXTURE_SWITCH"_s);
+    switches.addNew();
+    switches.setFlag(u"ISDUTCH", false);
+    switches.update();
+    RowSet sets(store, u"SELECT * FROM TEXTURE_SETS"_s);
+    addSetRow(sets, u"Default"_s, u"Partly Cloudy"_s, true);
+    store.close();
+}
+
+void makeFolders(const FilePath& home, const FilePath& simulator) {
+    NativeFileSystem files;
+    for (const char16_t* name : {u"Media", u"Texture Sets", u"TempBitmaps\\Texture", u"TempBitmaps\\UTEurLC",
+                                 u"TempBitmaps\\Dutch", u"Backup", u"METAR"})
+        files.makeFolder(home / name);
+    for (const char16_t* name : {u"SKC", u"FEW", u"SCT", u"BKN", u"OVC"})
+        writeFile(home / u"Media" / (u"dlgSplash"_s + QStringView(name).toString() + u".bmp"_s),
+                  "splash " + QStringView(name).toUtf8());
+    writeFile(simulator / u"fs9.exe", "MZ");
+    writeFile(simulator / u"Uires\\dlgsplash.bmp", "the pilot's splash");
+    files.makeFolder(simulator / u"Scenery\\World\\texture");
+    files.makeFolder(simulator / u"Scenery\\UTEurLC\\Texture");
+}
+
+void makeBaseImages(const FilePath& home, const FilePath& simulator, const SmallInstallOptions& options) {
+    int shade = 20;
+    for (const QString& path : options.baseImages) {
+        writeFile(home / u"Resources" / path, smallBitmap(options.side, shade += 17));
+        writeFile(home / path, "body of " + path.toUtf8());
+        const bool isAddOn = path.startsWith(u"UTIND");
+        writeFile(simulator / (isAddOn ? u"Scenery\\UTEurLC\\Texture" : u"Scenery\\World\\texture") /
+                      path.section(u'\\', 1).toUpper(),
+                  "the pilot's " + path.toUtf8());
+    }
+}
+
+} // namespace
+
+QByteArray smallBitmap(int side, int shade) {
+    QImage image(side, side, QImage::Format_RGB888);
+    image.fill(qRgb(shade, 255 - shade, shade / 2));
+    for (int i = 0; i < side; ++i)
+        image.setPixel(i, i, qRgb(200, shade, i * 8 % 256));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "BMP");
+    return bytes;
+}
+
+QMap<QString, QByteArray> contentsBelow(const FilePath& folder) {
+    QMap<QString, QByteArray> contents;
+    const QString root = folder.native();
+    QDirIterator entry(root, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (entry.hasNext()) {
+        const QString path = entry.next();
+        contents.insert(path.mid(root.size() + 1), readFile(FilePath(path)));
+    }
+    return contents;
+}
+
+SmallInstall::SmallInstall(const SmallInstallOptions& options)
+    : registry(files, home() / u"registry.ini"), session({user, files, clock, random, registry}, home()) {
+    makeFolders(home(), simulator());
+    makeBaseImages(home(), simulator(), options);
+    makeStore(home() / u"Morvane.mdb");
+    registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
+    registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, simulator().native());
+    registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
+    registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
+    if (!startUp(session) || !user.messages.empty())
+        throw std::runtime_error("the small install does not start");
+}
+
+SmallInstall::~SmallInstall() {
+    files.failAt(0, false);
+}
+
+int SmallInstall::addGroundSet(const QString& name, const QString& cover, bool activated,
+                               const QStringList& names) {
+    RowSet rows(*session.adoConn, u"SELECT * FROM TEXTURE_SETS"_s);
+    addSetRow(rows, name, cover, activated);
+    for (const QString& file : names)
+        writeFile(home() / u"Texture Sets" / name / file, name.toUtf8() + ' ' + file.toUtf8());
+    reload();
+    return findGroundSet(session, name)->TsID;
+}
+
+QStringList SmallInstall::installedSets() {
+    RowSet rows(*session.adoConn, u"SELECT * FROM TEXTURE_SETS"_s);
+    QStringList names;
+    for (; !rows.atEnd(); rows.next())
+        if (rows.flag(u"INSTALLED")) names << rows.text(u"TEXTURE_SET");
+    return names;
+}
+
+void SmallInstall::reload() {
+    session.gTextureSets.reset();
+    loadedGroundSets(session);
+}
+
+} // namespace morvane::test

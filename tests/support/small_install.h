@@ -1,0 +1,52 @@
+#pragma once
+
+#include "core/registry.h"
+#include "core/session.h"
+#include "support/scripted_services.h"
+#include "support/scripted_user.h"
+#include "support/temporary_folder.h"
+
+namespace morvane::test {
+
+/// What a small install begins with.
+struct SmallInstallOptions {
+    QStringList baseImages{u"GENERIC WORLD\\029h2su6.bmp"_s, u"GENERIC WORLD\\029b2su6.bmp"_s,
+                           u"GENERIC WORLD\\002c2wi1.bmp"_s, u"UTIND\\034b2su4.bmp"_s,
+                           u"DUTCH\\005a2su2.bmp"_s};
+    int side = 16; ///< of each base image
+};
+
+/// A working install with a few small base images, its store, and a simulator with textures of its own, both
+/// in one temporary folder; the session on it is started, with a scripted user, clock and random source.
+class SmallInstall {
+public:
+    explicit SmallInstall(const SmallInstallOptions& options = {});
+    ~SmallInstall();
+
+    /// A row of TEXTURE_SETS, as delivered by nobody; its folder holds `files`, each with its name as
+    /// contents. Returns the key.
+    int addGroundSet(const QString& name, const QString& cover, bool activated,
+                     const QStringList& files = {});
+    /// Names of sets in the store with INSTALLED true.
+    QStringList installedSets();
+    /// Drops what is in memory and reads the store anew.
+    void reload();
+
+    FilePath home() const { return folder / u"Morvane"; }
+    FilePath simulator() const { return folder / u"Simulator Ünï"; }
+
+    TemporaryFolder folder;
+    ScriptedUser user;
+    FaultyFileSystem files;
+    ScriptedClock clock;
+    ScriptedRandom random;
+    IniRegistry registry;
+    Session session;
+};
+
+/// A picture file of one colour with a few marks, 24 bits.
+QByteArray smallBitmap(int side, int shade);
+/// Contents of every file below a folder, by path below it.
+QMap<QString, QByteArray> contentsBelow(const FilePath& folder);
+
+} // namespace morvane::test

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/file_system.h"
+
+namespace morvane {
+
+/// What a complete install and a sample simulator are made of. The source data come from `data`, the
+/// repository's data folder.
+struct ContentRequest {
+    FilePath home;
+    FilePath simulator;
+    FilePath data;
+    int density = 1;
+};
+
+/// True when `home` holds an install that this version of the tool made with that density.
+bool isContentCurrent(FileSystem& files, const ContentRequest& request);
+
+/// Makes the install and the simulator. A folder that holds an install already is refused; the version mark
+/// is written last, so that a run that was cut short is never taken for a whole one. Returns the number of
+/// base images.
+int makeContent(FileSystem& files, const ContentRequest& request);
+
+} // namespace morvane

@@ -1,0 +1,55 @@
+// morvane-content: makes a complete install folder and a sample simulator.
+
+#include "core/error.h"
+#include "core/literals.h"
+#include "install_content.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <cstdio>
+
+using namespace morvane;
+
+namespace {
+
+FilePath folder(const QCommandLineParser& parser, const QString& option) {
+    return FilePath(QFileInfo(parser.value(option)).absoluteFilePath());
+}
+
+int run(const QCommandLineParser& parser) {
+    NativeFileSystem files;
+    const ContentRequest request{folder(parser, u"home"_s), folder(parser, u"simulator"_s),
+                                 folder(parser, u"data"_s), parser.value(u"density"_s).toInt()};
+    if (parser.isSet(u"check"_s)) return isContentCurrent(files, request) ? 0 : 1;
+    QElapsedTimer timer;
+    timer.start();
+    const int count = makeContent(files, request);
+    std::printf("%d base images, their textures and the store made in %.1f s\n", count,
+                static_cast<double>(timer.elapsed()) / 1000);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Makes a complete install folder and a sample simulator."_s);
+    parser.addHelpOption();
+    parser.addOption({u"home"_s, u"The install folder to make."_s, u"DIR"_s});
+    parser.addOption({u"simulator"_s, u"The sample simulator's folder to make."_s, u"DIR"_s});
+    parser.addOption({u"data"_s, u"The source data."_s, u"DIR"_s, QStringLiteral(MORVANE_DATA_DIR)});
+    parser.addOption(
+        {u"density"_s, u"1: about a thousand base images, 4: about four thousand."_s, u"N"_s, u"1"_s});
+    parser.addOption({u"check"_s, u"Make nothing; the exit status is 0 when the install is current."_s});
+    parser.process(application);
+    if (!parser.isSet(u"home"_s) || !parser.isSet(u"simulator"_s)) parser.showHelp(2);
+    try {
+        return run(parser);
+    } catch (const Error& error) {
+        std::fprintf(stderr, "morvane-content: %s\n", error.what());
+        return 1;
+    }
+}

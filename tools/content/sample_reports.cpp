@@ -1,0 +1,92 @@
+#include "sample_reports.h"
+
+#include "core/error.h"
+#include "core/text_decoding.h"
+#include "weather/decoded_report.h"
+
+#include <QHash>
+#include <QMap>
+#include <QRegularExpression>
+
+namespace morvane {
+
+namespace {
+
+/// Where a cycle of the sample data is from. Its reports keep their true dates.
+struct SampleCycle {
+    const char16_t* file;
+    QString cycle, month, year;
+};
+
+struct Position {
+    QString latitude, longitude;
+};
+using Positions = QHash<QString, Position>;
+
+Positions stationPositions(FileSystem& files, const FilePath& data, const std::vector<AirportRow>& airports) {
+    Positions positions;
+    for (const QString& line : splitLines(decodeText(files.read(data / u"stations\\nsd_cccc.txt")))) {
+        const QStringList fields = line.split(u';');
+        if (fields.size() > 8)
+            positions.insert(fields[0], {decimalDegrees(fields[7]), decimalDegrees(fields[8])});
+    }
+    for (const AirportRow& airport : airports)
+        positions.insert(airport.code, {airport.latitude, airport.longitude});
+    return positions;
+}
+
+/// The newest report of each station. The service's own form has a date line before every report and repeats
+/// reports out of order; in the plain form no line has a date, and the last one of a station stays.
+QMap<QString, QString> newestReports(const QString& text) {
+    static const QRegularExpression dateLine(u"^\\d{4}/\\d{2}/\\d{2} \\d{2}:\\d{2}$"_s);
+    QMap<QString, QString> newest;
+    QHash<QString, QString> dates;
+    QString date;
+    for (const QString& line : splitLines(text)) {
+        if (dateLine.match(line).hasMatch()) {
+            date = line;
+        } else if (const QString station = line.section(u' ', 0, 0);
+                   !station.isEmpty() && dates[station] <= date) {
+            dates[station] = date;
+            newest[station] = line;
+        }
+    }
+    return newest;
+}
+
+void addCycle(Session& session, const FilePath& data, const SampleCycle& cycle, const Positions& positions) {
+    clsWxFinderData rows(session);
+    for (const QString& line : newestReports(decodeText(session.files.read(data / cycle.file)))) {
+        clsDecodeMetar decoded(session.user);
+        decoded.decodeMetarString(line);
+        DecodedMetarRow row{toWxFinder(decoded, line), {}, {}};
+        row.report.WxFinderCycle = cycle.cycle;
+        row.report.WxFinderMonth = cycle.month;
+        row.report.WxFinderYear = cycle.year;
+        const Position position = positions.value(row.report.WxFinderIcao);
+        row.latitude = position.latitude;
+        row.longitude = position.longitude;
+        if (!rows.insertDecodedMetar(row)) throw Error(ErrorCode::storeFailure, line);
+    }
+}
+
+} // namespace
+
+QString decimalDegrees(const QString& coordinate) {
+    static const QRegularExpression form(u"^(\\d{1,3})-(\\d{2})(?:-(\\d{2}))?([NSEW])$"_s);
+    const QRegularExpressionMatch match = form.match(coordinate);
+    if (!match.hasMatch()) return {};
+    const double degrees =
+        match.captured(1).toInt() + match.captured(2).toInt() / 60.0 + match.captured(3).toInt() / 3600.0;
+    const bool negative = match.captured(4) == u"S" || match.captured(4) == u"W";
+    return QString::number(negative ? -degrees : degrees, 'f', 6);
+}
+
+void addSampleReports(Session& session, const FilePath& data, const std::vector<AirportRow>& airports) {
+    const Positions positions = stationPositions(session.files, data, airports);
+    // The older one first: where both have a station, the newer report stays.
+    addCycle(session, data, {u"metar\\Export_Cycle.dat", u"16"_s, u"October"_s, u"2007"_s}, positions);
+    addCycle(session, data, {u"metar\\02Z.TXT", u"2"_s, u"November"_s, u"2011"_s}, positions);
+}
+
+} // namespace morvane

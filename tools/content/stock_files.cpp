@@ -1,0 +1,93 @@
+#include "stock_files.h"
+
+#include "base_image_drawing.h"
+#include "core/error.h"
+#include "core/ordered_work.h"
+#include "imaging/recolouring.h"
+#include "imaging/texture_codec.h"
+#include "splash_screen.h"
+
+#include <QImage>
+
+namespace morvane {
+
+namespace {
+
+/// The sample simulator's look: paler and browner than any set of ours, so that a change is seen at once.
+constexpr ColourValues simulatorLook{-55, 6, 0, -6, -6, -10};
+
+struct DrawnImage {
+    Picture picture;
+    QByteArray body;
+    QByteArray simulatorTexture;
+};
+
+Picture pictureOf(const cDIBSection& section) {
+    const auto* pixels = section.DIBSectionBitsPtr();
+    const auto size =
+        static_cast<std::size_t>(section.BytesPerScanLine()) * static_cast<std::size_t>(section.Height());
+    return {section.Width(), section.Height(), std::vector<std::uint8_t>(pixels, pixels + size)};
+}
+
+DrawnImage draw(const BaseImage& image) {
+    DrawnImage drawn;
+    drawn.picture = drawBaseImage(image);
+    drawn.body = compressTexture(drawn.picture);
+    cDIBSection source, result;
+    source.CreateFromPicture(drawn.picture);
+    result.Create(source.Width(), source.Height());
+    recolour(simulatorLook, source, result);
+    drawn.simulatorTexture = compressTexture(pictureOf(result));
+    return drawn;
+}
+
+Picture toPicture(const QImage& image) {
+    const QImage pixels = image.convertToFormat(QImage::Format_BGR888);
+    Picture picture{pixels.width(), pixels.height(), {}};
+    const auto length = static_cast<std::size_t>(bytesPerRow(picture.width));
+    for (int y = picture.height - 1; y >= 0; --y) {
+        const uchar* row = pixels.constScanLine(y);
+        picture.rows.insert(picture.rows.end(), row, row + picture.width * 3);
+        picture.rows.resize((picture.rows.size() + length - 1) / length * length);
+    }
+    return picture;
+}
+
+void saveBitmap(const Picture& picture, const FilePath& target) {
+    cDIBSection section;
+    section.CreateFromPicture(picture);
+    if (!section.SavePicture(target)) throw Error(ErrorCode::diskFull, target.text());
+}
+
+FilePath simulatorFolder(const FilePath& simulator, const QString& resourceFolder) {
+    return simulator /
+           (resourceFolder == u"UTIND" ? u"Scenery\\UTEurLC\\Texture" : u"Scenery\\World\\Texture");
+}
+
+} // namespace
+
+int writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator, int density) {
+    const std::vector<BaseImage> images = baseImageList(density);
+    OrderedWork<DrawnImage> work(static_cast<int>(images.size()),
+                                 [&](int i) { return draw(images[static_cast<std::size_t>(i)]); });
+    for (const BaseImage& image : images) {
+        const DrawnImage drawn = work.next();
+        saveBitmap(drawn.picture, (home / u"Resources").child(image.resourceFolder).child(image.fileName));
+        files.write(home.child(image.resourceFolder).child(image.fileName), drawn.body);
+        files.write(simulatorFolder(simulator, image.resourceFolder).child(image.fileName.toUpper()),
+                    drawn.simulatorTexture);
+    }
+    return static_cast<int>(images.size());
+}
+
+void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simulator) {
+    for (const char16_t* code : {u"SKC", u"FEW", u"SCT", u"BKN", u"OVC"}) {
+        const QString cover = QStringView(code).toString();
+        saveBitmap(toPicture(drawSplash(cover)), home / u"Media" / (u"dlgSplash"_s + cover + u".bmp"_s));
+    }
+    const FilePath own = home / u"Media\\dlgsplash.bmp";
+    saveBitmap(toPicture(drawSplash({})), own);
+    files.copyContents(own, simulator / u"Uires\\dlgsplash.bmp");
+}
+
+} // namespace morvane

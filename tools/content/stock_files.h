@@ -1,0 +1,16 @@
+#pragma once
+
+#include "core/file_system.h"
+
+namespace morvane {
+
+/// Draws the stock of base images into `home`\Resources, compresses each unchanged into the bodies of the
+/// base install ("GENERIC WORLD", "UT EUROPE", "UTIND", "DUTCH" below `home`), and lays an older-looking
+/// texture of the same name into the sample simulator, in the upper-case spelling that simulators often have.
+/// Returns the number of base images.
+int writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator, int density);
+
+/// The splash pictures below `home`\Media, and the simulator's own in its "Uires".
+void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simulator);
+
+} // namespace morvane

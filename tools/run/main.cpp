@@ -1,0 +1,131 @@
+// morvane-run: the main job at the console, on a sample install: a METAR, its cover word, a ground set for
+// it, the question, the install, and a contact sheet to look at.
+
+#include "cli/console_user.h"
+#include "cli/terminal.h"
+#include "contact_sheet_samples.h"
+#include "core/application.h"
+#include "core/numbers.h"
+#include "core/options.h"
+#include "core/registry.h"
+#include "core/text_decoding.h"
+#include "ground/cloud_cover.h"
+#include "ground/ground_generation.h"
+#include "ground/ground_sets.h"
+#include "simulator/set_matching.h"
+#include "weather/metar_decoder.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+using namespace morvane;
+
+namespace {
+
+void say(const QString& text) {
+    writeStandardOutput(text + u'\n');
+}
+
+/// A report of the sample cycle with some weather in it.
+QString sampleReport(FileSystem& files) {
+    const QString cycle =
+        decodeText(files.read(FilePath(QStringLiteral(MORVANE_DATA_DIR)) / u"metar\\02Z.TXT"));
+    for (const QString& line : splitLines(cycle))
+        if (line.startsWith(u"KSEA ")) return line;
+    return {};
+}
+
+void describe(const clsDecodeMetar& report) {
+    const std::pair<const char16_t*, QString> lines[] = {
+        {u"Station", report.MetarICAO},
+        {u"Wind", report.WindDirection + u' ' + report.WindSpeed + report.WindSpeedMeasurement},
+        {u"Visibility", report.MetarVisiblity},
+        {u"Weather", report.MetarWeatherStrength + report.MetarWeather},
+        {u"Sky", report.MetarCloud},
+        {u"Temperature", report.MetarTemp},
+        {u"Pressure", report.MetarPressure},
+    };
+    for (const auto& [name, value] : lines)
+        if (!trimmedBlanks(value).isEmpty())
+            say(u"  %1 %2"_s.arg(QStringView(name).toString() + u':', -12).arg(value));
+}
+
+bool hasActivatedSet(Session& session, const QString& cover) {
+    for (const auto& set : loadedGroundSets(session))
+        if (set->TextureSet != u"Default" && set->Actvated == flagText(true) && set->CloudCover == cover)
+            return true;
+    return false;
+}
+
+void makeSet(Session& session, ConsoleUser& user, const QString& cover) {
+    say(u"There is no activated ground set for %1 yet, so one is made."_s.arg(cover));
+    user.onModal = [&](Screen screen) {
+        if (screen != Screen::frm_TsRequired) return;
+        session.modal.setCounts = {};
+        session.modal.setCounts[static_cast<std::size_t>(cloudCover(cover)->number - 1)] = 1;
+        session.modal.setCountsConfirmed = true;
+    };
+    QElapsedTimer timer;
+    timer.start();
+    GroundGeneration(session).createTextureSets(true);
+    say(u"Made '%1' in %2 s."_s.arg(session.ground.SelectedGroundSet)
+            .arg(timer.elapsed() / 1000.0, 0, 'f', 1));
+}
+
+void fly(Session& session) {
+    QElapsedTimer timer;
+    timer.start();
+    const int copied = flyNow(session);
+    if (copied < 0) {
+        say(u"Nothing was installed."_s);
+        return;
+    }
+    say(u"Installed ground set '%1': %2 files in %3 s, into %4"_s.arg(session.ground.SelectedGroundSet)
+            .arg(copied)
+            .arg(timer.elapsed() / 1000.0, 0, 'f', 1)
+            .arg(session.FSPath.text()));
+}
+
+int run(Session& session, ConsoleUser& user, const QString& metar, const QString& sheet) {
+    if (!startUp(session)) return 1;
+    getCustomSplashVal(session);
+    say(u"METAR: "_s + metar);
+    clsDecodeMetar report(user);
+    report.decodeMetarString(metar);
+    describe(report);
+    if (!processMetarString(session, metar)) return 1;
+    const QString cover = SetMatching::coverWord(SetMatching(session).getAverageCloudCover());
+    say(u"Cloud cover: "_s + cover);
+    if (!hasActivatedSet(session, cover)) makeSet(session, user, cover);
+    fly(session);
+    writeContactSheet(session, sheet);
+    say(u"Contact sheet: "_s + sheet);
+    exitProgram(session);
+    return user.hasFailed() ? 1 : 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"From a METAR to an installed ground set, on a sample install."_s);
+    parser.addHelpOption();
+    parser.addOption({u"home"_s, u"The install folder."_s, u"DIR"_s});
+    parser.addOption({u"sheet"_s, u"Where the contact sheet goes."_s, u"PNG"_s});
+    parser.addOption({u"metar"_s, u"A report of your own; else one of the sample cycle."_s, u"TEXT"_s});
+    parser.process(application);
+    if (!parser.isSet(u"home"_s) || !parser.isSet(u"sheet"_s)) parser.showHelp(2);
+
+    NativeFileSystem files;
+    SystemClock clock;
+    ReseedingRandomSource random;
+    ConsoleUser user({isTerminal() ? AnswerPolicy::ask : AnswerPolicy::yes, true});
+    const FilePath home(QFileInfo(parser.value(u"home"_s)).absoluteFilePath());
+    const auto registry = openRegistry(files, home);
+    Session session({user, files, clock, random, *registry}, home);
+    const QString metar = parser.isSet(u"metar"_s) ? parser.value(u"metar"_s) : sampleReport(files);
+    return run(session, user, metar, QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath());
+}
