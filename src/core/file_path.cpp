@@ -4,9 +4,14 @@
 #include "core/numbers.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
-#include <filesystem>
+#include <memory>
+
+#ifndef Q_OS_WIN
+#include <dirent.h>
+#endif
 
 namespace morvane {
 
@@ -21,17 +26,21 @@ bool existsExactly(const QString& path) {
     return info.exists() || info.isSymLink(); // a dangling link is there, too
 }
 
-/// The name as the folder spells it, or as given when the folder has no such name in any case.
+#ifndef Q_OS_WIN
+/// The name as the folder spells it, or as given when the folder has no such name in any case. Folders have
+/// thousands of names, and this is asked for every new file of an install: no file's properties are read.
 QString spellingOnDisk(const QString& folder, const QString& name) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> directory(opendir(QFile::encodeName(folder).constData()),
+                                                        closedir);
     QString found;
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.toStdU16String(), error)) {
-        const QString spelling = QString::fromStdU16String(entry.path().filename().u16string());
+    while (const dirent* entry = directory ? readdir(directory.get()) : nullptr) {
+        const QString spelling = QFile::decodeName(entry->d_name);
         const bool same = spelling.compare(name, Qt::CaseInsensitive) == 0;
         if (same && (found.isEmpty() || spelling < found)) found = spelling;
     }
     return found.isEmpty() ? name : found;
 }
+#endif
 
 void refuseUnsafe(QStringView name) {
     const bool unsafe = name == u".." || name.contains(QChar(u'\0')) || name.contains(u':');
@@ -50,6 +59,7 @@ FilePath::FilePath(const QString& systemPath) : root_(systemPath) {
 
 FilePath FilePath::operator/(QStringView relative) const {
     FilePath joined = *this;
+    joined.resolved_.clear();
     qsizetype start = 0;
     for (qsizetype i = 0; i <= relative.size(); ++i) {
         if (i < relative.size() && !isSeparator(relative[i])) continue;
@@ -70,6 +80,7 @@ FilePath FilePath::child(const QString& name) const {
 
 FilePath FilePath::parent() const {
     FilePath above = *this;
+    above.resolved_.clear();
     if (!above.names_.isEmpty())
         above.names_.removeLast();
     else
@@ -86,7 +97,14 @@ QString FilePath::text() const {
     return QDir::toNativeSeparators(joined);
 }
 
+FilePath FilePath::resolved() const {
+    FilePath path = *this;
+    path.resolved_ = native();
+    return path;
+}
+
 QString FilePath::native() const {
+    if (!resolved_.isEmpty()) return resolved_;
     if (names_.isEmpty()) return root_;
     const QString base = root_.endsWith(u'/') ? root_ : root_ + u'/';
     const QString asJoined = base + names_.join(u'/');

@@ -34,10 +34,13 @@ public:
     /// The path on this system. Each name is taken in the spelling found on the disk, if need be without
     /// regard to case; names that do not exist stay as joined. Exact spelling wins over any other.
     QString native() const;
+    /// The same path with the spelling on the disk looked up now and kept, for several operations in a row.
+    FilePath resolved() const;
 
 private:
     QString root_;
     QStringList names_;
+    QString resolved_; ///< empty until looked up
 };
 
 /// True when the mask ("*" any run, "?" one character) takes the whole name, without regard to case.

@@ -175,7 +175,7 @@ QByteArray NativeFileSystem::read(const FilePath& file) {
 }
 
 void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
-    const FilePath placed(file.native());
+    const FilePath placed = file.resolved();
     const FilePath part(placed.native() + partialCopySuffix);
     {
         QFile out(part.native());

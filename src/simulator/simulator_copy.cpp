@@ -21,8 +21,9 @@ void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
 }
 
 void SimulatorCopier::copy(const FileCopy& copy) {
-    originals_.keep(copy.target);
-    replaceFile(session_.files, copy.source, copy.target);
+    const FilePath target = copy.target.resolved();
+    originals_.keep(target);
+    replaceFile(session_.files, copy.source, target);
 }
 
 void copyIntoSimulator(Session& session, const FilePath& source, const FilePath& target) {
