@@ -1,6 +1,6 @@
 #include "imaging/saturation_kernel.h"
 
-#include "imaging/pixel_run.h"
+#include "imaging/pixel_blocks.h"
 
 #include <cstring>
 #include <immintrin.h>
@@ -31,7 +31,7 @@ constexpr int groupPixels = 8;
 constexpr int groups = 16;
 constexpr std::size_t blockPixels = groupPixels * groups;
 /// Four pixels are stored as 16 bytes, the last four to be overwritten by the next ones.
-constexpr std::size_t blockBytes = 3 * blockPixels + 4;
+constexpr std::size_t spill = 4;
 
 using Levels = std::array<std::array<float, 256>, channelCount>;
 
@@ -223,15 +223,14 @@ void recolourBlock(Block& block, Doubles percent, const Levels& levels, const st
 } // namespace
 
 void SaturationKernel::run(const std::uint8_t* source, std::uint8_t* destination, std::size_t pixels) const {
-    const PixelRun<blockPixels> input(source, pixels);
-    std::uint8_t recoloured[blockBytes];
+    PixelBlocks<blockPixels, spill> blocks(source, destination, pixels);
     Block block;
     for (int group = 0; group < groups; ++group)
-        lookUp(levels_, input.block(0), block, group);
+        lookUp(levels_, blocks.source(0), block, group);
     for (std::size_t first = 0; first < pixels; first += blockPixels) {
-        recolourBlock(block, doubles(saturationPercent_), levels_, input.block(first + blockPixels),
-                      recoloured);
-        std::memcpy(destination + 3 * first, recoloured, input.bytes(first));
+        recolourBlock(block, doubles(saturationPercent_), levels_, blocks.source(first + blockPixels),
+                      blocks.target(first));
+        blocks.finish(first);
     }
 }
 

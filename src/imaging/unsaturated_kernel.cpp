@@ -1,6 +1,6 @@
 #include "imaging/unsaturated_kernel.h"
 
-#include "imaging/pixel_run.h"
+#include "imaging/pixel_blocks.h"
 
 #include <algorithm>
 #include <cstring>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t blockPixels = 128;
 /// A pixel is stored as four bytes, the fourth to be overwritten by the next one.
-constexpr std::size_t blockBytes = 3 * blockPixels + 1;
+constexpr std::size_t spill = 1;
 
 void storePixel(__m128i looked, std::uint8_t* destination) {
     const int bytes = _mm_cvtsi128_si32(looked);
@@ -86,13 +86,13 @@ UnsaturatedKernel::UnsaturatedKernel(const ChannelTables& tables) {
 
 void UnsaturatedKernel::run(const std::uint8_t* source, std::uint8_t* destination, std::size_t pixels) const {
     const Lookup lookup{*this};
-    const PixelRun<blockPixels> input(source, pixels);
-    std::uint8_t recoloured[blockBytes];
+    PixelBlocks<blockPixels, spill> blocks(source, destination, pixels);
     for (std::size_t first = 0; first < pixels; first += blockPixels) {
-        const std::uint8_t* block = input.block(first);
+        const std::uint8_t* block = blocks.source(first);
+        std::uint8_t* target = blocks.target(first);
         for (std::size_t offset = 0; offset < 3 * blockPixels; offset += 12)
-            lookup.recolourFour(block + offset, recoloured + offset);
-        std::memcpy(destination + 3 * first, recoloured, input.bytes(first));
+            lookup.recolourFour(block + offset, target + offset);
+        blocks.finish(first);
     }
 }
 
