@@ -120,7 +120,8 @@ MORVANE_INLINE void setLightness(Block& block, int group) {
     block.headroom[group] = _mm256_blendv_ps(floats(1) - lightness, lightness, isDark);
 }
 
-/// Saturation and hue by one division: the reciprocal of the product of both denominators.
+/// Saturation and hue by one division: the reciprocal of the product of both denominators. A zero denominator
+/// stands in with mHLSRGB's number; such a pixel has no headroom and comes out black or white.
 template <int half>
 MORVANE_INLINE void setSaturationAndHue(Block& block, int group) {
     const Doubles largest = widened<half>(block.largest[group]);

@@ -129,11 +129,19 @@ TEST_F(SkyColouriser, ScalesBrightnessAndContrastButNotSaturation) {
     group.brightness = 0;
     group.contrast = 100;
     colouriser.skyTextureGroups[0] = group;
-    EXPECT_EQ(test::pixelAt(skyOf({137, 127, 117}), 0, 0), (RgbColour{140, 127, 114}));
+    EXPECT_EQ(test::pixelAt(skyOf({177, 127, 77}), 0, 0), (RgbColour{192, 127, 62}));
     group.contrast = 0;
     group.saturation = -100;
     colouriser.skyTextureGroups[0] = group;
     EXPECT_EQ(test::pixelAt(skyOf({200, 100, 50}), 0, 0), (RgbColour{125, 125, 125}));
+}
+
+TEST_F(SkyColouriser, IsNotTheSameAsScaledValues) {
+    // 250 at -19.8 % is a tie, 200.5; the value that `process` takes was cut to a float and lies above it.
+    colouriser.skyTextureGroups[0] = groupAt(1, 1, 1, -99);
+    colouriser.Red = static_cast<float>(-99 * 0.2);
+    EXPECT_EQ(test::pixelAt(skyOf({250, 0, 0}), 0, 0).red, 200);
+    EXPECT_EQ(processed({250, 0, 0}).red, 201);
 }
 
 TEST_F(SkyColouriser, KeepsTwoTables) {
