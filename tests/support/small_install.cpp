@@ -35,7 +35,9 @@ void addSetRow(RowSet& rows, const QString& name, const QString& cover, bool act
     rows.update();
 }
 
-void makeStore(const FilePath& path) {
+QByteArray makeStore() {
+    const TemporaryFolder folder;
+    const FilePath path = folder / u"Morvane.mdb";
     Store store;
     store.create(path);
     createSchema(store);
@@ -51,6 +53,13 @@ void makeStore(const FilePath& path) {
     RowSet sets(store, u"SELECT * FROM TEXTURE_SETS"_s);
     addSetRow(sets, u"Default"_s, u"Partly Cloudy"_s, true);
     store.close();
+    return readFile(path);
+}
+
+/// Made once for all small installs of a test program: making one waits for the disk.
+const QByteArray& storeBytes() {
+    static const QByteArray bytes = makeStore();
+    return bytes;
 }
 
 void makeFolders(const FilePath& home, const FilePath& simulator) {
@@ -108,7 +117,7 @@ SmallInstall::SmallInstall(const SmallInstallOptions& options)
     : registry(files, home() / u"registry.ini"), session({user, files, clock, random, registry}, home()) {
     makeFolders(home(), simulator());
     makeBaseImages(home(), simulator(), options);
-    makeStore(home() / u"Morvane.mdb");
+    writeFile(home() / u"Morvane.mdb", storeBytes());
     registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
     registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, simulator().native());
     registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
