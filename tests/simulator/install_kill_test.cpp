@@ -1,0 +1,139 @@
+#include "core/application.h"
+#include "ground/ground_installation.h"
+#include "simulator/originals.h"
+#include "support/faulty_store.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <csignal>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <random>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace morvane {
+namespace {
+
+using test::contentsBelow;
+using test::SmallInstall;
+using test::writeFile;
+
+constexpr int fileCount = 300;
+constexpr int fileSize = 60'000;
+constexpr int rounds = 24;
+constexpr qint64 patienceMilliseconds = 60'000;
+
+QString fileName(int i) {
+    return u"%1a2su1.bmp"_s.arg(i, 3, 10, QChar(u'0'));
+}
+
+pid_t startInstall(const FilePath& home, const QString& set) {
+    const std::string program = MORVANE_BIN_DIR "/morvane-cli", homeText = home.native().toStdString(),
+                      name = set.toStdString();
+    const char* arguments[] = {program.c_str(), "--home",     homeText.c_str(), "ground",
+                               "install",       name.c_str(), nullptr};
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    pid_t process = 0;
+    const int result =
+        posix_spawn(&process, program.c_str(), &actions, nullptr, const_cast<char**>(arguments), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    return result == 0 ? process : -1;
+}
+
+int waitFor(pid_t process) {
+    int status = 0;
+    waitpid(process, &status, 0);
+    return status;
+}
+
+/// Two sets of the same names but other contents lie ready; set A stands in the simulator.
+class InstallKills : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const auto& [set, letter] : {std::pair{setA, 'A'}, std::pair{setB, 'B'}}) {
+            install.addGroundSet(set, u"Overcast"_s, true);
+            for (int i = 0; i < fileCount; ++i)
+                writeFile(install.home() / u"Texture Sets" / set / u"Texture" / fileName(i),
+                          QByteArray(fileSize, letter));
+        }
+        for (int i = 0; i < fileCount; i += 3)
+            writeFile(world() / fileName(i).toUpper(), "the pilot's");
+        pilots = contentsBelow(install.simulator());
+        closeDatabase(install.session);
+        putWhole(setA);
+    }
+
+    FilePath world() const { return install.simulator() / u"Scenery\\World\\texture"; }
+
+    void putWhole(const QString& set) { ASSERT_EQ(waitFor(startInstall(install.home(), set)), 0); }
+
+    bool isFile(int i, char letter) {
+        QFile file((world() / fileName(i)).native());
+        char first = 0;
+        return file.open(QIODevice::ReadOnly) && file.getChar(&first) && first == letter;
+    }
+
+    /// Kills the install as soon as its file of that number has come. True when it was still alive then.
+    bool killAt(pid_t process, int moment) {
+        QElapsedTimer timer;
+        timer.start();
+        while (!isFile(moment, 'B') && timer.elapsed() < patienceMilliseconds)
+            std::this_thread::yield();
+        kill(process, SIGKILL);
+        return WIFSIGNALED(waitFor(process));
+    }
+
+    /// Counts files of each set; anything else but whole files and parts fails the test.
+    std::pair<int, int> countWhole() {
+        int a = 0, b = 0;
+        const auto now = contentsBelow(world());
+        for (auto file = now.begin(); file != now.end(); ++file) {
+            if (file.key().endsWith(".morvane-part") || file.value().startsWith("the pilot's")) continue;
+            const bool isA = file.value() == QByteArray(fileSize, 'A');
+            const bool isB = file.value() == QByteArray(fileSize, 'B');
+            EXPECT_TRUE(isA || isB) << "torn: " << qPrintable(file.key());
+            a += isA;
+            b += isB;
+        }
+        return {a, b};
+    }
+
+    const QString setA = u"2-Á"_s, setB = u"3-B"_s;
+    SmallInstall install{test::SmallInstallOptions{QStringList{}, 16}};
+    QMap<QString, QByteArray> pilots;
+};
+
+TEST_F(InstallKills, leaveNoTornFileAndNothingStray) {
+    std::mt19937 random(20040729);
+    int cut = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const int moment = static_cast<int>(random() % fileCount);
+        const bool killed = killAt(startInstall(install.home(), setB), moment);
+        const auto [a, b] = countWhole();
+        EXPECT_EQ(a + b, fileCount);
+        cut += killed && a > 0 && b > 0;
+        EXPECT_EQ(test::integrityOf(install.home() / u"Morvane.mdb"), "ok");
+
+        putWhole(setA);
+        EXPECT_EQ(countWhole(), std::pair(fileCount, 0));
+        EXPECT_TRUE(install.files.list(world(), "*.morvane-part").isEmpty());
+    }
+    std::cout << "install: " << cut << " of " << rounds << " kills came in the middle\n";
+    EXPECT_GE(cut, rounds / 2);
+
+    Originals(install.files, install.session.FSPath, install.session.AppPath).restore();
+    const auto now = contentsBelow(install.simulator());
+    for (auto file = pilots.begin(); file != pilots.end(); ++file)
+        EXPECT_EQ(now.value(file.key()), file.value()) << qPrintable(file.key());
+}
+
+} // namespace
+} // namespace morvane
