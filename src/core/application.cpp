@@ -5,15 +5,7 @@
 #include "core/registry.h"
 #include "core/store.h"
 #include "ground/cloud_cover.h"
-#include "ground/texture_sets.h"
-#include "night/night_texture_sets.h"
-#include "simulator/backups.h"
-#include "simulator/configs.h"
-#include "simulator/resource_folders.h"
 #include "simulator/set_matching.h"
-#include "sky/sky_texture_sets.h"
-#include "sky/sky_texture_sub_sets.h"
-#include "weather/wx_finders.h"
 
 #include <QCoreApplication>
 #include <QProcessEnvironment>
@@ -59,13 +51,6 @@ bool findSimulator(Session& session) {
     }
     session.FSPath = FilePath(path);
     return true;
-}
-
-void clearDownloadedCycles(Session& session) {
-    const FilePath folder = session.AppPath / u"METAR";
-    if (session.files.list(folder, u"*.txt"_s).isEmpty()) return;
-    for (const QString& name : session.files.list(folder, u"*.*"_s))
-        session.files.remove(folder.child(name));
 }
 
 } // namespace
@@ -120,19 +105,6 @@ void runCommandLine(Session& session, const QString& argument) {
         session.WxStrengthList = QStringList{QString()};
     }
     flyNow(session);
-}
-
-void exitProgram(Session& session) {
-    session.gConfigs.reset();
-    session.gResources.reset();
-    session.gBackups.reset();
-    session.gTextureSets.reset();
-    session.gNightTextureSets.reset();
-    session.gSkyTextureSets.reset();
-    session.gSkyTextureSubSets.reset();
-    session.gWxFinders.reset();
-    reportFailures(session.user, {}, [&] { clearDownloadedCycles(session); });
-    closeDatabase(session);
 }
 
 } // namespace morvane

@@ -13,7 +13,11 @@ bool startUp(Session& session);
 /// other text leaves the cover open, which makes it "Partly Cloudy", without a word.
 void runCommandLine(Session& session, const QString& argument);
 
-/// The exit flow: releases the collections, empties "\METAR" when it holds a text file and closes the store.
+/// Asks whether the simulator goes back to "Default" when a set of a weather stands in it, and does so on OK.
+void checkResetTextures(Session& session);
+
+/// The exit flow: asks that question but for an unattended run and a launch of the simulator, releases the
+/// collections, empties "\METAR" when it holds a text file and closes the store.
 void exitProgram(Session& session);
 
 /// Opens the store into `session.adoConn`. A failure shows a plain box; the start goes on without a store.

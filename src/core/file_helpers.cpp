@@ -2,7 +2,9 @@
 
 #include "core/failure_report.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QtEndian>
 
 namespace morvane {
@@ -43,6 +45,13 @@ QString GetFileTime(Session& session, const FilePath& path) {
         text = FormatSystemTimeDate(time) + time.toString(u" hh:mm") + u":00"_s;
     });
     return text;
+}
+
+QString GetSpecialFolder(int number) {
+    constexpr int documents = 5;
+    if (number != documents) return {};
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return folder.isEmpty() ? folder : QDir::toNativeSeparators(folder + u'/');
 }
 
 QString getFileVersionText(FileSystem& files, const FilePath& path) {

@@ -19,6 +19,10 @@ QString FormatSystemTimeDate(const QDateTime& time);
 /// Now in UTC as "2006/07/14 14:07".
 QString getUtcText(const Clock& clock);
 
+/// The user's folder of that number, with a separator behind it; empty for a number without a folder here.
+/// Known is 5, the documents.
+QString GetSpecialFolder(int number);
+
 /// File version of a Windows executable as "a.b.c.d", from its fixed version record; empty without one.
 QString getFileVersionText(FileSystem& files, const FilePath& path);
 /// The part of a version text by index; missing and non-numeric parts count as 0.

@@ -53,9 +53,13 @@ QString screenName(Screen screen) {
 }
 
 bool UserInterface::ask(Question question, const QString& title, const QString& text) {
+    return ask(question, {MessageKind::question, title, text, true, true});
+}
+
+bool UserInterface::ask(Question question, const Message& message) {
     answers_.setFlag(question, false);
     answers_.mark(question);
-    showMessage({MessageKind::question, title, text, true, true, false});
+    showMessage(message);
     answers_.unmark(question);
     return answers_.flag(question);
 }

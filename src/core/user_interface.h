@@ -21,6 +21,8 @@ struct Message {
     bool withOk = true;
     bool withCancel = false;
     bool isProgress = false;
+    /// Shows "Click here if you do not want to see this message again"; a tick is stored at once.
+    bool offersFastExit = false;
 };
 
 /// Screens by the names that the whole program uses for them.
@@ -83,6 +85,7 @@ public:
 
     /// Marks the question, shows the message (kind Question, OK and Cancel), unmarks it and gives its flag.
     bool ask(Question question, const QString& title, const QString& text);
+    bool ask(Question question, const Message& message);
 
 private:
     UserAnswers answers_;

@@ -2,40 +2,13 @@
 
 #include "core/failure_report.h"
 #include "core/ordered_work.h"
+#include "ground/texture_image.h"
 #include "imaging/picture_reader.h"
-#include "imaging/recolouring.h"
 #include "imaging/texture_codec.h"
-
-#include <memory>
-#include <optional>
 
 namespace morvane {
 
 namespace {
-
-/// What a worker hands back: a recoloured picture, or why there is none.
-struct ColouredFile {
-    std::unique_ptr<cDIBSection> picture;
-    std::optional<QString> failure;
-};
-
-/// The base file's picture in the set's colours. A failure is carried to the thread that may show it.
-ColouredFile openImageForTextureSet(FileSystem& files, const FilePath& path, const Recolouring& recolouring) {
-    ColouredFile coloured;
-    try {
-        cDIBSection source;
-        source.CreateFromPicture(loadPicture(files, path));
-        auto result = std::make_unique<cDIBSection>();
-        if (!result->Create(source.Width(), source.Height())) throw Error(ErrorCode::outOfMemory);
-        coloured.picture = std::move(result);
-        recolouring.apply(source, *coloured.picture);
-    } catch (const Error& error) {
-        coloured.failure = error.description();
-    } catch (const std::exception&) {
-        coloured.failure = Error(ErrorCode::outOfMemory).description();
-    }
-    return coloured;
-}
 
 /// Empty for a picture that the format does not take: the set then has one file fewer, and nobody is told.
 QByteArray compressedFile(FileSystem& files, const FilePath& path) {

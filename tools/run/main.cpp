@@ -102,7 +102,7 @@ int run(Session& session, ConsoleUser& user, const QString& metar, const QString
     fly(session);
     writeContactSheet(session, sheet);
     say(u"Contact sheet: "_s + sheet);
-    exitProgram(session);
+    closeDatabase(session);
     return user.hasFailed() ? 1 : 0;
 }
 
