@@ -1,14 +1,15 @@
 #include "imaging/texture_codec.h"
 
 #include "core/error.h"
-#include "imaging/colour_blocks.h"
 #include "imaging/picture_reader.h"
 #include "imaging/texture_level.h"
 
 #include <QtEndian>
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
+#include <stb/stb_dxt.h>
 
 namespace morvane {
 
@@ -18,6 +19,7 @@ constexpr int headerSize = 74;
 constexpr int blockSide = 4;
 constexpr int blockSize = 8;
 constexpr int largestSide = 1024;
+constexpr std::size_t pixelSize = 4;
 
 bool isTextureSide(int side) {
     return side >= blockSide && side <= largestSide && std::has_single_bit(static_cast<unsigned>(side));
@@ -65,39 +67,35 @@ void writeHeader(char* header, int width, int height) {
     put(66, (counted - 1) << 16); // counted levels below the first
 }
 
-/// The pixels of one block; beyond the edge of a small level the edge is repeated.
-void fillBlock(const TextureLevel& level, int left, int firstRow, BlockPixels& block) {
-    for (int y = 0; y < blockSide; ++y) {
-        const int row = std::min(firstRow + y, level.height - 1);
-        const auto rowStart = static_cast<std::size_t>(row) * static_cast<std::size_t>(level.width);
-        std::uint8_t* target = block.data() + y * 16;
-        if (level.width >= blockSide) {
-            std::memcpy(target, &level.pixels[(rowStart + static_cast<std::size_t>(left)) * 4], 16);
-            continue;
+/// Four by four pixels, four bytes each. The encoder compares them as whole words, hence the alignment.
+struct BlockPixels {
+    alignas(std::uint32_t) std::array<std::uint8_t, 64> bytes;
+};
+
+/// The block from column `left` and row `firstRow` on; beyond the edge of a small level the edge is repeated.
+BlockPixels blockOf(const TextureLevel& level, int left, int firstRow) {
+    BlockPixels block;
+    std::uint8_t* target = block.bytes.data();
+    for (int y = firstRow; y < firstRow + blockSide; ++y)
+        for (int x = left; x < left + blockSide; ++x, target += pixelSize) {
+            const int pixel = std::min(y, level.height - 1) * level.width + std::min(x, level.width - 1);
+            std::memcpy(target, &level.pixels[static_cast<std::size_t>(pixel) * pixelSize], pixelSize);
         }
-        for (int x = 0; x < blockSide; ++x, target += 4)
-            std::memcpy(
-                target,
-                &level.pixels[(rowStart + static_cast<std::size_t>(std::min(x, level.width - 1))) * 4], 4);
-    }
+    return block;
+}
+
+/// The encoder puts the greater end first, which makes a block one of four colours, but gives some blocks of
+/// one colour equal ends and index 2. Readers take equal ends as three colours, where only index 0 is safe.
+void encodeBlock(const BlockPixels& block, std::uint8_t* target) {
+    stb_compress_dxt_block(target, block.bytes.data(), 0, STB_DXT_HIGHQUAL);
+    if (std::memcmp(target, target + 2, 2) == 0) std::memset(target + 4, 0, 4);
 }
 
 /// Rows lie bottom-up in the file as in the picture, so blocks follow in the order of memory, without a flip.
 std::uint8_t* encodeLevel(const TextureLevel& level, std::uint8_t* target) {
-    const int count = sizeOfLevels(level.width, level.height, 1) / blockSize;
-    FourBlockPixels blocks = {};
-    std::array<std::uint8_t, blocksAtOnce * blockSize> encoded;
-    int x = 0, y = 0;
-    for (int left = count; left > 0; left -= blocksAtOnce) {
-        const int taken = std::min(blocksAtOnce, left); // the smallest levels do not fill the lanes
-        for (int i = 0; i < taken; ++i) {
-            fillBlock(level, x, y, blocks[static_cast<std::size_t>(i)]);
-            x += blockSide;
-            if (x >= level.width) x = 0, y += blockSide;
-        }
-        encodeColourBlocks(blocks, encoded.data());
-        target = std::copy_n(encoded.data(), taken * blockSize, target);
-    }
+    for (int y = 0; y < level.height; y += blockSide)
+        for (int x = 0; x < level.width; x += blockSide, target += blockSize)
+            encodeBlock(blockOf(level, x, y), target);
     return target;
 }
 
@@ -113,12 +111,10 @@ QByteArray compressTexture(const Picture& picture) {
     const int levels = levelsOf(width, height);
     QByteArray file(headerSize + sizeOfLevels(width, height, levels), Qt::Uninitialized);
     writeHeader(file.data(), width, height);
+    auto* target = reinterpret_cast<std::uint8_t*>(file.data()) + headerSize;
     TextureLevel level = levelOf(picture);
-    auto* target = encodeLevel(level, reinterpret_cast<std::uint8_t*>(file.data()) + headerSize);
-    for (int i = 1; i < levels; ++i) {
-        level = halved(level);
+    for (int i = 0; i < levels; ++i, level = halved(level))
         target = encodeLevel(level, target);
-    }
     return file;
 }
 
