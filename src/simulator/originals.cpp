@@ -12,6 +12,10 @@ namespace morvane {
 
 namespace {
 
+/// Written in front of what is added: the line that a kill tore must not swallow the next one, and, torn
+/// inside its path, must not pass for a line about another file. The tab gives it a field too many.
+const QString tornLineEnd = u"\t\n"_s;
+
 /// The simulator's names are read without regard to case, so the list's are, too.
 QString keyOf(const QString& path) {
     return path.toCaseFolded();
@@ -35,9 +39,11 @@ Originals::Originals(FileSystem& files, const FilePath& simulator, const FilePat
 }
 
 void Originals::load() {
-    for (const QString& text : splitLines(QString::fromUtf8(readIfThere(files_, listFile_)))) {
+    QByteArray whole = readIfThere(files_, listFile_);
+    whole.truncate(whole.lastIndexOf('\n') + 1); // the line that a kill tore
+    for (const QString& text : splitLines(QString::fromUtf8(whole))) {
         const QStringList fields = text.split(u'\t');
-        if (fields.size() != 4) continue; // the torn last line of a killed run
+        if (fields.size() != 4 || fields[3].isEmpty()) continue; // the same, with tornLineEnd behind it
         const QString& path = fields[3];
         const Fingerprint print{fields[1].toLongLong(), fields[2]};
         paths_.insert(keyOf(path), path);
@@ -70,8 +76,7 @@ void Originals::announce(const std::vector<FileCopy>& copies) {
     }
     if (lines.isEmpty()) return;
     files_.makeFolder(folder_);
-    // A line break first: a line that a kill tore must not swallow the next one.
-    files_.append(listFile_, (u'\n' + lines).toUtf8());
+    files_.append(listFile_, (tornLineEnd + lines).toUtf8());
 }
 
 void Originals::settle() {
@@ -114,7 +119,7 @@ void Originals::keep(const FilePath& target) {
         files_.rename(part, copy);
     }
     const Fingerprint print = fingerprint(copy);
-    files_.append(listFile_, (u'\n' + line("kept", print, path)).toUtf8());
+    files_.append(listFile_, (tornLineEnd + line("kept", print, path)).toUtf8());
     kept_.insert(keyOf(path), {path, print.size, print.checksum});
 }
 
