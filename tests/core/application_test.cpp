@@ -1,0 +1,196 @@
+#include "core/application.h"
+
+#include "core/options.h"
+#include "core/store.h"
+#include "ground/ground_sets.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::SmallInstall;
+using test::writeFile;
+
+/// A complete install whose first session is over; the tests start the next one.
+struct ApplicationTest : testing::Test {
+    SmallInstall install;
+    test::ScriptedUser& user = install.user;
+    Session session{{user, install.files, install.clock, install.random, install.registry}, install.home()};
+
+    void SetUp() override {
+        closeDatabase(install.session);
+        user.calls.clear();
+    }
+    void storePath(const QString& path) {
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, path);
+    }
+    QString storedPath() {
+        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s);
+    }
+    QStringList boxes() const { return user.calls.filter(u"box "_s); }
+};
+
+const QString firstBox = u"box Your registry does not contain the proper path to FS9.EXE. Please browse to "
+                         u"your main Flight Simulator 2004 folder (it needs to contain FS9.EXE)."_s;
+const QString retryBox =
+    u"box The folder path you selected does not contain FS9.EXE. Please verify your FS2004 path and try "
+    u"again. You can do this by right-clicking your shortcut to Flight Simulator, and select Properties. You "
+    u"will see the folder listed. Would you like to try to locate the folder again? If you select no, we "
+    u"will exit."_s;
+
+TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
+    install.files.removeFolder(install.home() / u"Backup");
+    Store store;
+    store.open(install.home() / u"Morvane.mdb");
+    store.execute(u"UPDATE TEXTURE_SWITCH SET ISTROPICAL = TRUE, ISFASTEXIT = TRUE"_s);
+    store.close();
+    ASSERT_TRUE(startUp(session));
+    EXPECT_EQ(session.FSPath.native(), install.simulator().native());
+    EXPECT_TRUE(session.adoConn->isOpen());
+    EXPECT_EQ(session.AirportQuery, u"SELECT * FROM AIRPORTDATA"_s);
+    EXPECT_TRUE(install.files.isFolder(session.BackupPath));
+    EXPECT_FALSE(session.IsWideClient || session.IsDutch || session.IsHalo);
+    EXPECT_TRUE(session.IsTropical && session.IsFastExit);
+    EXPECT_TRUE(user.calls.isEmpty()) << user.calls.join(u'\n').toStdString();
+}
+
+TEST_F(ApplicationTest, aBackslashBehindTheRegistrysPathIsNoMatter) {
+    storePath(install.simulator().native() + u'\\');
+    ASSERT_TRUE(startUp(session));
+    EXPECT_EQ(session.FSPath.native(), install.simulator().native());
+}
+
+TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
+    install.files.remove(install.home() / u"registry.ini");
+    const QString right = install.simulator().native();
+    user.foldersToChoose = {install.home().native(), {}, right}; // a wrong one, a cancelled browser
+    user.answersToGive = {true, true, false};                    // again, again, and no WideFS client
+    ASSERT_TRUE(startUp(session));
+    EXPECT_EQ(user.calls.mid(0, 6),
+              QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s}));
+    EXPECT_EQ(session.FSPath.native(), right);
+    EXPECT_EQ(storedPath(), right);
+}
+
+TEST_F(ApplicationTest, whoGivesUpLeavesNothingBehind) {
+    storePath(u"/nowhere"_s);
+    install.files.removeFolder(install.home() / u"Backup");
+    const auto before = test::contentsBelow(install.home());
+    user.foldersToChoose = {install.home().native()};
+    user.otherwise = false;
+    EXPECT_FALSE(startUp(session));
+    EXPECT_EQ(user.calls, QStringList({firstBox, u"browse"_s, retryBox}));
+    EXPECT_EQ(session.adoConn, nullptr);
+    EXPECT_EQ(test::contentsBelow(install.home()), before);
+    EXPECT_FALSE(install.files.exists(install.home() / u"Backup"));
+}
+
+TEST_F(ApplicationTest, goesOnWithoutAStoreAndEachLoadTellsForItself) {
+    const FilePath store = install.home() / u"Morvane.mdb";
+    const QByteArray good = test::readFile(store);
+    Store holder;
+    struct Case {
+        const char* name;
+        std::function<void()> spoil;
+        QString said;
+    };
+    const Case cases[] = {
+        {"missing", [&] { install.files.remove(store); }, u"file not found"_s},
+        {"garbage", [&] { writeFile(store, QByteArray("no store at all ").repeated(500)); },
+         u"not a database"_s},
+        {"empty", [&] { writeFile(store, {}); }, u"it holds no tables"_s},
+        {"locked",
+         [&] {
+             writeFile(store, good);
+             holder.open(store);
+             holder.execute(u"PRAGMA locking_mode = EXCLUSIVE"_s);
+             holder.execute(u"DELETE FROM MV_BACKUP WHERE ID = 0"_s);
+         },
+         u"the database is locked"_s},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        c.spoil();
+        user.calls.clear();
+        user.messages.clear();
+        EXPECT_TRUE(startUp(session));
+        ASSERT_EQ(boxes().size(), 1);
+        EXPECT_TRUE(boxes()[0].contains(c.said)) << boxes()[0].toStdString();
+        EXPECT_FALSE(boxes()[0].contains(u'\n'));
+        EXPECT_TRUE(install.files.isFolder(session.BackupPath));
+        const int told = user.countOfKind(MessageKind::error);
+        EXPECT_FALSE(refreshGroundSets(session));
+        EXPECT_EQ(user.countOfKind(MessageKind::error), told + 1);
+    }
+}
+
+TEST_F(ApplicationTest, aFailingStepIsToldAndEndsTheStart) {
+    install.files.removeFolder(install.home() / u"Backup");
+    writeFile(install.home() / u"Backup", "a file in the folder's place");
+    EXPECT_FALSE(startUp(session));
+    ASSERT_EQ(user.told().size(), 1);
+    EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|Morvane Error!|Sub Main\n"_s))
+        << user.told()[0].toStdString();
+    EXPECT_TRUE(user.messages[0].withCancel);
+}
+
+TEST_F(ApplicationTest, theCommandLineTakesTheFiveCodesExactly) {
+    ASSERT_TRUE(startUp(session));
+    session.CommandLineRun = true;
+    user.otherwise = false;
+    const std::pair<QString, QStringList> words[] = {
+        {u"CLR"_s, {u"1"_s}}, {u"FEW"_s, {u"2"_s}}, {u"SCT"_s, {u"3"_s}}, {u"BKN"_s, {u"4"_s}},
+        {u"OVC"_s, {u"5"_s}}, {u"ovc"_s, {}},       {u" OVC"_s, {}},      {u"SKC"_s, {}},
+    };
+    for (const auto& [word, clouds] : words) {
+        session.WxCloudList = QStringList{u"1"_s, u"2"_s};
+        runCommandLine(session, word);
+        EXPECT_EQ(session.WxCloudList, clouds) << word.toStdString();
+        EXPECT_EQ(session.WxStrengthList, QStringList(clouds.size(), QString()));
+    }
+    EXPECT_EQ(user.countOfKind(MessageKind::question), 8);
+    EXPECT_TRUE(user.messages.back().text.endsWith(u"obtained from Active Sky?"_s));
+}
+
+TEST_F(ApplicationTest, anUnknownWordMatchesPartlyCloudyWithoutAWord) {
+    ASSERT_TRUE(startUp(session));
+    session.CommandLineRun = true;
+    runCommandLine(session, u"FOG"_s);
+    EXPECT_EQ(session.ground.SelectedGroundSet, u"Default"_s);
+    EXPECT_EQ(user.told().size(), 1); // the question
+}
+
+TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
+    const std::pair<QStringList, QStringList> cases[] = {
+        {{}, {}},
+        {{u"02Z.TXT"_s, u"Export_Cycle.dat"_s, u"noending"_s}, {}},
+        {{u"Export_Cycle.dat"_s}, {u"Export_Cycle.dat"_s}},
+    };
+    for (const auto& [names, left] : cases) {
+        ASSERT_TRUE(startUp(session));
+        for (const QString& name : names)
+            writeFile(install.home() / u"METAR" / name, "EHAM");
+        exitProgram(session);
+        EXPECT_EQ(test::contentsBelow(install.home() / u"METAR").keys(), left);
+        EXPECT_EQ(session.adoConn, nullptr);
+        EXPECT_EQ(session.gTextureSets, nullptr);
+    }
+    EXPECT_TRUE(user.told().isEmpty());
+    EXPECT_FALSE(QFileInfo::exists((install.home() / u"Morvane.mdb").native() + u"-wal"_s));
+}
+
+TEST_F(ApplicationTest, aCycleThatCannotBeRemovedDoesNotKeepTheStoreOpen) {
+    ASSERT_TRUE(startUp(session));
+    writeFile(install.home() / u"METAR\\02Z.txt", "EHAM");
+    install.files.failAt(3, true); // behind the two listings
+    exitProgram(session);
+    EXPECT_EQ(user.countOfKind(MessageKind::error), 1);
+    EXPECT_EQ(session.adoConn, nullptr);
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,209 @@
+#include "core/options.h"
+
+#include "core/error.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::SmallInstall;
+using test::writeFile;
+
+struct OptionsTest : testing::Test {
+    SmallInstall install;
+    Session& session = install.session;
+    test::ScriptedUser& user = install.user;
+
+    void store(const QString& name, const QString& text) {
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, text);
+    }
+    QString stored(const QString& name) {
+        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name);
+    }
+};
+
+TEST_F(OptionsTest, theSplashOptionTakesTwoWordsAndRepairsTheRest) {
+    struct Case {
+        QString held;
+        bool flag;
+        QString after;
+    };
+    const Case cases[] = {{u"True"_s, true, u"True"_s},     {u"False"_s, false, u"False"_s},
+                          {u"Yes"_s, false, u"False"_s},    {QString(), false, u"False"_s},
+                          {u" True "_s, false, u"False"_s}, {u"true"_s, false, u"False"_s}};
+    for (const Case& c : cases) {
+        store(u"InhibitCustomSplash"_s, c.held);
+        session.InhibitCustomSplash = !c.flag;
+        getCustomSplashVal(session);
+        EXPECT_EQ(session.InhibitCustomSplash, c.flag) << c.held.toStdString();
+        EXPECT_EQ(stored(u"InhibitCustomSplash"_s), c.after) << c.held.toStdString();
+    }
+    EXPECT_TRUE(user.told().isEmpty());
+}
+
+TEST_F(OptionsTest, theWideClientOptionIsTrimmedAndOtherwiseAsked) {
+    struct Case {
+        QString held;
+        bool answer, flag;
+        int questions;
+        QString after;
+    };
+    const Case cases[] = {
+        {u"True"_s, false, true, 0, u"True"_s},   {u" True "_s, false, true, 0, u" True "_s},
+        {u"False"_s, true, false, 0, u"False"_s}, {u"true"_s, false, false, 1, u"False"_s},
+        {u"Yes"_s, true, true, 1, u"True"_s},     {QString(), false, false, 1, u"False"_s},
+    };
+    for (const Case& c : cases) {
+        store(u"IsWideClient"_s, c.held);
+        user.messages.clear();
+        user.otherwise = c.answer;
+        getSideFSVal(session);
+        EXPECT_EQ(session.IsWideClient, c.flag) << c.held.toStdString();
+        EXPECT_EQ(user.told().size(), c.questions) << c.held.toStdString();
+        EXPECT_EQ(stored(u"IsWideClient"_s), c.after) << c.held.toStdString();
+    }
+    EXPECT_EQ(
+        user.told().value(0),
+        u"Question|For WideFS Users Only!|Please indicate if you are using Morvane on a WideClient PC.  "
+        u"Click the checkmark for 'Yes' or the crossmark for 'No'  If you are not using WideFS please "
+        u"select the crossmark to continue."_s);
+    EXPECT_FALSE(user.answers().isPending());
+}
+
+TEST_F(OptionsTest, switchingTheSplashOffPutsTheSimulatorsOwnBack) {
+    writeFile(install.home() / u"Media\\dlgsplash.bmp", "the simulator's own");
+    const FilePath splash = install.simulator() / u"Uires\\dlgsplash.bmp";
+    setCustomSplashVal(session, true);
+    EXPECT_TRUE(session.InhibitCustomSplash);
+    EXPECT_EQ(stored(u"InhibitCustomSplash"_s), u"True"_s);
+    EXPECT_EQ(test::readFile(splash), "the simulator's own");
+
+    writeFile(splash, "another");
+    setCustomSplashVal(session, false);
+    EXPECT_FALSE(session.InhibitCustomSplash);
+    EXPECT_EQ(stored(u"InhibitCustomSplash"_s), u"False"_s);
+    EXPECT_EQ(test::readFile(splash), "another"); // the next set brings its splash, not the switch
+    const QString head = u"Information|FS9 Splash Screen Status|"_s;
+    EXPECT_EQ(user.told(),
+              QStringList({head + u"The default FS splash screen has been copied to Flight Similator. The "
+                                  u"Morvane FS9 splash screen will not be shown when Flight Simulator is "
+                                  u"started."_s,
+                           head + u"The Morvane FS9 splash screen will be shown when Flight Simulator is "
+                                  u"started."_s}));
+}
+
+TEST_F(OptionsTest, aMissingSplashIsToldUnderTheRoutinesName) {
+    setCustomSplashVal(session, true);
+    ASSERT_EQ(user.told().size(), 1);
+    EXPECT_TRUE(
+        user.told()[0].startsWith(u"Exclamation|Morvane Error!|Sub setCustomSplashVal\nFile not found: "_s))
+        << user.told()[0].toStdString();
+}
+
+TEST_F(OptionsTest, theWideClientOptionIsStoredAndTold) {
+    setSideFSVal(session, true);
+    EXPECT_TRUE(session.IsWideClient);
+    EXPECT_EQ(stored(u"IsWideClient"_s), u"True"_s);
+    setSideFSVal(session, false);
+    EXPECT_FALSE(session.IsWideClient);
+    EXPECT_EQ(stored(u"IsWideClient"_s), u"False"_s);
+    const QString head = u"Information|FS9 WideFS Status|This setting states that this PC is a "_s;
+    EXPECT_EQ(user.told(),
+              QStringList({head + u"WideClient PC and therefore Morvane will not attempt to start Flight "
+                                  u"Simulator."_s,
+                           head + u"WideServer/Stand Alone PC and therefore Morvane will attempt to start "
+                                  u"Flight Simulator as required by you the user."_s}));
+    EXPECT_EQ(user.calls.filter(u"refresh"_s),
+              QStringList({u"refresh frm_Config"_s, u"refresh frm_Config"_s}));
+}
+
+/// A registry on which everything fails, as only one with a fault of its own does.
+struct BrokenRegistry : Registry {
+    QString GetRegString(int, const QString&, const QString&, const QString&) const override { fail(); }
+    void SetRegString(int, const QString&, const QString&, const QString&, const QString&) override {
+        fail();
+    }
+    bool RegValueIsDword(int, const QString&, const QString&, const QString&) const override { fail(); }
+    bool CreateRegKey(int, const QString&) override { fail(); }
+
+private:
+    [[noreturn]] static void fail() { throw Error(ErrorCode::permissionDenied); }
+};
+
+TEST_F(OptionsTest, failuresAreToldUnderNamesOfRoutinesOneOfThemWrong) {
+    BrokenRegistry broken;
+    Session failing({user, install.files, install.clock, install.random, broken}, install.home());
+    user.foldersToChoose = {u"/somewhere"_s};
+    getCustomSplashVal(failing);
+    setCustomSplashVal(failing, false);
+    getSideFSVal(failing);
+    setSideFSVal(failing, true); // reports under the name of another one: wanted
+    setNonEnglishRegVal(failing);
+    QStringList expected;
+    for (const char16_t* routine :
+         {u"Sub getCustomSplashVal", u"Sub setCustomSplashVal", u"Function getSideFSVal",
+          u"Sub setCustomSplashVal", u"Sub setNonEnglishRegVal"})
+        expected << u"Exclamation|Morvane Error!|"_s + QStringView(routine).toString() +
+                        u"\nPermission denied"_s;
+    EXPECT_EQ(user.told(), expected);
+}
+
+TEST_F(OptionsTest, theFlightsFolderIsAskedForUntilItIsUsable) {
+    const QString good = (install.folder / u"Flight Simulator Files").native();
+    install.files.makeFolder(install.folder / u"Flight Simulator Files");
+    const QString own = (install.home() / u"Flights").native();
+    const QString required =
+        u"Information|Saved Flights/Flight Plans Location required|Please supply the path to your My "
+        u"Documents\\Flight Simulator Files folder. Please ensure that you are not pointing to your Morvane "
+        u"Flights folder"_s;
+    const QString missing = u"Exclamation|Saved Flights Invalid Path|The path for your FS9 saved flights "
+                            u"was invalid please enter a new path"_s;
+    const QString invalid = u"Exclamation|Invalid Path|The path supplied was invalid please try again"_s;
+    struct Case {
+        QString held;
+        std::deque<QString> chosen;
+        QString result, after;
+        QStringList told;
+    };
+    const Case cases[] = {
+        {good, {}, good, good, {}},
+        {u"  "_s + good + u' ', {}, good, u"  "_s + good + u' ', {}},
+        {{}, {good}, good, good, {required}},
+        {own, {good}, good, good, {required}},
+        {own.toUpper(), {good}, good, good, {required}},
+        {{}, {own, own, good}, good, good, {required, invalid, invalid}},
+        {u"/nowhere"_s, {good}, good, good, {missing}},
+        {u"/nowhere"_s, {own, good}, good, good, {missing, invalid}},
+        {{}, {}, {}, {}, {required}}, // a cancelled browser asks no more
+        {u"/nowhere"_s, {}, {}, u"/nowhere"_s, {missing}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.held.toStdString());
+        store(u"NonEnglishPath"_s, c.held);
+        user.messages.clear();
+        user.foldersToChoose = c.chosen;
+        EXPECT_EQ(getNonEnglishPath(session), c.result);
+        EXPECT_EQ(stored(u"NonEnglishPath"_s), c.after);
+        EXPECT_EQ(user.told(), c.told);
+        EXPECT_TRUE(user.foldersToChoose.empty());
+    }
+}
+
+TEST_F(OptionsTest, theFlightsFolderCanBeChosenAnew) {
+    store(u"NonEnglishPath"_s, u"/before"_s);
+    setNonEnglishRegVal(session);
+    EXPECT_EQ(stored(u"NonEnglishPath"_s), u"/before"_s); // the browser was cancelled
+    EXPECT_TRUE(user.told().isEmpty());
+    user.foldersToChoose = {u"/Çhosen folder"_s};
+    setNonEnglishRegVal(session);
+    EXPECT_EQ(stored(u"NonEnglishPath"_s), u"/Çhosen folder"_s);
+    EXPECT_EQ(user.told(), QStringList{u"Information|FS9 Flight Simulator Files Path|FS9 My Documents Flight "
+                                       u"Simulator Files path has been updated to: /Çhosen folder"_s});
+    EXPECT_EQ(user.calls.last(), u"refresh frm_Config"_s);
+}
+
+} // namespace
+} // namespace morvane
