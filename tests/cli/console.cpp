@@ -1,0 +1,129 @@
+#include "cli/console.h"
+
+#include "core/application.h"
+#include "ground/ground_sets.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <csignal>
+
+namespace morvane::test {
+
+namespace {
+
+constexpr int watchdogMilliseconds = 60000;
+
+/// The system's list of the signals that a process catches has one bit for each.
+bool catchesInterrupts(qint64 process) {
+    QFile status(u"/proc/%1/status"_s.arg(process));
+    if (!status.open(QIODevice::ReadOnly)) return false;
+    for (const QByteArray& line : status.readAll().split('\n'))
+        if (line.startsWith("SigCgt:"))
+            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGINT - 1) & 1) != 0;
+    return false;
+}
+
+} // namespace
+
+std::vector<QJsonObject> ConsoleRun::objects() const {
+    std::vector<QJsonObject> found;
+    for (const QByteArray& line : output.split('\n'))
+        if (!line.isEmpty()) found.push_back(QJsonDocument::fromJson(line).object());
+    return found;
+}
+
+QJsonArray ConsoleRun::array() const {
+    return QJsonDocument::fromJson(output).array();
+}
+
+Console::Console() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(u"MORVANE_HOME"_s);
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    process_.setProcessEnvironment(environment);
+}
+
+void Console::start(const QStringList& arguments) {
+    process_.start(QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), arguments);
+    if (!process_.waitForStarted(watchdogMilliseconds)) throw std::runtime_error("no console program");
+}
+
+bool Console::waitForMessage(const QString& text) {
+    process_.setReadChannel(QProcess::StandardError);
+    while (!errors_.contains(text.toUtf8())) {
+        if (!process_.waitForReadyRead(watchdogMilliseconds)) return false;
+        errors_ += process_.readAllStandardError();
+    }
+    return true;
+}
+
+void Console::interrupt() {
+    const auto id = static_cast<pid_t>(process_.processId());
+    if (id <= 0) throw std::runtime_error("the console program has ended");
+    ::kill(id, SIGINT); // to 0 it would go to the test and all its kin
+}
+
+bool Console::waitUntilInterruptsAre(bool caught) {
+    const QDeadlineTimer watchdog(watchdogMilliseconds);
+    while (catchesInterrupts(process_.processId()) != caught)
+        if (watchdog.hasExpired()) return false;
+    return true;
+}
+
+ConsoleRun Console::finish(const QByteArray& input) {
+    process_.write(input);
+    process_.closeWriteChannel();
+    const bool ended =
+        process_.state() == QProcess::NotRunning || process_.waitForFinished(watchdogMilliseconds);
+    if (!ended) {
+        process_.kill();
+        process_.waitForFinished();
+    }
+    errors_ += process_.readAllStandardError();
+    const bool sound = ended && process_.exitStatus() == QProcess::NormalExit;
+    return {sound ? process_.exitCode() : -1, process_.readAllStandardOutput(), QString::fromUtf8(errors_)};
+}
+
+ConsoleRun runConsole(const QStringList& arguments, const QByteArray& input) {
+    Console console;
+    console.start(arguments);
+    return console.finish(input);
+}
+
+ConsoleInstall::ConsoleInstall(const SmallInstallOptions& options) : SmallInstall(options) {
+    closeDatabase(session);
+}
+
+QStringList ConsoleInstall::withHome(const QStringList& arguments) const {
+    return QStringList{u"--answer"_s, u"yes"_s, u"--home"_s, home().native()} + arguments;
+}
+
+ConsoleRun ConsoleInstall::run(const QStringList& arguments) {
+    return runConsole(withHome(arguments));
+}
+
+void ConsoleInstall::addSet(const QString& name, const QString& cover, bool activated,
+                            const QStringList& names) {
+    connectDatabase(session);
+    addGroundSet(name, cover, activated, names);
+    closeDatabase(session);
+}
+
+QStringList ConsoleInstall::sets() {
+    connectDatabase(session);
+    reload();
+    QStringList names;
+    for (const auto& set : *session.gTextureSets)
+        names << set->TextureSet + (set->Actvated == u"True" ? u"+"_s : QString()) +
+                     (set->Installed ? u"*"_s : QString());
+    closeDatabase(session);
+    return names;
+}
+
+QStringList ConsoleInstall::setFolders() const {
+    return QDir((home() / u"Texture Sets").native()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+}
+
+} // namespace morvane::test

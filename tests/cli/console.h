@@ -1,0 +1,64 @@
+#pragma once
+
+#include "core/file_path.h"
+#include "support/small_install.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStringList>
+
+namespace morvane::test {
+
+/// What a run of the console left: its exit status (-1 when it crashed or had to be killed) and what it
+/// wrote.
+struct ConsoleRun {
+    int status = -1;
+    QByteArray output;
+    QString messages;
+
+    /// The lines on stdout as JSON objects.
+    std::vector<QJsonObject> objects() const;
+    /// The one array on stdout.
+    QJsonArray array() const;
+    /// How often the messages hold the text.
+    qsizetype countOf(const QString& text) const { return messages.count(text); }
+};
+
+/// The console program itself, started without an install in its environment. A run that does not end within
+/// a minute is killed.
+class Console {
+public:
+    Console();
+    void start(const QStringList& arguments);
+    /// Waits until stderr holds the text; false when the program ended before.
+    bool waitForMessage(const QString& text);
+    void interrupt();
+    /// Waits until the program catches interrupts, or until it does no longer.
+    bool waitUntilInterruptsAre(bool caught);
+    ConsoleRun finish(const QByteArray& input = {});
+
+private:
+    QProcess process_;
+    QByteArray errors_;
+};
+
+ConsoleRun runConsole(const QStringList& arguments, const QByteArray& input = {});
+
+/// A small install for the console: no session of the test holds its store open while the console runs.
+class ConsoleInstall : public SmallInstall {
+public:
+    explicit ConsoleInstall(const SmallInstallOptions& options = {});
+
+    /// Runs a command on the install, questions answered with yes unless the arguments say otherwise.
+    ConsoleRun run(const QStringList& arguments);
+    QStringList withHome(const QStringList& arguments) const;
+    void addSet(const QString& name, const QString& cover, bool activated = true,
+                const QStringList& names = {u"Texture\\029h2su6.bmp"_s});
+    /// Names of all sets in the store with "+" behind an activated and "*" behind an installed one.
+    QStringList sets();
+    /// Names of the folders of sets.
+    QStringList setFolders() const;
+};
+
+} // namespace morvane::test
