@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QtEndian>
 
 namespace morvane {
 
@@ -55,7 +54,8 @@ QString GetSpecialFolder(int number) {
 }
 
 QString getFileVersionText(FileSystem& files, const FilePath& path) {
-    // The fixed version record begins with this mark; its file version stands 8 bytes behind.
+    // The fixed version record begins with this mark; its file version stands 8 bytes behind, as two pairs of
+    // little-endian numbers, the higher one of each pair last.
     static const QByteArray mark("\xbd\x04\xef\xfe", 4);
     QByteArray contents;
     try {
@@ -65,9 +65,11 @@ QString getFileVersionText(FileSystem& files, const FilePath& path) {
     }
     const qsizetype at = contents.indexOf(mark);
     if (at < 0 || at + 16 > contents.size()) return {};
-    const auto high = qFromLittleEndian<quint32>(contents.constData() + at + 8);
-    const auto low = qFromLittleEndian<quint32>(contents.constData() + at + 12);
-    return u"%1.%2.%3.%4"_s.arg(high >> 16).arg(high & 0xffff).arg(low >> 16).arg(low & 0xffff);
+    const auto part = [&](qsizetype offset) {
+        const auto byte = [&](qsizetype i) { return static_cast<unsigned char>(contents.at(i)); };
+        return byte(at + offset) + 256 * byte(at + offset + 1);
+    };
+    return u"%1.%2.%3.%4"_s.arg(part(10)).arg(part(8)).arg(part(14)).arg(part(12));
 }
 
 int versionPart(const QString& version, int index) {
