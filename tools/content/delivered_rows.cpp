@@ -10,34 +10,30 @@
 #include "sample_reports.h"
 #include "weather/airport_table.h"
 
+#include <variant>
+
 namespace morvane {
 
 namespace {
 
-/// A field of a row: texts, and flags as bool.
 struct Field {
-    QString column;
-    QString text = {};
-    bool isFlag = false;
-    bool flag = false;
+    const char16_t* column;
+    std::variant<QString, bool, std::int32_t> value;
 };
 
-Field text(const char16_t* column, const QString& value) {
-    return {QStringView(column).toString(), value};
-}
-
-Field flag(const char16_t* column, bool value) {
-    return {QStringView(column).toString(), {}, true, value};
+void setField(RowSet& rows, const Field& field) {
+    if (const auto* text = std::get_if<QString>(&field.value))
+        rows.setText(field.column, *text);
+    else if (const auto* flag = std::get_if<bool>(&field.value))
+        rows.setFlag(field.column, *flag);
+    else
+        rows.setNumber(field.column, std::get<std::int32_t>(field.value));
 }
 
 void addRow(RowSet& rows, const std::vector<Field>& fields) {
     rows.addNew();
-    for (const Field& field : fields) {
-        if (field.isFlag)
-            rows.setFlag(field.column, field.flag);
-        else
-            rows.setText(field.column, field.text);
-    }
+    for (const Field& field : fields)
+        setField(rows, field);
     rows.update();
 }
 
@@ -51,8 +47,10 @@ void addResourceFolders(Store& store) {
     };
     RowSet table(store, u"SELECT * FROM RESOURCE_FOLDERS"_s);
     for (const auto& row : rows)
-        addRow(table, {text(u"RESOURCE_NAME", row[0]), text(u"RESOURCE_SOURCE", row[1]),
-                       text(u"RESOURCE_TEXTURE_SET", row[2]), text(u"RESOURCE_DESTINATION", row[3])});
+        addRow(table, {{u"RESOURCE_NAME", row[0]},
+                       {u"RESOURCE_SOURCE", row[1]},
+                       {u"RESOURCE_TEXTURE_SET", row[2]},
+                       {u"RESOURCE_DESTINATION", row[3]}});
 }
 
 void addConfigs(Store& store) {
@@ -69,22 +67,28 @@ void addConfigs(Store& store) {
     };
     RowSet table(store, u"SELECT * FROM MV_CONFIG"_s);
     for (const auto& row : rows)
-        addRow(table, {text(u"TITLE", row[0]), text(u"MV_FOLDER", row[1]), text(u"MV_IMAGE", row[2]),
-                       text(u"FS_FOLDER", row[3]), text(u"DESCRIPTION", row[4]), flag(u"INSTALLED", false)});
+        addRow(table, {{u"TITLE", row[0]},
+                       {u"MV_FOLDER", row[1]},
+                       {u"MV_IMAGE", row[2]},
+                       {u"FS_FOLDER", row[3]},
+                       {u"DESCRIPTION", row[4]},
+                       {u"INSTALLED", false}});
 }
 
 void addSwitches(Store& store) {
     RowSet table(store, u"SELECT * FROM TEXTURE_SWITCH"_s);
-    addRow(table, {flag(u"ISDUTCH", false), flag(u"ISTROPICAL", false), flag(u"ISHALO", false),
-                   flag(u"ISFASTEXIT", false)});
+    addRow(table, {{u"ISDUTCH", false}, {u"ISTROPICAL", false}, {u"ISHALO", false}, {u"ISFASTEXIT", false}});
 }
 
 void addDefaultGroundSet(Store& store) {
     RowSet table(store, u"SELECT * FROM TEXTURE_SETS"_s);
-    addRow(table, {text(u"COLOR_SETTINGS", u"0:0:0:0:0:0"_s), text(u"TEXTURE_SET", u"Default"_s),
-                   text(u"CLOUD_COVER", u"Partly Cloudy"_s), text(u"ACTIVATED", u"True"_s),
-                   text(u"DESCRIPTION", u"Default Morvane Texture Set with no extra settings"_s),
-                   flag(u"DUTCH", true), flag(u"INSTALLED", false)});
+    addRow(table, {{u"COLOR_SETTINGS", u"0:0:0:0:0:0"_s},
+                   {u"TEXTURE_SET", u"Default"_s},
+                   {u"CLOUD_COVER", u"Partly Cloudy"_s},
+                   {u"ACTIVATED", u"True"_s},
+                   {u"DESCRIPTION", u"Default Morvane Texture Set with no extra settings"_s},
+                   {u"DUTCH", true},
+                   {u"INSTALLED", false}});
 }
 
 void addNightSets(Store& store) {
@@ -98,21 +102,36 @@ void addNightSets(Store& store) {
     };
     RowSet table(store, u"SELECT * FROM NIGHT_TEXTURE_SETS"_s);
     for (const auto& row : rows)
-        addRow(table,
-               {text(u"TEXTURE_SET", row[0]), text(u"COLOR_SETTINGS", row[1]), text(u"DESCRIPTION", row[2]),
-                text(u"ACTIVATED", u"True"_s), flag(u"INSTALLED", false)});
+        addRow(table, {{u"TEXTURE_SET", row[0]},
+                       {u"COLOR_SETTINGS", row[1]},
+                       {u"DESCRIPTION", row[2]},
+                       {u"ACTIVATED", u"True"_s},
+                       {u"INSTALLED", false}});
 }
 
-std::vector<AirportRow> addAirports(Store& store, FileSystem& files, const FilePath& data) {
-    std::vector<AirportRow> airports =
-        parseAirportTable(decodeText(files.read(data / u"airports\\airports.tsv")));
+void addAirports(Store& store, const std::vector<AirportRow>& airports, const StationList& stations) {
     RowSet table(store, u"SELECT * FROM AIRPORTDATA WHERE ID = 0"_s);
-    for (const AirportRow& airport : airports)
-        addRow(table, {text(u"ICAO", airport.code), text(u"AIRPORT_NAME", airport.name),
-                       text(u"CITY", airport.city), text(u"COUNTRY", airport.country),
-                       text(u"STATE", airport.region), text(u"LAT", airport.latitude),
-                       text(u"LONG", airport.longitude), text(u"ELEVATION", airport.elevation)});
-    return airports;
+    for (const AirportRow& airport : airports) {
+        const Station station = stations.value(airport.code);
+        addRow(table, {{u"ICAO", airport.code},
+                       {u"AIRPORT_NAME", airport.name},
+                       {u"CITY", airport.city},
+                       {u"COUNTRY", airport.country},
+                       {u"STATE", airport.region},
+                       {u"LAT", airport.latitude},
+                       {u"LONG", airport.longitude},
+                       {u"ELEVATION", airport.elevation},
+                       {u"WMO_REGION", station.region},
+                       {u"BLOCK_NUMBER", station.block},
+                       {u"STATION_NUMBER", station.number}});
+    }
+}
+
+void addWeather(Session& session, const FilePath& data) {
+    const auto airports = parseAirportTable(decodeText(session.files.read(data / u"airports\\airports.tsv")));
+    const auto stations = parseStationList(decodeText(session.files.read(data / u"stations\\nsd_cccc.txt")));
+    addAirports(*session.adoConn, airports, stations);
+    addSampleReports(session, data, airports, stations);
 }
 
 } // namespace
@@ -133,7 +152,7 @@ void writeDeliveredStore(FileSystem& files, const FilePath& data, const FilePath
     addSwitches(store);
     addDefaultGroundSet(store);
     addNightSets(store);
-    addSampleReports(session, data, addAirports(store, files, data));
+    addWeather(session, data);
     whole.commit();
     store.close();
 }

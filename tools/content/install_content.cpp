@@ -11,7 +11,7 @@ namespace morvane {
 namespace {
 
 /// Raise it whenever what the tool makes changes: samples of another version are made anew.
-constexpr int contentVersion = 1;
+constexpr int contentVersion = 2;
 
 constexpr const char16_t* installFolders[] = {
     u"Media",
@@ -25,11 +25,21 @@ constexpr const char16_t* installFolders[] = {
     u"Resources\\DUTCH",
     u"Resources\\GENERIC WORLD NIGHT",
     u"Resources\\DUTCH NIGHT",
-    u"Resources\\Sky",
+    u"Resources\\Sky\\Default",
+    u"Resources\\Sky\\Default Softer",
+    u"Resources\\Sky\\Horizons",
+    u"Resources\\Sky\\Pro Sky",
+    u"Resources\\Sky\\Sunny",
+    u"Resources\\Sky\\Tropical",
+    u"Resources\\Sky\\Overcast",
+    u"Resources\\Sky\\Sunrise",
+    u"Resources\\Sky\\Sunset",
     u"GENERIC WORLD",
     u"UT EUROPE",
     u"UTIND",
     u"DUTCH",
+    u"GENERIC WORLD NIGHT",
+    u"DUTCH NIGHT",
     u"Texture Sets",
     u"Night Texture Sets",
     u"Sky Texture Sets",
@@ -51,6 +61,19 @@ QByteArray versionMark(const ContentRequest& request) {
            QByteArray::number(request.density) + "\n";
 }
 
+FilePath storeFile(const ContentRequest& request) {
+    return request.home / u"Morvane.mdb";
+}
+
+void refuseUnlessEmpty(FileSystem& files, const FilePath& folder) {
+    if (files.list(folder, u"*.*"_s).isEmpty() && files.listFolders(folder).isEmpty()) return;
+    throw Error::withDescription(
+        ErrorCode::permissionDenied,
+        u"'"_s + folder.text() +
+            u"' is not empty and nothing in it will be replaced. Name another folder; "
+            "if it is an old sample or one that was cut short, remove it first."_s);
+}
+
 void writeRegistry(FileSystem& files, const ContentRequest& request) {
     const auto registry = openRegistry(files, request.home);
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
@@ -64,23 +87,24 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
 bool isContentCurrent(FileSystem& files, const ContentRequest& request) {
     const FilePath mark = versionFile(request);
     return files.exists(mark) && files.read(mark) == versionMark(request) &&
-           files.exists(request.simulator / u"fs9.exe");
+           files.exists(storeFile(request)) && files.exists(request.simulator / u"fs9.exe");
 }
 
 int makeContent(FileSystem& files, const ContentRequest& request) {
-    if (files.exists(request.home / u"Morvane.mdb"))
-        throw Error(ErrorCode::permissionDenied, request.home.text() + u" holds an install already"_s);
+    const std::vector<BaseImage> stock = baseImageList(request.density);
+    refuseUnlessEmpty(files, request.home);
+    refuseUnlessEmpty(files, request.simulator);
     for (const char16_t* folder : installFolders)
         files.makeFolder(request.home / folder);
     for (const char16_t* folder : simulatorFolders)
         files.makeFolder(request.simulator / folder);
-    const int count = writeStock(files, request.home, request.simulator, request.density);
+    writeDeliveredStore(files, request.data, storeFile(request));
+    writeStock(files, request.home, request.simulator, stock);
     writeSplashes(files, request.home, request.simulator);
-    writeDeliveredStore(files, request.data, request.home / u"Morvane.mdb");
     writeRegistry(files, request);
     files.write(request.simulator / u"fs9.exe", "A stand-in of the sample simulator.\r\n");
     files.write(versionFile(request), versionMark(request));
-    return count;
+    return static_cast<int>(stock.size());
 }
 
 } // namespace morvane

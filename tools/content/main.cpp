@@ -1,5 +1,6 @@
 // morvane-content: makes a complete install folder and a sample simulator.
 
+#include "base_image_list.h"
 #include "core/error.h"
 #include "core/literals.h"
 #include "install_content.h"
@@ -16,6 +17,13 @@ namespace {
 
 FilePath folder(const QCommandLineParser& parser, const QString& option) {
     return FilePath(QFileInfo(parser.value(option)).absoluteFilePath());
+}
+
+bool isUsageRight(const QCommandLineParser& parser) {
+    const int density = parser.value(u"density"_s).toInt();
+    return parser.isSet(u"home"_s) && parser.isSet(u"simulator"_s) &&
+           parser.positionalArguments().isEmpty() && density >= lowestStockDensity &&
+           density <= highestStockDensity;
 }
 
 int run(const QCommandLineParser& parser) {
@@ -41,11 +49,11 @@ int main(int argc, char** argv) {
     parser.addOption({u"home"_s, u"The install folder to make."_s, u"DIR"_s});
     parser.addOption({u"simulator"_s, u"The sample simulator's folder to make."_s, u"DIR"_s});
     parser.addOption({u"data"_s, u"The source data."_s, u"DIR"_s, QStringLiteral(MORVANE_DATA_DIR)});
-    parser.addOption(
-        {u"density"_s, u"1: about a thousand base images, 4: about four thousand."_s, u"N"_s, u"1"_s});
+    parser.addOption({u"density"_s, u"1 to 6: 1 makes about a thousand base images, 4 about four thousand."_s,
+                      u"N"_s, u"1"_s});
     parser.addOption({u"check"_s, u"Make nothing; the exit status is 0 when the install is current."_s});
     parser.process(application);
-    if (!parser.isSet(u"home"_s) || !parser.isSet(u"simulator"_s)) parser.showHelp(2);
+    if (!isUsageRight(parser)) parser.showHelp(2);
     try {
         return run(parser);
     } catch (const Error& error) {

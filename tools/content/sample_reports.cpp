@@ -23,13 +23,11 @@ struct Position {
 };
 using Positions = QHash<QString, Position>;
 
-Positions stationPositions(FileSystem& files, const FilePath& data, const std::vector<AirportRow>& airports) {
+Positions positionsOf(const std::vector<AirportRow>& airports, const StationList& stations) {
     Positions positions;
-    for (const QString& line : splitLines(decodeText(files.read(data / u"stations\\nsd_cccc.txt")))) {
-        const QStringList fields = line.split(u';');
-        if (fields.size() > 8)
-            positions.insert(fields[0], {decimalDegrees(fields[7]), decimalDegrees(fields[8])});
-    }
+    for (auto station = stations.begin(); station != stations.end(); ++station)
+        if (!station->latitude.isEmpty() && !station->longitude.isEmpty())
+            positions.insert(station.key(), {station->latitude, station->longitude});
     for (const AirportRow& airport : airports)
         positions.insert(airport.code, {airport.latitude, airport.longitude});
     return positions;
@@ -54,15 +52,20 @@ QMap<QString, QString> newestReports(const QString& text) {
     return newest;
 }
 
+DecodedMetarRow decodedRow(Session& session, const SampleCycle& cycle, const QString& line) {
+    clsDecodeMetar decoded(session.user);
+    decoded.decodeMetarString(line);
+    DecodedMetarRow row{toWxFinder(decoded, line), {}, {}};
+    row.report.WxFinderCycle = cycle.cycle;
+    row.report.WxFinderMonth = cycle.month;
+    row.report.WxFinderYear = cycle.year;
+    return row;
+}
+
 void addCycle(Session& session, const FilePath& data, const SampleCycle& cycle, const Positions& positions) {
     clsWxFinderData rows(session);
     for (const QString& line : newestReports(decodeText(session.files.read(data / cycle.file)))) {
-        clsDecodeMetar decoded(session.user);
-        decoded.decodeMetarString(line);
-        DecodedMetarRow row{toWxFinder(decoded, line), {}, {}};
-        row.report.WxFinderCycle = cycle.cycle;
-        row.report.WxFinderMonth = cycle.month;
-        row.report.WxFinderYear = cycle.year;
+        DecodedMetarRow row = decodedRow(session, cycle, line);
         const Position position = positions.value(row.report.WxFinderIcao);
         row.latitude = position.latitude;
         row.longitude = position.longitude;
@@ -72,18 +75,9 @@ void addCycle(Session& session, const FilePath& data, const SampleCycle& cycle, 
 
 } // namespace
 
-QString decimalDegrees(const QString& coordinate) {
-    static const QRegularExpression form(u"^(\\d{1,3})-(\\d{2})(?:-(\\d{2}))?([NSEW])$"_s);
-    const QRegularExpressionMatch match = form.match(coordinate);
-    if (!match.hasMatch()) return {};
-    const double degrees =
-        match.captured(1).toInt() + match.captured(2).toInt() / 60.0 + match.captured(3).toInt() / 3600.0;
-    const bool negative = match.captured(4) == u"S" || match.captured(4) == u"W";
-    return QString::number(negative ? -degrees : degrees, 'f', 6);
-}
-
-void addSampleReports(Session& session, const FilePath& data, const std::vector<AirportRow>& airports) {
-    const Positions positions = stationPositions(session.files, data, airports);
+void addSampleReports(Session& session, const FilePath& data, const std::vector<AirportRow>& airports,
+                      const StationList& stations) {
+    const Positions positions = positionsOf(airports, stations);
     // The older one first: where both have a station, the newer report stays.
     addCycle(session, data, {u"metar\\Export_Cycle.dat", u"16"_s, u"October"_s, u"2007"_s}, positions);
     addCycle(session, data, {u"metar\\02Z.TXT", u"2"_s, u"November"_s, u"2011"_s}, positions);

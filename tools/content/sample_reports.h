@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session.h"
+#include "station_list.h"
 #include "weather/airport_table.h"
 
 #include <vector>
@@ -8,11 +9,9 @@
 namespace morvane {
 
 /// Adds the decoded reports of the sample cycles to the session's store, one row a station, with the
-/// station's position: the airport's, else the station list's.
-void addSampleReports(Session& session, const FilePath& data, const std::vector<AirportRow>& airports);
-
-/// Coordinates of a station list ("70-56N", "161-09-07W") as signed decimal degrees with ".", up to six
-/// decimals; empty for anything else.
-QString decimalDegrees(const QString& coordinate);
+/// station's position: the airport's, else the station list's. Some forty military fields, buoys and private
+/// stations are in neither; their rows have none.
+void addSampleReports(Session& session, const FilePath& data, const std::vector<AirportRow>& airports,
+                      const StationList& stations);
 
 } // namespace morvane

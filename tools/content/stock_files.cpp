@@ -66,18 +66,18 @@ FilePath simulatorFolder(const FilePath& simulator, const QString& resourceFolde
 
 } // namespace
 
-int writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator, int density) {
-    const std::vector<BaseImage> images = baseImageList(density);
-    OrderedWork<DrawnImage> work(static_cast<int>(images.size()),
-                                 [&](int i) { return draw(images[static_cast<std::size_t>(i)]); });
-    for (const BaseImage& image : images) {
+void writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator,
+                const std::vector<BaseImage>& stock) {
+    OrderedWork<DrawnImage> work(static_cast<int>(stock.size()),
+                                 [&](int i) { return draw(stock[static_cast<std::size_t>(i)]); });
+    for (const BaseImage& image : stock) {
         const DrawnImage drawn = work.next();
         saveBitmap(drawn.picture, (home / u"Resources").child(image.resourceFolder).child(image.fileName));
         files.write(home.child(image.resourceFolder).child(image.fileName), drawn.body);
+        if (image.resourceFolder == u"DUTCH") continue;
         files.write(simulatorFolder(simulator, image.resourceFolder).child(image.fileName.toUpper()),
                     drawn.simulatorTexture);
     }
-    return static_cast<int>(images.size());
 }
 
 void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simulator) {

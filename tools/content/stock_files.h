@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base_image_list.h"
 #include "core/file_system.h"
 
 namespace morvane {
@@ -7,8 +8,9 @@ namespace morvane {
 /// Draws the stock of base images into `home`\Resources, compresses each unchanged into the bodies of the
 /// base install ("GENERIC WORLD", "UT EUROPE", "UTIND", "DUTCH" below `home`), and lays an older-looking
 /// texture of the same name into the sample simulator, in the upper-case spelling that simulators often have.
-/// Returns the number of base images.
-int writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator, int density);
+/// The simulator gets none of "DUTCH": those stand in for its generic ones of the same names.
+void writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator,
+                const std::vector<BaseImage>& stock);
 
 /// The splash pictures below `home`\Media, and the simulator's own in its "Uires".
 void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simulator);
