@@ -1,0 +1,165 @@
+#include "made_install.h"
+
+#include "ground/texture_catalogue.h"
+#include "imaging/bitmap_header.h"
+#include "imaging/picture_reader.h"
+#include "support/printing.h"
+
+#include <QSet>
+#include <cmath>
+
+namespace morvane {
+namespace {
+
+using StockFiles = test::MadeInstall;
+using StockCatalogue = test::StartedInstall;
+
+const QStringList resourceFolders{u"GENERIC WORLD"_s, u"UT EUROPE"_s, u"UTIND"_s, u"DUTCH"_s};
+constexpr int textureSize = 43778;   ///< of 256 x 256 pixels with all levels
+constexpr double leastLikeness = 27; ///< decibels; town centres in spring are the hardest to compress
+
+/// Likeness of two pictures of one size, in decibels.
+double likeness(const Picture& one, const Picture& other) {
+    double squares = 0;
+    for (std::size_t i = 0; i < one.rows.size(); ++i)
+        squares += (one.rows[i] - other.rows[i]) * (one.rows[i] - other.rows[i]);
+    return 10 * std::log10(255.0 * 255.0 * static_cast<double>(one.rows.size()) / squares);
+}
+
+/// One file in eight is decoded: pixel by pixel all of them would take longer than making the install.
+bool isSampled(const QString& name) {
+    return qChecksum(name.toLatin1()) % 8 == 0;
+}
+
+BitmapHeader headerOf(const QByteArray& file) {
+    return readBitmapHeader(
+        {reinterpret_cast<const std::uint8_t*>(file.constData()), static_cast<std::size_t>(file.size())});
+}
+
+TEST_F(StockFiles, everyBaseImageHasItsBodyAndTheBodyShowsIt) {
+    for (const QString& folder : resourceFolders) {
+        const FilePath resources = (home() / u"Resources").child(folder), bodies = home().child(folder);
+        const QStringList names = files.list(resources, u"*.*"_s);
+        EXPECT_FALSE(names.isEmpty());
+        EXPECT_EQ(files.list(bodies, u"*.*"_s), names);
+        for (const QString& name : names) {
+            const QByteArray base = files.read(resources.child(name)), body = files.read(bodies.child(name));
+            const BitmapHeader header = headerOf(base);
+            ASSERT_TRUE(header.kind == PixelKind::plain && header.bitsPerPixel == 24) << name.toStdString();
+            ASSERT_EQ(std::pair(header.width, header.height), std::pair(256, 256)) << name.toStdString();
+            EXPECT_EQ(body.size(), textureSize);
+            if (isSampled(name)) {
+                EXPECT_GT(likeness(readPicture(base), readPicture(body)), leastLikeness)
+                    << name.toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
+    const std::pair<const char16_t*, QStringList> places[] = {
+        {u"Scenery\\World\\Texture", {u"GENERIC WORLD"_s, u"UT EUROPE"_s}},
+        {u"Scenery\\UTEurLC\\Texture", {u"UTIND"_s}}};
+    for (const auto& [place, folders] : places) {
+        QStringList expected;
+        for (const QString& folder : folders) {
+            for (const QString& name : files.list(home().child(folder), u"*.*"_s)) {
+                expected << name.toUpper();
+                const QByteArray own = files.read((simulator() / place).child(name.toUpper()));
+                const QByteArray body = files.read(home().child(folder).child(name));
+                EXPECT_EQ(own.size(), textureSize);
+                EXPECT_EQ(headerOf(own).kind, PixelKind::dxt1);
+                // A change of the ground must be seen.
+                EXPECT_NE(own, body) << name.toStdString();
+                if (isSampled(name)) {
+                    EXPECT_LT(likeness(readPicture(own), readPicture(body)), 32) << name.toStdString();
+                }
+            }
+        }
+        expected.sort();
+        // Spelled in upper case on the disk, one file a name.
+        QStringList found = files.list(simulator() / place, u"*.*"_s);
+        found.sort();
+        EXPECT_EQ(found, expected);
+    }
+}
+
+TEST_F(StockFiles, splashesAreDifferentBitmapsOf24Bits) {
+    QSet<QByteArray> contents;
+    for (const char16_t* name : {u"dlgSplashSKC.bmp", u"dlgSplashFEW.bmp", u"dlgSplashSCT.bmp",
+                                 u"dlgSplashBKN.bmp", u"dlgSplashOVC.bmp", u"dlgsplash.bmp"}) {
+        const QByteArray splash = files.read(home() / u"Media" / name);
+        const BitmapHeader header = headerOf(splash);
+        EXPECT_TRUE(header.kind == PixelKind::plain && header.bitsPerPixel == 24 && !header.topDown);
+        EXPECT_EQ(std::pair(header.width, header.height), std::pair(500, 350));
+        EXPECT_EQ(readPicture(splash).rows.size(), std::size_t{1500} * 350);
+        contents << splash;
+    }
+    EXPECT_EQ(contents.size(), 6);
+    EXPECT_EQ(files.read(simulator() / u"Uires\\dlgsplash.bmp"),
+              files.read(home() / u"Media\\dlgsplash.bmp"));
+}
+
+/// Patterns of one category as the walk takes them in one season, with the ending of the season joined.
+struct SeasonWalk {
+    QStringList patterns;
+    QString ending;
+};
+
+/// Category 13 has no patterns in the table: these are its runs.
+std::vector<SeasonWalk> industrialWalks(const QString& season) {
+    std::vector<SeasonWalk> walks{{{u"034*2"_s, u"038*2"_s, u"003*2"_s}, season + u"*.bmp"_s},
+                                  {{u"139b2"_s, u"140b2"_s, u"141b2"_s}, season + u"1.bmp"_s}};
+    if (season == u"su") {
+        walks.push_back({{u"056*2"_s}, u"su*.bmp"_s});
+        walks.push_back({{u"142b2"_s, u"143b2"_s}, u"su1.bmp"_s});
+    }
+    return walks;
+}
+
+std::vector<SeasonWalk> walksOf(const CatalogueCategory& category, const QString& season) {
+    if (category.number == 13) return industrialWalks(season);
+    return {{QString::fromUtf16(category.patterns).split(u' '), season + u"*.bmp"_s}};
+}
+
+QStringList walkedNames(Session& session, const CatalogueCategory& category, bool CatalogueFlags::*season) {
+    TextureCatalogue catalogue(session);
+    catalogue.flags.categories[static_cast<std::size_t>(category.number - 1)] = true;
+    catalogue.flags.*season = true;
+    QStringList names;
+    for (const CatalogueFile& file : catalogue.popTextureList(1, 1, true, u"7-Storm"_s))
+        names << file.fileName;
+    return names;
+}
+
+TEST_F(StockCatalogue, everyPatternFindsAFileInEverySeasonItWalks) {
+    const std::pair<QString, bool CatalogueFlags::*> seasons[] = {{u"sp"_s, &CatalogueFlags::popSpring},
+                                                                  {u"su"_s, &CatalogueFlags::popSummer},
+                                                                  {u"fa"_s, &CatalogueFlags::popFall},
+                                                                  {u"wi"_s, &CatalogueFlags::popWinter}};
+    for (const CatalogueCategory& category : catalogueTable()) {
+        for (const auto& [season, flag] : seasons) {
+            const QStringList names = walkedNames(session, category, flag);
+            for (const SeasonWalk& walk : walksOf(category, season))
+                for (const QString& pattern : walk.patterns)
+                    EXPECT_TRUE(std::any_of(names.begin(), names.end(), [&](const QString& name) {
+                        return matchesMask(name, pattern + walk.ending);
+                    })) << (pattern + walk.ending).toStdString();
+        }
+    }
+}
+
+TEST_F(StockCatalogue, noBaseImageIsWithoutUse) {
+    QSet<QString> used, there;
+    for (const CatalogueFile& file : TextureCatalogue(session).popTextureList(0, 0, true, u"7-Storm"_s))
+        used << file.sourceFolder.child(file.fileName).text();
+    for (const QString& folder : resourceFolders) {
+        const FilePath resources = (home() / u"Resources").child(folder);
+        for (const QString& name : files.list(resources, u"*.*"_s))
+            there << resources.child(name).text();
+    }
+    EXPECT_EQ(used, there);
+}
+
+} // namespace
+} // namespace morvane
