@@ -1,5 +1,6 @@
 #include "simulator/set_matching.h"
 
+#include "core/error.h"
 #include "core/store.h"
 #include "support/printing.h"
 #include "support/small_install.h"
@@ -153,6 +154,20 @@ TEST_F(SetMatchingTest, theAverageCountsCloudsAndStrengths) {
             << c.clouds.join(u',').toStdString() << ' ' << c.strengths.join(u',').toStdString();
     }
     EXPECT_TRUE(install.user.told().isEmpty());
+}
+
+/// A random source that fails, so that the choice of a set does.
+struct BrokenRandom : RandomSource {
+    double draw() override { throw Error(ErrorCode::overflow); }
+};
+
+TEST_F(SetMatchingTest, aFailureIsToldUnderAWordOfItsOwnSpelling) {
+    addSets({{u"A"_s, u"Overcast"_s}, {u"B"_s, u"Overcast"_s}, {u"C"_s, u"Overcast"_s}});
+    BrokenRandom broken;
+    Session failing({install.user, install.files, install.clock, broken, install.registry}, install.home());
+    failing.adoConn = std::move(session.adoConn);
+    SetMatching(failing).installMatchingSets(u"Overcast"_s);
+    EXPECT_EQ(install.user.told(), QStringList{u"Exlamation|getIcaoWxDetails Error|Overflow"_s});
 }
 
 TEST(CoverWord, staysInsideTheScale) {
