@@ -46,6 +46,8 @@ void Store::open(const FilePath& file) {
     // SQLite makes a missing file in some of its modes; the program must never start on an empty store.
     if (!QFileInfo(file.native()).isFile())
         throw Error(ErrorCode::storeFailure, u"file not found: "_s + file.text());
+    if (QFileInfo(file.native()).size() == 0) // it would be given a header, and is left as it is
+        throw Error(ErrorCode::storeFailure, u"it holds no tables: "_s + file.text());
     connect(file, SQLITE_OPEN_READWRITE);
     try {
         if (tables().isEmpty()) throw Error(ErrorCode::storeFailure, u"it holds no tables: "_s + file.text());

@@ -7,6 +7,7 @@
 
 #include <QCryptographicHash>
 #include <algorithm>
+#include <optional>
 
 namespace morvane {
 
@@ -129,16 +130,26 @@ std::vector<KeptOriginal> Originals::list() const {
     return sorted;
 }
 
+void Originals::putBack(const KeptOriginal& original) {
+    const FilePath target = (simulator_ / original.path).resolved();
+    const bool wasReadOnly = files_.isReadOnly(target);
+    if (wasReadOnly) files_.setReadOnly(target, false);
+    replaceFile(files_, folder_ / original.path, target);
+    if (wasReadOnly) files_.setReadOnly(target, true);
+}
+
 int Originals::restore() {
     int count = 0;
+    std::optional<Error> firstFailure;
     for (const KeptOriginal& original : list()) {
-        const FilePath target((simulator_ / original.path).native());
-        const bool wasReadOnly = files_.isReadOnly(target);
-        if (wasReadOnly) files_.setReadOnly(target, false);
-        replaceFile(files_, folder_ / original.path, target);
-        if (wasReadOnly) files_.setReadOnly(target, true);
-        ++count;
+        try {
+            putBack(original);
+            ++count;
+        } catch (const Error& error) {
+            if (!firstFailure) firstFailure = error;
+        }
     }
+    if (firstFailure) throw *firstFailure;
     return count;
 }
 

@@ -44,7 +44,8 @@ public:
     void keep(const FilePath& target);
 
     std::vector<KeptOriginal> list() const; ///< sorted by path
-    /// Puts every kept file back, read-only targets included, and returns how many.
+    /// Puts every kept file back, read-only targets included, and returns how many. One that cannot be put
+    /// back does not keep the others from it; the first such failure is raised at the end.
     int restore();
 
 private:
@@ -54,6 +55,7 @@ private:
         bool operator==(const Fingerprint&) const = default;
     };
     void load();
+    void putBack(const KeptOriginal& original);
     Fingerprint fingerprint(const FilePath& file);
     static QString line(const char* fact, const Fingerprint& print, const QString& path);
     bool isOurs(const QString& key, const FilePath& target);
