@@ -21,12 +21,12 @@ bool isSeparator(QChar c) {
     return c == u'\\' || c == u'/';
 }
 
+#ifndef Q_OS_WIN
 bool existsExactly(const QString& path) {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink(); // a dangling link is there, too
 }
 
-#ifndef Q_OS_WIN
 /// The name as the folder spells it, or as given when the folder has no such name in any case. Folders have
 /// thousands of names, and this is asked for every new file of an install: no file's properties are read.
 QString spellingOnDisk(const QString& folder, const QString& name) {
@@ -42,8 +42,15 @@ QString spellingOnDisk(const QString& folder, const QString& name) {
 }
 #endif
 
+/// "/" and "C:/" bring their separator with them.
+QString withSeparator(const QString& root) {
+    return root.endsWith(u'/') ? root : root + u'/';
+}
+
 void refuseUnsafe(QStringView name) {
-    const bool unsafe = name == u".." || name.contains(QChar(u'\0')) || name.contains(u':');
+    // Windows drops dots and blanks at a name's end: of ".. " or " " nothing is left but the folder itself.
+    const bool blank = std::all_of(name.begin(), name.end(), [](QChar c) { return c == u'.' || c == u' '; });
+    const bool unsafe = blank || name.contains(QChar(u'\0')) || name.contains(u':');
     if (unsafe) throw Error(ErrorCode::pathNotFound, name.toString());
 }
 
@@ -93,7 +100,7 @@ QString FilePath::fileName() const {
 }
 
 QString FilePath::text() const {
-    const QString joined = names_.isEmpty() ? root_ : root_ + u'/' + names_.join(u'/');
+    const QString joined = names_.isEmpty() ? root_ : withSeparator(root_) + names_.join(u'/');
     return QDir::toNativeSeparators(joined);
 }
 
@@ -106,15 +113,14 @@ FilePath FilePath::resolved() const {
 QString FilePath::native() const {
     if (!resolved_.isEmpty()) return resolved_;
     if (names_.isEmpty()) return root_;
-    const QString base = root_.endsWith(u'/') ? root_ : root_ + u'/';
-    const QString asJoined = base + names_.join(u'/');
+    const QString asJoined = withSeparator(root_) + names_.join(u'/');
 #ifdef Q_OS_WIN
     return asJoined;
 #else
     if (existsExactly(asJoined)) return asJoined;
     QString path = root_;
     for (const QString& name : names_) {
-        const QString folder = path.endsWith(u'/') ? path : path + u'/';
+        const QString folder = withSeparator(path);
         path = folder + name;
         if (!existsExactly(path)) path = folder + spellingOnDisk(folder, name);
     }

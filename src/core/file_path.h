@@ -9,7 +9,8 @@ namespace morvane {
 /// without regard to case, while the folder may lie on a file system that knows case. Texts joined here take
 /// "\" and "/"; `native()` gives the spelling that is on the disk.
 ///
-/// No joined text leads out of the root: "..", a drive or a NUL in it raises "Path not found".
+/// No joined text leads out of the root: a name of dots and blanks only, a drive or a NUL in it raises "Path
+/// not found". A "." alone is passed over.
 class FilePath {
 public:
     FilePath() = default;

@@ -37,11 +37,12 @@ TEST(FilePath, exactSpellingWinsOverAnother) {
 
 TEST(FilePath, noTextLeadsOutOfTheRoot) {
     const FilePath root("/somewhere");
-    for (const char16_t* text : {u"..\\x", u"a\\..\\..\\b", u"C:\\x", u"a/../../etc"})
+    for (const char16_t* text : {u"..\\x", u"a\\..\\..\\b", u"C:\\x", u"a/../../etc", u"a\\.. \\b", u"..."})
         EXPECT_THROW(root / text, Error) << QStringView(text).toString().toStdString();
-    for (const char* name : {"", ".", "..", "a\\b", "a/b", "C:"})
+    for (const char* name : {"", ".", "..", " ", "a\\b", "a/b", "C:"})
         EXPECT_THROW(root.child(QString(name)), Error) << name;
     EXPECT_EQ((root / u"\\a\\\\b\\").text(), "/somewhere/a/b");
+    EXPECT_EQ((FilePath("/") / u"a").text(), "/a");
 }
 
 TEST(FilePath, masksMatchWithoutRegardToCase) {
