@@ -10,6 +10,10 @@
 #include <cerrno>
 #include <filesystem>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 namespace morvane {
 
 namespace {
@@ -47,12 +51,34 @@ void raise(const std::error_code& error, const FilePath& path) {
     if (error) throw Error(codeOf(error), path.text());
 }
 
-void openOrRaise(QFileDevice& file, QIODevice::OpenMode mode, const FilePath& path, ErrorCode otherwise) {
-    if (!file.open(mode)) throw Error(codeOf(file.error(), otherwise), path.text());
-}
-
 ErrorCode missingOrDenied(const FilePath& path) {
     return QFileInfo::exists(path.native()) ? ErrorCode::permissionDenied : ErrorCode::fileNotFound;
+}
+
+// Opening has one error for what is missing and what is closed to this user: a look at what is there tells
+// them apart.
+void openForReading(QFile& file, const FilePath& path, QIODevice::OpenMode mode) {
+    if (!file.open(mode)) throw Error(codeOf(file.error(), missingOrDenied(path)), path.text());
+}
+
+void openForWriting(QFile& file, const FilePath& path, QIODevice::OpenMode mode) {
+    if (file.open(mode | QIODevice::Unbuffered)) return;
+    const bool hasFolder = QFileInfo::exists(QFileInfo(file.fileName()).path());
+    const ErrorCode otherwise = hasFolder ? ErrorCode::permissionDenied : ErrorCode::pathNotFound;
+    throw Error(codeOf(file.error(), otherwise), path.text());
+}
+
+std::error_code renameInOneStep(const std::filesystem::path& source, const std::filesystem::path& target) {
+    std::error_code error;
+#ifdef Q_OS_WIN
+    // The library's rename may copy from drive to drive, which is not one step, and says of most failures no
+    // more than that there was one.
+    if (!MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING))
+        error.assign(static_cast<int>(GetLastError()), std::system_category());
+#else
+    std::filesystem::rename(source, target, error);
+#endif
+    return error;
 }
 
 void writeAll(QFileDevice& file, const char* bytes, qint64 count, const FilePath& path) {
@@ -102,10 +128,9 @@ void NativeFileSystem::makeFolder(const FilePath& folder) {
 
 void NativeFileSystem::copyContents(const FilePath& source, const FilePath& target) {
     QFile in(source.native());
-    openOrRaise(in, QIODevice::ReadOnly | QIODevice::Unbuffered, source, missingOrDenied(source));
+    openForReading(in, source, QIODevice::ReadOnly | QIODevice::Unbuffered);
     QFile out(target.native());
-    openOrRaise(out, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered, target,
-                ErrorCode::pathNotFound);
+    openForWriting(out, target, QIODevice::WriteOnly | QIODevice::Truncate);
     QByteArray block(std::min(copyBlockSize, std::max<qint64>(in.size(), 1)), Qt::Uninitialized);
     while (true) {
         const qint64 count = in.read(block.data(), block.size());
@@ -116,9 +141,7 @@ void NativeFileSystem::copyContents(const FilePath& source, const FilePath& targ
 }
 
 void NativeFileSystem::rename(const FilePath& source, const FilePath& target) {
-    std::error_code error;
-    std::filesystem::rename(systemPath(source), systemPath(target), error);
-    raise(error, target);
+    raise(renameInOneStep(systemPath(source), systemPath(target)), target);
 }
 
 void NativeFileSystem::remove(const FilePath& file) {
@@ -168,7 +191,7 @@ std::int64_t NativeFileSystem::freeSpace(const FilePath& folder) {
 
 QByteArray NativeFileSystem::read(const FilePath& file) {
     QFile in(file.native());
-    openOrRaise(in, QIODevice::ReadOnly, file, missingOrDenied(file));
+    openForReading(in, file, QIODevice::ReadOnly);
     const QByteArray contents = in.readAll();
     if (in.error() != QFileDevice::NoError) throw Error(ErrorCode::ioFailure, file.text());
     return contents;
@@ -179,7 +202,7 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
     const FilePath part(placed.native() + partialCopySuffix);
     {
         QFile out(part.native());
-        openOrRaise(out, QIODevice::WriteOnly | QIODevice::Unbuffered, file, ErrorCode::pathNotFound);
+        openForWriting(out, file, QIODevice::WriteOnly);
         writeAll(out, contents.constData(), contents.size(), file);
     }
     rename(part, placed);
@@ -187,7 +210,7 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {
     QFile out(file.native());
-    openOrRaise(out, QIODevice::Append | QIODevice::Unbuffered, file, ErrorCode::pathNotFound);
+    openForWriting(out, file, QIODevice::Append);
     writeAll(out, contents.constData(), contents.size(), file);
 }
 

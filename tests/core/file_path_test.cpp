@@ -6,7 +6,9 @@
 #include "support/printing.h"
 #include <QFile>
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace morvane {
 namespace {
@@ -14,6 +16,16 @@ namespace {
 using test::readFile;
 using test::TemporaryFolder;
 using test::writeFile;
+
+/// Nothing when the action raises nothing.
+std::optional<ErrorCode> raisedBy(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.code();
+    }
+    return std::nullopt;
+}
 
 TEST(FilePath, findsTheSpellingOnTheDisk) {
     TemporaryFolder folder;
@@ -75,7 +87,33 @@ TEST(NativeFileSystem, listsFilesByUpperCasedNameAndSeesTheOwnersMode) {
     files.setReadOnly(folder / u"b.bmp", true);
     EXPECT_TRUE(files.isReadOnly(folder / u"B.BMP")); // also for root, who may write to it all the same
     EXPECT_THROW(files.removeFolder(folder.path()), Error);
-    EXPECT_THROW(files.read(folder / u"missing.txt"), Error);
+}
+
+TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {
+    TemporaryFolder folder;
+    NativeFileSystem files;
+    const FilePath file = folder / u"a.txt", standing = folder / u"folder",
+                   orphan = folder / u"missing\\a.txt";
+    files.makeFolder(standing);
+    files.write(file, "x");
+    const struct {
+        const char* what;
+        std::function<void()> action;
+        ErrorCode code;
+    } cases[] = {
+        {"read, missing", [&] { files.read(folder / u"b.txt"); }, ErrorCode::fileNotFound},
+        {"copy, no source", [&] { files.copyContents(orphan, file); }, ErrorCode::fileNotFound},
+        {"copy, no folder", [&] { files.copyContents(file, orphan); }, ErrorCode::pathNotFound},
+        {"copy over a folder", [&] { files.copyContents(file, standing); }, ErrorCode::permissionDenied},
+        {"write, no folder", [&] { files.write(orphan, "x"); }, ErrorCode::pathNotFound},
+        {"append, no folder", [&] { files.append(orphan, "x"); }, ErrorCode::pathNotFound},
+        {"append to a folder", [&] { files.append(standing, "x"); }, ErrorCode::permissionDenied},
+        {"rename, no source", [&] { files.rename(orphan, file); }, ErrorCode::pathNotFound},
+        {"rename, no folder", [&] { files.rename(file, orphan); }, ErrorCode::pathNotFound},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(raisedBy(c.action), c.code) << c.what;
+    EXPECT_EQ(readFile(file), "x");
 }
 
 } // namespace
