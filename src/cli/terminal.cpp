@@ -8,6 +8,7 @@
 
 #ifdef _WIN32
 #include <io.h>
+#include <windows.h>
 #else
 #include <unistd.h>
 #endif
@@ -24,12 +25,55 @@ void onInterrupt(int) {
     std::signal(SIGINT, SIG_DFL);
 }
 
-bool isTerminalFile(FILE* file) {
 #ifdef _WIN32
-    return _isatty(_fileno(file)) != 0;
+
+HANDLE handleOf(FILE* file) {
+    return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file)));
+}
+
+/// Asks for a console: "is it a terminal" is yes for NUL, too.
+bool isTerminalFile(FILE* file) {
+    DWORD mode = 0;
+    return GetConsoleMode(handleOf(file), &mode) != 0;
+}
+
+// A console's bytes are in a code page that lacks most letters. In UTF-16 it takes and gives all of them.
+
+void writeToTerminal(FILE* file, const QString& text) {
+    DWORD written = 0;
+    WriteConsoleW(handleOf(file), text.utf16(), static_cast<DWORD>(text.size()), &written, nullptr);
+}
+
+std::optional<QString> readTerminalLine() {
+    constexpr QChar endOfInput(0x1A); // Ctrl+Z
+    QString line;
+    while (!line.endsWith(u'\n')) {
+        wchar_t part[256];
+        DWORD count = 0; // 0 after Ctrl+C
+        if (!ReadConsoleW(handleOf(stdin), part, DWORD{std::size(part)}, &count, nullptr) || count == 0)
+            return std::nullopt;
+        line += QString::fromWCharArray(part, static_cast<int>(count));
+    }
+    if (line.startsWith(endOfInput)) return std::nullopt;
+    line.chop(line.endsWith(u"\r\n") ? 2 : 1);
+    return line;
+}
+
 #else
+
+bool isTerminalFile(FILE* file) {
     return isatty(fileno(file)) == 1;
+}
+
 #endif
+
+void write(FILE* file, const QString& text) {
+#ifdef _WIN32
+    if (isTerminalFile(file)) return writeToTerminal(file, text);
+#endif
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
+    std::fflush(file);
 }
 
 } // namespace
@@ -43,14 +87,17 @@ bool isErrorTerminal() {
 }
 
 void writeStandardError(const QString& text) {
-    std::cerr << text.toStdString() << std::flush;
+    write(stderr, text);
 }
 
 void writeStandardOutput(const QString& text) {
-    std::cout << text.toStdString() << std::flush;
+    write(stdout, text);
 }
 
 std::optional<QString> readLine() {
+#ifdef _WIN32
+    if (isTerminalFile(stdin)) return readTerminalLine();
+#endif
     std::string line;
     if (!std::getline(std::cin, line) || interrupted) return std::nullopt;
     return QString::fromStdString(line);
