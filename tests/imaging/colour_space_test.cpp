@@ -1,62 +1,48 @@
 #include "imaging/colour_space.h"
 
 #include "core/error.h"
-#include "imaging/pixel_patterns.h"
+#include "imaging/channel_steps.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace morvane {
-
 namespace {
 
-using namespace mHLSRGB;
-
 TEST(ColourSpace, TellsHueInSextantsRedFirst) {
-    const struct {
-        RgbColour colour;
-        float hue;
-    } cases[] = {
-        {{255, 0, 0}, 0},   {{255, 0, 255}, -1}, // magenta: red is asked before blue, and -1 is kept
-        {{255, 255, 0}, 1}, {{0, 255, 0}, 2},       {{0, 255, 255}, 3},   {{0, 0, 255}, 4},
-        {{90, 90, 90}, 0},  {{100, 50, 75}, -0.5f}, {{51, 0, 255}, 4.2f},
+    const std::pair<RgbColour, HlsColour> cases[] = {
+        {{255, 0, 255}, {-1, 1, 0.5f}}, // magenta: red is asked before blue, and -1 is kept
+        {{255, 255, 0}, {1, 1, 0.5f}},
+        {{0, 255, 255}, {3, 1, 0.5f}},
+        {{102, 51, 51}, {0, 1 / 3.0f, 0.3f}},
+        {{51, 0, -51}, {0.5f, -4e6f, 0}}, // a denominator of zero
+        {{510, 100, 0}, {100 / 510.0f, -2e7f, 1}},
     };
-    for (const auto& [colour, hue] : cases)
-        EXPECT_FLOAT_EQ(RGBToHLS(colour.red, colour.green, colour.blue).hue, hue);
-}
-
-TEST(ColourSpace, TellsSaturationAndLightness) {
-    const HlsColour dark = RGBToHLS(102, 51, 51);
-    EXPECT_FLOAT_EQ(dark.lightness, 0.3f);
-    EXPECT_FLOAT_EQ(dark.saturation, 1 / 3.0f);
-    const HlsColour light = RGBToHLS(255, 204, 204);
-    EXPECT_FLOAT_EQ(light.lightness, 0.9f);
-    EXPECT_FLOAT_EQ(light.saturation, 1);
-    EXPECT_EQ(RGBToHLS(200, 200, 200).saturation, 0);
-}
-
-TEST(ColourSpace, ZeroDenominatorsGiveALargeNegativeSaturation) {
-    EXPECT_FLOAT_EQ(RGBToHLS(51, 0, -51).saturation, -4e6f);
-    EXPECT_FLOAT_EQ(RGBToHLS(510, 100, 0).saturation, -2e7f);
-    EXPECT_EQ(HLSToRGB(0.5f, -4e6f, 0), (RgbColour{0, 0, 0}));
-}
-
-TEST(ColourSpace, ComesBackFromEverySextantUnclamped) {
-    for (const RgbColour& colour :
-         {RgbColour{200, 100, 150}, RgbColour{200, 150, 100}, RgbColour{150, 200, 100},
-          RgbColour{100, 200, 150}, RgbColour{100, 150, 200}, RgbColour{150, 100, 200},
-          RgbColour{300, -12, 90}, RgbColour{479, -38, 3}, RgbColour{-38, -10, -20},
-          RgbColour{479, 300, 400}}) {
-        const HlsColour hls = RGBToHLS(colour.red, colour.green, colour.blue);
-        EXPECT_EQ(HLSToRGB(hls.hue, hls.saturation, hls.lightness), colour);
+    for (const auto& [colour, expected] : cases) {
+        const HlsColour hls = mHLSRGB::RGBToHLS(colour.red, colour.green, colour.blue);
+        EXPECT_FLOAT_EQ(hls.hue, expected.hue);
+        EXPECT_FLOAT_EQ(hls.saturation, expected.saturation);
+        EXPECT_FLOAT_EQ(hls.lightness, expected.lightness);
     }
+    EXPECT_THROW(mHLSRGB::HLSToRGB(0, 1e9f, 0.4f), Error);
 }
 
-TEST(ColourSpace, RaisesOverflowAndKnowsTheExtremes) {
-    EXPECT_THROW(HLSToRGB(0, 1e9f, 0.4f), Error);
-    EXPECT_EQ(Maximum(1, 3, 2), 3);
-    EXPECT_EQ(Minimum(2, 3, 1), 1);
+TEST(ChannelSteps, RoundTiesToEvenAndNeverClamp) {
+    // 1.1 * 25 is 27.5, 1.1 * 35 is 38.5: the first goes up, the second down.
+    for (const auto& [level, stepped] : {std::pair{25, 28}, {35, 38}, {255, 280}})
+        EXPECT_EQ(steppedChannel({0, 10}, Channel::red, level), stepped);
+}
+
+// The fast paths have room for no more.
+TEST(ChannelSteps, StayWithinTheirBoundsAtTheSlidersEnds) {
+    const auto dark = steppedChannels({0, 0, 0, 0, 0, 30}), bright = steppedChannels({0, 20, 20, 20, 30, 30});
+    EXPECT_EQ(*std::min_element(dark[0].begin(), dark[0].end()), lowestStepped);
+    EXPECT_EQ(*std::max_element(bright[2].begin(), bright[2].end()), highestStepped);
+    EXPECT_TRUE(isWithinSliders({-100, 20, -20, 20, 30, -30}));
+    for (const ColourValues& beyond :
+         {ColourValues{101}, {0, 20.5f}, {0, 0, -21}, {0, 0, 0, 21}, {0, 0, 0, 0, 31}, {0, 0, 0, 0, 0, -31}})
+        EXPECT_FALSE(isWithinSliders(beyond));
 }
 
 } // namespace
-
 } // namespace morvane

@@ -40,15 +40,6 @@ inline cDIBSection filledBuffer(int width, int height, const RgbColour& colour) 
     return buffer;
 }
 
-/// Every byte random, padding included.
-inline cDIBSection randomBuffer(int width, int height, unsigned seed) {
-    cDIBSection buffer = createdBuffer(width, height);
-    std::mt19937 random(seed);
-    for (int i = 0; i < buffer.BytesPerScanLine() * height; ++i)
-        buffer.DIBSectionBitsPtr()[i] = static_cast<std::uint8_t>(random());
-    return buffer;
-}
-
 } // namespace test
 
 } // namespace morvane

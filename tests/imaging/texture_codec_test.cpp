@@ -3,6 +3,8 @@
 #include "imaging/bitmap_builder.h"
 #include "imaging/picture_letters.h"
 #include "imaging/picture_reader.h"
+#include "imaging/pixel_buffer.h"
+#include "imaging/texture_level.h"
 #include "support/temporary_folder.h"
 
 #include <algorithm>
@@ -14,25 +16,22 @@
 namespace morvane {
 namespace {
 
-using test::bitmapFile;
-using test::fourLetters;
-using test::hex;
+using test::Colour;
 using test::longIn;
-using test::pixelAt;
-
-using Colour = std::array<int, 3>; // red, green, blue
 
 Picture painted(int width, int height, const std::function<Colour(int x, int y)>& colourAt) {
-    Picture picture{width, height,
-                    std::vector<std::uint8_t>(static_cast<std::size_t>(bytesPerRow(width) * height))};
+    const int row = bytesPerRow(width);
+    Picture picture{width, height, std::vector<std::uint8_t>(static_cast<std::size_t>(row * height))};
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
             const Colour colour = colourAt(x, y);
-            for (std::size_t i = 0; i < 3; ++i)
-                picture.rows[static_cast<std::size_t>(bytesPerRow(width) * y + 3 * x) + 2 - i] =
-                    static_cast<std::uint8_t>(std::clamp(colour[i], 0, 255));
+            std::copy(colour.rbegin(), colour.rend(), picture.rows.begin() + row * y + 3 * x);
         }
     return picture;
+}
+
+Picture plainPicture(int width, int height, const Colour& colour) {
+    return painted(width, height, [&colour](int, int) { return colour; });
 }
 
 /// Slopes of light, fields with hard edges, and grain.
@@ -46,50 +45,26 @@ Picture photographLike(int width, int height) {
     });
 }
 
-struct Level {
-    int width, height;
-    qsizetype at;
-};
-
-/// Walks the file as a loader does: halving both sides down to 1 x 1.
-std::vector<Level> levelsOf(int width, int height) {
-    std::vector<Level> levels{{width, height, 74}};
-    while (width > 1 || height > 1) {
-        const qsizetype blocks = qsizetype{(width + 3) / 4} * ((height + 3) / 4);
-        width = std::max(width / 2, 1);
-        height = std::max(height / 2, 1);
-        levels.push_back({width, height, levels.back().at + blocks * 8});
+/// All levels of a texture, found in the file as a loader does: halving both sides down to 1 x 1.
+std::vector<Picture> levelsOf(const QByteArray& texture, int width, int height) {
+    std::vector<Picture> levels;
+    for (qsizetype at = 74; at < texture.size();
+         width = std::max(width / 2, 1), height = std::max(height / 2, 1)) {
+        levels.push_back(readPicture(test::bitmapFile({.width = width,
+                                                       .height = height,
+                                                       .bits = 16,
+                                                       .compression = longIn("DXT1", 0),
+                                                       .pixels = texture.mid(at)})));
+        at += qsizetype{8} * ((width + 3) / 4) * ((height + 3) / 4);
     }
     return levels;
 }
 
-Picture decoded(const QByteArray& texture, const Level& level) {
-    return readPicture(bitmapFile({.width = level.width,
-                                   .height = level.height,
-                                   .bits = 16,
-                                   .compression = fourLetters("DXT1"),
-                                   .pixels = texture.mid(level.at)}));
-}
-
-Picture averaged(const Picture& picture) {
-    return painted(std::max(picture.width / 2, 1), std::max(picture.height / 2, 1), [&picture](int x, int y) {
-        Colour sum = {2, 2, 2};
-        for (const int right : {0, 1})
-            for (const int up : {0, 1}) {
-                const Colour pixel = pixelAt(picture, std::min(2 * x + right, picture.width - 1),
-                                             std::min(2 * y + up, picture.height - 1));
-                for (std::size_t i = 0; i < 3; ++i)
-                    sum[i] += pixel[i];
-            }
-        return Colour{sum[0] / 4, sum[1] / 4, sum[2] / 4};
-    });
-}
-
 /// Likeness in decibels; equal pictures give infinity.
-double likeness(const Picture& a, const Picture& b) {
+double likeness(const TextureLevel& a, const TextureLevel& b) {
     double squares = 0;
-    for (std::size_t i = 0; i < a.rows.size(); ++i)
-        squares += std::pow(a.rows[i] - b.rows[i], 2);
+    for (std::size_t i = 0; i < a.pixels.size(); ++i)
+        squares += std::pow(a.pixels[i] - b.pixels[i], 2);
     return 10 * std::log10(255.0 * 255.0 * 3 * a.width * a.height / squares);
 }
 
@@ -97,167 +72,126 @@ TEST(TextureCodec, headerOfTheUsualSize) {
     const QByteArray texture = compressTexture(photographLike(256, 256));
     EXPECT_EQ(texture.size(), 43778);
     EXPECT_EQ(texture.left(74).toHex(' '),
-              hex("424DF2AA000000000000 4A000000 28000000 00010000 00010000 0100 1000"
-                  "44585431 A8AA0000 00000000 00000000 00000000 00000000"
-                  "46533730 14000000 00010000 0000 0600 00000000")
+              test::hex("424DF2AA000000000000 4A000000 28000000 00010000 00010000 0100 1000"
+                        "44585431 A8AA0000 00000000 00000000 00000000 00000000"
+                        "46533730 14000000 00010000 0000 0600 00000000")
                   .toHex(' '));
 }
 
 TEST(TextureCodec, countsByTheSides) {
-    struct Case {
+    const struct {
         int width, height;
         quint32 mipWord, imageSize;
         qsizetype fileSize;
-    };
-    const Case cases[] = {
-        {1024, 1024, 8, 699048, 699138},
-        {512, 512, 7, 174760, 174850},
-        {64, 64, 4, 2728, 2818},
-        {8, 8, 1, 40, 130},
-        {4, 4, 0, 8, 98},
+    } cases[] = {
+        {1024, 1024, 8, 699048, 699138},          {8, 8, 1, 40, 130}, {4, 4, 0, 8, 98},
         {16, 4, 0, 32, 74 + 32 + 16 + 8 + 8 + 8}, // counted while both sides are four or more
         {4, 8, 0, 16, 74 + 16 + 8 + 8 + 8},
     };
-    for (const Case& c : cases) {
-        const QByteArray texture = compressTexture(painted(c.width, c.height, [](int x, int) {
-            return Colour{x, 0, 0};
-        }));
-        EXPECT_EQ(texture.size(), c.fileSize) << c.width << 'x' << c.height;
-        EXPECT_EQ(longIn(texture, 2), 74 + c.imageSize);
-        EXPECT_EQ(longIn(texture, 34), c.imageSize);
-        EXPECT_EQ(longIn(texture, 66) >> 16, c.mipWord);
-        EXPECT_EQ(longIn(texture, 18), static_cast<quint32>(c.width));
-        EXPECT_EQ(longIn(texture, 22), static_cast<quint32>(c.height));
+    for (const auto& [width, height, mipWord, imageSize, fileSize] : cases) {
+        const QByteArray texture = compressTexture(plainPicture(width, height, {9, 9, 9}));
+        EXPECT_EQ(texture.size(), fileSize) << width << 'x' << height;
+        EXPECT_EQ(longIn(texture, 2), 74 + imageSize);
+        EXPECT_EQ(longIn(texture, 34), imageSize);
+        EXPECT_EQ(longIn(texture, 66) >> 16, mipWord);
     }
 }
 
 TEST(TextureCodec, otherSidesAreRefused) {
-    const std::pair<int, int> sides[] = {{0, 0},     {2, 2},     {2, 256},   {256, 1},   {200, 200},
-                                         {256, 255}, {328, 251}, {2048, 64}, {64, 2048}, {2048, 2048}};
+    const std::pair<int, int> sides[] = {{0, 0}, {2, 256}, {256, 1}, {256, 200}, {2048, 64}, {64, 2048}};
     for (const auto& [width, height] : sides)
-        EXPECT_TRUE(compressTexture(painted(width, height, [](int, int) { return Colour{}; })).isEmpty())
-            << width << 'x' << height;
+        EXPECT_TRUE(compressTexture(plainPicture(width, height, {})).isEmpty()) << width << 'x' << height;
 }
 
 TEST(TextureCodec, bottomRowsComeFirst) {
-    const QByteArray texture = compressTexture(painted(256, 256, [](int, int y) {
-        return y < 128 ? Colour{0, 0, 255} : Colour{255, 0, 0};
-    }));
-    const Level firstBlock{4, 4, 74}, lastBlock{4, 4, 32834};
-    EXPECT_EQ(test::lettersOf(decoded(texture, firstBlock)), "bbbb/bbbb/bbbb/bbbb");
-    EXPECT_EQ(test::lettersOf(decoded(texture, lastBlock)), "rrrr/rrrr/rrrr/rrrr");
-    const Level smallest = levelsOf(256, 256)[7]; // 2 x 2
-    EXPECT_EQ(test::lettersOf(decoded(texture, smallest)), "rr/bb");
+    const Picture picture = painted(8, 8, [](int, int y) {
+        return y < 4 ? Colour{0, 0, 255} : Colour{255, 0, 0};
+    });
+    const auto levels = levelsOf(compressTexture(picture), 8, 8);
+    EXPECT_EQ(test::lettersOf(levels[0]), test::lettersOf(picture));
+    EXPECT_EQ(test::lettersOf(levels[2]), "rr/bb");
 }
 
 TEST(TextureCodec, everyLevelIsTheAverageOfTheOneBefore) {
     for (const auto& [width, height] : {std::pair{256, 256}, {64, 16}, {4, 128}}) {
-        Picture exact = photographLike(width, height);
-        const QByteArray texture = compressTexture(exact);
-        for (const Level& level : levelsOf(width, height)) {
-            if (level.width < exact.width || level.height < exact.height) exact = averaged(exact);
-            EXPECT_GT(likeness(exact, decoded(texture, level)), 28) << level.width << 'x' << level.height;
+        const Picture source = photographLike(width, height);
+        TextureLevel exact = levelOf(source);
+        for (const Picture& level : levelsOf(compressTexture(source), width, height)) {
+            ASSERT_EQ(std::pair(level.width, level.height), std::pair(exact.width, exact.height));
+            EXPECT_GT(likeness(exact, levelOf(level)), level.width == 256 ? 35 : 28) << level.width;
+            exact = halved(exact);
         }
     }
 }
 
-TEST(TextureCodec, photographsStayCloseToTheirSource) {
-    const Picture source = photographLike(256, 256);
-    EXPECT_GT(likeness(source, readPicture(compressTexture(source))), 35);
-}
-
-/// True when the block has a pixel that readers show as a hole.
-bool hasHole(const QByteArray& block) {
-    const quint32 colours = longIn(block, 0);
-    if ((colours & 0xFFFF) > colours >> 16) return false;
-    for (quint32 indexes = longIn(block, 4); indexes != 0; indexes >>= 2)
-        if ((indexes & 3) == 3) return true;
-    return false;
+TEST(TextureCodec, averagesAreRoundedToNearestAndASideOfOneStays) {
+    const struct {
+        int width, height;
+        std::vector<std::uint8_t> levels, averages;
+    } cases[] = {
+        {4, 4, {0, 0, 1, 2, 0, 1, 2, 2, 255, 255, 0, 0, 255, 254, 1, 1}, {0, 2, 255, 1}}, // 2/4 goes up
+        {4, 1, {0, 10, 20, 40}, {5, 30}},
+        {1, 4, {0, 10, 20, 41}, {5, 31}},
+        {1, 1, {18}, {18}},
+    };
+    for (const auto& [width, height, levels, averages] : cases) {
+        TextureLevel level{width, height, {}};
+        for (const std::uint8_t red : levels)
+            level.pixels.insert(level.pixels.end(), {red, 10, 20, 255});
+        const TextureLevel half = halved(level);
+        ASSERT_EQ(half.pixels.size(), 4 * averages.size());
+        for (std::size_t i = 0; i < half.pixels.size(); ++i)
+            EXPECT_EQ(half.pixels[i], (std::array<int, 4>{averages[i / 4], 10, 20, 255}[i % 4])) << i;
+    }
 }
 
 TEST(TextureCodec, noBlockHasAHole) {
     std::mt19937 random(3);
-    const auto noise = [&random](int range) {
-        return [&random, range](int x, int) {
-            const int base = x / 4 * 16;
-            const auto channel = [&] { return base + static_cast<int>(random()) % range; };
+    for (const unsigned range : {1U, 2U, 3U, 5U, 9U, 40U, 256U}) {
+        const QByteArray texture = compressTexture(painted(64, 64, [&](int x, int) {
+            const auto channel = [&] {
+                return std::min(255, x / 4 * 16 + static_cast<int>(random() % range));
+            };
             return Colour{channel(), channel(), channel()};
-        };
-    };
-    for (const int range : {1, 2, 3, 5, 9, 40, 256}) {
-        const QByteArray texture = compressTexture(painted(64, 64, noise(range)));
-        for (qsizetype at = 74; at < texture.size(); at += 8)
-            EXPECT_FALSE(hasHole(texture.mid(at, 8)))
-                << range << ' ' << texture.mid(at, 8).toHex().toStdString();
+        }));
+        for (int at = 74; at < texture.size(); at += 8) {
+            const quint32 ends = longIn(texture, at), indexes = longIn(texture, at + 4);
+            const bool hasThreeColours = (ends & 0xFFFF) <= ends >> 16;
+            EXPECT_FALSE(hasThreeColours && (indexes & indexes >> 1 & 0x55555555) != 0) << range << ' ' << at;
+        }
     }
-}
-
-void expectOneColour(const Picture& picture, const Colour& wanted) {
-    const Colour first = pixelAt(picture, 0, 0);
-    EXPECT_LE(std::abs(first[0] - wanted[0]), 4) << wanted[0];
-    EXPECT_LE(std::abs(first[1] - wanted[1]), 2) << wanted[1];
-    EXPECT_LE(std::abs(first[2] - wanted[2]), 4) << wanted[2];
-    for (int y = 0; y < picture.height; ++y)
-        for (int x = 0; x < picture.width; ++x)
-            EXPECT_EQ(pixelAt(picture, x, y), first);
 }
 
 TEST(TextureCodec, oneColourStaysOne) {
     for (int value = 0; value < 256; ++value) {
-        const Colour colour = {value, 255 - value, value * 7 % 256};
-        const QByteArray texture = compressTexture(painted(8, 8, [&](int, int) { return colour; }));
-        for (const Level& level : levelsOf(8, 8))
-            expectOneColour(decoded(texture, level), colour);
+        const Colour wanted = {value, 255 - value, value * 7 % 256};
+        for (const Picture& level : levelsOf(compressTexture(plainPicture(8, 8, wanted)), 8, 8)) {
+            const Colour first = test::pixelAt(level, 0, 0);
+            for (std::size_t i = 0; i < 3; ++i)
+                EXPECT_LE(std::abs(first[i] - wanted[i]), i == 1 ? 2 : 4) << value;
+            EXPECT_EQ(level.rows, plainPicture(level.width, level.height, first).rows) << value;
+        }
     }
 }
 
 // Some readers take a block with equal ends as one of three colours: only index 0 is safe there.
 TEST(TextureCodec, equalEndsHaveIndexZeroOnly) {
     for (const int grey : {0, 255}) {
-        const QByteArray texture = compressTexture(painted(4, 4, [&](int, int) {
-            return Colour{grey, grey, grey};
-        }));
-        const quint32 ends = longIn(texture, 74);
-        EXPECT_EQ(ends & 0xFFFF, ends >> 16);
+        const QByteArray texture = compressTexture(plainPicture(4, 4, {grey, grey, grey}));
+        EXPECT_EQ(texture.mid(74, 2), texture.mid(76, 2));
         EXPECT_EQ(longIn(texture, 78), 0U);
     }
 }
 
-class TextureFile : public testing::Test {
-protected:
-    bool convert(QStringView source, const QString& format = "1", int levels = 10, int alpha = -1,
-                 int options = 0) {
-        return BMPScompressBMPVB(files, folder / source, format, levels, alpha, options, target);
-    }
-
-    static QByteArray plainFile(const Picture& picture) {
-        return bitmapFile({.width = picture.width,
-                           .height = picture.height,
-                           .gap = QByteArray(4, '\0'),
-                           .pixels = QByteArray(reinterpret_cast<const char*>(picture.rows.data()),
-                                                static_cast<qsizetype>(picture.rows.size()))});
-    }
-
+TEST(TextureFile, isWrittenOverTheOneBeforeAndLeftAloneByARefusal) {
     test::TemporaryFolder folder;
     NativeFileSystem files;
-    FilePath target = folder / u"set" / u"006b2su1.bmp";
-};
-
-TEST_F(TextureFile, isWrittenOverTheOneBefore) {
-    const Picture picture = photographLike(32, 32);
-    test::writeFile(folder / u"source.bmp", plainFile(picture));
-    EXPECT_FALSE(convert(u"source.bmp")); // no folder for it
-    test::writeFile(target, "of an earlier run");
-    EXPECT_TRUE(convert(u"source.bmp"));
-    EXPECT_EQ(test::readFile(target), compressTexture(picture));
-}
-
-TEST_F(TextureFile, aRefusalTouchesNothing) {
-    files.makeFolder(target.parent());
-    test::writeFile(folder / u"good.bmp", plainFile(photographLike(32, 32)));
-    test::writeFile(folder / u"odd.bmp", plainFile(photographLike(33, 32)));
-    test::writeFile(folder / u"cut.bmp", plainFile(photographLike(32, 32)).left(900));
-    const auto refuseAll = [this] {
+    const FilePath target = folder / u"set" / u"006b2su1.bmp";
+    const auto convert = [&](QStringView source, const QString& format = "1", int levels = 10, int alpha = -1,
+                             int options = 0) {
+        return BMPScompressBMPVB(files, folder / source, format, levels, alpha, options, target);
+    };
+    const auto refuseAll = [&] {
         for (const char16_t* source : {u"odd.bmp", u"cut.bmp", u"missing.bmp"})
             EXPECT_FALSE(convert(source));
         EXPECT_FALSE(convert(u"good.bmp", "3"));
@@ -265,11 +199,23 @@ TEST_F(TextureFile, aRefusalTouchesNothing) {
         EXPECT_FALSE(convert(u"good.bmp", "1", 10, 0));
         EXPECT_FALSE(convert(u"good.bmp", "1", 10, -1, 1));
     };
+    const Picture picture = photographLike(32, 32);
+    cDIBSection buffer;
+    buffer.CreateFromPicture(picture);
+    buffer.SavePicture(folder / u"good.bmp");
+    test::writeFile(folder / u"cut.bmp", test::readFile(folder / u"good.bmp").left(900));
+    buffer.Create(33, 32);
+    buffer.SavePicture(folder / u"odd.bmp");
+
+    EXPECT_FALSE(convert(u"good.bmp")); // no folder for it
+    files.makeFolder(target.parent());
     refuseAll();
     EXPECT_FALSE(files.exists(target));
     test::writeFile(target, "of an earlier run");
     refuseAll();
     EXPECT_EQ(test::readFile(target), "of an earlier run");
+    EXPECT_TRUE(convert(u"good.bmp"));
+    EXPECT_EQ(test::readFile(target), compressTexture(picture));
 }
 
 } // namespace
