@@ -6,7 +6,8 @@
 
 namespace morvane::test {
 
-/// Every property that is not empty, False or 0, as "WindSpeed=015", in the order of the class.
+/// Every property that is not empty, False or 0, as "WindSpeed=015", in the order of the class; but
+/// the strength, which ends in a blank, stands before the weather so that it seldom ends a line of a table.
 inline QStringList decodedFields(const clsDecodeMetar& metar) {
     const auto flag = [](bool value) { return value ? u"True"_s : QString(); };
     const std::pair<QString, QString> properties[] = {
@@ -25,8 +26,8 @@ inline QStringList decodedFields(const clsDecodeMetar& metar) {
         {u"MetarYear"_s, metar.MetarYear},
         {u"MetarVisiblity"_s, metar.MetarVisiblity},
         {u"MetarVisibilityFormat"_s, metar.MetarVisibilityFormat},
-        {u"MetarWeather"_s, metar.MetarWeather},
         {u"MetarWeatherStrength"_s, metar.MetarWeatherStrength},
+        {u"MetarWeather"_s, metar.MetarWeather},
         {u"MetarObscuration"_s, metar.MetarObscuration},
         {u"MetarCloud"_s, metar.MetarCloud},
         {u"MetarMaxCloud"_s, metar.MetarMaxCloud == 0 ? QString() : QString::number(metar.MetarMaxCloud)},

@@ -1,6 +1,5 @@
 #include "weather/metar_decoder.h"
 
-#include "support/printing.h"
 #include "support/scripted_user.h"
 #include "weather/sample_reports.h"
 
@@ -8,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <optional>
 
 // The weather service's own reading of the sample reports, compared in meaning wherever both sides say
@@ -22,8 +22,7 @@ struct ServiceRow {
 
 std::vector<ServiceRow> serviceRows() {
     std::vector<ServiceRow> rows;
-    const QStringList lines = splitLines(decodeText(test::dataFile(u"metar/noaa_decoded.tsv"_s)));
-    for (const QString& line : lines.mid(1)) {
+    for (const QString& line : splitLines(test::dataText(u"metar/noaa_decoded.tsv"_s)).mid(1)) {
         const QStringList fields = line.split(u'\t');
         if (fields.size() < 14) continue;
         rows.push_back({fields[0], fields[3], fields[5], fields[6], fields[8], fields[11], fields[13]});
@@ -31,147 +30,122 @@ std::vector<ServiceRow> serviceRows() {
     return rows;
 }
 
-/// Text of the pattern's first group, nothing where the service has none.
-std::optional<QString> found(const QString& text, const QString& pattern) {
-    const auto match = QRegularExpression(pattern).match(text);
-    return match.hasMatch() ? std::optional(match.captured(1)) : std::nullopt;
+/// Whether both readings agree; nothing where the service is silent.
+using Agreement = std::optional<bool>;
+
+/// Compares a number with the first group of the pattern in the service's text.
+Agreement agrees(double ours, const QString& theirs, const QString& pattern, double tolerance = 0) {
+    const auto match = QRegularExpression(pattern).match(theirs);
+    if (!match.hasMatch()) return std::nullopt;
+    return std::abs(ours - match.captured(1).toDouble()) <= tolerance;
 }
 
-/// Compares where the service says something; true when it did.
-template <class Value>
-bool agrees(const Value& ours, const std::optional<Value>& theirs) {
-    if (!theirs) return false;
-    EXPECT_EQ(ours, *theirs);
-    return true;
+/// `figure` is WindSpeed or WindGust, `verb` what stands in front of it in the service's text.
+Agreement agreesInKnots(const clsDecodeMetar& ours, const QString& figure, const ServiceRow& theirs,
+                        const QString& verb) {
+    if (ours.WindSpeedMeasurement != u"kts") return std::nullopt;
+    return agrees(figure.toDouble(), theirs.wind, verb + u" \\d+ MPH \\((\\d+) KT\\)"_s);
 }
 
-std::optional<double> serviceNumber(const QString& text, const QString& pattern) {
-    const auto number = found(text, pattern);
-    return number ? std::optional(number->toDouble()) : std::nullopt;
-}
-
-std::optional<double> serviceKnots(const QString& wind, const QString& verb) {
-    return serviceNumber(wind, verb + u" \\d+ MPH \\((\\d+) KT\\)"_s);
-}
-
-bool agreesInCelsius(QString ours, const QString& theirs) {
-    const auto celsius = serviceNumber(theirs, u"\\((-?[\\d.]+) C\\)"_s);
-    if (!celsius) return false;
+Agreement agreesInCelsius(QString ours, const QString& theirs) {
     // Half a degree apart: the service takes tenths from the remarks where there are some.
-    EXPECT_LE(std::abs(ours.replace(u"Minus "_s, u"-"_s).toDouble() - *celsius), 0.5) << ours.toStdString();
-    return true;
+    return agrees(ours.replace(u"Minus "_s, u"-"_s).toDouble(), theirs, u"\\((-?[\\d.]+) C\\)"_s, 0.5);
 }
 
-std::optional<QString> serviceDirection(const QString& wind) {
-    if (wind.startsWith(u"Calm")) return u"Calm"_s;
-    if (wind.startsWith(u"Variable")) return u"Variable"_s;
-    const auto degrees = found(wind, u"\\((\\d+) degrees\\)"_s);
-    return degrees ? std::optional(*degrees + u" degrees"_s) : std::nullopt;
+Agreement agreesInDirection(const QString& ours, const QString& wind) {
+    for (const QString& word : {u"Calm"_s, u"Variable"_s})
+        if (wind.startsWith(word)) return ours == word;
+    const auto degrees = QRegularExpression(u"\\((\\d+ degrees)\\)"_s).match(wind);
+    return degrees.hasMatch() ? Agreement(ours == degrees.captured(1)) : std::nullopt;
 }
 
-std::optional<int> serviceCloudClass(const QString& sky) {
-    static const QStringList words{u"clear"_s,         u"mostly clear"_s, u"partly cloudy"_s,
-                                   u"mostly cloudy"_s, u"overcast"_s,     u"obscured"_s};
-    const qsizetype index = words.indexOf(sky);
-    return index < 0 ? std::nullopt : std::optional(static_cast<int>(index) + 1);
+Agreement agreesInPressure(const QString& ours, const QString& theirs) {
+    const bool isMercury = ours.endsWith(u"Inches of Mercury");
+    return agrees(ours.section(u' ', 0, 0).toDouble(), theirs,
+                  isMercury ? u"^([\\d.]+) in. Hg"_s : u"\\((\\d+) hPa\\)"_s);
 }
 
-class MetarService : public testing::Test {
-protected:
-    /// Decodes every row but those that begin with a text of `setAside`, and counts the comparisons made.
-    template <class Compare>
-    int comparisons(const QStringList& setAside, Compare&& compare) {
-        int made = 0;
-        qsizetype passedOver = 0;
-        for (const ServiceRow& row : serviceRows()) {
-            SCOPED_TRACE(row.report.toStdString());
-            const auto isStart = [&row](const QString& start) { return row.report.startsWith(start); };
-            if (std::any_of(setAside.begin(), setAside.end(), isStart)) {
-                ++passedOver;
-                continue;
-            }
-            clsDecodeMetar metar(user);
-            metar.decodeMetarString(row.report);
-            made += compare(row, metar);
-        }
-        EXPECT_EQ(passedOver, setAside.size());
-        return made;
-    }
+Agreement agreesInCloudClass(int ours, const QString& sky) {
+    static const QStringList words{
+        u""_s,         u"clear"_s,   u"mostly clear"_s, u"partly cloudy"_s, u"mostly cloudy"_s,
+        u"overcast"_s, u"obscured"_s};
+    const qsizetype theirs = words.indexOf(sky);
+    return theirs < 1 ? std::nullopt : Agreement(ours == theirs);
+}
 
-    test::ScriptedUser user;
+struct Comparison {
+    const char* figure;
+    int count; ///< reports in which the service gives the figure
+    std::function<Agreement(const clsDecodeMetar& ours, const ServiceRow& theirs)> compare;
+    QStringList setAside = {}; ///< how the reports begin that are read differently for a reason
+};
+
+std::vector<Comparison> comparisons() {
+    const QStringList timeIsAWind{u"SVJP 151100KT"_s};
     // A cloud group without a height, or a heading, stands where a temperature is looked for.
     const QStringList noTemperature{u"FQTT 161200Z"_s, u"KEKA 041600Z"_s, u"LIBE 030905Z"_s,
                                     u"RJNW 290700Z"_s, u"SCBP 240300Z"_s, u"TEDF 101600Z"_s,
                                     u"WIND 090008KT"_s};
-};
-
-TEST_F(MetarService, windDirection) {
-    const QStringList timeIsAWind{u"SVJP 151100KT"_s};
-    const int made = comparisons(timeIsAWind, [](const ServiceRow& row, const clsDecodeMetar& metar) {
-        return agrees(metar.WindDirection, serviceDirection(row.wind));
-    });
-    EXPECT_EQ(made, 378);
-}
-
-TEST_F(MetarService, windSpeedInKnots) {
-    const int made = comparisons({}, [](const ServiceRow& row, const clsDecodeMetar& metar) {
-        return metar.WindSpeedMeasurement == u"kts" &&
-               agrees(metar.WindSpeed.toDouble(), serviceKnots(row.wind, u"at"_s));
-    });
-    EXPECT_EQ(made, 305);
-}
-
-TEST_F(MetarService, gustInKnots) {
-    const int made = comparisons({}, [](const ServiceRow& row, const clsDecodeMetar& metar) {
-        EXPECT_EQ(metar.WindGusting, row.wind.contains(u"gusting"));
-        return metar.WindSpeedMeasurement == u"kts" &&
-               agrees(metar.WindGust.toDouble(), serviceKnots(row.wind, u"gusting to"_s));
-    });
-    EXPECT_EQ(made, 16);
-}
-
-TEST_F(MetarService, temperature) {
-    const int made = comparisons(noTemperature, [](const ServiceRow& row, const clsDecodeMetar& metar) {
-        return agreesInCelsius(metar.MetarTemp, row.temperature);
-    });
-    EXPECT_EQ(made, 376);
-}
-
-TEST_F(MetarService, dewpoint) {
-    const int made = comparisons(noTemperature, [](const ServiceRow& row, const clsDecodeMetar& metar) {
-        return agreesInCelsius(metar.MetarDewpoint, row.dewpoint);
-    });
-    EXPECT_EQ(made, 367);
-}
-
-TEST_F(MetarService, pressure) {
     // Groups that are not five characters; two pressures, of which the service takes the other.
-    const QStringList otherForms{u"HLLS 091750Z"_s, u"KQYQ 302055Z"_s, u"MHTG 171200Z"_s,
-                                 u"OPPS 171055Z"_s, u"SAST 121630Z"_s, u"VILD 290700Z"_s};
-    const int made = comparisons(otherForms, [](const ServiceRow& row, const clsDecodeMetar& metar) {
-        const bool isMercury = metar.MetarPressure.endsWith(u"Inches of Mercury");
-        const auto theirs = isMercury ? u"^([\\d.]+) in. Hg"_s : u"\\((\\d+) hPa\\)"_s;
-        return agrees(metar.MetarPressure.section(u' ', 0, 0).toDouble(),
-                      serviceNumber(row.pressure, theirs));
-    });
-    EXPECT_EQ(made, 338);
-}
-
-TEST_F(MetarService, cloudClass) {
-    const int made = comparisons({}, [](const ServiceRow& row, const clsDecodeMetar& metar) {
-        return agrees(int(metar.MetarMaxCloud), serviceCloudClass(row.sky));
-    });
-    EXPECT_EQ(made, 304);
-}
-
-TEST_F(MetarService, cumulusMarks) {
+    const QStringList otherPressure{u"HLLS 091750Z"_s, u"KQYQ 302055Z"_s, u"MHTG 171200Z"_s,
+                                    u"OPPS 171055Z"_s, u"SAST 121630Z"_s, u"VILD 290700Z"_s};
     const QStringList markInTheRemark{u"EHWO 141525Z"_s};
-    const int made = comparisons(markInTheRemark, [](const ServiceRow& row, const clsDecodeMetar& metar) {
-        const bool isMarked = row.weather.contains(u"Cumulonimbus clouds observed");
-        EXPECT_EQ(metar.MetarCloud.contains(u": Cumulonimbus observed"), isMarked);
-        return isMarked;
-    });
-    EXPECT_EQ(made, 27);
+    using Ours = const clsDecodeMetar&;
+    using Theirs = const ServiceRow&;
+    return {
+        {"wind direction", 378,
+         [](Ours ours, Theirs theirs) { return agreesInDirection(ours.WindDirection, theirs.wind); },
+         timeIsAWind},
+        {"wind speed", 305,
+         [](Ours ours, Theirs theirs) { return agreesInKnots(ours, ours.WindSpeed, theirs, u"at"_s); }},
+        {"gust", 16,
+         [](Ours ours, Theirs theirs) { return agreesInKnots(ours, ours.WindGust, theirs, u"to"_s); }},
+        {"gusting", 401,
+         [](Ours ours, Theirs theirs) {
+             return Agreement(ours.WindGusting == theirs.wind.contains(u"gusting"));
+         }},
+        {"temperature", 376,
+         [](Ours ours, Theirs theirs) { return agreesInCelsius(ours.MetarTemp, theirs.temperature); },
+         noTemperature},
+        {"dewpoint", 367,
+         [](Ours ours, Theirs theirs) { return agreesInCelsius(ours.MetarDewpoint, theirs.dewpoint); },
+         noTemperature},
+        {"pressure", 338,
+         [](Ours ours, Theirs theirs) { return agreesInPressure(ours.MetarPressure, theirs.pressure); },
+         otherPressure},
+        {"cloud class", 304,
+         [](Ours ours, Theirs theirs) { return agreesInCloudClass(ours.MetarMaxCloud, theirs.sky); }},
+        {"cumulonimbus", 400,
+         [](Ours ours, Theirs theirs) {
+             return Agreement(ours.MetarCloud.contains(u": Cumulonimbus observed") ==
+                              theirs.weather.contains(u"Cumulonimbus clouds observed"));
+         },
+         markInTheRemark},
+    };
+}
+
+TEST(MetarService, readsEveryFigureLikeTheDecoder) {
+    const std::vector<ServiceRow> rows = serviceRows();
+    for (const Comparison& comparison : comparisons()) {
+        SCOPED_TRACE(comparison.figure);
+        int made = 0;
+        qsizetype passedOver = 0;
+        for (const ServiceRow& row : rows) {
+            const auto isStart = [&row](const QString& start) { return row.report.startsWith(start); };
+            if (std::any_of(comparison.setAside.begin(), comparison.setAside.end(), isStart)) {
+                ++passedOver;
+                continue;
+            }
+            test::ScriptedUser user;
+            clsDecodeMetar metar(user);
+            metar.decodeMetarString(row.report);
+            const Agreement agreement = comparison.compare(metar, row);
+            EXPECT_TRUE(agreement.value_or(true)) << row.report.toStdString();
+            made += agreement.has_value();
+        }
+        EXPECT_EQ(made, comparison.count);
+        EXPECT_EQ(passedOver, comparison.setAside.size());
+    }
 }
 
 } // namespace

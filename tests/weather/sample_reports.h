@@ -9,18 +9,22 @@
 
 namespace morvane::test {
 
-/// A file below data/, such as "metar/02Z.TXT".
-inline QByteArray dataFile(const QString& name) {
-    QFile file(QStringLiteral(MORVANE_DATA_DIR "/") + name);
-    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("cannot read " + name.toStdString());
-    return file.readAll();
+inline QString readText(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("cannot read " + path.toStdString());
+    return decodeText(file.readAll());
+}
+
+/// The text of a file below data/, such as "metar/02Z.TXT".
+inline QString dataText(const QString& name) {
+    return readText(QStringLiteral(MORVANE_DATA_DIR "/") + name);
 }
 
 /// Every report of data/metar in file order, without the date lines of the cycle; repeats are kept.
 inline QStringList sampleReports() {
     QStringList reports;
     for (const QString& name : {u"02Z.TXT"_s, u"Export_Cycle.dat"_s, u"oddities.txt"_s})
-        reports += splitLines(decodeText(dataFile(u"metar/"_s + name)));
+        reports += splitLines(dataText(u"metar/"_s + name));
     return reports.filter(QRegularExpression(u"^(?!\\d{4}/\\d\\d/\\d\\d ).+"_s));
 }
 
