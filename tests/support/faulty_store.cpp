@@ -3,74 +3,42 @@
 #include "core/row_set.h"
 #include "core/store.h"
 
-#include <new>
-
 namespace morvane::test {
 
 namespace {
 
-/// An open file: SQLite's header, the disk that it lies on, and behind it the real file.
-struct FaultyFile {
-    sqlite3_file header;
+FaultyStoreDisk* activeDisk = nullptr;
+sqlite3_vfs* realSystem = nullptr;
+
+/// Takes the place of a real file's methods: all of them, but those that write ask the disk first.
+struct FaultyMethods : sqlite3_io_methods {
+    const sqlite3_io_methods* real;
     FaultyStoreDisk* disk;
 };
 
-sqlite3_file* realFile(sqlite3_file* file) {
-    return reinterpret_cast<sqlite3_file*>(reinterpret_cast<FaultyFile*>(file) + 1);
+template <auto method, class... Arguments>
+int counted(sqlite3_file* file, Arguments... arguments) {
+    const auto* faulty = static_cast<const FaultyMethods*>(file->pMethods);
+    const int result = faulty->disk->nextResult();
+    return result == SQLITE_OK ? (faulty->real->*method)(file, arguments...) : result;
 }
 
-/// Hands a call on to the real file.
-template <auto method>
-struct PassedOn;
-template <class Result, class... Arguments,
-          Result (*sqlite3_io_methods::*method)(sqlite3_file*, Arguments...)>
-struct PassedOn<method> {
-    static Result call(sqlite3_file* file, Arguments... arguments) {
-        return (realFile(file)->pMethods->*method)(realFile(file), arguments...);
-    }
-};
-
-/// The same for a call that may fail.
-template <auto method>
-struct Counted;
-template <class... Arguments, int (*sqlite3_io_methods::*method)(sqlite3_file*, Arguments...)>
-struct Counted<method> {
-    static int call(sqlite3_file* file, Arguments... arguments) {
-        const int result = reinterpret_cast<FaultyFile*>(file)->disk->nextResult();
-        return result == SQLITE_OK ? PassedOn<method>::call(file, arguments...) : result;
-    }
-};
-
-using Methods = sqlite3_io_methods;
-const Methods faultyMethods = {
-    3,
-    PassedOn<&Methods::xClose>::call,
-    PassedOn<&Methods::xRead>::call,
-    Counted<&Methods::xWrite>::call,
-    Counted<&Methods::xTruncate>::call,
-    Counted<&Methods::xSync>::call,
-    PassedOn<&Methods::xFileSize>::call,
-    PassedOn<&Methods::xLock>::call,
-    PassedOn<&Methods::xUnlock>::call,
-    PassedOn<&Methods::xCheckReservedLock>::call,
-    PassedOn<&Methods::xFileControl>::call,
-    PassedOn<&Methods::xSectorSize>::call,
-    PassedOn<&Methods::xDeviceCharacteristics>::call,
-    PassedOn<&Methods::xShmMap>::call,
-    PassedOn<&Methods::xShmLock>::call,
-    PassedOn<&Methods::xShmBarrier>::call,
-    PassedOn<&Methods::xShmUnmap>::call,
-    PassedOn<&Methods::xFetch>::call,
-    PassedOn<&Methods::xUnfetch>::call,
-};
-
-FaultyStoreDisk* activeDisk = nullptr;
-sqlite3_vfs* activeReal = nullptr;
+int closeFile(sqlite3_file* file) {
+    const auto* faulty = static_cast<const FaultyMethods*>(file->pMethods);
+    file->pMethods = faulty->real;
+    delete faulty;
+    return file->pMethods->xClose(file);
+}
 
 int openFile(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* flagsGiven) {
-    auto* faulty = new (file) FaultyFile{{nullptr}, activeDisk};
-    const int result = activeReal->xOpen(activeReal, name, realFile(file), flags, flagsGiven);
-    if (realFile(file)->pMethods != nullptr) faulty->header.pMethods = &faultyMethods;
+    const int result = realSystem->xOpen(realSystem, name, file, flags, flagsGiven);
+    if (file->pMethods == nullptr) return result;
+    auto* faulty = new FaultyMethods{*file->pMethods, file->pMethods, activeDisk};
+    faulty->xClose = closeFile;
+    faulty->xWrite = counted<&sqlite3_io_methods::xWrite>;
+    faulty->xTruncate = counted<&sqlite3_io_methods::xTruncate>;
+    faulty->xSync = counted<&sqlite3_io_methods::xSync>;
+    file->pMethods = faulty;
     return result;
 }
 
@@ -79,10 +47,9 @@ int openFile(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int*
 FaultyStoreDisk::FaultyStoreDisk(int failure)
     : real_(sqlite3_vfs_find(nullptr)), wrapped_(*real_), failure_(failure) {
     wrapped_.zName = "faulty";
-    wrapped_.szOsFile += static_cast<int>(sizeof(FaultyFile));
     wrapped_.xOpen = openFile;
     activeDisk = this;
-    activeReal = real_;
+    realSystem = real_;
     sqlite3_vfs_register(&wrapped_, 1);
 }
 

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "core/row_set.h"
+#include "core/store.h"
+#include "core/store_schema.h"
+
+#include "support/printing.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane::test {
+
+/// A store with all tables of the program and no rows.
+class StoreFixture : public testing::Test {
+protected:
+    StoreFixture() {
+        store.create(file);
+        createSchema(store);
+    }
+
+    void execute(const QString& statement) { store.execute(statement); }
+    void addBackup(const QString& name) {
+        execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME) VALUES ('%1')"_s.arg(name));
+    }
+    /// The field of every row; `from` is a table and what may follow its name.
+    QStringList column(const QString& field, const QString& from) {
+        QStringList texts;
+        for (RowSet rows(store, u"SELECT * FROM "_s + from); !rows.atEnd(); rows.next())
+            texts << rows.text(field);
+        return texts;
+    }
+    QStringList backups() { return column(u"BACKUP_NAME"_s, u"MV_BACKUP"_s); }
+    /// Every row of a table, its fields joined by "|".
+    QStringList rowsOf(const QString& table) {
+        QStringList lines;
+        for (RowSet rows(store, u"SELECT * FROM "_s + table); !rows.atEnd(); rows.next()) {
+            QStringList fields;
+            for (const QString& field : store.columns(table))
+                fields << rows.text(field);
+            lines << fields.join(u'|');
+        }
+        return lines;
+    }
+    /// What the user would read of a failed action.
+    template <class Action>
+    static QString failureOf(Action action) {
+        try {
+            action();
+        } catch (const Error& error) {
+            return error.description();
+        }
+        return u"no failure"_s;
+    }
+
+    TemporaryFolder folder;
+    FilePath file = folder / u"Morvane.mdb";
+    Store store;
+};
+
+} // namespace morvane::test
