@@ -18,10 +18,10 @@ protected:
 };
 
 TEST_F(IniFileTest, readsAsTheSystemsProfilesDo) {
-    const QByteArray longValue(600, 'x');
     test::writeFile(file, "; a remark\r\n[ Sky ]\r\nBlank =   a b  \r\nQuoted=\"  a b  \"\r\nEmpty=\r\n"
                           "TWICE=first\nTwice=second\nNumber=-12 apples\n" +
-                              QByteArrayLiteral("Nul=a\0b\n[Other]\nBlank=other\nLong=") + longValue);
+                              QByteArrayLiteral("Nul=a\0b\n[Other]\nBlank=other\nLong=") +
+                              QByteArray(600, 'x'));
     const std::pair<QString, QString> cases[] = {
         {"blank", "a b"}, {"Quoted", "a b"}, {"Empty", ""}, {"Twice", "first"}, {"Nul", "a b"}, {"Long", ""},
     };
@@ -30,8 +30,7 @@ TEST_F(IniFileTest, readsAsTheSystemsProfilesDo) {
     EXPECT_EQ(GetIniString(files, "OTHER", "Blank", file), "other");
     EXPECT_EQ(GetIniString(files, "Other", "Long", file).size(), 511);
     EXPECT_EQ(GetIniInt(files, "Sky", "Number", file), -12);
-    EXPECT_EQ(GetIniInt(files, "Sky", "Missing", file), 0);
-    EXPECT_EQ(GetIniString(files, "Sky", "Blank", folder / u"missing.cfg"), "");
+    EXPECT_EQ(GetIniInt(files, "Sky", "Number", folder / u"missing.cfg"), 0);
 }
 
 TEST_F(IniFileTest, writesOneKeyAndKeepsTheRest) {
@@ -55,18 +54,16 @@ TEST_F(IniFileTest, theRegistryKeepsTextsAndTypes) {
     }
     registry.SetRegString(1, key, "Value", "a\n[HKEY_USERS\\Evil]"); // a text is never a key of its own
     EXPECT_EQ(registry.GetRegString(1, key, "Value"), "");
-    for (const int root : {4, -1})
-        EXPECT_FALSE(registry.CreateRegKey(root, key));
+    EXPECT_FALSE(registry.CreateRegKey(4, key)); // no such root
 }
 
 TEST_F(IniFileTest, theRegistryReadsWhatAHandWrote) {
     test::writeFile(folder / u"registry.ini",
-                    QByteArrayLiteral("[HKEY_LOCAL_MACHINE\\Software\\Asv6]\n"
-                                      "Local=dword:0000001f\nPath=C:\\Asv6\0junk\n"));
-    EXPECT_TRUE(registry.RegValueIsDword(1, "Software\\Asv6", "local"));
-    EXPECT_EQ(registry.GetRegString(1, "Software\\Asv6", "Local"), "31");
-    EXPECT_EQ(registry.GetRegString(1, "Software\\Asv6", "Path"), "C:\\Asv6");
-    EXPECT_EQ(registry.GetRegString(1, "Software\\Asv6", "Path", "OTHERPC"), "");
+                    QByteArrayLiteral("[HKEY_USERS\\Asv6]\nLocal=dword:0000001f\nPath=C:\\Asv6\0junk\n"));
+    EXPECT_TRUE(registry.RegValueIsDword(2, "Asv6", "local"));
+    EXPECT_EQ(registry.GetRegString(2, "Asv6", "Local"), "31");
+    EXPECT_EQ(registry.GetRegString(2, "Asv6", "Path"), "C:\\Asv6");
+    EXPECT_EQ(registry.GetRegString(2, "Asv6", "Path", "OTHERPC"), "");
 }
 
 } // namespace

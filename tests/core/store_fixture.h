@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/row_set.h"
+#include "core/statement_translation.h"
 #include "core/store.h"
 #include "core/store_schema.h"
 
@@ -20,9 +21,12 @@ protected:
     }
 
     void execute(const QString& statement) { store.execute(statement); }
-    void addBackup(const QString& name) {
-        execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME) VALUES ('%1')"_s.arg(name));
+    /// A row for each of the texts; `column` as in "MV_BACKUP(BACKUP_NAME)".
+    void addRows(const QString& column, const QStringList& texts) {
+        const QString values = makeStatementSafe(texts.join(u'|')).replace(u'|', u"'), ('"_s);
+        execute(u"INSERT INTO %1 VALUES ('%2')"_s.arg(column, values));
     }
+    void addBackups(const QStringList& names) { addRows(u"MV_BACKUP(BACKUP_NAME)"_s, names); }
     /// The field of every row; `from` is a table and what may follow its name.
     QStringList column(const QString& field, const QString& from) {
         QStringList texts;

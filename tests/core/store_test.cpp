@@ -1,4 +1,3 @@
-#include "core/statement_translation.h"
 #include "core/store_fixture.h"
 
 #include <QFileInfo>
@@ -17,24 +16,32 @@ TEST_F(StoreTest, statementsOfTheProgramRunAsTheyAre) {
             << line.data();
     }
     EXPECT_EQ(store.tables().size(), 11);
-    EXPECT_TRUE(store.hasTable(u"texture_sets"_s));
-    EXPECT_EQ(store.columns(u"TEXTURE_SWITCH"_s).join(u' '), "ID ISDUTCH ISTROPICAL ISHALO ISFASTEXIT");
     EXPECT_TRUE(store.hasColumn(u"DECODED_METAR"_s, u"METAR_LONG"_s));
     EXPECT_FALSE(store.hasColumn(u"NO_TABLE"_s, u"ID"_s));
 }
 
-TEST_F(StoreTest, textsCompareWithoutCase) {
-    for (const QString& name : {u"örebro"_s, u"Arlanda"_s, u"ÖSTERSUND"_s, u"bromma"_s, u"O'Hare"_s})
-        execute(u"INSERT INTO AIRPORTDATA(ICAO, CITY) VALUES ('ESXX', '"_s + makeStatementSafe(name) +
-                u"')"_s);
+TEST_F(StoreTest, textsAreFoundWithoutCase) {
+    addRows(u"AIRPORTDATA(CITY)"_s, {u"örebro"_s, u"Arlanda"_s, u"ÖSTERSUND"_s, u"bromma"_s, u"O'Hare"_s});
+    addRows(u"AIRPORTDATA(STATE)"_s, {u"a state without a city"_s});
     const std::pair<QString, QString> cases[] = {
         {u"AIRPORTDATA WHERE CITY = 'ÖREBRO'"_s, u"örebro"_s},
         {u"AIRPORTDATA WHERE CITY = 'o''hare'"_s, u"O'Hare"_s},
         {u"AIRPORTDATA WHERE CITY LIKE 'Ö%' ORDER BY CITY"_s, u"örebro ÖSTERSUND"_s},
-        {u"AIRPORTDATA ORDER BY CITY"_s, u"Arlanda bromma O'Hare örebro ÖSTERSUND"_s},
+        {u"AIRPORTDATA WHERE NOT ISNULL (trim(upper(CITY))) ORDER BY CITY"_s,
+         u"Arlanda bromma O'Hare örebro ÖSTERSUND"_s},
     };
     for (const auto& [from, cities] : cases)
         EXPECT_EQ(column(u"city"_s, from).join(u' '), cities);
+}
+
+TEST_F(StoreTest, nothingInsideQuotesIsAWordOfTheLanguage) {
+    const QString name = u"ISNULL(x) YESNO ?, COUNTER; from 'y'"_s;
+    addBackups({name});
+    RowSet row(store, u"SELECT *, ' FROM x' FROM MV_BACKUP"_s);
+    EXPECT_EQ(row.text(u"BACKUP_NAME"), name);
+    row.setText(u"BACKUP_NAME", u"plain"_s); // to the table behind the true FROM
+    row.update();
+    EXPECT_EQ(backups(), QStringList{u"plain"_s});
 }
 
 TEST_F(StoreTest, widthsAreEnforced) {
@@ -47,15 +54,14 @@ TEST_F(StoreTest, widthsAreEnforced) {
 }
 
 TEST_F(StoreTest, keysAreNeverUsedTwice) {
-    for (const QString& name : {u"a"_s, u"b"_s, u"c"_s})
-        addBackup(name);
+    addBackups({u"a"_s, u"b"_s, u"c"_s});
     execute(u"DELETE FROM MV_BACKUP WHERE ID = 3"_s);
-    addBackup(u"d"_s);
+    addBackups({u"d"_s});
     EXPECT_EQ(column(u"ID"_s, u"MV_BACKUP"_s).join(u' '), "1 2 4");
 }
 
 TEST_F(StoreTest, newColumnsComeAllOrNoneAndAreSeenAtOnce) {
-    addBackup(u"1-Backup"_s);
+    addBackups({u"1-Backup"_s});
     EXPECT_THROW(column(u"NOTE"_s, u"MV_BACKUP"_s), Error);
     EXPECT_THROW(execute(u"ALTER TABLE MV_BACKUP ADD COLUMN NOTE YESNO, BACKUP_NAME TEXT(9)"_s), Error);
     execute(u"ALTER TABLE MV_BACKUP ADD COLUMN NOTE TEXT(9), KEPT YESNO"_s);
@@ -67,27 +73,24 @@ TEST_F(StoreTest, newColumnsComeAllOrNoneAndAreSeenAtOnce) {
 TEST_F(StoreTest, transactionsNest) {
     {
         StoreTransaction outer(store);
-        addBackup(u"kept"_s);
-        { // goes without a commit: only its own part is taken back
-            StoreTransaction inner(store);
-            addBackup(u"dropped"_s);
+        addBackups({u"kept"_s});
+        {
+            const StoreTransaction inner(store); // goes without a commit: only its own part is taken back
+            addBackups({u"dropped"_s});
         }
-        StoreTransaction inner(store);
-        addBackup(u"kept too"_s);
-        inner.commit();
         outer.commit();
     }
     {
-        StoreTransaction outer(store);
+        const StoreTransaction outer(store);
         StoreTransaction inner(store);
-        addBackup(u"dropped with the outer one"_s);
+        addBackups({u"dropped with the outer one"_s});
         inner.commit();
     }
-    EXPECT_EQ(backups().join(u'|'), "kept|kept too");
+    EXPECT_EQ(backups().join(u'|'), "kept");
 }
 
 TEST_F(StoreTest, closingLeavesOneFile) {
-    addBackup(u"1-Backup"_s);
+    addBackups({u"1-Backup"_s});
     EXPECT_TRUE(QFileInfo::exists(file.native() + u"-wal"_s));
     store.close();
     EXPECT_FALSE(QFileInfo::exists(file.native() + u"-wal"_s));
@@ -98,8 +101,45 @@ TEST_F(StoreTest, closingLeavesOneFile) {
 
 TEST_F(StoreTest, oneStatementAtATime) {
     EXPECT_THROW(execute(u"DELETE FROM MV_BACKUP WHERE ID = 1; DROP TABLE MV_BACKUP"_s), Error);
+    EXPECT_THROW(execute(u"DELETE FROM MV_BACKUP WHERE BACKUP_NAME = 'O''"_s), Error); // never closed
     EXPECT_THROW(execute(u" "_s), Error);
-    EXPECT_TRUE(store.hasTable(u"MV_BACKUP"_s));
+    EXPECT_TRUE(store.hasTable(u"mv_backup"_s));
+}
+
+TEST_F(StoreTest, anUpdateOfARowSetWritesTheRowAtHandOnly) {
+    addBackups({u"Default"_s, u"Storm"_s, u"Calm"_s});
+    RowSet rows(store, u"SELECT BACKUP_NAME FROM MV_BACKUP WHERE BACKUP_NAME <> 'Calm'"_s);
+    rows.next();
+    rows.setText(u"BACKUP_NAME", u"Gale"_s);
+    EXPECT_EQ(rows.text(u"BACKUP_NAME"), "Storm"); // not before the update
+    rows.update();
+    EXPECT_EQ(rows.text(u"BACKUP_NAME"), "Gale");
+    rows.update(); // nothing was set: nothing to write
+    EXPECT_EQ(backups().join(u' '), "Default Gale Calm");
+}
+
+TEST_F(StoreTest, numbersAreCheckedForTheirWidth) {
+    execute(
+        u"INSERT INTO DECODED_METAR(ID, METAR_STRING, METAR_MAX_CLOUD) VALUES (40000, '12', 3000000000)"_s);
+    const RowSet row(store, u"SELECT * FROM DECODED_METAR"_s);
+    EXPECT_EQ(failureOf([&] { row.integer(u"ID"); }), "Overflow");
+    EXPECT_EQ(row.longInteger(u"ID"), 40000);
+    EXPECT_EQ(failureOf([&] { row.longInteger(u"METAR_MAX_CLOUD"); }), "Overflow");
+    EXPECT_EQ(failureOf([&] { row.integer(u"METAR_YEAR"); }), "Type mismatch"); // a null
+    EXPECT_EQ(row.integer(u"METAR_STRING"), 12); // a text of digits is a number
+}
+
+TEST_F(StoreTest, rowsThatCannotBeWrittenRaise) {
+    addBackups({u"Kiruna"_s});
+    RowSet distinct(store, u"SELECT DISTINCT BACKUP_NAME FROM MV_BACKUP"_s);
+    RowSet none(store, u"SELECT * FROM MV_BACKUP WHERE ID = 9"_s);
+    for (RowSet* rows : {&distinct, &none})
+        EXPECT_THROW(rows->setText(u"BACKUP_NAME", u"Luleå"_s), Error);
+    EXPECT_THROW(none.text(u"BACKUP_NAME"), Error); // nor read
+    none.addNew();
+    EXPECT_THROW(none.setText(u"NOTE", u"x"_s), Error);
+    none.close(); // forgets the row that was started, too
+    EXPECT_THROW(none.setText(u"BACKUP_NAME", u"Luleå"_s), Error);
 }
 
 } // namespace
