@@ -4,6 +4,7 @@
 #include "support/small_install.h"
 
 #include <QFile>
+#include <array>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -15,27 +16,18 @@ TEST(FileTime, isLocalAndWithoutSeconds) {
     test::SmallInstall install;
     const FilePath file = install.folder / u"Export_Cycle.dat";
     writeFile(file, "EHAM");
-    const std::pair<QDateTime, QString> cases[] = {
-        {{QDate(2006, 7, 14), QTime(14, 7, 33)}, u"2006/07/14 14:07:00"_s},
-        {{QDate(1999, 12, 31), QTime(23, 59, 59)}, u"1999/12/31 23:59:00"_s},
-        {{QDate(2007, 1, 2), QTime(0, 0, 1)}, u"2007/01/02 00:00:00"_s},
-    };
-    for (const auto& [time, text] : cases) {
-        QFile opened(file.native());
-        ASSERT_TRUE(opened.open(QIODevice::ReadWrite));
-        ASSERT_TRUE(opened.setFileTime(time, QFileDevice::FileModificationTime));
-        opened.close();
-        EXPECT_EQ(GetFileTime(install.session, file), text);
-    }
+    QFile opened(file.native());
+    ASSERT_TRUE(opened.open(QIODevice::ReadWrite));
+    const QDateTime time(QDate(1999, 12, 31), QTime(23, 9, 59));
+    ASSERT_TRUE(opened.setFileTime(time, QFileDevice::FileModificationTime));
+    opened.close();
+    EXPECT_EQ(GetFileTime(install.session, file), u"1999/12/31 23:09:00"_s);
     EXPECT_TRUE(install.user.told().isEmpty());
-}
 
-TEST(FileTime, ofAFileThatCannotBeOpenedIsToldAndEmpty) {
-    test::SmallInstall install;
-    EXPECT_EQ(GetFileTime(install.session, install.folder / u"missing.dat"), QString());
-    EXPECT_EQ(GetFileTime(install.session, install.home()), QString());
-    const QString told = u"Error|Morvane Error|Error opening file"_s;
-    EXPECT_EQ(install.user.told(), QStringList({told, told}));
+    for (const FilePath& unreadable : {install.folder / u"missing.dat", install.home()}) {
+        EXPECT_EQ(GetFileTime(install.session, unreadable), QString());
+        EXPECT_EQ(install.user.told().last(), u"Error|Morvane Error|Error opening file"_s);
+    }
 }
 
 TEST(SystemTimeTexts, onlyTheDateIsPadded) {
@@ -52,53 +44,36 @@ TEST(Existence, aFolderTestCleansTheCallersText) {
     NativeFileSystem files;
     writeFile(folder / u"Flights\\a.flt", "[Main]");
     const QString path = (folder / u"Flights").native();
-    struct Case {
-        QString given;
-        bool found;
-        QString after;
-    };
-    const Case cases[] = {
+    const std::tuple<QString, bool, QString> cases[] = {
         {path, true, path},
-        {path + u'\\', true, path},
         {u"  "_s + path + u"\\ "_s, true, path},
         {path + u"/a.flt"_s, false, path + u"/a.flt"_s},
         {path + u"/none\\"_s, false, path + u"/none"_s},
         {u" \\ "_s, false, {}},
-        {{}, false, {}},
     };
-    for (const Case& c : cases) {
-        QString text = c.given;
-        EXPECT_EQ(FolderExists(files, text), c.found) << c.given.toStdString();
-        EXPECT_EQ(text, c.after) << c.given.toStdString();
+    for (const auto& [given, found, after] : cases) {
+        QString text = given;
+        EXPECT_EQ(FolderExists(files, text), found) << given.toStdString();
+        EXPECT_EQ(text, after) << given.toStdString();
     }
     EXPECT_TRUE(FileExists(files, folder / u"Flights")); // a folder counts, too
     EXPECT_TRUE(FileExists(files, folder / u"FLIGHTS\\A.FLT"));
     EXPECT_FALSE(FileExists(files, folder / u"Flights\\b.flt"));
 }
 
-/// The fixed version record as executables carry it: a mark, its own version, the file's version.
-QByteArray versionRecord(const char* fileVersion) {
-    return QByteArray::fromHex("bd04effe"
-                               "00000100") +
-           QByteArray::fromHex(fileVersion);
-}
-
 TEST(FileVersion, isReadFromTheFixedRecord) {
     const test::TemporaryFolder folder;
     NativeFileSystem files;
+    // A mark, the record's own version, and 16-bit numbers, the higher one of each pair behind the lower.
+    const QByteArray record = QByteArray::fromHex("bd04effe"
+                                                  "00000100"
+                                                  "00000600"
+                                                  "07000114");
     const std::pair<QByteArray, QString> cases[] = {
-        // 16-bit numbers, the higher one of each pair behind the lower.
-        {"MZ..." + versionRecord("00000600"
-                                 "07000114"),
-         u"6.0.5121.7"_s},
-        {versionRecord("ffffffff"
-                       "ffffffff") +
-             "tail",
-         u"65535.65535.65535.65535"_s},
+        {"MZ..." + record + "tail", u"6.0.5121.7"_s},
+        {QByteArray(record).replace(8, 4, "\xff\xff\xff\xff"), u"65535.65535.5121.7"_s},
         {"MZ, an executable without a record", {}},
-        {"MZ..." + versionRecord("00000600"
-                                 "070001"),
-         {}}, // cut inside the record
+        {"MZ..." + record.left(15), {}},
         {{}, {}},
     };
     for (const auto& [contents, text] : cases) {
@@ -109,17 +84,13 @@ TEST(FileVersion, isReadFromTheFixedRecord) {
 }
 
 TEST(FileVersion, missingAndOddPartsCountAsNothing) {
-    struct Case {
-        QString version;
-        int parts[4];
-    };
-    const Case cases[] = {{u"6.0.5121.7"_s, {6, 0, 5121, 7}},
-                          {u"7.0"_s, {7, 0, 0, 0}},
-                          {u"6.x.5120"_s, {6, 0, 5120, 0}},
-                          {{}, {0, 0, 0, 0}}};
-    for (const Case& c : cases)
+    const std::pair<QString, std::array<int, 4>> cases[] = {{u"6.0.5121.7"_s, {6, 0, 5121, 7}},
+                                                            {u"7.0"_s, {7, 0, 0, 0}},
+                                                            {u"6.x.5120"_s, {6, 0, 5120, 0}},
+                                                            {{}, {}}};
+    for (const auto& [version, parts] : cases)
         for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(versionPart(c.version, i), c.parts[i]) << c.version.toStdString() << ' ' << i;
+            EXPECT_EQ(versionPart(version, i), parts[static_cast<std::size_t>(i)]) << version.toStdString();
 }
 
 } // namespace
