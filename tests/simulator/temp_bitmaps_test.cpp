@@ -8,29 +8,27 @@
 namespace morvane {
 namespace {
 
-using test::SmallInstall;
-using test::writeFile;
+struct CleanTempBitmaps : testing::Test {
+    test::SmallInstall install;
+    const FilePath folder = install.home() / u"TempBitmaps";
 
-QStringList namesBelow(const FilePath& folder) {
-    return test::contentsBelow(folder).keys();
+    QStringList leftAfterCleaning(const QStringList& names) {
+        for (const QString& name : names)
+            test::writeFile(folder / name, "pixels");
+        cleanTempBitmaps(install.session);
+        return test::contentsBelow(folder).keys();
+    }
+};
+
+TEST_F(CleanTempBitmaps, leavesTheDutchFolderAndWhatIsNoBitmap) {
+    EXPECT_EQ(leftAfterCleaning(
+                  {"a.bmp", "Texture\\b.BMP", "Texture\\notes.txt", "UTEurLC\\c.bmp", "Dutch\\d.bmp"}),
+              QStringList({"Dutch/d.bmp", "Texture/notes.txt"}));
 }
 
-TEST(CleanTempBitmaps, leavesTheDutchFolderAndWhatIsNoBitmap) {
-    SmallInstall install;
-    for (const char16_t* name :
-         {u"a.bmp", u"Texture\\b.BMP", u"Texture\\notes.txt", u"UTEurLC\\c.bmp", u"Dutch\\d.bmp"})
-        writeFile(install.home() / u"TempBitmaps" / name, "pixels");
-    cleanTempBitmaps(install.session);
-    EXPECT_EQ(namesBelow(install.home() / u"TempBitmaps"), QStringList({"Dutch/d.bmp", "Texture/notes.txt"}));
-}
-
-TEST(CleanTempBitmaps, passesOverWhatCannotBeRemovedWithoutAWord) {
-    SmallInstall install;
-    for (const char16_t* name : {u"a.bmp", u"Texture\\b.bmp", u"UTEurLC\\c.bmp"})
-        writeFile(install.home() / u"TempBitmaps" / name, "pixels");
+TEST_F(CleanTempBitmaps, passesOverWhatCannotBeRemovedWithoutAWord) {
     install.files.failAt(4, false); // list, remove, list, and the removal of "b.bmp"
-    cleanTempBitmaps(install.session);
-    EXPECT_EQ(namesBelow(install.home() / u"TempBitmaps"), QStringList({"Texture/b.bmp"}));
+    EXPECT_EQ(leftAfterCleaning({"a.bmp", "Texture\\b.bmp", "UTEurLC\\c.bmp"}), QStringList{"Texture/b.bmp"});
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
