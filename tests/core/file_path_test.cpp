@@ -13,6 +13,7 @@
 namespace morvane {
 namespace {
 
+using test::readFile;
 using test::TemporaryFolder;
 using test::writeFile;
 
