@@ -3,9 +3,7 @@
 #include "core/application.h"
 #include "ground/ground_sets.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <csignal>
 
@@ -15,14 +13,8 @@ namespace {
 
 constexpr int watchdogMilliseconds = 60000;
 
-/// The system's list of the signals that a process catches has one bit for each.
-bool catchesInterrupts(qint64 process) {
-    QFile status(u"/proc/%1/status"_s.arg(process));
-    if (!status.open(QIODevice::ReadOnly)) return false;
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("SigCgt:"))
-            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGINT - 1) & 1) != 0;
-    return false;
+QStringList wordsOf(const QString& commandLine) {
+    return commandLine.split(u' ', Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -38,14 +30,11 @@ QJsonArray ConsoleRun::array() const {
     return QJsonDocument::fromJson(output).array();
 }
 
-Console::Console() {
+Console::Console(const QStringList& arguments) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(u"MORVANE_HOME"_s);
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     process_.setProcessEnvironment(environment);
-}
-
-void Console::start(const QStringList& arguments) {
     process_.start(QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), arguments);
     if (!process_.waitForStarted(watchdogMilliseconds)) throw std::runtime_error("no console program");
 }
@@ -65,13 +54,6 @@ void Console::interrupt() {
     ::kill(id, SIGINT); // to 0 it would go to the test and all its kin
 }
 
-bool Console::waitUntilInterruptsAre(bool caught) {
-    const QDeadlineTimer watchdog(watchdogMilliseconds);
-    while (catchesInterrupts(process_.processId()) != caught)
-        if (watchdog.hasExpired()) return false;
-    return true;
-}
-
 ConsoleRun Console::finish(const QByteArray& input) {
     process_.write(input);
     process_.closeWriteChannel();
@@ -86,22 +68,20 @@ ConsoleRun Console::finish(const QByteArray& input) {
     return {sound ? process_.exitCode() : -1, process_.readAllStandardOutput(), QString::fromUtf8(errors_)};
 }
 
-ConsoleRun runConsole(const QStringList& arguments, const QByteArray& input) {
-    Console console;
-    console.start(arguments);
-    return console.finish(input);
+ConsoleRun runConsole(const QString& commandLine, const QStringList& more, const QByteArray& input) {
+    return Console(wordsOf(commandLine) + more).finish(input);
 }
 
 ConsoleInstall::ConsoleInstall(const SmallInstallOptions& options) : SmallInstall(options) {
     closeDatabase(session);
 }
 
-QStringList ConsoleInstall::withHome(const QStringList& arguments) const {
-    return QStringList{u"--answer"_s, u"yes"_s, u"--home"_s, home().native()} + arguments;
+QStringList ConsoleInstall::withHome(const QString& commandLine) const {
+    return QStringList{u"--answer"_s, u"yes"_s, u"--home"_s, home().native()} + wordsOf(commandLine);
 }
 
-ConsoleRun ConsoleInstall::run(const QStringList& arguments) {
-    return runConsole(withHome(arguments));
+ConsoleRun ConsoleInstall::run(const QString& commandLine, const QStringList& more) {
+    return Console(withHome(commandLine) + more).finish();
 }
 
 void ConsoleInstall::addSet(const QString& name, const QString& cover, bool activated,
@@ -111,7 +91,7 @@ void ConsoleInstall::addSet(const QString& name, const QString& cover, bool acti
     closeDatabase(session);
 }
 
-QStringList ConsoleInstall::sets() {
+QString ConsoleInstall::sets() {
     connectDatabase(session);
     reload();
     QStringList names;
@@ -119,7 +99,7 @@ QStringList ConsoleInstall::sets() {
         names << set->TextureSet + (set->Actvated == u"True" ? u"+"_s : QString()) +
                      (set->Installed ? u"*"_s : QString());
     closeDatabase(session);
-    return names;
+    return names.join(u' ');
 }
 
 QStringList ConsoleInstall::setFolders() const {

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "core/file_path.h"
 #include "support/small_install.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QProcess>
-#include <QStringList>
 
 namespace morvane::test {
 
@@ -21,21 +19,17 @@ struct ConsoleRun {
     std::vector<QJsonObject> objects() const;
     /// The one array on stdout.
     QJsonArray array() const;
-    /// How often the messages hold the text.
-    qsizetype countOf(const QString& text) const { return messages.count(text); }
 };
 
 /// The console program itself, started without an install in its environment. A run that does not end within
 /// a minute is killed.
 class Console {
 public:
-    Console();
-    void start(const QStringList& arguments);
+    explicit Console(const QStringList& arguments);
     /// Waits until stderr holds the text; false when the program ended before.
     bool waitForMessage(const QString& text);
     void interrupt();
-    /// Waits until the program catches interrupts, or until it does no longer.
-    bool waitUntilInterruptsAre(bool caught);
+    bool endsSoon() { return process_.waitForFinished(50); }
     ConsoleRun finish(const QByteArray& input = {});
 
 private:
@@ -43,20 +37,21 @@ private:
     QByteArray errors_;
 };
 
-ConsoleRun runConsole(const QStringList& arguments, const QByteArray& input = {});
+/// Runs a command line; `more` are arguments behind it that may hold blanks.
+ConsoleRun runConsole(const QString& commandLine, const QStringList& more = {}, const QByteArray& input = {});
 
 /// A small install for the console: no session of the test holds its store open while the console runs.
 class ConsoleInstall : public SmallInstall {
 public:
     explicit ConsoleInstall(const SmallInstallOptions& options = {});
 
-    /// Runs a command on the install, questions answered with yes unless the arguments say otherwise.
-    ConsoleRun run(const QStringList& arguments);
-    QStringList withHome(const QStringList& arguments) const;
+    /// Runs a command on the install, questions answered with yes unless the command line says otherwise.
+    ConsoleRun run(const QString& commandLine, const QStringList& more = {});
+    QStringList withHome(const QString& commandLine) const;
     void addSet(const QString& name, const QString& cover, bool activated = true,
                 const QStringList& names = {u"Texture\\029h2su6.bmp"_s});
     /// Names of all sets in the store with "+" behind an activated and "*" behind an installed one.
-    QStringList sets();
+    QString sets();
     /// Names of the folders of sets.
     QStringList setFolders() const;
 };
