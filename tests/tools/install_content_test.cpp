@@ -15,63 +15,29 @@ using test::ToolRun;
 using InstallContent = MadeInstall;
 
 TEST_F(InstallContent, hasTheFoldersThatTheProgramReadsOrWrites) {
-    for (const char16_t* folder : {u"Media",
-                                   u"Flights",
-                                   u"METAR",
-                                   u"Backup",
-                                   u"MV Help",
-                                   u"Resources\\GENERIC WORLD",
-                                   u"Resources\\UT EUROPE",
-                                   u"Resources\\UTIND",
-                                   u"Resources\\DUTCH",
-                                   u"Resources\\GENERIC WORLD NIGHT",
-                                   u"Resources\\DUTCH NIGHT",
-                                   u"Resources\\Sky\\Default",
-                                   u"Resources\\Sky\\Default Softer",
-                                   u"Resources\\Sky\\Horizons",
-                                   u"Resources\\Sky\\Pro Sky",
-                                   u"Resources\\Sky\\Sunny",
-                                   u"Resources\\Sky\\Tropical",
-                                   u"Resources\\Sky\\Overcast",
-                                   u"Resources\\Sky\\Sunrise",
-                                   u"Resources\\Sky\\Sunset",
-                                   u"GENERIC WORLD",
-                                   u"UT EUROPE",
-                                   u"UTIND",
-                                   u"DUTCH",
-                                   u"GENERIC WORLD NIGHT",
-                                   u"DUTCH NIGHT",
-                                   u"Texture Sets",
-                                   u"Night Texture Sets",
-                                   u"Sky Texture Sets",
-                                   u"TempBitmaps\\Texture",
-                                   u"TempBitmaps\\UTEurLC",
-                                   u"TempBitmaps\\Dutch"})
-        EXPECT_TRUE(files.isFolder(home() / folder)) << QString::fromUtf16(folder).toStdString();
-    for (const char16_t* folder :
-         {u"Scenery\\World\\Texture", u"Scenery\\UTEurLC\\Texture", u"Texture", u"Uires", u"Flights"})
-        EXPECT_TRUE(files.isFolder(simulator() / folder)) << QString::fromUtf16(folder).toStdString();
+    const QString folders = files.read(test::testFile(u"install_folders.txt"));
+    EXPECT_EQ(folders.count(u'\n'), 37);
+    for (const QString& folder : folders.split(u'\n', Qt::SkipEmptyParts))
+        EXPECT_TRUE(files.isFolder(beside(folder))) << folder.toStdString();
 }
 
-TEST_F(InstallContent, isCurrentForItsOwnDensityAndOnlyWhenWhole) {
-    EXPECT_EQ(runContentTool(home(), simulator(), {u"--check"_s}).status, 0);
-    EXPECT_EQ(runContentTool(home(), simulator(), {u"--check"_s, u"--density"_s, u"2"_s}).status, 1);
-    EXPECT_EQ(runContentTool(home(), beside(u"No simulator"), {u"--check"_s}).status, 1);
-    for (const char16_t* part : {u"content.version", u"Morvane.mdb"}) {
-        const FilePath file = home() / part, aside = home() / u"aside";
+TEST_F(InstallContent, isCurrentForItsOwnVersionAndDensityAndOnlyWhenWhole) {
+    const auto check = [&](const FilePath& simulator, const QString& density) {
+        return runContentTool(home(), simulator, {u"--check"_s, u"--density"_s, density}).status;
+    };
+    EXPECT_EQ(check(simulator(), u"2"_s), 1);
+    EXPECT_EQ(check(beside(u"No simulator"), u"1"_s), 1);
+    const FilePath mark = home() / u"content.version", aside = home() / u"aside";
+    for (const FilePath& file : {mark, home() / u"Morvane.mdb"}) {
         files.rename(file, aside);
-        EXPECT_EQ(runContentTool(home(), simulator(), {u"--check"_s}).status, 1);
+        EXPECT_EQ(check(simulator(), u"1"_s), 1);
         files.rename(aside, file);
     }
-    EXPECT_EQ(runContentTool(home(), simulator(), {u"--check"_s}).status, 0);
-}
-
-TEST_F(InstallContent, ofAnotherVersionIsNotCurrent) {
-    const FilePath mark = home() / u"content.version";
     const QByteArray own = files.read(mark);
     files.write(mark, "content 0 density 1\n");
-    EXPECT_EQ(runContentTool(home(), simulator(), {u"--check"_s}).status, 1);
+    EXPECT_EQ(check(simulator(), u"1"_s), 1);
     files.write(mark, own);
+    EXPECT_EQ(check(simulator(), u"1"_s), 0);
 }
 
 /// The tool must refuse and leave both places as they are.

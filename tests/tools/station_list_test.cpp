@@ -11,34 +11,19 @@ namespace {
 
 TEST(DecimalDegrees, readsDegreesMinutesSecondsAndHemisphere) {
     const std::pair<QString, QString> cases[] = {
-        {u"47-27N"_s, u"47.45"_s},
-        {u"34-15S"_s, u"-34.25"_s},
-        {u"008-40W"_s, u"-8.666667"_s},
-        {u"160-03E"_s, u"160.05"_s},
-        {u"65-58-56N"_s, u"65.982222"_s},
-        {u"161-09-07W"_s, u"-161.151944"_s},
-        {u"90-00S"_s, u"-90"_s},
-        {u"180-00E"_s, u"180"_s},
-        {u"00-00S"_s, u"0"_s},
-        {u"000-00-00W"_s, u"0"_s},
-        {u"10-00N"_s, u"10"_s},
-        {u"00-00-01S"_s, u"-0.000278"_s},
-        // Misprints of the real lists, and what is no coordinate.
-        {u"104-87W"_s, {}},
-        {u"14-96N"_s, {}},
-        {u"37-8N"_s, {}},
-        {u"45-27"_s, {}},
-        {u" 094-18-25W"_s, {}},
-        {u"91-00N"_s, {}},
-        {u"90-01S"_s, {}},
-        {u"180-00-01W"_s, {}},
-        {u"12-30-60N"_s, {}},
-        {u"12-30n"_s, {}},
-        {u"47.45"_s, {}},
-        {{}, {}},
+        {u"47-27N"_s, u"47.45"_s},        {u"34-15S"_s, u"-34.25"_s},
+        {u"160-03E"_s, u"160.05"_s},      {u"008-40W"_s, u"-8.666667"_s},
+        {u"65-58-56N"_s, u"65.982222"_s}, {u"161-09-07W"_s, u"-161.151944"_s},
+        {u"90-00S"_s, u"-90"_s},          {u"180-00E"_s, u"180"_s},
+        {u"000-00-00W"_s, u"0"_s},        {u"00-00-01S"_s, u"-0.000278"_s},
     };
     for (const auto& [coordinate, degrees] : cases)
         EXPECT_EQ(decimalDegrees(coordinate), degrees) << coordinate.toStdString();
+    // Misprints of the real lists, and what is no coordinate.
+    for (const QString& misprint :
+         {u"104-87W"_s, u"14-96N"_s, u"37-8N"_s, u"45-27"_s, u" 094-18-25W"_s, u"91-00N"_s, u"90-01S"_s,
+          u"180-00-01W"_s, u"12-30-60N"_s, u"12-30n"_s, u"47.45"_s, QString()})
+        EXPECT_EQ(decimalDegrees(misprint), QString()) << misprint.toStdString();
 }
 
 TEST(StationList, takesPositionAndNumbersAndLivesWithMisprints) {
@@ -49,15 +34,16 @@ TEST(StationList, takesPositionAndNumbersAndLivesWithMisprints) {
                          u"SHRT;01;002;Too short\r\n"
                          u"\r\n"_s);
     ASSERT_EQ(stations.size(), 3);
-    const Station& honiara = stations[u"AGGH"_s];
-    EXPECT_EQ(honiara.latitude, u"-9.416667");
-    EXPECT_EQ(honiara.longitude, u"160.05");
-    EXPECT_EQ(std::tie(honiara.region, honiara.block, honiara.number), std::tuple(5, 91, 520));
-    const Station& nowhere = stations[u"CWXX"_s];
-    EXPECT_EQ(nowhere.latitude, QString());
-    EXPECT_EQ(nowhere.longitude, u"-79");
-    EXPECT_EQ(std::tie(nowhere.region, nowhere.block, nowhere.number), std::tuple(4, 0, 0));
-    EXPECT_EQ(stations[u"XLOS"_s].region, 0);
+    const auto told = [&](const QString& code) {
+        const Station& station = stations[code];
+        return u"%1 %2 %3 %4 %5"_s.arg(station.latitude, station.longitude)
+            .arg(station.region)
+            .arg(station.block)
+            .arg(station.number);
+    };
+    EXPECT_EQ(told(u"AGGH"_s), u"-9.416667 160.05 5 91 520"_s);
+    EXPECT_EQ(told(u"CWXX"_s), u" -79 4 0 0"_s);
+    EXPECT_EQ(told(u"XLOS"_s), u"37.064444 1 0 1 234"_s);
 }
 
 } // namespace

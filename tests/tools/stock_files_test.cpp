@@ -100,55 +100,6 @@ TEST_F(StockFiles, splashesAreDifferentBitmapsOf24Bits) {
               files.read(home() / u"Media\\dlgsplash.bmp"));
 }
 
-/// Patterns of one category as the walk takes them in one season, with the ending of the season joined.
-struct SeasonWalk {
-    QStringList patterns;
-    QString ending;
-};
-
-/// Category 13 has no patterns in the table: these are its runs.
-std::vector<SeasonWalk> industrialWalks(const QString& season) {
-    std::vector<SeasonWalk> walks{{{u"034*2"_s, u"038*2"_s, u"003*2"_s}, season + u"*.bmp"_s},
-                                  {{u"139b2"_s, u"140b2"_s, u"141b2"_s}, season + u"1.bmp"_s}};
-    if (season == u"su") {
-        walks.push_back({{u"056*2"_s}, u"su*.bmp"_s});
-        walks.push_back({{u"142b2"_s, u"143b2"_s}, u"su1.bmp"_s});
-    }
-    return walks;
-}
-
-std::vector<SeasonWalk> walksOf(const CatalogueCategory& category, const QString& season) {
-    if (category.number == 13) return industrialWalks(season);
-    return {{QString::fromUtf16(category.patterns).split(u' '), season + u"*.bmp"_s}};
-}
-
-QStringList walkedNames(Session& session, const CatalogueCategory& category, bool CatalogueFlags::*season) {
-    TextureCatalogue catalogue(session);
-    catalogue.flags.categories[static_cast<std::size_t>(category.number - 1)] = true;
-    catalogue.flags.*season = true;
-    QStringList names;
-    for (const CatalogueFile& file : catalogue.popTextureList(1, 1, true, u"7-Storm"_s))
-        names << file.fileName;
-    return names;
-}
-
-TEST_F(StockCatalogue, everyPatternFindsAFileInEverySeasonItWalks) {
-    const std::pair<QString, bool CatalogueFlags::*> seasons[] = {{u"sp"_s, &CatalogueFlags::popSpring},
-                                                                  {u"su"_s, &CatalogueFlags::popSummer},
-                                                                  {u"fa"_s, &CatalogueFlags::popFall},
-                                                                  {u"wi"_s, &CatalogueFlags::popWinter}};
-    for (const CatalogueCategory& category : catalogueTable()) {
-        for (const auto& [season, flag] : seasons) {
-            const QStringList names = walkedNames(session, category, flag);
-            for (const SeasonWalk& walk : walksOf(category, season))
-                for (const QString& pattern : walk.patterns)
-                    EXPECT_TRUE(std::any_of(names.begin(), names.end(), [&](const QString& name) {
-                        return matchesMask(name, pattern + walk.ending);
-                    })) << (pattern + walk.ending).toStdString();
-        }
-    }
-}
-
 TEST_F(StockCatalogue, noBaseImageIsWithoutUse) {
     QSet<QString> used, there;
     for (const CatalogueFile& file : TextureCatalogue(session).popTextureList(0, 0, true, u"7-Storm"_s))
