@@ -3,7 +3,9 @@
 #include "core/application.h"
 #include "ground/ground_sets.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QFile>
 #include <QJsonDocument>
 #include <csignal>
 
@@ -12,6 +14,16 @@ namespace morvane::test {
 namespace {
 
 constexpr int watchdogMilliseconds = 60000;
+
+/// The system's list of the signals that a process catches has one bit for each.
+bool catchesInterrupts(qint64 process) {
+    QFile status(u"/proc/%1/status"_s.arg(process));
+    if (!status.open(QIODevice::ReadOnly)) return false;
+    for (const QByteArray& line : status.readAll().split('\n'))
+        if (line.startsWith("SigCgt:"))
+            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGINT - 1) & 1) != 0;
+    return false;
+}
 
 QStringList wordsOf(const QString& commandLine) {
     return commandLine.split(u' ', Qt::SkipEmptyParts);
@@ -52,6 +64,13 @@ void Console::interrupt() {
     const auto id = static_cast<pid_t>(process_.processId());
     if (id <= 0) throw std::runtime_error("the console program has ended");
     ::kill(id, SIGINT); // to 0 it would go to the test and all its kin
+}
+
+bool Console::waitUntilInterruptsAre(bool caught) {
+    const QDeadlineTimer watchdog(watchdogMilliseconds);
+    while (catchesInterrupts(process_.processId()) != caught)
+        if (watchdog.hasExpired()) return false;
+    return true;
 }
 
 ConsoleRun Console::finish(const QByteArray& input) {

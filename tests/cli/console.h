@@ -29,7 +29,8 @@ public:
     /// Waits until stderr holds the text; false when the program ended before.
     bool waitForMessage(const QString& text);
     void interrupt();
-    bool endsSoon() { return process_.waitForFinished(50); }
+    /// Waits until the program catches interrupts, or until it does no longer.
+    bool waitUntilInterruptsAre(bool caught);
     ConsoleRun finish(const QByteArray& input = {});
 
 private:
