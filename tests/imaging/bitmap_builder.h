@@ -42,7 +42,10 @@ inline QByteArray bitmapFile(const BitmapParts& parts) {
 
 /// The number stored at that offset, and the file with another one there; little-endian.
 inline quint32 longIn(const QByteArray& file, int at) {
-    return qFromLittleEndian<quint32>(file.constData() + at);
+    quint32 number = 0;
+    for (int i = 3; i >= 0; --i)
+        number = number << 8 | static_cast<quint8>(file.at(at + i));
+    return number;
 }
 inline QByteArray withLong(QByteArray file, int at, quint32 value) {
     qToLittleEndian<quint32>(value, file.data() + at);
