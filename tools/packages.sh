@@ -1,5 +1,5 @@
 # Installs the Debian packages that the build needs and this machine lacks. Sourced.
-packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev libstb-dev libgtest-dev libgmock-dev libbenchmark-dev)
+packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev libstb-dev fonts-roboto-hinted libgtest-dev libgmock-dev libbenchmark-dev)
 missing=()
 for package in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
