@@ -1,0 +1,125 @@
+#include "imaging/window_region.h"
+
+#include "core/error.h"
+#include "core/literals.h"
+
+#include <QRegion>
+#include <QtEndian>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace morvane {
+namespace {
+
+constexpr QRgb key = qRgb(255, 0, 255);
+
+/// A picture out of letters: '#' is opaque, anything else transparent.
+QImage pictureOf(const std::vector<const char*>& rows) {
+    QImage picture(static_cast<int>(strlen(rows[0])), static_cast<int>(rows.size()), QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixel(x, y, rows[static_cast<std::size_t>(y)][x] == '#' ? qRgb(1, 2, 3) : key);
+    return picture;
+}
+
+const std::vector<const char*> lippedWindow = {"..##..", "######", "######", "#.##.#",
+                                               "#.##..", "......", ".##..."};
+
+TEST(WindowRegion, scanMakesBandsOfEqualRows) {
+    const WindowRegion region = scanRegion(pictureOf(lippedWindow), key);
+    const std::vector<QRect> bands = {{2, 0, 2, 1}, {0, 1, 6, 2}, {0, 3, 1, 1}, {2, 3, 2, 1},
+                                      {5, 3, 1, 1}, {0, 4, 1, 1}, {2, 4, 2, 1}, {1, 6, 2, 1}};
+    EXPECT_EQ(region.rectangles, bands);
+    EXPECT_EQ(region.bounds, QRect(0, 0, 6, 7));
+    EXPECT_EQ(scanRegion(pictureOf({"###", "###"}), key).rectangles, std::vector<QRect>{QRect(0, 0, 3, 2)});
+}
+
+/// The rule as it is told: the whole rectangle less each transparent run.
+TEST(WindowRegion, scanEqualsTheRectangleLessItsRuns) {
+    std::mt19937 random(20040); // NOLINT: the same pictures every time
+    for (int turn = 0; turn < 50; ++turn) {
+        QImage picture(17, 9, QImage::Format_RGB888);
+        QRegion expected(picture.rect());
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x) {
+                const bool isOpaque = random() % 10 < static_cast<unsigned>(turn % 10);
+                picture.setPixel(x, y, isOpaque ? qRgb(0, 0, 0) : key);
+                if (!isOpaque) expected -= QRect(x, y, 1, 1);
+            }
+        const WindowRegion region = scanRegion(picture, key);
+        EXPECT_EQ(region.rectangles, std::vector<QRect>(expected.begin(), expected.end()));
+        EXPECT_EQ(region.bounds, expected.boundingRect());
+    }
+}
+
+TEST(WindowRegion, blockHasTheLayoutOfTheSystem) {
+    const QByteArray block = writeWindowRegion(scanRegion(pictureOf({".##", ".##"}), key));
+    EXPECT_EQ(block.toHex(), QByteArray("20000000"
+                                        "01000000"
+                                        "01000000"
+                                        "10000000"
+                                        "01000000"
+                                        "00000000"
+                                        "03000000"
+                                        "02000000"
+                                        "01000000"
+                                        "00000000"
+                                        "03000000"
+                                        "02000000"));
+}
+
+TEST(WindowRegion, readingAndWritingGivesTheSameBytes) {
+    WindowRegion region = scanRegion(pictureOf(lippedWindow), key);
+    EXPECT_EQ(readWindowRegion(writeWindowRegion(region)), region);
+    // Foreign files may tell wider bounds, and bands that another scan would have joined.
+    region.bounds = QRect(-5, -5, 40, 40);
+    region.rectangles = {QRect(-5, 0, 2, 1), QRect(-5, 1, 2, 1)};
+    const QByteArray foreign = writeWindowRegion(region);
+    EXPECT_EQ(writeWindowRegion(readWindowRegion(foreign)), foreign);
+}
+
+TEST(WindowRegion, emptyRegionIsNotWritten) {
+    try {
+        writeWindowRegion(scanRegion(pictureOf({"..", ".."}), key));
+        FAIL();
+    } catch (const Error& error) {
+        EXPECT_EQ(error.description(), u"Unable to determine size of region in SaveRegionDataToFile"_s);
+    }
+}
+
+QByteArray withLong(QByteArray block, int at, quint32 value) {
+    qToLittleEndian(value, block.data() + at);
+    return block;
+}
+
+TEST(WindowRegion, damagedFilesAreRefused) {
+    const QByteArray good = writeWindowRegion(scanRegion(pictureOf(lippedWindow), key));
+    struct Damage {
+        const char* what;
+        QByteArray file;
+    };
+    const Damage damages[] = {
+        {"nothing", {}},
+        {"half a header", good.left(20)},
+        {"half a rectangle", good.left(good.size() - 8)},
+        {"a rectangle short", good.left(good.size() - 16)},
+        {"something behind", good + QByteArray(16, '\0')},
+        {"another header size", withLong(good, 0, 36)},
+        {"another type", withLong(good, 4, 2)},
+        {"no rectangle", withLong(good.left(32), 8, 0)},
+        {"a huge count", withLong(good, 8, 0xFFFFFFFF)},
+        {"a count that overflows", withLong(good, 8, 0x10000008)},
+        {"another size of the rectangles", withLong(good, 12, 16)},
+        {"a far corner", withLong(good, 32, 0x7FFFFFFF)},
+        {"a far end", withLong(good, 40, 0x80000000)},
+        {"an empty rectangle", withLong(good, 40, 2)},
+        {"a rectangle out of bounds", withLong(good, 40, 7)},
+        {"two that overlap", withLong(good, 32 + 3 * 16 + 8, 6)},
+        {"one out of its row", withLong(good, 32 + 16 + 4, 0)},
+    };
+    for (const Damage& damage : damages)
+        EXPECT_THROW(readWindowRegion(damage.file), Error) << damage.what;
+}
+
+} // namespace
+} // namespace morvane
