@@ -4,6 +4,7 @@
 #include "core/literals.h"
 #include "core/registry.h"
 #include "delivered_rows.h"
+#include "skin_files.h"
 #include "stock_files.h"
 
 namespace morvane {
@@ -11,7 +12,7 @@ namespace morvane {
 namespace {
 
 /// Raise it whenever what the tool makes changes: samples of another version are made anew.
-constexpr int contentVersion = 2;
+constexpr int contentVersion = 3;
 
 constexpr const char16_t* installFolders[] = {
     u"Media",
@@ -101,6 +102,7 @@ int makeContent(FileSystem& files, const ContentRequest& request) {
     writeDeliveredStore(files, request.data, storeFile(request));
     writeStock(files, request.home, request.simulator, stock);
     writeSplashes(files, request.home, request.simulator);
+    writeSkin(files, request.home / u"Media");
     writeRegistry(files, request);
     files.write(request.simulator / u"fs9.exe", "A stand-in of the sample simulator.\r\n");
     files.write(versionFile(request), versionMark(request));

@@ -6,9 +6,10 @@
 #include "install_content.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QTemporaryDir>
 #include <cstdio>
 
 using namespace morvane;
@@ -24,6 +25,12 @@ bool isUsageRight(const QCommandLineParser& parser) {
     return parser.isSet(u"home"_s) && parser.isSet(u"simulator"_s) &&
            parser.positionalArguments().isEmpty() && density >= lowestStockDensity &&
            density <= highestStockDensity;
+}
+
+/// The tool draws words, but never a window: it needs neither a display nor a user's session. Qt asks for
+/// the latter's folder and complains where there is none.
+void setDefault(const char* variable, const QString& value) {
+    if (!qEnvironmentVariableIsSet(variable)) qputenv(variable, value.toLocal8Bit());
 }
 
 int run(const QCommandLineParser& parser) {
@@ -42,7 +49,10 @@ int run(const QCommandLineParser& parser) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
+    const QTemporaryDir runFolder;
+    setDefault("XDG_RUNTIME_DIR", runFolder.path());
+    setDefault("QT_QPA_PLATFORM", u"offscreen"_s);
+    QGuiApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Makes a complete install folder and a sample simulator."_s);
     parser.addHelpOption();

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "core/file_system.h"
+
+namespace morvane {
+
+/// Draws the whole skin of the window program into `media`, which must be there: backgrounds with their
+/// regions, pages, key strips, icons. Pictures are also written at twice the size, as "name@2x.bmp". The same
+/// bytes every time on one system. Needs a QGuiApplication.
+void writeSkin(FileSystem& files, const FilePath& media);
+
+} // namespace morvane
