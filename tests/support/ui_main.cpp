@@ -1,0 +1,20 @@
+#include <QApplication>
+#include <gtest/gtest.h>
+
+namespace {
+
+void setUnlessSet(const char* name, const char* value) {
+    if (!qEnvironmentVariableIsSet(name)) qputenv(name, value);
+}
+
+} // namespace
+
+/// Widgets need an application, and the offscreen platform is there on every machine; sizes are pinned.
+int main(int count, char** arguments) {
+    setUnlessSet("QT_QPA_PLATFORM", "offscreen");
+    setUnlessSet("QT_FONT_DPI", "96");
+    setUnlessSet("QT_SCALE_FACTOR", "1");
+    testing::InitGoogleTest(&count, arguments);
+    const QApplication application(count, arguments);
+    return RUN_ALL_TESTS();
+}
