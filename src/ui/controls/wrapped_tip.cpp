@@ -30,7 +30,8 @@ QStringList wrappedLines(const QString& paragraph, int width) {
 
 QString wrappedTip(const QString& text, int width) {
     QStringList lines;
-    for (const QString& paragraph : text.split(u'\n')) lines += wrappedLines(paragraph, width);
+    for (const QString& paragraph : text.split(u'\n'))
+        lines += wrappedLines(paragraph, width);
     const QString wrapped = lines.join(u'\n');
     if (!Qt::mightBeRichText(wrapped)) return wrapped;
     return u"<p style='white-space:pre'>"_s + wrapped.toHtmlEscaped() + u"</p>"_s;

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QFont>
+#include <QRect>
+#include <QRgb>
+#include <QString>
+
+class QLabel;
+class QWidget;
+
+namespace morvane {
+
+/// What a text on a page is for: by this it has its size, weight, colour and place in its box.
+enum class TextRole {
+    pageTitle,
+    messageTitle,
+    optionCaption,
+    body,     ///< wraps
+    value,    ///< in the middle of its line
+    number,   ///< a value at the right of its box
+    total,    ///< a sum at the right of its box
+    longHelp, ///< wraps
+    fieldCaption,
+    sectionHeading, ///< shown in upper case
+    listHead,
+    darkTitle, ///< from here on texts on bezel and deck
+    darkBody,  ///< wraps
+    darkCaption,
+    progressText, ///< wraps, at the foot of its box
+    valueTip,
+};
+
+QFont fontOf(TextRole role);
+/// A label of that role in that place (logical pixels of the parent). The text is shown as it reads, never as
+/// mark-up, and lets the mouse through.
+QLabel* makeLabel(QWidget* parent, const QString& text, const QRect& place, TextRole role);
+/// Makes the label's text red or blue, whatever the role says.
+void setTextColour(QLabel& label, QRgb colour);
+
+} // namespace morvane

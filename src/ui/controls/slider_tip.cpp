@@ -1,0 +1,57 @@
+#include "ui/controls/slider_tip.h"
+
+#include "core/literals.h"
+#include "ui/controls/labels.h"
+#include "ui/controls/palette.h"
+
+#include <QLabel>
+#include <QPainter>
+
+namespace morvane {
+
+namespace {
+
+constexpr QSize spareSize(4, 3);
+constexpr int gapAbove = 5, gapBeside = 6;
+
+} // namespace
+
+ucSliderTip::ucSliderTip(QWidget* slider)
+    : QWidget(slider, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                          Qt::WindowDoesNotAcceptFocus) {
+    setObjectName(u"ucSliderTip"_s);
+    setAccessibleName(u"Value"_s);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setFocusPolicy(Qt::NoFocus);
+    lblTip = makeLabel(this, u"0"_s, {}, TextRole::valueTip);
+    lblTip->setObjectName(u"lblTip"_s);
+    lblTip->setContentsMargins(8, 0, 8, 1);
+}
+
+void ucSliderTip::setValue(int value) {
+    lblTip->setText(QString::number(value));
+    lblTip->setGeometry(QRect(QPoint(spareSize.width() / 2, spareSize.height() / 2), lblTip->sizeHint()));
+    resize(lblTip->size() + spareSize);
+}
+
+void ucSliderTip::showBeside(const QRect& thumb, bool isVertical) {
+    const QPoint centred(thumb.left() + (thumb.width() - width() - spareSize.width()) / 2,
+                         thumb.top() + (thumb.height() - height() - spareSize.width()) / 2);
+    if (isVertical)
+        move(thumb.left() - width() - gapBeside, centred.y());
+    else
+        move(centred.x(), thumb.top() - height() - gapAbove);
+    show();
+}
+
+void ucSliderTip::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor::fromRgb(palette::outline));
+    painter.setBrush(QColor::fromRgb(palette::deck));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), 4, 4);
+}
+
+} // namespace morvane
