@@ -1,5 +1,6 @@
 #include "core/store_records.h"
 
+#include "core/set_names.h"
 #include "core/store_schema.h"
 
 namespace morvane {
@@ -23,6 +24,10 @@ bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine
         user.systemBox(QString::fromUtf8(error.what()), QString(), SystemBoxButtons::ok);
         return false;
     }
+}
+
+QString nameWithKey(NameRule rule, std::int16_t key, const QString& name) {
+    return rule == NameRule::fitForFolder ? newSetName(key, name) : QString::number(key) + u'-' + name;
 }
 
 std::int16_t readNewestKey(Store& store, const NewestKey& newestKey) {

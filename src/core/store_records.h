@@ -37,6 +37,12 @@ struct NewestKey {
     QString field;
 };
 
+/// What a new row's name becomes beside getting its key put in front.
+enum class NameRule {
+    asGiven,
+    fitForFolder, ///< see newSetName
+};
+
 /// What the data object of one table works with. Every record has a key and, but for the user never to see, a
 /// name; `nameColumn` is set where a new row's name gets its key put in front ("12-Storm").
 template <class Record>
@@ -47,6 +53,7 @@ struct RecordTable {
     std::int16_t Record::*key;
     QString Record::*name;
     RecordColumns<Record> columns; ///< in the order in which they are written, without the key
+    NameRule nameRule = NameRule::asGiven;
 };
 
 /// The session's store; raises when none was ever connected.
@@ -69,6 +76,9 @@ bool reloadCollection(Session& session, std::unique_ptr<Collection>& global,
 
 /// Runs the routine; a failure is told in a plain system box without title, as the oldest loaders do.
 bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine);
+
+/// The name of a new row: key, "-" and the name that it was given.
+QString nameWithKey(NameRule rule, std::int16_t key, const QString& name);
 
 /// Raises "Overflow" for a key beyond 16 bits.
 std::int16_t readNewestKey(Store& store, const NewestKey& newestKey);
@@ -126,7 +136,7 @@ void writeNewRow(Store& store, RowSet& row, const RecordTable<Record>& table, Re
     row.update();
     record.*table.key = readNewestKey(store, table.newestKey);
     if (table.nameColumn.isEmpty()) return;
-    record.*table.name = QString::number(record.*table.key) + u'-' + record.*table.name;
+    record.*table.name = nameWithKey(table.nameRule, record.*table.key, record.*table.name);
     row.setText(table.nameColumn, record.*table.name);
     row.update();
 }

@@ -19,6 +19,7 @@ const RecordTable<clsTextureSet> table = {
      {u"TEXTURE_SET"_s, &clsTextureSet::TextureSet},
      {u"DUTCH"_s, &clsTextureSet::IsDutch},
      {u"INSTALLED"_s, &clsTextureSet::Installed}},
+    NameRule::fitForFolder,
 };
 
 } // namespace

@@ -17,6 +17,7 @@ const RecordTable<clsNightTextureSet> table = {
      {u"DESCRIPTION"_s, &clsNightTextureSet::Description},
      {u"TEXTURE_SET"_s, &clsNightTextureSet::TextureSet},
      {u"INSTALLED"_s, &clsNightTextureSet::Installed}},
+    NameRule::fitForFolder,
 };
 
 } // namespace

@@ -18,6 +18,7 @@ const RecordTable<clsSkyTextureSet> table = {
      {u"DESCRIPTION"_s, &clsSkyTextureSet::Description},
      {u"TEXTURE_SET_GROUP"_s, &clsSkyTextureSet::TextureSetGroup},
      {u"INSTALLED"_s, &clsSkyTextureSet::Installed}},
+    NameRule::fitForFolder,
 };
 
 } // namespace
