@@ -25,6 +25,9 @@ class clsSkyTextureSubSets;
 class clsTextureSets;
 class clsWxFinders;
 
+/// Whose favourite frm_AddFav names.
+enum class FavouriteKind { ground, sky, night };
+
 /// What modal screens are given and what was chosen on them (UserInterface::showModal).
 struct ModalState {
     /// frm_TsRequired: sets wanted for the cloud covers 1 to 5, and whether OK was pressed.
@@ -33,6 +36,13 @@ struct ModalState {
     /// frm_MultiDelete: the names offered and those that were confirmed.
     QStringList multiNames;
     QStringList multiConfirmed;
+    /// frm_AddFav: what was typed, trimmed, and whether OK was pressed.
+    FavouriteKind favKind = FavouriteKind::ground;
+    QString favName, favDescription;
+    bool favConfirmed = false;
+    /// frm_SelectTexture: the keys of the choice (see ground/sample_textures.h), and whether OK was pressed.
+    QString selectedTextureType, selectedSeason;
+    bool sampleConfirmed = false;
 };
 
 /// The ground set in hand: written by a selection in the list, read by the actions.

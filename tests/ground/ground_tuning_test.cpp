@@ -1,0 +1,188 @@
+#include "core/store.h"
+#include "ground/colour_settings.h"
+#include "ground/ground_generation.h"
+#include "ground/ground_sets.h"
+#include "ground/ground_tuning.h"
+#include "ground/slider_steps.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+struct GroundTuningTest : testing::Test {
+    /// What the user types into the dialog, or chooses on it, before OK.
+    void nameFavourite(const QString& name, const QString& description) {
+        install.user.onModal = [=, this](Screen screen) {
+            ASSERT_EQ(screen, Screen::frm_AddFav);
+            EXPECT_EQ(session.modal.favKind, FavouriteKind::ground);
+            EXPECT_EQ(session.modal.favName + session.modal.favDescription, u""_s); // not those of last time
+            session.modal.favName = name;
+            session.modal.favDescription = description;
+            session.modal.favConfirmed = true;
+        };
+        tuning.newFavTexture();
+    }
+    void chooseSample(const QString& type, const QString& season, bool confirmed = true) {
+        install.user.onModal = [=, this](Screen screen) {
+            ASSERT_EQ(screen, Screen::frm_SelectTexture);
+            EXPECT_EQ(session.modal.selectedSeason, u"summer"_s);
+            session.modal.selectedTextureType = type;
+            session.modal.selectedSeason = season;
+            session.modal.sampleConfirmed = confirmed;
+        };
+        tuning.openSample();
+    }
+    QStringList storedSet(const QString& name) {
+        install.reload();
+        const auto set = findGroundSet(session, name);
+        if (!set) return {};
+        return {set->ColorSettings,
+                set->Actvated,
+                set->Description,
+                set->CloudCover,
+                set->IsDutch ? u"Dutch"_s : QString(),
+                set->Installed ? u"installed"_s : QString()};
+    }
+    FilePath sets() const { return install.home() / u"Texture Sets"; }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    GroundTuning tuning{session};
+};
+
+QByteArray pixels(const cDIBSection& picture) {
+    if (!picture.isCreated()) return {};
+    return QByteArray(reinterpret_cast<const char*>(picture.DIBSectionBitsPtr()),
+                      picture.BytesPerScanLine() * picture.Height());
+}
+
+TEST(SliderSteps, stayInTheRange) {
+    const int cases[][3] = {{98, 93, 100}, {100, 95, 100}, {-97, -100, -92}, {-100, -100, -95}, {0, -5, 5}};
+    for (const auto& [value, less, more] : cases) {
+        EXPECT_EQ(decremented(value), less);
+        EXPECT_EQ(incremented(value), more);
+    }
+    EXPECT_EQ(sliderLabel(0), "default");
+    EXPECT_EQ(sliderLabel(5), "5%");
+    EXPECT_EQ(sliderLabel(-5), "-5%");
+}
+
+TEST_F(GroundTuningTest, aPreviewScalesTheSlidersAndColoursTheSample) {
+    ASSERT_TRUE(tuning.openDefaultSample());
+    const QByteArray before = pixels(tuning.tuningSourceDib());
+    ASSERT_EQ(tuning.tuningSourceDib().Width(), 16);
+    tuning.showColourPreview({0, 0, 0, 0, 0, 0});
+    EXPECT_EQ(pixels(tuning.tuningResultDib()), before);
+    tuning.showColourPreview({-100, 100, -7, 33, 50, -99});
+    const ColourValues& colours = session.ground.colours;
+    EXPECT_EQ(colours, (ColourValues{-100, 20, -1.4f, 6.6f, 15, -29.7f}));
+    EXPECT_NE(pixels(tuning.tuningResultDib()), before);
+    EXPECT_EQ(pixels(tuning.tuningSourceDib()), before);
+}
+
+TEST_F(GroundTuningTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
+    tuning.showColourPreview({0, 0, 0, 0, 100, 0}); // with no sample yet: nothing to tell
+    chooseSample(u"utind"_s, u"winter"_s);
+    const QByteArray bright = pixels(tuning.tuningResultDib());
+    EXPECT_NE(bright, pixels(tuning.tuningSourceDib()));
+    ASSERT_FALSE(bright.isEmpty());
+    chooseSample(u"default"_s, u"summer"_s, false);
+    chooseSample(u"ocean"_s, u"summer"_s);
+    EXPECT_EQ(pixels(tuning.tuningResultDib()), bright);
+    EXPECT_TRUE(install.user.told().isEmpty());
+
+    chooseSample(u"forest"_s, u"spring"_s); // a file that this install does not have
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+    EXPECT_EQ(pixels(tuning.tuningResultDib()), bright);
+}
+
+TEST_F(GroundTuningTest, aSampleThatCannotBeReadIsStillRecoloured) {
+    GroundSample sample(session);
+    const FilePath file = sampleTexture(session.AppPath, defaultSample, u"summer"_s, false);
+    ASSERT_TRUE(sample.openTexImage(file));
+    const QByteArray plain = pixels(sample.resultDib());
+    session.ground.colours.red = 20;
+    test::writeFile(file, "no picture");
+    EXPECT_FALSE(sample.openTexImage(file));
+    EXPECT_NE(pixels(sample.resultDib()), plain); // else the set in hand would show the one before
+    EXPECT_EQ(install.user.told().size(), 1);
+}
+
+TEST_F(GroundTuningTest, theDrawFollowsTheCloudCover) {
+    EXPECT_EQ(tuning.tuningCloudNumber(), 1);
+    EXPECT_EQ(tuning.tuningCloudWord(), "Sky Clear");
+    const ColourValues colours = session.ground.colours;
+    tuning.optCloudCover(4);
+    EXPECT_EQ(tuning.tuningCloudWord(), "Overcast");
+    install.random.numbers = {0};
+    EXPECT_EQ(tuning.randomGroundValues(), (SliderValues{0, -22, 0, 20, -10, -10}));
+    EXPECT_EQ(session.ground.colours, colours); // the page sets its sliders first
+    EXPECT_THROW(tuning.optCloudCover(5), Error);
+    EXPECT_EQ(tuning.tuningCloudNumber(), 5);
+}
+
+TEST_F(GroundTuningTest, aFavouriteIsARowAndEmptyFolders) {
+    tuning.optCloudCover(3);
+    tuning.showColourPreview({5, 0, -7, 0, 0, 10});
+    nameFavourite(u"  Pilot's storm "_s, u" wet & windy "_s);
+    const QString name = u"2-Pilot's storm"_s;
+    EXPECT_EQ(session.ground.SelectedGroundSet, name);
+    EXPECT_EQ(session.ground.SelectedGroundDescription, "wet & windy");
+    EXPECT_TRUE(session.RefreshGroundList);
+    EXPECT_EQ(install.user.calls.mid(install.user.calls.size() - 2),
+              QStringList({"refresh frm_MVTextures", "show frm_MVTextures"}));
+    EXPECT_EQ(storedSet(name),
+              QStringList({"5:0:-1.4:0:0:3", "False", "wet & windy", "Mostly Cloudy", "Dutch", ""}));
+    EXPECT_EQ(install.files.listFolders(sets()), QStringList{name});
+    EXPECT_EQ(install.files.listFolders(sets() / name), QStringList({"Dutch", "Texture", "UTEurLC"}));
+    EXPECT_TRUE(test::contentsBelow(sets()).isEmpty());
+    EXPECT_TRUE(install.user.told().isEmpty());
+
+    session.modal.favConfirmed = true; // an OK of last time is none of this time's
+    install.user.onModal = [](Screen) {};
+    tuning.newFavTexture();
+    EXPECT_EQ(loadedGroundSets(session).Count(), 2);
+}
+
+TEST_F(GroundTuningTest, noTitleLeadsOutOfTheSetsFolder) {
+    const QStringList folders = install.files.listFolders(install.home());
+    const QStringList titles{u""_s,     u"..\\..\\Resources"_s, u"../../../evil"_s,
+                             u"con."_s, u"' OR 1=1 --"_s,       u"a\nb"_s + QChar(0)};
+    const QStringList names{u"2-"_s,    u"3-.._.._Resources"_s, u"4-.._.._.._evil"_s,
+                            u"5-con"_s, u"6-' OR 1=1 --"_s,     u"7-a_b_"_s};
+    for (const QString& title : titles)
+        nameFavourite(title, title);
+    EXPECT_EQ(install.files.listFolders(sets()), names);
+    EXPECT_EQ(install.files.listFolders(install.home()), folders);
+    for (const QString& name : names)
+        EXPECT_EQ(storedSet(name).value(1), "False") << name.toStdString();
+    EXPECT_TRUE(install.user.told().isEmpty());
+}
+
+/// Were the list's last record taken for the one just saved, another set would stand as the selected one.
+TEST_F(GroundTuningTest, aRefusedSaveChangesNothing) {
+    install.addGroundSet(u"2-Storm"_s, u"Overcast"_s, true);
+    session.ground.SelectedGroundSet = u"Default"_s;
+    session.adoConn->execute(u"CREATE TRIGGER T BEFORE INSERT ON TEXTURE_SETS "
+                             "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
+    nameFavourite(u"Calm"_s, {});
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+    EXPECT_EQ(session.ground.SelectedGroundSet, "Default");
+    EXPECT_FALSE(session.RefreshGroundList);
+    EXPECT_TRUE(install.files.listFolders(sets()).isEmpty());
+    EXPECT_FALSE(install.user.calls.contains(u"show frm_MVTextures"_s));
+}
+
+TEST_F(GroundTuningTest, theRowStandsWhenItsFoldersCannotBeMade) {
+    test::writeFile(sets() / u"2-Calm", "in the way");
+    nameFavourite(u"Calm"_s, {});
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+    EXPECT_TRUE(session.RefreshGroundList);
+    EXPECT_EQ(storedSet(u"2-Calm"_s).value(1), "False");
+}
+
+} // namespace
+} // namespace morvane
