@@ -18,9 +18,9 @@ function(morvane_bench name)
     target_link_libraries(${name} PRIVATE morvane_engine benchmark::benchmark_main)
 endfunction()
 
-# morvane_ui_test(NAME FILES...): the same for windows: an application on the offscreen platform around the cases.
+# morvane_ui_test(NAME FILES...): the same for tests that show widgets, on a platform without a display.
 function(morvane_ui_test name)
     add_executable(${name} ${ARGN} ${CMAKE_SOURCE_DIR}/tests/support/ui_main.cpp)
-    target_link_libraries(${name} PRIVATE morvane_test_support morvane_ui Qt6::Test)
+    target_link_libraries(${name} PRIVATE morvane_ui morvane_font morvane_test_support Qt6::Test)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
 endfunction()

@@ -1,6 +1,6 @@
 #include "cli/commands.h"
 #include "cli/terminal.h"
-#include "core/application.h"
+#include "core/install_folder.h"
 #include "core/registry.h"
 
 #include <QCoreApplication>

@@ -1,14 +1,13 @@
 #include "core/application.h"
 
 #include "core/failure_report.h"
+#include "core/install_folder.h"
 #include "core/options.h"
 #include "core/registry.h"
 #include "core/store.h"
 #include "ground/cloud_cover.h"
 #include "simulator/set_matching.h"
 
-#include <QCoreApplication>
-#include <QProcessEnvironment>
 #include <clocale>
 
 namespace morvane {
@@ -55,11 +54,6 @@ bool findSimulator(Session& session) {
 
 } // namespace
 
-QString defaultInstallFolder() {
-    const QString home = QProcessEnvironment::systemEnvironment().value(u"MORVANE_HOME"_s);
-    return home.isEmpty() ? QCoreApplication::applicationDirPath() : home;
-}
-
 QString getDecimalSeparator() {
     const std::lconv* conventions = std::localeconv();
     const QString separator = QString::fromLocal8Bit(conventions->mon_decimal_point);
@@ -81,6 +75,10 @@ void closeDatabase(Session& session) {
 }
 
 bool startUp(Session& session) {
+    if (const QString problem = installFolderProblem(session.files, session.AppPath); !problem.isEmpty()) {
+        session.user.systemBox(problem, {}, SystemBoxButtons::ok);
+        return false;
+    }
     bool found = false;
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const bool done = reportFailures(session.user, report, [&] {

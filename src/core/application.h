@@ -5,8 +5,8 @@
 namespace morvane {
 
 /// The fixed sequence of a start, up to and including the switches: the simulator's folder, the store, the
-/// WideFS setting, the backup folder. False when the user gave up looking for the simulator, or after a
-/// failure was told: the process then ends without the exit flow.
+/// WideFS setting, the backup folder. False when the install folder cannot be used, when the user gave up
+/// looking for the simulator, or after a failure was told: the process then ends without the exit flow.
 bool startUp(Session& session);
 
 /// The unattended run: a cover code as the whole text ("CLR", "FEW", "SCT", "BKN", "OVC", exactly so). Any
@@ -26,8 +26,5 @@ void connectDatabase(Session& session);
 void closeDatabase(Session& session);
 /// The monetary decimal separator of the locale; an empty one means ".".
 QString getDecimalSeparator();
-
-/// Folder of the executable, or MORVANE_HOME when the environment has it.
-QString defaultInstallFolder();
 
 } // namespace morvane

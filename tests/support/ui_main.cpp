@@ -1,3 +1,5 @@
+#include "ui/program_font.h"
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
@@ -16,5 +18,7 @@ int main(int count, char** arguments) {
     setUnlessSet("QT_SCALE_FACTOR", "1");
     testing::InitGoogleTest(&count, arguments);
     const QApplication application(count, arguments);
+    QApplication::setQuitOnLastWindowClosed(false);
+    morvane::loadProgramFont();
     return RUN_ALL_TESTS();
 }

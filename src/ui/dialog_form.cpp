@@ -1,0 +1,55 @@
+#include "ui/dialog_form.h"
+
+#include "core/literals.h"
+#include "ui/controls/labels.h"
+#include "ui/shell.h"
+#include <QLabel>
+
+#include <QEventLoop>
+
+namespace morvane {
+
+DialogForm::DialogForm(Shell& shell, const QString& name, const WindowLook& look, const QString& title)
+    : ShapedForm(shell, name, look) {
+    setWindowModality(Qt::ApplicationModal);
+    setWindowTitle(title);
+    QLabel* label = makeLabel(this, title, {26, 56, look.size.width() - 52, 20}, TextRole::pageTitle);
+    label->setObjectName(u"lblTitle"_s);
+}
+
+void DialogForm::addAnswerKeys(const QString& okTip, const QString& cancelTip) {
+    const int top = height() - 58;
+    addButton(
+        {ButtonFamily::StandardButton, u"btn_Ok"_s, u"ok"_s, u"btn_CheckAll"_s, okTip, {width() - 120, top}});
+    addButton({ButtonFamily::StandardButton,
+               u"btn_Cancel"_s,
+               u"cancel"_s,
+               u"btn_Cancel"_s,
+               cancelTip,
+               {width() - 65, top}});
+}
+
+void DialogForm::run() {
+    prepare();
+    centreOver(shell().messageAnchor());
+    QEventLoop loop;
+    connect(this, &DialogForm::closed, &loop, &QEventLoop::quit);
+    show();
+    loop.exec();
+}
+
+void DialogForm::ok() {
+    confirm();
+    hide();
+}
+
+void DialogForm::cancel() {
+    hide();
+}
+
+void DialogForm::hideEvent(QHideEvent* event) {
+    Form::hideEvent(event);
+    Q_EMIT closed();
+}
+
+} // namespace morvane

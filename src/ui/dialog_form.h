@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/shaped_form.h"
+
+namespace morvane {
+
+/// A screen above the windows that waits for its answer. Its keys "ok" and "cancel" end it.
+class DialogForm : public ShapedForm {
+    Q_OBJECT
+public:
+    DialogForm(Shell& shell, const QString& name, const WindowLook& look, const QString& title);
+
+    /// Prepares, shows, waits; the answer stands in the session.
+    void run();
+
+    virtual void ok();
+    void cancel() override;
+
+Q_SIGNALS:
+    void closed();
+
+protected:
+    /// Fills the dialog from the session, each time before it is shown.
+    virtual void prepare() = 0;
+    /// Writes what was chosen into the session.
+    virtual void confirm() = 0;
+    void hideEvent(QHideEvent* event) override;
+
+    /// The two keys, with the tips of this dialog.
+    void addAnswerKeys(const QString& okTip, const QString& cancelTip);
+};
+
+} // namespace morvane

@@ -1,0 +1,156 @@
+#include "ui/dispatch_table.h"
+
+#include "core/literals.h"
+#include "ground/ground_generation.h"
+#include "ground/ground_installation.h"
+#include "ui/dialog_form.h"
+#include "ui/shell.h"
+
+#include <algorithm>
+#include <array>
+
+namespace morvane {
+
+namespace {
+
+// Ground -------------------------------------------------------------------------------------------------
+
+void createGroundSets(Shell& shell, SkinnedButton& button) {
+    GroundGeneration(shell.session()).createTextureSets(Form::of(&button)->formName() == u"frm_Main");
+}
+
+/// One key, two directions: the state tells which.
+void activateGroundSet(Shell& shell, SkinnedButton& button) {
+    GroundGeneration generation(shell.session());
+    if (button.state() == ButtonState::deactivate)
+        generation.deleteTextureSet(true);
+    else
+        generation.activateTextureSet();
+}
+
+void deleteGroundSet(Shell& shell, SkinnedButton&) {
+    GroundGeneration(shell.session()).deleteTextureSet(false);
+}
+
+void installGroundSet(Shell& shell, SkinnedButton&) {
+    GroundInstallation(shell.session()).installTextureSet(false);
+}
+
+// Windows and pages --------------------------------------------------------------------------------------
+
+void exitProgram(Shell& shell, SkinnedButton&) {
+    shell.exitProgram();
+}
+
+void minimiseProgram(Shell& shell, SkinnedButton&) {
+    shell.minimiseProgram();
+}
+
+void goHome(Shell& shell, SkinnedButton&) {
+    shell.hideChildScreen(shell.CurrentChildScreen);
+    shell.formatMainScreen();
+}
+
+void openHelp(Shell& shell, SkinnedButton&) {
+    shell.openHelp();
+}
+
+void leaveHost(Shell& shell, SkinnedButton& button) {
+    shell.leaveHost(Form::of(&button)->formName());
+}
+
+void showList(Shell& shell, SkinnedButton& button) {
+    shell.showList(Form::of(&button)->formName());
+}
+
+template <const char16_t* page>
+void goTo(Shell& shell, SkinnedButton&) {
+    shell.goToPage(QString::fromUtf16(page));
+}
+
+template <const char16_t* host>
+void showHost(Shell& shell, SkinnedButton&) {
+    shell.showHost(QString::fromUtf16(host));
+}
+
+// Dialogs ------------------------------------------------------------------------------------------------
+
+void confirmDialog(Shell&, SkinnedButton& button) {
+    if (auto* dialog = qobject_cast<DialogForm*>(Form::of(&button))) dialog->ok();
+}
+
+void cancelDialog(Shell&, SkinnedButton& button) {
+    if (auto* dialog = qobject_cast<DialogForm*>(Form::of(&button))) dialog->cancel();
+}
+
+// The table ----------------------------------------------------------------------------------------------
+
+constexpr auto large = ButtonFamily::LargeButton;
+constexpr auto small = ButtonFamily::smallButton;
+constexpr auto standard = ButtonFamily::StandardButton;
+constexpr auto medium = ButtonFamily::MediumButton;
+
+constexpr char16_t main[] = u"frm_Main", ground[] = u"frm_MVTextures", sky[] = u"frm_KMTextures",
+                   night[] = u"frm_NightTextures", groundColours[] = u"frm_GroundColorize",
+                   skyColours[] = u"frm_SkyColorize", nightColours[] = u"frm_NightColorize",
+                   wxControl[] = u"frm_WxControl", switcher[] = u"frm_Switcher", config[] = u"frm_Config",
+                   links[] = u"frm_Links", about[] = u"frm_About";
+constexpr char16_t anyForm[] = u"*"; ///< small keys mean the same wherever they lie, and so do a dialog's
+
+struct Entry {
+    ButtonFamily family;
+    const char16_t* form;
+    const char16_t* key;
+    ButtonAction action;
+};
+
+constexpr Entry entries[] = {
+    {small, anyForm, u"exit", exitProgram},
+    {small, anyForm, u"minimize", minimiseProgram},
+
+    {medium, main, u"home", goHome},
+    {medium, main, u"mv textures", showHost<ground>},
+    {medium, main, u"km textures", showHost<sky>},
+    {medium, main, u"night textures", showHost<night>},
+    {medium, main, u"flight config", goTo<wxControl>},
+    {medium, main, u"switcher info", goTo<switcher>},
+    {medium, main, u"mv config", goTo<config>},
+    {medium, main, u"links", goTo<links>},
+    {medium, main, u"help", openHelp},
+    {medium, main, u"about", goTo<about>},
+    {large, main, u"main ground install", createGroundSets},
+    {large, main, u"main sky install", showHost<sky>},
+    {large, main, u"main mv config", goTo<config>},
+
+    {medium, ground, u"home", leaveHost},
+    {medium, ground, u"texture sets", showList},
+    {medium, ground, u"ground", goTo<groundColours>},
+    {large, ground, u"delete ts", deleteGroundSet},
+    {large, ground, u"create ts", createGroundSets},
+    {large, ground, u"activate ts", activateGroundSet},
+    {large, ground, u"install ts", installGroundSet},
+
+    {medium, sky, u"home", leaveHost},
+    {medium, sky, u"sky texture sets", showList},
+    {medium, sky, u"sky", goTo<skyColours>},
+
+    {medium, night, u"home", leaveHost},
+    {medium, night, u"texture sets", showList},
+    {medium, night, u"ground", goTo<nightColours>},
+
+    {standard, anyForm, u"ok", confirmDialog},
+    {standard, anyForm, u"cancel", cancelDialog},
+};
+
+} // namespace
+
+ButtonAction actionOf(ButtonFamily family, const QString& form, const QString& key) {
+    const QString wanted = key.toLower();
+    const auto entry = std::find_if(std::begin(entries), std::end(entries), [&](const Entry& candidate) {
+        return candidate.family == family && QStringView(candidate.key) == wanted &&
+               (candidate.form == anyForm || QStringView(candidate.form) == form);
+    });
+    return entry == std::end(entries) ? nullptr : entry->action;
+}
+
+} // namespace morvane

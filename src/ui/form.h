@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/literals.h"
+#include "ui/skinned_button.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace morvane {
+
+class Session;
+class Shell;
+
+/// What a screen's key is: where it lies, what it is called and how it looks.
+struct ButtonSetup {
+    ButtonFamily family;
+    QString name; ///< of the control: "btn_TextureDelete"
+    QString key;  ///< "delete ts"
+    QString picture;
+    QString tip;
+    QPoint place;
+    QString caption = {};
+    ButtonState state = ButtonState::enabled;
+};
+
+/// A screen of the program, known by its name everywhere. It is made at its first use and lives until exit.
+class Form : public QWidget {
+    Q_OBJECT
+public:
+    Form(Shell& shell, const QString& name, QWidget* parent = nullptr);
+
+    QString formName() const { return objectName(); }
+    /// The form that the widget lies on, itself included; nothing when it lies on none.
+    static Form* of(QWidget* widget);
+
+    Shell& shell() const { return shell_; }
+    Session& session() const;
+    Skin& skin() const;
+
+    /// The key of that setup, lying on `parent` (the form itself when null); its click goes to the shell.
+    SkinnedButton* addButton(const ButtonSetup& setup, QWidget* parent = nullptr);
+    SkinnedButton* button(const QString& controlName) const;
+
+    /// Escape, and the window manager's close: a dialog cancels, a window leaves the program.
+    virtual void cancel() {}
+
+private:
+    Shell& shell_;
+};
+
+} // namespace morvane

@@ -1,0 +1,99 @@
+#include "ui/form_table.h"
+
+#include "ui/screens/about_screen.h"
+#include "ui/screens/links_screen.h"
+#include "ui/screens/main_screen.h"
+#include "ui/screens/message_screen.h"
+#include "ui/screens/splash_screen.h"
+#include "ui/screens/unbuilt_screens.h"
+
+#include <functional>
+
+namespace morvane {
+
+namespace {
+
+struct FormEntry {
+    QString name;
+    std::function<Form*(Shell&)> make;
+};
+
+template <class Screen>
+FormEntry screenEntry(const QString& name) {
+    return {name, [](Shell& shell) { return new Screen(shell); }};
+}
+
+FormEntry unbuiltPage(const QString& name, const QString& key, const QString& icon, const QString& title) {
+    return {name, [=](Shell& shell) { return new UnbuiltPage(shell, {name, key, icon, title}); }};
+}
+
+FormEntry unbuiltHost(const QString& name, const WindowLook& look, const HostKeys& keys,
+                      const QString& colourPage) {
+    return {name, [=](Shell& shell) { return new UnbuiltHost(shell, name, look, keys, colourPage); }};
+}
+
+const std::vector<FormEntry>& formEntries() {
+    static const std::vector<FormEntry> entries{
+        screenEntry<frm_Main>(u"frm_Main"_s),
+        screenEntry<frm_Splash>(u"frm_Splash"_s),
+        screenEntry<frm_Msg>(u"frm_Msg"_s),
+        screenEntry<frm_About>(u"frm_About"_s),
+        screenEntry<frm_Links>(u"frm_Links"_s),
+        unbuiltPage(u"frm_WxControl"_s, u"flight config"_s, u"icon_WxFinder.bmp"_s,
+                    u"Weather Control Settings Page"_s),
+        unbuiltPage(u"frm_Switcher"_s, u"switcher info"_s, u"icon_Randomizer.bmp"_s,
+                    u"Morvane Configuration Page"_s),
+        unbuiltPage(u"frm_Config"_s, u"mv config"_s, u"icon_Config.bmp"_s,
+                    u"Main Morvane Base Install Page"_s),
+        unbuiltHost(
+            u"frm_MVTextures"_s, groundLook,
+            {u"texture sets"_s, u"ground"_s, u"btn_2d"_s, u"Click to minimize Ground Textures screen."_s},
+            u"frm_GroundColorize"_s),
+        unbuiltPage(u"frm_GroundColorize"_s, u"ground"_s, u"icon_Ground.bmp"_s, u"Ground Color"_s),
+        unbuiltHost(
+            u"frm_KMTextures"_s, skyLook,
+            {u"sky texture sets"_s, u"sky"_s, u"btn_SkyColor"_s, u"Click to minimize Sky Textures Screen."_s},
+            u"frm_SkyColorize"_s),
+        unbuiltPage(u"frm_SkyColorize"_s, u"sky"_s, u"icon_Ground.bmp"_s, u"Sky Color"_s),
+        unbuiltHost(
+            u"frm_NightTextures"_s, nightLook,
+            {u"texture sets"_s, u"ground"_s, u"btn_2d"_s, u"Click to minimize Ground Textures screen."_s},
+            u"frm_NightColorize"_s),
+        unbuiltPage(u"frm_NightColorize"_s, u"ground"_s, u"icon_Ground.bmp"_s, u"Night Color"_s),
+    };
+    return entries;
+}
+
+template <class Entries, class Name>
+auto findNamed(const Entries& entries, const QString& name, Name nameOf) -> decltype(&*entries.begin()) {
+    for (const auto& entry : entries)
+        if (nameOf(entry).compare(name, Qt::CaseInsensitive) == 0) return &entry;
+    return nullptr;
+}
+
+} // namespace
+
+const std::vector<ChildPage>& childPages() {
+    static const std::vector<ChildPage> pages{
+        {u"frm_WxControl"_s, u"frm_Main"_s},
+        {u"frm_Config"_s, u"frm_Main"_s},
+        {u"frm_Links"_s, u"frm_Main"_s},
+        {u"frm_About"_s, u"frm_Main"_s},
+        {u"frm_Switcher"_s, u"frm_Main"_s},
+        {u"frm_GroundColorize"_s, u"frm_MVTextures"_s},
+        {u"frm_SkyColorize"_s, u"frm_KMTextures"_s},
+        {u"frm_NightColorize"_s, u"frm_NightTextures"_s},
+    };
+    return pages;
+}
+
+const ChildPage* childPage(const QString& name) {
+    return findNamed(childPages(), name, [](const ChildPage& page) { return page.form; });
+}
+
+Form* makeForm(Shell& shell, const QString& name) {
+    const FormEntry* entry = findNamed(formEntries(), name, [](const FormEntry& form) { return form.name; });
+    return entry ? entry->make(shell) : nullptr;
+}
+
+} // namespace morvane

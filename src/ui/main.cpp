@@ -1,0 +1,43 @@
+#include "core/clock.h"
+#include "core/file_system.h"
+#include "core/install_folder.h"
+#include "core/registry.h"
+#include "core/session.h"
+#include "ui/program.h"
+#include "ui/program_font.h"
+#include "ui/shell.h"
+#include "ui/skin.h"
+#include "ui/window_user.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+using namespace morvane;
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"Morvane"_s);
+    QApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
+    // Windows come and go as pages do; only the exit flow ends the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+    loadProgramFont();
+
+    QStringList words = QApplication::arguments().mid(1);
+    QString home = defaultInstallFolder();
+    if (words.size() >= 2 && words[0] == u"--home") {
+        home = words[1];
+        words.remove(0, 2);
+    }
+    NativeFileSystem files;
+    SystemClock clock;
+    ReseedingRandomSource random;
+    WindowUser user;
+    const FilePath folder(QFileInfo(home).absoluteFilePath());
+    const auto registry = openRegistry(files, folder);
+    Session session({user, files, clock, random, *registry}, folder);
+    Skin skin(files, folder / u"Media");
+    QApplication::setWindowIcon(skin.picture(u"morvane.png"_s));
+    Shell shell(session, skin);
+    user.setShell(&shell);
+    return runProgram(shell, words.join(u' '));
+}

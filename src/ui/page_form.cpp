@@ -1,0 +1,46 @@
+#include "ui/page_form.h"
+
+#include "ui/controls/labels.h"
+#include "ui/controls/palette.h"
+#include "ui/skin.h"
+#include "ui/window_keys.h"
+
+#include <QPainter>
+
+namespace morvane {
+
+Paper::Paper(Form& form, const QString& picture, Title title, QWidget* parent)
+    : QWidget(parent ? parent : &form), form_(form), background_(form.skin().picture(picture)),
+      picHeader_(new QLabel(this)), lblHeader_(makeLabel(this, {}, {}, TextRole::pageTitle)) {
+    const int lift = title == Title::compact ? 2 : 0;
+    resize(pagePlace.size());
+    picHeader_->setObjectName(u"picHeader"_s);
+    picHeader_->setGeometry(14, 9 - lift, 24, 24);
+    lblHeader_->setObjectName(u"lblHeader"_s);
+    lblHeader_->setGeometry(46, 11 - lift, 536, 20);
+}
+
+void Paper::setTitle(const QString& icon, const QString& text) {
+    picHeader_->setPixmap(form_.skin().picture(icon));
+    picHeader_->setAccessibleName(text);
+    lblHeader_->setText(text);
+}
+
+void Paper::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (background_.isNull())
+        painter.fillRect(rect(), QColor::fromRgb(palette::paperTop));
+    else
+        painter.drawPixmap(rect(), background_);
+}
+
+PageForm::PageForm(Shell& shell, const QString& name, const QString& picture, Paper::Title title)
+    : Form(shell, name), paper_(new Paper(*this, picture, title)) {
+    resize(pagePlace.size());
+}
+
+void PageForm::markKey(const QString& key) {
+    if (QWidget* host = parentWidget()) markWindowKey(*host, key);
+}
+
+} // namespace morvane

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ui/screens/status_panel.h"
+#include "ui/shaped_form.h"
+
+namespace morvane {
+
+/// The main window: the navigation, and the status page on which it opens.
+class frm_Main : public ShapedForm {
+    Q_OBJECT
+public:
+    explicit frm_Main(Shell& shell);
+
+    /// Marks the "home" key, fills the page, and sets its three large keys anew.
+    void formatMainScreen();
+    void refreshMainStatus() { status_->refreshMainStatus(); }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    StatusPanel* status_;
+};
+
+} // namespace morvane

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "core/user_interface.h"
+#include "ui/dialog_form.h"
+
+#include <QElapsedTimer>
+
+class QCheckBox;
+class QEventLoop;
+class QLabel;
+class QPushButton;
+
+namespace morvane {
+
+class SkinnedProgressBar;
+
+/// The one message screen: reports, questions and the progress of long work.
+class frm_Msg : public DialogForm {
+    Q_OBJECT
+public:
+    explicit frm_Msg(Shell& shell);
+
+    /// A progress message returns at once and blocks every other window, so that only its cancel is live;
+    /// any other returns once it was answered. A message that still stands ends first; its caller goes on
+    /// after this one.
+    void showMessage(const Message& message);
+    /// Title and text where not empty; the bar (0 to 100). Painted some thirty times a second at most.
+    void updateProgress(const QString& title, const QString& text, double value);
+    void setProgressFile(const QString& line);
+
+    void ok() override { answer(true); }
+    /// Escape and close: no, or OK where only OK shows. While progress shows they ask for a cancel.
+    void cancel() override;
+
+protected:
+    void prepare() override {}
+    void confirm() override {}
+
+private:
+    void makeControls();
+    void answer(bool ok);
+    void askForCancel();
+    void fill(const Message& message);
+    void layOut(const Message& message);
+    void storeFastExit(bool isTicked);
+    bool isTimeToPaint(double value);
+
+    QString msgType_;
+    QLabel *lbl_Title_, *lbl_Message_, *pic_Icon_, *lblProcessDescription_, *lblProcessFile_, *picASv6_;
+    SkinnedButton *btn_Ok_, *btn_Cancel_;
+    SkinnedProgressBar* pbMessage_;
+    QPushButton* cmdCancel_;
+    QCheckBox* chkFastExit_;
+    QString processFile_;
+    QElapsedTimer lastPaint_;
+    bool isProgress_ = false;
+    bool isAsking_ = false;
+};
+
+} // namespace morvane

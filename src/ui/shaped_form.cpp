@@ -1,0 +1,116 @@
+#include "ui/shaped_form.h"
+
+#include "core/literals.h"
+#include "ui/controls/palette.h"
+#include "ui/shell.h"
+#include "ui/skin.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+namespace morvane {
+
+namespace {
+
+constexpr QSize mainSize{880, 580};
+const QString mainRegion = u"MainRegion.dat"_s;
+
+} // namespace
+
+const WindowLook mainLook{u"MVMainInterface.bmp"_s, mainRegion, mainSize};
+const WindowLook groundLook{u"MVGroundInterface.bmp"_s, mainRegion, mainSize};
+const WindowLook skyLook{u"MVSkyInterface.bmp"_s, mainRegion, mainSize};
+const WindowLook nightLook{u"MVNightInterface.bmp"_s, mainRegion, mainSize};
+const WindowLook messageLook{u"MVMsg_BG.bmp"_s, u"MsgRegion.dat"_s, {400, 300}};
+const WindowLook smallDialogLook{u"MVAdd_BG.bmp"_s, u"AddRegion.dat"_s, {400, 360}};
+const WindowLook wideDialogLook{u"MVWide_BG.bmp"_s, u"RandomizerRegion.dat"_s, {700, 500}};
+
+bool clsTransForm::ShapeMe(Skin& skin, const QString& regionFile) {
+    const QRegion outline = skin.outline(regionFile);
+    if (outline.isEmpty()) return false;
+    form_.setMask(outline);
+    return true;
+}
+
+void clsTransForm::DragForm(const QPoint& grabbedAt) {
+    offset_ = grabbedAt - form_.pos();
+    isDragging_ = !form_.windowHandle() || !form_.windowHandle()->startSystemMove();
+}
+
+void clsTransForm::moveTo(const QPoint& pointer) {
+    if (isDragging_) form_.move(pointer - offset_);
+}
+
+ShapedForm::ShapedForm(Shell& shell, const QString& name, const WindowLook& look)
+    : Form(shell, name), background_(skin().picture(look.picture)), shape_(*this) {
+    setFixedSize(look.size);
+    setWindowTitle(u"Morvane"_s);
+    // A picture that no outline cuts would show its key colour as holes: both or neither.
+    if (!background_.isNull() && shape_.ShapeMe(skin(), look.region))
+        setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    else
+        background_ = {};
+}
+
+void ShapedForm::centreOver(const QWidget* other) {
+    const QRect place = other ? other->geometry() : QGuiApplication::primaryScreen()->availableGeometry();
+    move(place.center() - rect().center());
+    keepOnScreen();
+}
+
+/// Wholly on the screen that holds most of it; where it is larger than the screen, its top left corner.
+void ShapedForm::keepOnScreen() {
+    const QScreen* screen = QGuiApplication::screenAt(geometry().center());
+    const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    move(std::max(room.left(), std::min(x(), room.right() + 1 - width())),
+         std::max(room.top(), std::min(y(), room.bottom() + 1 - height())));
+}
+
+void ShapedForm::showEvent(QShowEvent* event) {
+    keepOnScreen();
+    Form::showEvent(event);
+}
+
+void ShapedForm::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (background_.isNull())
+        painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
+    else
+        painter.drawPixmap(rect(), background_);
+}
+
+void ShapedForm::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    setCursor(skin().cursor(u"HMOVE.cur"_s, Qt::SizeAllCursor));
+    shape_.DragForm(event->globalPosition().toPoint());
+}
+
+void ShapedForm::mouseMoveEvent(QMouseEvent* event) {
+    shape_.moveTo(event->globalPosition().toPoint());
+}
+
+void ShapedForm::mouseReleaseEvent(QMouseEvent*) {
+    shape_.endDrag();
+    unsetCursor();
+}
+
+void ShapedForm::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1)
+        shell().openHelp();
+    else if (event->key() == Qt::Key_Escape)
+        cancel();
+    else
+        Form::keyPressEvent(event);
+}
+
+void ShapedForm::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    cancel();
+}
+
+} // namespace morvane

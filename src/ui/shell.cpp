@@ -1,0 +1,178 @@
+#include "ui/shell.h"
+
+#include "core/application.h"
+#include "core/failure_report.h"
+#include "core/registry.h"
+#include "ui/dispatch_table.h"
+#include "ui/form_table.h"
+#include "ui/host_form.h"
+#include "ui/page_form.h"
+#include "ui/screens/main_screen.h"
+#include "ui/shaped_form.h"
+#include "ui/skin.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QUrl>
+
+namespace morvane {
+
+const QStringList windowNames{u"frm_Main"_s, u"frm_MVTextures"_s, u"frm_KMTextures"_s,
+                              u"frm_NightTextures"_s};
+
+Shell::Shell(Session& session, Skin& skin) : session_(session), skin_(skin) {}
+
+Shell::~Shell() {
+    // A page that stands in a window goes with it.
+    for (Form* form : std::as_const(forms_))
+        if (!form->parentWidget()) form->deleteLater();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+Form* Shell::loadedForm(const QString& name) const {
+    return forms_.value(name.toLower());
+}
+
+Form* Shell::form(const QString& name) {
+    if (Form* loaded = loadedForm(name)) return loaded;
+    Form* made = makeForm(*this, name);
+    if (made) forms_.insert(name.toLower(), made);
+    return made;
+}
+
+void Shell::showChildScreen(const QString& formName) {
+    for (const ChildPage& page : childPages())
+        if (const Form* loaded = loadedForm(page.form); loaded && loaded->isVisible())
+            hideChildScreen(page.form);
+    const ChildPage* page = childPage(formName);
+    if (!page) return;
+    Form* child = form(formName);
+    formerParents_[formName.toLower()] = child->parentWidget();
+    child->setParent(form(page->host));
+    child->move(pagePlace.topLeft());
+    child->show();
+    child->raise();
+}
+
+void Shell::hideChildScreen(const QString& formName) {
+    Form* child = childPage(formName) ? loadedForm(formName) : nullptr;
+    if (!child) return;
+    child->hide();
+    child->setParent(formerParents_.take(formName.toLower()));
+}
+
+void Shell::goToPage(const QString& formName) {
+    showChildScreen(formName);
+    screen<PageForm>(formName).format();
+    CurrentChildScreen = formName;
+    CurrentMainScreen = formName;
+}
+
+void Shell::formatMainScreen() {
+    screen<frm_Main>(u"frm_Main"_s).formatMainScreen();
+}
+
+void Shell::refreshMainStatus() {
+    screen<frm_Main>(u"frm_Main"_s).refreshMainStatus();
+}
+
+void Shell::showHost(const QString& formName) {
+    auto& host = screen<HostForm>(formName);
+    host.move(form(u"frm_Main"_s)->pos());
+    host.formatList();
+    host.show();
+    form(u"frm_Main"_s)->hide();
+}
+
+void Shell::leaveHost(const QString& formName) {
+    auto& host = screen<HostForm>(formName);
+    hideChildScreen(host.colourPage());
+    CurrentChildScreen.clear();
+    refreshMainStatus();
+    form(u"frm_Main"_s)->move(host.pos());
+    form(u"frm_Main"_s)->show();
+    host.hide();
+}
+
+void Shell::showList(const QString& formName) {
+    auto& host = screen<HostForm>(formName);
+    hideChildScreen(host.colourPage());
+    CurrentChildScreen.clear();
+    host.formatList();
+}
+
+void Shell::openHelp() {
+    const FilePath folder = session_.AppPath / u"MV Help";
+    const bool hasCompiled = session_.files.exists(folder / u"Morvane.chm");
+    const FilePath help = folder / (hasCompiled ? u"Morvane.chm" : u"index.html");
+    if (session_.files.exists(help))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(help.native()));
+    else
+        showFailure(session_.user, {u"Morvane Error"_s, MessageKind::exclamation},
+                    u"There is no help file in "_s + folder.text());
+}
+
+void Shell::openWebPage(const QString& address) {
+    QDesktopServices::openUrl(QUrl(address));
+}
+
+void Shell::openConfiguredPage(const QString& valueName) {
+    const QString text = session_.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, valueName);
+    const QUrl address(text, QUrl::StrictMode);
+    // Only a web page is opened: the text comes from a file that others may write.
+    if (address.isValid() && (address.scheme() == u"http" || address.scheme() == u"https"))
+        QDesktopServices::openUrl(address);
+    else
+        session_.user.showMessage(
+            {MessageKind::information, u"Morvane Information"_s,
+             u"No web address is set for this. It would stand in the registry value \""_s + valueName +
+                 u"\" of Morvane."_s});
+}
+
+void Shell::minimiseProgram() {
+    for (const QString& name : windowNames)
+        if (Form* window = loadedForm(name); window && window->isVisible()) return window->showMinimized();
+}
+
+void Shell::exitProgram() {
+    // The question on exit lets clicks through to nothing else, but a second close may reach us from outside,
+    // and a running job still works on what would be released here.
+    if (isExiting_ || session_.jobRunning) return;
+    isExiting_ = true;
+    morvane::exitProgram(session_);
+    QApplication::closeAllWindows();
+    QApplication::quit();
+}
+
+QWidget* Shell::messageAnchor() const {
+    for (const QString& name : windowNames)
+        if (Form* window = loadedForm(name); window && window->isVisible()) return window;
+    return loadedForm(u"frm_Main"_s);
+}
+
+void Shell::dispatch(SkinnedButton* button) {
+    const Form* form = Form::of(button);
+    const ButtonAction action =
+        actionOf(button->family(), form ? form->formName() : QString(), button->button_type());
+    if (!action) return;
+    // An exception must not cross the toolkit's event loop.
+    reportFailures(session_.user, {}, [&] { action(*this, *button); });
+    reportMissingSkin();
+}
+
+void Shell::reportMissingSkin() {
+    if (hasReportedSkin_ || skin_.missing().isEmpty() || isExiting_) return;
+    hasReportedSkin_ = true;
+    constexpr int namesShown = 5;
+    const QStringList& missing = skin_.missing();
+    QString names = missing.mid(0, namesShown).join(u", "_s);
+    if (missing.size() > namesShown)
+        names += u" and "_s + QString::number(missing.size() - namesShown) + u" more"_s;
+    session_.user.showMessage(
+        {MessageKind::exclamation, u"Morvane Information"_s,
+         u"These files of the skin are missing or broken; plain windows and keys take their "
+         "place: "_s +
+             names + u". They belong into "_s + (session_.AppPath / u"Media").text()});
+}
+
+} // namespace morvane

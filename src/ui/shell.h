@@ -1,0 +1,85 @@
+#pragma once
+
+#include "ui/form.h"
+
+#include <QHash>
+#include <QObject>
+#include <memory>
+
+namespace morvane {
+
+class ShapedForm;
+class Skin;
+
+/// The screens of the program: makes each at its first use, swaps the pages of the windows, and sends every
+/// click on a skinned key to its action.
+class Shell : public QObject {
+    Q_OBJECT
+public:
+    Shell(Session& session, Skin& skin);
+    ~Shell() override;
+
+    Session& session() const { return session_; }
+    Skin& skin() const { return skin_; }
+
+    /// The one instance of the screen of that name, in any case of letters; made when it is not there yet.
+    /// Null for a name that no screen has.
+    Form* form(const QString& name);
+    /// The same, null as long as nobody has used it.
+    Form* loadedForm(const QString& name) const;
+    template <class Screen>
+    Screen& screen(const QString& name) {
+        return static_cast<Screen&>(*form(name));
+    }
+
+    /// Name of the page that stands in a window now, and the one that the navigation last chose; empty for
+    /// the window's own.
+    QString CurrentChildScreen, CurrentMainScreen;
+
+    /// Takes every other page out of its window and shows this one in its own.
+    void showChildScreen(const QString& formName);
+    /// Takes the page out and hides it. An unknown name does nothing.
+    void hideChildScreen(const QString& formName);
+    /// What a navigation key does: the page, its formatting, the two names above.
+    void goToPage(const QString& formName);
+
+    /// The main page: its keys, its title, its numbers.
+    void formatMainScreen();
+    void refreshMainStatus();
+    /// The list window of ground, sky or night in the place of the main window.
+    void showHost(const QString& formName);
+    /// Back from a list window to the main one.
+    void leaveHost(const QString& formName);
+    /// The list page of a list window in the place of its colour page.
+    void showList(const QString& formName);
+
+    /// The help file, or its pages where the compiled one is missing.
+    void openHelp();
+    void openWebPage(const QString& address);
+    /// The page whose address stands in that registry value; an absent one is told of.
+    void openConfiguredPage(const QString& valueName);
+    void minimiseProgram();
+    void exitProgram();
+
+    /// Says once which files of the skin could not be had.
+    void reportMissingSkin();
+
+    /// The window that messages are centred over: the first visible one, else the main window's place.
+    QWidget* messageAnchor() const;
+
+public Q_SLOTS:
+    void dispatch(SkinnedButton* button);
+
+private:
+    Session& session_;
+    Skin& skin_;
+    QHash<QString, Form*> forms_; ///< by lower-cased name
+    QHash<QString, QPointer<QWidget>> formerParents_;
+    bool isExiting_ = false;
+    bool hasReportedSkin_ = false;
+};
+
+/// The four windows; every other screen is a page in one of them or a dialog.
+extern const QStringList windowNames;
+
+} // namespace morvane

@@ -1,0 +1,78 @@
+#include "ui/skin.h"
+
+#include "core/literals.h"
+#include "imaging/window_region.h"
+
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImageReader>
+
+namespace morvane {
+
+namespace {
+
+constexpr QRgb keyColour = qRgb(255, 0, 255);
+constexpr int denseFactor = 2;
+
+QString denseName(const QString& fileName) {
+    const QFileInfo name(fileName);
+    return name.completeBaseName() + u"@2x."_s + name.suffix();
+}
+
+QImage withoutKeyColour(const QImage& picture) {
+    QImage masked = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < masked.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(masked.scanLine(y));
+        std::replace(row, row + masked.width(), keyColour, QRgb(0));
+    }
+    return masked;
+}
+
+} // namespace
+
+void Skin::noteMissing(const QString& fileName) {
+    if (!missing_.contains(fileName)) missing_ << fileName;
+}
+
+QByteArray Skin::bytesOf(const QString& fileName) {
+    try {
+        return files_.read(media_ / fileName);
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+QImage Skin::imageOf(const QString& fileName) {
+    return QImage::fromData(bytesOf(fileName));
+}
+
+QPixmap Skin::picture(const QString& fileName) {
+    if (const auto known = pictures_.constFind(fileName); known != pictures_.constEnd()) return *known;
+    const bool isDense = qGuiApp->devicePixelRatio() > 1;
+    QImage image = isDense ? imageOf(denseName(fileName)) : QImage();
+    const bool foundDense = !image.isNull();
+    if (!foundDense) image = imageOf(fileName);
+    if (image.isNull()) noteMissing(fileName);
+    QPixmap picture = image.isNull() ? QPixmap() : QPixmap::fromImage(withoutKeyColour(image));
+    if (foundDense) picture.setDevicePixelRatio(denseFactor);
+    return *pictures_.insert(fileName, picture);
+}
+
+QRegion Skin::outline(const QString& fileName) {
+    try {
+        const WindowRegion region = readWindowRegion(bytesOf(fileName));
+        QRegion outline;
+        outline.setRects(region.rectangles.data(), static_cast<int>(region.rectangles.size()));
+        return outline;
+    } catch (const std::exception&) {
+        noteMissing(fileName);
+        return {};
+    }
+}
+
+QCursor Skin::cursor(const QString& fileName, Qt::CursorShape otherwise) {
+    const QPixmap pointer = picture(fileName);
+    return pointer.isNull() ? QCursor(otherwise) : QCursor(pointer);
+}
+
+} // namespace morvane

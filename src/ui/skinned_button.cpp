@@ -1,0 +1,205 @@
+#include "ui/skinned_button.h"
+
+#include "core/literals.h"
+#include "core/numbers.h"
+#include "ui/controls/palette.h"
+#include "ui/controls/wrapped_tip.h"
+#include "ui/skin.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <array>
+
+namespace morvane {
+
+namespace {
+
+struct FamilyTraits {
+    QSize size;    ///< of one frame
+    QRect caption; ///< its place; empty for families without words
+};
+
+/// In the order of ButtonFamily.
+constexpr std::array<FamilyTraits, 4> families{{
+    {{128, 43}, {42, 8, 82, 28}},
+    {{40, 28}, {}},
+    {{48, 44}, {}},
+    {{126, 44}, {39, 15, 84, 14}},
+}};
+
+constexpr int captionPixels = 12;
+constexpr int tipMilliseconds = 10'000;
+constexpr int lastFrame = 3;
+
+const FamilyTraits& traitsOf(ButtonFamily family) {
+    return families[static_cast<std::size_t>(family)];
+}
+
+/// "deactivate" looks like "disabled": both show the last frame.
+int frameOf(ButtonState state) {
+    return std::min(static_cast<int>(state), lastFrame);
+}
+
+bool isPressKey(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+SkinnedButton::SkinnedButton(ButtonFamily family, Skin& skin, QWidget* parent)
+    : QWidget(parent), family_(family), skin_(skin) {
+    setFixedSize(sizeOf(family));
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(skin.cursor(u"Hand.cur"_s, Qt::PointingHandCursor));
+    setToolTipDuration(tipMilliseconds);
+}
+
+QSize SkinnedButton::sizeOf(ButtonFamily family) {
+    return traitsOf(family).size;
+}
+
+void SkinnedButton::setToolTip(const QString& text) {
+    toolTip_ = text;
+    QWidget::setToolTip(wrappedTip(text));
+    refreshAccessibility();
+}
+
+void SkinnedButton::setButtonText(const QString& text) {
+    buttonText_ = trimmedBlanks(text);
+    refreshAccessibility();
+    update();
+}
+
+void SkinnedButton::refreshAccessibility() {
+    setAccessibleName(QString(buttonText_.isEmpty() ? toolTip_ : buttonText_).replace(u'\n', u' '));
+    setAccessibleDescription(toolTip_);
+}
+
+void SkinnedButton::setPicture(const QString& name) {
+    picture_ = trimmedBlanks(name);
+    const QPixmap strip = skin_.picture(picture_ + u".bmp"_s);
+    if (strip.isNull()) return;
+    strip_ = strip;
+    update();
+}
+
+void SkinnedButton::setState(ButtonState state) {
+    state_ = state;
+    setFocusPolicy(state == ButtonState::disabled ? Qt::NoFocus : Qt::TabFocus);
+    update();
+}
+
+int SkinnedButton::frameOffset() const {
+    return -frameOf(state_) * height();
+}
+
+QFont SkinnedButton::captionFont() const {
+    QFont captions = font();
+    captions.setPixelSize(captionPixels);
+    captions.setWeight(QFont::Medium);
+    return captions;
+}
+
+QRect SkinnedButton::captionPlace() const {
+    const QRect place = traitsOf(family_).caption;
+    return state_ == ButtonState::down ? place.translated(0, 1) : place;
+}
+
+void SkinnedButton::press() {
+    if (!isDead()) setState(ButtonState::down);
+}
+
+/// The key may be gone, or have another state, once the click has been dealt with.
+void SkinnedButton::release() {
+    if (state_ == ButtonState::disabled) return;
+    if (state_ != ButtonState::deactivate) setState(ButtonState::highlight);
+    mouseHasLeft_ = false;
+    const QPointer<SkinnedButton> self(this);
+    Q_EMIT dispatched(this);
+    if (!self || isDead()) return;
+    // Where the click opened a message, the mouse left while it stood there and will not leave again.
+    setState(mouseHasLeft_ ? ButtonState::enabled : ButtonState::highlight);
+}
+
+void SkinnedButton::click_event() {
+    press();
+}
+
+/// A hidden window gets no leave event, so the key would come back lit.
+void SkinnedButton::hideEvent(QHideEvent*) {
+    takeMouseAway();
+}
+
+void SkinnedButton::takeMouseAway() {
+    mouseHasLeft_ = true;
+    if (!isDead()) setState(ButtonState::enabled);
+}
+
+void SkinnedButton::enterEvent(QEnterEvent*) {
+    if (!isDead()) setState(ButtonState::highlight);
+}
+
+void SkinnedButton::leaveEvent(QEvent*) {
+    takeMouseAway();
+}
+
+void SkinnedButton::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) press();
+}
+
+void SkinnedButton::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+void SkinnedButton::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) release();
+}
+
+void SkinnedButton::keyPressEvent(QKeyEvent* event) {
+    if (!isPressKey(*event)) return QWidget::keyPressEvent(event);
+    if (!event->isAutoRepeat()) press();
+}
+
+void SkinnedButton::keyReleaseEvent(QKeyEvent* event) {
+    if (!isPressKey(*event)) return QWidget::keyReleaseEvent(event);
+    const bool isAlive = state_ == ButtonState::down || state_ == ButtonState::deactivate;
+    if (!event->isAutoRepeat() && isAlive) release();
+}
+
+void SkinnedButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (strip_.isNull())
+        paintPlain(painter);
+    else
+        painter.drawPixmap(QRect(0, frameOffset(), width(), 4 * height()), strip_);
+    paintCaption(painter);
+    if (!hasFocus()) return;
+    painter.setPen(QColor::fromRgb(palette::accent));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 4, 4);
+}
+
+void SkinnedButton::paintPlain(QPainter& painter) const {
+    painter.setPen(QColor::fromRgb(palette::line));
+    painter.setBrush(QColor::fromRgb(state_ == ButtonState::down ? palette::deck : palette::bezelMid));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+    if (!traitsOf(family_).caption.isEmpty()) return;
+    painter.setPen(QColor::fromRgb(palette::textBright));
+    painter.setFont(captionFont());
+    painter.drawText(rect(), Qt::AlignCenter, buttonType_.left(5));
+}
+
+void SkinnedButton::paintCaption(QPainter& painter) const {
+    if (traitsOf(family_).caption.isEmpty()) return;
+    // The disabled frame of a medium key marks the page one is on; that of a large one says it is dead. A
+    // "deactivate" key is alive and keeps its bright caption.
+    const bool isOff = state_ == ButtonState::disabled && family_ == ButtonFamily::LargeButton;
+    const bool isLit = state_ == ButtonState::highlight || state_ == ButtonState::disabled;
+    painter.setPen(isOff ? QColor::fromRgb(palette::textOff)
+                         : (isLit ? QColor(Qt::white) : QColor::fromRgb(palette::textBright)));
+    painter.setFont(captionFont());
+    painter.drawText(captionPlace(), Qt::AlignLeft | Qt::AlignVCenter, buttonText_);
+}
+
+} // namespace morvane

@@ -1,0 +1,97 @@
+#include "ui/window_user.h"
+
+#include "ui/dialog_form.h"
+#include "ui/host_form.h"
+#include "ui/screens/message_screen.h"
+#include "ui/shell.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace morvane {
+
+namespace {
+
+QMessageBox::StandardButtons boxButtons(SystemBoxButtons buttons) {
+    switch (buttons) {
+    case SystemBoxButtons::okCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case SystemBoxButtons::yesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case SystemBoxButtons::ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+} // namespace
+
+frm_Msg& WindowUser::messageForm() const {
+    return shell_->screen<frm_Msg>(u"frm_Msg"_s);
+}
+
+QWidget* WindowUser::boxParent() const {
+    if (!shell_) return nullptr;
+    return isMessageVisible() ? shell_->loadedForm(u"frm_Msg"_s) : shell_->messageAnchor();
+}
+
+void WindowUser::showMessage(const Message& message) {
+    messageForm().showMessage(message);
+}
+
+void WindowUser::updateProgress(const QString& title, const QString& text, double value) {
+    messageForm().updateProgress(title, text, value);
+    pumpMessages();
+}
+
+void WindowUser::setProgressFile(const QString& line) {
+    messageForm().setProgressFile(line);
+}
+
+void WindowUser::hideMessage() {
+    if (isMessageVisible()) messageForm().hide();
+}
+
+bool WindowUser::isMessageVisible() const {
+    const Form* form = shell_ ? shell_->loadedForm(u"frm_Msg"_s) : nullptr;
+    return form && form->isVisible();
+}
+
+bool WindowUser::systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) {
+    QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? u"Morvane"_s : title, text, boxButtons(buttons),
+                    boxParent());
+    const int answer = box.exec();
+    return answer == QMessageBox::Ok || answer == QMessageBox::Yes;
+}
+
+QString WindowUser::browseForFolder(const QString& startFolder) {
+    return QFileDialog::getExistingDirectory(boxParent(), u"Please select a folder..."_s, startFolder);
+}
+
+void WindowUser::showModal(Screen screen) {
+    if (auto* dialog = qobject_cast<DialogForm*>(shell_->form(screenName(screen)))) dialog->run();
+}
+
+void WindowUser::showScreen(Screen screen) {
+    if (Form* form = shell_->form(screenName(screen))) form->show();
+}
+
+void WindowUser::hideScreen(Screen screen) {
+    if (Form* form = shell_->loadedForm(screenName(screen))) form->hide();
+}
+
+/// A screen that nobody has opened has nothing to refresh; it is filled when it is opened.
+void WindowUser::refreshScreen(Screen screen) {
+    Form* form = shell_->loadedForm(screenName(screen));
+    if (screen == Screen::frm_Main && form)
+        shell_->refreshMainStatus();
+    else if (auto* host = qobject_cast<HostForm*>(form))
+        host->formatList();
+}
+
+void WindowUser::pumpMessages() {
+    QCoreApplication::processEvents();
+}
+
+} // namespace morvane
