@@ -1,0 +1,195 @@
+#include "ui/controls/paper_drawing.h"
+
+#include "ui/controls/palette.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+#include <algorithm>
+
+namespace morvane {
+
+namespace {
+
+/// Antialiasing for as long as it lives: round corners need it, straight lines must not have it.
+class Smooth {
+public:
+    explicit Smooth(QPainter& painter) : painter_(painter) {
+        painter_.save();
+        painter_.setRenderHint(QPainter::Antialiasing);
+    }
+    ~Smooth() { painter_.restore(); }
+    Smooth(const Smooth&) = delete;
+    Smooth& operator=(const Smooth&) = delete;
+
+private:
+    QPainter& painter_;
+};
+
+/// Along the middle of the place's outermost pixels.
+QRectF borderOf(const QRect& place, double inset = 0) {
+    const double half = inset + .5;
+    return QRectF(place).adjusted(half, half, -half, -half);
+}
+
+QLinearGradient shadeFrom(const QRect& place, QRgb top, QRgb foot) {
+    QLinearGradient ground(0, place.top(), 0, place.top() + place.height());
+    ground.setColorAt(0, QColor::fromRgb(top));
+    ground.setColorAt(1, QColor::fromRgb(foot));
+    return ground;
+}
+
+void drawLine(QPainter& painter, const QRect& line, QRgb colour) {
+    painter.fillRect(line, QColor::fromRgba(colour));
+}
+
+bool has(const QStyleOption& option, QStyle::StateFlag flag) {
+    return option.state.testFlag(flag);
+}
+
+QRgb markOf(const QStyleOption& option) {
+    return has(option, QStyle::State_Enabled) ? palette::textBlue : palette::markLine;
+}
+
+PaperBox markBox(const QStyleOption& option, QRgb ground, double radius) {
+    const bool isLit = has(option, QStyle::State_MouseOver) || has(option, QStyle::State_HasFocus);
+    return {ground, ground, isLit ? palette::accentOnPaper : palette::markLine, radius};
+}
+
+} // namespace
+
+void drawPaperBox(QPainter& painter, const QRect& place, const PaperBox& box) {
+    const Smooth smooth(painter);
+    painter.setPen(QColor::fromRgb(box.border));
+    painter.setBrush(shadeFrom(place, box.top, box.foot));
+    const double radius = std::max(box.radius - .5, 0.0);
+    painter.drawRoundedRect(borderOf(place), radius, radius);
+}
+
+void drawFocusRing(QPainter& painter, const QRect& place, double radius) {
+    const Smooth smooth(painter);
+    QPen pen(QColor::fromRgb(palette::accentOnPaper), 2);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(borderOf(place, .5), radius - 1, radius - 1);
+}
+
+void drawPlainButton(QPainter& painter, const QStyleOption& option) {
+    constexpr double radius = 4;
+    const bool isPressed = has(option, QStyle::State_Sunken);
+    const bool isHovered = has(option, QStyle::State_MouseOver) && has(option, QStyle::State_Enabled);
+    drawPaperBox(painter, option.rect,
+                 {isPressed ? palette::buttonFoot : palette::field,
+                  isPressed ? palette::field : palette::buttonFoot,
+                  isHovered ? palette::accentOnPaper : palette::fieldLine, radius});
+    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, option.rect, radius);
+}
+
+void drawDarkButton(QPainter& painter, const QStyleOption& option) {
+    constexpr double radius = 5;
+    PaperBox box{palette::keyTop, palette::keyFoot, palette::line, radius};
+    if (!has(option, QStyle::State_Enabled))
+        box = {palette::keyDisabled, palette::keyDisabled, palette::line, radius};
+    else if (has(option, QStyle::State_Sunken))
+        box = {palette::keyPressedTop, palette::keyPressedFoot, palette::line, radius};
+    else if (has(option, QStyle::State_MouseOver))
+        box = {palette::keyHoverTop, palette::keyHoverFoot, palette::accentOnPaper, radius};
+    drawPaperBox(painter, option.rect, box);
+    const QRect inner = option.rect.adjusted(4, 1, -4, -1);
+    drawLine(painter, {inner.left(), inner.top(), inner.width(), 1}, qRgba(255, 255, 255, 41));
+    drawLine(painter, {inner.left(), inner.bottom(), inner.width(), 1}, qRgba(0, 0, 0, 56));
+    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, option.rect, radius);
+}
+
+void drawCheckBox(QPainter& painter, const QStyleOption& option) {
+    const bool isSet = has(option, QStyle::State_On);
+    const QRect& place = option.rect;
+    PaperBox box = markBox(option, isSet ? markOf(option) : palette::field, 3);
+    if (isSet) box.border = markOf(option);
+    drawPaperBox(painter, place, box);
+    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, place, 3);
+    if (!isSet) return;
+    const Smooth smooth(painter);
+    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF corner = place.topLeft();
+    painter.drawPolyline(
+        QPolygonF({corner + QPointF(4, 7.8), corner + QPointF(6.5, 10.3), corner + QPointF(11, 5)}));
+}
+
+void drawOptionBox(QPainter& painter, const QStyleOption& option) {
+    const double round = option.rect.width() / 2.0;
+    drawPaperBox(painter, option.rect, markBox(option, palette::field, round));
+    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, option.rect, round);
+    if (!has(option, QStyle::State_On)) return;
+    const Smooth smooth(painter);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(markOf(option)));
+    painter.drawEllipse(QRectF(option.rect).center(), 3.5, 3.5);
+}
+
+void drawField(QPainter& painter, const QStyleOption& option) {
+    constexpr double radius = 3;
+    const QRect& place = option.rect;
+    drawPaperBox(painter, place, {palette::field, palette::field, palette::fieldLine, radius});
+    drawLine(painter, {place.left() + 2, place.top() + 1, place.width() - 4, 1}, palette::fieldShade);
+    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, place, radius);
+}
+
+void drawListHead(QPainter& painter, const QRect& place, bool hasGap) {
+    painter.fillRect(place, shadeFrom(place, palette::listHeadTop, palette::listHeadFoot));
+    drawLine(painter, {place.left(), place.bottom(), place.width(), 1}, palette::rule);
+    if (hasGap)
+        drawLine(painter, {place.right(), place.top() + 4, 1, place.height() - 8}, palette::listHeadGap);
+}
+
+void drawRowCell(QPainter& painter, const QStyleOptionViewItem& option) {
+    const QRect& place = option.rect;
+    const bool isSelected = has(option, QStyle::State_Selected);
+    if (isSelected) painter.fillRect(place, QColor::fromRgb(palette::selectedRow));
+    drawLine(painter, {place.left(), place.bottom(), place.width(), 1}, palette::rowLine);
+    const bool isFirst = option.viewItemPosition == QStyleOptionViewItem::Beginning ||
+                         option.viewItemPosition == QStyleOptionViewItem::OnlyOne;
+    if (isSelected && isFirst)
+        drawLine(painter, {place.left(), place.top(), 2, place.height()}, palette::accentOnPaper);
+}
+
+void drawScrollBar(QPainter& painter, const QRect& place, const QRect& handle, Qt::Orientation orientation) {
+    constexpr int handleInset = 3; // leaves 7 of the bar's 12 beside the hair
+    const bool isUpright = orientation == Qt::Vertical;
+    painter.fillRect(place, QColor::fromRgb(palette::scrollGround));
+    drawLine(painter,
+             isUpright ? QRect(place.left(), place.top(), 1, place.height())
+                       : QRect(place.left(), place.top(), place.width(), 1),
+             palette::hair);
+    const Smooth smooth(painter);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(palette::scrollHandle));
+    const QRect bar =
+        isUpright ? handle.adjusted(handleInset, 3, -2, -3) : handle.adjusted(3, handleInset, -3, -2);
+    painter.drawRoundedRect(bar, 3.5, 3.5);
+}
+
+void drawProgress(QPainter& painter, const QRect& place, double fraction) {
+    const int inset = place.height() >= 16 ? 3 : 2;
+    const Smooth smooth(painter);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(palette::line));
+    painter.drawRoundedRect(place, place.height() / 2.0, place.height() / 2.0);
+    const QRectF full = QRectF(place).adjusted(inset, inset, -inset, -inset);
+    const double length = full.width() * std::clamp(fraction, 0.0, 1.0);
+    if (length <= 0) return;
+    const double round = full.height() / 2;
+    // The round ends take a whole height: a shorter fill is the left part of that round.
+    QPainterPath shape;
+    shape.addRoundedRect({full.topLeft(), QSizeF(std::max(length, full.height()), full.height())}, round,
+                         round);
+    painter.setClipRect(QRectF(place.topLeft(), QSizeF(inset + length + inset, place.height())));
+    painter.setPen(QPen(QColor::fromRgba(qRgba(76, 196, 242, 70)), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(shape);
+    painter.setClipRect(QRectF(full.topLeft(), QSizeF(length, full.height())));
+    painter.fillPath(shape, shadeFrom(full.toRect(), palette::progressTop, palette::progressFoot));
+}
+
+} // namespace morvane

@@ -1,0 +1,243 @@
+#include "ui/controls/paper_style.h"
+
+#include "core/literals.h"
+#include "ui/controls/labels.h"
+#include "ui/controls/palette.h"
+#include "ui/controls/paper_drawing.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QPainter>
+#include <QStyleOption>
+#include <QToolTip>
+
+namespace morvane {
+
+namespace {
+
+constexpr int boxSize = 15, tipDelay = 250, tipTime = 10'000;
+constexpr char onDarkName[] = "onDark", captionOffsetName[] = "captionOffset";
+
+bool isOnDark(const QWidget* widget) {
+    return widget && widget->property(onDarkName).toBool();
+}
+
+int captionSpacing(const QWidget* widget, int usual) {
+    const QVariant offset = widget ? widget->property(captionOffsetName) : QVariant();
+    return offset.isValid() ? offset.toInt() - boxSize : usual;
+}
+
+/// A list's check box stands in the first 22 pixels of its cell, the text beside it.
+constexpr int cellBoxInset = 5, cellBoxRoom = 22;
+
+QRect cellBoxPlace(const QRect& cell) {
+    return {cell.left() + cellBoxInset, cell.top() + (cell.height() - boxSize) / 2, boxSize, boxSize};
+}
+
+bool hasCheckBox(const QStyleOption* option) {
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    return item && item->features.testFlag(QStyleOptionViewItem::HasCheckIndicator);
+}
+
+QPalette paperPalette() {
+    const QColor blue = QColor::fromRgb(palette::textBlue), off = QColor::fromRgb(palette::markLine);
+    QPalette colours(blue, QColor::fromRgb(palette::paperFoot), Qt::white, QColor::fromRgb(palette::rule),
+                     QColor::fromRgb(palette::fieldLine), blue, blue, QColor::fromRgb(palette::field),
+                     QColor::fromRgb(palette::paperTop));
+    colours.setColor(QPalette::Highlight, QColor::fromRgb(palette::selectedRow));
+    colours.setColor(QPalette::HighlightedText, blue);
+    colours.setColor(QPalette::PlaceholderText, off);
+    colours.setColor(QPalette::ToolTipBase, QColor::fromRgb(palette::tipGround));
+    colours.setColor(QPalette::ToolTipText, QColor::fromRgb(palette::tipText));
+    for (const auto role :
+         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::HighlightedText})
+        colours.setColor(QPalette::Disabled, role, off);
+    return colours;
+}
+
+} // namespace
+
+PaperStyle::PaperStyle() : QProxyStyle(u"Fusion"_s) {}
+
+QPalette PaperStyle::standardPalette() const {
+    return paperPalette();
+}
+
+void PaperStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    if (widget->toolTipDuration() < 0) widget->setToolTipDuration(tipTime);
+    if (qobject_cast<QAbstractButton*>(widget)) widget->setAttribute(Qt::WA_Hover);
+}
+
+int PaperStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* result) const {
+    switch (hint) {
+    case SH_ToolTip_WakeUpDelay:
+        return tipDelay;
+    case SH_ToolTipLabel_Opacity:
+        return 255;
+    case SH_ScrollBar_LeftClickAbsolutePosition:
+    case SH_EtchDisabledText:
+    case SH_ItemView_ActivateItemOnSingleClick:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, result);
+    }
+}
+
+int PaperStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return boxSize;
+    case PM_CheckBoxLabelSpacing:
+        return captionSpacing(widget, 8);
+    case PM_RadioButtonLabelSpacing:
+        return captionSpacing(widget, 6);
+    case PM_DefaultFrameWidth:
+        return 1;
+    case PM_FocusFrameHMargin: // with the 1 that Qt adds, the texts of a list are 6 from the edge of their
+                               // cell
+    case PM_HeaderMargin:
+        return 5;
+    case PM_ScrollBarExtent:
+        return 12;
+    case PM_ScrollBarSliderMin:
+        return 24;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QRect PaperStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                 const QWidget* widget) const {
+    switch (element) {
+    case SE_LineEditContents: // Qt's edit adds 2 of its own to come to 6
+        return option->rect.adjusted(4, 1, -4, -1);
+    case SE_ItemViewItemCheckIndicator:
+        return cellBoxPlace(option->rect);
+    case SE_ItemViewItemText:
+        return option->rect.adjusted(hasCheckBox(option) ? cellBoxRoom : 0, 0, 0, 0);
+    default:
+        return QProxyStyle::subElementRect(element, option, widget);
+    }
+}
+
+/// A scroll bar has no arrow keys at its ends: the groove takes its whole length.
+QRect PaperStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                 const QWidget* widget) const {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar) return QProxyStyle::subControlRect(control, option, part, widget);
+    const bool isUpright = bar->orientation == Qt::Vertical;
+    const int length = isUpright ? bar->rect.height() : bar->rect.width();
+    const qint64 steps = qint64(bar->maximum) - bar->minimum;
+    const qint64 shown = steps > 0 ? length * qint64(bar->pageStep) / (steps + bar->pageStep) : length;
+    const int handle = static_cast<int>(std::clamp<qint64>(shown, std::min(24, length), length));
+    const int start = sliderPositionFromValue(bar->minimum, bar->maximum, bar->sliderPosition,
+                                              length - handle, bar->upsideDown);
+    const auto along = [&](int from, int size) {
+        return isUpright ? QRect(bar->rect.left(), bar->rect.top() + from, bar->rect.width(), size)
+                         : QRect(bar->rect.left() + from, bar->rect.top(), size, bar->rect.height());
+    };
+    switch (part) {
+    case SC_ScrollBarGroove:
+        return bar->rect;
+    case SC_ScrollBarSlider:
+        return along(start, handle);
+    case SC_ScrollBarSubPage:
+        return along(0, start);
+    case SC_ScrollBarAddPage:
+        return along(start + handle, length - start - handle);
+    default:
+        return {};
+    }
+}
+
+void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+    switch (element) {
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        return drawCheckBox(*painter, *option);
+    case PE_IndicatorRadioButton:
+        return drawOptionBox(*painter, *option);
+    case PE_PanelButtonCommand:
+        return isOnDark(widget) ? drawDarkButton(*painter, *option) : drawPlainButton(*painter, *option);
+    case PE_PanelLineEdit:
+        return drawField(*painter, *option);
+    case PE_Frame: // of a list or a text box
+        return drawField(*painter, *option);
+    case PE_PanelItemViewItem:
+        return drawRowCell(*painter, *qstyleoption_cast<const QStyleOptionViewItem*>(option));
+    case PE_PanelTipLabel:
+        return drawPaperBox(*painter, option->rect,
+                            {palette::tipGround, palette::tipGround, palette::fieldLine, 0});
+    case PE_PanelItemViewRow: // the cells draw their own ground
+    case PE_FrameFocusRect:   // each control shows the focus by its own border
+    case PE_PanelStatusBar:
+        return;
+    default:
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void PaperStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+    switch (element) {
+    case CE_HeaderSection: {
+        const auto* head = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        const bool isLast =
+            head->position == QStyleOptionHeader::End || head->position == QStyleOptionHeader::OnlyOneSection;
+        return drawListHead(*painter, option->rect, !isLast);
+    }
+    case CE_HeaderEmptyArea:
+        return drawListHead(*painter, option->rect, false);
+    case CE_ProgressBar: {
+        const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+        const double steps = double(bar->maximum) - bar->minimum;
+        return drawProgress(*painter, bar->rect, steps > 0 ? (bar->progress - bar->minimum) / steps : 0);
+    }
+    default:
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+void PaperStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                    QPainter* painter, const QWidget* widget) const {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar)
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const QRect handle = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
+    drawScrollBar(*painter, bar->rect, handle, bar->orientation);
+}
+
+void applyPaperStyle(QApplication& application) {
+    application.setStyle(new PaperStyle);
+    application.setPalette(paperPalette());
+    application.setFont(fontOf(TextRole::body));
+    QToolTip::setPalette(paperPalette());
+    QToolTip::setFont(fontOf(TextRole::body));
+}
+
+void setOnDark(QAbstractButton& button) {
+    button.setProperty(onDarkName, true);
+    QPalette colours = button.palette();
+    for (const auto role : {QPalette::ButtonText, QPalette::WindowText}) {
+        colours.setColor(role, QColor::fromRgb(palette::textBright));
+        colours.setColor(QPalette::Disabled, role, QColor::fromRgb(palette::textOff));
+    }
+    button.setPalette(colours);
+}
+
+void setCaptionOffset(QAbstractButton& button, int offset) {
+    button.setProperty(captionOffsetName, offset);
+    button.updateGeometry();
+}
+
+} // namespace morvane
