@@ -221,6 +221,8 @@ void applyPaperStyle(QApplication& application) {
     application.setStyle(new PaperStyle);
     application.setPalette(paperPalette());
     application.setFont(fontOf(TextRole::body));
+    application.setFont(fontOf(TextRole::value), "QPushButton");
+    application.setFont(fontOf(TextRole::listHead), "QHeaderView");
     QToolTip::setPalette(paperPalette());
     QToolTip::setFont(fontOf(TextRole::body));
 }

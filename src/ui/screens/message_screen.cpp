@@ -4,7 +4,7 @@
 #include "core/session.h"
 #include "simulator/configs.h"
 #include "ui/controls/labels.h"
-#include "ui/controls/progress_bar.h"
+#include "ui/controls/skinned_progress_bar.h"
 #include "ui/message_sounds.h"
 #include "ui/shell.h"
 #include "ui/skin.h"

@@ -2,7 +2,7 @@
 
 #include "ui/controls/labels.h"
 #include "ui/controls/palette.h"
-#include "ui/controls/progress_bar.h"
+#include "ui/controls/skinned_progress_bar.h"
 #include "ui/skin.h"
 #include <QLabel>
 

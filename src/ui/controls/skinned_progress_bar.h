@@ -4,15 +4,15 @@
 
 namespace morvane {
 
-/// A round trough with a fill of light; as high as it is made, 16 or 12.
+/// The bar of the message window (16 high) and of the splash (12 high).
 class SkinnedProgressBar : public QWidget {
     Q_OBJECT
 public:
-    explicit SkinnedProgressBar(QWidget* parent);
+    explicit SkinnedProgressBar(QWidget* parent = nullptr);
 
-    /// 0 to 100; what lies outside is cut.
-    void setValue(double value);
     double value() const { return value_; }
+    /// In hundredths, 0 to 100; what lies beyond is taken as the nearer end. Cheap when it shows no change.
+    void setValue(double value);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,0 +1,184 @@
+#include "ui/controls/set_table.h"
+
+#include "core/literals.h"
+#include "ui/controls/labels.h"
+#include "ui/controls/paper_drawing.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+namespace morvane {
+
+namespace {
+
+constexpr int headHeight = 22, rowHeight = 20;
+constexpr int keyRole = Qt::UserRole, colourRole = Qt::UserRole + 1;
+
+/// Sorts without regard to case, as a reader expects of names.
+class Row : public QTreeWidgetItem {
+public:
+    bool operator<(const QTreeWidgetItem& other) const override {
+        const int column = treeWidget() ? treeWidget()->sortColumn() : 0;
+        return text(column).compare(other.text(column), Qt::CaseInsensitive) < 0;
+    }
+};
+
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return {QStyledItemDelegate::sizeHint(option, index).width(), rowHeight};
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QColor colour = option->palette.color(QPalette::Text);
+        option->palette.setColor(QPalette::HighlightedText, colour); // a selected row keeps its colour
+    }
+};
+
+/// The list's head where it lies over the scroll bar.
+class HeadEnd : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        drawListHead(painter, rect(), false);
+    }
+};
+
+void setUpHead(QHeaderView& head) {
+    head.setFixedHeight(headHeight);
+    head.setFont(fontOf(TextRole::listHead));
+    head.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    head.setSectionsClickable(true);
+    head.setHighlightSections(false);
+    head.setMinimumSectionSize(22);
+    head.setSectionsMovable(false);
+}
+
+} // namespace
+
+QRgb paintedColour(QRgb stored) {
+    if (stored == qRgb(255, 0, 0)) return palette::signalRed;
+    if (stored == qRgb(0, 0, 255)) return palette::textBlue;
+    return stored;
+}
+
+SetTable::SetTable(QWidget* parent) : QTreeWidget(parent) {
+    setAccessibleName(u"Texture sets"_s);
+    setFont(fontOf(TextRole::body));
+    setItemDelegate(new RowDelegate(this));
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setRootIsDecorated(false);
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setUpHead(*header());
+    auto* headEnd = new HeadEnd(this);
+    headEnd->setFixedHeight(headHeight);
+    addScrollBarWidget(headEnd, Qt::AlignTop);
+    connect(header(), &QHeaderView::sectionClicked, this, &SetTable::sortBy);
+    connect(this, &QTreeWidget::itemClicked, this,
+            [this](const QTreeWidgetItem* item) { Q_EMIT rowClicked(item->data(0, keyRole).toString()); });
+}
+
+void SetTable::setColumns(const std::vector<SetColumn>& columns, bool hasCheckBoxes) {
+    hasCheckBoxes_ = hasCheckBoxes;
+    QStringList titles;
+    for (const SetColumn& column : columns)
+        titles += column.title;
+    setColumnCount(static_cast<int>(titles.size()));
+    setHeaderLabels(titles);
+    for (int index = 0; const SetColumn& column : columns)
+        header()->resizeSection(index++, column.width);
+}
+
+void SetTable::addRow(const SetRow& row) {
+    auto* item = new Row;
+    item->setData(0, keyRole, row.key);
+    item->setData(0, colourRole, row.colour);
+    if (hasCheckBoxes_) item->setCheckState(0, row.isChecked ? Qt::Checked : Qt::Unchecked);
+    const QColor colour = QColor::fromRgb(paintedColour(row.colour));
+    for (int column = 0; column < columnCount(); ++column) {
+        item->setText(column, row.texts.value(column));
+        item->setToolTip(column, row.tips.value(column));
+        item->setForeground(column, colour);
+    }
+    addTopLevelItem(item);
+}
+
+QString SetTable::keyOf(int row) const {
+    const QTreeWidgetItem* item = topLevelItem(row - 1);
+    return item ? item->data(0, keyRole).toString() : QString();
+}
+
+QString SetTable::textOf(int row, int column) const {
+    const QTreeWidgetItem* item = topLevelItem(row - 1);
+    return item ? item->text(column) : QString();
+}
+
+QRgb SetTable::storedColour(int row) const {
+    const QTreeWidgetItem* item = topLevelItem(row - 1);
+    return item ? item->data(0, colourRole).toUInt() : palette::textBlue;
+}
+
+void SetTable::selectRow(int row) {
+    QTreeWidgetItem* item = topLevelItem(row - 1);
+    if (!item) return;
+    setCurrentItem(item, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollToItem(item);
+}
+
+void SetTable::selectName(const QString& name) {
+    for (int index = 0; index < rowCount(); ++index)
+        if (topLevelItem(index)->text(0) == name) return topLevelItem(index)->setSelected(true);
+}
+
+template <typename Predicate>
+QStringList SetTable::namesWhere(Predicate isWanted) const {
+    QStringList names;
+    for (int index = 0; index < rowCount(); ++index)
+        if (isWanted(*topLevelItem(index))) names += topLevelItem(index)->text(0);
+    return names;
+}
+
+QStringList SetTable::selectedNames() const {
+    return namesWhere([](const QTreeWidgetItem& item) { return item.isSelected(); });
+}
+
+QStringList SetTable::checkedNames() const {
+    return namesWhere([](const QTreeWidgetItem& item) { return item.checkState(0) == Qt::Checked; });
+}
+
+/// Each click turns the order round, whichever head it is on.
+void SetTable::sortBy(int column) {
+    order_ = order_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortItems(column, order_);
+}
+
+void SetTable::keyPressEvent(QKeyEvent* event) {
+    const QTreeWidgetItem* before = currentItem();
+    QTreeWidget::keyPressEvent(event);
+    const QTreeWidgetItem* now = currentItem();
+    if (now && now != before) Q_EMIT rowClicked(now->data(0, keyRole).toString());
+}
+
+void SetTable::focusInEvent(QFocusEvent* event) {
+    QTreeWidget::focusInEvent(event);
+    update(); // its border shows the focus
+}
+
+void SetTable::focusOutEvent(QFocusEvent* event) {
+    QTreeWidget::focusOutEvent(event);
+    update();
+}
+
+} // namespace morvane
