@@ -3,6 +3,7 @@
 #include "core/install_folder.h"
 #include "core/registry.h"
 #include "core/session.h"
+#include "ui/controls/paper_style.h"
 #include "ui/program.h"
 #include "ui/program_font.h"
 #include "ui/shell.h"
@@ -21,6 +22,7 @@ int main(int argc, char** argv) {
     // Windows come and go as pages do; only the exit flow ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     loadProgramFont();
+    applyPaperStyle(application);
 
     QStringList words = QApplication::arguments().mid(1);
     QString home = defaultInstallFolder();

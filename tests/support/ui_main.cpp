@@ -1,3 +1,4 @@
+#include "ui/controls/paper_style.h"
 #include "ui/program_font.h"
 
 #include <QApplication>
@@ -17,8 +18,9 @@ int main(int count, char** arguments) {
     setUnlessSet("QT_FONT_DPI", "96");
     setUnlessSet("QT_SCALE_FACTOR", "1");
     testing::InitGoogleTest(&count, arguments);
-    const QApplication application(count, arguments);
+    QApplication application(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     morvane::loadProgramFont();
+    morvane::applyPaperStyle(application);
     return RUN_ALL_TESTS();
 }

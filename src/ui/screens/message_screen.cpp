@@ -4,6 +4,7 @@
 #include "core/session.h"
 #include "simulator/configs.h"
 #include "ui/controls/labels.h"
+#include "ui/controls/paper_style.h"
 #include "ui/controls/skinned_progress_bar.h"
 #include "ui/message_sounds.h"
 #include "ui/shell.h"
@@ -24,7 +25,6 @@ constexpr QPoint besideCancel{280, 242}, alone{335, 242};
 
 frm_Msg::frm_Msg(Shell& shell) : DialogForm(shell, u"frm_Msg"_s, messageLook, {}) {
     makeControls();
-    lastPaint_.start();
 }
 
 void frm_Msg::makeControls() {
@@ -47,8 +47,12 @@ void frm_Msg::makeControls() {
     cmdCancel_ = new QPushButton(u"Cancel the process"_s, this);
     cmdCancel_->setObjectName(u"cmdCancel"_s);
     cmdCancel_->setGeometry(264, 251, 119, 26);
-    chkFastExit_ = new QCheckBox(u"Click here if you do not want to see this message again"_s, this);
+    setOnDark(*cmdCancel_);
+    chkFastExit_ = new QCheckBox(u"Click here if you do not want to see this\nmessage again"_s, this);
     chkFastExit_->setObjectName(u"chkFastExit"_s);
+    chkFastExit_->setAccessibleName(u"Click here if you do not want to see this message again"_s);
+    chkFastExit_->setGeometry(22, 244, 250, 38);
+    setOnDark(*chkFastExit_);
     connect(cmdCancel_, &QPushButton::clicked, this, &frm_Msg::askForCancel);
     connect(chkFastExit_, &QCheckBox::toggled, this, &frm_Msg::storeFastExit);
 }
@@ -73,6 +77,7 @@ void frm_Msg::fill(const Message& message) {
     lblProcessDescription_->clear();
     lblProcessFile_->clear();
     processFile_.clear();
+    lastPaint_.invalidate();
     pbMessage_->setValue(0);
 }
 
@@ -93,8 +98,8 @@ void frm_Msg::layOut(const Message& message) {
 }
 
 bool frm_Msg::isTimeToPaint(double value) {
-    if (lastPaint_.elapsed() < paintEveryMilliseconds && value < 100) return false;
-    lastPaint_.restart();
+    if (lastPaint_.isValid() && lastPaint_.elapsed() < paintEveryMilliseconds && value < 100) return false;
+    lastPaint_.start();
     return true;
 }
 

@@ -1,0 +1,146 @@
+#include "gallery.h"
+
+#include "core/session.h"
+#include "ui/screens/splash_screen.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QPainter>
+#include <QTimer>
+
+namespace morvane {
+
+Gallery::Gallery(Shell& shell, const QString& folder) : shell_(shell), folder_(folder) {
+    folder_.mkpath(u"."_s);
+}
+
+void Gallery::save(const QString& name, QWidget& window) {
+    QCoreApplication::processEvents();
+    const qreal scale = window.devicePixelRatioF();
+    QImage picture((QSizeF(window.size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    const QRegion outline = window.mask().isEmpty() ? QRegion(window.rect()) : window.mask();
+    QPainter painter(&picture);
+    painter.setClipRegion(outline);
+    window.render(&painter, QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
+    painter.end();
+    if (picture.save(folder_.filePath(name + u".png"_s))) ++count_;
+}
+
+void Gallery::saveModal(const QString& name, const QString& form, const std::function<void()>& call) {
+    QTimer::singleShot(0, &shell_, [&] {
+        Form* dialog = shell_.loadedForm(form);
+        if (!dialog || !dialog->isVisible()) return;
+        save(name, *dialog);
+        dialog->cancel();
+    });
+    call();
+}
+
+void Gallery::saveMessage(const QString& name, const Message& message) {
+    saveModal(name, u"frm_Msg"_s, [&] { shell_.session().user.showMessage(message); });
+}
+
+void Gallery::saveSplash() {
+    auto& splash = shell_.screen<frm_Splash>(u"frm_Splash"_s);
+    splash.showStep(u"Loading Metars from Database. Please Wait............."_s, 64);
+    splash.show();
+    save(u"splash"_s, splash);
+    splash.hide();
+}
+
+void Gallery::saveMainWindow() {
+    Form& window = *shell_.form(u"frm_Main"_s);
+    shell_.formatMainScreen();
+    window.show();
+    save(u"main"_s, window);
+    window.button(u"btn_SkyInstall"_s)->setState(ButtonState::highlight);
+    window.button(u"btn_GroundInstall"_s)->setState(ButtonState::down);
+    window.button(u"btn_MVConfig"_s)->setState(ButtonState::disabled);
+    window.button(u"btn_MVTextures"_s)->setState(ButtonState::highlight);
+    window.button(u"btn_Exit"_s)->setState(ButtonState::highlight);
+    window.button(u"btn_Minimize"_s)->setState(ButtonState::down);
+    save(u"main-key-states"_s, window);
+    shell_.formatMainScreen();
+    for (const char16_t* key : {u"btn_Exit", u"btn_Minimize"})
+        window.button(QString::fromUtf16(key))->setState(ButtonState::enabled);
+}
+
+void Gallery::savePages() {
+    Form& window = *shell_.form(u"frm_Main"_s);
+    const std::pair<const char16_t*, const char16_t*> pages[] = {
+        {u"frm_WxControl", u"weather-control"},
+        {u"frm_Switcher", u"options"},
+        {u"frm_Config", u"base-install"},
+        {u"frm_Links", u"links"},
+        {u"frm_About", u"about"},
+    };
+    for (const auto& [form, picture] : pages) {
+        shell_.goToPage(QString::fromUtf16(form));
+        save(QString::fromUtf16(picture), window);
+    }
+    shell_.hideChildScreen(shell_.CurrentChildScreen);
+    shell_.formatMainScreen();
+}
+
+void Gallery::saveGround() {
+    shell_.showHost(u"frm_MVTextures"_s);
+    Form& window = *shell_.form(u"frm_MVTextures"_s);
+    save(u"ground-sets"_s, window);
+    shell_.goToPage(u"frm_GroundColorize"_s);
+    save(u"ground-colour"_s, window);
+    shell_.leaveHost(u"frm_MVTextures"_s);
+}
+
+void Gallery::saveOtherHosts() {
+    for (const auto& [form, picture] : {std::pair(u"frm_KMTextures"_s, u"sky-sets"_s),
+                                        std::pair(u"frm_NightTextures"_s, u"night-sets"_s)}) {
+        shell_.showHost(form);
+        save(picture, *shell_.form(form));
+        shell_.leaveHost(form);
+    }
+}
+
+void Gallery::saveMessages() {
+    const QString reset =
+        u"Morvane has detected that you have 'Mostly Cloudy' Ground Texture Set installed and 'Overcast' Sky "
+        "Texture Set installed. Please select the check button if you wish to reset Morvane textures to a "
+        "nominal "
+        "weather condition of Partly Cloudy before exiting."_s;
+    Message question{MessageKind::question, u"Reset MV Textures?"_s, reset, true, true};
+    question.offersFastExit = true;
+    saveMessage(u"message-exit-question"_s, question);
+    const std::pair<MessageKind, const char16_t*> kinds[] = {
+        {MessageKind::information, u"message-information"},
+        {MessageKind::exclamation, u"message-exclamation"},
+        {MessageKind::error, u"message-error"}};
+    for (const auto& [kind, picture] : kinds)
+        saveMessage(QString::fromUtf16(picture),
+                    {kind, u"Morvane Information"_s, u"The texture set was installed successfully."_s});
+}
+
+void Gallery::saveProgress() {
+    UserInterface& user = shell_.session().user;
+    user.showMessage(
+        {MessageKind::progress, u"Creating Ground Texture Sets"_s,
+         u"Colorizing texture set 1 of 3 texture sets.  Process 1 of 2 Be aware that this may take 20 - "
+         "30 minutes per set dependant on your system specification. \nPlease wait............"_s,
+         false, true, true});
+    user.setProgressFile(u"Processing file 579 of 1157 files"_s);
+    user.updateProgress({}, {}, 50);
+    save(u"message-progress"_s, *shell_.form(u"frm_Msg"_s));
+    user.hideMessage();
+}
+
+void Gallery::saveAll() {
+    saveSplash();
+    saveMainWindow();
+    savePages();
+    saveGround();
+    saveOtherHosts();
+    saveMessages();
+    saveProgress();
+}
+
+} // namespace morvane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "core/user_interface.h"
+#include "ui/shell.h"
+
+#include <QDir>
+#include <functional>
+
+namespace morvane {
+
+/// Opens the screens of a program on an install and saves a picture of each, cut to its outline.
+class Gallery {
+public:
+    /// Pictures go into `folder`, which is made.
+    Gallery(Shell& shell, const QString& folder);
+
+    void saveAll();
+    int pictureCount() const { return count_; }
+
+private:
+    void save(const QString& name, QWidget& window);
+    /// Saves the dialog that the call opens, as soon as it waits, and cancels it.
+    void saveModal(const QString& name, const QString& form, const std::function<void()>& call);
+    void saveMessage(const QString& name, const Message& message);
+
+    void saveSplash();
+    void saveMainWindow();
+    void savePages();
+    void saveGround();
+    void saveOtherHosts();
+    void saveMessages();
+    void saveProgress();
+
+    Shell& shell_;
+    QDir folder_;
+    int count_ = 0;
+};
+
+} // namespace morvane
