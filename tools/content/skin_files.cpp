@@ -2,7 +2,9 @@
 
 #include "core/literals.h"
 #include "imaging/window_region.h"
+#include "skin_icons.h"
 #include "skin_keys.h"
+#include "skin_pages.h"
 #include "skin_palette.h"
 #include "skin_windows.h"
 #include "ui/program_font.h"
@@ -55,6 +57,18 @@ void writeKeys(SkinWriter& writer) {
         writer.writePicture(image.name, [&](int scale) { return drawKeyStrip(image, scale); });
 }
 
+void writePages(SkinWriter& writer) {
+    for (const PagePicture& page : pagePictures())
+        writer.writePicture(page.name, [&](int scale) { return drawPage(page, scale); });
+}
+
+void writeIcons(SkinWriter& writer) {
+    for (const IconImage& icon : iconImages())
+        writer.writePicture(icon.name, [&](int scale) { return drawIcon(icon, scale); });
+    for (const CoverImage& cover : coverImages())
+        writer.writePicture(cover.name, [&](int scale) { return drawCover(cover, scale); });
+}
+
 } // namespace
 
 void writeSkin(FileSystem& files, const FilePath& media) {
@@ -62,6 +76,8 @@ void writeSkin(FileSystem& files, const FilePath& media) {
     SkinWriter writer(files, media);
     writeWindows(writer);
     writeKeys(writer);
+    writePages(writer);
+    writeIcons(writer);
 }
 
 } // namespace morvane
