@@ -6,6 +6,7 @@
 #include <QLabel>
 
 #include <QEventLoop>
+#include <QKeyEvent>
 
 namespace morvane {
 
@@ -45,6 +46,16 @@ void DialogForm::ok() {
 
 void DialogForm::cancel() {
     hide();
+}
+
+/// Enter that no control took says OK, where there is an OK.
+void DialogForm::keyPressEvent(QKeyEvent* event) {
+    const SkinnedButton* okKey = button(u"btn_Ok"_s);
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && okKey && okKey->isVisible())
+        ok();
+    else
+        ShapedForm::keyPressEvent(event);
 }
 
 void DialogForm::hideEvent(QHideEvent* event) {

@@ -25,6 +25,7 @@ protected:
     /// Writes what was chosen into the session.
     virtual void confirm() = 0;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     /// The two keys, with the tips of this dialog.
     void addAnswerKeys(const QString& okTip, const QString& cancelTip);

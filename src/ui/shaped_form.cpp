@@ -50,6 +50,9 @@ ShapedForm::ShapedForm(Shell& shell, const QString& name, const WindowLook& look
     : Form(shell, name), background_(skin().picture(look.picture)), shape_(*this) {
     setFixedSize(look.size);
     setWindowTitle(u"Morvane"_s);
+    // No key has the focus, and its ring, before the user asks for one.
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
     // A picture that no outline cuts would show its key colour as holes: both or neither.
     if (!background_.isNull() && shape_.ShapeMe(skin(), look.region))
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);

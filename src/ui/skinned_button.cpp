@@ -31,7 +31,7 @@ constexpr std::array<FamilyTraits, 4> families{{
 
 constexpr int captionPixels = 12;
 constexpr int tipMilliseconds = 10'000;
-constexpr int lastFrame = 3;
+constexpr int frameCount = 4;
 
 const FamilyTraits& traitsOf(ButtonFamily family) {
     return families[static_cast<std::size_t>(family)];
@@ -39,7 +39,7 @@ const FamilyTraits& traitsOf(ButtonFamily family) {
 
 /// "deactivate" looks like "disabled": both show the last frame.
 int frameOf(ButtonState state) {
-    return std::min(static_cast<int>(state), lastFrame);
+    return std::min(static_cast<int>(state), frameCount - 1);
 }
 
 bool isPressKey(const QKeyEvent& event) {
@@ -173,11 +173,17 @@ void SkinnedButton::paintEvent(QPaintEvent*) {
     if (strip_.isNull())
         paintPlain(painter);
     else
-        painter.drawPixmap(QRect(0, frameOffset(), width(), 4 * height()), strip_);
+        painter.drawPixmap(rect(), strip_, frameInStrip());
     paintCaption(painter);
     if (!hasFocus()) return;
     painter.setPen(QColor::fromRgb(palette::accent));
     painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 4, 4);
+}
+
+/// In the strip's own pixels, which are more than one to a logical pixel on a dense display.
+QRect SkinnedButton::frameInStrip() const {
+    const int frameHeight = strip_.height() / frameCount;
+    return {0, frameOf(state_) * frameHeight, strip_.width(), frameHeight};
 }
 
 void SkinnedButton::paintPlain(QPainter& painter) const {

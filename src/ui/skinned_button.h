@@ -73,6 +73,7 @@ private:
     void release();
     void takeMouseAway();
     void refreshAccessibility();
+    QRect frameInStrip() const;
     void paintPlain(QPainter& painter) const;
     void paintCaption(QPainter& painter) const;
 

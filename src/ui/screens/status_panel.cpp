@@ -77,9 +77,11 @@ void StatusPanel::addHeadings() {
         disc->setPixmap(form_.skin().picture(u"cover_"_s + cover.tag.mid(2, 3).toLower() + u".bmp"_s));
         disc->setGeometry(left + 2, firstRow + i * rowPitch + 5, 12, 12);
         makeLabel(this, cover.word + cover.tag, {left + 20, firstRow + i * rowPitch + 1, 136, rowHeight},
-                  TextRole::body);
+                  TextRole::body)
+            ->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     }
-    makeLabel(this, u"Total"_s, {left + 20, totalRow + 3, 120, 16}, TextRole::total);
+    makeLabel(this, u"Total"_s, {left + 20, totalRow + 1, 120, rowHeight}, TextRole::total)
+        ->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 StatusPanel::SetLabels StatusPanel::addSetLabels(const QString& word, const QString& installedName,
