@@ -3,10 +3,10 @@
 #include "core/literals.h"
 #include "ui/controls/labels.h"
 #include "ui/shell.h"
-#include <QLabel>
 
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QLabel>
 
 namespace morvane {
 

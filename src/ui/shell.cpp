@@ -2,7 +2,6 @@
 
 #include "core/application.h"
 #include "core/failure_report.h"
-#include "core/registry.h"
 #include "ui/dispatch_table.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
@@ -19,6 +18,11 @@ namespace morvane {
 
 const QStringList windowNames{u"frm_Main"_s, u"frm_MVTextures"_s, u"frm_KMTextures"_s,
                               u"frm_NightTextures"_s};
+
+bool isWebAddress(const QString& text) {
+    const QUrl address(text, QUrl::StrictMode);
+    return address.isValid() && (address.scheme() == u"http" || address.scheme() == u"https");
+}
 
 Shell::Shell(Session& session, Skin& skin) : session_(session), skin_(skin) {}
 
@@ -113,20 +117,7 @@ void Shell::openHelp() {
 }
 
 void Shell::openWebPage(const QString& address) {
-    QDesktopServices::openUrl(QUrl(address));
-}
-
-void Shell::openConfiguredPage(const QString& valueName) {
-    const QString text = session_.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, valueName);
-    const QUrl address(text, QUrl::StrictMode);
-    // Only a web page is opened: the text comes from a file that others may write.
-    if (address.isValid() && (address.scheme() == u"http" || address.scheme() == u"https"))
-        QDesktopServices::openUrl(address);
-    else
-        session_.user.showMessage(
-            {MessageKind::information, u"Morvane Information"_s,
-             u"No web address is set for this. It would stand in the registry value \""_s + valueName +
-                 u"\" of Morvane."_s});
+    if (isWebAddress(address)) QDesktopServices::openUrl(QUrl(address));
 }
 
 void Shell::minimiseProgram() {

@@ -55,9 +55,9 @@ public:
 
     /// The help file, or its pages where the compiled one is missing.
     void openHelp();
+    /// Opens the address in the browser; anything but a web address is left alone, as the text may come from
+    /// a file that others write.
     void openWebPage(const QString& address);
-    /// The page whose address stands in that registry value; an absent one is told of.
-    void openConfiguredPage(const QString& valueName);
     void minimiseProgram();
     void exitProgram();
 
@@ -78,6 +78,9 @@ private:
     bool isExiting_ = false;
     bool hasReportedSkin_ = false;
 };
+
+/// True for an http or https address.
+bool isWebAddress(const QString& text);
 
 /// The four windows; every other screen is a page in one of them or a dialog.
 extern const QStringList windowNames;

@@ -6,6 +6,7 @@
 #include "skin_keys.h"
 #include "skin_pages.h"
 #include "skin_palette.h"
+#include "skin_splash.h"
 #include "skin_windows.h"
 #include "ui/program_font.h"
 
@@ -27,15 +28,16 @@ public:
         write(name.toString() + u".bmp"_s, bytesOf(draw(1), "BMP"));
         write(name.toString() + u"@2x.bmp"_s, bytesOf(draw(2), "BMP"));
     }
+    void writePhoto(QStringView name, const QImage& picture) { write(name, bytesOf(picture, "JPG", 92)); }
     void write(QStringView name, const QByteArray& contents) {
         files_.write(media_.child(name.toString()), contents);
     }
 
 private:
-    static QByteArray bytesOf(const QImage& picture, const char* format) {
+    static QByteArray bytesOf(const QImage& picture, const char* format, int quality = -1) {
         QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
-        picture.save(&buffer, format);
+        picture.save(&buffer, format, quality);
         return buffer.data();
     }
 
@@ -78,6 +80,7 @@ void writeSkin(FileSystem& files, const FilePath& media) {
     writeKeys(writer);
     writePages(writer);
     writeIcons(writer);
+    writer.writePhoto(u"splash_screen.jpg", drawStartPicture());
 }
 
 } // namespace morvane

@@ -2,11 +2,11 @@
 
 #include "ui/controls/labels.h"
 #include "ui/shell.h"
-#include <QLabel>
 
 #include "core/session.h"
 
 #include <QCoreApplication>
+#include <QLabel>
 
 namespace morvane {
 

@@ -2,6 +2,8 @@
 
 #include "ui/page_form.h"
 
+class QPushButton;
+
 namespace morvane {
 
 /// Places on the web that a pilot may want. They open in the system's browser.
@@ -10,6 +12,13 @@ class frm_Links : public PageForm {
 public:
     explicit frm_Links(Shell& shell);
     void format() override;
+
+private:
+    struct Link;
+    static const Link links[];
+    QString addressOf(const Link& link) const;
+
+    QList<QPushButton*> buttons_; ///< in the order of the links
 };
 
 } // namespace morvane

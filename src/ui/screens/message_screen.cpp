@@ -9,9 +9,9 @@
 #include "ui/message_sounds.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
-#include <QLabel>
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QPushButton>
 
 namespace morvane {

@@ -4,9 +4,9 @@
 #include "ui/controls/palette.h"
 #include "ui/controls/skinned_progress_bar.h"
 #include "ui/skin.h"
-#include <QLabel>
 
 #include <QGuiApplication>
+#include <QLabel>
 #include <QPainter>
 #include <QScreen>
 

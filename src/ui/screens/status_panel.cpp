@@ -11,6 +11,7 @@
 #include "sky/sky_texture_sets.h"
 #include "ui/controls/labels.h"
 #include "ui/skin.h"
+
 #include <QLabel>
 
 namespace morvane {

@@ -1,6 +1,7 @@
 #include "ui/screens/unbuilt_screens.h"
 
 #include "ui/controls/labels.h"
+
 #include <QLabel>
 
 namespace morvane {
