@@ -103,6 +103,7 @@ int makeContent(FileSystem& files, const ContentRequest& request) {
     writeStock(files, request.home, request.simulator, stock);
     writeSplashes(files, request.home, request.simulator);
     writeSkin(files, request.home / u"Media");
+    writeHelp(files, request.home / u"MV Help");
     writeRegistry(files, request);
     files.write(request.simulator / u"fs9.exe", "A stand-in of the sample simulator.\r\n");
     files.write(versionFile(request), versionMark(request));

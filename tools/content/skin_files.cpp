@@ -1,16 +1,22 @@
 #include "skin_files.h"
 
-#include "core/literals.h"
+#include "core/error.h"
 #include "imaging/window_region.h"
+#include "skin_animation.h"
+#include "skin_emblems.h"
+#include "skin_help.h"
+#include "skin_icon_file.h"
 #include "skin_icons.h"
 #include "skin_keys.h"
 #include "skin_pages.h"
 #include "skin_palette.h"
+#include "skin_previews.h"
 #include "skin_splash.h"
 #include "skin_windows.h"
 #include "ui/program_font.h"
 
 #include <QBuffer>
+#include <QStringBuilder>
 
 namespace morvane {
 
@@ -22,24 +28,29 @@ class SkinWriter {
 public:
     SkinWriter(FileSystem& files, const FilePath& media) : files_(files), media_(media) {}
 
-    /// `draw(scale)` gives the picture; it is written in both sizes.
+    /// `draw(scale)` gives the picture; it is written as a bitmap in both sizes.
     template <class Draw>
-    void writePicture(QStringView name, Draw draw) {
-        write(name.toString() + u".bmp"_s, bytesOf(draw(1), "BMP"));
-        write(name.toString() + u"@2x.bmp"_s, bytesOf(draw(2), "BMP"));
+    void writeBothSizes(QStringView name, Draw draw) {
+        writePicture(QString(name % u".bmp"), draw(1));
+        writePicture(QString(name % u"@2x.bmp"), draw(2));
     }
-    void writePhoto(QStringView name, const QImage& picture) { write(name, bytesOf(picture, "JPG", 92)); }
-    void write(QStringView name, const QByteArray& contents) {
-        files_.write(media_.child(name.toString()), contents);
+
+    /// In the format that the file's ending tells.
+    void writePicture(QStringView fileName, const QImage& picture) {
+        const QByteArray format = fileName.mid(fileName.lastIndexOf(u'.') + 1).toLatin1();
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        if (!picture.save(&buffer, format.constData(), format == "jpg" ? photoQuality : -1))
+            throw Error(ErrorCode::ioFailure, fileName.toString());
+        write(fileName, buffer.data());
+    }
+
+    void write(QStringView fileName, const QByteArray& contents) {
+        files_.write(media_.child(fileName.toString()), contents);
     }
 
 private:
-    static QByteArray bytesOf(const QImage& picture, const char* format, int quality = -1) {
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        picture.save(&buffer, format, quality);
-        return buffer.data();
-    }
+    static constexpr int photoQuality = 92;
 
     FileSystem& files_;
     FilePath media_;
@@ -47,7 +58,7 @@ private:
 
 void writeWindows(SkinWriter& writer) {
     for (const WindowPicture& window : windowPictures()) {
-        writer.writePicture(window.name, [&](int scale) { return drawWindow(window.name, scale); });
+        writer.writeBothSizes(window.name, [&](int scale) { return drawWindow(window.name, scale); });
         if (!window.regionFile.isEmpty())
             writer.write(window.regionFile,
                          writeWindowRegion(scanRegion(drawWindow(window.name, 1), keyColour.rgb())));
@@ -56,19 +67,35 @@ void writeWindows(SkinWriter& writer) {
 
 void writeKeys(SkinWriter& writer) {
     for (const KeyImage& image : keyImages())
-        writer.writePicture(image.name, [&](int scale) { return drawKeyStrip(image, scale); });
+        writer.writeBothSizes(image.name, [&](int scale) { return drawKeyStrip(image, scale); });
 }
 
 void writePages(SkinWriter& writer) {
     for (const PagePicture& page : pagePictures())
-        writer.writePicture(page.name, [&](int scale) { return drawPage(page, scale); });
+        writer.writeBothSizes(page.name, [&](int scale) { return drawPage(page, scale); });
 }
 
 void writeIcons(SkinWriter& writer) {
     for (const IconImage& icon : iconImages())
-        writer.writePicture(icon.name, [&](int scale) { return drawIcon(icon, scale); });
+        writer.writeBothSizes(icon.name, [&](int scale) { return drawIcon(icon, scale); });
     for (const CoverImage& cover : coverImages())
-        writer.writePicture(cover.name, [&](int scale) { return drawCover(cover, scale); });
+        writer.writeBothSizes(cover.name, [&](int scale) { return drawCover(cover, scale); });
+}
+
+void writePhotos(SkinWriter& writer) {
+    writer.writePicture(u"splash_screen.jpg", drawStartPicture());
+    writer.writePicture(u"ASv6.jpg", drawWeatherProgramPicture());
+    writer.writePicture(u"orrinsoft.jpg", drawReportServerPicture());
+    for (const PreviewPicture& preview : previewPictures())
+        writer.writePicture(preview.fileName, drawPreview(preview));
+}
+
+void writeEmblems(SkinWriter& writer) {
+    writer.write(u"HMOVE.cur", cursorFile(drawMoveCursor(), moveHotSpot));
+    writer.write(u"Hand.cur", cursorFile(drawHandCursor(), handHotSpot));
+    writer.write(u"ASv6Process.gif", turningArrowsAnimation());
+    writer.write(u"morvane.ico", iconFile({drawProgramIcon(16), drawProgramIcon(32), drawProgramIcon(48)}));
+    writer.writePicture(u"morvane.png", drawProgramIcon(128));
 }
 
 } // namespace
@@ -80,7 +107,12 @@ void writeSkin(FileSystem& files, const FilePath& media) {
     writeKeys(writer);
     writePages(writer);
     writeIcons(writer);
-    writer.writePhoto(u"splash_screen.jpg", drawStartPicture());
+    writePhotos(writer);
+    writeEmblems(writer);
+}
+
+void writeHelp(FileSystem& files, const FilePath& folder) {
+    files.write(folder / u"index.html", helpPage());
 }
 
 } // namespace morvane
