@@ -27,6 +27,8 @@ constexpr RoleStyle roleStyles[] = {
     {TextRole::messageTitle, 15, QFont::Bold, palette::signalRed},
     {TextRole::optionCaption, 13, QFont::Medium, palette::textBlue},
     {TextRole::body, 12, QFont::Normal, palette::textBlue, atTop, true},
+    {TextRole::sliderName, 12, QFont::Normal, palette::textBlue},
+    {TextRole::sliderValue, 12, QFont::Normal, palette::textBlue, atRight},
     {TextRole::value, 12, QFont::Medium, palette::textBlue},
     {TextRole::number, 12, QFont::Medium, palette::textBlue, atRight},
     {TextRole::total, 12, QFont::Bold, palette::textBlue, atRight},

@@ -15,11 +15,13 @@ enum class TextRole {
     pageTitle,
     messageTitle,
     optionCaption,
-    body,     ///< wraps
-    value,    ///< in the middle of its line
-    number,   ///< a value at the right of its box
-    total,    ///< a sum at the right of its box
-    longHelp, ///< wraps
+    body, ///< wraps
+    sliderName,
+    sliderValue, ///< at the right of its box
+    value,       ///< in the middle of its line
+    number,      ///< a value at the right of its box
+    total,       ///< a sum at the right of its box
+    longHelp,    ///< wraps
     fieldCaption,
     sectionHeading, ///< shown in upper case
     listHead,

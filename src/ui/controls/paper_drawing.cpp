@@ -69,8 +69,7 @@ void drawPaperBox(QPainter& painter, const QRect& place, const PaperBox& box) {
 
 void drawFocusRing(QPainter& painter, const QRect& place, double radius) {
     const Smooth smooth(painter);
-    QPen pen(QColor::fromRgb(palette::accentOnPaper), 2);
-    painter.setPen(pen);
+    painter.setPen(QPen(QColor::fromRgb(palette::accentOnPaper), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(borderOf(place, .5), radius - 1, radius - 1);
 }
@@ -134,6 +133,14 @@ void drawField(QPainter& painter, const QStyleOption& option) {
     drawPaperBox(painter, place, {palette::field, palette::field, palette::fieldLine, radius});
     drawLine(painter, {place.left() + 2, place.top() + 1, place.width() - 4, 1}, palette::fieldShade);
     if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, place, radius);
+}
+
+void drawChoiceBox(QPainter& painter, const QStyleOption& option) {
+    drawField(painter, option);
+    const Smooth smooth(painter);
+    painter.setPen(QPen(QColor::fromRgb(markOf(option)), 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF tip(option.rect.right() - 10, option.rect.center().y() + 2.5);
+    painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}));
 }
 
 void drawListHead(QPainter& painter, const QRect& place, bool hasGap) {

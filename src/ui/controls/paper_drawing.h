@@ -5,8 +5,6 @@
 
 class QPainter;
 class QStyleOption;
-class QStyleOptionButton;
-class QStyleOptionHeader;
 class QStyleOptionViewItem;
 
 namespace morvane {
@@ -29,6 +27,8 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option);
 void drawOptionBox(QPainter& painter, const QStyleOption& option);
 /// The white ground of an edit or a list with its border.
 void drawField(QPainter& painter, const QStyleOption& option);
+/// A field that opens a list of choices: with an angle at its right.
+void drawChoiceBox(QPainter& painter, const QStyleOption& option);
 /// One head of a list, or the ground of the whole head.
 void drawListHead(QPainter& painter, const QRect& place, bool hasGap);
 /// The ground of one cell of a list's row.

@@ -11,12 +11,13 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <QToolTip>
+#include <algorithm>
 
 namespace morvane {
 
 namespace {
 
-constexpr int boxSize = 15, tipDelay = 250, tipTime = 10'000;
+constexpr int boxSize = 15, tipDelay = 250, tipTime = 10'000, shortestHandle = 24;
 constexpr char onDarkName[] = "onDark", captionOffsetName[] = "captionOffset";
 
 bool isOnDark(const QWidget* widget) {
@@ -25,11 +26,14 @@ bool isOnDark(const QWidget* widget) {
 
 int captionSpacing(const QWidget* widget, int usual) {
     const QVariant offset = widget ? widget->property(captionOffsetName) : QVariant();
-    return offset.isValid() ? offset.toInt() - boxSize : usual;
+    // Qt counts from the last pixel of the box.
+    return (offset.isValid() ? offset.toInt() : usual) - boxSize + 1;
 }
 
 /// A list's check box stands in the first 22 pixels of its cell, the text beside it.
 constexpr int cellBoxInset = 5, cellBoxRoom = 22;
+/// A text has the inset at its left only: the next column's own keeps it apart from that.
+constexpr int cellTextInset = 6;
 
 QRect cellBoxPlace(const QRect& cell) {
     return {cell.left() + cellBoxInset, cell.top() + (cell.height() - boxSize) / 2, boxSize, boxSize};
@@ -54,6 +58,33 @@ QPalette paperPalette() {
          {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::HighlightedText})
         colours.setColor(QPalette::Disabled, role, off);
     return colours;
+}
+
+/// A scroll bar has no arrow keys at its ends: the groove takes its whole length.
+QRect scrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
+    const bool isUpright = bar.orientation == Qt::Vertical;
+    const int length = isUpright ? bar.rect.height() : bar.rect.width();
+    const qint64 steps = qint64(bar.maximum) - bar.minimum;
+    const qint64 shown = steps > 0 ? length * qint64(bar.pageStep) / (steps + bar.pageStep) : length;
+    const int handle = static_cast<int>(std::clamp<qint64>(shown, std::min(shortestHandle, length), length));
+    const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
+                                                      length - handle, bar.upsideDown);
+    const auto along = [&](int from, int size) {
+        return isUpright ? QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), size)
+                         : QRect(bar.rect.left() + from, bar.rect.top(), size, bar.rect.height());
+    };
+    switch (part) {
+    case QStyle::SC_ScrollBarGroove:
+        return bar.rect;
+    case QStyle::SC_ScrollBarSlider:
+        return along(start, handle);
+    case QStyle::SC_ScrollBarSubPage:
+        return along(0, start);
+    case QStyle::SC_ScrollBarAddPage:
+        return along(start + handle, length - start - handle);
+    default:
+        return {};
+    }
 }
 
 } // namespace
@@ -94,19 +125,19 @@ int PaperStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_ExclusiveIndicatorHeight:
         return boxSize;
     case PM_CheckBoxLabelSpacing:
-        return captionSpacing(widget, 8);
+        return captionSpacing(widget, 23);
     case PM_RadioButtonLabelSpacing:
-        return captionSpacing(widget, 6);
+        return captionSpacing(widget, 21);
     case PM_DefaultFrameWidth:
+    case PM_ComboBoxFrameWidth:
         return 1;
-    case PM_FocusFrameHMargin: // with the 1 that Qt adds, the texts of a list are 6 from the edge of their
+    case PM_FocusFrameHMargin: // with the 1 that Qt adds, the texts of a list are 6 from the left of their
                                // cell
-    case PM_HeaderMargin:
         return 5;
+    case PM_HeaderMargin:
+        return 6;
     case PM_ScrollBarExtent:
         return 12;
-    case PM_ScrollBarSliderMin:
-        return 24;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
@@ -123,40 +154,19 @@ QRect PaperStyle::subElementRect(SubElement element, const QStyleOption* option,
     case SE_ItemViewItemCheckIndicator:
         return cellBoxPlace(option->rect);
     case SE_ItemViewItemText:
-        return option->rect.adjusted(hasCheckBox(option) ? cellBoxRoom : 0, 0, 0, 0);
+        return option->rect.adjusted(hasCheckBox(option) ? cellBoxRoom : 0, 0, cellTextInset, 0);
     default:
         return QProxyStyle::subElementRect(element, option, widget);
     }
 }
 
-/// A scroll bar has no arrow keys at its ends: the groove takes its whole length.
 QRect PaperStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                                  const QWidget* widget) const {
-    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_ScrollBar || !bar) return QProxyStyle::subControlRect(control, option, part, widget);
-    const bool isUpright = bar->orientation == Qt::Vertical;
-    const int length = isUpright ? bar->rect.height() : bar->rect.width();
-    const qint64 steps = qint64(bar->maximum) - bar->minimum;
-    const qint64 shown = steps > 0 ? length * qint64(bar->pageStep) / (steps + bar->pageStep) : length;
-    const int handle = static_cast<int>(std::clamp<qint64>(shown, std::min(24, length), length));
-    const int start = sliderPositionFromValue(bar->minimum, bar->maximum, bar->sliderPosition,
-                                              length - handle, bar->upsideDown);
-    const auto along = [&](int from, int size) {
-        return isUpright ? QRect(bar->rect.left(), bar->rect.top() + from, bar->rect.width(), size)
-                         : QRect(bar->rect.left() + from, bar->rect.top(), size, bar->rect.height());
-    };
-    switch (part) {
-    case SC_ScrollBarGroove:
-        return bar->rect;
-    case SC_ScrollBarSlider:
-        return along(start, handle);
-    case SC_ScrollBarSubPage:
-        return along(0, start);
-    case SC_ScrollBarAddPage:
-        return along(start + handle, length - start - handle);
-    default:
-        return {};
-    }
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        bar && control == CC_ScrollBar)
+        return scrollBarPart(*bar, part);
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField) return option->rect.adjusted(5, 1, -20, -1);
+    return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -210,11 +220,11 @@ void PaperStyle::drawControl(ControlElement element, const QStyleOption* option,
 
 void PaperStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const {
-    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_ScrollBar || !bar)
-        return QProxyStyle::drawComplexControl(control, option, painter, widget);
-    const QRect handle = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
-    drawScrollBar(*painter, bar->rect, handle, bar->orientation);
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        bar && control == CC_ScrollBar)
+        return drawScrollBar(*painter, bar->rect, scrollBarPart(*bar, SC_ScrollBarSlider), bar->orientation);
+    if (control == CC_ComboBox) return drawChoiceBox(*painter, *option);
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
 void applyPaperStyle(QApplication& application) {

@@ -29,15 +29,13 @@ SignButton::SignButton(ButtonSign sign, const QString& tip, QWidget* parent)
 void SignButton::paintEvent(QPaintEvent* event) {
     QPushButton::paintEvent(event);
     QPainter painter(this);
-    const QPoint centre(width() / 2, height() / 2);
+    const QPointF centre(width() / 2.0, height() / 2.0);
     const QColor colour = QColor::fromRgb(isEnabled() ? palette::textBlue : palette::markLine);
-    if (sign_ == ButtonSign::reset) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        return paintReset(painter, centre);
-    }
-    painter.fillRect(QRect(centre.x() - 5, centre.y() - 1, 10, 2), colour);
-    if (sign_ == ButtonSign::plus) painter.fillRect(QRect(centre.x() - 1, centre.y() - 5, 2, 10), colour);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    if (sign_ == ButtonSign::reset) return paintReset(painter, centre);
+    painter.drawLine(centre - QPointF(4, 0), centre + QPointF(4, 0));
+    if (sign_ == ButtonSign::plus) painter.drawLine(centre - QPointF(0, 4), centre + QPointF(0, 4));
 }
 
 } // namespace morvane

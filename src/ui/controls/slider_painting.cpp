@@ -19,10 +19,10 @@ struct RailEdge {
 };
 
 constexpr RailEdge railEdges[] = {
-    {SliderRail::sunken, palette::railShade, palette::hair},
-    {SliderRail::raised, palette::field, palette::railShade},
-    {SliderRail::sunkenOuter, palette::railShade, palette::rail},
-    {SliderRail::sunkenInner, palette::rule, palette::rail},
+    {SliderRail::sunken, palette::railShade, palette::rail},
+    {SliderRail::raised, palette::hair, palette::railShade},
+    {SliderRail::sunkenOuter, palette::rule, palette::rail},
+    {SliderRail::sunkenInner, palette::rule, palette::hair},
     {SliderRail::noEdge, palette::rail, palette::rail},
 };
 
