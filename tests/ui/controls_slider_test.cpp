@@ -1,3 +1,4 @@
+#include "core/literals.h"
 #include "support/printing.h"
 #include "ui/controls/slider.h"
 #include "ui/controls/slider_tip.h"

@@ -26,8 +26,7 @@ bool isOnDark(const QWidget* widget) {
 
 int captionSpacing(const QWidget* widget, int usual) {
     const QVariant offset = widget ? widget->property(captionOffsetName) : QVariant();
-    // Qt counts from the last pixel of the box.
-    return (offset.isValid() ? offset.toInt() : usual) - boxSize + 1;
+    return (offset.isValid() ? offset.toInt() : usual) - boxSize;
 }
 
 /// A list's check box stands in the first 22 pixels of its cell, the text beside it.
@@ -125,7 +124,7 @@ int PaperStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_ExclusiveIndicatorHeight:
         return boxSize;
     case PM_CheckBoxLabelSpacing:
-        return captionSpacing(widget, 23);
+        return captionSpacing(widget, 23) + 1; // Qt counts a check box from its last pixel
     case PM_RadioButtonLabelSpacing:
         return captionSpacing(widget, 21);
     case PM_DefaultFrameWidth:

@@ -86,8 +86,10 @@ SetTable::SetTable(QWidget* parent) : QTreeWidget(parent) {
     headEnd->setFixedHeight(headHeight);
     addScrollBarWidget(headEnd, Qt::AlignTop);
     connect(header(), &QHeaderView::sectionClicked, this, &SetTable::sortBy);
-    connect(this, &QTreeWidget::itemClicked, this,
-            [this](const QTreeWidgetItem* item) { Q_EMIT rowClicked(item->data(0, keyRole).toString()); });
+    // A click on a row's check box checks it and goes nowhere, so it tells nothing of that row.
+    connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
+        if (item == currentItem()) Q_EMIT rowClicked(item->data(0, keyRole).toString());
+    });
 }
 
 void SetTable::setColumns(const std::vector<SetColumn>& columns, bool hasCheckBoxes) {
