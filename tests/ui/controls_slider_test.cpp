@@ -194,5 +194,35 @@ TEST_F(SliderTest, verticalSliderHasItsMaximumAtTheTop) {
     EXPECT_DOUBLE_EQ(slider.thumbPlace().top(), 0);
 }
 
+TEST_F(SliderTest, everyRailStyleHasALookOfItsOwn) {
+    QSet<QByteArray> looks;
+    for (const SliderRail style : {SliderRail::sunken, SliderRail::raised, SliderRail::sunkenOuter,
+                                   SliderRail::sunkenInner, SliderRail::noEdge, SliderRail::picture}) {
+        slider.setRailStyle(style);
+        const QImage shown = slider.grab().toImage();
+        looks += QByteArray(reinterpret_cast<const char*>(shown.constBits()), shown.sizeInBytes());
+    }
+    EXPECT_EQ(looks.size(), 6);
+}
+
+TEST_F(SliderTest, picturesTakeThePlaceOfTheDrawnRailAndThumb) {
+    QPixmap rail(100, 6), thumb(20, 10);
+    rail.fill(Qt::green);
+    thumb.fill(Qt::red);
+    slider.setBackColor(Qt::white);
+    slider.setRailStyle(SliderRail::picture);
+    slider.setRailImage(rail);
+    slider.setSliderImage(thumb);
+    EXPECT_EQ(slider.thumbPlace(), QRectF(40, 5, 20, 10));
+    const QImage shown = slider.grab().toImage();
+    EXPECT_EQ(shown.pixelColor(10, 6), QColor(Qt::white));
+    EXPECT_EQ(shown.pixelColor(10, 7), QColor(Qt::green)) << "half of the spare height above it";
+    EXPECT_EQ(shown.pixelColor(50, 7), QColor(Qt::red)) << "the thumb lies over the rail";
+    slider.setMouseIcon(thumb);
+    EXPECT_EQ(slider.cursor().shape(), Qt::ArrowCursor);
+    slider.setMousePointer(99);
+    EXPECT_EQ(slider.cursor().shape(), Qt::BitmapCursor);
+}
+
 } // namespace
 } // namespace morvane

@@ -36,7 +36,7 @@ QFont fontOf(TextRole role);
 /// A label of that role in that place (logical pixels of the parent). The text is shown as it reads, never as
 /// mark-up, and lets the mouse through.
 QLabel* makeLabel(QWidget* parent, const QString& text, const QRect& place, TextRole role);
-/// Makes the label's text red or blue, whatever the role says.
+/// Paints the label's text in that colour, whatever its role says.
 void setTextColour(QLabel& label, QRgb colour);
 
 } // namespace morvane

@@ -62,6 +62,15 @@ void setUpHead(QHeaderView& head) {
     head.setSectionsMovable(false);
 }
 
+/// In the order shown.
+template <typename Predicate>
+QStringList namesWhere(const QTreeWidget& table, Predicate isWanted) {
+    QStringList names;
+    for (int index = 0; index < table.topLevelItemCount(); ++index)
+        if (isWanted(*table.topLevelItem(index))) names += table.topLevelItem(index)->text(0);
+    return names;
+}
+
 } // namespace
 
 QRgb paintedColour(QRgb stored) {
@@ -144,20 +153,12 @@ void SetTable::selectName(const QString& name) {
         if (topLevelItem(index)->text(0) == name) return topLevelItem(index)->setSelected(true);
 }
 
-template <typename Predicate>
-QStringList SetTable::namesWhere(Predicate isWanted) const {
-    QStringList names;
-    for (int index = 0; index < rowCount(); ++index)
-        if (isWanted(*topLevelItem(index))) names += topLevelItem(index)->text(0);
-    return names;
-}
-
 QStringList SetTable::selectedNames() const {
-    return namesWhere([](const QTreeWidgetItem& item) { return item.isSelected(); });
+    return namesWhere(*this, [](const QTreeWidgetItem& item) { return item.isSelected(); });
 }
 
 QStringList SetTable::checkedNames() const {
-    return namesWhere([](const QTreeWidgetItem& item) { return item.checkState(0) == Qt::Checked; });
+    return namesWhere(*this, [](const QTreeWidgetItem& item) { return item.checkState(0) == Qt::Checked; });
 }
 
 /// Each click turns the order round, whichever head it is on.

@@ -64,8 +64,6 @@ protected:
 
 private:
     void sortBy(int column);
-    template <typename Predicate>
-    QStringList namesWhere(Predicate isWanted) const;
 
     bool hasCheckBoxes_ = false;
     Qt::SortOrder order_ = Qt::DescendingOrder; ///< of the last sort; the first one is ascending

@@ -50,6 +50,7 @@ QRectF onPixels(const QRectF& place, double ratio) {
 
 ucSlider::ucSlider(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(u"Slider"_s);
     readProperties({});
 }
 

@@ -11,7 +11,7 @@ namespace morvane {
 
 namespace {
 
-constexpr QSize spareSize(4, 3);
+constexpr QSize spareSize(4, 3), labelPadding(16, 1);
 constexpr int gapAbove = 5, gapBeside = 6;
 
 } // namespace
@@ -27,12 +27,11 @@ ucSliderTip::ucSliderTip(QWidget* slider)
     setFocusPolicy(Qt::NoFocus);
     lblTip = makeLabel(this, u"0"_s, {}, TextRole::valueTip);
     lblTip->setObjectName(u"lblTip"_s);
-    lblTip->setContentsMargins(8, 0, 8, 1);
 }
 
 void ucSliderTip::setValue(int value) {
     lblTip->setText(QString::number(value));
-    lblTip->setGeometry(QRect(QPoint(spareSize.width() / 2, spareSize.height() / 2), lblTip->sizeHint()));
+    lblTip->setGeometry({{spareSize.width() / 2, spareSize.height() / 2}, lblTip->sizeHint() + labelPadding});
     resize(lblTip->size() + spareSize);
 }
 
