@@ -27,15 +27,15 @@ bool GroundTuning::openDefaultSample() {
         sampleTexture(session_.AppPath, defaultSample, u"summer"_s, session_.IsDutch));
 }
 
-void GroundTuning::openSample() {
+bool GroundTuning::openSample() {
     ModalState& modal = session_.modal;
     modal.selectedSeason = u"summer"_s;
     modal.sampleConfirmed = false;
     session_.user.showModal(Screen::frm_SelectTexture);
-    if (!modal.sampleConfirmed) return;
+    if (!modal.sampleConfirmed) return false;
     const FilePath sample =
         sampleTexture(session_.AppPath, modal.selectedTextureType, modal.selectedSeason, session_.IsDutch);
-    if (!sample.isEmpty()) tuningColourise_.openTexImage(sample);
+    return !sample.isEmpty() && tuningColourise_.openTexImage(sample);
 }
 
 void GroundTuning::showColourPreview(const SliderValues& sliders) {

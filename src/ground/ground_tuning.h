@@ -26,8 +26,9 @@ public:
     /// Loads the sample that a page shows at first.
     bool openDefaultSample();
     /// Asks for landscape and season (frm_SelectTexture) and loads their sample. The colours are those of the
-    /// last preview. A cancel, and a choice without a sample, load nothing.
-    void openSample();
+    /// last preview. False when none was loaded: after a cancel, a failure that was told, or a choice without
+    /// a sample.
+    bool openSample();
 
     /// Recolours the sample by the sliders and makes their effective values the session's colours, so that
     /// they are the ones that a favourite is saved with.

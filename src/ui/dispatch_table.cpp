@@ -3,6 +3,7 @@
 #include "core/literals.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
+#include "ground/screens/ground_colour_screen.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
 
@@ -34,6 +35,11 @@ void deleteGroundSet(Shell& shell, SkinnedButton&) {
 
 void installGroundSet(Shell& shell, SkinnedButton&) {
     GroundInstallation(shell.session()).installTextureSet(false);
+}
+
+template <void (frm_GroundColorize::*method)()>
+void onGroundColours(Shell& shell, SkinnedButton&) {
+    (shell.screen<frm_GroundColorize>(u"frm_GroundColorize"_s).*method)();
 }
 
 // Windows and pages --------------------------------------------------------------------------------------
@@ -129,6 +135,10 @@ constexpr Entry entries[] = {
     {large, ground, u"create ts", createGroundSets},
     {large, ground, u"activate ts", activateGroundSet},
     {large, ground, u"install ts", installGroundSet},
+
+    {large, groundColours, u"random advanced", onGroundColours<&frm_GroundColorize::randomGroundValues>},
+    {large, groundColours, u"open texture", onGroundColours<&frm_GroundColorize::openTexture>},
+    {large, groundColours, u"add fav", onGroundColours<&frm_GroundColorize::addFavourite>},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

@@ -1,9 +1,15 @@
 #include "ui/form_table.h"
 
+#include "ground/screens/favourite_screen.h"
+#include "ground/screens/ground_colour_screen.h"
+#include "ground/screens/ground_sets_screen.h"
+#include "ground/screens/sample_screen.h"
+#include "ground/screens/set_counts_screen.h"
 #include "ui/screens/about_screen.h"
 #include "ui/screens/links_screen.h"
 #include "ui/screens/main_screen.h"
 #include "ui/screens/message_screen.h"
+#include "ui/screens/name_choice_screen.h"
 #include "ui/screens/splash_screen.h"
 #include "ui/screens/unbuilt_screens.h"
 
@@ -37,6 +43,10 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_Main>(u"frm_Main"_s),
         screenEntry<frm_Splash>(u"frm_Splash"_s),
         screenEntry<frm_Msg>(u"frm_Msg"_s),
+        screenEntry<frm_AddFav>(u"frm_AddFav"_s),
+        screenEntry<frm_MultiDelete>(u"frm_MultiDelete"_s),
+        screenEntry<frm_SelectTexture>(u"frm_SelectTexture"_s),
+        screenEntry<frm_TsRequired>(u"frm_TsRequired"_s),
         screenEntry<frm_About>(u"frm_About"_s),
         screenEntry<frm_Links>(u"frm_Links"_s),
         unbuiltPage(u"frm_WxControl"_s, u"flight config"_s, u"icon_WxFinder.bmp"_s,
@@ -45,11 +55,8 @@ const std::vector<FormEntry>& formEntries() {
                     u"Morvane Configuration Page"_s),
         unbuiltPage(u"frm_Config"_s, u"mv config"_s, u"icon_Config.bmp"_s,
                     u"Main Morvane Base Install Page"_s),
-        unbuiltHost(
-            u"frm_MVTextures"_s, groundLook,
-            {u"texture sets"_s, u"ground"_s, u"btn_2d"_s, u"Click to minimize Ground Textures screen."_s},
-            u"frm_GroundColorize"_s),
-        unbuiltPage(u"frm_GroundColorize"_s, u"ground"_s, u"icon_Ground.bmp"_s, u"Ground Color"_s),
+        screenEntry<frm_MVTextures>(u"frm_MVTextures"_s),
+        screenEntry<frm_GroundColorize>(u"frm_GroundColorize"_s),
         unbuiltHost(
             u"frm_KMTextures"_s, skyLook,
             {u"sky texture sets"_s, u"sky"_s, u"btn_SkyColor"_s, u"Click to minimize Sky Textures Screen."_s},

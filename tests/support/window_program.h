@@ -1,0 +1,72 @@
+#pragma once
+
+#include "core/application.h"
+#include "support/small_install.h"
+#include "ui/dialog_form.h"
+#include "ui/shell.h"
+#include "ui/skin.h"
+#include "ui/window_user.h"
+
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+
+namespace morvane::test {
+
+/// The window program on a small install, as a start leaves it behind the splash. The install has no skin:
+/// its windows and keys are the plain ones. Its own session and scripted user stay beside this one; sets are
+/// added through it.
+class WindowProgram {
+public:
+    explicit WindowProgram(const SmallInstallOptions& options = {})
+        : install(options),
+          session({user, install.files, install.clock, install.random, install.registry}, install.home()),
+          skin(install.files, install.home() / u"Media"), shell(session, skin) {
+        user.setShell(&shell);
+        if (!startUp(session)) throw std::runtime_error("the window program does not start");
+        session.RefreshGroundList = session.RefreshSkyList = session.RefreshNightList = true;
+        shell.formatMainScreen();
+        shell.form(u"frm_Main"_s)->show();
+        confirmNext(u"frm_Msg"_s); // the skin that is not there is told of once
+        shell.reportMissingSkin();
+    }
+
+    /// Runs `action` as soon as the screen of that name shows: arm it before the call that waits for the
+    /// screen's answer. `action` has to close it.
+    void whenShown(const QString& name, const std::function<void(DialogForm&)>& action) {
+        auto* timer = new QTimer(&shell);
+        QObject::connect(timer, &QTimer::timeout, timer, [this, timer, name, action] {
+            auto* form = qobject_cast<DialogForm*>(shell.loadedForm(name));
+            if (!form || !form->isVisible()) return;
+            timer->stop();
+            timer->deleteLater();
+            action(*form);
+        });
+        timer->start(0);
+    }
+    void confirmNext(const QString& name) {
+        whenShown(name, [](DialogForm& form) { form.ok(); });
+    }
+
+    /// The named key or control of a screen; throws when it has none of that kind.
+    template <class Control>
+    Control& control(const QString& form, const QString& name) {
+        auto* found = shell.form(form)->findChild<Control*>(name);
+        if (!found) throw std::runtime_error(("no " + name + " on " + form).toStdString());
+        return *found;
+    }
+    /// A click of the mouse on a skinned key.
+    void press(const QString& form, const QString& name) {
+        QTest::mouseClick(&control<SkinnedButton>(form, name), Qt::LeftButton);
+    }
+
+    SmallInstall install;
+    WindowUser user;
+    Session session;
+    Skin skin;
+    Shell shell;
+};
+
+} // namespace morvane::test
