@@ -27,6 +27,12 @@ frm_Msg::frm_Msg(Shell& shell) : DialogForm(shell, u"frm_Msg"_s, messageLook, {}
     makeControls();
 }
 
+QLabel* frm_Msg::addText(const QString& name, const QRect& place, TextRole role) {
+    QLabel* label = makeLabel(this, {}, place, role);
+    label->setObjectName(name);
+    return label;
+}
+
 void frm_Msg::makeControls() {
     pic_Icon_ = new QLabel(this);
     pic_Icon_->setObjectName(u"pic_Icon"_s);
@@ -34,10 +40,10 @@ void frm_Msg::makeControls() {
     picASv6_ = new QLabel(this);
     picASv6_->setObjectName(u"picASv6"_s);
     picASv6_->setGeometry(26, 108, 40, 40);
-    lbl_Title_ = makeLabel(this, {}, {80, 61, 294, 20}, TextRole::messageTitle);
-    lbl_Message_ = makeLabel(this, {}, {80, 88, 294, 136}, TextRole::body);
-    lblProcessDescription_ = makeLabel(this, {}, {80, 172, 294, 16}, TextRole::body);
-    lblProcessFile_ = makeLabel(this, {}, {80, 192, 294, 16}, TextRole::body);
+    lbl_Title_ = addText(u"lbl_Title"_s, {80, 61, 294, 20}, TextRole::messageTitle);
+    lbl_Message_ = addText(u"lbl_Message"_s, {80, 88, 294, 136}, TextRole::body);
+    lblProcessDescription_ = addText(u"lblProcessDescription"_s, {80, 172, 294, 16}, TextRole::body);
+    lblProcessFile_ = addText(u"lblProcessFile"_s, {80, 192, 294, 16}, TextRole::body);
     btn_Ok_ = addButton({ButtonFamily::StandardButton, u"btn_Ok"_s, u"ok"_s, u"btn_CheckAll"_s,
                          u"Click to answer Yes or to continue."_s, alone});
     btn_Cancel_ = addButton({ButtonFamily::StandardButton, u"btn_Cancel"_s, u"cancel"_s, u"btn_Cancel"_s,

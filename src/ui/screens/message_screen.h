@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/user_interface.h"
+#include "ui/controls/labels.h"
 #include "ui/dialog_form.h"
 
 #include <QElapsedTimer>
@@ -37,6 +38,7 @@ protected:
     void confirm() override {}
 
 private:
+    QLabel* addText(const QString& name, const QRect& place, TextRole role);
     void makeControls();
     void answer(bool ok);
     void askForCancel();

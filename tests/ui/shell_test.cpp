@@ -1,0 +1,143 @@
+#include "support/window_program.h"
+
+#include "ground/ground_sets.h"
+#include "ui/form_table.h"
+#include "ui/host_form.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::WindowProgram;
+
+class ShellTest : public testing::Test {
+protected:
+    WindowProgram program;
+    Shell& shell = program.shell;
+
+    QString labelText(const QString& name) { return program.control<QLabel>(u"frm_Main"_s, name).text(); }
+    /// Keys of the medium buttons that are "disabled", which marks the page one is on.
+    QStringList markedKeys(const QString& window) {
+        QStringList marked;
+        for (const SkinnedButton* key : shell.form(window)->findChildren<SkinnedButton*>())
+            if (key->family() == ButtonFamily::MediumButton && key->state() == ButtonState::disabled)
+                marked << key->button_type();
+        return marked;
+    }
+};
+
+TEST_F(ShellTest, swapsPagesWithOneChildAWindow) {
+    program.press(u"frm_Main"_s, u"btn_About"_s);
+    program.press(u"frm_Main"_s, u"btn_MainLinks"_s);
+    EXPECT_EQ(shell.CurrentChildScreen, u"frm_Links"_s);
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"links"_s});
+    const Form* links = shell.loadedForm(u"FRM_LINKS"_s);
+    EXPECT_EQ(links->parentWidget(), shell.form(u"frm_Main"_s));
+    EXPECT_TRUE(links->isVisible());
+    const Form* about = shell.loadedForm(u"frm_About"_s);
+    EXPECT_EQ(about->parentWidget(), nullptr) << "it got its former parent back";
+    EXPECT_FALSE(about->isVisible());
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_EQ(links->parentWidget(), nullptr);
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
+}
+
+TEST_F(ShellTest, attachesAPageAnewThatStandsThere) {
+    shell.goToPage(u"frm_Config"_s);
+    const Form* page = shell.loadedForm(u"frm_Config"_s);
+    shell.showChildScreen(u"frm_Config"_s);
+    EXPECT_EQ(shell.loadedForm(u"frm_Config"_s), page) << "the same instance";
+    EXPECT_TRUE(page->isVisible());
+    shell.hideChildScreen(u"frm_nobody"_s);
+    EXPECT_TRUE(page->isVisible());
+    shell.hideChildScreen(u"FRM_CONFIG"_s);
+    EXPECT_FALSE(page->isVisible());
+}
+
+TEST_F(ShellTest, ignoresTheKeyOfThePageOneIsOn) {
+    shell.goToPage(u"frm_About"_s);
+    shell.CurrentChildScreen = u"untouched"_s;
+    program.press(u"frm_Main"_s, u"btn_About"_s);
+    EXPECT_EQ(shell.CurrentChildScreen, u"untouched"_s);
+}
+
+TEST_F(ShellTest, putsAListWindowInTheMainWindowsPlaceAndBack) {
+    Form* main = shell.form(u"frm_Main"_s);
+    const std::pair<QString, QString> hosts[] = {{u"btn_MVTextures"_s, u"frm_MVTextures"_s},
+                                                 {u"btn_KMTextures"_s, u"frm_KMTextures"_s},
+                                                 {u"btn_NightTextures"_s, u"frm_NightTextures"_s}};
+    for (const auto& [key, name] : hosts) {
+        program.press(u"frm_Main"_s, key);
+        EXPECT_FALSE(main->isVisible());
+        auto& host = shell.screen<HostForm>(name);
+        EXPECT_TRUE(host.isVisible());
+        program.press(name, u"btn_Ground"_s);
+        EXPECT_EQ(shell.loadedForm(host.colourPage())->parentWidget(), &host);
+        EXPECT_EQ(markedKeys(name).size(), 1);
+        program.press(name, u"btn_TextureSets"_s);
+        EXPECT_FALSE(shell.loadedForm(host.colourPage())->isVisible());
+        program.press(name, u"btn_Main"_s);
+        EXPECT_TRUE(main->isVisible());
+        EXPECT_FALSE(host.isVisible());
+    }
+}
+
+TEST_F(ShellTest, countsSetsByCoverAndNamesTheInstalledOne) {
+    program.install.addGroundSet(u"7-Fair"_s, u"Sky Clear"_s, true);
+    program.install.addGroundSet(u"8-Fair"_s, u"Sky Clear"_s, false);
+    program.install.addGroundSet(u"9-Grey"_s, u"Overcast"_s, true);
+    refreshGroundSets(program.session);
+    program.session.gTextureSets->markInstalled(u"9-Grey"_s);
+    shell.refreshMainStatus();
+    EXPECT_EQ(labelText(u"lblGroundSkcValue"_s), u"2"_s);
+    EXPECT_EQ(labelText(u"lblGroundSkcActivatedValue"_s), u"1"_s);
+    EXPECT_EQ(labelText(u"lblCurrentTSName"_s), u"9-Grey"_s);
+    EXPECT_EQ(labelText(u"lblGroundCloudValue"_s), u"Overcast"_s);
+    EXPECT_EQ(labelText(u"lblBackupValue"_s), u"No backups created yet"_s);
+    const QString activated = labelText(u"lblGroundActivatedValue"_s);
+    EXPECT_EQ(
+        labelText(u"lblGroundTextureSets"_s),
+        u"Currently you have "_s + activated +
+            u" sets active and the more sets you create for each cloud type (weather condition) the more "
+            "variety you will enjoy in game"_s);
+}
+
+TEST_F(ShellTest, tellsOfAWideClientOnTheStatusPage) {
+    const QLabel& notice = program.control<QLabel>(u"frm_Main"_s, u"lblWideFS"_s);
+    EXPECT_FALSE(notice.isVisible());
+    program.session.IsWideClient = true;
+    shell.refreshMainStatus();
+    EXPECT_TRUE(notice.isVisible());
+}
+
+TEST_F(ShellTest, startsWithoutASkinAndSaysSoOnce) {
+    EXPECT_FALSE(program.skin.missing().isEmpty());
+    EXPECT_TRUE(shell.form(u"frm_Main"_s)->mask().isEmpty()) << "a plain window";
+    EXPECT_FALSE(shell.form(u"frm_Main"_s)->windowFlags() & Qt::FramelessWindowHint);
+    shell.reportMissingSkin(); // would wait for an answer that never comes
+}
+
+TEST_F(ShellTest, saysOnItsKeyThatALinkHasNoAddress) {
+    shell.goToPage(u"frm_Links"_s);
+    const auto keys = shell.form(u"frm_Links"_s)->findChildren<QPushButton*>();
+    EXPECT_EQ(keys.first()->text(), u"No address"_s);
+    EXPECT_FALSE(keys.first()->isEnabled());
+    EXPECT_TRUE(keys.last()->isEnabled());
+    for (const QString& address : {u"file:///etc/passwd"_s, u"javascript:1"_s, u""_s, u"C:\\x.exe"_s})
+        EXPECT_FALSE(isWebAddress(address));
+}
+
+TEST_F(ShellTest, refusesToLeaveWhileAJobRuns) {
+    program.session.jobRunning = true;
+    program.press(u"frm_Main"_s, u"btn_Exit"_s);
+    EXPECT_NE(program.session.adoConn, nullptr);
+    program.session.jobRunning = false;
+    shell.form(u"frm_Main"_s)->close();
+    EXPECT_EQ(program.session.adoConn, nullptr) << "the exit flow has run";
+}
+
+} // namespace
+} // namespace morvane

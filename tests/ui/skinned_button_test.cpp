@@ -1,0 +1,148 @@
+#include "support/temporary_folder.h"
+#include "ui/dispatch_table.h"
+#include "ui/skin.h"
+#include "ui/skinned_button.h"
+
+#include "core/literals.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+/// A key without a strip: the states do not need one.
+class SkinnedButtonTest : public testing::Test {
+protected:
+    NativeFileSystem files;
+    test::TemporaryFolder folder;
+    Skin skin{files, FilePath(folder.path())};
+    SkinnedButton key{ButtonFamily::LargeButton, skin, nullptr};
+    QSignalSpy clicks{&key, &SkinnedButton::dispatched};
+
+    void enter() {
+        QEnterEvent event(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+        QCoreApplication::sendEvent(&key, &event);
+    }
+    void leave() {
+        QEvent event(QEvent::Leave);
+        QCoreApplication::sendEvent(&key, &event);
+    }
+};
+
+TEST_F(SkinnedButtonTest, followsTheMouse) {
+    enter();
+    EXPECT_EQ(key.state(), ButtonState::highlight);
+    QTest::mousePress(&key, Qt::LeftButton);
+    EXPECT_EQ(key.state(), ButtonState::down);
+    QTest::mouseRelease(&key, Qt::LeftButton);
+    EXPECT_EQ(key.state(), ButtonState::highlight);
+    EXPECT_EQ(clicks.count(), 1);
+    leave();
+    EXPECT_EQ(key.state(), ButtonState::enabled);
+}
+
+TEST_F(SkinnedButtonTest, takesTheLeftButtonOnlyAndADoubleClickAsAPress) {
+    QTest::mouseClick(&key, Qt::RightButton);
+    EXPECT_EQ(key.state(), ButtonState::enabled);
+    EXPECT_EQ(clicks.count(), 0);
+    QMouseEvent twice(QEvent::MouseButtonDblClick, {5, 5}, {5, 5}, Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&key, &twice);
+    EXPECT_EQ(key.state(), ButtonState::down);
+}
+
+TEST_F(SkinnedButtonTest, isDispatchedWhereverItIsLetGo) {
+    QTest::mousePress(&key, Qt::LeftButton);
+    QTest::mouseRelease(&key, Qt::LeftButton, {}, QPoint(500, 500));
+    EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(SkinnedButtonTest, isDeadWhenDisabled) {
+    key.setState(ButtonState::disabled);
+    enter();
+    QTest::mouseClick(&key, Qt::LeftButton);
+    QTest::keyClick(&key, Qt::Key_Space);
+    leave();
+    EXPECT_EQ(key.state(), ButtonState::disabled);
+    EXPECT_EQ(clicks.count(), 0);
+    EXPECT_EQ(key.focusPolicy(), Qt::NoFocus);
+}
+
+/// It looks disabled, takes no light, and is alive: that is how one key activates and deactivates.
+TEST_F(SkinnedButtonTest, dispatchesFromDeactivateThoughItLooksDisabled) {
+    key.setState(ButtonState::deactivate);
+    EXPECT_EQ(key.frameOffset(), -129);
+    enter();
+    QTest::mousePress(&key, Qt::LeftButton);
+    EXPECT_EQ(key.state(), ButtonState::deactivate);
+    QTest::mouseRelease(&key, Qt::LeftButton);
+    EXPECT_EQ(key.state(), ButtonState::deactivate);
+    EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(SkinnedButtonTest, keepsTheStateThatItsClickGaveIt) {
+    QObject::connect(&key, &SkinnedButton::dispatched,
+                     [](SkinnedButton* clicked) { clicked->setState(ButtonState::disabled); });
+    QTest::mouseClick(&key, Qt::LeftButton);
+    EXPECT_EQ(key.state(), ButtonState::disabled);
+}
+
+TEST_F(SkinnedButtonTest, isNotLeftLitWhenItsClickTookTheMouseAway) {
+    QObject::connect(&key, &SkinnedButton::dispatched, [this] { leave(); });
+    QTest::mouseClick(&key, Qt::LeftButton);
+    EXPECT_EQ(key.state(), ButtonState::enabled);
+}
+
+TEST_F(SkinnedButtonTest, survivesAClickThatTakesItAway) {
+    auto* gone = new SkinnedButton(ButtonFamily::smallButton, skin, nullptr);
+    QObject::connect(gone, &SkinnedButton::dispatched, [](SkinnedButton* clicked) { delete clicked; });
+    QTest::keyClick(gone, Qt::Key_Return);
+    SUCCEED();
+}
+
+TEST_F(SkinnedButtonTest, isPressedByTheKeysAndByCode) {
+    for (const Qt::Key press : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+        QTest::keyClick(&key, press);
+    EXPECT_EQ(clicks.count(), 3);
+    key.click_event();
+    EXPECT_EQ(key.state(), ButtonState::down) << "it is pressed and not let go";
+    EXPECT_EQ(clicks.count(), 3);
+}
+
+TEST_F(SkinnedButtonTest, movesItsStripByTheHeightOfItsFamily) {
+    const std::pair<ButtonFamily, int> heights[] = {{ButtonFamily::LargeButton, 43},
+                                                    {ButtonFamily::smallButton, 28},
+                                                    {ButtonFamily::StandardButton, 44},
+                                                    {ButtonFamily::MediumButton, 44}};
+    for (const auto& [family, height] : heights) {
+        SkinnedButton button(family, skin, nullptr);
+        int frame = 0;
+        for (const ButtonState state :
+             {ButtonState::enabled, ButtonState::highlight, ButtonState::down, ButtonState::disabled}) {
+            button.setState(state);
+            EXPECT_EQ(button.frameOffset(), -height * frame++);
+        }
+    }
+}
+
+TEST_F(SkinnedButtonTest, isNamedForThoseWhoCannotSeeIt) {
+    key.setToolTip(u"Click to create texture sets."_s);
+    EXPECT_EQ(key.accessibleName(), u"Click to create texture sets."_s);
+    key.setButtonText(u" Create\nGround Sets "_s);
+    EXPECT_EQ(key.accessibleName(), u"Create Ground Sets"_s);
+}
+
+TEST(DispatchTable, comparesFormsExactlyAndKeysInAnyCase) {
+    constexpr auto large = ButtonFamily::LargeButton;
+    const ButtonAction remove = actionOf(large, u"frm_MVTextures"_s, u"delete ts"_s);
+    EXPECT_NE(remove, nullptr);
+    EXPECT_EQ(actionOf(large, u"frm_MVTextures"_s, u"DELETE Ts"_s), remove);
+    EXPECT_EQ(actionOf(large, u"frm_mvtextures"_s, u"delete ts"_s), nullptr);
+    EXPECT_EQ(actionOf(ButtonFamily::MediumButton, u"frm_MVTextures"_s, u"delete ts"_s), nullptr);
+    EXPECT_EQ(actionOf(large, u"frm_MVTextures"_s, u"delete"_s), nullptr);
+    EXPECT_NE(actionOf(ButtonFamily::smallButton, {}, u"exit"_s), nullptr) << "small keys work on any parent";
+}
+
+} // namespace
+} // namespace morvane
