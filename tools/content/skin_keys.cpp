@@ -58,13 +58,13 @@ struct Measures {
 Measures measuresOf(KeyFamily family) {
     switch (family) {
     case KeyFamily::large:
-        return {{128, 43}, {9, 8, 24, 24}, 1.6};
+        return {{128, 43}, {10, 9, 24, 24}, 1.6};
     case KeyFamily::medium:
-        return {{126, 44}, {13, 11, 20, 20}, 1.8};
+        return {{126, 44}, {14, 12, 20, 20}, 1.8};
     case KeyFamily::standard:
-        return {{48, 44}, {11, 9, 24, 24}, 2.0};
+        return {{48, 44}, {12, 10, 24, 24}, 2.0};
     case KeyFamily::small:
-        return {{40, 28}, {11, 5, 16, 16}, 2.4};
+        return {{40, 28}, {12, 6, 16, 16}, 2.4};
     }
     return {};
 }
@@ -122,12 +122,16 @@ void drawInside(QPainter& painter, const QRectF& inside, std::size_t state, KeyF
     }
 }
 
-void drawLamp(QPainter& painter, const QColor& colour, bool glows) {
-    const QRectF lamp(5, 11, 3, 20);
-    constexpr qreal glowReach = 6;
-    for (qreal spread = glowReach; glows && spread > 0; --spread)
+/// The lamp at the left of a medium key. Its glow, of layers that grow and fade, stays inside the key.
+void drawLamp(QPainter& painter, const QRectF& inside, const QColor& colour, bool glows) {
+    const QRectF lamp(6, 12, 3, 20);
+    constexpr int glowReach = 7;
+    painter.save();
+    painter.setClipPath(roundedPath(inside, cornerRadius - 1));
+    for (int spread = glowReach; glows && spread > 0; --spread)
         painter.fillPath(roundedPath(lamp.adjusted(-spread, -spread, spread, spread), 1.5 + spread),
-                         faded(colour, 0.08));
+                         faded(colour, 0.0135 * (glowReach + 1 - spread)));
+    painter.restore();
     painter.fillPath(roundedPath(lamp, 1.5), colour);
 }
 
@@ -140,7 +144,7 @@ void drawFrame(QPainter& painter, const KeyImage& image, std::size_t state) {
     const QRectF inside = place.adjusted(1, 1, -1, -1);
     painter.fillPath(roundedPath(inside, cornerRadius - 1), downward(place, look.fillTop, look.fillFoot));
     drawInside(painter, inside, state, image.family);
-    if (image.family == KeyFamily::medium) drawLamp(painter, look.lamp, state == disabledState);
+    if (image.family == KeyFamily::medium) drawLamp(painter, inside, look.lamp, state == disabledState);
     const qreal drop = state == pressedState ? 1 : 0;
     drawPictogram(painter, image.pictogram, measures.pictogramPlace.translated(0, drop), measures.lineWidth,
                   look.pictogram);

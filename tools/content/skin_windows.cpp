@@ -74,10 +74,10 @@ void drawHorizonGlow(QPainter& painter) {
 void drawPageWindow(QPainter& painter, const PageWindow& window) {
     drawHorizonGlow(painter);
     drawHorizon(painter, {{440, 62}, 330, 30, 1});
-    drawSpacedText(painter, {240, 22, 400, 28}, programFont(21, QFont::Bold), 8, wordMark,
+    drawSpacedText(painter, {240, 21, 400, 28}, programFont(21, QFont::Bold), 8, wordMark,
                    QStringLiteral("MORVANE"));
     drawPictogram(painter, window.pictogram, {18, 44, 20, 20}, 1.8, textQuiet);
-    drawText(painter, {44, 45, 180, 17}, programFont(13, QFont::Medium), textBright, window.label.toString());
+    drawText(painter, {44, 44, 180, 17}, programFont(13, QFont::Medium), textBright, window.label.toString());
     drawPageFrame(painter, {142, 94, 596, 450});
     drawBlankSlots(painter, 8, window.leftKeys);
     drawBlankSlots(painter, 746, window.rightKeys);
