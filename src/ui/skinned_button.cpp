@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <array>
+#include <utility>
 
 namespace morvane {
 
@@ -159,13 +160,16 @@ void SkinnedButton::mouseReleaseEvent(QMouseEvent* event) {
 
 void SkinnedButton::keyPressEvent(QKeyEvent* event) {
     if (!isPressKey(*event)) return QWidget::keyPressEvent(event);
-    if (!event->isAutoRepeat()) press();
+    if (event->isAutoRepeat()) return;
+    isKeyDown_ = true;
+    press();
 }
 
+/// The release may belong to a press that closed a dialog above: alone it does nothing.
 void SkinnedButton::keyReleaseEvent(QKeyEvent* event) {
     if (!isPressKey(*event)) return QWidget::keyReleaseEvent(event);
     const bool isAlive = state_ == ButtonState::down || state_ == ButtonState::deactivate;
-    if (!event->isAutoRepeat() && isAlive) release();
+    if (!event->isAutoRepeat() && std::exchange(isKeyDown_, false) && isAlive) release();
 }
 
 void SkinnedButton::paintEvent(QPaintEvent*) {

@@ -82,6 +82,7 @@ private:
     QPixmap strip_;
     ButtonState state_ = ButtonState::enabled;
     bool mouseHasLeft_ = false;
+    bool isKeyDown_ = false;
     QString toolTip_, picture_, helpText_, formName_, buttonType_, buttonText_;
 };
 
