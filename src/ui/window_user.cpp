@@ -73,8 +73,15 @@ void WindowUser::showModal(Screen screen) {
     if (auto* dialog = qobject_cast<DialogForm*>(shell_->form(screenName(screen)))) dialog->run();
 }
 
+/// A list window shows its list: a colour page that stands before it goes.
 void WindowUser::showScreen(Screen screen) {
-    if (Form* form = shell_->form(screenName(screen))) form->show();
+    Form* form = shell_->form(screenName(screen));
+    if (!form) return;
+    if (const auto* host = qobject_cast<HostForm*>(form)) {
+        shell_->hideChildScreen(host->colourPage());
+        shell_->CurrentChildScreen.clear();
+    }
+    form->show();
 }
 
 void WindowUser::hideScreen(Screen screen) {
