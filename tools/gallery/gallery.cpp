@@ -93,6 +93,17 @@ void Gallery::saveGround() {
     shell_.leaveHost(u"frm_MVTextures"_s);
 }
 
+void Gallery::saveDialogs() {
+    const std::pair<Screen, const char16_t*> dialogs[] = {{Screen::frm_TsRequired, u"set-counts"},
+                                                          {Screen::frm_SelectTexture, u"select-texture"},
+                                                          {Screen::frm_AddFav, u"add-favourite"},
+                                                          {Screen::frm_MultiDelete, u"name-choice"}};
+    shell_.session().modal.multiNames = QStringList{u"12-Desert Haze"_s, u"21-Late Autumn"_s};
+    for (const auto& [screen, picture] : dialogs)
+        saveModal(QString::fromUtf16(picture), screenName(screen),
+                  [&, which = screen] { shell_.session().user.showModal(which); });
+}
+
 void Gallery::saveOtherHosts() {
     for (const auto& [form, picture] : {std::pair(u"frm_KMTextures"_s, u"sky-sets"_s),
                                         std::pair(u"frm_NightTextures"_s, u"night-sets"_s)}) {
@@ -138,6 +149,7 @@ void Gallery::saveAll() {
     saveMainWindow();
     savePages();
     saveGround();
+    saveDialogs();
     saveOtherHosts();
     saveMessages();
     saveProgress();

@@ -27,6 +27,7 @@ private:
     void saveMainWindow();
     void savePages();
     void saveGround();
+    void saveDialogs();
     void saveOtherHosts();
     void saveMessages();
     void saveProgress();
