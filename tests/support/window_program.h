@@ -7,6 +7,7 @@
 #include "ui/skin.h"
 #include "ui/window_user.h"
 
+#include <QApplication>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -42,6 +43,7 @@ public:
             if (!form || !form->isVisible()) return;
             timer->stop();
             timer->deleteLater();
+            QApplication::setActiveWindow(form); // nobody else does, on a platform without a display
             action(*form);
         });
         timer->start(0);
