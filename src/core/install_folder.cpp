@@ -18,8 +18,12 @@ QString defaultInstallFolder() {
     return beside;
 #else
     if (QFileInfo::exists(beside + u"/Morvane.mdb"_s)) return beside;
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Morvane"_s;
+    return userInstallFolder();
 #endif
+}
+
+QString userInstallFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Morvane"_s;
 }
 
 QString installFolderProblem(FileSystem& files, const FilePath& folder) {

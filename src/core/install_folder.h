@@ -11,6 +11,9 @@ class FileSystem;
 /// (`~/.local/share/Morvane`), as an executable in a system folder has no data beside it.
 QString defaultInstallFolder();
 
+/// The last of these.
+QString userInstallFolder();
+
 /// Why the program cannot work in that folder, with what to do about it; empty when it can.
 QString installFolderProblem(FileSystem& files, const FilePath& folder);
 

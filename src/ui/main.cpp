@@ -4,6 +4,7 @@
 #include "core/registry.h"
 #include "core/session.h"
 #include "ui/controls/paper_style.h"
+#include "ui/first_start.h"
 #include "ui/program.h"
 #include "ui/program_font.h"
 #include "ui/shell.h"
@@ -30,6 +31,8 @@ int main(int argc, char** argv) {
         home = words[1];
         words.remove(0, 2);
     }
+    const bool isFirstStart = home == userInstallFolder() && !QFileInfo::exists(home);
+    if (isFirstStart && !makeInstallFolder(home)) return 1;
     NativeFileSystem files;
     SystemClock clock;
     ReseedingRandomSource random;

@@ -5,7 +5,8 @@
 
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QImageReader>
+#include <QtEndian>
+#include <algorithm>
 
 namespace morvane {
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr QRgb keyColour = qRgb(255, 0, 255);
 constexpr int denseFactor = 2;
+constexpr int hotSpotOffset = 10; ///< in a ".cur" file
 
 QString denseName(const QString& fileName) {
     const QFileInfo name(fileName);
@@ -72,7 +74,11 @@ QRegion Skin::outline(const QString& fileName) {
 
 QCursor Skin::cursor(const QString& fileName, Qt::CursorShape otherwise) {
     const QPixmap pointer = picture(fileName);
-    return pointer.isNull() ? QCursor(otherwise) : QCursor(pointer);
+    const QByteArray file = bytesOf(fileName);
+    if (pointer.isNull() || file.size() < hotSpotOffset + 4) return QCursor(otherwise);
+    // The reader of pictures leaves the point out that clicks; it stands in the file's first entry.
+    const auto coordinate = [&](int offset) { return qFromLittleEndian<quint16>(file.constData() + offset); };
+    return QCursor(pointer, coordinate(hotSpotOffset), coordinate(hotSpotOffset + 2));
 }
 
 } // namespace morvane

@@ -33,7 +33,7 @@ private:
 
     FileSystem& files_;
     FilePath media_;
-    QHash<QString, QPixmap> pictures_;
+    QHash<QString, QPixmap> pictures_; ///< null ones included
     QStringList missing_;
 };
 

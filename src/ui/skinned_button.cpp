@@ -27,7 +27,7 @@ constexpr std::array<FamilyTraits, 4> families{{
     {{128, 43}, {42, 8, 82, 28}},
     {{40, 28}, {}},
     {{48, 44}, {}},
-    {{126, 44}, {39, 15, 84, 14}},
+    {{126, 44}, {40, 15, 84, 14}},
 }};
 
 constexpr int captionPixels = 12;

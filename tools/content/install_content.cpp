@@ -12,7 +12,10 @@ namespace morvane {
 namespace {
 
 /// Raise it whenever what the tool makes changes: samples of another version are made anew.
-constexpr int contentVersion = 3;
+constexpr int contentVersion = 4;
+
+/// What the steps take of the whole, in hundredths; the splashes and the skin take the rest.
+constexpr int storeShare = 5, stockShare = 80;
 
 constexpr const char16_t* installFolders[] = {
     u"Media",
@@ -77,10 +80,20 @@ void refuseUnlessEmpty(FileSystem& files, const FilePath& folder) {
 
 void writeRegistry(FileSystem& files, const ContentRequest& request) {
     const auto registry = openRegistry(files, request.home);
-    registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
-    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, request.simulator.native());
+    if (!request.simulator.isEmpty()) {
+        registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
+        registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s,
+                               request.simulator.native());
+    }
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
+}
+
+void makeSimulatorFolders(FileSystem& files, const FilePath& simulator) {
+    refuseUnlessEmpty(files, simulator);
+    for (const char16_t* folder : simulatorFolders)
+        files.makeFolder(simulator / folder);
+    files.write(simulator / u"fs9.exe", "A stand-in of the sample simulator.\r\n");
 }
 
 } // namespace
@@ -88,25 +101,27 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
 bool isContentCurrent(FileSystem& files, const ContentRequest& request) {
     const FilePath mark = versionFile(request);
     return files.exists(mark) && files.read(mark) == versionMark(request) &&
-           files.exists(storeFile(request)) && files.exists(request.simulator / u"fs9.exe");
+           files.exists(storeFile(request)) &&
+           (request.simulator.isEmpty() || files.exists(request.simulator / u"fs9.exe"));
 }
 
 int makeContent(FileSystem& files, const ContentRequest& request) {
     const std::vector<BaseImage> stock = baseImageList(request.density);
     refuseUnlessEmpty(files, request.home);
-    refuseUnlessEmpty(files, request.simulator);
     for (const char16_t* folder : installFolders)
         files.makeFolder(request.home / folder);
-    for (const char16_t* folder : simulatorFolders)
-        files.makeFolder(request.simulator / folder);
+    if (!request.simulator.isEmpty()) makeSimulatorFolders(files, request.simulator);
     writeDeliveredStore(files, request.data, storeFile(request));
-    writeStock(files, request.home, request.simulator, stock);
+    request.onProgress(storeShare);
+    writeStock(files, request.home, request.simulator, stock, [&](std::size_t done) {
+        request.onProgress(storeShare + static_cast<int>(stockShare * done / stock.size()));
+    });
     writeSplashes(files, request.home, request.simulator);
     writeSkin(files, request.home / u"Media");
     writeHelp(files, request.home / u"MV Help");
     writeRegistry(files, request);
-    files.write(request.simulator / u"fs9.exe", "A stand-in of the sample simulator.\r\n");
     files.write(versionFile(request), versionMark(request));
+    request.onProgress(100);
     return static_cast<int>(stock.size());
 }
 

@@ -2,15 +2,19 @@
 
 #include "core/file_system.h"
 
+#include <functional>
+
 namespace morvane {
 
 /// What a complete install and a sample simulator are made of. The source data come from `data`, the
 /// repository's data folder.
 struct ContentRequest {
     FilePath home;
-    FilePath simulator;
+    FilePath simulator; ///< empty for none: the program then asks the pilot for the real one
     FilePath data;
     int density = 1;
+    /// Told the share of the work that is done, 0 to 100, some hundred times.
+    std::function<void(int)> onProgress = [](int) {};
 };
 
 /// True when `home` holds an install that this version of the tool made with that density.

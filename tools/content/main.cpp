@@ -4,6 +4,7 @@
 #include "core/error.h"
 #include "core/literals.h"
 #include "install_content.h"
+#include "skin_emblems.h"
 
 #include <QCommandLineParser>
 #include <QElapsedTimer>
@@ -17,14 +18,21 @@ using namespace morvane;
 namespace {
 
 FilePath folder(const QCommandLineParser& parser, const QString& option) {
+    if (!parser.isSet(option) && option != u"data") return {};
     return FilePath(QFileInfo(parser.value(option)).absoluteFilePath());
 }
 
 bool isUsageRight(const QCommandLineParser& parser) {
     const int density = parser.value(u"density"_s).toInt();
-    return parser.isSet(u"home"_s) && parser.isSet(u"simulator"_s) &&
-           parser.positionalArguments().isEmpty() && density >= lowestStockDensity &&
-           density <= highestStockDensity;
+    if (parser.isSet(u"icon"_s)) return true;
+    return parser.isSet(u"home"_s) && parser.positionalArguments().isEmpty() &&
+           density >= lowestStockDensity && density <= highestStockDensity;
+}
+
+/// The data that were installed with the program, else those of the source tree it was built from.
+QString defaultDataFolder() {
+    const QString installed = QCoreApplication::applicationDirPath() + u"/../share/morvane/data"_s;
+    return QFileInfo::exists(installed) ? installed : QStringLiteral(MORVANE_DATA_DIR);
 }
 
 /// The tool draws words, but never a window: it needs neither a display nor a user's session. Qt asks for
@@ -34,10 +42,16 @@ void setDefault(const char* variable, const QString& value) {
 }
 
 int run(const QCommandLineParser& parser) {
+    if (parser.isSet(u"icon"_s)) return skin::drawProgramIcon(128).save(parser.value(u"icon"_s)) ? 0 : 1;
     NativeFileSystem files;
-    const ContentRequest request{folder(parser, u"home"_s), folder(parser, u"simulator"_s),
-                                 folder(parser, u"data"_s), parser.value(u"density"_s).toInt()};
+    ContentRequest request{folder(parser, u"home"_s), folder(parser, u"simulator"_s),
+                           folder(parser, u"data"_s), parser.value(u"density"_s).toInt()};
     if (parser.isSet(u"check"_s)) return isContentCurrent(files, request) ? 0 : 1;
+    if (parser.isSet(u"progress"_s))
+        request.onProgress = [](int percent) {
+            std::printf("%d\n", percent);
+            std::fflush(stdout);
+        };
     QElapsedTimer timer;
     timer.start();
     const int count = makeContent(files, request);
@@ -57,11 +71,14 @@ int main(int argc, char** argv) {
     parser.setApplicationDescription(u"Makes a complete install folder and a sample simulator."_s);
     parser.addHelpOption();
     parser.addOption({u"home"_s, u"The install folder to make."_s, u"DIR"_s});
-    parser.addOption({u"simulator"_s, u"The sample simulator's folder to make."_s, u"DIR"_s});
-    parser.addOption({u"data"_s, u"The source data."_s, u"DIR"_s, QStringLiteral(MORVANE_DATA_DIR)});
+    parser.addOption(
+        {u"simulator"_s, u"The sample simulator's folder to make; none without it."_s, u"DIR"_s});
+    parser.addOption({u"data"_s, u"The source data."_s, u"DIR"_s, defaultDataFolder()});
+    parser.addOption({u"progress"_s, u"Write the share of the work done, a number a line."_s});
     parser.addOption({u"density"_s, u"1 to 6: 1 makes about a thousand base images, 4 about four thousand."_s,
                       u"N"_s, u"1"_s});
     parser.addOption({u"check"_s, u"Make nothing; the exit status is 0 when the install is current."_s});
+    parser.addOption({u"icon"_s, u"Draw the program's icon into that file, and nothing else."_s, u"PNG"_s});
     parser.process(application);
     if (!isUsageRight(parser)) parser.showHelp(2);
     try {

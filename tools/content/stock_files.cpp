@@ -67,14 +67,16 @@ FilePath simulatorFolder(const FilePath& simulator, const QString& resourceFolde
 } // namespace
 
 void writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator,
-                const std::vector<BaseImage>& stock) {
+                const std::vector<BaseImage>& stock, const std::function<void(std::size_t)>& onDone) {
     OrderedWork<DrawnImage> work(static_cast<int>(stock.size()),
                                  [&](int i) { return draw(stock[static_cast<std::size_t>(i)]); });
+    std::size_t done = 0;
     for (const BaseImage& image : stock) {
         const DrawnImage drawn = work.next();
+        onDone(++done);
         saveBitmap(drawn.picture, (home / u"Resources").child(image.resourceFolder).child(image.fileName));
         files.write(home.child(image.resourceFolder).child(image.fileName), drawn.body);
-        if (image.resourceFolder == u"DUTCH") continue;
+        if (simulator.isEmpty() || image.resourceFolder == u"DUTCH") continue;
         files.write(simulatorFolder(simulator, image.resourceFolder).child(image.fileName.toUpper()),
                     drawn.simulatorTexture);
     }
@@ -87,7 +89,7 @@ void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simu
     }
     const FilePath own = home / u"Media\\dlgsplash.bmp";
     saveBitmap(toPicture(drawSplash({})), own);
-    files.copyContents(own, simulator / u"Uires\\dlgsplash.bmp");
+    if (!simulator.isEmpty()) files.copyContents(own, simulator / u"Uires\\dlgsplash.bmp");
 }
 
 } // namespace morvane
