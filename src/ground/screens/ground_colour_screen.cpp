@@ -18,7 +18,7 @@ namespace morvane {
 
 namespace {
 
-constexpr int keyRow = 398, coverColumn = 510, leftSliders = 14, rightSliders = 304;
+constexpr int keyRow = 398, coverColumn = 510, leftSliders = 14, rightSliders = 306;
 
 QString captionOf(const std::vector<SampleChoice>& choices, const QString& key) {
     const auto found = std::ranges::find(choices, key, &SampleChoice::key);

@@ -76,7 +76,7 @@ void frm_MVTextures::makeControls() {
     picTextureSetResult_ = addPicture(u"picTextureSetResult"_s, u"This set"_s, rightColumn + 115);
     makeLabel(paper(), u"Description"_s, {rightColumn, 250, 224, 14}, TextRole::sectionHeading);
     addRule(paper(), {rightColumn, 268}, 224);
-    lblFavDescription_ = makeLabel(paper(), {}, {rightColumn, 273, 224, 105}, TextRole::body);
+    lblFavDescription_ = makeLabel(paper(), {}, {rightColumn, 273, 224, 112}, TextRole::body);
     lblFavDescription_->setObjectName(u"lblFavDescription"_s);
 }
 

@@ -32,6 +32,7 @@ SliderRow::SliderRow(const SliderRowSetup& setup, QWidget* parent)
     slider_->setGeometry(87, 0, 100, 20);
     addButton(ButtonSign::plus, setup, u"Increment by 5%"_s, 192, incremented);
     label_ = makeLabel(this, sliderLabel(0), {212, 0, 42, 20}, TextRole::number);
+    label_->setFont(fontOf(TextRole::body));
     label_->setObjectName(setup.label);
     addButton(ButtonSign::reset, setup, u"Reset to zero"_s, 258, resetValue);
     connect(slider_, &ucSlider::Change, this, [this] {
