@@ -98,6 +98,13 @@ const ChildPage* childPage(const QString& name) {
     return findNamed(childPages(), name, [](const ChildPage& page) { return page.form; });
 }
 
+QStringList formNames() {
+    QStringList names;
+    for (const FormEntry& entry : formEntries())
+        names << entry.name;
+    return names;
+}
+
 Form* makeForm(Shell& shell, const QString& name) {
     const FormEntry* entry = findNamed(formEntries(), name, [](const FormEntry& form) { return form.name; });
     return entry ? entry->make(shell) : nullptr;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace morvane {
@@ -17,6 +17,9 @@ struct ChildPage {
 const std::vector<ChildPage>& childPages();
 /// By name in any case of letters; null for an unknown one.
 const ChildPage* childPage(const QString& name);
+
+/// The names of all screens.
+QStringList formNames();
 
 /// A new screen of that name, in any case of letters; null for a name that no screen has.
 Form* makeForm(Shell& shell, const QString& name);

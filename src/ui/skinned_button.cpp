@@ -30,7 +30,7 @@ constexpr std::array<FamilyTraits, 4> families{{
     {{126, 44}, {40, 15, 84, 14}},
 }};
 
-constexpr int captionPixels = 12;
+constexpr int captionPixels = 12, captionPitch = 14;
 constexpr int tipMilliseconds = 10'000;
 constexpr int frameCount = 4;
 
@@ -209,7 +209,14 @@ void SkinnedButton::paintCaption(QPainter& painter) const {
     painter.setPen(isOff ? QColor::fromRgb(palette::textOff)
                          : (isLit ? QColor(Qt::white) : QColor::fromRgb(palette::textBright)));
     painter.setFont(captionFont());
-    painter.drawText(captionPlace(), Qt::AlignLeft | Qt::AlignVCenter, buttonText_);
+    const QStringList lines = buttonText_.split(u'\n');
+    const QRect place = captionPlace();
+    QRect line(place.left(), place.center().y() + 1 - captionPitch * static_cast<int>(lines.size()) / 2,
+               place.width(), captionPitch);
+    for (const QString& text : lines) {
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text);
+        line.translate(0, captionPitch);
+    }
 }
 
 } // namespace morvane

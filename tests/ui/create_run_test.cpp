@@ -1,0 +1,110 @@
+// Whole runs started by a click, on the real engine.
+
+#include "support/window_program.h"
+
+#include "core/store.h"
+#include "ground/ground_sets.h"
+
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::WindowProgram;
+
+class CreateRun : public testing::Test {
+protected:
+    WindowProgram program;
+
+    /// Opens the list and wants one overcast set.
+    void startFromList() {
+        program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+        program.whenShown(u"frm_TsRequired"_s, [&](DialogForm& dialog) {
+            program.control<QLineEdit>(u"frm_TsRequired"_s, u"txtOvercastClouds"_s).setText(u"1"_s);
+            dialog.ok();
+        });
+    }
+    QStringList setNames() {
+        QStringList names;
+        refreshGroundSets(program.session);
+        for (const auto& set : *program.session.gTextureSets)
+            names << set->TextureSet;
+        return names;
+    }
+    QStringList filesBelow(const char16_t* folder) {
+        return test::contentsBelow(program.install.home() / folder).keys();
+    }
+    /// Runs `step` at each turn of the event loop until it says that it is done. A timer does not fire inside
+    /// its own step, so steps that wait for each other have one each.
+    void untilDone(const std::function<bool()>& step) {
+        auto* timer = new QTimer(&program.shell);
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, step] {
+            if (step()) timer->deleteLater();
+        });
+        timer->start(0);
+    }
+    /// Says OK to the first message that can take it: the report behind the progress.
+    void confirmReport() {
+        untilDone([this] {
+            Form* message = program.shell.loadedForm(u"frm_Msg"_s);
+            const bool isReport = message->button(u"btn_Ok"_s)->isVisible();
+            if (isReport) QTest::keyClick(message, Qt::Key_Return);
+            return isReport;
+        });
+    }
+    /// Presses cancel as soon as progress shows, and says yes to the box.
+    void cancelAtOnce() {
+        untilDone([] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box) box->button(QMessageBox::Ok)->click();
+            return box != nullptr;
+        });
+        untilDone([this, isPressed = false]() mutable {
+            if (isPressed || !program.user.isMessageVisible()) return isPressed;
+            isPressed = true;
+            QTest::mouseClick(&program.control<QPushButton>(u"frm_Msg"_s, u"cmdCancel"_s), Qt::LeftButton);
+            return true;
+        });
+    }
+};
+
+TEST_F(CreateRun, makesTheSetAndShowsItInTheList) {
+    const QStringList before = setNames();
+    startFromList();
+    confirmReport();
+    program.press(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+    EXPECT_EQ(setNames().size(), before.size() + 1);
+    EXPECT_TRUE(program.shell.form(u"frm_MVTextures"_s)->isVisible());
+    EXPECT_FALSE(program.user.isMessageVisible());
+    EXPECT_FALSE(filesBelow(u"Texture Sets").isEmpty());
+}
+
+TEST_F(CreateRun, leavesNothingOfASetThatIsCancelled) {
+    const QStringList before = setNames();
+    const QStringList filesBefore = filesBelow(u"Texture Sets");
+    startFromList();
+    cancelAtOnce();
+    program.press(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+    EXPECT_EQ(setNames(), before);
+    EXPECT_EQ(filesBelow(u"Texture Sets"), filesBefore);
+    EXPECT_TRUE(filesBelow(u"TempBitmaps").isEmpty());
+    EXPECT_TRUE(program.shell.form(u"frm_MVTextures"_s)->isVisible());
+    EXPECT_FALSE(program.user.isMessageVisible()) << "a cancel is not reported";
+    EXPECT_FALSE(program.user.answers().cancelRequested);
+}
+
+TEST_F(CreateRun, doesNothingWhenTheCountsAreCancelled) {
+    const QStringList before = setNames();
+    program.whenShown(u"frm_TsRequired"_s,
+                      [](DialogForm& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    program.press(u"frm_Main"_s, u"btn_GroundInstall"_s);
+    EXPECT_EQ(setNames(), before);
+    EXPECT_TRUE(program.shell.form(u"frm_Main"_s)->isVisible());
+}
+
+} // namespace
+} // namespace morvane
