@@ -1,6 +1,7 @@
 #include "gallery.h"
 
 #include "core/session.h"
+#include "ui/controls/slider.h"
 #include "ui/screens/splash_screen.h"
 
 #include <QCoreApplication>
@@ -89,6 +90,11 @@ void Gallery::saveGround() {
     Form& window = *shell_.form(u"frm_MVTextures"_s);
     save(u"ground-sets"_s, window);
     shell_.goToPage(u"frm_GroundColorize"_s);
+    save(u"ground-colour-untouched"_s, window);
+    const std::pair<const char16_t*, int> tuned[] = {
+        {u"vcRed", -20}, {u"vcGreen", 5}, {u"vcBlue", 35}, {u"vcBright", -10}, {u"vcContrast", 15}};
+    for (const auto& [slider, value] : tuned)
+        window.findChild<ucSlider*>(QString::fromUtf16(slider))->setValue(value);
     save(u"ground-colour"_s, window);
     shell_.leaveHost(u"frm_MVTextures"_s);
 }
