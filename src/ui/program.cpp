@@ -5,6 +5,7 @@
 #include "core/options.h"
 #include "core/session.h"
 #include "simulator/resource_folders.h"
+#include "ui/screens/main_screen.h"
 #include "ui/screens/splash_screen.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
@@ -48,7 +49,10 @@ void loadBehindSplash(Shell& shell) {
 void showMainWindow(Shell& shell) {
     Session& session = shell.session();
     shell.form(u"frm_Splash"_s)->hide();
-    shell.form(u"frm_Main"_s)->show();
+    // A window without a place of its own gets one only later, and a message now would miss its middle.
+    auto& mainWindow = shell.screen<frm_Main>(u"frm_Main"_s);
+    mainWindow.centreOver(nullptr);
+    mainWindow.show();
     session.RefreshGroundList = session.RefreshSkyList = session.RefreshNightList = true;
     session.StartingUp = false;
     shell.reportMissingSkin();

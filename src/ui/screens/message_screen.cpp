@@ -78,6 +78,7 @@ void frm_Msg::fill(const Message& message) {
     isProgress_ = message.isProgress;
     pic_Icon_->setPixmap(skin().picture(u"icon_"_s + msgType_ + u".bmp"_s));
     pic_Icon_->setAccessibleName(msgType_);
+    setWindowTitle(message.title);
     lbl_Title_->setText(message.title);
     lbl_Message_->setText(message.text);
     lblProcessDescription_->clear();

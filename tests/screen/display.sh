@@ -1,0 +1,175 @@
+# A display and a window manager of our own, the program's windows on it, and a mouse and a keyboard for them.
+# Sourced. Needs $root, a folder that goes with the run. Window positions are pixels from the window's corner.
+
+readonly patience=60 # seconds that anything may take; far more than it needs, for machines with much to do
+programId=
+
+say() {
+    echo "-- $*"
+}
+
+fail() {
+    echo "FAILED: $*" >&2
+    takePicture failed
+    exit 1
+}
+
+hasEnded() {
+    ! kill -0 "$1" 2>/dev/null
+}
+
+# waitFor WHAT COMMAND...: until the command succeeds.
+waitFor() {
+    local what=$1 end=$((SECONDS + patience))
+    shift
+    until "$@"; do
+        if [ -n "$programId" ] && hasEnded "$programId"; then fail "the program ended before: $what"; fi
+        [ "$SECONDS" -lt "$end" ] || fail "waited $patience s in vain for: $what"
+        sleep 0.05
+    done
+}
+
+# expect WHAT COMMAND...: that the command succeeds now.
+expect() {
+    local what=$1
+    shift
+    "$@" || fail "it is not so: $what"
+}
+
+hasWindowManager() {
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
+}
+
+startDisplay() {
+    # The server goes with this shell even where that is killed, and takes its clients along.
+    setpriv --pdeathsig KILL Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$root/display" \
+        2>"$root/Xvfb.log" &
+    displayId=$!
+    waitFor "a display" test -s "$root/display"
+    DISPLAY=:$(cat "$root/display")
+    export DISPLAY
+    openbox --sm-disable >"$root/openbox.log" 2>&1 &
+    managerId=$!
+    waitFor "a window manager" hasWindowManager
+}
+
+stopDisplay() {
+    local id
+    for id in $programId ${managerId:-} ${displayId:-}; do
+        kill "$id" 2>/dev/null && wait "$id" 2>/dev/null
+    done
+    return 0
+}
+
+# takePicture NAME: of the whole screen, where the caller of the test asked for pictures.
+takePicture() {
+    [ -n "${MORVANE_SCREENSHOTS:-}" ] || return 0
+    mkdir -p "$MORVANE_SCREENSHOTS"
+    if command -v import >/dev/null; then
+        import -window root "$MORVANE_SCREENSHOTS/$1.png"
+    elif command -v xwd >/dev/null; then
+        xwd -root -silent -out "$MORVANE_SCREENSHOTS/$1.xwd"
+    fi
+}
+
+visibleWindows() {
+    xdotool search --onlyvisible --pid "$programId" 2>/dev/null
+}
+
+# windowOf NAME WIDTHxHEIGHT: its id, the newest first; nothing and a failure while there is none.
+windowOf() {
+    local id
+    for id in $(visibleWindows | sort -rn); do
+        [ "$(xdotool getwindowname "$id" 2>/dev/null)" = "$1" ] || continue
+        [ -z "${2:-}" ] || [ "$(sizeOf "$id")" = "$2" ] || continue
+        echo "$id"
+        return 0
+    done
+    return 1
+}
+
+hasWindow() {
+    windowOf "$@" >/dev/null
+}
+
+hasNoWindow() {
+    ! hasWindow "$@"
+}
+
+isVisible() {
+    visibleWindows | grep -qx "$1"
+}
+
+isHidden() {
+    ! isVisible "$1"
+}
+
+# geometryOf ID: "X Y WIDTH HEIGHT" on the screen.
+geometryOf() {
+    xwininfo -id "$1" 2>/dev/null | awk '/Absolute upper-left/ || /Width:/ || /Height:/ { printf "%s ", $NF }'
+}
+
+sizeOf() {
+    geometryOf "$1" | awk '{ print $3 "x" $4 }'
+}
+
+isAt() {
+    [ "$(geometryOf "$1" | cut -d' ' -f1,2)" = "$2 $3" ]
+}
+
+isOnScreen() {
+    geometryOf "$1" | awk '{ exit !($1 >= 0 && $2 >= 0 && $1 + $3 <= 1280 && $2 + $4 <= 900) }'
+}
+
+hasOutline() {
+    xwininfo -shape -id "$1" | grep -q 'Window shape extents'
+}
+
+hasFocus() {
+    [ "$(xdotool getwindowfocus 2>/dev/null)" = "$1" ]
+}
+
+# The window manager's frame goes unnoticed: what counts is the window that a click there would reach.
+windowUnderMouse() {
+    xdotool getmouselocation --shell | sed -n 's/^WINDOW=//p'
+}
+
+hasTip() {
+    local id
+    for id in $(visibleWindows); do
+        if xprop -id "$id" _NET_WM_WINDOW_TYPE 2>/dev/null | grep -q TOOLTIP; then return 0; fi
+    done
+    return 1
+}
+
+moveMouse() {
+    xdotool mousemove --window "$1" "$2" "$3"
+}
+
+click() {
+    xdotool mousemove --window "$1" "$2" "$3" click 1
+}
+
+# press ID KEY...: once the window has the keyboard.
+press() {
+    waitFor "the keyboard in window $1" hasFocus "$1"
+    shift
+    xdotool key "$@"
+}
+
+# dragBy ID X Y RIGHT DOWN: grabs the window at X, Y. The window manager takes over some time after the press,
+# so the mouse goes on moving until the window has come along.
+dragBy() {
+    local id=$1 left top target=()
+    read -r left top _ <<<"$(geometryOf "$id")"
+    target=($((left + $4)) $((top + $5)))
+    xdotool mousemove --window "$id" "$2" "$3" mousedown 1
+    waitFor "the window to follow the mouse" followsMouse "$id" $((target[0] + $2)) $((target[1] + $3)) "${target[@]}"
+    xdotool mouseup 1
+    waitFor "the window where it was dropped" isAt "$id" "${target[@]}"
+}
+
+followsMouse() {
+    xdotool mousemove $(($2 - 1)) "$3" mousemove "$2" "$3"
+    isAt "$1" "$4" "$5"
+}

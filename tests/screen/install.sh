@@ -1,0 +1,78 @@
+# A small install and a simulator to try the program on, and what can be read from them while it runs. Sourced.
+# Needs $root, a folder that goes with the run, and $programs, the folder of the built programs.
+
+readonly home="$root/Mörvane Büro" simulator="$root/Flüge am Abend"
+
+# Every second base image goes: a set is then made in a second or two.
+makeInstall() {
+    "$programs/morvane-content" --home "$home" --simulator "$simulator"
+    local folder
+    for folder in "GENERIC WORLD" "UT EUROPE" UTIND DUTCH; do
+        find "$home/Resources/$folder" -name '*.bmp' | sort | awk 'NR % 2' | tr '\n' '\0' | xargs -0 -r rm
+    done
+}
+
+# The sets in the store, a line each: name, cover and "true" where installed, parted by "|".
+groundSets() {
+    "$programs/morvane-cli" --home "$home" ground list | sed 's/},{/}\n{/g' |
+        sed -nE 's/.*"CloudCover":"([^"]*)".*"Installed":(true|false).*"TextureSet":"([^"]*)".*/\3|\1|\2/p'
+}
+
+setNames() {
+    groundSets | cut -d'|' -f1 | grep -vx Default
+}
+
+setsWithCover() {
+    groundSets | grep -v '^Default|' | grep -c "|$1|"
+}
+
+installedSets() {
+    groundSets | grep '|true$' | cut -d'|' -f1
+}
+
+# fileNames FOLDER...: as the simulator reads them, without regard to case.
+fileNames() {
+    find "$@" -type f -printf '%f\n' | tr '[:upper:]' '[:lower:]' | sort
+}
+
+# A finished set has a texture for each base image of the two folders that fill its "Texture".
+isWhole() {
+    local textures="$home/Texture Sets/$1/Texture"
+    [ -z "$(find "$textures" -type f -empty)" ] &&
+        [ "$(fileNames "$textures")" = "$(fileNames "$home/Resources/GENERIC WORLD" "$home/Resources/UT EUROPE")" ]
+}
+
+areAllWhole() {
+    local name
+    while read -r name; do
+        isWhole "$name" || return 1
+    done < <(setNames)
+}
+
+# No folder without its row, no row without its folder.
+doFoldersMatchStore() {
+    [ "$(find "$home/Texture Sets" -mindepth 1 -maxdepth 1 -printf '%f\n' | sort)" = "$(setNames | sort)" ]
+}
+
+# The set's textures lie in the simulator, byte for byte.
+isInSimulator() {
+    local textures="$home/Texture Sets/$1/Texture" target="$simulator/Scenery/World/Texture" file copy
+    for file in "$textures"/*; do
+        copy=$(find "$target" -iname "$(basename "$file")")
+        [ -n "$copy" ] && cmp -s "$file" "$copy" || return 1
+    done
+}
+
+simulatorSums() {
+    (cd "$simulator" && find . -type f -exec cksum {} + | sort -k3)
+}
+
+intermediateFiles() {
+    find "$home/TempBitmaps" -type f
+}
+
+# Paths of all files but those that a session may bring: sets, and the simulator files kept before an install.
+otherFiles() {
+    (cd "$root" && find "${home##*/}" "${simulator##*/}" -type f \
+        -not -path '*/Texture Sets/*' -not -path '*/Backup/Originals*' | sort)
+}
