@@ -129,9 +129,16 @@ hasFocus() {
     [ "$(xdotool getwindowfocus 2>/dev/null)" = "$1" ]
 }
 
-# The window manager's frame goes unnoticed: what counts is the window that a click there would reach.
-windowUnderMouse() {
-    xdotool getmouselocation --shell | sed -n 's/^WINDOW=//p'
+# Is there nothing but the screen itself, so that a click goes past all windows?
+isMouseOverNothing() {
+    local under screen
+    under=$(xdotool getmouselocation --shell | sed -n 's/^WINDOW=//p')
+    screen=$(xwininfo -root -int | sed -n 's/^xwininfo: Window id: \([0-9]*\).*/\1/p')
+    [ "$under" = "$screen" ]
+}
+
+isMouseOverWindow() {
+    ! isMouseOverNothing
 }
 
 hasTip() {

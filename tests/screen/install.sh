@@ -63,16 +63,29 @@ isInSimulator() {
     done
 }
 
+# checksum, size and path of every file, in the order of the paths.
 simulatorSums() {
     (cd "$simulator" && find . -type f -exec cksum {} + | sort -k3)
 }
 
-intermediateFiles() {
-    find "$home/TempBitmaps" -type f
+# simulatorHolds SUMS NAME: the files of an earlier list, and besides them nothing but files of the set.
+simulatorHolds() {
+    local before now added
+    before=$(cut -d' ' -f3- <<<"$1" | sort)
+    now=$(simulatorSums | cut -d' ' -f3- | sort)
+    added=$(comm -13 <(echo "$before") <(echo "$now") | sed 's:.*/::' | tr '[:upper:]' '[:lower:]' | sort -u)
+    [ -z "$(comm -23 <(echo "$before") <(echo "$now"))" ] &&
+        [ -z "$(comm -23 <(echo "$added") <(fileNames "$home/Texture Sets/$2"))" ]
 }
 
-# Paths of all files but those that a session may bring: sets, and the simulator files kept before an install.
+# Those of "Dutch" stay until the next run writes over them: wanted, the cleaner has never known that folder.
+intermediateFiles() {
+    find "$home/TempBitmaps" -type f -not -path '*/Dutch/*'
+}
+
+# Paths of the install's files but those that a session may bring: sets, intermediate files, and the simulator's
+# files that were kept before an install.
 otherFiles() {
-    (cd "$root" && find "${home##*/}" "${simulator##*/}" -type f \
-        -not -path '*/Texture Sets/*' -not -path '*/Backup/Originals*' | sort)
+    find "$home" -type f -not -path '*/Texture Sets/*' -not -path '*/Backup/Originals/*' \
+        -not -path '*/TempBitmaps/Dutch/*' -printf '%P\n' | sort
 }
