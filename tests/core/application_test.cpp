@@ -76,6 +76,15 @@ TEST_F(ApplicationTest, whoGivesUpLeavesNothingBehind) {
     EXPECT_EQ(test::contentsBelow(install.home()), before);
 }
 
+TEST_F(ApplicationTest, refusesAFolderThatIsNotThereAndSaysWhatToDo) {
+    Session lost{{user, install.files, install.clock, install.random, install.registry},
+                 install.folder / u"Nowhere"};
+    EXPECT_FALSE(startUp(lost));
+    ASSERT_EQ(user.calls.size(), 1);
+    EXPECT_TRUE(user.calls[0].contains(u"does not exist"_s) && user.calls[0].contains(u"MORVANE_HOME"_s));
+    EXPECT_FALSE(install.files.exists(install.folder / u"Nowhere")) << "nothing is made";
+}
+
 TEST_F(ApplicationTest, goesOnWithoutAStoreAndEachLoadTellsForItself) {
     const FilePath store = install.home() / u"Morvane.mdb";
     const QByteArray good = test::readFile(store);

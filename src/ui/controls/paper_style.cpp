@@ -110,6 +110,7 @@ int PaperStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     case SH_ScrollBar_LeftClickAbsolutePosition:
     case SH_EtchDisabledText:
     case SH_ItemView_ActivateItemOnSingleClick:
+    case SH_DialogButtonBox_ButtonsHaveIcons: // the toolkit's are red and green
         return 0;
     default:
         return QProxyStyle::styleHint(hint, option, widget, result);
