@@ -1,7 +1,7 @@
 # A display and a window manager of our own, the program's windows on it, and a mouse and a keyboard for them.
 # Sourced. Needs $root, a folder that goes with the run. Window positions are pixels from the window's corner.
 
-readonly patience=60 # seconds that anything may take; far more than it needs, for machines with much to do
+readonly patience=120 # seconds that anything may take; far more than it needs, for machines with much to do
 programId=
 
 say() {
@@ -18,12 +18,20 @@ hasEnded() {
     ! kill -0 "$1" 2>/dev/null
 }
 
+# expectGoodHealth WHAT: that the program may still come to it.
+expectGoodHealth() {
+    [ -n "$programId" ] || return 0
+    hasEnded "$programId" && fail "the program ended before: $1"
+    xdotool search --onlyvisible --name '^Morvane Error' >/dev/null 2>&1 && fail "an error shows before: $1"
+    return 0
+}
+
 # waitFor WHAT COMMAND...: until the command succeeds.
 waitFor() {
     local what=$1 end=$((SECONDS + patience))
     shift
     until "$@"; do
-        if [ -n "$programId" ] && hasEnded "$programId"; then fail "the program ended before: $what"; fi
+        expectGoodHealth "$what"
         [ "$SECONDS" -lt "$end" ] || fail "waited $patience s in vain for: $what"
         sleep 0.05
     done

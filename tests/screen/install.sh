@@ -3,12 +3,12 @@
 
 readonly home="$root/Mörvane Büro" simulator="$root/Flüge am Abend"
 
-# Every second base image goes: a set is then made in a second or two.
+# Two of three base images go: a set is then made in a second or two. Those that the windows show as samples stay.
 makeInstall() {
     "$programs/morvane-content" --home "$home" --simulator "$simulator"
     local folder
     for folder in "GENERIC WORLD" "UT EUROPE" UTIND DUTCH; do
-        find "$home/Resources/$folder" -name '*.bmp' | sort | awk 'NR % 2' | tr '\n' '\0' | xargs -0 -r rm
+        find "$home/Resources/$folder" -name '*.bmp' -not -name '029*' | sort | awk 'NR % 3' | tr '\n' '\0' | xargs -0 -r rm
     done
 }
 
