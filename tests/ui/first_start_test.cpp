@@ -15,7 +15,7 @@ namespace {
 
 TEST(FirstStart, leavesNothingWhenItIsCancelled) {
     const test::TemporaryFolder folder;
-    const QString home = folder.path() + u"/Deep/Morvane"_s;
+    const QString home = (folder / u"Deep\\Morvane").native();
     QTimer timer;
     timer.callOnTimeout([] {
         for (QWidget* window : QApplication::topLevelWidgets())
@@ -27,7 +27,7 @@ TEST(FirstStart, leavesNothingWhenItIsCancelled) {
     timer.start(0);
     EXPECT_FALSE(makeInstallFolder(home));
     EXPECT_TRUE(
-        QDir(folder.path() + u"/Deep"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
+        QDir((folder / u"Deep").native()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
 }
 
 } // namespace
