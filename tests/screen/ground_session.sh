@@ -165,7 +165,7 @@ cancelSets() {
     waitFor "the question to go" hasNoWindow "Cancel Operation?"
     waitFor "the ground window" isVisible "$groundWindow"
     expect "the progress is away" isHidden "$progressWindow"
-    expect "no set more than the run had finished" areAllWhole
+    expect "every set in the list is whole" areAllWhole
     expect "fewer sets than were asked for" test "$(setNames | wc -l)" -lt $((before + 9))
     expect "the sets' folders are those of the store" doFoldersMatchStore
     expect "no intermediate file remains" test -z "$(intermediateFiles)"
