@@ -26,7 +26,8 @@ bool runTool(QProcess& tool, QProgressDialog& progress) {
     QObject::connect(&tool, &QProcess::finished, &loop, &QEventLoop::quit);
     QObject::connect(&tool, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
     QObject::connect(&progress, &QProgressDialog::canceled, &tool, &QProcess::kill);
-    loop.exec();
+    if (progress.wasCanceled()) tool.kill(); // before anybody listened
+    if (tool.state() != QProcess::NotRunning) loop.exec();
     return tool.error() == QProcess::UnknownError && tool.exitStatus() == QProcess::NormalExit &&
            tool.exitCode() == 0;
 }
@@ -47,7 +48,7 @@ bool makeInstallFolder(const QString& home) {
     tool.start(QCoreApplication::applicationDirPath() + u"/morvane-content"_s,
                {u"--home"_s, folder.path(), u"--progress"_s});
     const bool isMade = runTool(tool, progress);
-    if (isMade && QDir().rename(folder.path(), home)) {
+    if (isMade && !progress.wasCanceled() && QDir().rename(folder.path(), home)) {
         folder.setAutoRemove(false);
         return true;
     }

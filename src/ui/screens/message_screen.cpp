@@ -64,12 +64,14 @@ void frm_Msg::makeControls() {
 }
 
 void frm_Msg::showMessage(const Message& message) {
-    if (isVisible()) hide();
+    // Progress that follows progress stays where it is: gone for a moment it would lose a click on cancel.
+    const bool goesOn = isVisible() && isProgress_ && message.isProgress;
+    if (isVisible() && !goesOn) hide();
     playMessageSound(message.kind);
     fill(message);
     layOut(message);
     if (!message.isProgress) return run();
-    centreOver(shell().messageAnchor());
+    if (!goesOn) centreOver(shell().messageAnchor());
     show();
 }
 
