@@ -1,4 +1,4 @@
-// morvane-gallery: a picture of every screen, made without a display.
+// morvane-gallery: a picture of every screen, made without a display, at 100, 150 and 200 per cent.
 
 #include "core/application.h"
 #include "core/clock.h"
@@ -15,7 +15,9 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <cstdio>
 
 using namespace morvane;
@@ -42,6 +44,21 @@ int run(const FilePath& home, const QString& folder) {
     return skin.missing().isEmpty() ? 0 : 1;
 }
 
+/// The scale of a program is fixed when it starts, so the dense ones are runs of their own, in folders below.
+int runScaled(const QString& home, const QString& folder) {
+    for (const auto& [scale, name] : {std::pair(u"1.5"_s, u"at-150"_s), std::pair(u"2"_s, u"at-200"_s)}) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_SCALE_FACTOR"_s, scale);
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::ForwardedChannels);
+        process.start(QCoreApplication::applicationFilePath(),
+                      {u"--home"_s, home, QDir(folder).filePath(name)});
+        if (!process.waitForFinished(-1) || process.exitCode() != 0) return 1;
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -58,6 +75,8 @@ int main(int argc, char** argv) {
     parser.addPositionalArgument(u"OUTDIR"_s, u"Where the pictures go."_s);
     parser.process(application);
     if (parser.positionalArguments().size() != 1) parser.showHelp(2);
-    return run(FilePath(QFileInfo(parser.value(u"home"_s)).absoluteFilePath()),
-               parser.positionalArguments()[0]);
+    const QString home = QFileInfo(parser.value(u"home"_s)).absoluteFilePath();
+    const QString folder = parser.positionalArguments()[0];
+    const int status = run(FilePath(home), folder);
+    return status != 0 || qEnvironmentVariableIsSet("QT_SCALE_FACTOR") ? status : runScaled(home, folder);
 }
