@@ -57,6 +57,18 @@ struct GroundSelection {
     QStringList selectedRows;
 };
 
+/// The sky set in hand, in the same way.
+struct SkySelection {
+    QString SelectedSkyKey; ///< "Key:" and the StsID
+    QString SelectedSkySet;
+    bool SelectedSkyActivated = false;
+    QString SelectedSkyCover;
+    QString SelectedSkyDescription;
+    QString SelectedSkyGroup; ///< the base set that it was made from
+    /// Names of all rows that are ticked in the list.
+    QStringList selectedRows;
+};
+
 /// Everything that lives from start-up to exit. The entry point owns the one session and hands it on.
 class Session {
 public:
@@ -104,7 +116,7 @@ public:
 
     ModalState modal;
     GroundSelection ground;
-    QString SelectedSkySet;
+    SkySelection sky;
 
     std::unique_ptr<Store> adoConn; ///< the one connection; open from start-up to exit
 
