@@ -5,7 +5,8 @@
 
 namespace morvane {
 
-/// The session's collection of that kind, loaded when it is not there yet. Raises when it cannot be had at all.
+/// The session's collection of that kind, loaded when it is not there yet. Raises when it cannot be had at
+/// all.
 template <class Collection>
 Collection& loadedCollection(Session& session, std::unique_ptr<Collection>& global) {
     if (!global) Collection::reload(session);

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "core/session.h"
+#include "simulator/set_choice.h"
 
 namespace morvane {
 
-/// Turns the weather of a flight into one cloud-cover word and installs an activated set that fits it.
+/// Turns the weather of a flight into one cloud-cover word and installs activated sets that fit it: a ground
+/// set first, then a sky set, each "Default" when there is none.
 class SetMatching {
 public:
     explicit SetMatching(Session& session) : session_(session) {}
@@ -24,9 +25,15 @@ public:
     int filesCopied() const { return filesCopied_; }
 
 private:
-    QString chooseGroundSet(const QString& cover);
-    QString closestGroundSet(const QString& cover);
-    int getRandomIndex(int upper);
+    /// Which word of the walk along the covers a round compares with the sets.
+    enum class ClosestSearch { nextWord, currentWord };
+    struct MatchedKind {
+        QString word; ///< "Ground" or "Sky", in the message
+        std::vector<ActivatedSet> sets;
+        ClosestSearch search;
+    };
+    QString chooseSet(const MatchedKind& kind, const QString& cover);
+    static QString closestSet(const MatchedKind& kind, const QString& cover);
 
     Session& session_;
     int filesCopied_ = 0;
