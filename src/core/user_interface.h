@@ -39,6 +39,9 @@ enum class Screen {
     frm_SelectTexture,
     frm_GroundColorize,
     frm_Config,
+    frm_SkyColorize,
+    frm_SelectSkyTexture,
+    frm_SelectBaseSky,
 };
 
 /// Names as text, for logs of tests and for windows.
