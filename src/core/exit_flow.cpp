@@ -9,6 +9,7 @@
 #include "simulator/resource_folders.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
+#include "sky/sky_tuning_state.h"
 #include "weather/wx_finders.h"
 
 #include <algorithm>
@@ -80,6 +81,7 @@ void exitProgram(Session& session) {
     }
     releaseCollections(session);
     reportFailures(session.user, {}, [&] { clearDownloadedCycles(session); });
+    reportFailures(session.user, {}, [&] { saveLastSkySettings(session); });
     closeDatabase(session);
 }
 
