@@ -10,6 +10,7 @@
 #include "sky/sky_installation.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sub_sets.h"
+#include "sky/sky_tuning_state.h"
 #include "weather/wx_finders.h"
 
 #include <algorithm>
@@ -87,6 +88,7 @@ void exitProgram(Session& session) {
     }
     releaseCollections(session);
     reportFailures(session.user, {}, [&] { clearDownloadedCycles(session); });
+    reportFailures(session.user, {}, [&] { saveLastSkySettings(session); });
     closeDatabase(session);
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "core/session.h"
+#include "core/job.h"
 #include "sky/sky_sample.h"
+#include "sky/sky_strings.h"
 
 namespace morvane {
 
-/// The texts that a time of day has in the store and below "Resources\Sky".
-inline const QString skyDay = u"Day"_s;
+struct clsSkyTextureSet;
 
 /// Makes sky sets, in bulk or one by hand, and writes the files of a set.
 class SkyGeneration {
@@ -32,11 +32,11 @@ public:
     void saveSkySetFromTuning(const QString& name);
 
 private:
-    struct Progress {
-        double step, position = 0;
-    };
-    bool createAll(int total);
-    bool storeSubSet(const QString& setName, std::int16_t setKey, const class SkyStrings& strings);
+    void createAll(const Job& job);
+    void endRun(bool fromHomeScreen);
+    bool storeSubSet(const clsSkyTextureSet& set, const SkyStrings& strings);
+    bool writeFiles(const QStringList& names, const FilePath& source, const FilePath& target, bool coloured);
+    SkyStrings tunedStrings();
 
     Session& session_;
     SkySample sample_;

@@ -53,18 +53,14 @@ SkyGroup& skyRecord(SkyGroupTable& table, int number) {
     return table[static_cast<std::size_t>(skyGroup(number).number - 1)];
 }
 
-const std::array<SkyField, 6>& skyColourFields() {
-    static const std::array<SkyField, 6> fields{{{u"Saturation"_s, &SkyGroup::saturation},
+const std::array<SkyField, 9>& skyFields() {
+    static const std::array<SkyField, 9> fields{{{u"Saturation"_s, &SkyGroup::saturation},
                                                  {u"Red"_s, &SkyGroup::red},
                                                  {u"Green"_s, &SkyGroup::green},
                                                  {u"Blue"_s, &SkyGroup::blue},
                                                  {u"Brightness"_s, &SkyGroup::brightness},
-                                                 {u"Contrast"_s, &SkyGroup::contrast}}};
-    return fields;
-}
-
-const std::array<SkyField, 3>& skyRegionFields() {
-    static const std::array<SkyField, 3> fields{{{u"PixelXLow"_s, &SkyGroup::PixelXLow},
+                                                 {u"Contrast"_s, &SkyGroup::contrast},
+                                                 {u"PixelXLow"_s, &SkyGroup::PixelXLow},
                                                  {u"PixelXHigh"_s, &SkyGroup::PixelXHigh},
                                                  {u"PixelY"_s, &SkyGroup::PixelY}}};
     return fields;
@@ -83,24 +79,19 @@ QString skyRegionSuffix(const SkyGroupConstants& group) {
 
 QString skyColourString(const SkyGroup& colours, const SkyGroupConstants& group) {
     QString text;
-    for (const SkyField& field : skyColourFields())
-        text += floatText(colours.*field.value) + u':';
+    for (std::size_t i = 0; i < skyColourCount; ++i)
+        text += floatText(colours.*skyFields()[i].value) + u':';
     return text + skyRegionSuffix(group);
 }
 
 std::optional<SkyGroup> parseSkyColourString(const QString& text) {
     if (trimmedBlanksView(text).isEmpty()) return std::nullopt;
     const QStringList numbers = text.split(u':');
-    if (numbers.size() < 9) throw Error(ErrorCode::subscript);
+    if (numbers.size() < static_cast<qsizetype>(skyFields().size())) throw Error(ErrorCode::subscript);
     SkyGroup record;
     auto number = numbers.begin();
-    const auto read = [&](const SkyField& field) {
+    for (const SkyField& field : skyFields())
         record.*field.value = static_cast<float>(textToNumber(*number++));
-    };
-    for (const SkyField& field : skyColourFields())
-        read(field);
-    for (const SkyField& field : skyRegionFields())
-        read(field);
     return record;
 }
 

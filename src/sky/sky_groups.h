@@ -37,10 +37,11 @@ struct SkyField {
     float SkyGroup::*value;
 };
 
-/// The six colours in the order of a colour text: saturation, red, green, blue, brightness, contrast.
-const std::array<SkyField, 6>& skyColourFields();
-/// The region behind them: first column, last column, row.
-const std::array<SkyField, 3>& skyRegionFields();
+/// The nine fields in the order of a colour text: saturation, red, green, blue, brightness, contrast; first
+/// column, last column, row.
+const std::array<SkyField, 9>& skyFields();
+/// The first of them are the colours.
+inline constexpr std::size_t skyColourCount = 6;
 
 /// Writes the group's region into the record; its colours stay.
 void setRegion(SkyGroup& record, const SkyGroupConstants& group);
