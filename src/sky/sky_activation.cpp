@@ -4,6 +4,7 @@
 #include "core/options.h"
 #include "simulator/set_removal.h"
 #include "simulator/temp_bitmaps.h"
+#include "sky/sky_base_sets.h"
 #include "sky/sky_generation.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
@@ -26,12 +27,12 @@ void SkyActivation::activateSkySet() {
     reportFailures(session_.user, {}, [&] {
         if (!refreshSkySets(session_)) return;
         const QStringList names = changeableNames(session_.sky.selectedRows);
-        // One set gets all three families of files, several get the day's alone, as a generated set does: wanted.
-        // Nothing protects "Default" here, unlike in a removal.
+        // One set gets all three families of files, several get the day's alone, as a generated set does:
+        // wanted. Nothing protects "Default" here, unlike in a removal.
         if (names.size() > 1)
             activateSeveral(job, names);
         else if (const auto set = findSkySet(session_, session_.sky.SelectedSkySet))
-            activate(job, *set, {u"Day"_s, u"Sunrise"_s, u"Sunset"_s}, {1, 1});
+            activate(job, *set, skyTimesOfDay, {1, 1});
         rebuildList(session_.sky.SelectedSkySet);
     });
 }
@@ -43,7 +44,7 @@ void SkyActivation::activateSeveral(const Job& job, const QStringList& names) {
         const auto set = findSkySet(session_, name);
         ++number;
         if (!set || set->Activated != flagText(false)) continue;
-        if (!activate(job, *set, {u"Day"_s}, {number, static_cast<int>(confirmed.size())})) return;
+        if (!activate(job, *set, {skyDay}, {number, static_cast<int>(confirmed.size())})) return;
     }
 }
 
@@ -53,7 +54,7 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
     if (!storeActivation(set, true)) return false;
     session_.sky.SelectedSkySet = set.SkyTextureSet;
     // The colours are the day's whatever the time: the other families are plain copies.
-    loadSkyTextureGroups(session_, set.StsID, u"Day"_s);
+    if (!loadSkyTextureGroups(session_, set.StsID, skyDay)) return false;
     session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
     SkyGeneration generation(session_);
     for (const QString& timeOfDay : timesOfDay) {

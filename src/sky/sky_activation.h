@@ -15,9 +15,9 @@ class SkyActivation {
 public:
     explicit SkyActivation(Session& session) : session_(session) {}
 
-    /// A single set, and be it "Default", gets its files for day, sunrise and sunset; several get those for the
-    /// day only, and those that are activated already are passed over. A cancel ends the run; what is written
-    /// stays.
+    /// A single set, and be it "Default", gets its files for day, sunrise and sunset; several get those for
+    /// the day only, and those that are activated already are passed over. A cancel ends the run; what is
+    /// written stays.
     void activateSkySet();
     /// Deletes; with `deactivateMode` only the files go and the colours stay. See removeSets.
     void deleteSkySet(bool deactivateMode);

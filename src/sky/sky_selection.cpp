@@ -2,6 +2,7 @@
 
 #include "core/failure_report.h"
 #include "core/options.h"
+#include "sky/sky_base_sets.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_sets.h"
 
@@ -47,6 +48,11 @@ bool loadSkySubSet(Session& session, const QString& listKey, const QString& time
         loaded = loadSkyTextureGroups(session, set->StsID, timeOfDay);
     });
     return loaded;
+}
+
+bool clickSkyRow(Session& session, const QString& name) {
+    const auto set = findSkySet(session, name);
+    return set && loadSkySubSet(session, skyListKey(*set), skyDay);
 }
 
 } // namespace morvane

@@ -19,4 +19,8 @@ bool loadSkySubSet(Session& session, const QString& listKey, const QString& time
 /// `gSkyTextureSubSets`. False after the message that they cannot be read; a colour text that is none raises.
 bool loadSkyTextureGroups(Session& session, std::int16_t setKey, const QString& timeOfDay);
 
+/// What a click on the set's row does: the selection above, for the day. The ticks of the rows stay. False
+/// when there is no set of that name, or after a failure was told.
+bool clickSkyRow(Session& session, const QString& name);
+
 } // namespace morvane
