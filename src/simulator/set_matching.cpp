@@ -80,16 +80,16 @@ QString SetMatching::chooseSet(const MatchedKind& kind, const QString& cover) {
                                u"you have no activated %1 texture sets equivalent to %2 MV will now install "
                                "the closest %1 texture set to %2"_s.arg(kind.word.toLower(), cover),
                                true, false, false});
-    return closestSet(kind, cover);
+    return closestSet(kind.sets, kind.search, cover);
 }
 
-QString SetMatching::closestSet(const MatchedKind& kind, const QString& cover) {
+QString SetMatching::closestSet(const std::vector<ActivatedSet>& sets, ClosestSearch search,
+                                const QString& cover) {
     QString current = cover;
     for (int round = 0; round < 4; ++round) {
         const QString next = getClosestCloudCover(current);
         // The sky's rounds lag one word behind: its first one repeats the cover itself. Wanted.
-        const QStringList names =
-            namesForCover(kind.sets, kind.search == ClosestSearch::nextWord ? next : current);
+        const QStringList names = namesForCover(sets, search == ClosestSearch::nextWord ? next : current);
         if (!names.isEmpty()) return names.front();
         current = next;
     }

@@ -19,21 +19,24 @@ public:
 
     /// The next word to try, one step away; empty for an unknown word.
     static QString getClosestCloudCover(const QString& cover);
+    /// Which word of a round the search below compares with the sets.
+    enum class ClosestSearch { nextWord, currentWord };
+    /// Walks the covers from that one on, four rounds at most, and gives the first set of the first round
+    /// that has any; "Default" when none has.
+    static QString closestSet(const std::vector<ActivatedSet>& sets, ClosestSearch search,
+                              const QString& cover);
     /// The word of a class: 1 to 5, above that "Overcast", below it "Partly Cloudy".
     static QString coverWord(int cloudClass);
 
     int filesCopied() const { return filesCopied_; }
 
 private:
-    /// Which word of the walk along the covers a round compares with the sets.
-    enum class ClosestSearch { nextWord, currentWord };
     struct MatchedKind {
         QString word; ///< "Ground" or "Sky", in the message
         std::vector<ActivatedSet> sets;
         ClosestSearch search;
     };
     QString chooseSet(const MatchedKind& kind, const QString& cover);
-    static QString closestSet(const MatchedKind& kind, const QString& cover);
 
     Session& session_;
     int filesCopied_ = 0;
