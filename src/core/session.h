@@ -43,6 +43,9 @@ struct ModalState {
     /// frm_SelectTexture: the keys of the choice (see ground/sample_textures.h), and whether OK was pressed.
     QString selectedTextureType, selectedSeason;
     bool sampleConfirmed = false;
+    /// frm_flight: the name of the flight clicked last, and whether OK was pressed.
+    QString SelectedFlightName;
+    bool FlightSelected = false;
 };
 
 /// The ground set in hand: written by a selection in the list, read by the actions.

@@ -48,6 +48,8 @@ QString screenName(Screen screen) {
         return u"frm_GroundColorize"_s;
     case Screen::frm_Config:
         return u"frm_Config"_s;
+    case Screen::frm_flight:
+        return u"frm_flight"_s;
     }
     return {};
 }

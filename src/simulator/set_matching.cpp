@@ -8,6 +8,7 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
 #include "ground/no_repeat.h"
+#include "simulator/simulator_launch.h"
 #include "weather/metar_decoder.h"
 
 #include <algorithm>
@@ -135,7 +136,10 @@ bool processMetarString(Session& session, const QString& metar) {
 int flyNow(Session& session) {
     session.CoverCancelled = false;
     SetMatching matching(session);
-    return matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
+    const int copied = matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
+    if (!session.CoverCancelled) startSavedFlight(session);
+    if (!session.CoverCancelled && !session.modal.FlightSelected) launchFlightSimulator(session);
+    return copied;
 }
 
 } // namespace morvane
