@@ -52,6 +52,9 @@ struct ModalState {
     /// frm_SelectBaseSky: whether OK was pressed. The choice itself is in force at its click
     /// (SkyTuningState).
     bool baseSkyConfirmed = false;
+    /// frm_flight: the name of the flight clicked last, and whether OK was pressed.
+    QString SelectedFlightName;
+    bool FlightSelected = false;
 };
 
 /// The ground set in hand: written by a selection in the list, read by the actions.

@@ -54,6 +54,8 @@ QString screenName(Screen screen) {
         return u"frm_SelectSkyTexture"_s;
     case Screen::frm_SelectBaseSky:
         return u"frm_SelectBaseSky"_s;
+    case Screen::frm_flight:
+        return u"frm_flight"_s;
     }
     return {};
 }

@@ -6,6 +6,7 @@
 #include "ground/cloud_cover.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
+#include "simulator/simulator_launch.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_sets.h"
 #include "weather/metar_decoder.h"
@@ -128,7 +129,10 @@ bool processMetarString(Session& session, const QString& metar) {
 int flyNow(Session& session) {
     session.CoverCancelled = false;
     SetMatching matching(session);
-    return matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
+    const int copied = matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
+    if (!session.CoverCancelled) startSavedFlight(session);
+    if (!session.CoverCancelled && !session.modal.FlightSelected) launchFlightSimulator(session);
+    return copied;
 }
 
 } // namespace morvane

@@ -46,7 +46,8 @@ private:
 /// message that told so, for a report without a cloud group; the list then holds "0".
 bool processMetarString(Session& session, const QString& metar);
 
-/// The road of the Fly Now button from the chosen weather on: the question and the install.
+/// The road of the Fly Now button from the chosen weather on: the question and the install, a saved flight,
+/// the simulator.
 /// Returns what was installed for reports: files copied, or -1 when the user said no.
 int flyNow(Session& session);
 
