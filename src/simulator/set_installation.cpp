@@ -2,15 +2,19 @@
 
 #include "core/failure_report.h"
 #include "ground/cloud_cover.h"
+#include "simulator/simulator_launch.h"
 
 namespace morvane {
 
 void SetInstallation::install(bool automatic) {
-    const Job job(session_);
-    if (job) run(job, automatic);
+    if (session_.jobRunning) return;
+    const bool installed = run(Job(session_), automatic);
+    if (!installed || automatic || session_.CommandLineRun) return;
+    // The job has ended by now: what the user does before the answer is no part of it.
+    reportFailures(session_.user, {}, [this] { launchFlightSimulator(session_); });
 }
 
-void SetInstallation::run(const Job& job, bool automatic) {
+bool SetInstallation::run(const Job& job, bool automatic) {
     filesCopied_ = 0;
     bool installed = false;
     reportFailures(session_.user, {}, [&] {
@@ -18,11 +22,12 @@ void SetInstallation::run(const Job& job, bool automatic) {
         installSelectedSet();
         installed = true;
     });
-    if (!installed || session_.CommandLineRun) return;
+    if (!installed || session_.CommandLineRun) return installed;
     session_.user.refreshScreen(Screen::frm_Main);
-    if (automatic) return;
+    if (automatic) return true;
     session_.*kind_.refreshList = true;
     session_.user.refreshScreen(kind_.listScreen);
+    return true;
 }
 
 bool SetInstallation::prepareByHand(const Job& job) {

@@ -26,7 +26,7 @@ public:
     virtual ~SetInstallation() = default;
 
     /// `automatic`: no questions, as on the road from the weather. Otherwise several rows are refused and a
-    /// matching set of the other kind is offered, which goes in first.
+    /// matching set of the other kind is offered, which goes in first, and the start of the simulator last.
     void install(bool automatic);
     /// The automatic install as a part of a job that is running already.
     void installInside(const Job& job) { run(job, true); }
@@ -54,7 +54,8 @@ protected:
     Session& session_;
 
 private:
-    void run(const Job& job, bool automatic);
+    /// True when it came to its end.
+    bool run(const Job& job, bool automatic);
     /// False when the install was refused.
     bool prepareByHand(const Job& job);
 

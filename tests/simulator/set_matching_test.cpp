@@ -167,6 +167,8 @@ TEST_F(SetMatchingTest, aFarGroundAndAFittingSkyAreToldOfTheGroundOnly) {
     install.addSkySet(u"Rain"_s, u"Overcast"_s, true, {u"cloud.bmp"_s, u"sky.bmp"_s});
     session.WxCloudList = QStringList{u"5"_s};
     session.WxStrengthList = QStringList{QString()};
+    install.user.answersToGive = {true}; // no flight, no start
+    install.user.otherwise = false;
     EXPECT_EQ(flyNow(session), 6) << "four of the ground's \"Default\", two of the sky";
     EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
     EXPECT_EQ(install.installedSkySets(), QStringList{u"Rain"_s});

@@ -15,11 +15,16 @@ using test::readFile;
 using test::SmallInstall;
 using test::writeFile;
 
+const QString launchQuestion =
+    "Question|Launch Flight Simulator?|Would you like Morvane to start Flight Simulator now?";
+
 struct SkyInstall : testing::Test {
     SmallInstall install;
     Session& session = install.session;
 
     void SetUp() override {
+        install.user.answersToGive = {true}; // the match is wanted, the simulator's start is not
+        install.user.otherwise = false;
         install.addSkySet("1-Storm", "Overcast", true, {"cloud.bmp", "SKY_1.BMP", "notes.txt"});
         writeFile(install.simulator() / u"Texture\\sky_1.bmp", "the pilot's sky");
         writeFile(install.simulator() / u"Texture\\sky_2.bmp", "the pilot's second sky");
@@ -96,11 +101,13 @@ TEST_F(SkyInstall, severalTickedRowsAreRefused) {
 }
 
 TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
-    install.user.otherwise = false;
+    install.user.answersToGive = {false};
     installSky("1-Storm", false);
-    EXPECT_EQ(install.user.told(),
-              QStringList{"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
-                          "matching Ground Texture set?"});
+    EXPECT_EQ(
+        install.user.told(),
+        QStringList({"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
+                     "matching Ground Texture set?",
+                     launchQuestion}));
     EXPECT_TRUE(install.installedSets().isEmpty());
     EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
     EXPECT_TRUE(session.RefreshSkyList);
@@ -109,8 +116,10 @@ TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
     session.CommandLineRun = true;
     session.RefreshSkyList = false;
     install.user.calls.clear();
+    install.user.messages.clear();
     installSky("1-Storm", false);
     EXPECT_FALSE(session.RefreshSkyList);
+    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1) << "no start of the simulator is offered";
     EXPECT_FALSE(install.user.calls.contains("refresh frm_Main"));
 }
 
@@ -121,6 +130,7 @@ TEST_F(SkyInstall, theMatchingGroundIsDrawnButNeverTheLast) {
     const std::pair<double, QString> cases[] = {{0.49, "2-A"}, {0.5, "3-B"}, {0.999999, "3-B"}};
     for (const auto& [draw, expected] : cases) {
         install.random.numbers = {draw};
+        install.user.answersToGive = {true};
         installSky("1-Storm", false);
         EXPECT_EQ(install.installedSets(), QStringList{expected}) << draw;
     }
@@ -136,8 +146,9 @@ TEST_F(SkyInstall, withoutAGroundOfTheCoverDefaultIsInstalled) {
 }
 
 struct MatchingSky : SkyInstall {
-    QStringList installGround(double draw) {
+    QStringList installGround(double draw, bool withMatch = true) {
         install.random.numbers = {draw};
+        install.user.answersToGive = {withMatch};
         EXPECT_TRUE(clickGroundRow(session, "2-A"));
         GroundInstallation(session).installTextureSet(false);
         EXPECT_EQ(install.installedSets(), QStringList{"2-A"});
@@ -176,11 +187,12 @@ TEST_F(MatchingSky, isDefaultWithoutOneOfTheCoverAndNoneWithoutAny) {
 
 TEST_F(MatchingSky, aNoInstallsTheGroundAlone) {
     install.addGroundSet("2-A", "Overcast", true, {"Texture\\029h2su6.bmp"});
-    install.user.otherwise = false;
-    EXPECT_TRUE(installGround(0).isEmpty());
-    EXPECT_EQ(install.user.told(),
-              QStringList{"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
-                          "matching Sky Texture set?"});
+    EXPECT_TRUE(installGround(0, false).isEmpty());
+    EXPECT_EQ(
+        install.user.told(),
+        QStringList({"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
+                     "matching Sky Texture set?",
+                     launchQuestion}));
 }
 
 } // namespace
