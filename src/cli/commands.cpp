@@ -1,10 +1,11 @@
 #include "cli/commands.h"
 
+#include "cli/command_helpers.h"
 #include "cli/json_output.h"
+#include "cli/sky_commands.h"
 #include "cli/terminal.h"
 #include "core/application.h"
 #include "core/failure_report.h"
-#include "core/numbers.h"
 #include "core/options.h"
 #include "core/text_decoding.h"
 #include "ground/colour_settings.h"
@@ -13,28 +14,18 @@
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_catalogue.h"
-#include "imaging/colouriser.h"
-#include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
 #include "simulator/originals.h"
 #include "simulator/set_matching.h"
+#include "sky/sky_sets.h"
 #include "weather/metar_decoder.h"
 
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 
 namespace morvane {
 
 namespace {
-
-FilePath pathOfArgument(const QString& argument) {
-    return FilePath(QDir::current().absoluteFilePath(argument));
-}
-
-void fail(CommandContext& context, const QString& text) {
-    context.user.showMessage({MessageKind::error, u"Morvane Error"_s, text, true, false, false});
-}
 
 bool decode(CommandContext& context) {
     QFile input;
@@ -56,19 +47,16 @@ bool recolourPicture(CommandContext& context) {
     } catch (const Error&) {
         return false;
     }
-    cDIBSection source, result;
-    source.CreateFromPicture(loadPicture(context.session.files, pathOfArgument(context.arguments[1])));
-    if (!result.Create(source.Width(), source.Height())) throw Error(ErrorCode::outOfMemory);
-    cColourise colourise(context.user);
-    colourise.saturation = colours.saturation;
-    colourise.Red = colours.red;
-    colourise.green = colours.green;
-    colourise.blue = colours.blue;
-    colourise.brightness = colours.brightness;
-    colourise.contrast = colours.contrast;
-    colourise.process(source, result);
-    const FilePath target = pathOfArgument(context.arguments[2]);
-    if (!result.SavePicture(target)) throw Error(ErrorCode::diskFull, target.text());
+    recolourFile(context, [&](const cDIBSection& source, cDIBSection& result) {
+        cColourise colourise(context.user);
+        colourise.saturation = colours.saturation;
+        colourise.Red = colours.red;
+        colourise.green = colours.green;
+        colourise.blue = colours.blue;
+        colourise.brightness = colours.brightness;
+        colourise.contrast = colours.contrast;
+        colourise.process(source, result);
+    });
     return true;
 }
 
@@ -87,15 +75,11 @@ bool showCatalogue(CommandContext& context) {
 }
 
 bool groundCreate(CommandContext& context) {
-    std::array<std::int16_t, 5> counts{};
-    for (std::size_t i = 0; i < counts.size(); ++i) {
-        const QString& text = context.arguments[static_cast<qsizetype>(i)];
-        if (!isDigits(text)) return false;
-        counts[i] = toInteger(text.toLongLong());
-    }
+    const auto counts = countsOfArguments(context.arguments, 0);
+    if (!counts) return false;
     context.user.onModal = [&](Screen screen) {
         if (screen != Screen::frm_TsRequired) return;
-        context.session.modal.setCounts = counts;
+        context.session.modal.setCounts = *counts;
         context.session.modal.setCountsConfirmed = true;
     };
     GroundGeneration(context.session).createTextureSets(true);
@@ -164,6 +148,7 @@ bool originalsRestore(CommandContext& context) {
     const int count = originalsOf(context.session).restore();
     // The simulator shows the pilot's own files again, so no set of ours is the installed one.
     loadedGroundSets(context.session).markInstalled({});
+    loadedSkySets(context.session).markInstalled({});
     writeStandardError(u"%1 files put back\n"_s.arg(count));
     return true;
 }
@@ -195,6 +180,7 @@ const std::vector<Command>& commandTable() {
     static const std::vector<Command> table{
         {{u"decode"_s}, 0, false, decode, u"decode  (METAR lines on stdin, one JSON object a line)"_s},
         {{u"recolour"_s}, 3, false, recolourPicture, u"recolour S:R:G:B:BR:C IN OUT"_s},
+        {{u"recolour-sky"_s}, 3, false, recolourSky, u"recolour-sky GROUPS.json IN OUT"_s},
         {{u"compress"_s}, 2, false, compress, u"compress IN OUT"_s},
         {{u"catalogue"_s}, 1, true, showCatalogue, u"catalogue SET"_s},
         {{u"ground"_s, u"create"_s}, 5, true, groundCreate, u"ground create N1 N2 N3 N4 N5"_s},
@@ -203,6 +189,13 @@ const std::vector<Command>& commandTable() {
         {{u"ground"_s, u"deactivate"_s}, 1, true, groundDeactivate, u"ground deactivate NAME"_s},
         {{u"ground"_s, u"delete"_s}, 1, true, groundDelete, u"ground delete NAME"_s},
         {{u"ground"_s, u"install"_s}, 1, true, groundInstall, u"ground install NAME"_s},
+        {{u"sky"_s, u"create"_s}, 6, true, skyCreate, u"sky create BASES N1 N2 N3 N4 N5"_s},
+        {{u"sky"_s, u"list"_s}, 0, true, skyList, u"sky list"_s},
+        {{u"sky"_s, u"show"_s}, 1, true, skyShow, u"sky show NAME"_s},
+        {{u"sky"_s, u"activate"_s}, 1, true, skyActivate, u"sky activate NAME"_s},
+        {{u"sky"_s, u"deactivate"_s}, 1, true, skyDeactivate, u"sky deactivate NAME"_s},
+        {{u"sky"_s, u"delete"_s}, 1, true, skyDelete, u"sky delete NAME"_s},
+        {{u"sky"_s, u"install"_s}, 1, true, skyInstall, u"sky install NAME"_s},
         {{u"originals"_s, u"list"_s}, 0, true, originalsList, u"originals list"_s},
         {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
         {{u"fly"_s, u"--metar"_s}, 1, true, flyMetar, u"fly --metar \"TEXT\""_s},

@@ -35,7 +35,7 @@ void ConsoleUser::showMessage(const Message& message) {
     progressFile_.clear();
     print(kindWord(message.kind) + u": "_s + message.title + u"\n  "_s +
           QString(message.text).replace(u"\n"_s, u"\n  "_s) + u'\n');
-    if (!message.isProgress && message.withCancel) answers().answer(answerOf(u"OK"_s));
+    if (!message.isProgress && message.withCancel) answers().answer(answerOfPending());
 }
 
 void ConsoleUser::updateProgress(const QString& title, const QString&, double value) {
@@ -59,6 +59,12 @@ bool ConsoleUser::answerOf(const QString& question) {
     if (!line) return false;
     const QString answer = line->trimmed().toLower();
     return answer.isEmpty() ? settings_.enterMeansYes : answer.startsWith(u'y');
+}
+
+bool ConsoleUser::answerOfPending() {
+    for (const auto& [question, answer] : settings_.settled)
+        if (answers().isPending(question)) return answer;
+    return answerOf(u"OK"_s);
 }
 
 bool ConsoleUser::systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) {

@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <functional>
+#include <map>
 
 namespace morvane {
 
@@ -16,7 +17,8 @@ class ConsoleUser : public UserInterface {
 public:
     struct Settings {
         AnswerPolicy policy = AnswerPolicy::no;
-        bool enterMeansYes = false; ///< what an empty line says when asked
+        bool enterMeansYes = false;            ///< what an empty line says when asked
+        std::map<Question, bool> settled = {}; ///< answers that were given before, by the command line
     };
     explicit ConsoleUser(const Settings& settings);
 
@@ -31,6 +33,7 @@ public:
     void showScreen(Screen) override {}
     void hideScreen(Screen) override {}
     void refreshScreen(Screen) override {}
+    void minimiseProgram() override {}
     void pumpMessages() override;
 
     /// What a modal screen does here; the command that expects one sets it.
@@ -41,6 +44,7 @@ public:
 
 private:
     bool answerOf(const QString& question);
+    bool answerOfPending();
     void endProgressLine();
 
     Settings settings_;

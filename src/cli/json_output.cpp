@@ -4,6 +4,8 @@
 #include "ground/texture_catalogue.h"
 #include "ground/texture_sets.h"
 #include "simulator/originals.h"
+#include "sky/sky_texture_sets.h"
+#include "sky/sky_texture_sub_sets.h"
 #include "weather/metar_decoder.h"
 
 #include <QDir>
@@ -51,6 +53,39 @@ QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator) {
         {u"Description"_s, set.Description},
         {u"CloudCover"_s, set.CloudCover},
         {u"IsDutch"_s, set.IsDutch},
+    };
+}
+
+QJsonObject toJson(const clsSkyTextureSet& set) {
+    return {
+        {u"TextureSetGroup"_s, set.TextureSetGroup},
+        {u"Description"_s, set.Description},
+        {u"Activated"_s, set.Activated},
+        {u"CloudCover"_s, set.CloudCover},
+        {u"IsNew"_s, set.IsNew},
+        {u"Installed"_s, set.Installed},
+        {u"StsID"_s, set.StsID},
+        {u"SkyTextureSet"_s, set.SkyTextureSet},
+    };
+}
+
+QJsonObject toJson(const clsSkyTextureSubSet& subSet) {
+    return {
+        {u"timeOfDay"_s, subSet.timeOfDay},
+        {u"IsNew"_s, subSet.IsNew},
+        {u"StsID"_s, subSet.StsID},
+        {u"StsSubID"_s, subSet.StsSubID},
+        {u"SkyTextureSubSet"_s, subSet.SkyTextureSubSet},
+        {u"GroundDark"_s, subSet.GroundDark},
+        {u"GroundLight"_s, subSet.GroundLight},
+        {u"CloudDark"_s, subSet.CloudDark},
+        {u"CloudLight"_s, subSet.CloudLight},
+        {u"WaterDark"_s, subSet.WaterDark},
+        {u"WaterMain"_s, subSet.WaterMain},
+        {u"WaterLight"_s, subSet.WaterLight},
+        {u"SkyMain"_s, subSet.SkyMain},
+        {u"HorizonLow"_s, subSet.HorizonLow},
+        {u"HorizonHigh"_s, subSet.HorizonHigh},
     };
 }
 

@@ -9,11 +9,15 @@ class clsDecodeMetar;
 class clsTextureSet;
 struct CatalogueFile;
 struct KeptOriginal;
+struct clsSkyTextureSet;
+struct clsSkyTextureSubSet;
 
 /// Records as JSON, properties by their names.
 QJsonObject toJson(const clsDecodeMetar& report);
 /// Numbers of the colour text come with "." whatever separator the record holds.
 QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator);
+QJsonObject toJson(const clsSkyTextureSet& set);
+QJsonObject toJson(const clsSkyTextureSubSet& subSet);
 QJsonObject toJson(const KeptOriginal& original);
 /// The catalogue's four parallel arrays.
 QJsonObject toJson(const std::vector<CatalogueFile>& files);

@@ -7,8 +7,10 @@
 #include "simulator/backups.h"
 #include "simulator/configs.h"
 #include "simulator/resource_folders.h"
-#include "sky/sky_texture_sets.h"
+#include "sky/sky_installation.h"
+#include "sky/sky_sets.h"
 #include "sky/sky_texture_sub_sets.h"
+#include "sky/sky_tuning_state.h"
 #include "weather/wx_finders.h"
 
 #include <algorithm>
@@ -61,16 +63,22 @@ void releaseCollections(Session& session) {
 
 void checkResetTextures(Session& session) {
     if (session.IsFastExit) return;
-    if (!refreshGroundSets(session) || !clsSkyTextureSets::reload(session)) return;
+    if (!refreshGroundSets(session) || !refreshSkySets(session)) return;
     const QString ground = installedCover(*session.gTextureSets, &clsTextureSet::TextureSet);
     const QString sky = installedCover(*session.gSkyTextureSets, &clsSkyTextureSet::SkyTextureSet);
     if (ground.isEmpty() && sky.isEmpty()) return;
     Message question{
         MessageKind::question, u"Reset MV Textures?"_s, resetText(ground, sky), true, true, false};
     question.offersFastExit = true;
-    if (!session.user.ask(Question::reset, question) || ground.isEmpty()) return;
-    session.ground.SelectedGroundSet = defaultSet;
-    GroundInstallation(session).installTextureSet(true);
+    if (!session.user.ask(Question::reset, question)) return;
+    if (!ground.isEmpty()) {
+        session.ground.SelectedGroundSet = defaultSet;
+        GroundInstallation(session).installTextureSet(true);
+    }
+    if (!sky.isEmpty()) {
+        session.sky.SelectedSkySet = defaultSet;
+        SkyInstallation(session).installSkySet(true);
+    }
 }
 
 void exitProgram(Session& session) {
@@ -80,6 +88,7 @@ void exitProgram(Session& session) {
     }
     releaseCollections(session);
     reportFailures(session.user, {}, [&] { clearDownloadedCycles(session); });
+    reportFailures(session.user, {}, [&] { saveLastSkySettings(session); });
     closeDatabase(session);
 }
 

@@ -5,6 +5,7 @@
 #include "core/file_system.h"
 #include "core/user_interface.h"
 #include "imaging/colour_values.h"
+#include "imaging/sky_group.h"
 
 #include <QString>
 #include <QStringList>
@@ -43,6 +44,17 @@ struct ModalState {
     /// frm_SelectTexture: the keys of the choice (see ground/sample_textures.h), and whether OK was pressed.
     QString selectedTextureType, selectedSeason;
     bool sampleConfirmed = false;
+    /// frm_SelectSkyTexture: the base sets ticked, by name (see sky/sky_base_sets.h), sets wanted for the
+    /// cloud covers 1 to 5, and whether OK was pressed.
+    QStringList skyBaseSets;
+    std::array<std::int16_t, 5> skySetCounts{};
+    bool skySetsConfirmed = false;
+    /// frm_SelectBaseSky: whether OK was pressed. The choice itself is in force at its click
+    /// (SkyTuningState).
+    bool baseSkyConfirmed = false;
+    /// frm_flight: the name of the flight clicked last, and whether OK was pressed.
+    QString SelectedFlightName;
+    bool FlightSelected = false;
 };
 
 /// The ground set in hand: written by a selection in the list, read by the actions.
@@ -55,6 +67,27 @@ struct GroundSelection {
     ColourValues colours;
     /// Names of all rows that are selected in the list; the row in hand alone when it was clicked alone.
     QStringList selectedRows;
+};
+
+/// The sky set in hand, in the same way.
+struct SkySelection {
+    QString SelectedSkyKey; ///< "Key:" and the StsID
+    QString SelectedSkySet;
+    bool SelectedSkyActivated = false;
+    QString SelectedSkyCover;
+    QString SelectedSkyDescription;
+    QString SelectedSkyGroup; ///< the base set that it was made from
+    /// Names of all rows that are ticked in the list.
+    QStringList selectedRows;
+};
+
+/// What the colour page of the sky is set to, beside its table of numbers (`skyPaletteGroups`).
+struct SkyTuningState {
+    bool isLoaded = false;          ///< once in a run, from the settings file or as for a first run
+    std::int16_t selectedGroup = 1; ///< 1 to 10
+    QString cloudCover;             ///< at most 15 characters, as the base set
+    std::int16_t cloudIndex = 1;    ///< 1 to 5
+    QString baseSet;
 };
 
 /// Everything that lives from start-up to exit. The entry point owns the one session and hands it on.
@@ -104,7 +137,12 @@ public:
 
     ModalState modal;
     GroundSelection ground;
-    QString SelectedSkySet;
+    SkySelection sky;
+    SkyTuningState skyTuning;
+
+    // Two tables, so that looking at stored sets does not disturb what is being tuned.
+    SkyGroups skyTextureGroups; ///< of the set that is shown or written
+    SkyGroups skyPaletteGroups; ///< of the colour page
 
     std::unique_ptr<Store> adoConn; ///< the one connection; open from start-up to exit
 

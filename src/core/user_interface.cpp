@@ -48,6 +48,14 @@ QString screenName(Screen screen) {
         return u"frm_GroundColorize"_s;
     case Screen::frm_Config:
         return u"frm_Config"_s;
+    case Screen::frm_SkyColorize:
+        return u"frm_SkyColorize"_s;
+    case Screen::frm_SelectSkyTexture:
+        return u"frm_SelectSkyTexture"_s;
+    case Screen::frm_SelectBaseSky:
+        return u"frm_SelectBaseSky"_s;
+    case Screen::frm_flight:
+        return u"frm_flight"_s;
     }
     return {};
 }

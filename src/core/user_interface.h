@@ -39,6 +39,10 @@ enum class Screen {
     frm_SelectTexture,
     frm_GroundColorize,
     frm_Config,
+    frm_SkyColorize,
+    frm_SelectSkyTexture,
+    frm_SelectBaseSky,
+    frm_flight,
 };
 
 /// Names as text, for logs of tests and for windows.
@@ -77,6 +81,8 @@ public:
     virtual void hideScreen(Screen screen) = 0;
     /// Rebuilds what the screen shows: lists, status lines.
     virtual void refreshScreen(Screen screen) = 0;
+    /// Minimises the window that is shown, to make room for the simulator.
+    virtual void minimiseProgram() = 0;
     /// Lets waiting events run: the only place where a click on cancel gets through in a long loop.
     virtual void pumpMessages() = 0;
 

@@ -7,6 +7,7 @@
 #include "ground/colour_settings.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_passes.h"
+#include "simulator/set_removal.h"
 #include "simulator/temp_bitmaps.h"
 
 #include <numeric>
@@ -149,7 +150,7 @@ void GroundGeneration::activateTextureSet() {
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
         if (!refreshGroundSets(session_)) return;
-        if (const QStringList names = selectedNames(); names.size() > 1) {
+        if (const QStringList names = changeableNames(session_.ground.selectedRows); names.size() > 1) {
             activateSeveral(job, names);
         } else if (const auto record = findGroundSet(session_, session_.ground.SelectedGroundSet)) {
             activate(job, *record, {1, 1});
@@ -160,10 +161,7 @@ void GroundGeneration::activateTextureSet() {
 }
 
 void GroundGeneration::activateSeveral(const Job& job, const QStringList& names) {
-    session_.modal.multiNames = names;
-    session_.modal.multiConfirmed.clear();
-    session_.user.showModal(Screen::frm_MultiDelete);
-    const QStringList confirmed = session_.modal.multiConfirmed;
+    const QStringList confirmed = confirmedNames(session_, names);
     int position = 0;
     for (const QString& name : confirmed) {
         const auto record = findGroundSet(session_, name);

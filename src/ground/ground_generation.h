@@ -37,9 +37,6 @@ private:
     void reportDuration(const QTime& start, const QTime& end, int total);
     void endRun(bool fromMain);
 
-    QStringList selectedNames() const;
-    void deleteSingle(bool deactivateMode);
-    void deleteSeveral(const QStringList& names, bool deactivateMode);
     void activateSeveral(const Job& job, const QStringList& names);
     bool activate(const Job& job, const clsTextureSet& record, Counters counters);
 

@@ -1,10 +1,11 @@
 #include "ground/ground_installation.h"
 
-#include "core/failure_report.h"
-#include "core/job.h"
 #include "ground/cloud_cover.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
+#include "simulator/set_choice.h"
+#include "sky/sky_installation.h"
+#include "sky/sky_sets.h"
 
 namespace morvane {
 
@@ -17,41 +18,36 @@ constexpr const char16_t* tropicalPatternsB[] = {u"004b2", u"005b2", u"007b2", u
                                                  u"031b2", u"033b2", u"035b2", u"037b2", u"039b2",
                                                  u"041b2", u"043b2", u"045b2", u"047b2"};
 
+// The refusal speaks of a sky set: the message's own word.
+const InstallationKind groundKind{
+    u"Ground"_s,
+    u"Morvane has detected more than one selection for installation.  You can only select one sky texture "
+    "set to be installed at any one time.  Please check your selection and try again!."_s,
+    u"Would you like Morvane to install a matching Sky Texture set?"_s,
+    Screen::frm_MVTextures,
+    &Session::RefreshGroundList,
+    1};
+
 } // namespace
 
-void GroundInstallation::installTextureSet(bool automatic) {
-    Job job(session_);
-    if (!job) return;
-    filesCopied_ = 0;
-    const bool done = reportFailures(session_.user, {}, [&] {
-        if (!automatic && !mayInstall()) return;
-        if (!refreshGroundSets(session_)) return;
-        if (session_.ground.SelectedGroundSet == defaultSet)
-            installDefaultSet();
-        else
-            installGeneratedSet();
-    });
-    if (!done || session_.CommandLineRun) return;
-    session_.user.refreshScreen(Screen::frm_Main);
-    if (automatic) return;
-    session_.RefreshGroundList = true;
-    session_.user.refreshScreen(Screen::frm_MVTextures);
+GroundInstallation::GroundInstallation(Session& session) : SetInstallation(session, groundKind) {}
+
+void GroundInstallation::installSelectedSet() {
+    if (!refreshGroundSets(session_)) return;
+    if (session_.ground.SelectedGroundSet == defaultSet)
+        installDefaultSet();
+    else
+        installGeneratedSet();
 }
 
-bool GroundInstallation::mayInstall() {
-    if (session_.ground.selectedRows.size() > 1) {
-        // It speaks of a sky set and misspells the title: the message's own words.
-        session_.user.showMessage(
-            {MessageKind::exclamation, u"Multiple Selection Detetected!"_s,
-             u"Morvane has detected more than one selection for installation.  You can only select one sky "
-             u"texture "
-             "set to be installed at any one time.  Please check your selection and try again!."_s,
-             true, false, false});
-        return false;
-    }
-    session_.user.ask(Question::setInstall, u"Install Matching Ground Texture Set?"_s,
-                      u"Would you like Morvane to install a matching Sky Texture set?"_s);
-    return true;
+void GroundInstallation::installMatch(const Job& job) {
+    const clsSkyTextureSets& skies = loadedSkySets(session_);
+    // Without any sky set no sky is touched; a sky that asks for its ground has no such way out. Wanted.
+    if (skies.Count() == 0) return;
+    const QStringList names = namesForCover(activatedSets(skies), session_.ground.SelectedGroundCover);
+    // This draw reaches the last of the skies; a sky's draw of its ground stops short of the last. Wanted.
+    session_.sky.SelectedSkySet = drawName(session_, names, names.size());
+    SkyInstallation(session_).installInside(job);
 }
 
 std::vector<FileCopy> GroundInstallation::copyListOfSet() {
@@ -104,54 +100,13 @@ void GroundInstallation::addTropicalFiles(std::vector<FileCopy>& copies) {
     addMatches(generic, u"an*.agn"_s);
 }
 
-FileCopy GroundInstallation::splashCopy(const CloudCover& cover) const {
-    return {session_.AppPath / u"Media" / cover.splash, splashTarget(session_)};
-}
-
-void GroundInstallation::prepare(SimulatorCopier& copier, std::vector<FileCopy> copies,
-                                 const CloudCover* splash) {
-    if (splash) copies.push_back(splashCopy(*splash));
-    copier.prepare(copies);
-}
-
-void GroundInstallation::showProgress(const QString& tagged) {
-    session_.user.showMessage(
-        {MessageKind::progress, u"Morvane Information"_s,
-         u"Processing your Ground Texture Files.  Please wait until the process has finished.  "
-         "This may take a few moments!"_s,
-         false, false, true});
-    session_.user.setProgressFile(u"Installing "_s + tagged + u" ground textures"_s);
-}
-
-/// No messages are let through and no cancel is read: an install once begun goes through its list.
-void GroundInstallation::copyAll(SimulatorCopier& copier, const std::vector<FileCopy>& copies) {
-    const double step = copies.size() > 1 ? 100.0 / static_cast<double>(copies.size() + 1) : 100.0;
-    double position = 0;
-    for (const FileCopy& copy : copies) {
-        copier.copy(copy);
-        ++filesCopied_;
-        session_.user.updateProgress({}, {}, position += step);
-    }
-}
-
 void GroundInstallation::installGeneratedSet() {
     const QString name = session_.ground.SelectedGroundSet;
     const std::vector<FileCopy> copies = copyListOfSet();
     // The store says "installed" before the first file is copied, also when the copying then fails.
     if (!loadedGroundSets(session_).markInstalled(name)) return;
     const auto record = findGroundSet(session_, name);
-    const QString word = record ? record->CloudCover : QString();
-    const CloudCover* cover = cloudCover(word);
-    const bool withSplash = cover && !session_.InhibitCustomSplash;
-
-    SimulatorCopier copier(session_);
-    prepare(copier, copies, withSplash ? cover : nullptr);
-    if (withSplash) copier.copy(splashCopy(*cover));
-    showProgress(word + (cover ? cover->tag : QString()));
-    copyAll(copier, copies);
-    copier.finish();
-    session_.user.updateProgress({}, {}, 100);
-    session_.user.hideMessage();
+    putSet(record ? record->CloudCover : QString(), copies);
 }
 
 void GroundInstallation::installDefaultSet() {
@@ -166,9 +121,7 @@ void GroundInstallation::installDefaultSet() {
     copyAll(copier, copies);
     // Once more, whatever the option says: "Default" always shows the nominal splash. Wanted.
     copier.copy(splashCopy(nominal));
-    copier.finish();
-    session_.user.updateProgress({}, {}, 100);
-    session_.user.hideMessage();
+    finish(copier);
 }
 
 QString tropicalName(const QString& name) {

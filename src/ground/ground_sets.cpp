@@ -1,12 +1,11 @@
 #include "ground/ground_sets.h"
 
-#include "core/numbers.h"
+#include "core/set_collections.h"
 
 namespace morvane {
 
 clsTextureSets& loadedGroundSets(Session& session) {
-    if (!session.gTextureSets) clsTextureSets::reload(session);
-    return *session.gTextureSets;
+    return loadedCollection(session, session.gTextureSets);
 }
 
 bool refreshGroundSets(Session& session) {
@@ -14,9 +13,7 @@ bool refreshGroundSets(Session& session) {
 }
 
 std::shared_ptr<const clsTextureSet> findGroundSet(Session& session, const QString& name) {
-    for (const auto& set : loadedGroundSets(session))
-        if (trimmedBlanks(set->TextureSet) == trimmedBlanks(name)) return set;
-    return nullptr;
+    return findTrimmedName(loadedGroundSets(session), name);
 }
 
 } // namespace morvane

@@ -3,11 +3,12 @@
 #include "core/error.h"
 #include "core/failure_report.h"
 #include "core/numbers.h"
-#include "core/options.h"
 #include "ground/cloud_cover.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
-#include "ground/no_repeat.h"
+#include "simulator/simulator_launch.h"
+#include "sky/sky_installation.h"
+#include "sky/sky_sets.h"
 #include "weather/metar_decoder.h"
 
 #include <algorithm>
@@ -30,10 +31,6 @@ int strengthValue(const QString& element) {
     const QString text = trimmedBlanks(element);
     if (text == u"Light" || text == u"Moderate") return 1;
     return text == u"Heavy" ? 2 : 0;
-}
-
-bool isActivatedFor(const clsTextureSet& set, const QString& cover) {
-    return set.Actvated == flagText(true) && trimmedBlanks(set.CloudCover) == trimmedBlanks(cover);
 }
 
 } // namespace
@@ -75,48 +72,45 @@ QString SetMatching::getClosestCloudCover(const QString& cover) {
     return known ? cloudCover(next[known->number - 1])->word : QString();
 }
 
-int SetMatching::getRandomIndex(int upper) {
-    clsNoRepeat draws(session_.user, session_.random);
-    const auto numbers = draws.Non_Repeating_Numbers(1, upper, 0);
-    return numbers ? numbers->front() : 0;
-}
-
-QString SetMatching::chooseGroundSet(const QString& cover) {
-    QStringList candidates;
-    for (const auto& set : *session_.gTextureSets)
-        if (isActivatedFor(*set, cover)) candidates << QString::number(set->TsID);
-    if (!candidates.isEmpty()) {
-        // The draw stops short of the upper index, so the last candidate never comes, and of two always the
-        // first. It stays as it is.
-        const int upper = static_cast<int>(candidates.size()) - 1;
-        return session_.gTextureSets->GetKey(candidates[upper == 0 ? 0 : getRandomIndex(upper)])->TextureSet;
-    }
-    session_.user.showMessage({MessageKind::information, u"No Activated Ground Texture Sets"_s,
-                               u"you have no activated ground texture sets equivalent to "_s + cover +
-                                   u" MV will now install the closest ground texture set to "_s + cover,
+QString SetMatching::chooseSet(const MatchedKind& kind, const QString& cover) {
+    const QStringList names = namesForCover(kind.sets, cover);
+    // The draw stops short of the upper index, so the last candidate never comes, and of two always the
+    // first. It stays as it is.
+    if (!names.isEmpty()) return drawName(session_, names, names.size() - 1);
+    session_.user.showMessage({MessageKind::information, u"No Activated %1 Texture Sets"_s.arg(kind.word),
+                               u"you have no activated %1 texture sets equivalent to %2 MV will now install "
+                               "the closest %1 texture set to %2"_s.arg(kind.word.toLower(), cover),
                                true, false, false});
-    return closestGroundSet(cover);
+    return closestSet(kind.sets, kind.search, cover);
 }
 
-QString SetMatching::closestGroundSet(const QString& cover) {
+QString SetMatching::closestSet(const std::vector<ActivatedSet>& sets, ClosestSearch search,
+                                const QString& cover) {
     QString current = cover;
     for (int round = 0; round < 4; ++round) {
-        current = getClosestCloudCover(current);
-        for (const auto& set : *session_.gTextureSets)
-            if (isActivatedFor(*set, current)) return set->TextureSet;
+        const QString next = getClosestCloudCover(current);
+        // The sky's rounds lag one word behind: its first one repeats the cover itself. Wanted.
+        const QStringList names = namesForCover(sets, search == ClosestSearch::nextWord ? next : current);
+        if (!names.isEmpty()) return names.front();
+        current = next;
     }
-    return {};
+    return u"Default"_s;
 }
 
 void SetMatching::installMatchingSets(const QString& cover) {
     // The kind is misspelt here and nowhere else in this file: it names an icon of its own.
     reportFailures(session_.user, {u"getIcaoWxDetails Error"_s, MessageKind::exlamation}, [&] {
-        loadedGroundSets(session_);
-        const QString name = chooseGroundSet(cover);
-        session_.ground.SelectedGroundSet = name.isEmpty() ? u"Default"_s : name;
-        GroundInstallation installation(session_);
-        installation.installTextureSet(true);
-        filesCopied_ = installation.filesCopied();
+        const auto grounds = activatedSets(loadedGroundSets(session_));
+        const auto skies = activatedSets(loadedSkySets(session_));
+        const QString ground = chooseSet({u"Ground"_s, grounds, ClosestSearch::nextWord}, cover);
+        const QString sky = chooseSet({u"Sky"_s, skies, ClosestSearch::currentWord}, cover);
+        session_.ground.SelectedGroundSet = ground;
+        GroundInstallation groundInstallation(session_);
+        groundInstallation.installTextureSet(true);
+        session_.sky.SelectedSkySet = sky;
+        SkyInstallation skyInstallation(session_);
+        skyInstallation.installSkySet(true);
+        filesCopied_ = groundInstallation.filesCopied() + skyInstallation.filesCopied();
     });
 }
 
@@ -135,7 +129,10 @@ bool processMetarString(Session& session, const QString& metar) {
 int flyNow(Session& session) {
     session.CoverCancelled = false;
     SetMatching matching(session);
-    return matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
+    const int copied = matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
+    if (!session.CoverCancelled) startSavedFlight(session);
+    if (!session.CoverCancelled && !session.modal.FlightSelected) launchFlightSimulator(session);
+    return copied;
 }
 
 } // namespace morvane

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "core/session.h"
+#include "simulator/set_choice.h"
 
 namespace morvane {
 
-/// Turns the weather of a flight into one cloud-cover word and installs an activated set that fits it.
+/// Turns the weather of a flight into one cloud-cover word and installs activated sets that fit it: a ground
+/// set first, then a sky set, each "Default" when there is none.
 class SetMatching {
 public:
     explicit SetMatching(Session& session) : session_(session) {}
@@ -18,15 +19,24 @@ public:
 
     /// The next word to try, one step away; empty for an unknown word.
     static QString getClosestCloudCover(const QString& cover);
+    /// Which word of a round the search below compares with the sets.
+    enum class ClosestSearch { nextWord, currentWord };
+    /// Walks the covers from that one on, four rounds at most, and gives the first set of the first round
+    /// that has any; "Default" when none has.
+    static QString closestSet(const std::vector<ActivatedSet>& sets, ClosestSearch search,
+                              const QString& cover);
     /// The word of a class: 1 to 5, above that "Overcast", below it "Partly Cloudy".
     static QString coverWord(int cloudClass);
 
     int filesCopied() const { return filesCopied_; }
 
 private:
-    QString chooseGroundSet(const QString& cover);
-    QString closestGroundSet(const QString& cover);
-    int getRandomIndex(int upper);
+    struct MatchedKind {
+        QString word; ///< "Ground" or "Sky", in the message
+        std::vector<ActivatedSet> sets;
+        ClosestSearch search;
+    };
+    QString chooseSet(const MatchedKind& kind, const QString& cover);
 
     Session& session_;
     int filesCopied_ = 0;
@@ -36,7 +46,8 @@ private:
 /// message that told so, for a report without a cloud group; the list then holds "0".
 bool processMetarString(Session& session, const QString& metar);
 
-/// The road of the Fly Now button from the chosen weather on: the question and the install.
+/// The road of the Fly Now button from the chosen weather on: the question and the install, a saved flight,
+/// the simulator.
 /// Returns what was installed for reports: files copied, or -1 when the user said no.
 int flyNow(Session& session);
 

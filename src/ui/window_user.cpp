@@ -97,6 +97,10 @@ void WindowUser::refreshScreen(Screen screen) {
         host->formatList();
 }
 
+void WindowUser::minimiseProgram() {
+    shell_->minimiseProgram();
+}
+
 void WindowUser::pumpMessages() {
     QCoreApplication::processEvents();
 }

@@ -26,6 +26,7 @@ public:
     void showScreen(Screen screen) override;
     void hideScreen(Screen screen) override;
     void refreshScreen(Screen screen) override;
+    void minimiseProgram() override;
     void pumpMessages() override;
 
 private:

@@ -34,7 +34,7 @@ TEST_F(BadInstall, aMissingOneIsToldAndNotMade) {
     for (const QString& command : commandsOnAnInstall) {
         const auto run = test::runConsole(u"--home"_s, QStringList{missing.native()} + command.split(u' '));
         EXPECT_EQ(run.status, 1) << command.toStdString();
-        EXPECT_TRUE(run.messages.contains(u"Your registry does not contain the proper path to FS9.EXE."_s));
+        EXPECT_TRUE(run.messages.contains(u"The install folder does not exist: "_s));
         EXPECT_FALSE(install.files.exists(missing));
     }
 }

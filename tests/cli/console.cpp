@@ -2,6 +2,7 @@
 
 #include "core/application.h"
 #include "ground/ground_sets.h"
+#include "sky/sky_sets.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -23,6 +24,15 @@ bool catchesInterrupts(qint64 process) {
         if (line.startsWith("SigCgt:"))
             return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGINT - 1) & 1) != 0;
     return false;
+}
+
+template <class Record>
+QString statesOf(const KeyedCollection<Record>& sets, QString Record::*activated) {
+    QStringList names;
+    for (const auto& set : sets)
+        names << nameOf(*set) + ((*set).*activated == u"True" ? u"+"_s : QString()) +
+                     (set->Installed ? u"*"_s : QString());
+    return names.join(u' ');
 }
 
 QStringList wordsOf(const QString& commandLine) {
@@ -113,12 +123,24 @@ void ConsoleInstall::addSet(const QString& name, const QString& cover, bool acti
 QString ConsoleInstall::sets() {
     connectDatabase(session);
     reload();
-    QStringList names;
-    for (const auto& set : *session.gTextureSets)
-        names << set->TextureSet + (set->Actvated == u"True" ? u"+"_s : QString()) +
-                     (set->Installed ? u"*"_s : QString());
+    const QString names = statesOf(*session.gTextureSets, &clsTextureSet::Actvated);
     closeDatabase(session);
-    return names.join(u' ');
+    return names;
+}
+
+void ConsoleInstall::addSky(const QString& name, const QString& cover, bool activated,
+                            const QStringList& names) {
+    connectDatabase(session);
+    addSkySet(name, cover, activated, names);
+    closeDatabase(session);
+}
+
+QString ConsoleInstall::skies() {
+    connectDatabase(session);
+    reload();
+    const QString names = statesOf(*session.gSkyTextureSets, &clsSkyTextureSet::Activated);
+    closeDatabase(session);
+    return names;
 }
 
 QStringList ConsoleInstall::setFolders() const {

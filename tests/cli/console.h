@@ -53,6 +53,10 @@ public:
                 const QStringList& names = {u"Texture\\029h2su6.bmp"_s});
     /// Names of all sets in the store with "+" behind an activated and "*" behind an installed one.
     QString sets();
+    void addSky(const QString& name, const QString& cover, bool activated = true,
+                const QStringList& names = {u"day.bmp"_s});
+    /// The same of the sky sets.
+    QString skies();
     /// Names of the folders of sets.
     QStringList setFolders() const;
 };

@@ -1,6 +1,7 @@
 #include "core/application.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
+#include "sky/sky_installation.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -13,10 +14,11 @@ using test::SmallInstall;
 
 struct ExitQuestion : testing::Test {
     SmallInstall install;
+    Session& session = install.session;
 
     void put(const QString& name) {
-        install.session.ground.SelectedGroundSet = name;
-        GroundInstallation(install.session).installTextureSet(true);
+        session.ground.SelectedGroundSet = name;
+        GroundInstallation(session).installTextureSet(true);
         install.user.messages.clear();
     }
 };
@@ -24,7 +26,7 @@ struct ExitQuestion : testing::Test {
 TEST_F(ExitQuestion, comesForASetOfAWeatherAndPutsDefaultBack) {
     install.addGroundSet("2-Storm", "Overcast", true);
     put("2-Storm");
-    checkResetTextures(install.session);
+    checkResetTextures(session);
     EXPECT_EQ(install.user.told(),
               QStringList(
                   {"Question|Reset MV Textures?|Morvane has detected that you have 'Overcast' Ground Texture "
@@ -34,25 +36,53 @@ TEST_F(ExitQuestion, comesForASetOfAWeatherAndPutsDefaultBack) {
     EXPECT_EQ(install.installedSets(), QStringList({"Default"}));
 }
 
+TEST_F(ExitQuestion, namesWhatStandsThereAndResetsThatOnly) {
+    install.addGroundSet("2-Storm", "Overcast", true);
+    install.addSkySet("Default", "Partly Cloudy", true);
+    install.addSkySet("2-Calm", "Sky Clear", true);
+    const QString start = "Question|Reset MV Textures?|Morvane has detected that you have ";
+    const QString end = " Sky Texture Set installed. Please select the check button if you wish to reset "
+                        "Morvane textures to a nominal weather condition of Partly Cloudy before exiting.";
+    const std::pair<QString, QString> cases[] = {
+        {"Default", "'Sky Clear'"}, {"2-Storm", "'Overcast' Ground Texture Set installed and 'Sky Clear'"}};
+    for (const auto& [ground, text] : cases) {
+        put(ground);
+        session.sky.SelectedSkySet = "2-Calm";
+        SkyInstallation(session).installSkySet(true);
+        install.user.messages.clear();
+        install.user.calls.clear();
+        checkResetTextures(session);
+        EXPECT_EQ(install.user.told(), QStringList{start + text + end});
+        EXPECT_EQ(install.installedSets(), QStringList{"Default"});
+        EXPECT_EQ(install.installedSkySets(), QStringList{"Default"});
+        const qsizetype grounds = install.user.calls.filter("ground textures").size();
+        EXPECT_EQ(grounds, ground == "Default" ? 0 : 1) << "a ground that needs no reset is left alone";
+    }
+    put("2-Storm");
+    install.user.calls.clear();
+    checkResetTextures(session);
+    EXPECT_EQ(install.user.calls.filter("sky textures").size(), 0);
+}
+
 TEST_F(ExitQuestion, aNoKeepsTheSet) {
     install.addGroundSet("2-Storm", "Overcast", true);
     put("2-Storm");
     install.user.otherwise = false;
-    checkResetTextures(install.session);
+    checkResetTextures(session);
     EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
 }
 
 TEST_F(ExitQuestion, isNotAskedWithoutNeed) {
-    checkResetTextures(install.session); // nothing installed
+    checkResetTextures(session); // nothing installed
     put("Default");
-    checkResetTextures(install.session);
+    checkResetTextures(session);
     install.addGroundSet("2-Storm", "Overcast", true);
     put("2-Storm");
-    install.session.IsFastExit = true;
-    checkResetTextures(install.session);
-    install.session.IsFastExit = false;
-    install.session.CommandLineRun = true;
-    exitProgram(install.session);
+    session.IsFastExit = true;
+    checkResetTextures(session);
+    session.IsFastExit = false;
+    session.CommandLineRun = true;
+    exitProgram(session);
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 

@@ -2,6 +2,8 @@
 
 #include "core/error.h"
 #include "core/store.h"
+#include "ground/cloud_cover.h"
+#include "sky/sky_sets.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -16,6 +18,11 @@ struct SetMatchingTest : testing::Test {
     SmallInstall install;
     Session& session = install.session;
 
+    /// One sky for each cover, so that nothing is said of skies and none is drawn.
+    void addSkies() {
+        for (int number = 1; number <= cloudCoverCount; ++number)
+            install.addSkySet(cloudCover(number)->code, cloudCover(number)->word, true);
+    }
     /// Sets of their names and covers, all activated.
     void addSets(const std::vector<std::pair<QString, QString>>& sets) {
         for (const auto& [name, cover] : sets)
@@ -27,6 +34,12 @@ struct SetMatchingTest : testing::Test {
         const QString statement = u"UPDATE TEXTURE_SETS SET ACTIVATED = '%1' WHERE TEXTURE_SET = '%2'"_s;
         session.adoConn->execute(statement.arg(word, name));
         install.reload();
+    }
+    QString matchedSky(const QString& cover) {
+        SetMatching(session).installMatchingSets(cover);
+        const QStringList installed = install.installedSkySets();
+        EXPECT_EQ(installed, QStringList{session.sky.SelectedSkySet}) << cover.toStdString();
+        return installed.value(0);
     }
     QString matched(const QString& cover) {
         SetMatching(session).installMatchingSets(cover);
@@ -42,6 +55,7 @@ TEST_F(SetMatchingTest, candidatesAreDrawnButNeverTheLast) {
         double draw;
         QString expected;
     };
+    addSkies();
     addSets({{u"A"_s, u"Overcast"_s},
              {u"B"_s, u" Overcast "_s},
              {u"C"_s, u"Overcast"_s},
@@ -77,6 +91,7 @@ TEST(ClosestCloudCover, isOneStepAwayAndBouncesInTheMiddle) {
 }
 
 TEST_F(SetMatchingTest, theClosestSetWinsWithoutADraw) {
+    addSkies();
     setActivation(u"Default"_s, u"False"_s);
     addSets(
         {{u"Rain"_s, u"Mostly Cloudy"_s}, {u"Drizzle"_s, u"Mostly Cloudy"_s}, {u"Sun"_s, u"Sky Clear"_s}});
@@ -117,6 +132,64 @@ TEST_F(SetMatchingTest, theAverageCountsCloudsAndStrengths) {
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
+TEST_F(SetMatchingTest, skiesAreDrawnLikeGroundsButNeverTheLast) {
+    install.addSkySet(u"A"_s, u"Overcast"_s, true, {u"cloud.bmp"_s});
+    install.addSkySet(u"B"_s, u" Overcast"_s, true);
+    install.addSkySet(u"C"_s, u"Overcast"_s, true);
+    install.addSkySet(u"D"_s, u"Sky Clear"_s, false);
+    install.addSkySet(u"E"_s, u"Sky Clear"_s, true);
+    addSets({{u"G"_s, u"Overcast"_s}, {u"H"_s, u"Sky Clear"_s}});
+    const std::tuple<QString, double, QString> cases[] = {
+        {u"Overcast"_s, 0.49, u"A"_s}, {u"Overcast"_s, 0.999999, u"B"_s}, {u"Sky Clear"_s, 0.999999, u"E"_s}};
+    for (const auto& [cover, draw, expected] : cases) {
+        install.random.numbers = {draw};
+        EXPECT_EQ(matchedSky(cover), expected) << draw;
+    }
+    EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_EQ(test::readFile(install.simulator() / u"Texture\\cloud.bmp"), "A cloud.bmp");
+}
+
+TEST_F(SetMatchingTest, aSkyIsSearchedForWhereTheGroundIsFound) {
+    setActivation(u"Default"_s, u"False"_s);
+    addSets({{u"Haze"_s, u"Overcast"_s}});
+    install.addSkySet(u"Default"_s, u"Partly Cloudy"_s, false);
+    install.addSkySet(u"Sun"_s, u"Sky Clear"_s, true);
+    EXPECT_EQ(matchedSky(u"Overcast"_s), u"Default"_s);
+    install.addSkySet(u"Rain"_s, u"Mostly Cloudy"_s, true);
+    EXPECT_EQ(matchedSky(u"Overcast"_s), u"Rain"_s);
+    const QString said =
+        u"Information|No Activated Sky Texture Sets|you have no activated sky texture sets "
+        u"equivalent to Overcast MV will now install the closest sky texture set to Overcast"_s;
+    EXPECT_EQ(install.user.told(), QStringList({said, said}));
+}
+
+TEST_F(SetMatchingTest, aFarGroundAndAFittingSkyAreToldOfTheGroundOnly) {
+    install.addSkySet(u"Rain"_s, u"Overcast"_s, true, {u"cloud.bmp"_s, u"sky.bmp"_s});
+    session.WxCloudList = QStringList{u"5"_s};
+    session.WxStrengthList = QStringList{QString()};
+    install.user.answersToGive = {true}; // no flight, no start
+    install.user.otherwise = false;
+    EXPECT_EQ(flyNow(session), 6) << "four of the ground's \"Default\", two of the sky";
+    EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
+    EXPECT_EQ(install.installedSkySets(), QStringList{u"Rain"_s});
+    EXPECT_EQ(install.user.countOfKind(MessageKind::information), 1);
+    EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "splash OVC");
+    const QStringList files = install.user.calls.filter(u"file Installing"_s);
+    EXPECT_EQ(files, QStringList({u"file Installing Partly Cloudy (SCT) ground textures"_s,
+                                  u"file Installing Overcast (OVC) sky textures"_s}));
+}
+
+TEST(ClosestSet, comparesTheNextWordForTheGroundAndTheCurrentOneForTheSky) {
+    using Search = SetMatching::ClosestSearch;
+    const std::vector<ActivatedSet> sets{{u"Rain"_s, u"Overcast"_s}, {u"Drizzle"_s, u"Mostly Cloudy"_s}};
+    EXPECT_EQ(SetMatching::closestSet(sets, Search::nextWord, u"Overcast"_s), u"Drizzle"_s);
+    EXPECT_EQ(SetMatching::closestSet(sets, Search::currentWord, u"Overcast"_s), u"Rain"_s);
+    for (const Search search : {Search::nextWord, Search::currentWord}) {
+        EXPECT_EQ(SetMatching::closestSet(sets, search, u"Sky Clear"_s), u"Drizzle"_s) << "three words on";
+        EXPECT_EQ(SetMatching::closestSet(sets, search, u"Foggy"_s), u"Default"_s);
+    }
+}
+
 /// A random source that fails, so that the choice of a set does.
 struct BrokenRandom : RandomSource {
     double draw() override { throw Error(ErrorCode::overflow); }
@@ -146,7 +219,7 @@ TEST_F(SetMatchingTest, theQuestionNamesItsSourceAndNoInstallsNothing) {
     install.user.otherwise = false;
     session.WxCloudList = QStringList{u"5"_s};
     session.WxStrengthList = QStringList{QString()};
-    EXPECT_EQ(flyNow(session), -1);
+    EXPECT_FALSE(SetMatching(session).askInstallMatchingSets());
     session.CommandLineRun = true;
     EXPECT_FALSE(SetMatching(session).askInstallMatchingSets());
     EXPECT_EQ(install.user.told(), QStringList({start + u"?"_s, start + u" from Active Sky?"_s}));
@@ -155,18 +228,21 @@ TEST_F(SetMatchingTest, theQuestionNamesItsSourceAndNoInstallsNothing) {
 }
 
 TEST_F(SetMatchingTest, aYesInstallsWhatTheWeatherAsksFor) {
+    addSkies();
     addSets({{u"Rain"_s, u"Overcast"_s}, {u"Sun"_s, u"Sky Clear"_s}});
     ASSERT_TRUE(processMetarString(session, u"  EHAM 241225Z 24015KT 9999 SKC 18/09 Q1012 "_s));
     EXPECT_EQ(session.WxCloudList, QStringList{u"1"_s});
     EXPECT_EQ(session.WxStrengthList, QStringList{QString()});
     EXPECT_EQ(flyNow(session), 1);
     EXPECT_EQ(install.installedSets(), QStringList{u"Sun"_s});
+    EXPECT_EQ(install.installedSkySets(), QStringList{u"CLR"_s});
 
     // An obscured sky keeps its 6 in the list and then counts as "Partly Cloudy".
     ASSERT_TRUE(processMetarString(session, u"EHAM 241225Z 24015KT 0100 FG VV001 18/18 Q1012"_s));
     EXPECT_EQ(session.WxCloudList, QStringList{u"6"_s});
     flyNow(session);
     EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
+    EXPECT_EQ(install.installedSkySets(), QStringList{u"SCT"_s});
 }
 
 TEST_F(SetMatchingTest, aReportWithoutCloudsIsRefusedAndLeavesZeroInTheList) {

@@ -62,6 +62,11 @@ void ScriptedUser::refreshScreen(Screen screen) {
     calls << u"refresh "_s + screenName(screen);
 }
 
+void ScriptedUser::minimiseProgram() {
+    calls << u"minimise"_s;
+    onMinimise();
+}
+
 void ScriptedUser::pumpMessages() {
     onPump();
 }

@@ -23,6 +23,7 @@ public:
     void showScreen(Screen screen) override;
     void hideScreen(Screen screen) override;
     void refreshScreen(Screen screen) override;
+    void minimiseProgram() override;
     void pumpMessages() override;
 
     /// Answers of questions and system boxes, first to last; after the last one `otherwise` is given.
@@ -31,6 +32,7 @@ public:
     std::deque<QString> foldersToChoose;
     std::function<void(Screen)> onModal = [](Screen) {};
     std::function<void()> onPump = [] {};
+    std::function<void()> onMinimise = [] {};
 
     /// What was shown, in order. Calls are lines such as "hide frm_Main", "progress 50", "file Processing
     /// ...".

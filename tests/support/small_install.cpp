@@ -5,6 +5,7 @@
 #include "core/store.h"
 #include "core/store_schema.h"
 #include "ground/ground_sets.h"
+#include "sky/sky_sets.h"
 
 #include <QBuffer>
 #include <QDirIterator>
@@ -33,6 +34,31 @@ void addSetRow(RowSet& rows, const QString& name, const QString& cover, bool act
     rows.setFlag(u"DUTCH", true);
     rows.setFlag(u"INSTALLED", false);
     rows.update();
+}
+
+void addSkyColours(Store& store, int key, const QString& name) {
+    const std::pair<QString, QString> regions[] = {
+        {u"DARK_GROUND"_s, u"1:1:32"_s},   {u"LIGHT_GROUND"_s, u"2:2:32"_s}, {u"DARK_CLOUD"_s, u"3:3:32"_s},
+        {u"LIGHT_CLOUD"_s, u"4:4:32"_s},   {u"DARK_WATER"_s, u"5:5:32"_s},   {u"MAIN_WATER"_s, u"6:31:32"_s},
+        {u"LIGHT_WATER"_s, u"32:32:32"_s}, {u"HIGH_HORIZON"_s, u"1:32:2"_s}, {u"LOW_HORIZON"_s, u"1:32:1"_s}};
+    RowSet rows(store, u"SELECT * FROM SKY_TEXTURE_SUB_SETS"_s);
+    rows.addNew();
+    rows.setNumber(u"TEXTURE_SET_ID", key);
+    rows.setText(u"SKY_TEXTURE_SUB_SET", u"Day:"_s + name);
+    rows.setText(u"TIME_OF_DAY", u"Day"_s);
+    for (const auto& [column, region] : regions)
+        rows.setText(column, u"0:0:0:0:0:0:"_s + region);
+    rows.setText(u"MAIN_SKY", u"0:50:0:0:0:0:1:32:255"_s);
+    rows.update();
+}
+
+/// `column` is the name column of the table of nearly the same name.
+QStringList installedNames(Store& store, const QString& column) {
+    RowSet rows(store, u"SELECT * FROM %1S"_s.arg(column));
+    QStringList names;
+    for (; !rows.atEnd(); rows.next())
+        if (rows.flag(u"INSTALLED")) names << rows.text(column);
+    return names;
 }
 
 QByteArray makeStore() {
@@ -64,14 +90,15 @@ const QByteArray& storeBytes() {
 
 void makeFolders(const FilePath& home, const FilePath& simulator) {
     NativeFileSystem files;
-    for (const char16_t* name : {u"Media", u"Texture Sets", u"TempBitmaps\\Texture", u"TempBitmaps\\UTEurLC",
-                                 u"TempBitmaps\\Dutch", u"Backup", u"METAR"})
+    for (const char16_t* name : {u"Media", u"Texture Sets", u"Sky Texture Sets", u"TempBitmaps\\Texture",
+                                 u"TempBitmaps\\UTEurLC", u"TempBitmaps\\Dutch", u"Backup", u"METAR"})
         files.makeFolder(home / name);
     for (const char16_t* name : {u"SKC", u"FEW", u"SCT", u"BKN", u"OVC"})
         writeFile(home / u"Media" / (u"dlgSplash"_s + QStringView(name).toString() + u".bmp"_s),
                   "splash " + QStringView(name).toUtf8());
     writeFile(simulator / u"fs9.exe", "MZ");
     writeFile(simulator / u"Uires\\dlgsplash.bmp", "the pilot's splash");
+    files.makeFolder(simulator / u"Texture");
     files.makeFolder(simulator / u"Scenery\\World\\texture");
     files.makeFolder(simulator / u"Scenery\\UTEurLC\\Texture");
 }
@@ -140,17 +167,38 @@ int SmallInstall::addGroundSet(const QString& name, const QString& cover, bool a
     return findGroundSet(session, name)->TsID;
 }
 
+int SmallInstall::addSkySet(const QString& name, const QString& cover, bool activated,
+                            const QStringList& names, const QString& baseSet) {
+    RowSet rows(*session.adoConn, u"SELECT * FROM SKY_TEXTURE_SETS"_s);
+    rows.addNew();
+    rows.setText(u"SKY_TEXTURE_SET", name);
+    rows.setText(u"CLOUD_COVER", cover);
+    rows.setText(u"ACTIVATED", activated ? u"True"_s : u"False"_s);
+    rows.setText(u"DESCRIPTION", u"A sky of a test"_s);
+    rows.setText(u"TEXTURE_SET_GROUP", baseSet);
+    rows.setFlag(u"INSTALLED", false);
+    rows.update();
+    for (const QString& file : names)
+        writeFile(home() / u"Sky Texture Sets" / name / file, name.toUtf8() + ' ' + file.toUtf8());
+    reload();
+    const std::int16_t key = findSkySet(session, name)->StsID;
+    addSkyColours(*session.adoConn, key, name);
+    return key;
+}
+
 QStringList SmallInstall::installedSets() {
-    RowSet rows(*session.adoConn, u"SELECT * FROM TEXTURE_SETS"_s);
-    QStringList names;
-    for (; !rows.atEnd(); rows.next())
-        if (rows.flag(u"INSTALLED")) names << rows.text(u"TEXTURE_SET");
-    return names;
+    return installedNames(*session.adoConn, u"TEXTURE_SET"_s);
+}
+
+QStringList SmallInstall::installedSkySets() {
+    return installedNames(*session.adoConn, u"SKY_TEXTURE_SET"_s);
 }
 
 void SmallInstall::reload() {
     session.gTextureSets.reset();
     loadedGroundSets(session);
+    session.gSkyTextureSets.reset();
+    loadedSkySets(session);
 }
 
 } // namespace morvane::test

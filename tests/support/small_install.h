@@ -27,8 +27,12 @@ public:
     /// contents. Returns the key.
     int addGroundSet(const QString& name, const QString& cover, bool activated,
                      const QStringList& files = {});
+    /// The same of SKY_TEXTURE_SETS, with a "Day" row of neutral colours but for red in the main sky.
+    int addSkySet(const QString& name, const QString& cover, bool activated, const QStringList& files = {},
+                  const QString& baseSet = u"Default"_s);
     /// Names of sets in the store with INSTALLED true.
     QStringList installedSets();
+    QStringList installedSkySets();
     /// Drops what is in memory and reads the store anew.
     void reload();
 

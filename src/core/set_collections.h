@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/keyed_collection.h"
+#include "core/session.h"
+
+namespace morvane {
+
+/// The session's collection of that kind, loaded when it is not there yet. Raises when it cannot be had at
+/// all.
+template <class Collection>
+Collection& loadedCollection(Session& session, std::unique_ptr<Collection>& global) {
+    if (!global) Collection::reload(session);
+    return *global;
+}
+
+/// The first record of that name, both trimmed; nothing when there is none.
+template <class Record>
+std::shared_ptr<const Record> findTrimmedName(const KeyedCollection<Record>& records, const QString& name) {
+    for (const auto& record : records)
+        if (trimmedBlanks(nameOf(*record)) == trimmedBlanks(name)) return record;
+    return nullptr;
+}
+
+} // namespace morvane

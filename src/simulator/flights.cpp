@@ -1,0 +1,109 @@
+#include "simulator/flights.h"
+
+#include "core/failure_report.h"
+#include "core/ini_file.h"
+#include "core/numbers.h"
+#include "core/options.h"
+#include "core/safe_copy.h"
+
+namespace morvane {
+
+const QString flightsProgressText = u"Loading saved flights data into Morvane\n"
+                                    "This may take a few moments.  Please wait........"_s;
+
+namespace {
+
+const QString flightMask = u"*.flt"_s, flightEnding = u".flt"_s, weatherEnding = u".wx"_s;
+const QString section = u"Flights"_s, totalKey = u"total"_s;
+
+FilePath flightsFolder(const Session& session) {
+    return session.AppPath / u"Flights";
+}
+
+FilePath listFile(const Session& session) {
+    return flightsFolder(session) / u"flights.cfg";
+}
+
+/// Cut at the first ".flt": wanted, "A.flt.old.flt" stands for the flight "A".
+QString baseName(const QString& fileName) {
+    return fileName.left(fileName.indexOf(flightEnding, 0, Qt::CaseInsensitive));
+}
+
+/// Weather that has lost its flight stays as long as no flight is there.
+void removeCopies(Session& session) {
+    const FilePath folder = flightsFolder(session);
+    const QStringList flights = session.files.list(folder, flightMask);
+    if (flights.isEmpty()) return;
+    for (const QString& name : flights + session.files.list(folder, u"*.wx"_s))
+        session.files.remove(folder.child(name));
+}
+
+void copyFlights(Session& session, const FilePath& source) {
+    const FilePath target = flightsFolder(session);
+    for (const QString& fileName : session.files.list(source, flightMask)) {
+        const QString name = baseName(fileName);
+        if (trimmedBlanks(name).isEmpty()) continue; // the list could not hold it
+        for (const QString& ending : {flightEnding, weatherEnding})
+            if (session.files.exists(source.child(name + ending)))
+                replaceFile(session.files, source.child(name + ending), target.child(name + ending));
+    }
+}
+
+/// Empty when the user named none.
+FilePath userFolder(Session& session) {
+    if (!session.MyDocumentsPath.isEmpty()) {
+        const FilePath usual = FilePath(session.MyDocumentsPath) / u"Flight Simulator Files";
+        if (session.files.isFolder(usual)) return usual;
+    }
+    return FilePath(getNonEnglishPath(session));
+}
+
+/// Entries of an older list beyond the new total stay in the file, unread. Written at one go, as a pilot may
+/// have hundreds.
+void writeList(Session& session) {
+    const FilePath file = listFile(session);
+    IniFile list = session.files.exists(file) ? IniFile::parse(session.files.read(file)) : IniFile();
+    const QStringList flights = session.files.list(flightsFolder(session), flightMask);
+    list.setRawValue(section, totalKey, QString::number(flights.size()));
+    for (qsizetype i = 0; i < flights.size(); ++i)
+        list.setRawValue(section, QString::number(i + 1), baseName(flights[i]));
+    session.files.write(file, list.toBytes());
+}
+
+} // namespace
+
+void loadFlightFiles(Session& session) {
+    if (session.IsWideClient) return;
+    reportFailures(session.user, {}, [&] {
+        session.files.makeFolder(flightsFolder(session));
+        removeCopies(session);
+        copyFlights(session, session.FSPath / u"Flights\\Morvane");
+        if (const FilePath folder = userFolder(session); !folder.isEmpty()) copyFlights(session, folder);
+    });
+    reportFailures(session.user, {}, [&] { writeList(session); }); // of those that were copied
+}
+
+QStringList savedFlights(Session& session) {
+    const FilePath file = listFile(session);
+    if (!session.files.exists(file)) {
+        session.user.showMessage({MessageKind::error, u"Morvane Fatal Error"_s,
+                                  u"Your flight.cfg file has not been found.\n\n"
+                                  "Morvane will not be able to load any flights.\n\n"
+                                  "Press the checkmark to Exit."_s});
+        return {};
+    }
+    QStringList names;
+    const int total = GetIniInt(session.files, section, totalKey, file);
+    while (names.size() < total) {
+        const QString name = GetIniString(session.files, section, QString::number(names.size() + 1), file);
+        if (name.isEmpty()) break; // the total was edited by hand
+        names << name;
+    }
+    return names;
+}
+
+FilePath savedFlightFile(const Session& session, const QString& name) {
+    return flightsFolder(session).child(name + u".FLT"_s);
+}
+
+} // namespace morvane

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/session.h"
+
+#include <QStringList>
+
+namespace morvane {
+
+/// A saved flight is a pair of files, "<name>.flt" and "<name>.wx"; its name is known without the ending. The
+/// program works on copies in its own folder "\Flights", listed in "flights.cfg" there.
+
+/// Gathers the copies anew: first the flights kept below the simulator ("\Flights\Morvane"), then the user's,
+/// which win over kept ones of the same name. Nothing on a WideFS client, whose flights are the server's.
+/// Asks for the user's folder when there is none of the usual name; without an answer only the kept flights
+/// are there. A failure is told; the list then names what was gathered before.
+void loadFlightFiles(Session& session);
+/// What the splash says meanwhile.
+extern const QString flightsProgressText;
+
+/// The names in "flights.cfg"; none, after a message, when that file is missing.
+QStringList savedFlights(Session& session);
+
+/// The flight's file in the program's folder. A name with a separator in it raises "Path not found".
+FilePath savedFlightFile(const Session& session, const QString& name);
+
+} // namespace morvane

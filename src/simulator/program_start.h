@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/file_path.h"
+
+#include <QStringList>
+
+namespace morvane {
+
+/// Starts `program` with the path of `document` as its one argument, or without one when that is empty, and
+/// does not wait for it. Nobody looks at the result: a program that does not start starts nothing.
+///
+/// On Windows the document is named by its short path, which has no blanks; where the volume keeps none, by
+/// the quoted long one. Elsewhere a Windows program gets `runner` in front, a command with its own arguments
+/// such as "wine" or "flatpak run org.winehq.Wine"; any other program is started by itself.
+void startProgram(const FilePath& program, const FilePath& document, const QString& runner);
+
+#ifndef Q_OS_WIN
+
+/// What is handed to the system for such a start.
+struct ProgramCall {
+    QString program;
+    QStringList arguments; ///< the system or the runner quotes those that hold blanks
+    QString workingFolder; ///< the program's own
+    QString winePrefix;    ///< for the environment of a program that lies in one; else empty
+};
+
+ProgramCall programCall(const FilePath& program, const FilePath& document, const QString& runner);
+
+/// The path as a program under Wine reads it. Of the drives below the prefix's "dosdevices" the one that
+/// reaches deepest gives the letter; a path that none reaches lies on "Z:", which Wine lays over everything.
+QString wineDocumentPath(const QString& path, const QString& winePrefix);
+
+#endif
+
+} // namespace morvane

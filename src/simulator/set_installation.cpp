@@ -1,0 +1,95 @@
+#include "simulator/set_installation.h"
+
+#include "core/failure_report.h"
+#include "ground/cloud_cover.h"
+#include "simulator/simulator_launch.h"
+
+namespace morvane {
+
+void SetInstallation::install(bool automatic) {
+    if (session_.jobRunning) return;
+    const bool installed = run(Job(session_), automatic);
+    if (!installed || automatic || session_.CommandLineRun) return;
+    // The job has ended by now: what the user does before the answer is no part of it.
+    reportFailures(session_.user, {}, [this] { launchFlightSimulator(session_); });
+}
+
+bool SetInstallation::run(const Job& job, bool automatic) {
+    filesCopied_ = 0;
+    bool installed = false;
+    reportFailures(session_.user, {}, [&] {
+        if (!automatic && !prepareByHand(job)) return;
+        installSelectedSet();
+        installed = true;
+    });
+    if (!installed || session_.CommandLineRun) return installed;
+    session_.user.refreshScreen(Screen::frm_Main);
+    if (automatic) return true;
+    session_.*kind_.refreshList = true;
+    session_.user.refreshScreen(kind_.listScreen);
+    return true;
+}
+
+bool SetInstallation::prepareByHand(const Job& job) {
+    if (selectedRowCount() > 1) {
+        // The title is misspelt: the message's own word.
+        session_.user.showMessage({MessageKind::exclamation, u"Multiple Selection Detetected!"_s,
+                                   kind_.severalRowsText, true, false, false});
+        return false;
+    }
+    // Both questions stand under the ground's title, also the one that offers a sky.
+    if (session_.user.ask(Question::setInstall, u"Install Matching Ground Texture Set?"_s,
+                          kind_.matchQuestion))
+        installMatch(job);
+    return true;
+}
+
+FileCopy SetInstallation::splashCopy(const CloudCover& cover) const {
+    return {session_.AppPath / u"Media" / cover.splash, splashTarget(session_)};
+}
+
+void SetInstallation::prepare(SimulatorCopier& copier, std::vector<FileCopy> copies,
+                              const CloudCover* splash) {
+    if (splash) copies.push_back(splashCopy(*splash));
+    copier.prepare(copies);
+}
+
+void SetInstallation::showProgress(const QString& tagged) {
+    session_.user.showMessage(
+        {MessageKind::progress, u"Morvane Information"_s,
+         u"Processing your "_s + kind_.word +
+             u" Texture Files.  Please wait until the process has finished.  This may take a few moments!"_s,
+         false, false, true});
+    session_.user.setProgressFile(u"Installing "_s + tagged + u' ' + kind_.word.toLower() + u" textures"_s);
+}
+
+/// No messages are let through and no cancel is read: an install once begun goes through its list.
+void SetInstallation::copyAll(SimulatorCopier& copier, const std::vector<FileCopy>& copies) {
+    const double steps = static_cast<double>(copies.size()) + kind_.stepsBesideFiles;
+    const double step = copies.size() > 1 ? 100.0 / steps : 100.0;
+    double position = 0;
+    for (const FileCopy& copy : copies) {
+        copier.copy(copy);
+        ++filesCopied_;
+        session_.user.updateProgress({}, {}, position += step);
+    }
+}
+
+void SetInstallation::finish(SimulatorCopier& copier) {
+    copier.finish();
+    session_.user.updateProgress({}, {}, 100);
+    session_.user.hideMessage();
+}
+
+void SetInstallation::putSet(const QString& coverWord, const std::vector<FileCopy>& copies) {
+    const CloudCover* cover = cloudCover(coverWord);
+    const bool withSplash = cover && !session_.InhibitCustomSplash;
+    SimulatorCopier copier(session_);
+    prepare(copier, copies, withSplash ? cover : nullptr);
+    if (withSplash) copier.copy(splashCopy(*cover));
+    showProgress(coverWord + (cover ? cover->tag : QString()));
+    copyAll(copier, copies);
+    finish(copier);
+}
+
+} // namespace morvane

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "core/job.h"
+#include "simulator/simulator_copy.h"
+
+namespace morvane {
+
+struct CloudCover;
+
+/// What tells the install of one kind of set from that of the other.
+struct InstallationKind {
+    QString word;            ///< "Ground" or "Sky", in the progress message
+    QString severalRowsText; ///< refuses more than one row
+    QString matchQuestion;   ///< offers a set of the other kind for the same weather
+    Screen listScreen;
+    bool Session::*refreshList;
+    int stepsBesideFiles; ///< of the progress bar
+};
+
+/// Puts the files of the set in hand into the simulator and records in the store that it is the installed
+/// one, before the first file is copied. Nothing is rolled back: a failure leaves old and new files side by
+/// side, each of them whole.
+class SetInstallation {
+public:
+    SetInstallation(Session& session, const InstallationKind& kind) : session_(session), kind_(kind) {}
+    virtual ~SetInstallation() = default;
+
+    /// `automatic`: no questions, as on the road from the weather. Otherwise several rows are refused and a
+    /// matching set of the other kind is offered, which goes in first, and the start of the simulator last.
+    void install(bool automatic);
+    /// The automatic install as a part of a job that is running already.
+    void installInside(const Job& job) { run(job, true); }
+
+    /// Files copied by the last install, the splash left out.
+    int filesCopied() const { return filesCopied_; }
+
+protected:
+    virtual qsizetype selectedRowCount() const = 0;
+    /// The user wants the set of the other kind, too.
+    virtual void installMatch(const Job& job) = 0;
+    virtual void installSelectedSet() = 0;
+
+    /// Splash, progress message and files of a set for that cover; an unknown cover has no splash.
+    void putSet(const QString& coverWord, const std::vector<FileCopy>& copies);
+
+    // The parts of it, for a set that goes in another order.
+    /// Clears strays and notes everything that will be put into the simulator, splash included.
+    void prepare(SimulatorCopier& copier, std::vector<FileCopy> copies, const CloudCover* splash);
+    void showProgress(const QString& tagged);
+    void copyAll(SimulatorCopier& copier, const std::vector<FileCopy>& copies);
+    void finish(SimulatorCopier& copier);
+    FileCopy splashCopy(const CloudCover& cover) const;
+
+    Session& session_;
+
+private:
+    /// True when it came to its end.
+    bool run(const Job& job, bool automatic);
+    /// False when the install was refused.
+    bool prepareByHand(const Job& job);
+
+    const InstallationKind& kind_;
+    int filesCopied_ = 0;
+};
+
+} // namespace morvane

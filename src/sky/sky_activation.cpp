@@ -1,0 +1,118 @@
+#include "sky/sky_activation.h"
+
+#include "core/failure_report.h"
+#include "core/options.h"
+#include "simulator/set_removal.h"
+#include "simulator/temp_bitmaps.h"
+#include "sky/sky_base_sets.h"
+#include "sky/sky_generation.h"
+#include "sky/sky_selection.h"
+#include "sky/sky_sets.h"
+
+namespace morvane {
+
+namespace {
+
+SetState stateOf(Session& session, const QString& name) {
+    const auto set = findSkySet(session, name);
+    if (!set) return SetState::missing;
+    return set->Installed ? SetState::installed : SetState::removable;
+}
+
+} // namespace
+
+void SkyActivation::activateSkySet() {
+    const Job job(session_);
+    if (!job) return;
+    reportFailures(session_.user, {}, [&] {
+        if (!refreshSkySets(session_)) return;
+        const QStringList names = changeableNames(session_.sky.selectedRows);
+        // One set gets all three families of files, several get the day's alone, as a generated set does:
+        // wanted. Nothing protects "Default" here, unlike in a removal.
+        if (names.size() > 1)
+            activateSeveral(job, names);
+        else if (const auto set = findSkySet(session_, session_.sky.SelectedSkySet))
+            activate(job, *set, skyTimesOfDay, {1, 1});
+        rebuildList(session_.sky.SelectedSkySet);
+    });
+}
+
+void SkyActivation::activateSeveral(const Job& job, const QStringList& names) {
+    const QStringList confirmed = confirmedNames(session_, names);
+    int number = 0;
+    for (const QString& name : confirmed) {
+        const auto set = findSkySet(session_, name);
+        ++number;
+        if (!set || set->Activated != flagText(false)) continue;
+        if (!activate(job, *set, {skyDay}, {number, static_cast<int>(confirmed.size())})) return;
+    }
+}
+
+/// False when the store refused or the run was cancelled.
+bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const QStringList& timesOfDay,
+                             Counters counters) {
+    if (!storeActivation(set, true)) return false;
+    session_.sky.SelectedSkySet = set.SkyTextureSet;
+    // The colours are the day's whatever the time: the other families are plain copies.
+    if (!loadSkyTextureGroups(session_, set.StsID, skyDay)) return false;
+    session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
+    SkyGeneration generation(session_);
+    for (const QString& timeOfDay : timesOfDay) {
+        generation.colourSkySetFiles(set.SkyTextureSet, set.TextureSetGroup, timeOfDay,
+                                     u"Processing Texture Set: Please wait until the process has finished.  "
+                                     "This may take a few moments.........."_s,
+                                     counters.number, counters.total);
+        if (job.isCancelled()) return false;
+    }
+    return true;
+}
+
+bool SkyActivation::storeActivation(const clsSkyTextureSet& set, bool activated) {
+    clsSkyTextureSet changed = set;
+    changed.Activated = flagText(activated);
+    changed.IsNew = false;
+    return loadedSkySets(session_).UpdateSkyTextureSet(changed);
+}
+
+void SkyActivation::deleteSkySet(bool deactivateMode) {
+    const Job job(session_);
+    if (!job) return;
+    reportFailures(session_.user, {}, [&] {
+        if (!refreshSkySets(session_)) return;
+        const SetRemoval removal{deactivateMode,
+                                 session_.sky.SelectedSkySet,
+                                 session_.sky.selectedRows,
+                                 u"\n\n"_s,
+                                 [this](const QString& name) { return stateOf(session_, name); },
+                                 [&](const QString& name) { return removeSet(name, deactivateMode); }};
+        if (!removeSets(session_, removal)) return;
+        cleanTempBitmaps(session_);
+        const auto& sets = loadedSkySets(session_);
+        rebuildList(sets.Count() > 0 ? sets.GetItem(sets.Count())->SkyTextureSet : QString());
+    });
+}
+
+bool SkyActivation::removeSet(const QString& name, bool keepRecord) {
+    bool stored = false;
+    reportFailures(session_.user, {}, [&] {
+        const auto set = findSkySet(session_, name);
+        if (!set) return;
+        const FilePath folder = skySetFolder(session_, set->SkyTextureSet);
+        // The record goes first: a failure in between leaves files without a row, never a row without a set.
+        stored = keepRecord ? storeActivation(*set, false) : loadedSkySets(session_).RemoveItem(keyOf(*set));
+        if (!stored) return;
+        emptyBitmapFolder(session_, folder);
+        if (!keepRecord && session_.files.isFolder(folder)) session_.files.removeFolder(folder);
+    });
+    return stored;
+}
+
+void SkyActivation::rebuildList(const QString& nameInHand) {
+    if (!refreshSkySets(session_)) return;
+    session_.sky.selectedRows.clear();
+    clickSkyRow(session_, nameInHand);
+    session_.RefreshSkyList = true;
+    session_.user.refreshScreen(Screen::frm_KMTextures);
+}
+
+} // namespace morvane

@@ -1,0 +1,44 @@
+#include "sky/sky_installation.h"
+
+#include "ground/ground_installation.h"
+#include "ground/ground_sets.h"
+#include "simulator/set_choice.h"
+#include "sky/sky_sets.h"
+
+namespace morvane {
+
+namespace {
+
+const InstallationKind skyKind{
+    u"Sky"_s,
+    u"Morvane has detected more than one selection for installation.  You can only select one texture set to "
+    "be installed at any one time.  Please check your selection and try again!."_s,
+    u"Would you like Morvane to install a matching Ground Texture set?"_s,
+    Screen::frm_KMTextures,
+    &Session::RefreshSkyList,
+    0};
+
+} // namespace
+
+SkyInstallation::SkyInstallation(Session& session) : SetInstallation(session, skyKind) {}
+
+void SkyInstallation::installMatch(const Job& job) {
+    const QStringList names =
+        namesForCover(activatedSets(loadedGroundSets(session_)), session_.sky.SelectedSkyCover);
+    // The last of the grounds is never drawn, though the last of the skies is for a ground. Wanted.
+    session_.ground.SelectedGroundSet = drawName(session_, names, names.size() - 1);
+    GroundInstallation(session_).installInside(job);
+}
+
+void SkyInstallation::installSelectedSet() {
+    if (!refreshSkySets(session_)) return;
+    const auto record = findSkySet(session_, session_.sky.SelectedSkySet);
+    const QString name = record ? record->SkyTextureSet : session_.sky.SelectedSkySet;
+    std::vector<FileCopy> copies;
+    addFolderFiles(session_, skySetFolder(session_, name), u"*.bmp"_s, session_.FSPath / u"Texture", copies);
+    // The store says "installed" before the first file is copied, also when the copying then fails.
+    if (!loadedSkySets(session_).markInstalled(name)) return;
+    putSet(record ? record->CloudCover : QString(), copies);
+}
+
+} // namespace morvane

@@ -1,0 +1,58 @@
+#include "sky/sky_selection.h"
+
+#include "core/failure_report.h"
+#include "core/options.h"
+#include "sky/sky_base_sets.h"
+#include "sky/sky_groups.h"
+#include "sky/sky_sets.h"
+
+namespace morvane {
+
+namespace {
+
+void select(SkySelection& selection, const clsSkyTextureSet& set) {
+    selection.SelectedSkyKey = skyListKey(set);
+    selection.SelectedSkySet = set.SkyTextureSet;
+    selection.SelectedSkyActivated = set.Activated == flagText(true);
+    selection.SelectedSkyCover = set.CloudCover;
+    selection.SelectedSkyGroup = set.TextureSetGroup;
+    selection.SelectedSkyDescription = set.Description;
+}
+
+} // namespace
+
+QString skyListKey(const clsSkyTextureSet& set) {
+    return u"Key:"_s + QString::number(set.StsID);
+}
+
+bool loadSkyTextureGroups(Session& session, std::int16_t setKey, const QString& timeOfDay) {
+    session.skyTextureGroups = {};
+    if (!clsSkyTextureSubSets::reload(session, setKey)) return false;
+    for (const auto& subSet : *session.gSkyTextureSubSets) {
+        if (subSet->StsID != setKey || subSet->timeOfDay != timeOfDay) continue;
+        for (const SkyGroupConstants& group : skyGroups())
+            if (const auto record = parseSkyColourString((*subSet).*group.property))
+                skyRecord(session.skyTextureGroups, group.number) = *record;
+    }
+    return true;
+}
+
+bool loadSkySubSet(Session& session, const QString& listKey, const QString& timeOfDay) {
+    bool loaded = false;
+    reportFailures(session.user, {}, [&] {
+        session.skyTextureGroups = {};
+        const QStringList parts = listKey.split(u':');
+        if (parts.size() < 2) throw Error(ErrorCode::subscript);
+        const auto set = loadedSkySets(session).GetKey(parts[1]);
+        select(session.sky, *set);
+        loaded = loadSkyTextureGroups(session, set->StsID, timeOfDay);
+    });
+    return loaded;
+}
+
+bool clickSkyRow(Session& session, const QString& name) {
+    const auto set = findSkySet(session, name);
+    return set && loadSkySubSet(session, skyListKey(*set), skyDay);
+}
+
+} // namespace morvane

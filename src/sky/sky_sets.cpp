@@ -1,0 +1,23 @@
+#include "sky/sky_sets.h"
+
+#include "core/set_collections.h"
+
+namespace morvane {
+
+clsSkyTextureSets& loadedSkySets(Session& session) {
+    return loadedCollection(session, session.gSkyTextureSets);
+}
+
+bool refreshSkySets(Session& session) {
+    return clsSkyTextureSets::reload(session);
+}
+
+std::shared_ptr<const clsSkyTextureSet> findSkySet(Session& session, const QString& name) {
+    return findTrimmedName(loadedSkySets(session), name);
+}
+
+FilePath skySetFolder(const Session& session, const QString& name) {
+    return (session.AppPath / u"Sky Texture Sets").child(name);
+}
+
+} // namespace morvane

@@ -1,0 +1,101 @@
+#include "sky/sky_tuning.h"
+
+#include "core/failure_report.h"
+#include "core/numbers.h"
+#include "ground/slider_steps.h"
+#include "sky/sky_palette_map.h"
+#include "sky/sky_randomiser.h"
+#include "sky/sky_sets.h"
+#include "sky/sky_tuning_state.h"
+
+#include <algorithm>
+
+namespace morvane {
+
+namespace {
+
+// A settings file that was edited by hand may hold more than a slider shows.
+constexpr auto lowest = static_cast<float>(sliderLowest), highest = static_cast<float>(sliderHighest);
+
+} // namespace
+
+SliderValues SkyTuning::open() {
+    reportFailures(session_.user, {}, [&] {
+        const bool isFirst = !session_.skyTuning.isLoaded;
+        loadSkyTuning(session_);
+        if (isFirst || !sample_.sourceDib().isCreated()) openSelectedBaseSky();
+        // The flag stays: the list page has yet to rebuild its rows.
+        if (isFirst && session_.RefreshSkyList) refreshSkySets(session_);
+    });
+    return sliders();
+}
+
+bool SkyTuning::openSkyImage(const FilePath& path) {
+    const bool loaded = sample_.openImage(path);
+    SkyProcess(sliders());
+    return loaded;
+}
+
+bool SkyTuning::openSelectedBaseSky() {
+    return openSkyImage(skySampleFile(session_, trimmedBlanks(session_.skyTuning.baseSet)));
+}
+
+void SkyTuning::openBaseSkyImage() {
+    reportFailures(session_.user, {}, [&] {
+        session_.modal.baseSkyConfirmed = false;
+        session_.user.showModal(Screen::frm_SelectBaseSky);
+        // For some base sets the sample is loaded whatever the answer, as their choice is in force at its
+        // click; "Average" has no option on the dialog.
+        static const QStringList loadedAnyway{u"Sunny"_s, u"Average"_s, u"Tropical"_s, u"Overcast"_s};
+        const QString& baseSet = session_.skyTuning.baseSet;
+        if (session_.modal.baseSkyConfirmed || loadedAnyway.contains(baseSet)) openSelectedBaseSky();
+    });
+}
+
+void SkyTuning::SkyProcess(const SliderValues& sliders) {
+    SkyGroup& record = skyRecord(session_.skyPaletteGroups, session_.skyTuning.selectedGroup);
+    for (std::size_t i = 0; i < skyColourCount; ++i)
+        record.*skyFields()[i].value = static_cast<float>(sliders[i]);
+    sample_.process();
+}
+
+SliderValues SkyTuning::sliders() const {
+    const SkyGroup& record = skyRecord(session_.skyPaletteGroups, session_.skyTuning.selectedGroup);
+    SliderValues values{};
+    for (std::size_t i = 0; i < skyColourCount; ++i)
+        values[i] = static_cast<int>(std::clamp(record.*skyFields()[i].value, lowest, highest));
+    return values;
+}
+
+SliderValues SkyTuning::clickPalette(float x, float y) {
+    if (const SkyGroupConstants* group = skyGroupAt(x, y)) {
+        session_.skyTuning.selectedGroup = toInteger(group->number);
+        setRegion(skyRecord(session_.skyPaletteGroups, group->number), *group);
+    }
+    const SliderValues values = sliders();
+    SkyProcess(values);
+    return values;
+}
+
+SliderValues SkyTuning::randomizeSky() {
+    const SkyTuningState& tuning = session_.skyTuning;
+    SliderValues values{};
+    randomizeSkyValues(session_, tuning.cloudIndex, values, tuning.baseSet, tuning.selectedGroup);
+    SkyProcess(values);
+    return values;
+}
+
+const QString& SkyTuning::selectedText() const {
+    return skyGroup(session_.skyTuning.selectedGroup).text;
+}
+
+std::optional<QString> SkyTuning::tipAt(float x, float y) {
+    const SkyGroupConstants* group = skyGroupAt(x, y);
+    return group ? std::optional(group->tip) : std::nullopt;
+}
+
+void SkyTuning::optCloudCover(int index) {
+    tuneCloudCover(session_, index + 1);
+}
+
+} // namespace morvane

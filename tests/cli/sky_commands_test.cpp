@@ -1,0 +1,139 @@
+#include "cli/console.h"
+
+#include "support/printing.h"
+
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::contentsBelow;
+using test::smallBitmap;
+using test::writeFile;
+
+struct SkyCommands : testing::Test {
+    test::ConsoleInstall install;
+
+    void SetUp() override {
+        const std::pair<QString, QString> stock[] = {{u"Pro Sky"_s, u"day.bmp"_s},
+                                                     {u"Sunny"_s, u"sunny.bmp"_s},
+                                                     {u"Default"_s, u"day.bmp"_s},
+                                                     {u"Sunrise"_s, u"rise.bmp"_s},
+                                                     {u"Sunset"_s, u"set.bmp"_s}};
+        for (const auto& [folder, name] : stock)
+            writeFile(install.home() / u"Resources\\Sky" / folder / name, smallBitmap(32, 90));
+    }
+    void expectDone(const QString& command, const QString& name, const QString& skiesAfterwards) {
+        const auto run = install.run(command, {name});
+        EXPECT_EQ(run.status, 0) << command.toStdString() << '\n' << run.messages.toStdString();
+        EXPECT_EQ(install.skies(), skiesAfterwards);
+    }
+    QStringList filesOf(const QString& name) {
+        return install.files.list((install.home() / u"Sky Texture Sets").child(name), u"*"_s);
+    }
+};
+
+TEST_F(SkyCommands, setsAreMadeListedShownSwitchedOffAndOnInstalledAndDeleted) {
+    const auto created =
+        install.run(u"sky create"_s, {u"Pro Sky,Sunny"_s, u"0"_s, u"1"_s, u"0"_s, u"0"_s, u"3"_s});
+    EXPECT_EQ(created.status, 0) << created.messages.toStdString();
+    const QJsonArray list = install.run(u"sky list"_s).array();
+    ASSERT_EQ(list.size(), 2) << "no set of the unticked \"Overcast\"";
+    const QJsonObject made = list[0].toObject();
+    EXPECT_EQ(made.keys().join(u' '), u"Activated CloudCover Description Installed IsNew SkyTextureSet StsID "
+                                      u"TextureSetGroup"_s);
+    EXPECT_EQ(made[u"TextureSetGroup"], QJsonValue(u"Sunny"_s));
+    EXPECT_EQ(made[u"CloudCover"], QJsonValue(u"Mostly Clear"_s));
+    const QString name = made[u"SkyTextureSet"].toString();
+    const QString other = list[1].toObject()[u"SkyTextureSet"].toString();
+    EXPECT_EQ(filesOf(name), QStringList{u"sunny.bmp"_s});
+
+    const auto shown = install.run(u"sky show"_s, {name}).objects().at(0);
+    EXPECT_EQ(shown[u"set"], QJsonValue(made));
+    const QJsonObject colours = shown[u"subSet"].toObject();
+    EXPECT_EQ(colours.size(), 15);
+    EXPECT_EQ(colours[u"timeOfDay"], QJsonValue(u"Day"_s));
+    EXPECT_EQ(colours[u"WaterDark"], QJsonValue(u"0:0:0:0:0:0:5:5:32"_s));
+    EXPECT_TRUE(colours[u"SkyMain"].toString().endsWith(u":1:32:255"_s));
+
+    expectDone(u"sky deactivate"_s, name, name + u' ' + other + u'+');
+    EXPECT_TRUE(filesOf(name).isEmpty());
+    expectDone(u"sky activate"_s, name, name + u"+ "_s + other + u'+');
+    EXPECT_EQ(filesOf(name), QStringList({u"rise.bmp"_s, u"set.bmp"_s, u"sunny.bmp"_s}));
+    expectDone(u"sky install"_s, name, name + u"+* "_s + other + u'+');
+    EXPECT_EQ(install.files.list(install.simulator() / u"Texture", u"*"_s), filesOf(name));
+    expectDone(u"sky delete"_s, other, name + u"+*"_s);
+    EXPECT_FALSE(install.files.exists((install.home() / u"Sky Texture Sets").child(other)));
+
+    EXPECT_EQ(install.run(u"originals restore"_s).status, 0);
+    EXPECT_EQ(install.skies(), name + u'+') << "none is installed any more";
+}
+
+TEST_F(SkyCommands, wrongArgumentsAreUsageAndChangeNothing) {
+    const QStringList cases[] = {{u"Rainy"_s, u"1"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s},
+                                 {u"Sunny,"_s, u"1"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s},
+                                 {u"Sunny"_s, u"one"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s},
+                                 {u"Sunny"_s, u"1"_s}};
+    for (const QStringList& arguments : cases)
+        EXPECT_EQ(install.run(u"sky create"_s, arguments).status, 2) << arguments.join(u' ').toStdString();
+    EXPECT_EQ(install.skies(), QString());
+}
+
+TEST_F(SkyCommands, refusalsAreToldAndChangeNothing) {
+    install.addSky(u"Default"_s, u"Partly Cloudy"_s);
+    install.addSky(u"2-Störm"_s, u"Overcast"_s);
+    install.addSky(u"3-Calm"_s, u"Sky Clear"_s, false, {});
+    const QString skies = u"Default+ 2-Störm+* 3-Calm"_s;
+    expectDone(u"sky install"_s, u"2-Störm"_s, skies);
+    const auto before = contentsBelow(install.folder.path());
+    const QString unknown = u"There is no sky texture set named 'Fog'"_s;
+    const QString locked = u"This is a protected texture set and no changes can be made to this set."_s;
+    const std::pair<QString, QString> cases[] = {
+        {u"show Fog"_s, unknown},
+        {u"activate Fog"_s, unknown},
+        {u"deactivate Fog"_s, unknown},
+        {u"delete Fog"_s, unknown},
+        {u"install Fog"_s, unknown},
+        {u"install 3-Calm"_s, u"The sky texture set '3-Calm' is not activated"_s},
+        {u"deactivate Default"_s, locked},
+        {u"delete Default"_s, locked},
+        {u"deactivate 2-Störm"_s, locked},
+        {u"delete 2-Störm"_s, locked},
+    };
+    for (const auto& [words, text] : cases) {
+        const auto run = install.run(u"sky "_s + words);
+        EXPECT_EQ(run.status, 1) << words.toStdString();
+        EXPECT_EQ(run.messages.count(text), 1) << run.messages.toStdString();
+        EXPECT_TRUE(run.output.isEmpty());
+    }
+    EXPECT_EQ(install.skies(), skies);
+    EXPECT_EQ(contentsBelow(install.folder.path()), before);
+}
+
+TEST_F(SkyCommands, onePictureIsRecolouredByTenGroups) {
+    const FilePath groups = install.folder / u"groups.json", in = install.folder / u"ïn.bmp",
+                   out = install.folder / u"out.bmp";
+    const QStringList files{groups.native(), in.native(), out.native()};
+    writeFile(in, smallBitmap(32, 90));
+    writeFile(groups, R"(["0:0:0:0:100:0:1:1:32","","","","","","","","","0:50:0:0:0:0:1:32:255"])");
+    const auto run = test::runConsole(u"recolour-sky"_s, files);
+    EXPECT_EQ(run.status, 0) << run.messages.toStdString();
+    const QImage base(in.native()), result(out.native());
+    EXPECT_GT(qRed(result.pixel(20, 10)), qRed(base.pixel(20, 10)));
+    EXPECT_NE(result.pixel(0, 0), base.pixel(0, 0));   // group 1
+    EXPECT_EQ(result.pixel(1, 0), base.pixel(1, 0));   // group 2 has no text
+    EXPECT_EQ(result.pixel(5, 31), base.pixel(5, 31)); // nor has the low horizon
+
+    const auto before = contentsBelow(install.folder.path());
+    for (const QByteArray& wrong : {QByteArray("[]"), QByteArray("no JSON"), QByteArray(R"({"a":1})"),
+                                    QByteArray(R"(["1:2","","","","","","","","",""])"),
+                                    QByteArray(R"(["a:0:0:0:0:0:0:0:0","","","","","","","","",""])")}) {
+        writeFile(groups, wrong);
+        EXPECT_EQ(test::runConsole(u"recolour-sky"_s, files).status, 1) << wrong.toStdString();
+        EXPECT_EQ(test::readFile(out), before.value(u"out.bmp"_s));
+    }
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,135 @@
+#include "simulator/flights.h"
+
+#include "core/error.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::contentsBelow;
+using test::readFile;
+using test::writeFile;
+
+struct FlightsTest : testing::Test {
+    FlightsTest() { storeUserFolder(user.native()); }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    FilePath own = install.home() / u"Flights";
+    FilePath kept = install.simulator() / u"Flights\\Morvane";
+    FilePath user = install.folder / u"Çhosen flights";
+
+    void storeUserFolder(const QString& path) {
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s, path);
+    }
+    void save(const FilePath& folder, const QString& name, const QByteArray& contents) {
+        writeFile(folder.child(name), contents);
+    }
+    QByteArray copyOf(const QString& name) { return readFile(own.child(name)); }
+};
+
+TEST_F(FlightsTest, keptFlightsAndTheUsersAreGatheredAndTheUsersWin) {
+    save(kept, u"Evening.flt"_s, "kept");
+    save(kept, u"Evening.wx"_s, "kept weather");
+    save(kept, u"Rain.flt"_s, "kept");
+    save(kept, u"Rain.wx"_s, "kept weather");
+    save(user, u"EVENING.FLT"_s, "the user's");
+    save(user, u"X.FLT"_s, "upper case");
+    save(user, u"X.WX"_s, "its weather");
+    save(user, u"Lost.wx"_s, "no flight");
+    save(user, u"Ünten.flt"_s, "no weather");
+    save(user, u"A.flt.old.flt"_s, "stands for A, which is not there");
+    save(user, u".flt"_s, "no name");
+    const auto before = contentsBelow(user);
+    loadFlightFiles(session);
+    EXPECT_EQ(savedFlights(session), (QStringList{u"Evening"_s, u"Rain"_s, u"X"_s, u"Ünten"_s}));
+    EXPECT_EQ(contentsBelow(own).size(), 8) << "four flights, three with weather, and the list";
+    EXPECT_EQ(copyOf(u"Evening.flt"_s), "the user's");
+    EXPECT_EQ(copyOf(u"Evening.wx"_s), "kept weather");
+    EXPECT_EQ(copyOf(u"x.wx"_s), "its weather");
+    EXPECT_EQ(contentsBelow(user), before);
+    EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_EQ(readFile(savedFlightFile(session, u"Evening"_s)), "the user's");
+    EXPECT_THROW(savedFlightFile(session, u"..\\Evening"_s), Error);
+}
+
+TEST_F(FlightsTest, aNewGatheringBeginsEmptyAndLeavesOldEntriesUnread) {
+    for (const QString& name : {u"A"_s, u"B"_s, u"C"_s})
+        save(user, name + u".flt"_s, "flight");
+    loadFlightFiles(session);
+    EXPECT_EQ(savedFlights(session).size(), 3);
+    for (const QString& name : {u"A"_s, u"B"_s})
+        install.files.remove(user.child(name + u".flt"_s));
+    save(own, u"A.wx"_s, "of a flight that is gone");
+    loadFlightFiles(session);
+    EXPECT_EQ(savedFlights(session), QStringList{u"C"_s});
+    EXPECT_EQ(contentsBelow(own).keys(), (QStringList{u"C.flt"_s, u"flights.cfg"_s}));
+    EXPECT_EQ(copyOf(u"flights.cfg"_s), "[Flights]\r\ntotal=1\r\n1=C\r\n2=B\r\n3=C\r\n");
+    // A total that was edited by hand ends where the names do.
+    writeFile(own / u"flights.cfg", "[Flights]\r\ntotal=2000000000\r\n1=C\r\n");
+    EXPECT_EQ(savedFlights(session), QStringList{u"C"_s});
+}
+
+TEST_F(FlightsTest, theFolderOfTheUsualNameComesFirst) {
+    save(user, u"Elsewhere.flt"_s, "flight");
+    session.MyDocumentsPath = (install.folder / u"Documents").native() + u'/';
+    loadFlightFiles(session);
+    EXPECT_EQ(savedFlights(session), QStringList{u"Elsewhere"_s});
+    save(install.folder / u"Documents\\Flight Simulator Files", u"Usual.flt"_s, "flight");
+    loadFlightFiles(session);
+    EXPECT_EQ(savedFlights(session), QStringList{u"Usual"_s});
+}
+
+TEST_F(FlightsTest, cancellingTheFoldersChoiceLeavesTheUsersFlightsAlone) {
+    save(kept, u"Kept.flt"_s, "flight");
+    save(user, u"Own.flt"_s, "flight");
+    storeUserFolder(QString());
+    loadFlightFiles(session);
+    EXPECT_EQ(install.user.calls.count(u"browse"_s), 1);
+    EXPECT_EQ(savedFlights(session), QStringList{u"Kept"_s});
+}
+
+TEST_F(FlightsTest, aWideClientHasNoFlightsOfItsOwn) {
+    save(own, u"Left.flt"_s, "flight");
+    save(user, u"Own.flt"_s, "flight");
+    session.IsWideClient = true;
+    loadFlightFiles(session);
+    EXPECT_EQ(contentsBelow(own).keys(), QStringList{u"Left.flt"_s});
+}
+
+TEST_F(FlightsTest, aMissingListIsToldInItsOwnWords) {
+    EXPECT_EQ(savedFlights(session), QStringList());
+    EXPECT_EQ(
+        install.user.told(),
+        QStringList{u"Error|Morvane Fatal Error|Your flight.cfg file has not been found.\n\nMorvane will "
+                    u"not be able to load any flights.\n\nPress the checkmark to Exit."_s});
+}
+
+/// Whatever fails is told, the start goes on, and the list never names more than there is.
+TEST_F(FlightsTest, aFailureIsToldAndTheListNamesWhatIsThere) {
+    save(kept, u"Kept.flt"_s, "flight");
+    save(user, u"Own.flt"_s, "flight");
+    loadFlightFiles(session);
+    const auto before = contentsBelow(user);
+    install.files.failAt(0, false);
+    loadFlightFiles(session);
+    const int operations = install.files.operations();
+    ASSERT_GT(operations, 10);
+    for (int n = 1; n <= operations; ++n) {
+        install.user.messages.clear();
+        install.files.failAt(n, false);
+        loadFlightFiles(session);
+        EXPECT_TRUE(install.files.failedAtTest() || install.user.told().size() == 1) << n;
+        install.files.failAt(0, false);
+        for (const QString& name : savedFlights(session))
+            EXPECT_TRUE(install.files.exists(savedFlightFile(session, name))) << n;
+        EXPECT_EQ(contentsBelow(user), before);
+        loadFlightFiles(session);
+    }
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,199 @@
+#include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
+#include "sky/sky_installation.h"
+#include "sky/sky_sets.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::readFile;
+using test::SmallInstall;
+using test::writeFile;
+
+const QString launchQuestion =
+    "Question|Launch Flight Simulator?|Would you like Morvane to start Flight Simulator now?";
+
+struct SkyInstall : testing::Test {
+    SmallInstall install;
+    Session& session = install.session;
+
+    void SetUp() override {
+        install.user.answersToGive = {true}; // the match is wanted, the simulator's start is not
+        install.user.otherwise = false;
+        install.addSkySet("1-Storm", "Overcast", true, {"cloud.bmp", "SKY_1.BMP", "notes.txt"});
+        writeFile(install.simulator() / u"Texture\\sky_1.bmp", "the pilot's sky");
+        writeFile(install.simulator() / u"Texture\\sky_2.bmp", "the pilot's second sky");
+    }
+    void installSky(const QString& name, bool automatic = true) {
+        session.sky.SelectedSkySet = name;
+        if (const auto record = findSkySet(session, name)) session.sky.SelectedSkyCover = record->CloudCover;
+        SkyInstallation(session).installSkySet(automatic);
+    }
+    QByteArray texture(const char16_t* name) { return readFile(install.simulator() / u"Texture" / name); }
+    QByteArray splash() { return readFile(install.simulator() / u"Uires\\dlgsplash.bmp"); }
+};
+
+TEST_F(SkyInstall, copiesTheBitmapsAndRecordsTheSet) {
+    install.addSkySet("2-Calm", "Sky Clear", true);
+    session.gSkyTextureSets->markInstalled("2-Calm");
+    installSky(" 1-Storm ");
+    EXPECT_EQ(texture(u"sky_1.bmp"), "1-Storm SKY_1.BMP");
+    EXPECT_EQ(texture(u"sky_2.bmp"), "the pilot's second sky"); // what the set lacks stays in place
+    EXPECT_EQ(install.files.list(install.simulator() / u"Texture", "*"),
+              QStringList({"cloud.bmp", "sky_1.bmp", "sky_2.bmp"}));
+    EXPECT_EQ(splash(), "splash OVC");
+    EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
+    EXPECT_TRUE(install.user.told().isEmpty());
+    const Message& progress = install.user.messages.front();
+    EXPECT_EQ(progress.title, "Morvane Information");
+    EXPECT_EQ(progress.text,
+              "Processing your Sky Texture Files.  Please wait until the process has finished.  "
+              "This may take a few moments!");
+    EXPECT_EQ(
+        install.user.calls,
+        QStringList({"message Progress Morvane Information", "file Installing Overcast (OVC) sky textures",
+                     "progress 50", "progress 100", "progress 100", "hide message", "refresh frm_Main"}));
+    EXPECT_EQ(readFile(install.home() / u"Backup\\Originals\\Texture\\sky_1.bmp"), "the pilot's sky");
+}
+
+TEST_F(SkyInstall, anEmptyFolderChangesRowsAndSplashOnly) {
+    install.addSkySet("2-Calm", "Sky Clear", true);
+    installSky("2-Calm");
+    EXPECT_EQ(install.installedSkySets(), QStringList{"2-Calm"});
+    EXPECT_EQ(splash(), "splash SKC");
+    EXPECT_EQ(texture(u"sky_1.bmp"), "the pilot's sky");
+    EXPECT_TRUE(install.user.told().isEmpty());
+}
+
+TEST_F(SkyInstall, defaultIsASetLikeAnyOther) {
+    install.addSkySet("Default", "Partly Cloudy", true, {"sky_1.bmp"});
+    session.InhibitCustomSplash = true;
+    installSky("Default");
+    EXPECT_EQ(texture(u"sky_1.bmp"), "Default sky_1.bmp");
+    EXPECT_EQ(splash(), "the pilot's splash"); // the ground's "Default" would replace it
+    EXPECT_EQ(install.installedSkySets(), QStringList{"Default"});
+}
+
+TEST_F(SkyInstall, aReadOnlyTargetEndsItHalfWayWithTheRowsChanged) {
+    install.files.setReadOnly(install.simulator() / u"Texture\\sky_1.bmp", true);
+    installSky("1-Storm");
+    EXPECT_EQ(texture(u"cloud.bmp"), "1-Storm cloud.bmp");
+    EXPECT_EQ(texture(u"sky_1.bmp"), "the pilot's sky");
+    EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
+    ASSERT_EQ(install.user.countOfKind(MessageKind::error), 1);
+    EXPECT_TRUE(install.user.told().last().startsWith("Error|Morvane Error|Permission denied: "));
+}
+
+TEST_F(SkyInstall, severalTickedRowsAreRefused) {
+    session.sky.selectedRows = QStringList{"1-Storm", "Default"}; // "Default" counts, too
+    installSky("1-Storm", false);
+    EXPECT_TRUE(install.installedSkySets().isEmpty());
+    EXPECT_EQ(install.user.told(),
+              QStringList{"Exclamation|Multiple Selection Detetected!|Morvane has detected more than one "
+                          "selection for installation.  You can only select one texture set to be installed "
+                          "at any one time.  Please check your selection and try again!."});
+    EXPECT_FALSE(session.RefreshSkyList);
+}
+
+TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
+    install.user.answersToGive = {false};
+    installSky("1-Storm", false);
+    EXPECT_EQ(
+        install.user.told(),
+        QStringList({"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
+                     "matching Ground Texture set?",
+                     launchQuestion}));
+    EXPECT_TRUE(install.installedSets().isEmpty());
+    EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
+    EXPECT_TRUE(session.RefreshSkyList);
+    EXPECT_TRUE(install.user.calls.contains("refresh frm_KMTextures"));
+
+    session.CommandLineRun = true;
+    session.RefreshSkyList = false;
+    install.user.calls.clear();
+    install.user.messages.clear();
+    installSky("1-Storm", false);
+    EXPECT_FALSE(session.RefreshSkyList);
+    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1) << "no start of the simulator is offered";
+    EXPECT_FALSE(install.user.calls.contains("refresh frm_Main"));
+}
+
+TEST_F(SkyInstall, theMatchingGroundIsDrawnButNeverTheLast) {
+    for (const char* name : {"2-A", "3-B", "4-C"})
+        install.addGroundSet(name, " Overcast", true, {"Texture\\029h2su6.bmp"});
+    install.addGroundSet("5-D", "Overcast", false);
+    const std::pair<double, QString> cases[] = {{0.49, "2-A"}, {0.5, "3-B"}, {0.999999, "3-B"}};
+    for (const auto& [draw, expected] : cases) {
+        install.random.numbers = {draw};
+        install.user.answersToGive = {true};
+        installSky("1-Storm", false);
+        EXPECT_EQ(install.installedSets(), QStringList{expected}) << draw;
+    }
+    EXPECT_EQ(splash(), "splash OVC");
+}
+
+TEST_F(SkyInstall, withoutAGroundOfTheCoverDefaultIsInstalled) {
+    install.addGroundSet("2-A", "Overcast", false);
+    installSky("1-Storm", false);
+    EXPECT_EQ(install.installedSets(), QStringList{"Default"});
+    EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
+    EXPECT_EQ(splash(), "splash OVC") << "the sky goes in last";
+}
+
+struct MatchingSky : SkyInstall {
+    QStringList installGround(double draw, bool withMatch = true) {
+        install.random.numbers = {draw};
+        install.user.answersToGive = {withMatch};
+        EXPECT_TRUE(clickGroundRow(session, "2-A"));
+        GroundInstallation(session).installTextureSet(false);
+        EXPECT_EQ(install.installedSets(), QStringList{"2-A"});
+        return install.installedSkySets();
+    }
+};
+
+TEST_F(MatchingSky, isDrawnFromAllOfTheCover) {
+    install.addGroundSet("2-A", "Overcast", true, {"Texture\\029h2su6.bmp"});
+    EXPECT_EQ(installGround(0.9), QStringList{"1-Storm"});
+    EXPECT_EQ(install.random.draws, 0) << "the only one needs no draw";
+    install.addSkySet("2-Fog", "Overcast ", true, {"cloud.bmp"});
+    install.addSkySet("3-Rain", "Overcast", true, {"cloud.bmp"});
+    install.addSkySet("4-Mist", "Overcast", false, {"cloud.bmp"});
+    EXPECT_EQ(installGround(0), QStringList{"1-Storm"});
+    EXPECT_EQ(installGround(0.5), QStringList{"2-Fog"});
+    EXPECT_EQ(installGround(0.999999), QStringList{"3-Rain"})
+        << "the last one comes, unlike in all other draws";
+    EXPECT_EQ(texture(u"cloud.bmp"), "3-Rain cloud.bmp");
+}
+
+TEST_F(MatchingSky, isDefaultWithoutOneOfTheCoverAndNoneWithoutAny) {
+    install.addGroundSet("2-A", "Sky Clear", true, {"Texture\\029h2su6.bmp"});
+    install.addSkySet("Default", "Partly Cloudy", true);
+    EXPECT_EQ(installGround(0), QStringList{"Default"});
+
+    install.user.calls.clear();
+    clsSkyTextureSetData(session).deleteSkyTexture(findSkySet(session, "Default")->StsID);
+    clsSkyTextureSetData(session).deleteSkyTexture(findSkySet(session, "1-Storm")->StsID);
+    install.reload();
+    session.sky.SelectedSkySet = "untouched";
+    EXPECT_TRUE(installGround(0).isEmpty());
+    EXPECT_EQ(session.sky.SelectedSkySet, "untouched");
+    EXPECT_EQ(install.user.calls.filter("sky textures").size(), 0);
+}
+
+TEST_F(MatchingSky, aNoInstallsTheGroundAlone) {
+    install.addGroundSet("2-A", "Overcast", true, {"Texture\\029h2su6.bmp"});
+    EXPECT_TRUE(installGround(0, false).isEmpty());
+    EXPECT_EQ(
+        install.user.told(),
+        QStringList({"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
+                     "matching Sky Texture set?",
+                     launchQuestion}));
+}
+
+} // namespace
+} // namespace morvane

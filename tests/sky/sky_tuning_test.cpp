@@ -1,0 +1,230 @@
+#include "sky/sky_tuning.h"
+
+#include "core/application.h"
+#include "core/ini_file.h"
+#include "imaging/pixel_patterns.h"
+#include "sky/sky_groups.h"
+#include "sky/sky_tuning_state.h"
+#include "sky/sky_install.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+struct SkyTuningTest : testing::Test {
+    QByteArray pixels(const cDIBSection& picture) {
+        return QByteArray(reinterpret_cast<const char*>(picture.DIBSectionBitsPtr()),
+                          picture.BytesPerScanLine() * picture.Height());
+    }
+    bool isColoured() { return pixels(tuning.resultDib()) != pixels(tuning.sourceDib()); }
+    SkyGroup& group(int number) { return skyRecord(session.skyPaletteGroups, number); }
+    void chooseBase(const QString& name, bool confirmed) {
+        install.user.onModal = [=, this](Screen screen) {
+            ASSERT_EQ(screen, Screen::frm_SelectBaseSky);
+            session.skyTuning.baseSet = name; // in force at its click
+            session.modal.baseSkyConfirmed = confirmed;
+        };
+        tuning.openBaseSkyImage();
+    }
+    bool shows(const QString& baseSet) {
+        SkySample sample(session, SkyTable::palette);
+        EXPECT_TRUE(sample.openImage(skySampleFile(session, baseSet)));
+        return pixels(sample.sourceDib()) == pixels(tuning.sourceDib());
+    }
+
+    test::SkyInstall install;
+    Session& session = install.session;
+    SkyTuning tuning{session};
+    const FilePath settings = install.home() / u"LastSkySettings.cfg";
+};
+
+// Places on the palette picture.
+constexpr float topRow = 3, bottomRow = 237, skyRow = 120;
+constexpr float shadow = 3, water = 100, gap = 7.55f;
+
+TEST_F(SkyTuningTest, firstRunAppliesNoRegionUntilItIsClicked) {
+    EXPECT_EQ(tuning.open(), SliderValues{});
+    EXPECT_EQ(session.skyTuning.cloudCover, "Sky Clear");
+    EXPECT_EQ(session.skyTuning.baseSet, "Default");
+    EXPECT_EQ(tuning.selectedText(), "The aircraft/ground dark shadowing pixel is currently selected");
+    ASSERT_EQ(tuning.sourceDib().Width(), 32);
+    EXPECT_TRUE(shows(u"Default"_s));
+
+    tuning.SkyProcess({0, 100, 0, 0, 50, 0});
+    EXPECT_EQ(group(1).red, 100);
+    EXPECT_FALSE(isColoured());
+    EXPECT_EQ(tuning.clickPalette(shadow, topRow), (SliderValues{0, 100, 0, 0, 50, 0}));
+    EXPECT_TRUE(isColoured());
+    EXPECT_TRUE(install.user.told().isEmpty());
+}
+
+TEST_F(SkyTuningTest, noGroupsNumbersLeakIntoAnother) {
+    tuning.open();
+    tuning.clickPalette(water, topRow);
+    EXPECT_EQ(tuning.selectedText(), "The main water selection of pixels is currently selected");
+    const SliderValues waterValues{1, 2, 3, 4, 5, 6};
+    tuning.SkyProcess(waterValues);
+    EXPECT_EQ(tuning.clickPalette(water, skyRow), SliderValues{});
+    EXPECT_EQ(tuning.selectedText(), "The main sky block of pixels is currently selected");
+    tuning.SkyProcess({60, 50, 40, 30, 20, 10});
+    EXPECT_EQ(tuning.clickPalette(water, bottomRow), SliderValues{});
+    EXPECT_EQ(tuning.clickPalette(water, topRow), waterValues);
+    EXPECT_EQ(skyColourString(group(6), skyGroup(6)), "1:2:3:4:5:6:6:31:32");
+    EXPECT_EQ(skyColourString(group(10), skyGroup(10)), "60:50:40:30:20:10:1:32:255");
+    EXPECT_EQ(group(10).PixelY, 255);
+    EXPECT_EQ(group(9).PixelY, 1);
+    EXPECT_EQ(group(8).PixelY, 0); // never clicked
+}
+
+TEST_F(SkyTuningTest, previewShowsAllGroupsAtOnce) {
+    tuning.open();
+    tuning.clickPalette(water, topRow);
+    tuning.SkyProcess({0, 0, 0, 0, -100, 0});
+    tuning.clickPalette(water, bottomRow);
+    tuning.SkyProcess({0, 0, 0, 0, -100, 0});
+    for (const auto& [x, y, isIn] : {std::tuple(10, 31, true), {10, 0, true}, {10, 1, false}, {4, 31, false}})
+        EXPECT_EQ(test::pixelAt(tuning.resultDib(), x, y) != test::pixelAt(tuning.sourceDib(), x, y), isIn)
+            << x << ' ' << y;
+}
+
+TEST_F(SkyTuningTest, aClickBetweenColumnsChangesNothing) {
+    tuning.open();
+    tuning.clickPalette(water, topRow);
+    tuning.SkyProcess({0, 80, 0, 0, 0, 0});
+    const QByteArray before = pixels(tuning.resultDib());
+    EXPECT_EQ(tuning.clickPalette(gap, topRow), (SliderValues{0, 80, 0, 0, 0, 0}));
+    EXPECT_EQ(session.skyTuning.selectedGroup, 6);
+    EXPECT_EQ(pixels(tuning.resultDib()), before);
+    tuning.clickPalette(water, gap); // between two rows is the sky
+    EXPECT_EQ(session.skyTuning.selectedGroup, 10);
+}
+
+TEST_F(SkyTuningTest, randomNumbersGoToTheGroupInHand) {
+    tuning.open();
+    tuning.optCloudCover(4);
+    EXPECT_EQ(session.skyTuning.cloudCover, "Overcast");
+    install.random.numbers = {0};
+    tuning.clickPalette(water, skyRow);
+    EXPECT_EQ(tuning.randomizeSky(), (SliderValues{-30, -30, -30, -30, -30, -30}));
+    EXPECT_EQ(group(10).contrast, -30);
+    EXPECT_TRUE(isColoured());
+    tuning.clickPalette(water, topRow);
+    tuning.SkyProcess({1, 2, 3, 4, 5, 6});
+    EXPECT_EQ(tuning.randomizeSky(), SliderValues{}); // water has no rule
+    EXPECT_EQ(SkyTuning::drawnLabel(0), "0%");
+    EXPECT_EQ(SkyTuning::drawnLabel(-35), "-35%");
+    EXPECT_THROW(tuning.optCloudCover(5), Error);
+}
+
+TEST_F(SkyTuningTest, aChosenBaseIsInForceAtItsClick) {
+    tuning.open();
+    chooseBase(u"Horizons"_s, false);
+    EXPECT_TRUE(shows(u"Default"_s));
+    chooseBase(u"Horizons"_s, true);
+    EXPECT_TRUE(shows(u"Horizons"_s));
+    for (const QString& name : {u"Sunny"_s, u"Tropical"_s, u"Overcast"_s}) { // shown even after a cancel
+        chooseBase(name, false);
+        EXPECT_TRUE(shows(name)) << name.toStdString();
+    }
+    EXPECT_TRUE(install.user.told().isEmpty());
+    chooseBase(u"Average"_s, false); // of which this install has no folder
+    EXPECT_EQ(install.user.told().size(), 1);
+    EXPECT_TRUE(shows(u"Overcast"_s));
+}
+
+TEST_F(SkyTuningTest, laterVisitsKeepTheState) {
+    tuning.open();
+    tuning.clickPalette(water, topRow);
+    tuning.SkyProcess({1, 2, 3, 4, 5, 6});
+    EXPECT_EQ(tuning.open(), (SliderValues{1, 2, 3, 4, 5, 6}));
+    SkyTuning another(session);
+    EXPECT_EQ(another.open(), (SliderValues{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(another.sourceDib().Width(), 32);
+}
+
+TEST_F(SkyTuningTest, settingsComeBackWithTheMapsRegions) {
+    tuning.open();
+    tuning.optCloudCover(2);
+    session.skyTuning.baseSet = u"Default Softer"_s;
+    tuning.clickPalette(water, topRow);
+    tuning.SkyProcess({-1, 2, -3, 4, -5, 6});
+    group(3).red = 12.75f;
+    group(4).blue = -0.5f;
+    group(10).PixelXLow = 17; // the file gets the map's
+    saveLastSkySettings(session);
+
+    session.skyTuning = {};
+    session.skyPaletteGroups = {};
+    EXPECT_EQ(tuning.open(), SliderValues{});
+    EXPECT_EQ(session.skyTuning.cloudCover, "Partly Cloudy");
+    EXPECT_EQ(session.skyTuning.cloudIndex, 3);
+    EXPECT_EQ(session.skyTuning.baseSet, "Default Softer");
+    EXPECT_EQ(session.skyTuning.selectedGroup, 1);
+    EXPECT_EQ(skyColourString(group(6), skyGroup(6)), "-1:2:-3:4:-5:6:6:31:32");
+    EXPECT_EQ(group(3).red, 12); // cut, not rounded
+    EXPECT_EQ(group(4).blue, 0);
+    for (const SkyGroupConstants& constants : skyGroups()) {
+        EXPECT_EQ(group(constants.number).PixelXLow, static_cast<float>(constants.xLow));
+        EXPECT_EQ(group(constants.number).PixelXHigh, static_cast<float>(constants.xHigh));
+        EXPECT_EQ(group(constants.number).PixelY, static_cast<float>(constants.y));
+    }
+    EXPECT_EQ(GetIniString(install.files, u"Red"_s, u"3"_s, settings), "12.75");
+    EXPECT_TRUE(isColoured()); // all ten groups apply at once
+}
+
+TEST_F(SkyTuningTest, settingsOfAnotherHandAreTakenAsTheyAre) {
+    test::writeFile(settings,
+                    "[Cloud Cover]\r\n1= A very foggy morning \r\n[Texture Set Group]\r\n1=Sunny\r\n"
+                    "[Red]\r\n1=250\r\n2=x\r\n10=-7.9\r\n[PixelY]\r\n1=99999999999\r\n"
+                    "[Kept]\r\nas=it is\r\n");
+    EXPECT_EQ(tuning.open()[1], 100); // what a slider can show
+    EXPECT_EQ(session.skyTuning.cloudCover, "A very foggy mo");
+    EXPECT_EQ(session.skyTuning.cloudIndex, 1);
+    EXPECT_TRUE(shows(u"Sunny"_s));
+    EXPECT_EQ(group(2).red, 0);
+    EXPECT_EQ(group(10).red, -7);
+    EXPECT_EQ(group(10).PixelY, 0);
+    EXPECT_TRUE(install.user.told().isEmpty());
+    saveLastSkySettings(session);
+    EXPECT_EQ(GetIniString(install.files, u"Cloud Cover"_s, u"1"_s, settings), "A very foggy mo");
+    EXPECT_EQ(GetIniString(install.files, u"Kept"_s, u"as"_s, settings), "it is");
+}
+
+TEST_F(SkyTuningTest, settingsWithoutACoverAreAFirstRun) {
+    test::writeFile(settings, "[Cloud Cover]\r\n1=  \r\n[Texture Set Group]\r\n1=Sunny\r\n[Red]\r\n1=5\r\n");
+    EXPECT_EQ(tuning.open(), SliderValues{});
+    EXPECT_EQ(session.skyTuning.baseSet, "Default");
+    EXPECT_EQ(session.skyTuning.cloudCover, "Sky Clear");
+}
+
+TEST_F(SkyTuningTest, exitWritesOnlyWhatWasLoaded) {
+    test::writeFile(settings, "[Cloud Cover]\r\n1=Overcast\r\n");
+    exitProgram(session);
+    EXPECT_EQ(test::readFile(settings), "[Cloud Cover]\r\n1=Overcast\r\n");
+    tuning.open();
+    exitProgram(session);
+    EXPECT_EQ(GetIniString(install.files, u"PixelXHigh"_s, u"6"_s, settings), "31");
+    EXPECT_EQ(GetIniString(install.files, u"Cloud Cover"_s, u"1"_s, settings), "Overcast");
+    EXPECT_TRUE(install.user.told().isEmpty());
+}
+
+TEST_F(SkyTuningTest, exitTellsOfAFileThatCannotBeWritten) {
+    tuning.open();
+    install.files.makeFolder(settings);
+    exitProgram(session);
+    EXPECT_EQ(install.user.told().size(), 1);
+}
+
+TEST_F(SkyTuningTest, aMissingSampleIsToldAndTheNumbersStillCount) {
+    install.files.remove(skySampleFile(session, u"Default"_s));
+    tuning.open();
+    EXPECT_EQ(install.user.told().size(), 1);
+    tuning.SkyProcess({1, 2, 3, 4, 5, 6});
+    EXPECT_EQ(group(1).contrast, 6);
+    EXPECT_FALSE(tuning.sourceDib().isCreated());
+}
+
+} // namespace
+} // namespace morvane
