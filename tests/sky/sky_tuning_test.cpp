@@ -213,6 +213,7 @@ TEST_F(SkyTuningTest, exitWritesOnlyWhatWasLoaded) {
     exitProgram(session);
     EXPECT_EQ(test::readFile(settings), contents);
     tuning.open();
+    session.CommandLineRun = true; // the store is closed: nothing can be asked of it
     exitProgram(session);
     EXPECT_EQ(GetIniString(install.files, u"PixelXHigh"_s, u"6"_s, settings), "31");
     EXPECT_EQ(GetIniString(install.files, u"Cloud Cover"_s, u"1"_s, settings), "Overcast");
