@@ -2,7 +2,7 @@
 
 #include "core/session.h"
 #include "imaging/colouriser.h"
-#include "imaging/pixel_buffer.h"
+#include "imaging/picture_pair.h"
 
 namespace morvane {
 
@@ -18,12 +18,12 @@ public:
     /// Recolours the picture that is loaded; without one it does nothing.
     void TsProcess();
 
-    const cDIBSection& sourceDib() const { return sourceDib_; }
-    const cDIBSection& resultDib() const { return resultDib_; }
+    const cDIBSection& sourceDib() const { return pictures_.source; }
+    const cDIBSection& resultDib() const { return pictures_.result; }
 
 private:
     Session& session_;
-    cDIBSection sourceDib_, resultDib_;
+    PicturePair pictures_;
     cColourise colourise_; ///< kept: it remembers what it worked out for the last colours
 };
 

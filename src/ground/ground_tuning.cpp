@@ -1,6 +1,7 @@
 #include "ground/ground_tuning.h"
 
 #include "core/failure_report.h"
+#include "core/favourite_name.h"
 #include "core/numbers.h"
 #include "core/options.h"
 #include "ground/cloud_cover.h"
@@ -50,13 +51,7 @@ SliderValues GroundTuning::randomGroundValues() {
 }
 
 void GroundTuning::newFavTexture() {
-    ModalState& modal = session_.modal;
-    modal.favKind = FavouriteKind::ground;
-    modal.favName.clear();
-    modal.favDescription.clear();
-    modal.favConfirmed = false;
-    session_.user.showModal(Screen::frm_AddFav);
-    if (modal.favConfirmed) saveFavourite(modal.favName);
+    if (askFavouriteName(session_, FavouriteKind::ground)) saveFavourite(session_.modal.favName);
 }
 
 /// The row is written before the folders: when they cannot be made it stands.

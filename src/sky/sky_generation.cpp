@@ -1,6 +1,7 @@
 #include "sky/sky_generation.h"
 
 #include "core/failure_report.h"
+#include "core/favourite_name.h"
 #include "core/job.h"
 #include "core/numbers.h"
 #include "core/options.h"
@@ -71,14 +72,20 @@ void SkyGeneration::createAll(const Job& job) {
 }
 
 void SkyGeneration::endRun(bool fromHomeScreen) {
+    if (!fromHomeScreen) return showNewestSet();
     session_.RefreshSkyList = true;
-    if (!fromHomeScreen && loadedSkySets(session_).Count() > 0) {
-        const auto& sets = loadedSkySets(session_);
-        loadSkySubSet(session_, skyListKey(*sets.GetItem(sets.Count())), skyDay);
-    }
-    const Screen screen = fromHomeScreen ? Screen::frm_Main : Screen::frm_KMTextures;
-    session_.user.refreshScreen(screen);
-    session_.user.showScreen(screen);
+    session_.user.refreshScreen(Screen::frm_Main);
+    session_.user.showScreen(Screen::frm_Main);
+}
+
+/// Brings up the list, rebuilt and so without ticks, with the newest set in hand.
+void SkyGeneration::showNewestSet() {
+    session_.RefreshSkyList = true;
+    session_.sky.selectedRows.clear();
+    const clsSkyTextureSets& sets = loadedSkySets(session_);
+    if (sets.Count() > 0) loadSkySubSet(session_, skyListKey(*sets.GetItem(sets.Count())), skyDay);
+    session_.user.refreshScreen(Screen::frm_KMTextures);
+    session_.user.showScreen(Screen::frm_KMTextures);
 }
 
 bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal) {
@@ -165,13 +172,7 @@ bool SkyGeneration::writeFiles(const QStringList& names, const FilePath& source,
 }
 
 void SkyGeneration::newFavSky() {
-    ModalState& modal = session_.modal;
-    modal.favKind = FavouriteKind::sky;
-    modal.favName.clear();
-    modal.favDescription.clear();
-    modal.favConfirmed = false;
-    session_.user.showModal(Screen::frm_AddFav);
-    if (modal.favConfirmed) saveSkySetFromTuning(modal.favName);
+    if (askFavouriteName(session_, FavouriteKind::sky)) saveSkySetFromTuning(session_.modal.favName);
 }
 
 /// The rows are written before the folder: when it cannot be made they stand.
@@ -190,9 +191,7 @@ void SkyGeneration::saveSkySetFromTuning(const QString& name) {
         session_.RefreshSkyList = true;
         if (!storeSubSet(set, tunedStrings())) return;
         session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
-        loadSkySubSet(session_, skyListKey(set), skyDay);
-        session_.user.refreshScreen(Screen::frm_KMTextures);
-        session_.user.showScreen(Screen::frm_KMTextures);
+        showNewestSet();
     });
 }
 

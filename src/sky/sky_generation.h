@@ -34,6 +34,7 @@ public:
 private:
     void createAll(const Job& job);
     void endRun(bool fromHomeScreen);
+    void showNewestSet();
     bool storeSubSet(const clsSkyTextureSet& set, const SkyStrings& strings);
     bool writeFiles(const QStringList& names, const FilePath& source, const FilePath& target, bool coloured);
     SkyStrings tunedStrings();

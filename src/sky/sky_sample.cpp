@@ -1,7 +1,6 @@
 #include "sky/sky_sample.h"
 
 #include "core/failure_report.h"
-#include "imaging/picture_reader.h"
 
 namespace morvane {
 
@@ -14,25 +13,20 @@ FilePath skySampleFile(const Session& session, const QString& baseSet) {
 }
 
 bool SkySample::openImage(const FilePath& path) {
-    const bool loaded = reportFailures(session_.user, {}, [&] {
-        cDIBSection source, result;
-        source.CreateFromPicture(loadPicture(session_.files, path));
-        if (!result.Create(source.Width(), source.Height())) throw Error(ErrorCode::outOfMemory);
-        sourceDib_ = std::move(source);
-        resultDib_ = std::move(result);
-    });
+    const bool loaded =
+        reportFailures(session_.user, {}, [&] { pictures_ = loadPicturePair(session_.files, path); });
     process();
     return loaded;
 }
 
 void SkySample::process() {
-    if (!resultDib_.isCreated()) return;
+    if (!pictures_.result.isCreated()) return;
     if (table_ == SkyTable::texture) {
         colourise_.skyTextureGroups = session_.skyTextureGroups;
-        colourise_.processSkyTexture(sourceDib_, resultDib_);
+        colourise_.processSkyTexture(pictures_.source, pictures_.result);
     } else {
         colourise_.skyPaletteGroups = session_.skyPaletteGroups;
-        colourise_.processSky(sourceDib_, resultDib_);
+        colourise_.processSky(pictures_.source, pictures_.result);
     }
 }
 

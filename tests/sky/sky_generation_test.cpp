@@ -3,9 +3,9 @@
 #include "core/store.h"
 #include "imaging/picture_reader.h"
 #include "sky/sky_groups.h"
+#include "sky/sky_install.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_tuning_state.h"
-#include "sky/sky_install.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -98,7 +98,9 @@ TEST_F(SkyGenerationTest, tellsHowFarItIs) {
 }
 
 TEST_F(SkyGenerationTest, allSetsOfABaseComeBeforeTheNext) {
+    session.sky.selectedRows = QStringList{u"a row that was ticked"_s};
     create({u"Sunny"_s, u"Default"_s}, {2, 1, 0, 0, 3}, false);
+    EXPECT_TRUE(session.sky.selectedRows.isEmpty());
     EXPECT_EQ(stored(),
               QStringList({"Sky Clear of Default", "Sky Clear of Default", "Mostly Clear of Default",
                            "Sky Clear of Sunny", "Sky Clear of Sunny", "Mostly Clear of Sunny"}));

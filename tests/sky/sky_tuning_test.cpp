@@ -4,8 +4,8 @@
 #include "core/ini_file.h"
 #include "imaging/pixel_patterns.h"
 #include "sky/sky_groups.h"
-#include "sky/sky_tuning_state.h"
 #include "sky/sky_install.h"
+#include "sky/sky_tuning_state.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -199,11 +199,21 @@ TEST_F(SkyTuningTest, settingsWithoutACoverAreAFirstRun) {
     EXPECT_EQ(session.skyTuning.cloudCover, "Sky Clear");
 }
 
+TEST_F(SkyTuningTest, settingsWithoutABaseShowNoSample) {
+    test::writeFile(settings, "[Cloud Cover]\r\n1=Overcast\r\n[Red]\r\n1=5\r\n");
+    EXPECT_EQ(tuning.open(), (SliderValues{0, 5, 0, 0, 0, 0}));
+    EXPECT_EQ(session.skyTuning.cloudIndex, 5);
+    EXPECT_EQ(install.user.told().size(), 1);
+    EXPECT_FALSE(tuning.sourceDib().isCreated());
+}
+
 TEST_F(SkyTuningTest, exitWritesOnlyWhatWasLoaded) {
-    test::writeFile(settings, "[Cloud Cover]\r\n1=Overcast\r\n");
+    const QByteArray contents = "[Cloud Cover]\r\n1=Overcast\r\n[Texture Set Group]\r\n1=Sunny\r\n";
+    test::writeFile(settings, contents);
     exitProgram(session);
-    EXPECT_EQ(test::readFile(settings), "[Cloud Cover]\r\n1=Overcast\r\n");
+    EXPECT_EQ(test::readFile(settings), contents);
     tuning.open();
+    session.CommandLineRun = true; // the store is closed: nothing can be asked of it
     exitProgram(session);
     EXPECT_EQ(GetIniString(install.files, u"PixelXHigh"_s, u"6"_s, settings), "31");
     EXPECT_EQ(GetIniString(install.files, u"Cloud Cover"_s, u"1"_s, settings), "Overcast");

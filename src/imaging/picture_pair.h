@@ -1,0 +1,17 @@
+#pragma once
+
+#include "core/file_system.h"
+#include "imaging/pixel_buffer.h"
+
+namespace morvane {
+
+/// A picture and a buffer of its size for what is made of it.
+struct PicturePair {
+    cDIBSection source, result;
+};
+
+/// Loads the picture of a file; the result's pixels are all 0. Raises what loadPicture raises, and "Out of
+/// memory".
+PicturePair loadPicturePair(FileSystem& files, const FilePath& path);
+
+} // namespace morvane
