@@ -92,7 +92,6 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
 }
 
 void makeSimulator(FileSystem& files, const ContentRequest& request) {
-    refuseUnlessEmpty(files, request.simulator);
     for (const char16_t* folder : simulatorFolders)
         files.makeFolder(request.simulator / folder);
     const FilePath program = request.simulator / u"fs9.exe";
@@ -112,6 +111,7 @@ bool isContentCurrent(FileSystem& files, const ContentRequest& request) {
 int makeContent(FileSystem& files, const ContentRequest& request) {
     const std::vector<BaseImage> stock = baseImageList(request.density);
     refuseUnlessEmpty(files, request.home);
+    if (!request.simulator.isEmpty()) refuseUnlessEmpty(files, request.simulator);
     for (const char16_t* folder : installFolders)
         files.makeFolder(request.home / folder);
     if (!request.simulator.isEmpty()) makeSimulator(files, request);
