@@ -6,6 +6,8 @@
 #include "cli/terminal.h"
 #include "core/application.h"
 #include "core/failure_report.h"
+#include "core/file_helpers.h"
+#include "core/numbers.h"
 #include "core/options.h"
 #include "core/text_decoding.h"
 #include "ground/colour_settings.h"
@@ -15,6 +17,7 @@
 #include "ground/ground_sets.h"
 #include "ground/texture_catalogue.h"
 #include "imaging/texture_codec.h"
+#include "simulator/flights.h"
 #include "simulator/originals.h"
 #include "simulator/set_matching.h"
 #include "sky/sky_sets.h"
@@ -153,6 +156,18 @@ bool originalsRestore(CommandContext& context) {
     return true;
 }
 
+bool flightsList(CommandContext& context) {
+    printJson(QJsonDocument(QJsonArray::fromStringList(savedFlights(context.session))));
+    return true;
+}
+
+bool flightsLoad(CommandContext& context) {
+    constexpr int documents = 5;
+    context.session.MyDocumentsPath = GetSpecialFolder(documents);
+    loadFlightFiles(context.session);
+    return true;
+}
+
 bool flyWord(CommandContext& context) {
     context.session.CommandLineRun = true;
     getCustomSplashVal(context.session);
@@ -198,6 +213,8 @@ const std::vector<Command>& commandTable() {
         {{u"sky"_s, u"install"_s}, 1, true, skyInstall, u"sky install NAME"_s},
         {{u"originals"_s, u"list"_s}, 0, true, originalsList, u"originals list"_s},
         {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
+        {{u"flights"_s, u"list"_s}, 0, true, flightsList, u"flights list"_s},
+        {{u"flights"_s, u"load"_s}, 0, true, flightsLoad, u"flights load"_s},
         {{u"fly"_s, u"--metar"_s}, 1, true, flyMetar, u"fly --metar \"TEXT\""_s},
         {{u"fly"_s}, 1, true, flyWord, u"fly WORD  (CLR, FEW, SCT, BKN or OVC)"_s},
     };

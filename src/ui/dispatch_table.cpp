@@ -4,6 +4,7 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
 #include "ground/screens/ground_colour_screen.h"
+#include "simulator/simulator_launch.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
 
@@ -40,6 +41,12 @@ void installGroundSet(Shell& shell, SkinnedButton&) {
 template <void (frm_GroundColorize::*method)()>
 void onGroundColours(Shell& shell, SkinnedButton&) {
     (shell.screen<frm_GroundColorize>(u"frm_GroundColorize"_s).*method)();
+}
+
+// Flights ------------------------------------------------------------------------------------------------
+
+void selectFlight(Shell& shell, SkinnedButton&) {
+    startSavedFlight(shell.session());
 }
 
 // Windows and pages --------------------------------------------------------------------------------------
@@ -139,6 +146,8 @@ constexpr Entry entries[] = {
     {large, groundColours, u"random advanced", onGroundColours<&frm_GroundColorize::randomGroundValues>},
     {large, groundColours, u"open texture", onGroundColours<&frm_GroundColorize::openTexture>},
     {large, groundColours, u"add fav", onGroundColours<&frm_GroundColorize::addFavourite>},
+
+    {large, wxControl, u"selectflight", selectFlight},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

@@ -5,6 +5,7 @@
 #include "ground/screens/ground_sets_screen.h"
 #include "ground/screens/sample_screen.h"
 #include "ground/screens/set_counts_screen.h"
+#include "simulator/screens/flight_screen.h"
 #include "ui/screens/about_screen.h"
 #include "ui/screens/links_screen.h"
 #include "ui/screens/main_screen.h"
@@ -47,6 +48,7 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_MultiDelete>(u"frm_MultiDelete"_s),
         screenEntry<frm_SelectTexture>(u"frm_SelectTexture"_s),
         screenEntry<frm_TsRequired>(u"frm_TsRequired"_s),
+        screenEntry<frm_flight>(u"frm_flight"_s),
         screenEntry<frm_About>(u"frm_About"_s),
         screenEntry<frm_Links>(u"frm_Links"_s),
         unbuiltPage(u"frm_WxControl"_s, u"flight config"_s, u"icon_WxFinder.bmp"_s,

@@ -2,8 +2,10 @@
 
 #include "core/application.h"
 #include "core/failure_report.h"
+#include "core/file_helpers.h"
 #include "core/options.h"
 #include "core/session.h"
+#include "simulator/flights.h"
 #include "simulator/resource_folders.h"
 #include "ui/screens/main_screen.h"
 #include "ui/screens/splash_screen.h"
@@ -11,7 +13,6 @@
 #include "ui/skin.h"
 
 #include <QApplication>
-#include <QStandardPaths>
 
 namespace morvane {
 
@@ -37,9 +38,11 @@ void loadBehindSplash(Shell& shell) {
     splash.show();
     session.StartingUp = true;
     showStep(splash, u"Loading the settings. Please Wait............."_s, 20);
-    session.MyDocumentsPath =
-        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).replace(u'/', u'\\') + u'\\';
+    constexpr int documents = 5;
+    session.MyDocumentsPath = GetSpecialFolder(documents);
     getCustomSplashVal(session);
+    if (!session.IsWideClient) showStep(splash, flightsProgressText, 40);
+    loadFlightFiles(session);
     clsResourceFolders::reload(session);
     showStep(splash, u"Loading the texture sets. Please Wait............."_s, 60);
     shell.formatMainScreen();

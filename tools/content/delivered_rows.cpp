@@ -91,6 +91,31 @@ void addDefaultGroundSet(Store& store) {
                    {u"INSTALLED", false}});
 }
 
+void addDefaultSkySet(Store& store) {
+    RowSet sets(store, u"SELECT * FROM SKY_TEXTURE_SETS"_s);
+    addRow(sets, {{u"SKY_TEXTURE_SET", u"Default"_s},
+                  {u"CLOUD_COVER", u"Partly Cloudy"_s},
+                  {u"ACTIVATED", u"True"_s},
+                  {u"DESCRIPTION", u"Default Morvane Sky Texture Set with no extra settings"_s},
+                  {u"TEXTURE_SET_GROUP", u"Default"_s},
+                  {u"INSTALLED", false}});
+    // No change of a colour, and the pixels of each group.
+    RowSet colours(store, u"SELECT * FROM SKY_TEXTURE_SUB_SETS"_s);
+    addRow(colours, {{u"TEXTURE_SET_ID", 1},
+                     {u"SKY_TEXTURE_SUB_SET", u"1-Day:Default"_s},
+                     {u"TIME_OF_DAY", u"Day"_s},
+                     {u"DARK_GROUND", u"0:0:0:0:0:0:1:1:32"_s},
+                     {u"LIGHT_GROUND", u"0:0:0:0:0:0:2:2:32"_s},
+                     {u"DARK_CLOUD", u"0:0:0:0:0:0:3:3:32"_s},
+                     {u"LIGHT_CLOUD", u"0:0:0:0:0:0:4:4:32"_s},
+                     {u"DARK_WATER", u"0:0:0:0:0:0:5:5:32"_s},
+                     {u"MAIN_WATER", u"0:0:0:0:0:0:6:31:32"_s},
+                     {u"LIGHT_WATER", u"0:0:0:0:0:0:32:32:32"_s},
+                     {u"HIGH_HORIZON", u"0:0:0:0:0:0:1:32:2"_s},
+                     {u"LOW_HORIZON", u"0:0:0:0:0:0:1:32:1"_s},
+                     {u"MAIN_SKY", u"0:0:0:0:0:0:1:32:255"_s}});
+}
+
 void addNightSets(Store& store) {
     const QString rows[][3] = {
         {u"Default"_s, u"0:0:0:0:0:0"_s, u"Default Morvane Night Texture Set with no extra settings"_s},
@@ -151,6 +176,7 @@ void writeDeliveredStore(FileSystem& files, const FilePath& data, const FilePath
     addConfigs(store);
     addSwitches(store);
     addDefaultGroundSet(store);
+    addDefaultSkySet(store);
     addNightSets(store);
     addWeather(session, data);
     whole.commit();

@@ -4,7 +4,9 @@
 #include "core/literals.h"
 #include "core/registry.h"
 #include "delivered_rows.h"
+#include "flight_files.h"
 #include "skin_files.h"
+#include "sky_files.h"
 #include "stock_files.h"
 
 namespace morvane {
@@ -12,7 +14,7 @@ namespace morvane {
 namespace {
 
 /// Raise it whenever what the tool makes changes: samples of another version are made anew.
-constexpr int contentVersion = 4;
+constexpr int contentVersion = 5;
 
 /// What the steps take of the whole, in hundredths; the splashes and the skin take the rest.
 constexpr int storeShare = 5, stockShare = 80;
@@ -80,20 +82,21 @@ void refuseUnlessEmpty(FileSystem& files, const FilePath& folder) {
 
 void writeRegistry(FileSystem& files, const ContentRequest& request) {
     const auto registry = openRegistry(files, request.home);
-    if (!request.simulator.isEmpty()) {
-        registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
-        registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s,
-                               request.simulator.native());
-    }
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
+    if (request.simulator.isEmpty()) return;
+    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s,
+                           (request.simulator / u"Flights").native());
+    registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
+    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, request.simulator.native());
 }
 
-void makeSimulatorFolders(FileSystem& files, const FilePath& simulator) {
-    refuseUnlessEmpty(files, simulator);
+void makeSimulator(FileSystem& files, const ContentRequest& request) {
     for (const char16_t* folder : simulatorFolders)
-        files.makeFolder(simulator / folder);
-    files.write(simulator / u"fs9.exe", "A stand-in of the sample simulator.\r\n");
+        files.makeFolder(request.simulator / folder);
+    const FilePath program = request.simulator / u"fs9.exe";
+    files.copyContents(request.simulatorProgram, program);
+    files.copyMode(request.simulatorProgram, program);
 }
 
 } // namespace
@@ -108,14 +111,17 @@ bool isContentCurrent(FileSystem& files, const ContentRequest& request) {
 int makeContent(FileSystem& files, const ContentRequest& request) {
     const std::vector<BaseImage> stock = baseImageList(request.density);
     refuseUnlessEmpty(files, request.home);
+    if (!request.simulator.isEmpty()) refuseUnlessEmpty(files, request.simulator);
     for (const char16_t* folder : installFolders)
         files.makeFolder(request.home / folder);
-    if (!request.simulator.isEmpty()) makeSimulatorFolders(files, request.simulator);
+    if (!request.simulator.isEmpty()) makeSimulator(files, request);
     writeDeliveredStore(files, request.data, storeFile(request));
     request.onProgress(storeShare);
     writeStock(files, request.home, request.simulator, stock, [&](std::size_t done) {
         request.onProgress(storeShare + static_cast<int>(stockShare * done / stock.size()));
     });
+    writeSkyStock(files, request.home, request.simulator);
+    writeFlights(files, request.home, request.simulator);
     writeSplashes(files, request.home, request.simulator);
     writeSkin(files, request.home / u"Media");
     writeHelp(files, request.home / u"MV Help");

@@ -10,7 +10,8 @@ namespace morvane {
 /// repository's data folder.
 struct ContentRequest {
     FilePath home;
-    FilePath simulator; ///< empty for none: the program then asks the pilot for the real one
+    FilePath simulator;        ///< empty for none: the program then asks the pilot for the real one
+    FilePath simulatorProgram; ///< the stand-in that becomes the sample simulator's fs9.exe
     FilePath data;
     int density = 1;
     /// Told the share of the work that is done, 0 to 100, some hundred times.

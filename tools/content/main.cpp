@@ -35,6 +35,13 @@ QString defaultDataFolder() {
     return QFileInfo::exists(installed) ? installed : QStringLiteral(MORVANE_DATA_DIR);
 }
 
+/// It lies beside this one.
+FilePath simulatorProgram() {
+    const QFileInfo self(QCoreApplication::applicationFilePath());
+    const QString suffix = self.suffix().isEmpty() ? QString() : u'.' + self.suffix();
+    return FilePath(self.path()) / (u"morvane-simulator"_s + suffix);
+}
+
 /// The tool draws words, but never a window: it needs neither a display nor a user's session. Qt asks for
 /// the latter's folder and complains where there is none.
 void setDefault(const char* variable, const QString& value) {
@@ -44,7 +51,7 @@ void setDefault(const char* variable, const QString& value) {
 int run(const QCommandLineParser& parser) {
     if (parser.isSet(u"icon"_s)) return skin::drawProgramIcon(128).save(parser.value(u"icon"_s)) ? 0 : 1;
     NativeFileSystem files;
-    ContentRequest request{folder(parser, u"home"_s), folder(parser, u"simulator"_s),
+    ContentRequest request{folder(parser, u"home"_s), folder(parser, u"simulator"_s), simulatorProgram(),
                            folder(parser, u"data"_s), parser.value(u"density"_s).toInt()};
     if (parser.isSet(u"check"_s)) return isContentCurrent(files, request) ? 0 : 1;
     if (parser.isSet(u"progress"_s))

@@ -13,7 +13,6 @@ namespace morvane {
 
 namespace {
 
-/// The sample simulator's look: paler and browner than any set of ours, so that a change is seen at once.
 constexpr ColourValues simulatorLook{-55, 6, 0, -6, -6, -10};
 
 struct DrawnImage {
@@ -33,11 +32,7 @@ DrawnImage draw(const BaseImage& image) {
     DrawnImage drawn;
     drawn.picture = drawBaseImage(image);
     drawn.body = compressTexture(drawn.picture);
-    cDIBSection source, result;
-    source.CreateFromPicture(drawn.picture);
-    result.Create(source.Width(), source.Height());
-    recolour(simulatorLook, source, result);
-    drawn.simulatorTexture = compressTexture(pictureOf(result));
+    drawn.simulatorTexture = compressTexture(inSimulatorLook(drawn.picture));
     return drawn;
 }
 
@@ -53,18 +48,26 @@ Picture toPicture(const QImage& image) {
     return picture;
 }
 
-void saveBitmap(const Picture& picture, const FilePath& target) {
-    cDIBSection section;
-    section.CreateFromPicture(picture);
-    if (!section.SavePicture(target)) throw Error(ErrorCode::diskFull, target.text());
-}
-
 FilePath simulatorFolder(const FilePath& simulator, const QString& resourceFolder) {
     return simulator /
            (resourceFolder == u"UTIND" ? u"Scenery\\UTEurLC\\Texture" : u"Scenery\\World\\Texture");
 }
 
 } // namespace
+
+void saveBitmap(const Picture& picture, const FilePath& target) {
+    cDIBSection section;
+    section.CreateFromPicture(picture);
+    if (!section.SavePicture(target)) throw Error(ErrorCode::diskFull, target.text());
+}
+
+Picture inSimulatorLook(const Picture& picture) {
+    cDIBSection source, result;
+    source.CreateFromPicture(picture);
+    result.Create(source.Width(), source.Height());
+    recolour(simulatorLook, source, result);
+    return pictureOf(result);
+}
 
 void writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator,
                 const std::vector<BaseImage>& stock, const std::function<void(std::size_t)>& onDone) {

@@ -2,6 +2,7 @@
 
 #include "base_image_list.h"
 #include "core/file_system.h"
+#include "imaging/picture.h"
 
 #include <functional>
 
@@ -14,6 +15,12 @@ namespace morvane {
 /// `simulator` stands for none. `onDone` is told how many images are done.
 void writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator,
                 const std::vector<BaseImage>& stock, const std::function<void(std::size_t)>& onDone);
+
+/// As a bitmap file of 24 bits; raises when the disk is full.
+void saveBitmap(const Picture& picture, const FilePath& target);
+/// The picture in the sample simulator's colours: paler and browner than any set of ours, so that a change is
+/// seen at once.
+Picture inSimulatorLook(const Picture& picture);
 
 /// The splash pictures below `home`\Media, and the simulator's own in its "Uires".
 void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simulator);

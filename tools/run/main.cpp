@@ -1,5 +1,5 @@
 // morvane-run: the main job at the console, on a sample install: a METAR, its cover word, a ground set for
-// it, the question, the install, and a contact sheet to look at.
+// it, the question, the install, the simulator's start, and a contact sheet to look at.
 
 #include "cli/console_user.h"
 #include "cli/terminal.h"
@@ -12,13 +12,17 @@
 #include "ground/cloud_cover.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
+#include "simulator/flights.h"
 #include "simulator/set_matching.h"
+#include "start_record.h"
 #include "weather/metar_decoder.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QThread>
 
 using namespace morvane;
 
@@ -74,6 +78,31 @@ void makeSet(Session& session, ConsoleUser& user, const QString& cover) {
             .arg(timer.elapsed() / 1000.0, 0, 'f', 1));
 }
 
+/// What the sample simulator's stand-in recorded; a real simulator keeps no record and has a window to show.
+void showStart(const QString& simulator, qsizetype startsBefore) {
+    for (const QDeadlineTimer deadline(3000); !deadline.hasExpired(); QThread::msleep(20))
+        if (const QByteArrayList starts = recordedStarts(simulator); starts.size() > startsBefore)
+            return say(u"Simulator started: "_s + QString::fromUtf8(starts.last()));
+    say(u"The simulator recorded no start."_s);
+}
+
+/// The saved flights are gathered as a start of the program does it; the one asked for is chosen from them.
+bool prepareFlight(Session& session, ConsoleUser& user, const QString& flight) {
+    loadFlightFiles(session);
+    if (flight.isEmpty()) return true;
+    const QStringList flights = savedFlights(session);
+    if (!flights.contains(flight, Qt::CaseInsensitive)) {
+        say(u"There is no saved flight '%1'. There are: %2"_s.arg(flight, flights.join(u", "_s)));
+        return false;
+    }
+    user.onModal = [&session, flight](Screen screen) {
+        if (screen != Screen::frm_flight) return;
+        session.modal.SelectedFlightName = flight;
+        session.modal.FlightSelected = true;
+    };
+    return true;
+}
+
 void fly(Session& session) {
     QElapsedTimer timer;
     timer.start();
@@ -88,7 +117,12 @@ void fly(Session& session) {
             .arg(session.FSPath.text()));
 }
 
-int run(Session& session, ConsoleUser& user, const QString& metar, const QString& sheet) {
+struct RunRequest {
+    QString metar, flight, sheet;
+};
+
+int run(Session& session, ConsoleUser& user, const RunRequest& request) {
+    const QString& metar = request.metar;
     if (!startUp(session)) return 1;
     getCustomSplashVal(session);
     say(u"METAR: "_s + metar);
@@ -99,9 +133,14 @@ int run(Session& session, ConsoleUser& user, const QString& metar, const QString
     const QString cover = SetMatching::coverWord(SetMatching(session).getAverageCloudCover());
     say(u"Cloud cover: "_s + cover);
     if (!hasActivatedSet(session, cover)) makeSet(session, user, cover);
+    if (!prepareFlight(session, user, request.flight)) return 1;
+    const QString simulator = session.FSPath.native();
+    const qsizetype startsBefore = recordedStarts(simulator).size();
     fly(session);
-    writeContactSheet(session, sheet);
-    say(u"Contact sheet: "_s + sheet);
+    if (session.modal.FlightSelected || user.answers().flag(Question::launch))
+        showStart(simulator, startsBefore);
+    writeContactSheet(session, request.sheet);
+    say(u"Contact sheet: "_s + request.sheet);
     closeDatabase(session);
     return user.hasFailed() ? 1 : 0;
 }
@@ -116,16 +155,20 @@ int main(int argc, char** argv) {
     parser.addOption({u"home"_s, u"The install folder."_s, u"DIR"_s});
     parser.addOption({u"sheet"_s, u"Where the contact sheet goes."_s, u"PNG"_s});
     parser.addOption({u"metar"_s, u"A report of your own; else one of the sample cycle."_s, u"TEXT"_s});
+    parser.addOption({u"flight"_s, u"A saved flight to start the simulator with; else none."_s, u"NAME"_s});
     parser.process(application);
     if (!parser.isSet(u"home"_s) || !parser.isSet(u"sheet"_s)) parser.showHelp(2);
 
     NativeFileSystem files;
     SystemClock clock;
     ReseedingRandomSource random;
-    ConsoleUser user({isTerminal() ? AnswerPolicy::ask : AnswerPolicy::yes, true});
+    ConsoleUser user({isTerminal() ? AnswerPolicy::ask : AnswerPolicy::yes,
+                      true,
+                      {{Question::savedFlight, parser.isSet(u"flight"_s)}}});
     const FilePath home(QFileInfo(parser.value(u"home"_s)).absoluteFilePath());
     const auto registry = openRegistry(files, home);
     Session session({user, files, clock, random, *registry}, home);
     const QString metar = parser.isSet(u"metar"_s) ? parser.value(u"metar"_s) : sampleReport(files);
-    return run(session, user, metar, QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath());
+    const QString sheet = QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath();
+    return run(session, user, {metar, parser.value(u"flight"_s), sheet});
 }
