@@ -5,6 +5,10 @@
 #include "ground/ground_installation.h"
 #include "ground/screens/ground_colour_screen.h"
 #include "simulator/simulator_launch.h"
+#include "sky/screens/sky_colour_screen.h"
+#include "sky/sky_activation.h"
+#include "sky/sky_generation.h"
+#include "sky/sky_installation.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
 
@@ -47,6 +51,33 @@ void onGroundColours(Shell& shell, SkinnedButton&) {
 
 void selectFlight(Shell& shell, SkinnedButton&) {
     startSavedFlight(shell.session());
+}
+
+// Sky ----------------------------------------------------------------------------------------------------
+
+void createSkySets(Shell& shell, SkinnedButton& button) {
+    SkyGeneration(shell.session()).createSkySets(Form::of(&button)->formName() == u"frm_Main");
+}
+
+void activateSkySet(Shell& shell, SkinnedButton& button) {
+    SkyActivation activation(shell.session());
+    if (button.state() == ButtonState::deactivate)
+        activation.deleteSkySet(true);
+    else
+        activation.activateSkySet();
+}
+
+void deleteSkySet(Shell& shell, SkinnedButton&) {
+    SkyActivation(shell.session()).deleteSkySet(false);
+}
+
+void installSkySet(Shell& shell, SkinnedButton&) {
+    SkyInstallation(shell.session()).installSkySet(false);
+}
+
+template <void (frm_SkyColorize::*method)()>
+void onSkyColours(Shell& shell, SkinnedButton&) {
+    (shell.screen<frm_SkyColorize>(u"frm_SkyColorize"_s).*method)();
 }
 
 // Windows and pages --------------------------------------------------------------------------------------
@@ -132,7 +163,7 @@ constexpr Entry entries[] = {
     {medium, main, u"help", openHelp},
     {medium, main, u"about", goTo<about>},
     {large, main, u"main ground install", createGroundSets},
-    {large, main, u"main sky install", showHost<sky>},
+    {large, main, u"main sky install", createSkySets},
     {large, main, u"main mv config", goTo<config>},
 
     {medium, ground, u"home", leaveHost},
@@ -152,6 +183,14 @@ constexpr Entry entries[] = {
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},
     {medium, sky, u"sky", goTo<skyColours>},
+    {large, sky, u"delete sts", deleteSkySet},
+    {large, sky, u"create sts", createSkySets},
+    {large, sky, u"activate sts", activateSkySet},
+    {large, sky, u"install sts", installSkySet},
+
+    {large, skyColours, u"random sky", onSkyColours<&frm_SkyColorize::randomizeSky>},
+    {large, skyColours, u"open sky", onSkyColours<&frm_SkyColorize::openBaseSkyImage>},
+    {large, skyColours, u"add fav sky", onSkyColours<&frm_SkyColorize::addFavourite>},
 
     {medium, night, u"home", leaveHost},
     {medium, night, u"texture sets", showList},

@@ -6,6 +6,10 @@
 #include "ground/screens/sample_screen.h"
 #include "ground/screens/set_counts_screen.h"
 #include "simulator/screens/flight_screen.h"
+#include "sky/screens/base_sky_screen.h"
+#include "sky/screens/sky_colour_screen.h"
+#include "sky/screens/sky_set_counts_screen.h"
+#include "sky/screens/sky_sets_screen.h"
 #include "ui/screens/about_screen.h"
 #include "ui/screens/links_screen.h"
 #include "ui/screens/main_screen.h"
@@ -47,6 +51,8 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_AddFav>(u"frm_AddFav"_s),
         screenEntry<frm_MultiDelete>(u"frm_MultiDelete"_s),
         screenEntry<frm_SelectTexture>(u"frm_SelectTexture"_s),
+        screenEntry<frm_SelectSkyTexture>(u"frm_SelectSkyTexture"_s),
+        screenEntry<frm_SelectBaseSky>(u"frm_SelectBaseSky"_s),
         screenEntry<frm_TsRequired>(u"frm_TsRequired"_s),
         screenEntry<frm_flight>(u"frm_flight"_s),
         screenEntry<frm_About>(u"frm_About"_s),
@@ -59,11 +65,8 @@ const std::vector<FormEntry>& formEntries() {
                     u"Main Morvane Base Install Page"_s),
         screenEntry<frm_MVTextures>(u"frm_MVTextures"_s),
         screenEntry<frm_GroundColorize>(u"frm_GroundColorize"_s),
-        unbuiltHost(
-            u"frm_KMTextures"_s, skyLook,
-            {u"sky texture sets"_s, u"sky"_s, u"btn_SkyColor"_s, u"Click to minimize Sky Textures Screen."_s},
-            u"frm_SkyColorize"_s),
-        unbuiltPage(u"frm_SkyColorize"_s, u"sky"_s, u"icon_Ground.bmp"_s, u"Sky Color"_s),
+        screenEntry<frm_KMTextures>(u"frm_KMTextures"_s),
+        screenEntry<frm_SkyColorize>(u"frm_SkyColorize"_s),
         unbuiltHost(
             u"frm_NightTextures"_s, nightLook,
             {u"texture sets"_s, u"ground"_s, u"btn_2d"_s, u"Click to minimize Ground Textures screen."_s},

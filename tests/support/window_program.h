@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/application.h"
+#include "sky/sky_base_sets.h"
 #include "support/small_install.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
@@ -25,6 +26,7 @@ public:
         : install(options),
           session({user, install.files, install.clock, install.random, install.registry}, install.home()),
           skin(install.files, install.home() / u"Media"), shell(session, skin) {
+        addSkyStock();
         user.setShell(&shell);
         if (!startUp(session)) throw std::runtime_error("the window program does not start");
         session.RefreshGroundList = session.RefreshSkyList = session.RefreshNightList = true;
@@ -62,6 +64,16 @@ public:
     /// A click of the mouse on a skinned key.
     void press(const QString& form, const QString& name) {
         QTest::mouseClick(&control<SkinnedButton>(form, name), Qt::LeftButton);
+    }
+
+    /// A sky texture for every base set and for the other times of day, no two alike.
+    void addSkyStock() {
+        const FilePath stock = install.home() / u"Resources\\Sky";
+        int shade = 30;
+        for (const QString& base : skyBaseSetBoxes())
+            writeFile(stock / base / u"sky_afternoon_3.bmp", smallBitmap(32, shade += 9));
+        writeFile(stock / u"Sunrise\\sky_sunrise_1.bmp", smallBitmap(32, 11));
+        writeFile(stock / u"Sunset\\sky_sunset_1.bmp", smallBitmap(32, 12));
     }
 
     SmallInstall install;

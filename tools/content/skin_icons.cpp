@@ -21,6 +21,7 @@ constexpr IconImage icons[] = {
     {u"icon_MainLinks", titleSide, Pictogram::globe},
     {u"icon_MVOpen", titleSide, Pictogram::openFolder},
     {u"icon_Ground", titleSide, Pictogram::drop},
+    {u"icon_Sky", titleSide, Pictogram::cloudWithDrop},
     {u"icon_Information", messageSide, Pictogram::information},
     {u"icon_Exclamation", messageSide, Pictogram::warning},
     // Some messages ask for these spellings.

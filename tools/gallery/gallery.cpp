@@ -1,6 +1,7 @@
 #include "gallery.h"
 
 #include "core/session.h"
+#include "sky/screens/palette_picture.h"
 #include "ui/controls/slider.h"
 #include "ui/screens/splash_screen.h"
 
@@ -99,9 +100,27 @@ void Gallery::saveGround() {
     shell_.leaveHost(u"frm_MVTextures"_s);
 }
 
+void Gallery::saveSky() {
+    shell_.showHost(u"frm_KMTextures"_s);
+    Form& window = *shell_.form(u"frm_KMTextures"_s);
+    save(u"sky-sets"_s, window);
+    shell_.goToPage(u"frm_SkyColorize"_s);
+    save(u"sky-colour-untouched"_s, window);
+    auto* palette = window.findChild<PalettePicture*>();
+    Q_EMIT palette->clicked(120, 120);
+    const std::pair<const char16_t*, int> tuned[] = {
+        {u"vcSkySat", -10}, {u"vcSkyRed", 15}, {u"vcSkyBlue", -20}, {u"vcSkyBright", -25}};
+    for (const auto& [slider, value] : tuned)
+        window.findChild<ucSlider*>(QString::fromUtf16(slider))->setValue(value);
+    save(u"sky-colour"_s, window);
+    shell_.leaveHost(u"frm_KMTextures"_s);
+}
+
 void Gallery::saveDialogs() {
     const std::pair<Screen, const char16_t*> dialogs[] = {{Screen::frm_TsRequired, u"set-counts"},
                                                           {Screen::frm_SelectTexture, u"select-texture"},
+                                                          {Screen::frm_SelectSkyTexture, u"sky-set-counts"},
+                                                          {Screen::frm_SelectBaseSky, u"select-base-sky"},
                                                           {Screen::frm_AddFav, u"add-favourite"},
                                                           {Screen::frm_MultiDelete, u"name-choice"}};
     shell_.session().modal.multiNames = QStringList{u"12-Desert Haze"_s, u"21-Late Autumn"_s};
@@ -110,13 +129,10 @@ void Gallery::saveDialogs() {
                   [&, which = screen] { shell_.session().user.showModal(which); });
 }
 
-void Gallery::saveOtherHosts() {
-    for (const auto& [form, picture] : {std::pair(u"frm_KMTextures"_s, u"sky-sets"_s),
-                                        std::pair(u"frm_NightTextures"_s, u"night-sets"_s)}) {
-        shell_.showHost(form);
-        save(picture, *shell_.form(form));
-        shell_.leaveHost(form);
-    }
+void Gallery::saveNight() {
+    shell_.showHost(u"frm_NightTextures"_s);
+    save(u"night-sets"_s, *shell_.form(u"frm_NightTextures"_s));
+    shell_.leaveHost(u"frm_NightTextures"_s);
 }
 
 void Gallery::saveMessages() {
@@ -155,8 +171,9 @@ void Gallery::saveAll() {
     saveMainWindow();
     savePages();
     saveGround();
+    saveSky();
+    saveNight();
     saveDialogs();
-    saveOtherHosts();
     saveMessages();
     saveProgress();
 }

@@ -27,8 +27,9 @@ private:
     void saveMainWindow();
     void savePages();
     void saveGround();
+    void saveSky();
+    void saveNight();
     void saveDialogs();
-    void saveOtherHosts();
     void saveMessages();
     void saveProgress();
 

@@ -13,7 +13,10 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
 #include "simulator/flights.h"
+#include "simulator/set_choice.h"
 #include "simulator/set_matching.h"
+#include "sky/sky_generation.h"
+#include "sky/sky_sets.h"
 #include "start_record.h"
 #include "weather/metar_decoder.h"
 
@@ -56,26 +59,49 @@ void describe(const clsDecodeMetar& report) {
             say(u"  %1 %2"_s.arg(QStringView(name).toString() + u':', -12).arg(value));
 }
 
-bool hasActivatedSet(Session& session, const QString& cover) {
-    for (const auto& set : loadedGroundSets(session))
-        if (set->TextureSet != u"Default" && set->Actvated == flagText(true) && set->CloudCover == cover)
-            return true;
-    return false;
+/// Whether there is another activated set for the cover than the delivered one.
+template <class Sets>
+bool hasOwnSet(const Sets& sets, const QString& cover) {
+    const QStringList names = namesForCover(activatedSets(sets), cover);
+    return std::any_of(names.begin(), names.end(), [](const QString& name) { return name != u"Default"; });
 }
 
-void makeSet(Session& session, ConsoleUser& user, const QString& cover) {
-    say(u"There is no activated ground set for %1 yet, so one is made."_s.arg(cover));
-    user.onModal = [&](Screen screen) {
-        if (screen != Screen::frm_TsRequired) return;
-        session.modal.setCounts = {};
-        session.modal.setCounts[static_cast<std::size_t>(cloudCover(cover)->number - 1)] = 1;
-        session.modal.setCountsConfirmed = true;
-    };
+std::array<std::int16_t, 5> oneOf(const QString& cover) {
+    std::array<std::int16_t, 5> counts{};
+    counts[static_cast<std::size_t>(cloudCover(cover)->number - 1)] = 1;
+    return counts;
+}
+
+/// `make` makes a set and gives its name.
+template <class Make>
+void makeSet(const QString& kind, const QString& cover, Make make) {
+    say(u"There is no activated %1 set for %2 yet, so one is made."_s.arg(kind, cover));
     QElapsedTimer timer;
     timer.start();
-    GroundGeneration(session).createTextureSets(true);
-    say(u"Made '%1' in %2 s."_s.arg(session.ground.SelectedGroundSet)
-            .arg(timer.elapsed() / 1000.0, 0, 'f', 1));
+    const QString name = make();
+    say(u"Made '%1' in %2 s."_s.arg(name).arg(static_cast<double>(timer.elapsed()) / 1000, 0, 'f', 1));
+}
+
+void makeMissingSets(Session& session, ConsoleUser& user, const QString& cover) {
+    user.onModal = [&](Screen screen) {
+        ModalState& modal = session.modal;
+        modal.setCounts = modal.skySetCounts = oneOf(cover);
+        // An overcast sky is made of the base set of that name only, any other never of it.
+        modal.skyBaseSets = QStringList{cover == u"Overcast" ? u"Overcast"_s : u"Pro Sky"_s};
+        modal.setCountsConfirmed = screen == Screen::frm_TsRequired;
+        modal.skySetsConfirmed = screen == Screen::frm_SelectSkyTexture;
+    };
+    if (!hasOwnSet(loadedGroundSets(session), cover))
+        makeSet(u"ground"_s, cover, [&] {
+            GroundGeneration(session).createTextureSets(true);
+            return session.ground.SelectedGroundSet;
+        });
+    if (!hasOwnSet(loadedSkySets(session), cover))
+        makeSet(u"sky"_s, cover, [&] {
+            SkyGeneration(session).createSkySets(true);
+            const auto& sets = loadedSkySets(session);
+            return sets.GetItem(sets.Count())->SkyTextureSet;
+        });
 }
 
 /// What the sample simulator's stand-in recorded; a real simulator keeps no record and has a window to show.
@@ -111,7 +137,8 @@ void fly(Session& session) {
         say(u"Nothing was installed."_s);
         return;
     }
-    say(u"Installed ground set '%1': %2 files in %3 s, into %4"_s.arg(session.ground.SelectedGroundSet)
+    say(u"Installed ground set '%1' and sky set '%2': %3 files in %4 s, into %5"_s
+            .arg(session.ground.SelectedGroundSet, session.sky.SelectedSkySet)
             .arg(copied)
             .arg(timer.elapsed() / 1000.0, 0, 'f', 1)
             .arg(session.FSPath.text()));
@@ -132,7 +159,7 @@ int run(Session& session, ConsoleUser& user, const RunRequest& request) {
     if (!processMetarString(session, metar)) return 1;
     const QString cover = SetMatching::coverWord(SetMatching(session).getAverageCloudCover());
     say(u"Cloud cover: "_s + cover);
-    if (!hasActivatedSet(session, cover)) makeSet(session, user, cover);
+    makeMissingSets(session, user, cover);
     if (!prepareFlight(session, user, request.flight)) return 1;
     const QString simulator = session.FSPath.native();
     const qsizetype startsBefore = recordedStarts(simulator).size();

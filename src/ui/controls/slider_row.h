@@ -12,7 +12,7 @@ class ucSlider;
 
 /// The names of a colour's controls and what the user reads of it.
 struct SliderRowSetup {
-    QString slider; ///< "vcRed"
+    QString slider; ///< "vcRed"; its buttons are then "cmdRedMinus", "cmdRedPlus" and "cmdRedReset"
     QString label;  ///< "lblRed"
     QString caption;
     QPoint place;
@@ -28,13 +28,18 @@ public:
     int value() const;
     /// As if the user had moved the slider there: `changed` follows when the value is another one.
     void setValue(int value);
+    /// The same with another text than the usual one in its label, until the value is set again.
+    void setValue(int value, const QString& label);
 
 Q_SIGNALS:
     void changed();
 
 private:
-    void addButton(ButtonSign sign, const SliderRowSetup& setup, const QString& tip, int left,
-                   int (*next)(int));
+    struct ButtonPlace {
+        QString nameEnd, tip;
+        int left;
+    };
+    void addButton(ButtonSign sign, const SliderRowSetup& setup, const ButtonPlace& place, int (*next)(int));
 
     ucSlider* slider_;
     QLabel* label_;

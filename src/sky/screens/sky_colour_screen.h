@@ -1,0 +1,42 @@
+#pragma once
+
+#include "sky/sky_tuning.h"
+#include "ui/colour_page.h"
+
+namespace morvane {
+
+class PalettePicture;
+
+/// The colour page of the sky: the palette picture on which a group of pixels is taken in hand, six sliders
+/// for that group, and the texture in the colours of all ten.
+class frm_SkyColorize : public ColourPage {
+    Q_OBJECT
+public:
+    explicit frm_SkyColorize(Shell& shell);
+
+    void format() override;
+
+    /// Loads a texture and shows it as it is and coloured.
+    void openSkyImage(const FilePath& path);
+    /// Writes the sliders into the group in hand and shows what comes of it.
+    void SkyProcess() { showPreview(); }
+
+    /// The large keys.
+    void openBaseSkyImage();
+    void randomizeSky();
+    void addFavourite();
+
+private:
+    void clickPalette(float x, float y);
+    void optCloudCover(int index) override { tuning_.optCloudCover(index); }
+    void showPreview() override;
+    void showPictures();
+    void showGroup();
+
+    SkyTuning tuning_;
+    bool isFilled_ = false;
+    PalettePicture* picSkySource_;
+    PictureFrame* picSkyResult_;
+};
+
+} // namespace morvane

@@ -1,0 +1,110 @@
+#include "sky/screens/sky_sets_screen.h"
+
+#include "core/failure_report.h"
+#include "sky/sky_base_sets.h"
+#include "sky/sky_selection.h"
+#include "sky/sky_sets.h"
+
+namespace morvane {
+
+namespace {
+
+constexpr QRgb installedColour = qRgb(255, 0, 0), usualColour = qRgb(0, 0, 255);
+
+const HostKeys windowKeys{u"sky texture sets"_s, u"sky"_s, u"btn_SkyColor"_s,
+                          u"Click to minimize Sky Textures Screen."_s};
+
+const SetListSetup listPage{
+    .instructionsName = u"lblSkyTsInstructions"_s,
+    .instructions =
+        u"To create a series of sky texture sets please click the create button and then select the base "
+        u"sets "
+        "you wish to use to create the textures sets.  Then enter the number of each cloud cover value "
+        "required into the text boxes on the dialog screen that appears. Click the checkmark button to "
+        "commence the creation process. These sets, unlike the ground texture sets, only take around 5 - 10 "
+        "seconds each to create. "_s,
+    .listName = u"lstSkyTextureSets"_s,
+    .listWidth = 388,
+    .columns = {{u"Name"_s, 150},
+                {u"Activated?"_s, 66},
+                {u"Cloud Cover"_s, 82},
+                {u"Texture Set Group"_s, 76}},
+    .hasCheckBoxes = true,
+    .sourceName = u"picSkyTextureSetSource"_s,
+    .resultName = u"picSkyTextureSetResult"_s,
+    .pictureSide = 80,
+    .pictureLefts = {416, 502},
+    .isSmooth = false,
+    .descriptionName = u"lblSkyTSDescription"_s,
+    .create = {u"btn_SkytextureCreate"_s, u"create Sts"_s},
+    .activate = {u"btn_SkyTextureActivate"_s, u"activate sts"_s},
+    .install = {u"btn_SkyTextureInstall"_s, u"install sts"_s},
+    .remove = {u"btn_SkyTextureDelete"_s, u"delete Sts"_s},
+    // Unlike the ground: an activated sky set can be deactivated however its row was selected.
+    .ofActivatedByPage = ButtonState::deactivate,
+};
+
+SetRow rowOf(const clsSkyTextureSet& set) {
+    return {skyListKey(set),
+            {set.SkyTextureSet, set.Activated, set.CloudCover, set.TextureSetGroup},
+            QStringList(4, set.SkyTextureSet),
+            set.Installed ? installedColour : usualColour};
+}
+
+} // namespace
+
+frm_KMTextures::frm_KMTextures(Shell& shell)
+    : SetListForm(shell, u"frm_KMTextures"_s, skyLook, windowKeys, u"frm_SkyColorize"_s, listPage),
+      sample_(session(), SkyTable::texture) {
+    // One row is in hand; several are those that are ticked.
+    list().setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(&list(), &QTreeWidget::itemChanged, this, &frm_KMTextures::noteTicks);
+}
+
+void frm_KMTextures::formatList() {
+    int row = 0;
+    reportFailures(session().user, {},
+                   [&] { row = refreshedSets().findIndex(session().sky.SelectedSkySet); });
+    formatSets(row);
+}
+
+const clsSkyTextureSets& frm_KMTextures::refreshedSets() {
+    if (session().RefreshSkyList && refreshSkySets(session())) session().RefreshSkyList = false;
+    return loadedSkySets(session());
+}
+
+std::vector<SetRow> frm_KMTextures::setRows() {
+    std::vector<SetRow> rows;
+    for (const auto& set : refreshedSets())
+        rows.push_back(rowOf(*set));
+    return rows;
+}
+
+void frm_KMTextures::takeSet(const QString& listKey) {
+    const bool loaded = loadSkySubSet(session(), listKey, skyDay);
+    showDescription(session().sky.SelectedSkyDescription);
+    if (!loaded) return SkyTextureSetProcess();
+    openSkyTextureSetImage(skySampleFile(session(), session().sky.SelectedSkyGroup));
+}
+
+void frm_KMTextures::noteTicks() {
+    session().sky.selectedRows = list().checkedNames();
+}
+
+void frm_KMTextures::openSkyTextureSetImage(const FilePath& path) {
+    sample_.openImage(path);
+    showPictures(sample_.sourceDib(), sample_.resultDib());
+}
+
+void frm_KMTextures::SkyTextureSetProcess() {
+    sample_.process();
+    showPictures(sample_.sourceDib(), sample_.resultDib());
+}
+
+/// Without a set there is no base set that a sample could be taken from.
+void frm_KMTextures::showNoSet() {
+    noteTicks();
+    showPictures({}, {});
+}
+
+} // namespace morvane

@@ -1,0 +1,133 @@
+#include "ui/colour_page.h"
+
+#include "ground/cloud_cover.h"
+#include "ui/controls/labels.h"
+#include "ui/controls/paper_style.h"
+#include "ui/controls/picture_frame.h"
+#include "ui/controls/slider_row.h"
+#include "ui/skin.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+namespace morvane {
+
+namespace {
+
+constexpr int keyRow = 398, coverColumn = 510;
+
+struct SliderPlace {
+    const char16_t* caption;
+    QPoint place;
+};
+
+constexpr SliderPlace sliderPlaces[] = {{u"Saturation", {14, 319}},  {u"Red", {14, 342}},
+                                        {u"Green", {14, 365}},       {u"Blue", {306, 319}},
+                                        {u"Brightness", {306, 342}}, {u"Contrast", {306, 365}}};
+
+} // namespace
+
+ColourPage::ColourPage(Shell& shell, const QString& name, const ColourPageSetup& setup)
+    : PageForm(shell, name, u"page_colour.bmp"_s, Paper::Title::compact),
+      subject_(makeLabel(paper(), {}, {14, 300, 490, 15}, TextRole::body)) {
+    subject_->setObjectName(setup.subjectName);
+    addCoverOptions();
+    addResetAll(setup.resetAllName);
+    addSliders(setup);
+    addKeys(setup);
+}
+
+void ColourPage::placePicture(PictureFrame& picture, const QString& name, const QString& caption, int left) {
+    makeLabel(paper(), caption, {left, 39, 240, 14}, TextRole::fieldCaption);
+    picture.setObjectName(name);
+    picture.setAccessibleName(caption);
+    picture.placePicture({left, 55, 240, 240});
+}
+
+void ColourPage::addCoverOptions() {
+    for (int index = 0; index < cloudCoverCount; ++index) {
+        const CloudCover& cover = cloudCovers()[index];
+        const int top = 60 + 40 * index;
+        auto* option = new QRadioButton(QString(cover.word).replace(u' ', u'\n'), paper());
+        option->setObjectName(u"optCloudCover"_s + QString::number(index));
+        option->setAccessibleName(cover.word);
+        option->setGeometry(coverColumn, top - 8, 63, 32);
+        option->setFont(fontOf(TextRole::longHelp));
+        setCaptionOffset(*option, 18);
+        connect(option, &QRadioButton::toggled, this, [this, index](bool isSet) {
+            if (isSet) chooseCover(index);
+        });
+        optCloudCover_[static_cast<std::size_t>(index)] = option;
+        auto* disc = new QLabel(paper());
+        disc->setPixmap(skin().picture(u"cover_"_s + cover.tag.mid(2, 3).toLower() + u".bmp"_s));
+        disc->setGeometry(574, top + 2, 12, 12);
+    }
+}
+
+void ColourPage::addResetAll(const QString& name) {
+    auto* button = new QPushButton(u"Reset all"_s, paper());
+    button->setObjectName(name);
+    button->setFont(fontOf(TextRole::value));
+    button->setAccessibleName(u"Reset all"_s);
+    button->setGeometry(coverColumn, 272, 74, 24);
+    connect(button, &QPushButton::clicked, this, [this] { setSliders({}); });
+}
+
+void ColourPage::addSliders(const ColourPageSetup& setup) {
+    for (std::size_t i = 0; i < sliders_.size(); ++i) {
+        const SliderRowSetup row{setup.sliders[i].slider, setup.sliders[i].label,
+                                 QString::fromUtf16(sliderPlaces[i].caption), sliderPlaces[i].place};
+        sliders_[i] = new SliderRow(row, paper());
+        connect(sliders_[i], &SliderRow::changed, this, [this] {
+            if (!isSettingSliders_) showPreview();
+        });
+    }
+}
+
+void ColourPage::addKeys(const ColourPageSetup& setup) {
+    for (int left = 96; const ColourPageSetup::Key& key : setup.keys) {
+        addButton(
+            {ButtonFamily::LargeButton, key.name, key.key, key.picture, key.tip, {left, keyRow}, key.caption},
+            paper());
+        left += 138;
+    }
+}
+
+void ColourPage::checkCover(int index) {
+    optCloudCover_.at(static_cast<std::size_t>(index))->setChecked(true);
+}
+
+void ColourPage::chooseCover(int index) {
+    for (QRadioButton* option : optCloudCover_) {
+        QFont font = fontOf(TextRole::longHelp);
+        font.setBold(option->isChecked());
+        option->setFont(font);
+    }
+    optCloudCover(index);
+}
+
+SliderValues ColourPage::sliderValues() const {
+    SliderValues values{};
+    std::ranges::transform(sliders_, values.begin(), &SliderRow::value);
+    return values;
+}
+
+void ColourPage::putSliders(const SliderValues& values, QString (*label)(int)) {
+    const QScopedValueRollback setting(isSettingSliders_, true);
+    for (std::size_t i = 0; i < sliders_.size(); ++i)
+        sliders_[i]->setValue(values[i], label(values[i]));
+}
+
+void ColourPage::setSliders(const SliderValues& values) {
+    putSliders(values);
+    showPreview();
+}
+
+void ColourPage::showSubject(const QString& text) {
+    subject_->setText(text);
+}
+
+} // namespace morvane

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "ground/ground_randomiser.h"
+#include "ground/slider_steps.h"
+#include "ui/page_form.h"
+
+#include <array>
+
+class QLabel;
+class QRadioButton;
+
+namespace morvane {
+
+class PictureFrame;
+class SliderRow;
+
+/// What tells the colour page of one kind of sets from that of another.
+struct ColourPageSetup {
+    struct Slider {
+        QString slider, label; ///< names of the controls
+    };
+    struct Key {
+        QString name, key, picture, tip, caption;
+    };
+    std::array<Slider, 6> sliders; ///< saturation, red, green, blue, brightness, contrast
+    QString resetAllName;
+    QString subjectName; ///< of the line that tells what is being coloured
+    std::array<Key, 3> keys;
+};
+
+/// The page on which the colours of a set are tuned: five cloud covers, six sliders, and what they do to a
+/// picture. The sliders keep their places while the program runs.
+class ColourPage : public PageForm {
+    Q_OBJECT
+protected:
+    ColourPage(Shell& shell, const QString& name, const ColourPageSetup& setup);
+
+    static constexpr int sourceLeft = 14, resultLeft = 262;
+    /// Puts one of the two pictures in its place, under its caption.
+    void placePicture(PictureFrame& picture, const QString& name, const QString& caption, int left);
+
+    /// The user chose a cloud cover, 0 to 4. Neither the sliders nor the preview change.
+    virtual void optCloudCover(int index) = 0;
+    /// Colours the picture by the sliders and shows it.
+    virtual void showPreview() = 0;
+
+    /// As if the user had chosen it.
+    void checkCover(int index);
+    SliderValues sliderValues() const;
+    /// All six and their labels, without a preview.
+    void putSliders(const SliderValues& values, QString (*label)(int) = sliderLabel);
+    /// All six, then one preview.
+    void setSliders(const SliderValues& values);
+    void showSubject(const QString& text);
+
+private:
+    void addCoverOptions();
+    void addResetAll(const QString& name);
+    void addSliders(const ColourPageSetup& setup);
+    void addKeys(const ColourPageSetup& setup);
+    void chooseCover(int index);
+
+    bool isSettingSliders_ = false;
+    QLabel* subject_;
+    std::array<QRadioButton*, 5> optCloudCover_{};
+    std::array<SliderRow*, 6> sliders_{};
+};
+
+} // namespace morvane

@@ -1,0 +1,92 @@
+#include "ui/count_edit.h"
+
+#include "core/failure_report.h"
+#include "core/numbers.h"
+#include "core/session.h"
+#include "ui/form.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QSignalBlocker>
+
+namespace morvane {
+
+namespace {
+
+struct BoxSetup {
+    const char16_t* name;
+    const char16_t* caption;
+};
+
+constexpr BoxSetup boxSetups[] = {
+    {u"txtNoClouds", u"Clear Skies (SKC)"},
+    {u"txtLightClouds", u"Mostly Clear (FEW)"},
+    {u"txtMediumClouds", u"Partly Cloudy  (SCT)"},
+    {u"txtLightOvcClouds", u"Mostly Cloudy (BKN)"},
+    {u"txtOvercastClouds", nullptr},
+};
+
+bool isDropped(const QString& typed) {
+    const bool isControl = typed.isEmpty() || typed[0] == u'\b' || typed[0] == u'\t' || typed[0] == u'\x7f';
+    return !isControl && typed != u"." && !isDigits(typed);
+}
+
+std::int16_t countIn(const QString& text) {
+    return text.isEmpty() ? std::int16_t(0) : roundToInteger(textToNumber(text));
+}
+
+} // namespace
+
+CountEdit::CountEdit(Form& form, std::int16_t& count) : QLineEdit(&form), form_(form), count_(count) {
+    setFont(fontOf(TextRole::value));
+    connect(this, &CountEdit::textChanged, this, &CountEdit::storeCount);
+}
+
+void CountEdit::showCount() {
+    setText(QString::number(count_));
+}
+
+void CountEdit::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+        return event->ignore(); // the dialog's
+    default:
+        if (!isDropped(event->text())) QLineEdit::keyPressEvent(event);
+    }
+}
+
+void CountEdit::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    selectAll();
+}
+
+void CountEdit::focusOutEvent(QFocusEvent* event) {
+    if (text().isEmpty()) setText(u"0"_s);
+    QLineEdit::focusOutEvent(event);
+}
+
+void CountEdit::storeCount() {
+    if (reportFailures(form_.session().user, {}, [&] { count_ = countIn(text()); })) return;
+    const QSignalBlocker quiet(this);
+    showCount();
+}
+
+std::array<CountEdit*, 5> addCountBoxes(Form& form, std::array<std::int16_t, 5>& counts,
+                                        const CountColumn& column) {
+    std::array<CountEdit*, 5> boxes{};
+    for (std::size_t index = 0; index < boxes.size(); ++index) {
+        const auto& [name, usual] = boxSetups[index];
+        const QString caption = usual ? QString::fromUtf16(usual) : column.overcastCaption;
+        const int drop = column.pitch * static_cast<int>(index);
+        makeLabel(&form, caption, column.firstCaption.translated(0, drop), column.captionRole);
+        boxes[index] = new CountEdit(form, counts[index]);
+        boxes[index]->setObjectName(QString::fromUtf16(name));
+        boxes[index]->setAccessibleName(caption);
+        boxes[index]->setGeometry(column.firstBox.translated(0, drop));
+    }
+    return boxes;
+}
+
+} // namespace morvane

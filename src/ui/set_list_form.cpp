@@ -1,0 +1,160 @@
+#include "ui/set_list_form.h"
+
+#include "core/failure_report.h"
+#include "core/numbers.h"
+#include "core/options.h"
+#include "core/session.h"
+#include "ui/buffer_picture.h"
+#include "ui/controls/labels.h"
+#include "ui/controls/picture_frame.h"
+
+#include <QLabel>
+#include <algorithm>
+
+namespace morvane {
+
+namespace {
+
+constexpr int pageRight = 582, pictureTop = 129, keyRow = 397, activatedColumn = 1;
+
+void addRule(QWidget* paper, const QRect& place) {
+    auto* rule = new QWidget(paper);
+    QPalette colours;
+    colours.setColor(QPalette::Window, QColor::fromRgb(palette::rule));
+    rule->setPalette(colours);
+    rule->setAutoFillBackground(true);
+    rule->setGeometry(place);
+}
+
+} // namespace
+
+SetListForm::SetListForm(Shell& shell, const QString& name, const WindowLook& look, const HostKeys& keys,
+                         const QString& colourPage, const SetListSetup& setup)
+    : HostForm(shell, name, look, keys, colourPage), setup_(setup) {
+    addInstructionsAndList();
+    addPictures();
+    addDescription();
+    addKeys();
+}
+
+void SetListForm::addInstructionsAndList() {
+    makeLabel(paper(), setup_.instructions, {14, 46, 568, 60}, TextRole::longHelp)
+        ->setObjectName(setup_.instructionsName);
+    list_ = new SetTable(paper());
+    list_->setObjectName(setup_.listName);
+    list_->setGeometry(14, 112, setup_.listWidth, 266);
+    list_->setColumns(setup_.columns, setup_.hasCheckBoxes);
+    connect(list_, &SetTable::rowClicked, this, &SetListForm::clickRow);
+}
+
+void SetListForm::addPictures() {
+    const int side = setup_.pictureSide;
+    const auto add = [this, side](const QString& name, const QString& caption, int left) {
+        makeLabel(paper(), caption, {left - 1, 112, side, 14}, TextRole::fieldCaption);
+        auto* picture = new PictureFrame(paper());
+        picture->setObjectName(name);
+        picture->setAccessibleName(caption);
+        picture->placePicture({left, pictureTop, side, side});
+        picture->setSmooth(setup_.isSmooth);
+        return picture;
+    };
+    source_ = add(setup_.sourceName, u"Original"_s, setup_.pictureLefts[0]);
+    result_ = add(setup_.resultName, u"This set"_s, setup_.pictureLefts[1]);
+}
+
+void SetListForm::addDescription() {
+    const int left = setup_.pictureLefts[0] - 1, width = pageRight - left;
+    const int top = pictureTop + setup_.pictureSide + 13;
+    makeLabel(paper(), u"Description"_s, {left, top, width, 14}, TextRole::sectionHeading);
+    addRule(paper(), {left, top + 18, width, 1});
+    description_ = makeLabel(paper(), {}, {left, top + 23, width, 385 - (top + 23)}, TextRole::body);
+    description_->setObjectName(setup_.descriptionName);
+}
+
+void SetListForm::addKeys() {
+    const auto add = [this](const SetListSetup::Key& key, const QString& picture, const QString& tip,
+                            const QString& caption, int left) {
+        return addButton(
+            {ButtonFamily::LargeButton, key.name, key.key, picture, tip, {left, keyRow}, caption}, paper());
+    };
+    create_ = add(setup_.create, u"btn_Create"_s, u"Click to create texture sets."_s, u"Create"_s, 27);
+    activate_ = add(setup_.activate, u"btn_Activate"_s, u"Click to activate the selected texture set."_s,
+                    u"Activate"_s, 165);
+    install_ = add(setup_.install, u"btn_Install"_s,
+                   u"Click to install selected texture set into Flight Simulator."_s, u"Install"_s, 303);
+    remove_ =
+        add(setup_.remove, u"btn_Delete"_s, u"Click to delete selected texture set."_s, u"Delete"_s, 441);
+}
+
+void SetListForm::formatSets(int& selectedRow) {
+    reportFailures(session().user, {}, [&] {
+        markListKey();
+        paper()->setTitle(u"icon_MVOpen.bmp"_s, u"Manage Texture Sets Screen"_s);
+        formatKeys();
+        fillRows();
+        // When the list has become shorter, its last row takes the place of the one that was in hand.
+        if (list_->rowCount() > 0) selectSetRow(std::clamp(selectedRow, 1, list_->rowCount()));
+        selectedRow = 0;
+    });
+}
+
+void SetListForm::formatKeys() {
+    remove_->setState(ButtonState::disabled);
+    create_->setState(ButtonState::enabled);
+    setActivateState(ButtonState::enabled);
+    install_->setState(ButtonState::disabled);
+}
+
+void SetListForm::fillRows() {
+    list_->clearRows();
+    filledKeys_.clear();
+    for (const SetRow& row : setRows()) {
+        list_->addRow(row);
+        filledKeys_ << row.key;
+    }
+    if (list_->rowCount() > 0) return;
+    rowInHand_ = 0;
+    setActivateState(ButtonState::disabled);
+    description_->clear();
+    showNoSet();
+}
+
+void SetListForm::selectSetRow(int row) {
+    const QString key = list_->keyOf(row);
+    if (key.isEmpty()) return;
+    list_->selectRow(row);
+    takeSet(key);
+    takeInHand(row, setup_.ofActivatedByPage);
+    remove_->setState(ButtonState::enabled);
+}
+
+void SetListForm::clickRow(const QString& listKey) {
+    const int row = list_->currentIndex().row() + 1;
+    if (!clickSet(row)) return;
+    takeSet(listKey);
+    takeInHand(row, ButtonState::deactivate);
+}
+
+void SetListForm::takeInHand(int row, ButtonState ofActivated) {
+    rowInHand_ = static_cast<int>(filledKeys_.indexOf(list_->keyOf(row))) + 1;
+    noteRows(row);
+    const bool isActivated = list_->textOf(row, activatedColumn) == flagText(true);
+    install_->setState(isActivated ? ButtonState::enabled : ButtonState::disabled);
+    setActivateState(isActivated ? ofActivated : ButtonState::enabled);
+}
+
+void SetListForm::setActivateState(ButtonState state) {
+    activate_->setState(state);
+    activate_->setButtonText(state == ButtonState::deactivate ? u"Deactivate"_s : u"Activate"_s);
+}
+
+void SetListForm::showDescription(const QString& text) {
+    description_->setText(trimmedBlanks(text));
+}
+
+void SetListForm::showPictures(const cDIBSection& source, const cDIBSection& result) {
+    source_->setPicture(pictureOf(source));
+    result_->setPicture(pictureOf(result));
+}
+
+} // namespace morvane
