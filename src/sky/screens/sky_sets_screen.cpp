@@ -24,7 +24,7 @@ const SetListSetup listPage{
         "commence the creation process. These sets, unlike the ground texture sets, only take around 5 - 10 "
         "seconds each to create. "_s,
     .listName = u"lstSkyTextureSets"_s,
-    .listWidth = 388,
+    .listWidth = 394,
     .columns = {{u"Name"_s, 150},
                 {u"Activated?"_s, 66},
                 {u"Cloud Cover"_s, 82},

@@ -60,6 +60,7 @@ void setUpHead(QHeaderView& head) {
     head.setHighlightSections(false);
     head.setMinimumSectionSize(22);
     head.setSectionsMovable(false);
+    head.setTextElideMode(Qt::ElideRight); // the tip has the whole of it
 }
 
 /// In the order shown.
@@ -108,8 +109,10 @@ void SetTable::setColumns(const std::vector<SetColumn>& columns, bool hasCheckBo
         titles += column.title;
     setColumnCount(static_cast<int>(titles.size()));
     setHeaderLabels(titles);
-    for (int index = 0; const SetColumn& column : columns)
+    for (int index = 0; const SetColumn& column : columns) {
+        headerItem()->setToolTip(index, column.title);
         header()->resizeSection(index++, column.width);
+    }
 }
 
 void SetTable::addRow(const SetRow& row) {
