@@ -163,6 +163,15 @@ TEST_F(SkySetsScreenTest, severalTicksRefuseAnInstallAndOneClickInstalls) {
     EXPECT_EQ(list->selectedNames(), QStringList{u"3-Calm"_s});
 }
 
+TEST_F(SkySetsScreenTest, hasRoomForTheLongestDescription) {
+    open();
+    const auto& label = program.control<QLabel>(hostName, u"lblSkyTSDescription"_s);
+    const QString longest = u"a grey sky with a warm strip above hills "_s.repeated(7).left(255);
+    const QRect room(0, 0, label.width(), 1000);
+    const QRect needed = QFontMetrics(label.font()).boundingRect(room, Qt::TextWordWrap, longest);
+    EXPECT_LE(needed.height(), label.height());
+}
+
 TEST_F(SkySetsScreenTest, anEmptyListLeavesOnlyCreate) {
     for (const auto& set : loadedSkySets(program.install.session))
         clsSkyTextureSetData(program.install.session).deleteSkyTexture(set->StsID);

@@ -60,7 +60,6 @@ void setUpHead(QHeaderView& head) {
     head.setHighlightSections(false);
     head.setMinimumSectionSize(22);
     head.setSectionsMovable(false);
-    head.setTextElideMode(Qt::ElideRight); // the tip has the whole of it
 }
 
 /// In the order shown.
@@ -110,7 +109,7 @@ void SetTable::setColumns(const std::vector<SetColumn>& columns, bool hasCheckBo
     setColumnCount(static_cast<int>(titles.size()));
     setHeaderLabels(titles);
     for (int index = 0; const SetColumn& column : columns) {
-        headerItem()->setToolTip(index, column.title);
+        headerItem()->setToolTip(index, column.title); // a narrow column cuts it
         header()->resizeSection(index++, column.width);
     }
 }
