@@ -32,7 +32,7 @@ constexpr SliderPlace sliderPlaces[] = {{u"Saturation", {14, 319}},  {u"Red", {1
 
 ColourPage::ColourPage(Shell& shell, const QString& name, const ColourPageSetup& setup)
     : PageForm(shell, name, u"page_colour.bmp"_s, Paper::Title::compact),
-      subject_(makeLabel(paper(), {}, {14, 300, 490, 15}, TextRole::body)) {
+      subject_(makeLabel(paper(), {}, {14, 300, 490, 18}, TextRole::body)) {
     subject_->setObjectName(setup.subjectName);
     addCoverOptions();
     addResetAll(setup.resetAllName);

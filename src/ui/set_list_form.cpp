@@ -5,7 +5,6 @@
 #include "core/options.h"
 #include "core/session.h"
 #include "ui/buffer_picture.h"
-#include "ui/controls/labels.h"
 #include "ui/controls/picture_frame.h"
 
 #include <QLabel>
@@ -67,7 +66,7 @@ void SetListForm::addDescription() {
     const int top = pictureTop + setup_.pictureSide + 13;
     makeLabel(paper(), u"Description"_s, {left, top, width, 14}, TextRole::sectionHeading);
     addRule(paper(), {left, top + 18, width, 1});
-    description_ = makeLabel(paper(), {}, {left, top + 23, width, 385 - (top + 23)}, TextRole::body);
+    description_ = makeLabel(paper(), {}, {left, top + 23, width, 385 - (top + 23)}, setup_.descriptionRole);
     description_->setObjectName(setup_.descriptionName);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/controls/labels.h"
 #include "ui/controls/set_table.h"
 #include "ui/host_form.h"
 
@@ -28,6 +29,7 @@ struct SetListSetup {
     std::array<int, 2> pictureLefts;
     bool isSmooth; ///< how the pictures are enlarged
     QString descriptionName;
+    TextRole descriptionRole;
     Key create, activate, install, remove;
     /// How "activate" stands for an activated set that was selected by the page and not by a click.
     ButtonState ofActivatedByPage;

@@ -147,18 +147,29 @@ TEST_F(SkySetsScreenTest, severalTicksRefuseAnInstallAndOneClickInstalls) {
     EXPECT_EQ(program.install.installedSkySets(), QStringList());
     tick(2);
     clickRow(3);
-    // No matching ground set, and no start of the simulator.
-    program.whenShown(u"frm_Msg"_s, [&](DialogForm& match) {
-        program.whenShown(u"frm_Msg"_s, [&](DialogForm& start) {
-            told = start.findChild<QLabel*>(u"lbl_Title"_s)->text();
-            start.cancel();
-        });
-        match.cancel();
+    QStringList questions;
+    QTimer noToAll;
+    QObject::connect(&noToAll, &QTimer::timeout, &noToAll, [&] {
+        auto& message = program.shell.screen<DialogForm>(u"frm_Msg"_s);
+        if (!message.button(u"btn_Cancel"_s)->isVisible()) return; // progress
+        questions << message.findChild<QLabel*>(u"lbl_Title"_s)->text();
+        message.cancel();
     });
+    noToAll.start(0);
     program.press(hostName, u"btn_SkyTextureInstall"_s);
+    EXPECT_EQ(questions.value(0), u"Install Matching Ground Texture Set?"_s);
     EXPECT_EQ(program.install.installedSkySets(), QStringList{u"3-Calm"_s});
     EXPECT_EQ(list->storedColour(3), qRgb(255, 0, 0));
     EXPECT_EQ(list->selectedNames(), QStringList{u"3-Calm"_s});
+}
+
+TEST_F(SkySetsScreenTest, hasRoomForTheLongestDescription) {
+    open();
+    const auto& label = program.control<QLabel>(hostName, u"lblSkyTSDescription"_s);
+    const QString longest = u"a grey sky with a warm strip above hills "_s.repeated(7).left(255);
+    const QRect room(0, 0, label.width(), 1000);
+    const QRect needed = QFontMetrics(label.font()).boundingRect(room, Qt::TextWordWrap, longest);
+    EXPECT_LE(needed.height(), label.height());
 }
 
 TEST_F(SkySetsScreenTest, anEmptyListLeavesOnlyCreate) {
@@ -326,7 +337,8 @@ TEST_F(SkyColourScreenTest, theStateIsLoadedOnce) {
 }
 
 TEST_F(SkyColourScreenTest, aForeignCoverLeavesTheOptionsAsTheyAre) {
-    test::writeFile(program.install.home() / u"LastSkySettings.cfg", "[Cloud Cover]\n1=Foggy\n");
+    test::writeFile(program.install.home() / u"LastSkySettings.cfg",
+                    "[Cloud Cover]\n1=Foggy\n[Texture Set Group]\n1=Tropical\n");
     open();
     for (int index = 0; index < 5; ++index)
         EXPECT_FALSE(cover(index).isChecked()) << index;

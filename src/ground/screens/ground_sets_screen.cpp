@@ -32,6 +32,7 @@ const SetListSetup listPage{
     .pictureLefts = {359, 473},
     .isSmooth = true,
     .descriptionName = u"lblFavDescription"_s,
+    .descriptionRole = TextRole::body,
     .create = {u"btn_textureCreate"_s, u"create ts"_s},
     .activate = {u"btn_TextureActivate"_s, u"activate ts"_s},
     .install = {u"btn_TextureInstall"_s, u"install ts"_s},

@@ -24,11 +24,11 @@ const SetListSetup listPage{
         "commence the creation process. These sets, unlike the ground texture sets, only take around 5 - 10 "
         "seconds each to create. "_s,
     .listName = u"lstSkyTextureSets"_s,
-    .listWidth = 388,
-    .columns = {{u"Name"_s, 150},
-                {u"Activated?"_s, 66},
-                {u"Cloud Cover"_s, 82},
-                {u"Texture Set Group"_s, 76}},
+    .listWidth = 394,
+    .columns = {{u"Name"_s, 148},
+                {u"Activated?"_s, 64},
+                {u"Cloud Cover"_s, 78},
+                {u"Texture Set Group"_s, 90}},
     .hasCheckBoxes = true,
     .sourceName = u"picSkyTextureSetSource"_s,
     .resultName = u"picSkyTextureSetResult"_s,
@@ -36,6 +36,7 @@ const SetListSetup listPage{
     .pictureLefts = {416, 502},
     .isSmooth = false,
     .descriptionName = u"lblSkyTSDescription"_s,
+    .descriptionRole = TextRole::longHelp, // the longest fits
     .create = {u"btn_SkytextureCreate"_s, u"create Sts"_s},
     .activate = {u"btn_SkyTextureActivate"_s, u"activate sts"_s},
     .install = {u"btn_SkyTextureInstall"_s, u"install sts"_s},
@@ -56,6 +57,7 @@ SetRow rowOf(const clsSkyTextureSet& set) {
 frm_KMTextures::frm_KMTextures(Shell& shell)
     : SetListForm(shell, u"frm_KMTextures"_s, skyLook, windowKeys, u"frm_SkyColorize"_s, listPage),
       sample_(session(), SkyTable::texture) {
+    list().setFont(fontOf(TextRole::longHelp)); // four columns and a name with date and time
     // One row is in hand; several are those that are ticked.
     list().setSelectionMode(QAbstractItemView::SingleSelection);
     connect(&list(), &QTreeWidget::itemChanged, this, &frm_KMTextures::noteTicks);

@@ -108,8 +108,10 @@ void SetTable::setColumns(const std::vector<SetColumn>& columns, bool hasCheckBo
         titles += column.title;
     setColumnCount(static_cast<int>(titles.size()));
     setHeaderLabels(titles);
-    for (int index = 0; const SetColumn& column : columns)
+    for (int index = 0; const SetColumn& column : columns) {
+        headerItem()->setToolTip(index, column.title); // a narrow column cuts it
         header()->resizeSection(index++, column.width);
+    }
 }
 
 void SetTable::addRow(const SetRow& row) {
