@@ -7,7 +7,8 @@
 namespace morvane::test {
 
 /// The code of the Error that the action raises; nothing when it raises none.
-template <class Action> std::optional<ErrorCode> codeRaisedBy(Action action) {
+template <class Action>
+std::optional<ErrorCode> codeRaisedBy(Action action) {
     try {
         action();
     } catch (const Error& error) {
