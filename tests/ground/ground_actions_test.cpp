@@ -17,165 +17,135 @@ using test::SmallInstall;
 const QStringList threeFiles{u"Texture\\029h2su6.bmp"_s, u"UTEurLC\\034b2su4.bmp"_s,
                              u"Dutch\\005a2su2.bmp"_s};
 
-QString activationOf(SmallInstall& install, const QString& name) {
-    install.reload();
-    const auto set = findGroundSet(install.session, name);
-    return set ? set->Actvated : u"gone"_s;
-}
-
-TEST(GroundActions, deletingTakesRowAndFolder) {
+struct GroundActions : testing::Test {
     SmallInstall install;
-    install.addGroundSet("2-Störm", "Overcast", true, threeFiles);
-    ASSERT_TRUE(clickGroundRow(install.session, "2-Störm"));
-    GroundGeneration(install.session).deleteTextureSet(false);
-    EXPECT_EQ(activationOf(install, "2-Störm"), "gone");
-    EXPECT_FALSE(install.files.exists(install.home() / u"Texture Sets\\2-Störm"));
-    EXPECT_EQ(
-        install.user.told(),
-        QStringList(
-            {"Question|Morvane Information|Do you wish to delete the texture set: '2-Störm'?  This action "
-             "cannot be reversed\n\nSelect Ok, to delete the file or select Cancel to cancel the "
-             "delete."}));
-}
+    Session& session = install.session;
 
-TEST(GroundActions, deactivatingKeepsColoursAndEmptyFolders) {
-    SmallInstall install;
-    install.addGroundSet("2-Storm", "Overcast", true, threeFiles);
-    clickGroundRow(install.session, "2-Storm");
-    GroundGeneration(install.session).deleteTextureSet(true);
-    EXPECT_EQ(activationOf(install, "2-Storm"), "False");
-    EXPECT_TRUE(contentsBelow(install.home() / u"Texture Sets").isEmpty());
-    for (const QString& name : groundSubfolders)
-        EXPECT_TRUE(install.files.isFolder(install.home() / u"Texture Sets\\2-Storm" / name));
-
-    clickGroundRow(install.session, "2-Storm");
-    GroundGeneration(install.session).activateTextureSet();
-    EXPECT_EQ(activationOf(install, "2-Storm"), "True");
-    EXPECT_EQ(contentsBelow(install.home() / u"Texture Sets").size(), 5);
-}
-
-TEST(GroundActions, aNoChangesNothing) {
-    SmallInstall install;
-    install.addGroundSet("2-Storm", "Overcast", true, threeFiles);
-    clickGroundRow(install.session, "2-Storm");
-    install.user.otherwise = false;
-    GroundGeneration(install.session).deleteTextureSet(false);
-    EXPECT_EQ(activationOf(install, "2-Storm"), "True");
-    EXPECT_EQ(contentsBelow(install.home() / u"Texture Sets").size(), 3);
-}
-
-TEST(GroundActions, defaultAndTheInstalledSetAreProtected) {
-    SmallInstall install;
-    install.addGroundSet("2-Storm", "Overcast", true, threeFiles);
-    install.session.gTextureSets->markInstalled("2-Storm");
-    for (const char* name : {"Default", "2-Storm"}) {
-        clickGroundRow(install.session, name);
-        GroundGeneration(install.session).deleteTextureSet(false);
-        GroundGeneration(install.session).deleteTextureSet(true);
-        EXPECT_EQ(activationOf(install, name), "True");
+    void addStorm(bool activated = true) {
+        install.addGroundSet("2-Storm", "Overcast", activated, activated ? threeFiles : QStringList{});
+        clickGroundRow(session, "2-Storm");
     }
-    const QString tail = "\nThis is a protected texture set and no changes can be made to this set.";
-    const QString first = "Exclamation|Morvane Information|You have selected the Default texture set to "
-                          "delete/deactivate." +
-                          tail;
-    const QString second =
-        "Exclamation|Morvane Information|You have selected the currently installed texture set to "
-        "delete/deactivate." +
-        tail;
-    EXPECT_EQ(install.user.told(), QStringList({first, first, second, second}));
-    EXPECT_EQ(contentsBelow(install.home() / u"Texture Sets").size(), 3);
+    void deleteSelected(bool keepsColours) { GroundGeneration(session).deleteTextureSet(keepsColours); }
+    QString activationOf(const QString& name) {
+        install.reload();
+        const auto set = findGroundSet(session, name);
+        return set ? set->Actvated : u"gone"_s;
+    }
+    auto setFiles() { return contentsBelow(install.home() / u"Texture Sets"); }
+};
+
+TEST_F(GroundActions, deletingTakesRowAndFolder) {
+    addStorm();
+    deleteSelected(false);
+    EXPECT_EQ(activationOf("2-Storm"), "gone");
+    EXPECT_FALSE(install.files.exists(install.home() / u"Texture Sets\\2-Storm"));
+    EXPECT_EQ(install.user.told(),
+              QStringList({"Question|Morvane Information|Do you wish to delete the texture set: '2-Storm'?  "
+                           "This action cannot be reversed\n\nSelect Ok, to delete the file or select Cancel "
+                           "to cancel the delete."}));
 }
 
-TEST(GroundActions, severalAtOncePassOverDefaultAndTheInstalledOne) {
-    SmallInstall install;
+TEST_F(GroundActions, deactivatingKeepsTheRowAndEmptyFolders) {
+    addStorm();
+    deleteSelected(true);
+    EXPECT_EQ(activationOf("2-Storm"), "False");
+    EXPECT_TRUE(setFiles().isEmpty());
+    EXPECT_EQ(install.files.listFolders(install.home() / u"Texture Sets\\2-Storm").size(), 3);
+}
+
+TEST_F(GroundActions, defaultAndTheInstalledSetAreProtected) {
+    addStorm();
+    session.gTextureSets->markInstalled("2-Storm");
+    const std::pair<QString, QString> sets[] = {{"Default", "the Default"},
+                                                {"2-Storm", "the currently installed"}};
+    for (const auto& [name, words] : sets) {
+        clickGroundRow(session, name);
+        for (const bool keepsColours : {false, true}) {
+            deleteSelected(keepsColours);
+            EXPECT_EQ(
+                install.user.told().last(),
+                u"Exclamation|Morvane Information|You have selected %1 texture set to delete/deactivate."
+                "\nThis is a protected texture set and no changes can be made to this set."_s.arg(words));
+        }
+        EXPECT_EQ(activationOf(name), "True");
+    }
+    EXPECT_EQ(setFiles().size(), 3);
+}
+
+TEST_F(GroundActions, severalAtOncePassOverDefaultAndTheInstalledOne) {
     for (const char* name : {"2-A", "3-B", "4-C"})
         install.addGroundSet(name, "Overcast", true, threeFiles);
-    install.session.gTextureSets->markInstalled("3-B");
-    clickGroundRow(install.session, "2-A");
-    install.session.ground.selectedRows = QStringList{"Default", "2-A", "3-B", "4-C"};
+    session.gTextureSets->markInstalled("3-B");
+    clickGroundRow(session, "2-A");
+    session.ground.selectedRows = QStringList{"Default", "2-A", "3-B", "4-C"};
     install.user.onModal = [&](Screen screen) {
         ASSERT_EQ(screen, Screen::frm_MultiDelete);
-        EXPECT_EQ(install.session.modal.multiNames, QStringList({"2-A", "3-B", "4-C"}));
-        install.session.modal.multiConfirmed = QStringList{"2-A", "3-B"};
+        EXPECT_EQ(session.modal.multiNames, QStringList({"2-A", "3-B", "4-C"}));
+        session.modal.multiConfirmed = QStringList{"2-A", "3-B"};
     };
-    GroundGeneration(install.session).deleteTextureSet(false);
-    EXPECT_EQ(activationOf(install, "2-A"), "gone");
-    EXPECT_EQ(activationOf(install, "3-B"), "True");
-    EXPECT_EQ(activationOf(install, "4-C"), "True");
+    deleteSelected(false);
+    EXPECT_EQ(activationOf("2-A") + activationOf("3-B") + activationOf("4-C"), "goneTrueTrue");
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
-TEST(GroundActions, cancelledActivationLeavesTheSetDeactivated) {
-    SmallInstall install;
-    install.addGroundSet("2-Storm", "Overcast", false);
-    clickGroundRow(install.session, "2-Storm");
+TEST_F(GroundActions, cancelledActivationLeavesTheSetDeactivated) {
+    addStorm(false);
     install.user.onPump = [&] {
         if (install.user.messages.back().text.contains("Process 2"))
             install.user.answers().cancelRequested = true;
     };
-    GroundGeneration(install.session).activateTextureSet();
-    EXPECT_EQ(activationOf(install, "2-Storm"), "False");
-    EXPECT_TRUE(contentsBelow(install.home() / u"Texture Sets").isEmpty());
+    GroundGeneration(session).activateTextureSet();
+    EXPECT_EQ(activationOf("2-Storm"), "False");
+    EXPECT_TRUE(setFiles().isEmpty());
 }
 
-TEST(GroundActions, namesOfTheStoreReachNoOtherFolder) {
-    SmallInstall install;
+TEST_F(GroundActions, namesOfTheStoreReachNoOtherFolder) {
     test::writeFile(install.home() / u"Resources\\Texture\\a.bmp", "not a set's");
     for (const char* name : {"..\\Resources", "../Resources", "..", ".", "2-Storm\\..\\..\\Resources"}) {
         install.addGroundSet("x", "Overcast", true);
-        install.session.adoConn->execute(
+        session.adoConn->execute(
             u"UPDATE TEXTURE_SETS SET TEXTURE_SET = '%1' WHERE TEXTURE_SET = 'x'"_s.arg(name));
         install.reload();
-        clickGroundRow(install.session, name);
-        GroundGeneration(install.session).deleteTextureSet(false);
+        clickGroundRow(session, name);
+        deleteSelected(false);
         EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1) << name;
         install.user.messages.clear();
     }
     EXPECT_EQ(test::readFile(install.home() / u"Resources\\Texture\\a.bmp"), "not a set's");
 }
 
-TEST(GroundActions, filesBehindALinkAreLeftAlone) {
-    SmallInstall install;
-    install.addGroundSet("2-Storm", "Overcast", true, threeFiles);
+TEST_F(GroundActions, filesBehindALinkAreLeftAlone) {
+    addStorm();
     test::writeFile(install.folder / u"elsewhere\\a.bmp", "mine");
     const FilePath set = install.home() / u"Texture Sets\\2-Storm";
     install.files.remove(set / u"Dutch\\005a2su2.bmp");
     install.files.removeFolder(set / u"Dutch");
     ASSERT_TRUE(QFile::link((install.folder / u"elsewhere").native(), (set / u"Dutch").native()));
-    clickGroundRow(install.session, "2-Storm");
-    GroundGeneration(install.session).deleteTextureSet(true);
+    deleteSelected(true);
     EXPECT_EQ(test::readFile(install.folder / u"elsewhere\\a.bmp"), "mine");
 }
 
-TEST(GroundActions, aLockedStoreEndsARunBeforeItTouchesAnotherSet) {
-    SmallInstall install;
-    install.addGroundSet("2-Storm", "Overcast", true, threeFiles);
-    const auto before = contentsBelow(install.home() / u"Texture Sets");
+TEST_F(GroundActions, aLockedStoreEndsARunBeforeItMakesAnyFile) {
     Store other;
     other.open(install.home() / u"Morvane.mdb");
     StoreTransaction lock(other);
     other.execute("DELETE FROM MV_BACKUP WHERE ID = 0"); // takes the write lock
     install.user.onModal = [&](Screen) {
-        install.session.modal.setCounts = {1, 0, 0, 0, 0};
-        install.session.modal.setCountsConfirmed = true;
+        session.modal.setCounts = {1, 0, 0, 0, 0};
+        session.modal.setCountsConfirmed = true;
     };
-    GroundGeneration(install.session).createTextureSets(true);
+    GroundGeneration(session).createTextureSets(true);
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-    clickGroundRow(install.session, "2-Storm");
-    GroundGeneration(install.session).deleteTextureSet(false);
-    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 2);
-    EXPECT_EQ(contentsBelow(install.home() / u"Texture Sets"), before);
+    EXPECT_TRUE(setFiles().isEmpty());
 }
 
-TEST(GroundActions, selectionTakesNameColoursAndTheFirst255CharactersOfTheDescription) {
-    SmallInstall install;
+TEST_F(GroundActions, selectionTakesNameColoursAndDescription) {
     const int key = install.addGroundSet("2-Storm", "Overcast", false);
-    ASSERT_TRUE(loadGroundSelection(install.session, u"Key:%1"_s.arg(key)));
-    EXPECT_EQ(install.session.ground.SelectedGroundSet, "2-Storm");
-    EXPECT_FLOAT_EQ(install.session.ground.colours.red, 1.4f);
-    EXPECT_FLOAT_EQ(install.session.ground.colours.contrast, -1.5f);
-    EXPECT_EQ(install.session.ground.SelectedGroundDescription, "A set of a test");
-    EXPECT_FALSE(loadGroundSelection(install.session, "Key:999"));
+    ASSERT_TRUE(loadGroundSelection(session, u"Key:%1"_s.arg(key)));
+    EXPECT_EQ(session.ground.SelectedGroundSet, "2-Storm");
+    EXPECT_EQ(session.ground.colours, (ColourValues{0, 1.4f, 0, -1, 3, -1.5f}));
+    EXPECT_EQ(session.ground.SelectedGroundDescription, "A set of a test");
+    EXPECT_FALSE(loadGroundSelection(session, "Key:999"));
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
 }
 

@@ -6,7 +6,6 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 
-#include <QDir>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -14,12 +13,14 @@ namespace {
 
 using test::SmallInstall;
 
-void wantSets(SmallInstall& install, const std::array<std::int16_t, 5>& counts) {
+/// Makes as many sets of each cover as said, out of the base images.
+void create(SmallInstall& install, const std::array<std::int16_t, 5>& counts, bool fromMain = true) {
     install.user.onModal = [&install, counts](Screen screen) {
         ASSERT_EQ(screen, Screen::frm_TsRequired);
         install.session.modal.setCounts = counts;
         install.session.modal.setCountsConfirmed = true;
     };
+    GroundGeneration(install.session).createTextureSets(fromMain);
 }
 
 QStringList covers(SmallInstall& install) {
@@ -30,15 +31,14 @@ QStringList covers(SmallInstall& install) {
     return words;
 }
 
-QStringList setFolders(const SmallInstall& install) {
-    return QDir((install.home() / u"Texture Sets").native()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+QStringList setFolders(SmallInstall& install) {
+    return install.files.listFolders(install.home() / u"Texture Sets");
 }
 
 TEST(GroundGeneration, makesARowAndAFileForEachBaseImage) {
     SmallInstall install;
-    wantSets(install, {0, 0, 0, 0, 1});
     install.random.numbers = {0};
-    GroundGeneration(install.session).createTextureSets(true);
+    create(install, {0, 0, 0, 0, 1});
 
     install.reload();
     const auto set = install.session.gTextureSets->GetItem(2);
@@ -75,8 +75,7 @@ TEST(GroundGeneration, makesARowAndAFileForEachBaseImage) {
 
 TEST(GroundGeneration, allSetsOfACoverComeBeforeTheNext) {
     SmallInstall install({{u"GENERIC WORLD\\029h2su6.bmp"_s}});
-    wantSets(install, {1, 2, 1, 1, 1});
-    GroundGeneration(install.session).createTextureSets(false);
+    create(install, {1, 2, 1, 1, 1}, false);
     EXPECT_EQ(covers(install), QStringList({"Partly Cloudy", "Sky Clear", "Mostly Clear", "Mostly Clear",
                                             "Partly Cloudy", "Mostly Cloudy", "Overcast"}));
     EXPECT_EQ(setFolders(install).size(), 6); // the same second, told apart by their keys
@@ -84,55 +83,30 @@ TEST(GroundGeneration, allSetsOfACoverComeBeforeTheNext) {
 }
 
 TEST(GroundGeneration, reportsItsDuration) {
-    struct Case {
-        QTime start, end;
-        int minutes;
-    };
-    const Case cases[] = {
-        {{10, 5}, {10, 20}, 15},
-        {{10, 50}, {11, 20}, 30},
-        {{23, 50}, {0, 10}, -700}, // wrong by twelve hours over midnight, kept so
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(reportedMinutes(c.start, c.end), c.minutes);
+    EXPECT_EQ(reportedMinutes({10, 50}, {11, 20}), 30);
+    EXPECT_EQ(reportedMinutes({23, 50}, {0, 10}), -700); // wrong by twelve hours over midnight, kept so
 
     SmallInstall install({{u"GENERIC WORLD\\029h2su6.bmp"_s}});
-    wantSets(install, {1, 1, 0, 0, 0});
     const QDate day(2007, 5, 30);
     for (const QTime& time : {QTime(10, 0), QTime(10, 1), QTime(10, 2), QTime(10, 15)})
         install.clock.upcoming.push_back({day, time});
-    GroundGeneration(install.session).createTextureSets(true);
+    create(install, {1, 1, 0, 0, 0});
     EXPECT_EQ(install.user.told(),
               QStringList(
                   {"Information|Average minutes per texture set|The processing of your 2 texture set(s) took "
                    ".25 hr(s) which is an average of 8 minutes per set!"}));
 }
 
-TEST(GroundGeneration, noSetsEndInTheErrorDisplay) {
-    SmallInstall install;
-    wantSets(install, {0, 0, 0, 0, 0});
-    GroundGeneration(install.session).createTextureSets(true);
-    EXPECT_EQ(install.user.told(), QStringList({"Error|Morvane Error|Division by zero"}));
-}
-
-TEST(GroundGeneration, unconfirmedQuantitiesMakeNothing) {
-    SmallInstall install;
-    GroundGeneration(install.session).createTextureSets(true);
-    EXPECT_TRUE(setFolders(install).isEmpty());
-    EXPECT_TRUE(install.user.messages.empty());
-}
-
 TEST(GroundGeneration, cancelTakesTheUnfinishedSetWithItAndKeepsTheOthers) {
     for (const char* pass : {"Process 1", "Process 2"}) {
         SmallInstall install;
-        wantSets(install, {5, 0, 0, 0, 0});
         install.user.onPump = [&] {
             const QString text =
                 install.user.messages.empty() ? QString() : install.user.messages.back().text;
             if (text.contains("set 3 of 5") && text.contains(pass))
                 install.user.answers().cancelRequested = true;
         };
-        GroundGeneration(install.session).createTextureSets(true);
+        create(install, {5, 0, 0, 0, 0});
         EXPECT_EQ(covers(install), QStringList({"Partly Cloudy", "Sky Clear", "Sky Clear"})) << pass;
         EXPECT_EQ(setFolders(install).size(), 2) << pass;
         EXPECT_FALSE(install.user.answers().cancelRequested);
@@ -145,8 +119,7 @@ TEST(GroundGeneration, aBaseFileThatFailsGetsThePictureBefore) {
     SmallInstall install({{u"GENERIC WORLD\\029a2su1.bmp"_s, u"GENERIC WORLD\\030a2su1.bmp"_s,
                            u"GENERIC WORLD\\031a2su1.bmp"_s}});
     test::writeFile(install.home() / u"Resources\\GENERIC WORLD\\030a2su1.bmp", "BM no picture");
-    wantSets(install, {1, 0, 0, 0, 0});
-    GroundGeneration(install.session).createTextureSets(true);
+    create(install, {1, 0, 0, 0, 0});
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
     const FilePath textures =
         groundSetFolder(install.session, install.session.ground.SelectedGroundSet) / u"Texture";
@@ -156,27 +129,16 @@ TEST(GroundGeneration, aBaseFileThatFailsGetsThePictureBefore) {
 
 TEST(GroundGeneration, aMissingStockMakesAnEmptySet) {
     SmallInstall install(test::SmallInstallOptions{QStringList{}, 16});
-    wantSets(install, {1, 0, 0, 0, 0});
-    GroundGeneration(install.session).createTextureSets(true);
+    create(install, {1, 0, 0, 0, 0});
     EXPECT_EQ(covers(install).size(), 2);
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 0);
     EXPECT_EQ(install.user.countOfKind(MessageKind::information), 1);
 }
 
-TEST(GroundGeneration, aSetFolderThatCannotBeMadeIsToldOnce) {
-    SmallInstall install({{u"GENERIC WORLD\\029h2su6.bmp"_s}});
-    QDir().rmdir((install.home() / u"Texture Sets").native());
-    test::writeFile(install.home() / u"Texture Sets", "a file in the folder's place");
-    wantSets(install, {1, 0, 0, 0, 0});
-    GroundGeneration(install.session).createTextureSets(true);
-    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-}
-
 TEST(GroundGeneration, oneJobIsNotStartedInsideAnother) {
     SmallInstall install({{u"GENERIC WORLD\\029h2su6.bmp"_s}});
-    wantSets(install, {1, 0, 0, 0, 0});
     install.user.onPump = [&] { GroundGeneration(install.session).createTextureSets(true); };
-    GroundGeneration(install.session).createTextureSets(true);
+    create(install, {1, 0, 0, 0, 0});
     EXPECT_EQ(setFolders(install).size(), 1);
     EXPECT_FALSE(install.session.jobRunning);
 }

@@ -102,8 +102,8 @@ TEST_F(GroundInstall, readOnlyTargetsRaiseAndLinksAreReplaced) {
     install.files.setReadOnly(texture, true);
     installSet("2-Storm");
     EXPECT_EQ(world(u"029h2su6.bmp"), "the pilot's GENERIC WORLD\\029h2su6.bmp");
-    ASSERT_EQ(install.user.countOfKind(MessageKind::error), 1);
-    EXPECT_TRUE(install.user.told().last().startsWith("Error|Morvane Error|Permission denied: "));
+    ASSERT_EQ(install.user.told().size(), 1);
+    EXPECT_TRUE(install.user.told()[0].startsWith("Error|Morvane Error|Permission denied: "));
 
     install.files.remove(texture);
     writeFile(install.folder / u"elsewhere.bmp", "mine");
@@ -118,12 +118,10 @@ TEST_F(GroundInstall, severalSelectedRowsAreRefused) {
     session.ground.selectedRows = QStringList{"2-Storm", "Default"};
     GroundInstallation(session).installTextureSet(false);
     EXPECT_TRUE(install.installedSets().isEmpty());
-    EXPECT_EQ(
-        install.user.told(),
-        QStringList(
-            {"Exclamation|Multiple Selection Detetected!|Morvane has detected more than one selection for "
-             "installation.  You can only select one sky texture set to be installed at any one time.  "
-             "Please check your selection and try again!."}));
+    EXPECT_EQ(install.user.told().value(0),
+              "Exclamation|Multiple Selection Detetected!|Morvane has detected more than one selection for "
+              "installation.  You can only select one sky texture set to be installed at any one time.  "
+              "Please check your selection and try again!.");
 }
 
 TEST_F(GroundInstall, aStaleCollectionOverwritesNoOtherSet) {
@@ -137,13 +135,11 @@ TEST_F(GroundInstall, aStaleCollectionOverwritesNoOtherSet) {
 }
 
 TEST_F(GroundInstall, theModeOfAReplacedFileStays) {
-    const FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP";
-    const auto mode = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup;
-    QFile::setPermissions(texture.native(), mode);
+    const QString texture = (install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP").native();
+    QFile::setPermissions(texture, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
     installSet("2-Storm");
-    const auto shown = QFile::permissions(texture.native());
-    EXPECT_TRUE(shown.testFlag(QFileDevice::ReadGroup));
-    EXPECT_FALSE(shown.testFlag(QFileDevice::ReadOther));
+    EXPECT_TRUE(QFile::permissions(texture).testFlag(QFile::ReadGroup));
+    EXPECT_FALSE(QFile::permissions(texture).testFlag(QFile::ReadOther));
 }
 
 } // namespace

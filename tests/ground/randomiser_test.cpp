@@ -30,8 +30,6 @@ constexpr double nearlyOne = 0.99999999999999989;
 TEST_F(Draws, stayBelowTheUpperBoundWhateverTheFloatWidth) {
     EXPECT_EQ(one(-22, -10, 0), -22);
     EXPECT_EQ(one(-22, -10, nearlyOne), -11);
-    EXPECT_EQ(one(0, 5, nearlyOne), 4);
-    EXPECT_EQ(one(-10, 0, nearlyOne), -1);
     EXPECT_EQ(one(0, 1, nearlyOne), 0);
     EXPECT_EQ(one(0, 32767, nearlyOne), 32766);
 }
@@ -56,13 +54,10 @@ TEST_F(Draws, boundsOutOfOrderAreTold) {
 TEST_F(Draws, moreThanOneNumber) {
     random.numbers = {0.3, 0.9, 0.1, 0.7, 0.5, 0.2};
     EXPECT_EQ(*draws.Non_Repeating_Numbers(3, 9, 2), std::vector<int>({2, 2, 2}));
-    std::vector<int> three = *draws.Non_Repeating_Numbers(3, 9, -2, true);
-    EXPECT_TRUE(std::is_sorted(three.begin(), three.end()));
-    EXPECT_EQ(std::unique(three.begin(), three.end()), three.end());
-    EXPECT_TRUE(three.front() >= -2 && three.back() <= 9);
-    std::vector<int> thirty = *draws.Non_Repeating_Numbers(30, 40, -10, true);
+    const std::vector<int> thirty = *draws.Non_Repeating_Numbers(30, 40, -10, true);
     EXPECT_EQ(thirty.size(), 30u);
-    EXPECT_TRUE(std::is_sorted(thirty.begin(), thirty.end()));
+    EXPECT_TRUE(std::is_sorted(thirty.begin(), thirty.end(), std::less_equal<>())) << "none comes twice";
+    EXPECT_TRUE(thirty.front() >= -10 && thirty.back() <= 40);
     for (std::vector<int> few : {std::vector<int>{}, {1}, {1, 2}, {1, 2, 3}}) { // no draw can hang on these
         draws.Mix_The_Numbers(few);
         EXPECT_LE(few.size(), 3u);
@@ -70,11 +65,8 @@ TEST_F(Draws, moreThanOneNumber) {
 }
 
 TEST(GroundRandomiser, drawsEachFieldInItsRange) {
-    struct Case {
-        int cloudNumber;
-        SliderValues lowest, highest; // saturation, red, green, blue, brightness, contrast
-    };
-    const Case cases[] = {
+    // The cloud number, and the lowest and highest: saturation, red, green, blue, brightness, contrast.
+    const std::tuple<int, SliderValues, SliderValues> cases[] = {
         {1, {0, 0, 0, 0, 10, 0}, {0, 9, 4, 0, 49, 29}},
         {2, {0, 0, 0, 0, 0, -5}, {0, 9, 0, 0, 19, 14}},
         {3, {0, -10, 0, -5, -5, -5}, {0, -1, 0, 4, 4, 4}},
@@ -83,15 +75,13 @@ TEST(GroundRandomiser, drawsEachFieldInItsRange) {
         {6, {}, {}},
     };
     test::SmallInstall install;
-    for (const Case& c : cases) {
-        SliderValues values{};
-        install.random.numbers = {0};
-        getRandomGroundValues(install.session, c.cloudNumber, values);
-        EXPECT_EQ(values, c.lowest) << c.cloudNumber;
-        install.random.numbers = {nearlyOne};
-        getRandomGroundValues(install.session, c.cloudNumber, values);
-        EXPECT_EQ(values, c.highest) << c.cloudNumber;
-    }
+    for (const auto& [cloudNumber, lowest, highest] : cases)
+        for (const double fraction : {0.0, nearlyOne}) {
+            SliderValues values{};
+            install.random.numbers = {fraction};
+            getRandomGroundValues(install.session, cloudNumber, values);
+            EXPECT_EQ(values, fraction == 0 ? lowest : highest) << cloudNumber;
+        }
 }
 
 TEST(GroundRandomiser, realSourceGivesEachFieldAFractionOfItsOwn) {

@@ -100,23 +100,5 @@ TEST(PictureReader, rowEndsAreCleared) {
         EXPECT_EQ(picture.rows.at(at), 0) << at;
 }
 
-TEST(PictureReader, filesAreNamedInTheFailure) {
-    test::TemporaryFolder folder;
-    NativeFileSystem files;
-    test::writeFile(folder / u"flag.bmp", readableKinds().front().file);
-    test::writeFile(folder / u"letter.bmp", "Dear pilot");
-    EXPECT_EQ(test::lettersOf(loadPicture(files, folder / u"FLAG.bmp")), "wky/rgb");
-    const auto failure = [&](QStringView name) {
-        try {
-            loadPicture(files, folder / name);
-        } catch (const Error& error) {
-            return std::pair(error.code(), error.description().endsWith(name));
-        }
-        return std::pair(ErrorCode{}, false);
-    };
-    EXPECT_EQ(failure(u"letter.bmp"), std::pair(ErrorCode::invalidPicture, true));
-    EXPECT_EQ(failure(u"missing.bmp").first, ErrorCode::fileNotFound);
-}
-
 } // namespace
 } // namespace morvane

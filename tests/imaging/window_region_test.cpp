@@ -1,15 +1,16 @@
 #include "imaging/window_region.h"
 
 #include "core/error.h"
-#include "core/literals.h"
+#include "imaging/bitmap_builder.h"
 
 #include <QRegion>
-#include <QtEndian>
 #include <gtest/gtest.h>
 #include <random>
 
 namespace morvane {
 namespace {
+
+using test::withLong;
 
 constexpr QRgb key = qRgb(255, 0, 255);
 
@@ -25,20 +26,12 @@ QImage pictureOf(const std::vector<const char*>& rows) {
 const std::vector<const char*> lippedWindow = {"..##..", "######", "######", "#.##.#",
                                                "#.##..", "......", ".##..."};
 
-TEST(WindowRegion, scanMakesBandsOfEqualRows) {
-    const WindowRegion region = scanRegion(pictureOf(lippedWindow), key);
-    const std::vector<QRect> bands = {{2, 0, 2, 1}, {0, 1, 6, 2}, {0, 3, 1, 1}, {2, 3, 2, 1},
-                                      {5, 3, 1, 1}, {0, 4, 1, 1}, {2, 4, 2, 1}, {1, 6, 2, 1}};
-    EXPECT_EQ(region.rectangles, bands);
-    EXPECT_EQ(region.bounds, QRect(0, 0, 6, 7));
-    EXPECT_EQ(scanRegion(pictureOf({"###", "###"}), key).rectangles, std::vector<QRect>{QRect(0, 0, 3, 2)});
-}
-
-/// The rule as it is told: the whole rectangle less each transparent run.
+/// The rule as it is told: the whole rectangle less each transparent run. The pictures are narrow, so that
+/// neighbouring rows often differ in one end of a run only.
 TEST(WindowRegion, scanEqualsTheRectangleLessItsRuns) {
     std::mt19937 random(20040); // NOLINT: the same pictures every time
     for (int turn = 0; turn < 50; ++turn) {
-        QImage picture(17, 9, QImage::Format_RGB888);
+        QImage picture(5, 15, QImage::Format_RGB888);
         QRegion expected(picture.rect());
         for (int y = 0; y < picture.height(); ++y)
             for (int x = 0; x < picture.width(); ++x) {
@@ -54,18 +47,9 @@ TEST(WindowRegion, scanEqualsTheRectangleLessItsRuns) {
 
 TEST(WindowRegion, blockHasTheLayoutOfTheSystem) {
     const QByteArray block = writeWindowRegion(scanRegion(pictureOf({".##", ".##"}), key));
-    EXPECT_EQ(block.toHex(), QByteArray("20000000"
-                                        "01000000"
-                                        "01000000"
-                                        "10000000"
-                                        "01000000"
-                                        "00000000"
-                                        "03000000"
-                                        "02000000"
-                                        "01000000"
-                                        "00000000"
-                                        "03000000"
-                                        "02000000"));
+    EXPECT_EQ(block, QByteArray::fromHex("20000000 01000000 01000000 10000000"
+                                         "01000000 00000000 03000000 02000000"
+                                         "01000000 00000000 03000000 02000000"));
 }
 
 TEST(WindowRegion, readingAndWritingGivesTheSameBytes) {
@@ -83,22 +67,13 @@ TEST(WindowRegion, emptyRegionIsNotWritten) {
         writeWindowRegion(scanRegion(pictureOf({"..", ".."}), key));
         FAIL();
     } catch (const Error& error) {
-        EXPECT_EQ(error.description(), u"Unable to determine size of region in SaveRegionDataToFile"_s);
+        EXPECT_EQ(error.description(), "Unable to determine size of region in SaveRegionDataToFile");
     }
-}
-
-QByteArray withLong(QByteArray block, int at, quint32 value) {
-    qToLittleEndian(value, block.data() + at);
-    return block;
 }
 
 TEST(WindowRegion, damagedFilesAreRefused) {
     const QByteArray good = writeWindowRegion(scanRegion(pictureOf(lippedWindow), key));
-    struct Damage {
-        const char* what;
-        QByteArray file;
-    };
-    const Damage damages[] = {
+    const std::pair<const char*, QByteArray> damages[] = {
         {"nothing", {}},
         {"half a header", good.left(20)},
         {"half a rectangle", good.left(good.size() - 8)},
@@ -117,8 +92,8 @@ TEST(WindowRegion, damagedFilesAreRefused) {
         {"two that overlap", withLong(good, 32 + 3 * 16 + 8, 6)},
         {"one out of its row", withLong(good, 32 + 16 + 4, 0)},
     };
-    for (const Damage& damage : damages)
-        EXPECT_THROW(readWindowRegion(damage.file), Error) << damage.what;
+    for (const auto& [what, file] : damages)
+        EXPECT_THROW(readWindowRegion(file), Error) << what;
 }
 
 } // namespace

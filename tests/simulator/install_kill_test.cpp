@@ -7,15 +7,11 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <csignal>
-#include <fcntl.h>
+#include <QProcess>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <random>
-#include <spawn.h>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 
 namespace morvane {
 namespace {
@@ -31,27 +27,6 @@ constexpr qint64 patienceMilliseconds = 60'000;
 
 QString fileName(int i) {
     return u"%1a2su1.bmp"_s.arg(i, 3, 10, QChar(u'0'));
-}
-
-pid_t startInstall(const FilePath& home, const QString& set) {
-    const std::string program = MORVANE_BIN_DIR "/morvane-cli", homeText = home.native().toStdString(),
-                      name = set.toStdString();
-    const char* arguments[] = {program.c_str(), "--home",     homeText.c_str(), "ground",
-                               "install",       name.c_str(), nullptr};
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    pid_t process = 0;
-    const int result =
-        posix_spawn(&process, program.c_str(), &actions, nullptr, const_cast<char**>(arguments), environ);
-    posix_spawn_file_actions_destroy(&actions);
-    return result == 0 ? process : -1;
-}
-
-int waitFor(pid_t process) {
-    int status = 0;
-    waitpid(process, &status, 0);
-    return status;
 }
 
 /// Two sets of the same names but other contents lie ready; set A stands in the simulator.
@@ -73,7 +48,18 @@ protected:
 
     FilePath world() const { return install.simulator() / u"Scenery\\World\\texture"; }
 
-    void putWhole(const QString& set) { ASSERT_EQ(waitFor(startInstall(install.home(), set)), 0); }
+    /// A process of its own that installs a set.
+    struct Install : QProcess {
+        Install(const FilePath& home, const QString& set) {
+            setStandardErrorFile(nullDevice());
+            start(QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"),
+                  {u"--home"_s, home.native(), u"ground"_s, u"install"_s, set});
+        }
+        /// Waits for its end; whether it came by itself and well.
+        bool isDone() { return waitForFinished(-1) && exitStatus() == NormalExit && exitCode() == 0; }
+    };
+
+    void putWhole(const QString& set) { ASSERT_TRUE(Install(install.home(), set).isDone()); }
 
     bool isFile(int i, char letter) {
         QFile file((world() / fileName(i)).native());
@@ -81,14 +67,15 @@ protected:
         return file.open(QIODevice::ReadOnly) && file.getChar(&first) && first == letter;
     }
 
-    /// Kills the install as soon as its file of that number has come. True when it was still alive then.
-    bool killAt(pid_t process, int moment) {
+    /// Kills the install of set B as soon as its file of that number has come. True when it was still alive.
+    bool killAt(int moment) {
+        Install process(install.home(), setB);
         QElapsedTimer timer;
         timer.start();
         while (!isFile(moment, 'B') && timer.elapsed() < patienceMilliseconds)
             std::this_thread::yield();
-        kill(process, SIGKILL);
-        return WIFSIGNALED(waitFor(process));
+        process.kill();
+        return !process.isDone();
     }
 
     /// Counts files of each set; anything else but whole files and parts fails the test.
@@ -97,11 +84,9 @@ protected:
         const auto now = contentsBelow(world());
         for (auto file = now.begin(); file != now.end(); ++file) {
             if (file.key().endsWith(".morvane-part") || file.value().startsWith("the pilot's")) continue;
-            const bool isA = file.value() == QByteArray(fileSize, 'A');
-            const bool isB = file.value() == QByteArray(fileSize, 'B');
-            EXPECT_TRUE(isA || isB) << "torn: " << qPrintable(file.key());
-            a += isA;
-            b += isB;
+            const char letter = file.value().startsWith('A') ? 'A' : 'B';
+            EXPECT_TRUE(file.value() == QByteArray(fileSize, letter)) << "torn: " << qPrintable(file.key());
+            ++(letter == 'A' ? a : b);
         }
         return {a, b};
     }
@@ -116,7 +101,7 @@ TEST_F(InstallKills, leaveNoTornFileAndNothingStray) {
     int cut = 0;
     for (int round = 0; round < rounds; ++round) {
         const int moment = static_cast<int>(random() % fileCount);
-        const bool killed = killAt(startInstall(install.home(), setB), moment);
+        const bool killed = killAt(moment);
         const auto [a, b] = countWhole();
         EXPECT_EQ(a + b, fileCount);
         cut += killed && a > 0 && b > 0;

@@ -149,8 +149,7 @@ TEST_F(OriginalsTest, anInstallWithoutAReadableListReplacesNothing) {
     GroundInstallation(small.session).installTextureSet(true);
     EXPECT_EQ(test::contentsBelow(small.simulator()), before);
     ASSERT_EQ(small.user.told().size(), 1);
-    EXPECT_TRUE(small.user.told()[0].startsWith(u"Error|Morvane Error|Permission denied: "))
-        << small.user.told()[0].toStdString();
+    EXPECT_TRUE(small.user.told()[0].startsWith(u"Error|Morvane Error|Permission denied: "_s));
 }
 
 } // namespace

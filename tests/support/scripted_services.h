@@ -41,26 +41,35 @@ public:
     bool exists(const FilePath& path) override { return test() && real_.exists(path); }
     bool isFolder(const FilePath& path) override { return test() && real_.isFolder(path); }
     bool isLink(const FilePath& path) override { return test() && real_.isLink(path); }
-    QStringList list(const FilePath& folder, const QString& mask) override;
-    QStringList listFolders(const FilePath& folder) override;
-    void makeFolder(const FilePath& folder) override;
+    QStringList list(const FilePath& folder, const QString& mask) override {
+        return act(folder).list(folder, mask);
+    }
+    QStringList listFolders(const FilePath& folder) override { return act(folder).listFolders(folder); }
+    void makeFolder(const FilePath& folder) override { act(folder).makeFolder(folder); }
     void copyContents(const FilePath& source, const FilePath& target) override;
-    void rename(const FilePath& source, const FilePath& target) override;
-    void remove(const FilePath& file) override;
-    void removeFolder(const FilePath& folder) override;
-    bool isReadOnly(const FilePath& file) override;
-    void setReadOnly(const FilePath& file, bool readOnly) override;
-    void copyMode(const FilePath& model, const FilePath& target) override;
-    std::int64_t size(const FilePath& file) override;
-    std::int64_t freeSpace(const FilePath& folder) override;
-    QByteArray read(const FilePath& file) override;
-    void write(const FilePath& file, const QByteArray& contents) override;
-    void append(const FilePath& file, const QByteArray& contents) override;
+    void rename(const FilePath& source, const FilePath& target) override {
+        act(target).rename(source, target);
+    }
+    void remove(const FilePath& file) override { act(file).remove(file); }
+    void removeFolder(const FilePath& folder) override { act(folder).removeFolder(folder); }
+    bool isReadOnly(const FilePath& file) override { return act(file).isReadOnly(file); }
+    void setReadOnly(const FilePath& file, bool readOnly) override { act(file).setReadOnly(file, readOnly); }
+    void copyMode(const FilePath& model, const FilePath& target) override {
+        act(target).copyMode(model, target);
+    }
+    std::int64_t size(const FilePath& file) override { return act(file).size(file); }
+    std::int64_t freeSpace(const FilePath& folder) override { return act(folder).freeSpace(folder); }
+    QByteArray read(const FilePath& file) override { return act(file).read(file); }
+    void write(const FilePath& file, const QByteArray& contents) override { act(file).write(file, contents); }
+    void append(const FilePath& file, const QByteArray& contents) override {
+        act(file).append(file, contents);
+    }
 
 private:
     bool isFailing();
     bool test();
-    void act(const FilePath& path);
+    /// The real file system, unless this operation is one to fail.
+    FileSystem& act(const FilePath& path);
     NativeFileSystem real_;
     int operations_ = 0, failing_ = 0;
     bool forever_ = false, hasFailed_ = false, failedAtTest_ = false;

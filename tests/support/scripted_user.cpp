@@ -23,10 +23,6 @@ void ScriptedUser::updateProgress(const QString&, const QString& text, double va
     pumpMessages();
 }
 
-void ScriptedUser::setProgressFile(const QString& line) {
-    calls << u"file "_s + line;
-}
-
 void ScriptedUser::hideMessage() {
     calls << u"hide message"_s;
     messageVisible_ = false;
@@ -48,27 +44,6 @@ QString ScriptedUser::browseForFolder(const QString&) {
 void ScriptedUser::showModal(Screen screen) {
     calls << u"modal "_s + screenName(screen);
     onModal(screen);
-}
-
-void ScriptedUser::showScreen(Screen screen) {
-    calls << u"show "_s + screenName(screen);
-}
-
-void ScriptedUser::hideScreen(Screen screen) {
-    calls << u"hide "_s + screenName(screen);
-}
-
-void ScriptedUser::refreshScreen(Screen screen) {
-    calls << u"refresh "_s + screenName(screen);
-}
-
-void ScriptedUser::minimiseProgram() {
-    calls << u"minimise"_s;
-    onMinimise();
-}
-
-void ScriptedUser::pumpMessages() {
-    onPump();
 }
 
 QStringList ScriptedUser::told() const {

@@ -14,17 +14,20 @@ class ScriptedUser : public UserInterface {
 public:
     void showMessage(const Message& message) override;
     void updateProgress(const QString& title, const QString& text, double value) override;
-    void setProgressFile(const QString& line) override;
+    void setProgressFile(const QString& line) override { calls << u"file "_s + line; }
     void hideMessage() override;
     bool isMessageVisible() const override { return messageVisible_; }
     bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
     QString browseForFolder(const QString& startFolder) override;
     void showModal(Screen screen) override;
-    void showScreen(Screen screen) override;
-    void hideScreen(Screen screen) override;
-    void refreshScreen(Screen screen) override;
-    void minimiseProgram() override;
-    void pumpMessages() override;
+    void showScreen(Screen screen) override { calls << u"show "_s + screenName(screen); }
+    void hideScreen(Screen screen) override { calls << u"hide "_s + screenName(screen); }
+    void refreshScreen(Screen screen) override { calls << u"refresh "_s + screenName(screen); }
+    void minimiseProgram() override {
+        calls << u"minimise"_s;
+        onMinimise();
+    }
+    void pumpMessages() override { onPump(); }
 
     /// Answers of questions and system boxes, first to last; after the last one `otherwise` is given.
     std::deque<bool> answersToGive;

@@ -26,26 +26,18 @@ QRegularExpression vocabulary(std::span<const CodeText> codes) {
     return whole(u"(?:"_s + texts.join(u'|') + u")*"_s);
 }
 
-struct TextShape {
-    QString clsDecodeMetar::*value;
-    QRegularExpression pattern;
+const std::pair<QString clsDecodeMetar::*, QRegularExpression> textShapes[] = {
+    {&clsDecodeMetar::WindDirection, whole(u"|Variable|Calm|[0-9]+ degrees"_s)},
+    {&clsDecodeMetar::WindSpeed, whole(u"[0-9]*"_s)},
+    {&clsDecodeMetar::WindSpeedMeasurement, whole(u"|kts|mps"_s)},
+    {&clsDecodeMetar::MetarVisibilityFormat, whole(u"|km|mph|cavok"_s)},
+    {&clsDecodeMetar::MetarWeather, vocabulary(weatherCodes())},
+    {&clsDecodeMetar::MetarObscuration, vocabulary(obscurationCodes())},
+    {&clsDecodeMetar::MetarCloud,
+     whole(u"|(Sky Clear|Mostly Clear|Partly Cloudy|Mostly Cloudy|Overcast|Sky obscured|"
+           "No significant cloud below 5000 feet \\(CAVOK\\)|No Cloud Data Available)"
+           "(: Cumulonimbus observed)?(: Towering Cumulonimbus observed)?(: Cumulus observed)?"_s)},
 };
-
-const std::vector<TextShape>& textShapes() {
-    static const std::vector<TextShape> shapes{
-        {&clsDecodeMetar::WindDirection, whole(u"|Variable|Calm|[0-9]+ degrees"_s)},
-        {&clsDecodeMetar::WindSpeed, whole(u"[0-9]*"_s)},
-        {&clsDecodeMetar::WindSpeedMeasurement, whole(u"|kts|mps"_s)},
-        {&clsDecodeMetar::MetarVisibilityFormat, whole(u"|km|mph|cavok"_s)},
-        {&clsDecodeMetar::MetarWeather, vocabulary(weatherCodes())},
-        {&clsDecodeMetar::MetarObscuration, vocabulary(obscurationCodes())},
-        {&clsDecodeMetar::MetarCloud,
-         whole(u"|(Sky Clear|Mostly Clear|Partly Cloudy|Mostly Cloudy|Overcast|Sky obscured|"
-               "No significant cloud below 5000 feet \\(CAVOK\\)|No Cloud Data Available)"
-               "(: Cumulonimbus observed)?(: Towering Cumulonimbus observed)?(: Cumulus observed)?"_s)},
-    };
-    return shapes;
-}
 
 /// Decodes any text, a report or not, and checks what always holds.
 QStringList decodedSoundly(const QString& report) {
@@ -55,8 +47,8 @@ QStringList decodedSoundly(const QString& report) {
     metar.decodeMetarString(report);
     EXPECT_TRUE(user.messages.empty());
     EXPECT_EQ(metar.MetarICAO, report.section(u' ', 0, 0));
-    for (const TextShape& shape : textShapes())
-        EXPECT_TRUE(shape.pattern.match(metar.*shape.value).hasMatch()) << (metar.*shape.value).toStdString();
+    for (const auto& [value, shape] : textShapes)
+        EXPECT_TRUE(shape.match(metar.*value).hasMatch()) << (metar.*value).toStdString();
     EXPECT_EQ(metar.WindVarying, metar.WindVaryingFrom.size() == 3);
     EXPECT_TRUE(metar.MetarDate.size() == 2 || metar.MetarTime.isEmpty());
     EXPECT_EQ(metar.MetarCloud.isEmpty(), metar.MetarMaxCloud == 0);

@@ -5,9 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <functional>
 #include <optional>
 
 // The weather service's own reading of the sample reports, compared in meaning wherever both sides say
@@ -66,9 +64,8 @@ Agreement agreesInPressure(const QString& ours, const QString& theirs) {
 }
 
 Agreement agreesInCloudClass(int ours, const QString& sky) {
-    static const QStringList words{
-        u""_s,         u"clear"_s,   u"mostly clear"_s, u"partly cloudy"_s, u"mostly cloudy"_s,
-        u"overcast"_s, u"obscured"_s};
+    const QStringList words =
+        u"|clear|mostly clear|partly cloudy|mostly cloudy|overcast|obscured"_s.split(u'|');
     const qsizetype theirs = words.indexOf(sky);
     return theirs < 1 ? std::nullopt : Agreement(ours == theirs);
 }
@@ -76,66 +73,61 @@ Agreement agreesInCloudClass(int ours, const QString& sky) {
 struct Comparison {
     const char* figure;
     int count; ///< reports in which the service gives the figure
-    std::function<Agreement(const clsDecodeMetar& ours, const ServiceRow& theirs)> compare;
-    QStringList setAside = {}; ///< how the reports begin that are read differently for a reason
+    Agreement (*compare)(const clsDecodeMetar& ours, const ServiceRow& theirs);
+    QString setAside = {}; ///< how the reports begin that are read differently for a reason, joined by "|"
 };
 
-std::vector<Comparison> comparisons() {
-    const QStringList timeIsAWind{u"SVJP 151100KT"_s};
-    // A cloud group without a height, or a heading, stands where a temperature is looked for.
-    const QStringList noTemperature{u"FQTT 161200Z"_s, u"KEKA 041600Z"_s, u"LIBE 030905Z"_s,
-                                    u"RJNW 290700Z"_s, u"SCBP 240300Z"_s, u"TEDF 101600Z"_s,
-                                    u"WIND 090008KT"_s};
-    // Groups that are not five characters; two pressures, of which the service takes the other.
-    const QStringList otherPressure{u"HLLS 091750Z"_s, u"KQYQ 302055Z"_s, u"MHTG 171200Z"_s,
-                                    u"OPPS 171055Z"_s, u"SAST 121630Z"_s, u"VILD 290700Z"_s};
-    const QStringList markInTheRemark{u"EHWO 141525Z"_s};
-    using Ours = const clsDecodeMetar&;
-    using Theirs = const ServiceRow&;
-    return {
-        {"wind direction", 378,
-         [](Ours ours, Theirs theirs) { return agreesInDirection(ours.WindDirection, theirs.wind); },
-         timeIsAWind},
-        {"wind speed", 305,
-         [](Ours ours, Theirs theirs) { return agreesInKnots(ours, ours.WindSpeed, theirs, u"at"_s); }},
-        {"gust", 16,
-         [](Ours ours, Theirs theirs) { return agreesInKnots(ours, ours.WindGust, theirs, u"to"_s); }},
-        {"gusting", 401,
-         [](Ours ours, Theirs theirs) {
-             return Agreement(ours.WindGusting == theirs.wind.contains(u"gusting"));
-         }},
-        {"temperature", 376,
-         [](Ours ours, Theirs theirs) { return agreesInCelsius(ours.MetarTemp, theirs.temperature); },
-         noTemperature},
-        {"dewpoint", 367,
-         [](Ours ours, Theirs theirs) { return agreesInCelsius(ours.MetarDewpoint, theirs.dewpoint); },
-         noTemperature},
-        {"pressure", 338,
-         [](Ours ours, Theirs theirs) { return agreesInPressure(ours.MetarPressure, theirs.pressure); },
-         otherPressure},
-        {"cloud class", 304,
-         [](Ours ours, Theirs theirs) { return agreesInCloudClass(ours.MetarMaxCloud, theirs.sky); }},
-        {"cumulonimbus", 400,
-         [](Ours ours, Theirs theirs) {
-             return Agreement(ours.MetarCloud.contains(u": Cumulonimbus observed") ==
-                              theirs.weather.contains(u"Cumulonimbus clouds observed"));
-         },
-         markInTheRemark},
-    };
-}
+using Ours = const clsDecodeMetar&;
+using Theirs = const ServiceRow&;
+
+// A cloud group without a height, or a heading, stands where a temperature is looked for.
+const QString noTemperature =
+    u"FQTT 161200Z|KEKA 041600Z|LIBE 030905Z|RJNW 290700Z|SCBP 240300Z|TEDF 101600Z|WIND 090008KT"_s;
+// Groups that are not five characters; two pressures, of which the service takes the other.
+const QString otherPressure =
+    u"HLLS 091750Z|KQYQ 302055Z|MHTG 171200Z|OPPS 171055Z|SAST 121630Z|VILD 290700Z"_s;
+const QString timeIsAWind = u"SVJP 151100KT"_s;
+const QString markInTheRemark = u"EHWO 141525Z"_s;
+
+const Comparison comparisons[] = {
+    {"wind direction", 378,
+     [](Ours ours, Theirs theirs) { return agreesInDirection(ours.WindDirection, theirs.wind); },
+     timeIsAWind},
+    {"wind speed", 305,
+     [](Ours ours, Theirs theirs) { return agreesInKnots(ours, ours.WindSpeed, theirs, u"at"_s); }},
+    {"gust", 16,
+     [](Ours ours, Theirs theirs) { return agreesInKnots(ours, ours.WindGust, theirs, u"to"_s); }},
+    {"gusting", 401,
+     [](Ours ours, Theirs theirs) {
+         return Agreement(ours.WindGusting == theirs.wind.contains(u"gusting"));
+     }},
+    {"temperature", 376,
+     [](Ours ours, Theirs theirs) { return agreesInCelsius(ours.MetarTemp, theirs.temperature); },
+     noTemperature},
+    {"dewpoint", 367,
+     [](Ours ours, Theirs theirs) { return agreesInCelsius(ours.MetarDewpoint, theirs.dewpoint); },
+     noTemperature},
+    {"pressure", 338,
+     [](Ours ours, Theirs theirs) { return agreesInPressure(ours.MetarPressure, theirs.pressure); },
+     otherPressure},
+    {"cloud class", 304,
+     [](Ours ours, Theirs theirs) { return agreesInCloudClass(ours.MetarMaxCloud, theirs.sky); }},
+    {"cumulonimbus", 400,
+     [](Ours ours, Theirs theirs) {
+         return Agreement(ours.MetarCloud.contains(u": Cumulonimbus observed") ==
+                          theirs.weather.contains(u"Cumulonimbus clouds observed"));
+     },
+     markInTheRemark},
+};
 
 TEST(MetarService, readsEveryFigureLikeTheDecoder) {
     const std::vector<ServiceRow> rows = serviceRows();
-    for (const Comparison& comparison : comparisons()) {
+    for (const Comparison& comparison : comparisons) {
         SCOPED_TRACE(comparison.figure);
+        QStringList setAside = comparison.setAside.split(u'|', Qt::SkipEmptyParts);
         int made = 0;
-        qsizetype passedOver = 0;
         for (const ServiceRow& row : rows) {
-            const auto isStart = [&row](const QString& start) { return row.report.startsWith(start); };
-            if (std::any_of(comparison.setAside.begin(), comparison.setAside.end(), isStart)) {
-                ++passedOver;
-                continue;
-            }
+            if (setAside.removeOne(row.report.section(u' ', 0, 1))) continue;
             test::ScriptedUser user;
             clsDecodeMetar metar(user);
             metar.decodeMetarString(row.report);
@@ -144,7 +136,7 @@ TEST(MetarService, readsEveryFigureLikeTheDecoder) {
             made += agreement.has_value();
         }
         EXPECT_EQ(made, comparison.count);
-        EXPECT_EQ(passedOver, comparison.setAside.size());
+        EXPECT_TRUE(setAside.isEmpty()) << setAside.join(u'|').toStdString();
     }
 }
 

@@ -1,23 +1,16 @@
 #pragma once
 
+#include "core/file_system.h"
 #include "core/literals.h"
 #include "core/text_decoding.h"
 
-#include <QFile>
 #include <QRegularExpression>
-#include <stdexcept>
 
 namespace morvane::test {
 
-inline QString readText(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("cannot read " + path.toStdString());
-    return decodeText(file.readAll());
-}
-
 /// The text of a file below data/, such as "metar/02Z.TXT".
 inline QString dataText(const QString& name) {
-    return readText(QStringLiteral(MORVANE_DATA_DIR "/") + name);
+    return decodeText(NativeFileSystem().read(FilePath(QStringLiteral(MORVANE_DATA_DIR "/") + name)));
 }
 
 /// Every report of data/metar in file order, without the date lines of the cycle; repeats are kept.

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/error.h"
+
+#include <optional>
+
+namespace morvane::test {
+
+/// The code of the Error that the action raises; nothing when it raises none.
+template <class Action>
+std::optional<ErrorCode> codeRaisedBy(Action action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.code();
+    }
+    return std::nullopt;
+}
+
+} // namespace morvane::test
