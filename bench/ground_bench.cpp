@@ -35,6 +35,7 @@ public:
     void showScreen(Screen) override {}
     void hideScreen(Screen) override {}
     void refreshScreen(Screen) override {}
+    void minimiseProgram() override {}
     void pumpMessages() override {}
 
     std::function<void(Screen)> onModal = [](Screen) {};

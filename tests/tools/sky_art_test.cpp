@@ -40,15 +40,15 @@ TEST(SkyArt, everyFolderHasItsDayOfMaps) {
 }
 
 TEST(SkyArt, everyMapIsOfItsOwn) {
-    std::set<std::vector<std::uint8_t>> maps;
+    QSet<QByteArray> maps;
     for (const QString& folder : skyFolders())
         for (int index = 0; index < 24; ++index) {
             const Picture map = drawSkyMap(folder, index);
             ASSERT_EQ(map.width * map.height * 3, static_cast<int>(map.rows.size()));
             EXPECT_EQ(map.width, side);
-            maps.insert(map.rows);
+            maps.insert(QByteArray(reinterpret_cast<const char*>(map.rows.data()), map.rows.size()));
         }
-    EXPECT_EQ(maps.size(), 9U * 24);
+    EXPECT_EQ(maps.size(), 9 * 24);
 }
 
 /// Each region stands out from its neighbours, so that a recolouring of one is seen there and nowhere else.
