@@ -115,7 +115,7 @@ TEST_F(ApplicationTest, theCommandLineTakesTheFiveCodesExactly) {
         EXPECT_EQ(session.WxCloudList, clouds) << qPrintable(words[number]);
         EXPECT_EQ(session.WxStrengthList, QStringList(clouds.size(), QString()));
     }
-    EXPECT_TRUE(user.messages.back().text.endsWith(u"obtained from Active Sky?"_s));
+    EXPECT_TRUE(user.messages.front().text.endsWith(u"obtained from Active Sky?"_s));
 }
 
 TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {

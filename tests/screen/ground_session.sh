@@ -148,6 +148,9 @@ installSet() {
     press "$question" Escape
     waitFor "the set in the simulator" isInSimulator "$name"
     waitFor "the end of the installing" hasNoWindow "Morvane Information"
+    waitFor "the offer to start the simulator" hasWindow "Launch Flight Simulator?" $messageSize
+    press "$(windowOf "Launch Flight Simulator?")" Escape
+    waitFor "the end of the offer" hasNoWindow "Launch Flight Simulator?"
     expect "it says so of this set alone" test "$(installedSets)" = "$name"
     expect "the simulator's files are others" test "$(simulatorSums)" != "$before"
     expect "no file of the simulator is gone and nothing strange has come" simulatorHolds "$before" "$name"

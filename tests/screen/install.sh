@@ -87,5 +87,5 @@ intermediateFiles() {
 # files that were kept before an install.
 otherFiles() {
     find "$home" -type f -not -path '*/Texture Sets/*' -not -path '*/Backup/Originals/*' \
-        -not -path '*/TempBitmaps/Dutch/*' -printf '%P\n' | sort
+        -not -path '*/TempBitmaps/Dutch/*' -not -path '*/Flights/*' -printf '%P\n' | sort
 }
