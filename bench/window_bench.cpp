@@ -7,7 +7,10 @@
 #include "core/session.h"
 #include "ground/ground_generation.h"
 #include "simulator/resource_folders.h"
+#include "sky/sky_generation.h"
+#include "sky/sky_sets.h"
 #include "ui/controls/paper_style.h"
+#include "ui/controls/slider.h"
 #include "ui/program_font.h"
 #include "ui/screens/message_screen.h"
 #include "ui/shell.h"
@@ -15,9 +18,12 @@
 #include "ui/window_user.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
 #include <benchmark/benchmark.h>
 
 namespace morvane {
@@ -109,6 +115,27 @@ void answerByItself(Shell& shell, QTimer& timer) {
     timer.start(5);
 }
 
+constexpr int skySets = 50;
+
+/// Copies the sets' files to a temporary folder, counts the time, and takes the sets away.
+int copyAndRemove(Session& session, const QStringList& names, benchmark::State& state) {
+    const QTemporaryDir folder;
+    int files = 0;
+    QElapsedTimer clock;
+    clock.start();
+    for (const QString& name : names)
+        for (const QFileInfo& file : QDir(skySetFolder(session, name).native()).entryInfoList(QDir::Files)) {
+            QFile::copy(file.filePath(), folder.filePath(QString::number(files++)));
+        }
+    state.counters["plain_copy_ms"] = static_cast<double>(clock.elapsed());
+    for (const QString& name : names) {
+        QDir(skySetFolder(session, name).native()).removeRecursively();
+        clsSkyTextureSets& sets = loadedSkySets(session);
+        sets.RemoveItem(QString::number(findSkySet(session, name)->StsID));
+    }
+    return files;
+}
+
 void stayingLiveWhileASetIsMade(benchmark::State& state) {
     Program program(benchHome());
     if (!program.isStarted) return state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
@@ -126,6 +153,46 @@ void stayingLiveWhileASetIsMade(benchmark::State& state) {
     }
 }
 BENCHMARK(stayingLiveWhileASetIsMade)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+/// Fifty sets of one cover, beside a plain copy of the same files.
+void makingFiftySkySets(benchmark::State& state) {
+    Program program(benchHome());
+    if (!program.isStarted) return state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
+    const auto before = loadedSkySets(program.session).Count();
+    for (auto round : state) {
+        SkyGeneration generation(program.session);
+        for (int number = 1; number <= skySets; ++number)
+            generation.createAutoSkySet(u"Sunny"_s, 1, number, skySets);
+        program.session.user.hideMessage();
+    }
+    QStringList names;
+    for (auto at = before + 1; at <= loadedSkySets(program.session).Count(); ++at)
+        names << loadedSkySets(program.session).GetItem(at)->SkyTextureSet;
+    state.counters["files"] = copyAndRemove(program.session, names, state);
+}
+BENCHMARK(makingFiftySkySets)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+/// The longest of the quickest 99 in 100 moves, processing and paint together.
+void movingASkySlider(benchmark::State& state) {
+    Program program(benchHome());
+    if (!program.isStarted) return state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
+    program.shell.showHost(u"frm_KMTextures"_s);
+    program.shell.goToPage(u"frm_SkyColorize"_s);
+    auto* slider = program.shell.form(u"frm_SkyColorize"_s)->findChild<ucSlider*>(u"vcSkyRed"_s);
+    std::vector<double> moves;
+    for (auto round : state)
+        for (int value = -50; value < 50; ++value) {
+            QElapsedTimer clock;
+            clock.start();
+            slider->setValue(value);
+            QCoreApplication::processEvents();
+            moves.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+        }
+    std::sort(moves.begin(), moves.end());
+    state.counters["ms_of_the_99th"] = moves[moves.size() * 99 / 100 - 1];
+    state.counters["ms_median"] = moves[moves.size() / 2];
+}
+BENCHMARK(movingASkySlider)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 } // namespace
 } // namespace morvane

@@ -83,8 +83,8 @@ intermediateFiles() {
     find "$home/TempBitmaps" -type f -not -path '*/Dutch/*'
 }
 
-# Paths of the install's files but those that a session may bring: sets, intermediate files, and the simulator's
-# files that were kept before an install.
+# Paths of the install's files but those that a session may bring: sets, intermediate files, the saved flights that a
+# start gathers, and the simulator's files that were kept before an install.
 otherFiles() {
     find "$home" -type f -not -path '*/Texture Sets/*' -not -path '*/Backup/Originals/*' \
         -not -path '*/TempBitmaps/Dutch/*' -not -path '*/Flights/*' -printf '%P\n' | sort

@@ -121,6 +121,7 @@ void Gallery::saveDialogs() {
                                                           {Screen::frm_SelectTexture, u"select-texture"},
                                                           {Screen::frm_SelectSkyTexture, u"sky-set-counts"},
                                                           {Screen::frm_SelectBaseSky, u"select-base-sky"},
+                                                          {Screen::frm_flight, u"select-flight"},
                                                           {Screen::frm_AddFav, u"add-favourite"},
                                                           {Screen::frm_MultiDelete, u"name-choice"}};
     shell_.session().modal.multiNames = QStringList{u"12-Desert Haze"_s, u"21-Late Autumn"_s};

@@ -7,6 +7,7 @@
 #include "core/registry.h"
 #include "core/session.h"
 #include "gallery.h"
+#include "simulator/flights.h"
 #include "simulator/resource_folders.h"
 #include "ui/controls/paper_style.h"
 #include "ui/program_font.h"
@@ -36,6 +37,7 @@ int run(const FilePath& home, const QString& folder) {
     user.setShell(&shell);
     if (!startUp(session)) return 1;
     clsResourceFolders::reload(session);
+    loadFlightFiles(session);
     Gallery gallery(shell, folder);
     gallery.saveAll();
     std::printf("%d pictures in %s\n", gallery.pictureCount(), qPrintable(folder));
