@@ -3,9 +3,9 @@
 #include "core/literals.h"
 #include "imaging/window_region.h"
 
+#include <QDataStream>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QtEndian>
 #include <algorithm>
 
 namespace morvane {
@@ -74,11 +74,14 @@ QRegion Skin::outline(const QString& fileName) {
 
 QCursor Skin::cursor(const QString& fileName, Qt::CursorShape otherwise) {
     const QPixmap pointer = picture(fileName);
-    const QByteArray file = bytesOf(fileName);
-    if (pointer.isNull() || file.size() < hotSpotOffset + 4) return QCursor(otherwise);
+    if (pointer.isNull()) return QCursor(otherwise);
     // The reader of pictures leaves the point out that clicks; it stands in the file's first entry.
-    const auto coordinate = [&](int offset) { return qFromLittleEndian<quint16>(file.constData() + offset); };
-    return QCursor(pointer, coordinate(hotSpotOffset), coordinate(hotSpotOffset + 2));
+    const QByteArray point = bytesOf(fileName).mid(hotSpotOffset, 4);
+    QDataStream coordinates(point);
+    coordinates.setByteOrder(QDataStream::LittleEndian);
+    quint16 x = 0, y = 0;
+    coordinates >> x >> y;
+    return QCursor(pointer, x, y);
 }
 
 } // namespace morvane
