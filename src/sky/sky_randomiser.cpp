@@ -18,7 +18,7 @@ struct GroupSet {
         for (const int group : groups)
             bits |= 1u << group;
     }
-    constexpr bool contains(int group) const { return (bits >> group & 1u) != 0; }
+    constexpr bool contains(int group) const { return group >= 0 && group < 32 && (bits >> group & 1u) != 0; }
     unsigned bits = 0;
 };
 
