@@ -72,7 +72,9 @@ QRegion Skin::outline(const QString& fileName) {
     }
 }
 
+/// Each key asks for the same one, so the file is read once.
 QCursor Skin::cursor(const QString& fileName, Qt::CursorShape otherwise) {
+    if (const auto known = cursors_.constFind(fileName); known != cursors_.constEnd()) return *known;
     const QPixmap pointer = picture(fileName);
     if (pointer.isNull()) return QCursor(otherwise);
     // The reader of pictures leaves the point out that clicks; it stands in the file's first entry.
@@ -81,7 +83,7 @@ QCursor Skin::cursor(const QString& fileName, Qt::CursorShape otherwise) {
     coordinates.setByteOrder(QDataStream::LittleEndian);
     quint16 x = 0, y = 0;
     coordinates >> x >> y;
-    return QCursor(pointer, x, y);
+    return *cursors_.insert(fileName, QCursor(pointer, x, y));
 }
 
 } // namespace morvane

@@ -34,6 +34,7 @@ private:
     FileSystem& files_;
     FilePath media_;
     QHash<QString, QPixmap> pictures_; ///< null ones included
+    QHash<QString, QCursor> cursors_;
     QStringList missing_;
 };
 
