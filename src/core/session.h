@@ -55,6 +55,16 @@ struct ModalState {
     /// frm_flight: the name of the flight clicked last, and whether OK was pressed.
     QString SelectedFlightName;
     bool FlightSelected = false;
+    /// frm_metar: the lines of the decoded report, in order.
+    QStringList decodedMetarLines;
+    /// frm_metar_request: the question, and whether it was answered with Yes.
+    QString metarRequestText;
+    bool metarRequested = false;
+    /// frm_Select_CC_Method: the option in force (see weather/cover_choice.h), 4 after Cancel.
+    std::int16_t coverMethod = 0;
+    /// frm_FlightPlan, frm_FromDepDestVal, frm_CC_From_Option, frm_CC_From_Metar_String: whether OK was
+    /// pressed. The cover itself stands in the session's lists.
+    bool coverConfirmed = false;
 };
 
 /// The ground set in hand: written by a selection in the list, read by the actions.
@@ -88,6 +98,37 @@ struct SkyTuningState {
     QString cloudCover;             ///< at most 15 characters, as the base set
     std::int16_t cloudIndex = 1;    ///< 1 to 5
     QString baseSet;
+};
+
+/// The weather cycle in use, the directory of airports and the two ends of the flight.
+struct WeatherState {
+    /// Date and hour of the cycle; a day of 0 means that none is known.
+    std::int16_t MetarCycleDay = 0, MetarCycleMonth = 0, MetarCycleYear = 0, MetarCycleHour = 0;
+    bool MetarDataLoaded = false; ///< the table of decoded reports holds rows
+
+    FilePath ASv6Path;
+    bool ASv6Present = false, ASv6VersionOK = false;
+    bool ASv6Local = false; ///< runs on this computer
+    bool ASv6Busy = false;  ///< being waited for: keeps the progress message up
+    QDateTime ASv6ExportDate;
+
+    QString AirportQueryWhere, AirportQueryOrder; ///< behind Session::AirportQuery
+    bool InhibitWeatherReports = true;
+    bool optDepAirport = true, optDestAirport = false; ///< which end a choice of an airport sets
+    QString DepAirportName, DepIcao, DepCity, DepMetar;
+    QString DestAirportName, DestIcao, DestCity, DestMetar;
+    QString MetarStringInput; ///< a report typed in, trimmed
+};
+
+/// What the weather finder asks for.
+struct WxFilter {
+    QString precipitation, intensity, obscuration, cloudCover; ///< entries of the lists
+    bool towering = false, cumulonimbus = false, cumulus = false;
+    QString WxFilterText; ///< beginning of a station code
+    std::int16_t WxMaxResults = 25;
+    bool WxFinderIsDeparture = true;
+    QString WxSelectedIcao;
+    bool WxFinderLoading = false; ///< the screen opens: nothing is filtered yet
 };
 
 /// Everything that lives from start-up to exit. The entry point owns the one session and hands it on.
@@ -139,6 +180,8 @@ public:
     GroundSelection ground;
     SkySelection sky;
     SkyTuningState skyTuning;
+    WeatherState weather;
+    WxFilter wxFilter;
 
     // Two tables, so that looking at stored sets does not disturb what is being tuned.
     SkyGroups skyTextureGroups; ///< of the set that is shown or written

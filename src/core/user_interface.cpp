@@ -1,5 +1,7 @@
 #include "core/user_interface.h"
 
+#include <iterator>
+
 namespace morvane {
 
 QString kindWord(MessageKind kind) {
@@ -23,41 +25,40 @@ QString kindWord(MessageKind kind) {
 }
 
 QString screenName(Screen screen) {
-    switch (screen) {
-    case Screen::frm_Main:
-        return u"frm_Main"_s;
-    case Screen::frm_Msg:
-        return u"frm_Msg"_s;
-    case Screen::frm_Splash:
-        return u"frm_Splash"_s;
-    case Screen::frm_MVTextures:
-        return u"frm_MVTextures"_s;
-    case Screen::frm_NightTextures:
-        return u"frm_NightTextures"_s;
-    case Screen::frm_KMTextures:
-        return u"frm_KMTextures"_s;
-    case Screen::frm_TsRequired:
-        return u"frm_TsRequired"_s;
-    case Screen::frm_MultiDelete:
-        return u"frm_MultiDelete"_s;
-    case Screen::frm_AddFav:
-        return u"frm_AddFav"_s;
-    case Screen::frm_SelectTexture:
-        return u"frm_SelectTexture"_s;
-    case Screen::frm_GroundColorize:
-        return u"frm_GroundColorize"_s;
-    case Screen::frm_Config:
-        return u"frm_Config"_s;
-    case Screen::frm_SkyColorize:
-        return u"frm_SkyColorize"_s;
-    case Screen::frm_SelectSkyTexture:
-        return u"frm_SelectSkyTexture"_s;
-    case Screen::frm_SelectBaseSky:
-        return u"frm_SelectBaseSky"_s;
-    case Screen::frm_flight:
-        return u"frm_flight"_s;
-    }
-    return {};
+    // In the order of the enumeration.
+    static constexpr const char16_t* names[] = {
+        u"frm_Main",
+        u"frm_Msg",
+        u"frm_Splash",
+        u"frm_MVTextures",
+        u"frm_NightTextures",
+        u"frm_KMTextures",
+        u"frm_TsRequired",
+        u"frm_MultiDelete",
+        u"frm_AddFav",
+        u"frm_SelectTexture",
+        u"frm_GroundColorize",
+        u"frm_Config",
+        u"frm_SkyColorize",
+        u"frm_SelectSkyTexture",
+        u"frm_SelectBaseSky",
+        u"frm_flight",
+        u"frm_WxControl",
+        u"frm_WxFinder",
+        u"frm_metar",
+        u"frm_metar_request",
+        u"frm_Select_CC_Method",
+        u"frm_FlightPlan",
+        u"frm_FromDepDestVal",
+        u"frm_CC_From_Option",
+        u"frm_CC_From_Metar_String",
+        u"frm_NightColorize",
+        u"frm_SelectNightTexture",
+        u"frm_BackupList",
+        u"frm_Switcher",
+    };
+    static_assert(std::size(names) == static_cast<std::size_t>(Screen::frm_Switcher) + 1);
+    return QString::fromUtf16(names[static_cast<std::size_t>(screen)]);
 }
 
 bool UserInterface::ask(Question question, const QString& title, const QString& text) {

@@ -23,6 +23,8 @@ struct Message {
     bool isProgress = false;
     /// Shows "Click here if you do not want to see this message again"; a tick is stored at once.
     bool offersFastExit = false;
+    /// A picture that takes the place of the icon, below "\\Media"; a ".gif" moves. Empty: the kind's icon.
+    QString picture = {};
 };
 
 /// Screens by the names that the whole program uses for them.
@@ -43,6 +45,19 @@ enum class Screen {
     frm_SelectSkyTexture,
     frm_SelectBaseSky,
     frm_flight,
+    frm_WxControl,
+    frm_WxFinder,
+    frm_metar,
+    frm_metar_request,
+    frm_Select_CC_Method,
+    frm_FlightPlan,
+    frm_FromDepDestVal,
+    frm_CC_From_Option,
+    frm_CC_From_Metar_String,
+    frm_NightColorize,
+    frm_SelectNightTexture,
+    frm_BackupList,
+    frm_Switcher,
 };
 
 /// Names as text, for logs of tests and for windows.
