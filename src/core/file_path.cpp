@@ -85,6 +85,12 @@ FilePath FilePath::child(const QString& name) const {
     return *this / QStringView(name);
 }
 
+FilePath FilePath::exactChild(const QString& name) const {
+    FilePath path = child(name);
+    path.resolved_ = withSeparator(native()) + name;
+    return path;
+}
+
 FilePath FilePath::parent() const {
     FilePath above = *this;
     above.resolved_.clear();

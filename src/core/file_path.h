@@ -23,6 +23,9 @@ public:
     /// Appends exactly one name, a set's or a file's. An empty name, or one that holds a separator, raises
     /// "Path not found": a name from the store or the user can never reach another folder.
     FilePath child(const QString& name) const;
+    /// The same, but in exactly that spelling; no other one is looked for. For folders that only we write to:
+    /// a new name among thousands needs no search.
+    FilePath exactChild(const QString& name) const;
     /// The folder above; a path without joined names loses the last name of its root.
     FilePath parent() const;
 

@@ -90,10 +90,11 @@ bool walkFiles(Session& session, const std::vector<FileCopy>& copies, const Job*
 }
 
 void copyIntoBackup(Session& session, const Job& job, const QString& name) {
-    const FilePath folder = backupFolder(session, name);
     std::vector<FileCopy> copies;
-    addFolderFiles(session, worldTextures(session), bitmaps, folder / u"Texture", copies);
-    addFolderFiles(session, addOnTextures(session), bitmaps, folder / u"UTEurLC", copies);
+    for (const auto& [source, folder] :
+         {std::pair{worldTextures(session), u"Texture"}, std::pair{addOnTextures(session), u"UTEurLC"}})
+        for (const QString& file : session.files.list(source, bitmaps))
+            copies.push_back({source.child(file), (backupFolder(session, name) / folder).exactChild(file)});
     QString list;
     const bool isWhole = walkFiles(session, copies, &job, [&](const FileCopy& copy) {
         tryStep([&] {

@@ -100,10 +100,10 @@ bool Originals::isOurs(const QString& key, const FilePath& target) {
 void Originals::keep(const FilePath& target) {
     const QString path = target.relative();
     if (kept_.contains(keyOf(path)) || isOurs(keyOf(path), target)) return;
-    const FilePath copy = folder_ / path;
+    const FilePath place = folder_ / path, copy = place.parent().exactChild(place.fileName());
     if (!files_.exists(copy)) {
         const FilePath part(copy.native() + partialCopySuffix);
-        files_.makeFolder(copy.parent());
+        files_.makeFolder(place.parent());
         try {
             files_.copyContents(target, part);
         } catch (const Error& error) {
