@@ -42,6 +42,7 @@ struct ModalState {
     QString favName, favDescription;
     bool favConfirmed = false;
     /// frm_SelectTexture: the keys of the choice (see ground/sample_textures.h), and whether OK was pressed.
+    /// frm_SelectNightTexture: the same without a season (see night/night_samples.h).
     QString selectedTextureType, selectedSeason;
     bool sampleConfirmed = false;
     /// frm_SelectSkyTexture: the base sets ticked, by name (see sky/sky_base_sets.h), sets wanted for the
@@ -88,6 +89,15 @@ struct SkySelection {
     QString SelectedSkyDescription;
     QString SelectedSkyGroup; ///< the base set that it was made from
     /// Names of all rows that are ticked in the list.
+    QStringList selectedRows;
+};
+
+/// The night set in hand, in the same way.
+struct NightSelection {
+    QString SelectedNightSet;
+    QString SelectedNightDescription;
+    ColourValues colours;
+    /// As of the ground.
     QStringList selectedRows;
 };
 
@@ -179,6 +189,7 @@ public:
     ModalState modal;
     GroundSelection ground;
     SkySelection sky;
+    NightSelection night;
     SkyTuningState skyTuning;
     WeatherState weather;
     WxFilter wxFilter;
