@@ -42,9 +42,10 @@ struct ModalState {
     QString favName, favDescription;
     bool favConfirmed = false;
     /// frm_SelectTexture: the keys of the choice (see ground/sample_textures.h), and whether OK was pressed.
-    /// frm_SelectNightTexture: the same without a season (see night/night_samples.h).
     QString selectedTextureType, selectedSeason;
-    bool sampleConfirmed = false;
+    bool sampleConfirmed = false; ///< of frm_SelectNightTexture, too
+    /// frm_SelectNightTexture: the key of the choice (see night/night_samples.h).
+    QString selectedNightTexture;
     /// frm_SelectSkyTexture: the base sets ticked, by name (see sky/sky_base_sets.h), sets wanted for the
     /// cloud covers 1 to 5, and whether OK was pressed.
     QStringList skyBaseSets;

@@ -41,6 +41,7 @@ void getRandomNightValues(Session& session, SliderValues& values) {
 NightTuning::NightTuning(Session& session) : session_(session), colourise_(session, session.night.colours) {}
 
 bool NightTuning::openDefaultSample() {
+    session_.modal.selectedNightTexture = firstNightSample;
     return colourise_.openTexImage(nightSampleTexture(session_.AppPath, firstNightSample));
 }
 
@@ -49,7 +50,7 @@ bool NightTuning::openSample() {
     modal.sampleConfirmed = false;
     session_.user.showModal(Screen::frm_SelectNightTexture);
     if (!modal.sampleConfirmed) return false;
-    const FilePath sample = nightSampleTexture(session_.AppPath, modal.selectedTextureType);
+    const FilePath sample = nightSampleTexture(session_.AppPath, modal.selectedNightTexture);
     return !sample.isEmpty() && colourise_.openTexImage(sample);
 }
 
