@@ -3,6 +3,9 @@
 #include "ground/texture_catalogue.h"
 #include "imaging/bitmap_header.h"
 #include "imaging/picture_reader.h"
+#include "night/night_files.h"
+#include "night/night_samples.h"
+#include "night/night_sets.h"
 #include "support/printing.h"
 
 #include <QSet>
@@ -14,7 +17,8 @@ namespace {
 using StockFiles = test::MadeInstall;
 using StockCatalogue = test::StartedInstall;
 
-const QStringList resourceFolders{u"GENERIC WORLD"_s, u"UT EUROPE"_s, u"UTIND"_s, u"DUTCH"_s};
+const QStringList resourceFolders{u"GENERIC WORLD"_s, u"UT EUROPE"_s,           u"UTIND"_s,
+                                  u"DUTCH"_s,         u"GENERIC WORLD NIGHT"_s, u"DUTCH NIGHT"_s};
 constexpr int textureSize = 43778;   ///< of 256 x 256 pixels with all levels
 constexpr double leastLikeness = 27; ///< decibels; town centres in spring are the hardest to compress
 
@@ -58,7 +62,7 @@ TEST_F(StockFiles, everyBaseImageHasItsBodyAndTheBodyShowsIt) {
 
 TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
     const std::pair<const char16_t*, QStringList> places[] = {
-        {u"Scenery\\World\\Texture", {u"GENERIC WORLD"_s, u"UT EUROPE"_s}},
+        {u"Scenery\\World\\Texture", {u"GENERIC WORLD"_s, u"UT EUROPE"_s, u"GENERIC WORLD NIGHT"_s}},
         {u"Scenery\\UTEurLC\\Texture", {u"UTIND"_s}}};
     for (const auto& [place, folders] : places) {
         QStringList expected;
@@ -84,6 +88,27 @@ TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
     }
 }
 
+TEST_F(StockCatalogue, everySampleOfTheNightIsThere) {
+    for (const SampleChoice& sample : nightSamples())
+        EXPECT_TRUE(files.exists(nightSampleTexture(session.AppPath, sample.key)))
+            << sample.key.toStdString();
+}
+
+TEST_F(StockCatalogue, deliveredNightSetsHaveTheirFiles) {
+    QStringList contents;
+    for (const auto& set : loadedNightSets(session)) {
+        if (set->TextureSet == u"Default") continue;
+        for (const CatalogueFile& file : popNightTextureList(session, set->TextureSet))
+            EXPECT_TRUE(files.exists(file.targetFolder.child(file.fileName)))
+                << set->TextureSet.toStdString() << ' ' << file.fileName.toStdString();
+        contents << files.read(nightSetFolder(session, set->TextureSet) / u"Texture\\029b2lm1.bmp").toHex();
+    }
+    contents.removeDuplicates();
+    EXPECT_EQ(contents.size(), 4) << "no two have the same colours";
+    for (const QString& folder : nightSubfolders)
+        EXPECT_TRUE(files.list(home() / u"TempBitmaps" / folder, u"*.*"_s).isEmpty());
+}
+
 TEST_F(StockFiles, splashesAreDifferentBitmapsOf24Bits) {
     QSet<QByteArray> contents;
     for (const char16_t* name : {u"dlgSplashSKC.bmp", u"dlgSplashFEW.bmp", u"dlgSplashSCT.bmp",
@@ -103,6 +128,8 @@ TEST_F(StockFiles, splashesAreDifferentBitmapsOf24Bits) {
 TEST_F(StockCatalogue, noBaseImageIsWithoutUse) {
     QSet<QString> used, there;
     for (const CatalogueFile& file : TextureCatalogue(session).popTextureList(0, 0, true, u"7-Storm"_s))
+        used << file.sourceFolder.child(file.fileName).text();
+    for (const CatalogueFile& file : popNightTextureList(session, u"7-Storm"_s))
         used << file.sourceFolder.child(file.fileName).text();
     for (const QString& folder : resourceFolders) {
         const FilePath resources = (home() / u"Resources").child(folder);
