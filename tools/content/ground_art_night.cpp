@@ -4,7 +4,7 @@ namespace morvane::art {
 
 namespace {
 
-constexpr Color moonlight{0.05f, 0.055f, 0.08f}, litAsphalt{15, 10, 5};
+constexpr Color moonlight{0.06f, 0.065f, 0.095f}, litAsphalt{36, 24, 13};
 constexpr std::array<Color, 3> windowColors{rgb(0xffe2a0), rgb(0xffce80), rgb(0xd6e4ff)};
 constexpr int lampPitch = 8;  ///< pixels from lamp to lamp; divides the tile
 constexpr float eaves = 1.2f; ///< lower things have no windows
@@ -97,7 +97,7 @@ private:
                 const float far = static_cast<float>(down * down + right * right) /
                                   (lighting_.lampReach * lighting_.lampReach);
                 const float share = far < 1 ? (1 - far) * (1 - far) : 0;
-                addLight(night_.color(wrappedIndex(x + right, y + down)), lighting_.lamp, share * 0.7f);
+                addLight(night_.color(wrappedIndex(x + right, y + down)), lighting_.lamp, share * 0.6f);
             }
     }
 
