@@ -75,7 +75,8 @@ TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
                 EXPECT_EQ(headerOf(own).kind, PixelKind::dxt1);
                 // A change of the ground must be seen.
                 EXPECT_NE(own, body) << name.toStdString();
-                if (isSampled(name)) {
+                // Near black differs by little, whatever its colour.
+                if (isSampled(name) && !folder.endsWith(u" NIGHT")) {
                     EXPECT_LT(likeness(readPicture(own), readPicture(body)), 32) << name.toStdString();
                 }
             }
