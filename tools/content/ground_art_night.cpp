@@ -20,7 +20,7 @@ Lighting lightingOf(LandKind kind) {
     const Color sodium = rgb(0xffb25e), white = rgb(0xffdcac);
     switch (kind) {
     case LandKind::cityCentre:
-        return {white, 4.2f, 0.2f};
+        return {white, 4.2f, 0.16f};
     case LandKind::city:
         return {sodium, 3.8f, 0.13f};
     case LandKind::industry:
@@ -109,7 +109,7 @@ private:
 
     void lightWindow(int x, int y) {
         const Color color = random_.pick(windowColors);
-        const float strength = random_.between(0.35f, 0.95f);
+        const float strength = random_.between(0.35f, 0.85f);
         addLight(night_.color(wrappedIndex(x, y)), color, strength);
         for (const auto& [right, down] : {std::pair(1, 0), {-1, 0}, {0, 1}, {0, -1}})
             addLight(night_.color(wrappedIndex(x + right, y + down)), color, strength * 0.2f);
