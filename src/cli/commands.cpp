@@ -2,6 +2,9 @@
 
 #include "cli/command_helpers.h"
 #include "cli/json_output.h"
+#include "cli/night_commands.h"
+#include "cli/set_commands.h"
+#include "cli/set_kinds.h"
 #include "cli/sky_commands.h"
 #include "cli/terminal.h"
 #include "core/application.h"
@@ -11,16 +14,11 @@
 #include "core/options.h"
 #include "core/text_decoding.h"
 #include "ground/colour_settings.h"
-#include "ground/ground_generation.h"
-#include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
-#include "ground/ground_sets.h"
 #include "ground/texture_catalogue.h"
 #include "imaging/texture_codec.h"
 #include "simulator/flights.h"
 #include "simulator/originals.h"
 #include "simulator/set_matching.h"
-#include "sky/sky_sets.h"
 #include "weather/metar_decoder.h"
 
 #include <QFile>
@@ -89,52 +87,6 @@ bool groundCreate(CommandContext& context) {
     return true;
 }
 
-bool groundList(CommandContext& context) {
-    QJsonArray sets;
-    for (const auto& set : loadedGroundSets(context.session))
-        sets << toJson(*set, context.session.DecimalSep);
-    printJson(QJsonDocument(sets));
-    return true;
-}
-
-/// The set of the first argument, selected as by a click on its row; nothing after the message that it is not
-/// there.
-std::shared_ptr<const clsTextureSet> clickedSet(CommandContext& context) {
-    const QString& name = context.arguments[0];
-    if (clickGroundRow(context.session, name)) return findGroundSet(context.session, name);
-    fail(context, u"There is no ground texture set named '"_s + name + u"'"_s);
-    return nullptr;
-}
-
-bool groundActivate(CommandContext& context) {
-    const auto set = clickedSet(context);
-    if (!set) return true;
-    if (set->TextureSet == u"Default" || set->Actvated == flagText(true))
-        fail(context, u"The ground texture set '"_s + set->TextureSet + u"' is activated already"_s);
-    else
-        GroundGeneration(context.session).activateTextureSet();
-    return true;
-}
-
-bool groundDeactivate(CommandContext& context) {
-    if (clickedSet(context)) GroundGeneration(context.session).deleteTextureSet(true);
-    return true;
-}
-
-bool groundDelete(CommandContext& context) {
-    if (clickedSet(context)) GroundGeneration(context.session).deleteTextureSet(false);
-    return true;
-}
-
-bool groundInstall(CommandContext& context) {
-    const auto set = clickedSet(context);
-    if (set && set->Actvated != flagText(true))
-        fail(context, u"The ground texture set '"_s + set->TextureSet + u"' is not activated"_s);
-    else if (set)
-        GroundInstallation(context.session).installTextureSet(true);
-    return true;
-}
-
 Originals originalsOf(Session& session) {
     return Originals(session.files, session.FSPath, session.AppPath);
 }
@@ -152,6 +104,7 @@ bool originalsRestore(CommandContext& context) {
     // The simulator shows the pilot's own files again, so no set of ours is the installed one.
     loadedGroundSets(context.session).markInstalled({});
     loadedSkySets(context.session).markInstalled({});
+    loadedNightSets(context.session).markInstalled({});
     writeStandardError(u"%1 files put back\n"_s.arg(count));
     return true;
 }
@@ -199,18 +152,32 @@ const std::vector<Command>& commandTable() {
         {{u"compress"_s}, 2, false, compress, u"compress IN OUT"_s},
         {{u"catalogue"_s}, 1, true, showCatalogue, u"catalogue SET"_s},
         {{u"ground"_s, u"create"_s}, 5, true, groundCreate, u"ground create N1 N2 N3 N4 N5"_s},
-        {{u"ground"_s, u"list"_s}, 0, true, groundList, u"ground list"_s},
-        {{u"ground"_s, u"activate"_s}, 1, true, groundActivate, u"ground activate NAME"_s},
-        {{u"ground"_s, u"deactivate"_s}, 1, true, groundDeactivate, u"ground deactivate NAME"_s},
-        {{u"ground"_s, u"delete"_s}, 1, true, groundDelete, u"ground delete NAME"_s},
-        {{u"ground"_s, u"install"_s}, 1, true, groundInstall, u"ground install NAME"_s},
+        {{u"ground"_s, u"list"_s}, 0, true, SetCommands<GroundKind>::list, u"ground list"_s},
+        {{u"ground"_s, u"activate"_s}, 1, true, SetCommands<GroundKind>::activate, u"ground activate NAME"_s},
+        {{u"ground"_s, u"deactivate"_s},
+         1,
+         true,
+         SetCommands<GroundKind>::deactivate,
+         u"ground deactivate NAME"_s},
+        {{u"ground"_s, u"delete"_s}, 1, true, SetCommands<GroundKind>::remove, u"ground delete NAME"_s},
+        {{u"ground"_s, u"install"_s}, 1, true, SetCommands<GroundKind>::install, u"ground install NAME"_s},
         {{u"sky"_s, u"create"_s}, 6, true, skyCreate, u"sky create BASES N1 N2 N3 N4 N5"_s},
-        {{u"sky"_s, u"list"_s}, 0, true, skyList, u"sky list"_s},
+        {{u"sky"_s, u"list"_s}, 0, true, SetCommands<SkyKind>::list, u"sky list"_s},
         {{u"sky"_s, u"show"_s}, 1, true, skyShow, u"sky show NAME"_s},
-        {{u"sky"_s, u"activate"_s}, 1, true, skyActivate, u"sky activate NAME"_s},
-        {{u"sky"_s, u"deactivate"_s}, 1, true, skyDeactivate, u"sky deactivate NAME"_s},
-        {{u"sky"_s, u"delete"_s}, 1, true, skyDelete, u"sky delete NAME"_s},
-        {{u"sky"_s, u"install"_s}, 1, true, skyInstall, u"sky install NAME"_s},
+        {{u"sky"_s, u"activate"_s}, 1, true, SetCommands<SkyKind>::activate, u"sky activate NAME"_s},
+        {{u"sky"_s, u"deactivate"_s}, 1, true, SetCommands<SkyKind>::deactivate, u"sky deactivate NAME"_s},
+        {{u"sky"_s, u"delete"_s}, 1, true, SetCommands<SkyKind>::remove, u"sky delete NAME"_s},
+        {{u"sky"_s, u"install"_s}, 1, true, SetCommands<SkyKind>::install, u"sky install NAME"_s},
+        {{u"night"_s, u"list"_s}, 0, true, SetCommands<NightKind>::list, u"night list"_s},
+        {{u"night"_s, u"favourite"_s}, 2, true, nightFavourite, u"night favourite NAME S:R:G:B:BR:C"_s},
+        {{u"night"_s, u"activate"_s}, 1, true, SetCommands<NightKind>::activate, u"night activate NAME"_s},
+        {{u"night"_s, u"deactivate"_s},
+         1,
+         true,
+         SetCommands<NightKind>::deactivate,
+         u"night deactivate NAME"_s},
+        {{u"night"_s, u"delete"_s}, 1, true, SetCommands<NightKind>::remove, u"night delete NAME"_s},
+        {{u"night"_s, u"install"_s}, 1, true, SetCommands<NightKind>::install, u"night install NAME"_s},
         {{u"originals"_s, u"list"_s}, 0, true, originalsList, u"originals list"_s},
         {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
         {{u"flights"_s, u"list"_s}, 0, true, flightsList, u"flights list"_s},

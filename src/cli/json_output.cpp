@@ -3,6 +3,7 @@
 #include "cli/terminal.h"
 #include "ground/texture_catalogue.h"
 #include "ground/texture_sets.h"
+#include "night/night_texture_sets.h"
 #include "simulator/originals.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
@@ -41,18 +42,37 @@ QJsonObject toJson(const clsDecodeMetar& report) {
     };
 }
 
+namespace {
+
+QString withPoints(QString colours, const QString& decimalSeparator) {
+    return colours.replace(decimalSeparator, u"."_s);
+}
+
+} // namespace
+
 QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator) {
-    QString colours = set.ColorSettings;
     return {
         {u"Installed"_s, set.Installed},
         {u"IsNew"_s, set.IsNew},
         {u"TsID"_s, set.TsID},
-        {u"ColorSettings"_s, colours.replace(decimalSeparator, u"."_s)},
+        {u"ColorSettings"_s, withPoints(set.ColorSettings, decimalSeparator)},
         {u"TextureSet"_s, set.TextureSet},
         {u"Actvated"_s, set.Actvated},
         {u"Description"_s, set.Description},
         {u"CloudCover"_s, set.CloudCover},
         {u"IsDutch"_s, set.IsDutch},
+    };
+}
+
+QJsonObject toJson(const clsNightTextureSet& set, const QString& decimalSeparator) {
+    return {
+        {u"Installed"_s, set.Installed},
+        {u"IsNew"_s, set.IsNew},
+        {u"NtsID"_s, set.NtsID},
+        {u"ColorSettings"_s, withPoints(set.ColorSettings, decimalSeparator)},
+        {u"TextureSet"_s, set.TextureSet},
+        {u"Actvated"_s, set.Actvated},
+        {u"Description"_s, set.Description},
     };
 }
 

@@ -9,6 +9,7 @@ class clsDecodeMetar;
 class clsTextureSet;
 struct CatalogueFile;
 struct KeptOriginal;
+struct clsNightTextureSet;
 struct clsSkyTextureSet;
 struct clsSkyTextureSubSet;
 
@@ -16,6 +17,7 @@ struct clsSkyTextureSubSet;
 QJsonObject toJson(const clsDecodeMetar& report);
 /// Numbers of the colour text come with "." whatever separator the record holds.
 QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator);
+QJsonObject toJson(const clsNightTextureSet& set, const QString& decimalSeparator);
 QJsonObject toJson(const clsSkyTextureSet& set);
 QJsonObject toJson(const clsSkyTextureSubSet& subSet);
 QJsonObject toJson(const KeptOriginal& original);

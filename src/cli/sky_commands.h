@@ -6,13 +6,8 @@ namespace morvane {
 
 // The commands on sky sets, as they stand in the command table.
 bool skyCreate(CommandContext& context);
-bool skyList(CommandContext& context);
 /// One object: the head row as "set", the row of its colours as "subSet".
 bool skyShow(CommandContext& context);
-bool skyActivate(CommandContext& context);
-bool skyDeactivate(CommandContext& context);
-bool skyDelete(CommandContext& context);
-bool skyInstall(CommandContext& context);
 /// Lays the ten groups of a file on a picture: a JSON array of ten colour texts, group 1 first.
 bool recolourSky(CommandContext& context);
 

@@ -44,7 +44,9 @@ struct ModalState {
     bool favConfirmed = false;
     /// frm_SelectTexture: the keys of the choice (see ground/sample_textures.h), and whether OK was pressed.
     QString selectedTextureType, selectedSeason;
-    bool sampleConfirmed = false;
+    bool sampleConfirmed = false; ///< of frm_SelectNightTexture, too
+    /// frm_SelectNightTexture: the key of the choice (see night/night_samples.h).
+    QString selectedNightTexture;
     /// frm_SelectSkyTexture: the base sets ticked, by name (see sky/sky_base_sets.h), sets wanted for the
     /// cloud covers 1 to 5, and whether OK was pressed.
     QStringList skyBaseSets;
@@ -98,6 +100,15 @@ struct SkySelection {
     QString SelectedSkyDescription;
     QString SelectedSkyGroup; ///< the base set that it was made from
     /// Names of all rows that are ticked in the list.
+    QStringList selectedRows;
+};
+
+/// The night set in hand, in the same way.
+struct NightSelection {
+    QString SelectedNightSet;
+    QString SelectedNightDescription;
+    ColourValues colours;
+    /// As of the ground.
     QStringList selectedRows;
 };
 
@@ -189,6 +200,7 @@ public:
     ModalState modal;
     GroundSelection ground;
     SkySelection sky;
+    NightSelection night;
     SkyTuningState skyTuning;
     WeatherState weather;
     WxFilter wxFilter;

@@ -21,4 +21,13 @@ std::shared_ptr<const Record> findTrimmedName(const KeyedCollection<Record>& rec
     return nullptr;
 }
 
+/// The record behind the key of a list's row, "Key:" and the number. Raises "Subscript out of range" when
+/// there is none.
+template <class Record>
+std::shared_ptr<const Record> findListKey(const KeyedCollection<Record>& records, const QString& listKey) {
+    const QStringList parts = listKey.split(u':');
+    if (parts.size() < 2) throw Error(ErrorCode::subscript);
+    return records.GetKey(parts[1]);
+}
+
 } // namespace morvane

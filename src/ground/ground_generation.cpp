@@ -6,8 +6,6 @@
 #include "ground/cloud_cover.h"
 #include "ground/colour_settings.h"
 #include "ground/ground_sets.h"
-#include "ground/texture_passes.h"
-#include "simulator/set_removal.h"
 #include "simulator/temp_bitmaps.h"
 
 #include <numeric>
@@ -17,6 +15,15 @@ namespace morvane {
 namespace {
 
 const QString setNameFormat = u"MM-dd-yyyy HH-mm-ss"_s;
+
+// An activation hides the main window, from wherever it was started.
+const GenerationKind groundKind{u"Creating Ground Texture Sets"_s,
+                                u"Be aware that this may take 20 - 30 minutes per set dependant on your "_s,
+                                groundSubfolders,
+                                Screen::frm_Main,
+                                Screen::frm_MVTextures,
+                                &Session::RefreshGroundList,
+                                true};
 
 QString durationReport(int minutes, int total) {
     if (total == 0) throw Error(ErrorCode::divisionByZero);
@@ -41,6 +48,8 @@ int reportedMinutes(const QTime& start, const QTime& end) {
 FilePath groundSetFolder(const Session& session, const QString& name) {
     return (session.AppPath / u"Texture Sets").child(name);
 }
+
+GroundGeneration::GroundGeneration(Session& session) : SetGeneration(session, groundKind) {}
 
 void GroundGeneration::createTextureSets(bool fromMain) {
     Job job(session_);
@@ -100,23 +109,8 @@ void GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderVa
         record.IsNew = true;
         if (!loadedGroundSets(session_).UpdateTextureSet(record)) return;
         session_.ground.SelectedGroundSet = record.TextureSet;
-        makeFiles(job, session_.ground.colours, counters, fromMain);
+        makeFiles(job, counters, fromMain ? Screen::frm_Main : Screen::frm_MVTextures);
     });
-}
-
-void GroundGeneration::makeFiles(const Job& job, const ColourValues& colours, Counters counters,
-                                 bool fromMain) {
-    const QString& name = session_.ground.SelectedGroundSet;
-    TextureCatalogue catalogue(session_);
-    const std::vector<CatalogueFile> files = catalogue.popTextureList(0, 0, true, name);
-    TexturePasses passes(session_, job,
-                         {u"Creating Ground Texture Sets"_s,
-                          u"Be aware that this may take 20 - 30 minutes per set dependant on your "_s,
-                          fromMain ? Screen::frm_Main : Screen::frm_MVTextures,
-                          groundSetFolder(session_, name), groundSubfolders, groundSubfolders.last(),
-                          counters.setsDone, counters.total});
-    passes.colourFiles(files, colours);
-    if (!job.isCancelled()) passes.convertFiles(files);
 }
 
 void GroundGeneration::reportDuration(const QTime& start, const QTime& end, int total) {
@@ -131,44 +125,38 @@ void GroundGeneration::endRun(bool fromMain) {
     session_.user.showScreen(screen);
 }
 
-bool GroundGeneration::activate(const Job& job, const clsTextureSet& record, Counters counters) {
-    session_.ground.colours = parseColourSettings(record.ColorSettings, session_.DecimalSep);
-    session_.ground.SelectedGroundSet = record.TextureSet;
-    clsTextureSet activated = record;
-    activated.Actvated = flagText(true);
-    activated.IsNew = false;
-    if (!session_.gTextureSets->UpdateTextureSet(activated)) return false;
-    makeFiles(job, session_.ground.colours, counters, true);
-    if (!job.isCancelled()) return true;
-    removeSetFiles(record.TextureSet, true);
-    cleanTempBitmaps(session_);
-    return false;
+SetsInHand GroundGeneration::inHand() {
+    return {session_.ground.SelectedGroundSet, session_.ground.colours, session_.ground.selectedRows};
 }
 
-void GroundGeneration::activateTextureSet() {
-    Job job(session_);
-    if (!job) return;
-    reportFailures(session_.user, {}, [&] {
-        if (!refreshGroundSets(session_)) return;
-        if (const QStringList names = changeableNames(session_.ground.selectedRows); names.size() > 1) {
-            activateSeveral(job, names);
-        } else if (const auto record = findGroundSet(session_, session_.ground.SelectedGroundSet)) {
-            activate(job, *record, {1, 1});
-        }
-        session_.user.hideMessage();
-    });
-    endRun(false);
+bool GroundGeneration::refresh() {
+    return refreshGroundSets(session_);
 }
 
-void GroundGeneration::activateSeveral(const Job& job, const QStringList& names) {
-    const QStringList confirmed = confirmedNames(session_, names);
-    int position = 0;
-    for (const QString& name : confirmed) {
-        const auto record = findGroundSet(session_, name);
-        ++position;
-        if (record && !activate(job, *record, {position, static_cast<int>(confirmed.size())})) return;
-    }
-    cleanTempBitmaps(session_);
+std::optional<StoredSet> GroundGeneration::find(const QString& name) {
+    const auto record = findGroundSet(session_, name);
+    if (!record) return std::nullopt;
+    return StoredSet{record->TextureSet, record->ColorSettings, record->Installed};
+}
+
+bool GroundGeneration::storeActivation(const QString& name, bool activated) {
+    clsTextureSet changed = *findGroundSet(session_, name);
+    changed.Actvated = flagText(activated);
+    changed.IsNew = false;
+    return session_.gTextureSets->UpdateTextureSet(changed);
+}
+
+bool GroundGeneration::removeRecord(const QString& name) {
+    const std::int16_t key = findGroundSet(session_, name)->TsID;
+    return session_.gTextureSets->RemoveItem(QString::number(key), key);
+}
+
+FilePath GroundGeneration::folderOf(const QString& name) {
+    return groundSetFolder(session_, name);
+}
+
+std::vector<CatalogueFile> GroundGeneration::baseFilesOf(const QString& name) {
+    return TextureCatalogue(session_).popTextureList(0, 0, true, name);
 }
 
 } // namespace morvane

@@ -1,46 +1,39 @@
 #pragma once
 
-#include "core/job.h"
-#include "core/session.h"
 #include "ground/ground_randomiser.h"
+#include "ground/set_generation.h"
 
 namespace morvane {
 
-class clsTextureSet;
-
 /// Makes, rebuilds and removes ground sets. A set's row is written first and its files after it, set by set;
 /// a cancel ends the whole run and takes the unfinished set with it.
-class GroundGeneration {
+class GroundGeneration : public SetGeneration {
 public:
-    explicit GroundGeneration(Session& session) : session_(session) {}
+    explicit GroundGeneration(Session& session);
 
     /// Asks for the quantities (frm_TsRequired) and makes the sets, all of one cloud cover before the next.
     /// `fromMain` tells which screen started the run and comes back at its end.
     void createTextureSets(bool fromMain);
     /// Rebuilds the files of the set in hand (session.ground), or of several after frm_MultiDelete.
-    void activateTextureSet();
+    void activateTextureSet() { activateInHand(); }
     /// Deletes the set in hand or several; with `deactivateMode` only the files go and the colours stay.
-    void deleteTextureSet(bool deactivateMode);
-    /// Takes the set's record, or with `keepRecord` its activation, and then its files. False when the store
-    /// refused: the files then stay.
-    bool removeSetFiles(const QString& name, bool keepRecord);
+    void deleteTextureSet(bool deactivateMode) { deleteInHand(deactivateMode); }
 
 private:
-    struct Counters {
-        int setsDone, total;
-    };
     bool createAll(const Job& job, int total, bool fromMain);
     void createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain);
     void createSet(const Job& job, int cloudNumber, const SliderValues& sliders, Counters counters,
                    bool fromMain);
-    void makeFiles(const Job& job, const ColourValues& colours, Counters counters, bool fromMain);
     void reportDuration(const QTime& start, const QTime& end, int total);
     void endRun(bool fromMain);
 
-    void activateSeveral(const Job& job, const QStringList& names);
-    bool activate(const Job& job, const clsTextureSet& record, Counters counters);
-
-    Session& session_;
+    SetsInHand inHand() override;
+    bool refresh() override;
+    std::optional<StoredSet> find(const QString& name) override;
+    bool storeActivation(const QString& name, bool activated) override;
+    bool removeRecord(const QString& name) override;
+    FilePath folderOf(const QString& name) override;
+    std::vector<CatalogueFile> baseFilesOf(const QString& name) override;
 };
 
 /// Subfolders of a ground set's folder.
@@ -48,11 +41,6 @@ inline const QStringList groundSubfolders{u"Texture"_s, u"UTEurLC"_s, u"Dutch"_s
 
 /// The folder of the named ground set. Raises "Path not found" for a name that is no single folder name.
 FilePath groundSetFolder(const Session& session, const QString& name);
-
-/// Empties each of the subfolders that holds a bitmap, and with `removeFolders` removes them and the folder.
-/// Folders are removed only when empty, and one that is a link is left alone with what it points to.
-void removeBitmapFolders(Session& session, const FilePath& setFolder, const QStringList& subfolders,
-                         bool removeFolders);
 
 /// Minutes between two times of day as the report counts them.
 int reportedMinutes(const QTime& start, const QTime& end);

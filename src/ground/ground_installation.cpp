@@ -112,7 +112,8 @@ void GroundInstallation::installGeneratedSet() {
 void GroundInstallation::installDefaultSet() {
     const CloudCover& nominal = *cloudCover(3);
     const std::vector<FileCopy> copies = copyListOfDefault();
-    showProgress(nominal.word + nominal.tag);
+    showProgress();
+    showCover(nominal.word + nominal.tag);
     if (!loadedGroundSets(session_).markInstalled(defaultSet)) return;
 
     SimulatorCopier copier(session_);

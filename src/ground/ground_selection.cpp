@@ -1,8 +1,8 @@
 #include "ground/ground_selection.h"
 
-#include "core/error.h"
 #include "core/failure_report.h"
 #include "core/options.h"
+#include "core/set_collections.h"
 #include "ground/colour_settings.h"
 #include "ground/ground_sets.h"
 
@@ -16,9 +16,7 @@ constexpr qsizetype descriptionLength = 255;
 
 bool loadGroundSelection(Session& session, const QString& listKey) {
     return reportFailures(session.user, {}, [&] {
-        const QStringList parts = listKey.split(u':');
-        if (parts.size() < 2) throw Error(ErrorCode::subscript);
-        const auto record = loadedGroundSets(session).GetKey(parts[1]);
+        const auto record = findListKey(loadedGroundSets(session), listKey);
         GroundSelection& selection = session.ground;
         selection.SelectedGroundSet = record->TextureSet;
         selection.colours = parseColourSettings(record->ColorSettings, session.DecimalSep);

@@ -12,7 +12,7 @@
 
 namespace morvane {
 
-GroundTuning::GroundTuning(Session& session) : session_(session), tuningColourise_(session) {
+GroundTuning::GroundTuning(Session& session) : session_(session), tuningColourise_(session, session.ground.colours) {
     optCloudCover(0);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ground/ground_randomiser.h"
-#include "ground/ground_sample.h"
+#include "ground/texture_sample.h"
 #include "ground/sample_textures.h"
 
 #include <cstdint>
@@ -47,7 +47,7 @@ private:
     Session& session_;
     std::int16_t tuningCloudNumber_ = 1;
     QString tuningCloudWord_;
-    GroundSample tuningColourise_;
+    TextureSample tuningColourise_;
 };
 
 } // namespace morvane

@@ -9,7 +9,7 @@ namespace morvane {
 void SetInstallation::install(bool automatic) {
     if (session_.jobRunning) return;
     const bool installed = run(Job(session_), automatic);
-    if (!installed || automatic || session_.CommandLineRun) return;
+    if (!installed || automatic || session_.CommandLineRun || kind_.matchQuestion.isEmpty()) return;
     // The job has ended by now: what the user does before the answer is no part of it.
     reportFailures(session_.user, {}, [this] { launchFlightSimulator(session_); });
 }
@@ -37,6 +37,7 @@ bool SetInstallation::prepareByHand(const Job& job) {
                                    kind_.severalRowsText, true, false, false});
         return false;
     }
+    if (kind_.matchQuestion.isEmpty()) return true;
     // Both questions stand under the ground's title, also the one that offers a sky.
     if (session_.user.ask(Question::setInstall, u"Install Matching Ground Texture Set?"_s,
                           kind_.matchQuestion))
@@ -54,12 +55,15 @@ void SetInstallation::prepare(SimulatorCopier& copier, std::vector<FileCopy> cop
     copier.prepare(copies);
 }
 
-void SetInstallation::showProgress(const QString& tagged) {
+void SetInstallation::showProgress() {
     session_.user.showMessage(
         {MessageKind::progress, u"Morvane Information"_s,
          u"Processing your "_s + kind_.word +
              u" Texture Files.  Please wait until the process has finished.  This may take a few moments!"_s,
          false, false, true});
+}
+
+void SetInstallation::showCover(const QString& tagged) {
     session_.user.setProgressFile(u"Installing "_s + tagged + u' ' + kind_.word.toLower() + u" textures"_s);
 }
 
@@ -87,7 +91,8 @@ void SetInstallation::putSet(const QString& coverWord, const std::vector<FileCop
     SimulatorCopier copier(session_);
     prepare(copier, copies, withSplash ? cover : nullptr);
     if (withSplash) copier.copy(splashCopy(*cover));
-    showProgress(coverWord + (cover ? cover->tag : QString()));
+    showProgress();
+    showCover(coverWord + (cover ? cover->tag : QString()));
     copyAll(copier, copies);
     finish(copier);
 }

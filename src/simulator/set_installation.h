@@ -7,11 +7,13 @@ namespace morvane {
 
 struct CloudCover;
 
-/// What tells the install of one kind of set from that of the other.
+/// What tells the install of one kind of set from that of another.
 struct InstallationKind {
-    QString word;            ///< "Ground" or "Sky", in the progress message
+    QString word;            ///< "Ground", "Sky" or "Night", in the progress message
     QString severalRowsText; ///< refuses more than one row
-    QString matchQuestion;   ///< offers a set of the other kind for the same weather
+    /// Offers a set of the other kind for the same weather. Empty for a kind that has nothing to do with the
+    /// weather: then the start of the simulator is not offered either.
+    QString matchQuestion;
     Screen listScreen;
     bool Session::*refreshList;
     int stepsBesideFiles; ///< of the progress bar
@@ -36,8 +38,8 @@ public:
 
 protected:
     virtual qsizetype selectedRowCount() const = 0;
-    /// The user wants the set of the other kind, too.
-    virtual void installMatch(const Job& job) = 0;
+    /// The user wants the set of the other kind, too. Never called without a question.
+    virtual void installMatch(const Job&) {}
     virtual void installSelectedSet() = 0;
 
     /// Splash, progress message and files of a set for that cover; an unknown cover has no splash.
@@ -46,7 +48,9 @@ protected:
     // The parts of it, for a set that goes in another order.
     /// Clears strays and notes everything that will be put into the simulator, splash included.
     void prepare(SimulatorCopier& copier, std::vector<FileCopy> copies, const CloudCover* splash);
-    void showProgress(const QString& tagged);
+    void showProgress();
+    /// The line that names the cover.
+    void showCover(const QString& tagged);
     void copyAll(SimulatorCopier& copier, const std::vector<FileCopy>& copies);
     void finish(SimulatorCopier& copier);
     FileCopy splashCopy(const CloudCover& cover) const;

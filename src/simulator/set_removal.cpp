@@ -31,7 +31,7 @@ bool removeSingle(Session& session, const SetRemoval& removal) {
         refuse(session, removal, u"You have selected the Default texture set to delete/deactivate."_s);
         return false;
     }
-    if (removal.stateOf(name) == SetState::installed) {
+    if (removal.protectsInstalled && removal.stateOf(name) == SetState::installed) {
         refuse(session, removal,
                u"You have selected the currently installed texture set to delete/deactivate."_s);
         return false;

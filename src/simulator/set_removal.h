@@ -18,11 +18,12 @@ struct SetRemoval {
     std::function<SetState(const QString& name)> stateOf;
     /// False when the store refused: the files then stay, and so do the sets behind this one.
     std::function<bool(const QString& name)> remove;
+    bool protectsInstalled = true; ///< the installed set is refused when it stands alone
 };
 
 /// Removes the set in hand after a question, or with two and more rows those that frm_MultiDelete confirmed.
-/// "Default" and the installed set are refused when they stand alone and passed over without a word among
-/// several. False when it was refused or answered with no.
+/// "Default" and, where protected, the installed set are refused when they stand alone; among several both
+/// are passed over without a word. False when it was refused or answered with no.
 bool removeSets(Session& session, const SetRemoval& removal);
 
 /// Names of the rows, trimmed and without "Default".

@@ -2,6 +2,7 @@
 
 #include "core/failure_report.h"
 #include "core/options.h"
+#include "core/set_collections.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_sets.h"
@@ -41,9 +42,7 @@ bool loadSkySubSet(Session& session, const QString& listKey, const QString& time
     bool loaded = false;
     reportFailures(session.user, {}, [&] {
         session.skyTextureGroups = {};
-        const QStringList parts = listKey.split(u':');
-        if (parts.size() < 2) throw Error(ErrorCode::subscript);
-        const auto set = loadedSkySets(session).GetKey(parts[1]);
+        const auto set = findListKey(loadedSkySets(session), listKey);
         select(session.sky, *set);
         loaded = loadSkyTextureGroups(session, set->StsID, timeOfDay);
     });

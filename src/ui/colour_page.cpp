@@ -17,7 +17,7 @@ namespace morvane {
 
 namespace {
 
-constexpr int keyRow = 398, coverColumn = 510;
+constexpr int keyRow = 398, optionColumn = 510;
 
 struct SliderPlace {
     const char16_t* caption;
@@ -30,11 +30,27 @@ constexpr SliderPlace sliderPlaces[] = {{u"Saturation", {14, 319}},  {u"Red", {1
 
 } // namespace
 
+const std::array<ColourPageSetup::Slider, 6> colourSliders{{{u"vcSaturation"_s, u"lblSat"_s},
+                                                            {u"vcRed"_s, u"lblRed"_s},
+                                                            {u"vcGreen"_s, u"lblGreen"_s},
+                                                            {u"vcBlue"_s, u"lblBlue"_s},
+                                                            {u"vcBright"_s, u"lblBright"_s},
+                                                            {u"vcContrast"_s, u"lblContrast"_s}}};
+
+std::vector<ColourPageSetup::Option> coverOptions() {
+    std::vector<ColourPageSetup::Option> options;
+    for (int index = 0; index < cloudCoverCount; ++index) {
+        const CloudCover& cover = cloudCovers()[index];
+        options.push_back({cover.word, u"cover_"_s + cover.tag.mid(2, 3).toLower() + u".bmp"_s});
+    }
+    return options;
+}
+
 ColourPage::ColourPage(Shell& shell, const QString& name, const ColourPageSetup& setup)
     : PageForm(shell, name, u"page_colour.bmp"_s, Paper::Title::compact),
       subject_(makeLabel(paper(), {}, {14, 300, 490, 18}, TextRole::body)) {
     subject_->setObjectName(setup.subjectName);
-    addCoverOptions();
+    addOptions(setup);
     addResetAll(setup.resetAllName);
     addSliders(setup);
     addKeys(setup);
@@ -47,24 +63,30 @@ void ColourPage::placePicture(PictureFrame& picture, const QString& name, const 
     picture.placePicture({left, 55, 240, 240});
 }
 
-void ColourPage::addCoverOptions() {
-    for (int index = 0; index < cloudCoverCount; ++index) {
-        const CloudCover& cover = cloudCovers()[index];
-        const int top = 60 + 40 * index;
-        auto* option = new QRadioButton(QString(cover.word).replace(u' ', u'\n'), paper());
-        option->setObjectName(u"optCloudCover"_s + QString::number(index));
-        option->setAccessibleName(cover.word);
-        option->setGeometry(coverColumn, top - 8, 63, 32);
-        option->setFont(fontOf(TextRole::longHelp));
-        setCaptionOffset(*option, 18);
-        connect(option, &QRadioButton::toggled, this, [this, index](bool isSet) {
-            if (isSet) chooseCover(index);
+void ColourPage::addOptions(const ColourPageSetup& setup) {
+    for (int index = 0; const ColourPageSetup::Option& option : setup.options) {
+        QRadioButton* button = addOption(option, 60 + 40 * index);
+        button->setObjectName(setup.optionName + QString::number(index));
+        connect(button, &QRadioButton::clicked, this, [this, index] {
+            markChoice();
+            chooseOption(index);
         });
-        optCloudCover_[static_cast<std::size_t>(index)] = option;
-        auto* disc = new QLabel(paper());
-        disc->setPixmap(skin().picture(u"cover_"_s + cover.tag.mid(2, 3).toLower() + u".bmp"_s));
-        disc->setGeometry(574, top + 2, 12, 12);
+        options_.push_back(button);
+        ++index;
     }
+}
+
+QRadioButton* ColourPage::addOption(const ColourPageSetup::Option& option, int top) {
+    auto* button = new QRadioButton(QString(option.caption).replace(u' ', u'\n'), paper());
+    button->setAccessibleName(option.caption);
+    button->setGeometry(optionColumn, top - 8, 63, 32);
+    button->setFont(fontOf(TextRole::longHelp));
+    setCaptionOffset(*button, 18);
+    if (option.disc.isEmpty()) return button;
+    auto* disc = new QLabel(paper());
+    disc->setPixmap(skin().picture(option.disc));
+    disc->setGeometry(574, top + 2, 12, 12);
+    return button;
 }
 
 void ColourPage::addResetAll(const QString& name) {
@@ -72,7 +94,7 @@ void ColourPage::addResetAll(const QString& name) {
     button->setObjectName(name);
     button->setFont(fontOf(TextRole::value));
     button->setAccessibleName(u"Reset all"_s);
-    button->setGeometry(coverColumn, 272, 74, 24);
+    button->setGeometry(optionColumn, 272, 74, 24);
     connect(button, &QPushButton::clicked, this, [this] { setSliders({}); });
 }
 
@@ -96,17 +118,16 @@ void ColourPage::addKeys(const ColourPageSetup& setup) {
     }
 }
 
-void ColourPage::checkCover(int index) {
-    optCloudCover_.at(static_cast<std::size_t>(index))->setChecked(true);
+void ColourPage::checkOption(int index) {
+    options_.at(static_cast<std::size_t>(index))->click();
 }
 
-void ColourPage::chooseCover(int index) {
-    for (QRadioButton* option : optCloudCover_) {
+void ColourPage::markChoice() {
+    for (QRadioButton* option : options_) {
         QFont font = fontOf(TextRole::longHelp);
         font.setBold(option->isChecked());
         option->setFont(font);
     }
-    optCloudCover(index);
 }
 
 SliderValues ColourPage::sliderValues() const {

@@ -4,6 +4,9 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
 #include "ground/screens/ground_colour_screen.h"
+#include "night/night_generation.h"
+#include "night/night_installation.h"
+#include "night/screens/night_colour_screen.h"
 #include "simulator/simulator_launch.h"
 #include "sky/screens/sky_colour_screen.h"
 #include "sky/sky_activation.h"
@@ -78,6 +81,29 @@ void installSkySet(Shell& shell, SkinnedButton&) {
 template <void (frm_SkyColorize::*method)()>
 void onSkyColours(Shell& shell, SkinnedButton&) {
     (shell.screen<frm_SkyColorize>(u"frm_SkyColorize"_s).*method)();
+}
+
+// Night --------------------------------------------------------------------------------------------------
+
+void activateNightSet(Shell& shell, SkinnedButton& button) {
+    NightGeneration generation(shell.session());
+    if (button.state() == ButtonState::deactivate)
+        generation.deleteNightTextureSet(true);
+    else
+        generation.activateNightTextureSet();
+}
+
+void deleteNightSet(Shell& shell, SkinnedButton&) {
+    NightGeneration(shell.session()).deleteNightTextureSet(false);
+}
+
+void installNightSet(Shell& shell, SkinnedButton&) {
+    NightInstallation(shell.session()).installNightTextureSet();
+}
+
+template <void (frm_NightColorize::*method)()>
+void onNightColours(Shell& shell, SkinnedButton&) {
+    (shell.screen<frm_NightColorize>(u"frm_NightColorize"_s).*method)();
 }
 
 // Windows and pages --------------------------------------------------------------------------------------
@@ -195,6 +221,13 @@ constexpr Entry entries[] = {
     {medium, night, u"home", leaveHost},
     {medium, night, u"texture sets", showList},
     {medium, night, u"ground", goTo<nightColours>},
+    {large, night, u"delete ts", deleteNightSet},
+    {large, night, u"activate ts", activateNightSet},
+    {large, night, u"install ts", installNightSet},
+
+    {large, nightColours, u"random night", onNightColours<&frm_NightColorize::randomNightValues>},
+    {large, nightColours, u"open texture", onNightColours<&frm_NightColorize::openTexture>},
+    {large, nightColours, u"add fav", onNightColours<&frm_NightColorize::addFavourite>},
 
     {standard, anyForm, u"ok", confirmDialog},
     {standard, anyForm, u"cancel", cancelDialog},

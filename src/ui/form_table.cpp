@@ -5,6 +5,9 @@
 #include "ground/screens/ground_sets_screen.h"
 #include "ground/screens/sample_screen.h"
 #include "ground/screens/set_counts_screen.h"
+#include "night/screens/night_colour_screen.h"
+#include "night/screens/night_sample_screen.h"
+#include "night/screens/night_sets_screen.h"
 #include "simulator/screens/flight_screen.h"
 #include "sky/screens/base_sky_screen.h"
 #include "sky/screens/sky_colour_screen.h"
@@ -38,11 +41,6 @@ FormEntry unbuiltPage(const QString& name, const QString& key, const QString& ic
     return {name, [=](Shell& shell) { return new UnbuiltPage(shell, {name, key, icon, title}); }};
 }
 
-FormEntry unbuiltHost(const QString& name, const WindowLook& look, const HostKeys& keys,
-                      const QString& colourPage) {
-    return {name, [=](Shell& shell) { return new UnbuiltHost(shell, name, look, keys, colourPage); }};
-}
-
 const std::vector<FormEntry>& formEntries() {
     static const std::vector<FormEntry> entries{
         screenEntry<frm_Main>(u"frm_Main"_s),
@@ -67,11 +65,9 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_GroundColorize>(u"frm_GroundColorize"_s),
         screenEntry<frm_KMTextures>(u"frm_KMTextures"_s),
         screenEntry<frm_SkyColorize>(u"frm_SkyColorize"_s),
-        unbuiltHost(
-            u"frm_NightTextures"_s, nightLook,
-            {u"texture sets"_s, u"ground"_s, u"btn_2d"_s, u"Click to minimize Ground Textures screen."_s},
-            u"frm_NightColorize"_s),
-        unbuiltPage(u"frm_NightColorize"_s, u"ground"_s, u"icon_Ground.bmp"_s, u"Night Color"_s),
+        screenEntry<frm_NightTextures>(u"frm_NightTextures"_s),
+        screenEntry<frm_NightColorize>(u"frm_NightColorize"_s),
+        screenEntry<frm_SelectNightTexture>(u"frm_SelectNightTexture"_s),
     };
     return entries;
 }

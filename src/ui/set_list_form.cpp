@@ -71,18 +71,22 @@ void SetListForm::addDescription() {
 }
 
 void SetListForm::addKeys() {
-    const auto add = [this](const SetListSetup::Key& key, const QString& picture, const QString& tip,
-                            const QString& caption, int left) {
-        return addButton(
-            {ButtonFamily::LargeButton, key.name, key.key, picture, tip, {left, keyRow}, caption}, paper());
+    const bool hasCreate = !setup_.create.name.isEmpty();
+    int left = hasCreate ? 27 : 96;
+    const auto add = [this, &left](const SetListSetup::Key& key, const QString& picture, const QString& tip,
+                                   const QString& caption) {
+        const QPoint place{left, keyRow};
+        left += 138;
+        return addButton({ButtonFamily::LargeButton, key.name, key.key, picture, tip, place, caption},
+                         paper());
     };
-    create_ = add(setup_.create, u"btn_Create"_s, u"Click to create texture sets."_s, u"Create"_s, 27);
+    if (hasCreate)
+        create_ = add(setup_.create, u"btn_Create"_s, u"Click to create texture sets."_s, u"Create"_s);
     activate_ = add(setup_.activate, u"btn_Activate"_s, u"Click to activate the selected texture set."_s,
-                    u"Activate"_s, 165);
+                    u"Activate"_s);
     install_ = add(setup_.install, u"btn_Install"_s,
-                   u"Click to install selected texture set into Flight Simulator."_s, u"Install"_s, 303);
-    remove_ =
-        add(setup_.remove, u"btn_Delete"_s, u"Click to delete selected texture set."_s, u"Delete"_s, 441);
+                   u"Click to install selected texture set into Flight Simulator."_s, u"Install"_s);
+    remove_ = add(setup_.remove, u"btn_Delete"_s, u"Click to delete selected texture set."_s, u"Delete"_s);
 }
 
 void SetListForm::formatSets(int& selectedRow) {
@@ -99,7 +103,7 @@ void SetListForm::formatSets(int& selectedRow) {
 
 void SetListForm::formatKeys() {
     remove_->setState(ButtonState::disabled);
-    create_->setState(ButtonState::enabled);
+    if (create_) create_->setState(ButtonState::enabled);
     setActivateState(ButtonState::enabled);
     install_->setState(ButtonState::disabled);
 }

@@ -30,13 +30,14 @@ struct SetListSetup {
     bool isSmooth; ///< how the pictures are enlarged
     QString descriptionName;
     TextRole descriptionRole;
-    Key create, activate, install, remove;
+    Key create; ///< empty for a page without it
+    Key activate, install, remove;
     /// How "activate" stands for an activated set that was selected by the page and not by a click.
     ButtonState ofActivatedByPage;
 };
 
-/// A window whose own page lists all sets of one kind, shows the one in hand on a sample, and has the four
-/// keys that act on it. Column 1 of its list tells which sets are activated.
+/// A window whose own page lists all sets of one kind, shows the one in hand on a sample, and has the keys
+/// that act on it. Column 1 of its list tells which sets are activated.
 class SetListForm : public HostForm {
     Q_OBJECT
 public:
@@ -85,7 +86,8 @@ private:
     SetTable* list_;
     PictureFrame *source_, *result_;
     QLabel* description_;
-    SkinnedButton *create_, *activate_, *install_, *remove_;
+    SkinnedButton *activate_, *install_, *remove_;
+    SkinnedButton* create_ = nullptr; ///< null for a page without it
 };
 
 } // namespace morvane

@@ -60,7 +60,7 @@ TEST_F(GroundTuningTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
 }
 
 TEST_F(GroundTuningTest, aSampleThatCannotBeReadIsStillRecoloured) {
-    GroundSample sample(session);
+    TextureSample sample(session, session.ground.colours);
     const FilePath file = sampleTexture(session.AppPath, defaultSample, u"summer"_s, false);
     ASSERT_TRUE(sample.openTexImage(file));
     const QByteArray plain = pixels(sample.resultDib());

@@ -2,7 +2,7 @@
 
 #include "core/application.h"
 #include "sky/sky_base_sets.h"
-#include "support/small_install.h"
+#include "support/night_install.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
@@ -27,6 +27,7 @@ public:
           session({user, install.files, install.clock, install.random, install.registry}, install.home()),
           skin(install.files, install.home() / u"Media"), shell(session, skin) {
         addSkyStock();
+        addNightStock(install);
         user.setShell(&shell);
         if (!startUp(session)) throw std::runtime_error("the window program does not start");
         session.RefreshGroundList = session.RefreshSkyList = session.RefreshNightList = true;

@@ -125,5 +125,28 @@ TEST(BaseImageDrawing, tropicalTwinsLookAlikeButAreNotTheSame) {
     EXPECT_GT(meanDifference(plain, draw(u"029a2su1.bmp"_s)), 25);
 }
 
+/// Streets and houses by night lie where they lie by day: what is dark there follows the day's light. Not in
+/// the centres of cities, where lamps reach everything.
+TEST(BaseImageDrawing, theNightOfAFileFitsItsDay) {
+    for (const BaseImage& night : nightImageList(1)) {
+        if (night.landClass != u"029b" && night.landClass != u"008b" && night.landClass != u"021a") continue;
+        const Picture dark = drawBaseImage(night);
+        BaseImage byDay = night;
+        byDay.resourceFolder = u"GENERIC WORLD"_s;
+        const Picture day = drawBaseImage(byDay);
+        EXPECT_LT(brightness(dark), 45) << night.fileName.toStdString();
+        EXPECT_GT(*std::ranges::max_element(dark.rows), 200) << "with lights";
+        double bright = 0, dim = 0;
+        int brightCount = 0, dimCount = 0;
+        for (std::size_t place = 0; place < dark.rows.size(); place += 3) {
+            if (dark.rows[place + 2] > 16) continue; // lit by a lamp or a window
+            const bool isBright = day.rows[place + 2] > 120;
+            (isBright ? bright : dim) += dark.rows[place + 2];
+            ++(isBright ? brightCount : dimCount);
+        }
+        EXPECT_GT(bright / brightCount, 1.3 * dim / dimCount) << night.fileName.toStdString();
+    }
+}
+
 } // namespace
 } // namespace morvane

@@ -1,5 +1,7 @@
 #include "base_image_drawing.h"
 
+#include "core/literals.h"
+#include "ground_art_night.h"
 #include "ground_art_painters.h"
 
 namespace morvane {
@@ -9,10 +11,11 @@ namespace {
 /// Fixed for good: another value redraws the whole stock.
 constexpr std::uint64_t stockSeed = 0x4d6f7276616e6521u;
 
-/// The seed leaves out the season, so that streets and fields stay where they are all year, and takes an "h"
-/// file for the "b" file that it resembles.
+/// The seed leaves out the season, so that streets and fields stay where they are all year and by night, and
+/// takes an "h" file for the "b" file that it resembles.
 std::uint64_t seedOf(const BaseImage& image) {
-    QString place = image.resourceFolder + u'\\' + image.landClass.toLower();
+    const QString folder = QString(image.resourceFolder).remove(u" NIGHT"_s);
+    QString place = folder + u'\\' + image.landClass.toLower();
     if (image.variant == 'h' && place.endsWith(u'h')) place.back() = u'b';
     const QByteArray text = (place + u'\\' + QString::number(image.number)).toUtf8();
     return art::scrambled(stockSeed ^ art::hashOf({text.constData(), static_cast<std::size_t>(text.size())}));
@@ -86,7 +89,7 @@ Picture drawBaseImage(const BaseImage& image) {
                      art::RandomStream(seed),
                      {}};
     painterOf(image.kind)(scene);
-    return scene.canvas.lit(sunOf(image));
+    return image.isNight() ? art::byNight(scene) : scene.canvas.lit(sunOf(image));
 }
 
 } // namespace morvane

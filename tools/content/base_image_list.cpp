@@ -200,6 +200,25 @@ private:
     std::vector<BaseImage> images_;
 };
 
+/// Land on which people live. The add-ons' have no lights.
+bool isLit(const BaseImage& image) {
+    const bool hasNight = image.resourceFolder == u"GENERIC WORLD" || image.resourceFolder == u"DUTCH";
+    switch (image.kind) {
+    case LandKind::cityCentre:
+    case LandKind::city:
+    case LandKind::suburb:
+    case LandKind::industry:
+    case LandKind::town:
+    case LandKind::village:
+    case LandKind::rural:
+    case LandKind::polderFields:
+    case LandKind::polderRural:
+        return hasNight;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 std::vector<BaseImage> baseImageList(int density) {
@@ -208,6 +227,17 @@ std::vector<BaseImage> baseImageList(int density) {
     builder.addGenericWorld();
     builder.addOthers();
     return builder.take();
+}
+
+std::vector<BaseImage> nightImageList(int density) {
+    std::vector<BaseImage> nights;
+    for (BaseImage image : baseImageList(density)) {
+        if (image.season != BaseImageSeason::summer || !isLit(image)) continue;
+        image.resourceFolder += u" NIGHT"_s;
+        image.fileName = image.landClass + u"2lm"_s + QString::number(image.number) + u".bmp"_s;
+        nights.push_back(image);
+    }
+    return nights;
 }
 
 } // namespace morvane

@@ -41,9 +41,9 @@ enum class BaseImageSeason { spring, summer, fall, winter };
 
 /// One file of the stock of base images.
 struct BaseImage {
-    /// "GENERIC WORLD", "UT EUROPE", "UTIND" or "DUTCH".
+    /// "GENERIC WORLD", "UT EUROPE", "UTIND" or "DUTCH"; by night "GENERIC WORLD NIGHT" or "DUTCH NIGHT".
     QString resourceFolder;
-    /// As on the disk, for example "029h2su6.bmp".
+    /// As on the disk, for example "029h2su6.bmp", by night "029h2lm6.bmp".
     QString fileName;
     /// Class number or add-on word with the variant letter, for example "029h".
     QString landClass;
@@ -52,6 +52,8 @@ struct BaseImage {
     char variant = 'a';
     BaseImageSeason season = BaseImageSeason::summer;
     int number = 1;
+
+    bool isNight() const { return resourceFolder.endsWith(u" NIGHT"); }
 };
 
 /// The densities that `baseImageList` takes.
@@ -62,5 +64,9 @@ constexpr int highestStockDensity = 6;
 /// has more variant letters and numbers and holds every file of the lower ones. No two entries of a folder
 /// have the same name. A density outside the range above raises "Invalid procedure call".
 std::vector<BaseImage> baseImageList(int density);
+
+/// The stock of the night: an image for each class, letter and number of the above where there is light,
+/// whatever the season. They are drawn over the summer.
+std::vector<BaseImage> nightImageList(int density);
 
 } // namespace morvane

@@ -5,16 +5,20 @@
 #include "core/registry.h"
 #include "delivered_rows.h"
 #include "flight_files.h"
+#include "night_set_files.h"
 #include "skin_files.h"
 #include "sky_files.h"
 #include "stock_files.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace morvane {
 
 namespace {
 
 /// Raise it whenever what the tool makes changes: samples of another version are made anew.
-constexpr int contentVersion = 5;
+constexpr int contentVersion = 6;
 
 /// What the steps take of the whole, in hundredths; the splashes and the skin take the rest.
 constexpr int storeShare = 5, stockShare = 80;
@@ -110,7 +114,8 @@ bool isContentCurrent(FileSystem& files, const ContentRequest& request) {
 }
 
 int makeContent(FileSystem& files, const ContentRequest& request) {
-    const std::vector<BaseImage> stock = baseImageList(request.density);
+    std::vector<BaseImage> stock = baseImageList(request.density);
+    std::ranges::copy(nightImageList(request.density), std::back_inserter(stock));
     refuseUnlessEmpty(files, request.home);
     if (!request.simulator.isEmpty()) refuseUnlessEmpty(files, request.simulator);
     for (const char16_t* folder : installFolders)
@@ -121,6 +126,7 @@ int makeContent(FileSystem& files, const ContentRequest& request) {
     writeStock(files, request.home, request.simulator, stock, [&](std::size_t done) {
         request.onProgress(storeShare + static_cast<int>(stockShare * done / stock.size()));
     });
+    writeNightSets(files, request.home);
     writeSkyStock(files, request.home, request.simulator);
     writeFlights(files, request.home, request.simulator);
     writeSplashes(files, request.home, request.simulator);

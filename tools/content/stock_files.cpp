@@ -79,7 +79,7 @@ void writeStock(FileSystem& files, const FilePath& home, const FilePath& simulat
         onDone(++done);
         saveBitmap(drawn.picture, (home / u"Resources").child(image.resourceFolder).child(image.fileName));
         files.write(home.child(image.resourceFolder).child(image.fileName), drawn.body);
-        if (simulator.isEmpty() || image.resourceFolder == u"DUTCH") continue;
+        if (simulator.isEmpty() || image.resourceFolder.startsWith(u"DUTCH")) continue;
         files.write(simulatorFolder(simulator, image.resourceFolder).child(image.fileName.toUpper()),
                     drawn.simulatorTexture);
     }

@@ -5,6 +5,7 @@
 #include "ui/controls/slider.h"
 #include "ui/screens/splash_screen.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
@@ -117,13 +118,15 @@ void Gallery::saveSky() {
 }
 
 void Gallery::saveDialogs() {
-    const std::pair<Screen, const char16_t*> dialogs[] = {{Screen::frm_TsRequired, u"set-counts"},
-                                                          {Screen::frm_SelectTexture, u"select-texture"},
-                                                          {Screen::frm_SelectSkyTexture, u"sky-set-counts"},
-                                                          {Screen::frm_SelectBaseSky, u"select-base-sky"},
-                                                          {Screen::frm_flight, u"select-flight"},
-                                                          {Screen::frm_AddFav, u"add-favourite"},
-                                                          {Screen::frm_MultiDelete, u"name-choice"}};
+    const std::pair<Screen, const char16_t*> dialogs[] = {
+        {Screen::frm_TsRequired, u"set-counts"},
+        {Screen::frm_SelectTexture, u"select-texture"},
+        {Screen::frm_SelectNightTexture, u"select-night-texture"},
+        {Screen::frm_SelectSkyTexture, u"sky-set-counts"},
+        {Screen::frm_SelectBaseSky, u"select-base-sky"},
+        {Screen::frm_flight, u"select-flight"},
+        {Screen::frm_AddFav, u"add-favourite"},
+        {Screen::frm_MultiDelete, u"name-choice"}};
     shell_.session().modal.multiNames = QStringList{u"12-Desert Haze"_s, u"21-Late Autumn"_s};
     for (const auto& [screen, picture] : dialogs)
         saveModal(QString::fromUtf16(picture), screenName(screen),
@@ -132,7 +135,12 @@ void Gallery::saveDialogs() {
 
 void Gallery::saveNight() {
     shell_.showHost(u"frm_NightTextures"_s);
-    save(u"night-sets"_s, *shell_.form(u"frm_NightTextures"_s));
+    Form& window = *shell_.form(u"frm_NightTextures"_s);
+    save(u"night-sets"_s, window);
+    shell_.goToPage(u"frm_NightColorize"_s);
+    save(u"night-colour-untouched"_s, window);
+    window.findChild<QAbstractButton*>(u"opt_LightsBias1"_s)->click();
+    save(u"night-colour"_s, window);
     shell_.leaveHost(u"frm_NightTextures"_s);
 }
 

@@ -9,22 +9,21 @@ namespace morvane {
 
 namespace {
 
-const ColourPageSetup colourPage{
-    .sliders = {{{u"vcSaturation"_s, u"lblSat"_s},
-                 {u"vcRed"_s, u"lblRed"_s},
-                 {u"vcGreen"_s, u"lblGreen"_s},
-                 {u"vcBlue"_s, u"lblBlue"_s},
-                 {u"vcBright"_s, u"lblBright"_s},
-                 {u"vcContrast"_s, u"lblContrast"_s}}},
-    .resetAllName = u"cmdResetAll"_s,
-    .subjectName = u"lblSample"_s,
-    .keys = {{{u"btn_OpenTexture"_s, u"open texture"_s, u"btn_Load_Image"_s,
-               u"Click open a texture type to view."_s, u"Open Texture"_s},
-              {u"btn_Random"_s, u"random advanced"_s, u"btn_Random"_s,
-               u"Click for MV to select random color settings."_s, u"Random"_s},
-              {u"btn_AddFavorite"_s, u"add fav"_s, u"btn_Accept"_s,
-               u"Click to add the seleted texture set setting."_s, u"Add Favorite"_s}}},
-};
+ColourPageSetup colourPage() {
+    return {
+        .options = coverOptions(),
+        .optionName = u"optCloudCover"_s,
+        .sliders = colourSliders,
+        .resetAllName = u"cmdResetAll"_s,
+        .subjectName = u"lblSample"_s,
+        .keys = {{{u"btn_OpenTexture"_s, u"open texture"_s, u"btn_Load_Image"_s,
+                   u"Click open a texture type to view."_s, u"Open Texture"_s},
+                  {u"btn_Random"_s, u"random advanced"_s, u"btn_Random"_s,
+                   u"Click for MV to select random color settings."_s, u"Random"_s},
+                  {u"btn_AddFavorite"_s, u"add fav"_s, u"btn_Accept"_s,
+                   u"Click to add the seleted texture set setting."_s, u"Add Favorite"_s}}},
+    };
+}
 
 QString captionOf(const std::vector<SampleChoice>& choices, const QString& key) {
     const auto found = std::ranges::find(choices, key, &SampleChoice::key);
@@ -34,11 +33,11 @@ QString captionOf(const std::vector<SampleChoice>& choices, const QString& key) 
 } // namespace
 
 frm_GroundColorize::frm_GroundColorize(Shell& shell)
-    : ColourPage(shell, u"frm_GroundColorize"_s, colourPage), tuning_(session()),
+    : ColourPage(shell, u"frm_GroundColorize"_s, colourPage()), tuning_(session()),
       picImage_(new PictureFrame(paper())), picDemo_(new PictureFrame(paper())) {
     placePicture(*picImage_, u"picImage"_s, u"Sample texture"_s, sourceLeft);
     placePicture(*picDemo_, u"picDemo"_s, u"With these settings"_s, resultLeft);
-    checkCover(0);
+    checkOption(0);
     showSubject(u"Cities, Summer"_s);
 }
 

@@ -19,7 +19,7 @@ public:
     void addFavourite();
 
 private:
-    void optCloudCover(int index) override { tuning_.optCloudCover(index); }
+    void chooseOption(int index) override { tuning_.optCloudCover(index); }
     void showPreview() override;
 
     GroundTuning tuning_;

@@ -53,7 +53,7 @@ SetRow rowOf(const clsTextureSet& set) {
 
 frm_MVTextures::frm_MVTextures(Shell& shell)
     : SetListForm(shell, u"frm_MVTextures"_s, groundLook, windowKeys, u"frm_GroundColorize"_s, listPage),
-      sample_(session()) {}
+      sample_(session(), session().ground.colours) {}
 
 void frm_MVTextures::formatList() {
     int row = rowInHand();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ground/ground_sample.h"
+#include "ground/texture_sample.h"
 #include "ui/set_list_form.h"
 
 namespace morvane {
@@ -31,7 +31,7 @@ private:
     void showNoSet() override { openDefaultSample(); }
     void openDefaultSample();
 
-    GroundSample sample_;
+    TextureSample sample_;
 };
 
 } // namespace morvane

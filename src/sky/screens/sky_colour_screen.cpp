@@ -9,27 +9,31 @@ namespace morvane {
 
 namespace {
 
-const ColourPageSetup colourPage{
-    .sliders = {{{u"vcSkySat"_s, u"lblSkySat"_s},
-                 {u"vcSkyRed"_s, u"lblSkyRed"_s},
-                 {u"vcSkyGreen"_s, u"lblSkyGreen"_s},
-                 {u"vcSkyBlue"_s, u"lblSkyBlue"_s},
-                 {u"vcSkyBright"_s, u"lblSkyBright"_s},
-                 {u"vcSkyContrast"_s, u"lblSkyContrast"_s}}},
-    .resetAllName = u"cmdSkyResetAll"_s,
-    .subjectName = u"lblSkyPixelSelected"_s,
-    .keys = {{{u"btn_LoadSkyTexture"_s, u"open sky"_s, u"btn_Load_Image"_s,
-               u"Click open a base sky texture type to customise."_s, u"Open Sky"_s},
-              {u"btn_SkyRandomize"_s, u"random sky"_s, u"btn_Random"_s,
-               u"Click for MV to select random color settings."_s, u"Random"_s},
-              {u"btn_SkyFavorites"_s, u"add fav sky"_s, u"btn_Accept"_s,
-               u"Click to add the seleted texture set setting."_s, u"Add Favorite"_s}}},
-};
+ColourPageSetup colourPage() {
+    return {
+        .options = coverOptions(),
+        .optionName = u"optCloudCover"_s,
+        .sliders = {{{u"vcSkySat"_s, u"lblSkySat"_s},
+                     {u"vcSkyRed"_s, u"lblSkyRed"_s},
+                     {u"vcSkyGreen"_s, u"lblSkyGreen"_s},
+                     {u"vcSkyBlue"_s, u"lblSkyBlue"_s},
+                     {u"vcSkyBright"_s, u"lblSkyBright"_s},
+                     {u"vcSkyContrast"_s, u"lblSkyContrast"_s}}},
+        .resetAllName = u"cmdSkyResetAll"_s,
+        .subjectName = u"lblSkyPixelSelected"_s,
+        .keys = {{{u"btn_LoadSkyTexture"_s, u"open sky"_s, u"btn_Load_Image"_s,
+                   u"Click open a base sky texture type to customise."_s, u"Open Sky"_s},
+                  {u"btn_SkyRandomize"_s, u"random sky"_s, u"btn_Random"_s,
+                   u"Click for MV to select random color settings."_s, u"Random"_s},
+                  {u"btn_SkyFavorites"_s, u"add fav sky"_s, u"btn_Accept"_s,
+                   u"Click to add the seleted texture set setting."_s, u"Add Favorite"_s}}},
+    };
+}
 
 } // namespace
 
 frm_SkyColorize::frm_SkyColorize(Shell& shell)
-    : ColourPage(shell, u"frm_SkyColorize"_s, colourPage), tuning_(session()),
+    : ColourPage(shell, u"frm_SkyColorize"_s, colourPage()), tuning_(session()),
       picSkySource_(new PalettePicture(paper())), picSkyResult_(new PictureFrame(paper())) {
     placePicture(*picSkySource_, u"picSkySource"_s, u"Base sky texture"_s, sourceLeft);
     placePicture(*picSkyResult_, u"picSkyResult"_s, u"With these settings"_s, resultLeft);
@@ -46,7 +50,7 @@ void frm_SkyColorize::format() {
     if (isFilled_) return;
     isFilled_ = true;
     // A cover of another spelling leaves the options as they are: choosing one would overwrite it.
-    if (const CloudCover* cover = cloudCover(session().skyTuning.cloudCover)) checkCover(cover->number - 1);
+    if (const CloudCover* cover = cloudCover(session().skyTuning.cloudCover)) checkOption(cover->number - 1);
     putSliders(values);
     showGroup();
 }

@@ -28,7 +28,7 @@ public:
 
 private:
     void clickPalette(float x, float y);
-    void optCloudCover(int index) override { tuning_.optCloudCover(index); }
+    void chooseOption(int index) override { tuning_.optCloudCover(index); }
     void showPreview() override;
     void showPictures();
     void showResult();

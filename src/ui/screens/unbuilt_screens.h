@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/host_form.h"
+#include "ui/page_form.h"
 
 namespace morvane {
 
@@ -16,15 +16,6 @@ public:
 
 private:
     Setup setup_;
-};
-
-/// The same for a list window.
-class UnbuiltHost : public HostForm {
-    Q_OBJECT
-public:
-    UnbuiltHost(Shell& shell, const QString& name, const WindowLook& look, const HostKeys& keys,
-                const QString& colourPage);
-    void formatList() override;
 };
 
 } // namespace morvane

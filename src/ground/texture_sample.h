@@ -6,11 +6,13 @@
 
 namespace morvane {
 
-/// A texture as it is and in the colours that the session has in hand (session.ground.colours): the two
-/// pictures of the list page and of the colour page.
-class GroundSample {
+/// A texture as it is and in the colours that the session has in hand for the ground or for the night: the
+/// two pictures of a list page and of a colour page.
+class TextureSample {
 public:
-    explicit GroundSample(Session& session) : session_(session), colourise_(session.user) {}
+    /// `colours` are read at every recolouring; they stay where they are.
+    TextureSample(Session& session, const ColourValues& colours)
+        : session_(session), colours_(colours), colourise_(session.user) {}
 
     /// Loads the picture and recolours it. False after a failure was told: the picture of before stays then,
     /// recoloured all the same, so that no set is seen in the colours of another one.
@@ -23,6 +25,7 @@ public:
 
 private:
     Session& session_;
+    const ColourValues& colours_;
     PicturePair pictures_;
     cColourise colourise_; ///< kept: it remembers what it worked out for the last colours
 };

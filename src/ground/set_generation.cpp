@@ -1,0 +1,103 @@
+#include "ground/set_generation.h"
+
+#include "core/failure_report.h"
+#include "ground/colour_settings.h"
+#include "ground/texture_passes.h"
+#include "simulator/set_removal.h"
+#include "simulator/temp_bitmaps.h"
+
+namespace morvane {
+
+void SetGeneration::makeFiles(const Job& job, Counters counters, Screen hiddenScreen) {
+    const SetsInHand set = inHand();
+    const std::vector<CatalogueFile> files = baseFilesOf(set.name);
+    TexturePasses passes(session_, job,
+                         {kind_.caption, kind_.duration, hiddenScreen, folderOf(set.name), kind_.subfolders,
+                          kind_.subfolders.last(), counters.setsDone, counters.total});
+    passes.colourFiles(files, set.colours);
+    if (!job.isCancelled()) passes.convertFiles(files);
+}
+
+void SetGeneration::activateInHand() {
+    Job job(session_);
+    if (!job) return;
+    reportFailures(session_.user, {}, [&] {
+        if (!refresh()) return;
+        if (const QStringList names = changeableNames(inHand().selectedRows); names.size() > 1)
+            activateSeveral(job, names);
+        else if (const auto set = find(inHand().name))
+            activate(job, *set, {1, 1});
+        session_.user.hideMessage();
+    });
+    session_.*kind_.refreshList = true;
+    session_.user.refreshScreen(kind_.listScreen);
+    session_.user.showScreen(kind_.listScreen);
+}
+
+void SetGeneration::activateSeveral(const Job& job, const QStringList& names) {
+    const QStringList confirmed = confirmedNames(session_, names);
+    int position = 0;
+    for (const QString& name : confirmed) {
+        const auto set = find(name);
+        ++position;
+        if (set && !activate(job, *set, {position, static_cast<int>(confirmed.size())})) return;
+    }
+    cleanTempBitmaps(session_);
+}
+
+/// False when the store refused or the run was cancelled.
+bool SetGeneration::activate(const Job& job, const StoredSet& set, Counters counters) {
+    const SetsInHand selection = inHand();
+    selection.colours = parseColourSettings(set.colourSettings, session_.DecimalSep);
+    selection.name = set.name;
+    if (!storeActivation(set.name, true)) return false;
+    makeFiles(job, counters, kind_.activatedFrom);
+    if (!job.isCancelled()) return true;
+    removeSetFiles(set.name, true);
+    cleanTempBitmaps(session_);
+    return false;
+}
+
+void SetGeneration::deleteInHand(bool deactivateMode) {
+    Job job(session_);
+    if (!job) return;
+    reportFailures(session_.user, {}, [&] {
+        if (!refresh()) return;
+        const auto stateOf = [this](const QString& name) {
+            const auto set = find(name);
+            if (!set) return SetState::missing;
+            return set->installed ? SetState::installed : SetState::removable;
+        };
+        removeSets(session_, {deactivateMode, inHand().name, inHand().selectedRows, u"\n"_s, stateOf,
+                              [&](const QString& name) { return removeSetFiles(name, deactivateMode); },
+                              kind_.protectsInstalled});
+        session_.*kind_.refreshList = true;
+        session_.user.refreshScreen(kind_.listScreen);
+    });
+}
+
+bool SetGeneration::removeSetFiles(const QString& name, bool keepRecord) {
+    bool stored = false;
+    reportFailures(session_.user, {}, [&] {
+        const auto set = find(name);
+        if (!set) return;
+        const FilePath folder = folderOf(set->name);
+        // The record goes first: a failure in between leaves files without a row, never a row without a set.
+        stored = keepRecord ? storeActivation(set->name, false) : removeRecord(set->name);
+        if (stored) removeBitmapFolders(session_, folder, kind_.subfolders, !keepRecord);
+    });
+    return stored;
+}
+
+void removeBitmapFolders(Session& session, const FilePath& setFolder, const QStringList& subfolders,
+                         bool removeFolders) {
+    for (const QString& name : subfolders) {
+        const FilePath folder = setFolder.child(name);
+        if (!session.files.isFolder(folder) || session.files.isLink(folder)) continue;
+        emptyBitmapFolder(session, folder);
+        if (removeFolders) session.files.removeFolder(folder);
+    }
+    if (removeFolders && session.files.isFolder(setFolder)) session.files.removeFolder(setFolder);
+}
+
+} // namespace morvane

@@ -1,0 +1,62 @@
+#include "night/night_installation.h"
+
+#include "night/night_sets.h"
+
+namespace morvane {
+
+namespace {
+
+// The refusal speaks of a sky set, as the ground's: the message's own word.
+const InstallationKind nightKind{
+    u"Night"_s,
+    u"Morvane has detected more than one selection for installation.  You can only select one sky texture "
+    "set to be installed at any one time.  Please check your selection and try again!."_s,
+    {},
+    Screen::frm_NightTextures,
+    &Session::RefreshNightList,
+    1};
+
+FilePath worldTexture(const Session& session) {
+    return session.FSPath / u"Scenery\\WORLD\\Texture";
+}
+
+} // namespace
+
+NightInstallation::NightInstallation(Session& session) : SetInstallation(session, nightKind) {}
+
+std::vector<FileCopy> NightInstallation::copyListOfSet() {
+    const FilePath set = nightSetFolder(session_, session_.night.SelectedNightSet);
+    const FilePath target = worldTexture(session_);
+    std::vector<FileCopy> copies;
+    addFolderFiles(session_, set / u"Texture", u"*.bmp"_s, target, copies);
+    if (!session_.IsDutch) return copies;
+    addFolderFiles(session_, set / u"Dutch", u"*.bmp"_s, target, copies);
+    // The Dutch annotation files are those of the day, and the only ones that a night brings. Wanted.
+    addFolderFiles(session_, session_.AppPath / u"DUTCH", u"*.agn"_s, target, copies);
+    return copies;
+}
+
+/// All files of the bodies, not the bitmaps alone.
+std::vector<FileCopy> NightInstallation::copyListOfDefault() {
+    const FilePath target = worldTexture(session_);
+    std::vector<FileCopy> copies;
+    addFolderFiles(session_, session_.AppPath / u"GENERIC WORLD NIGHT", u"*.*"_s, target, copies);
+    if (session_.IsDutch)
+        addFolderFiles(session_, session_.AppPath / u"DUTCH NIGHT", u"*.*"_s, target, copies);
+    return copies;
+}
+
+/// The message comes before the record here; the record still comes before the first file.
+void NightInstallation::installSelectedSet() {
+    if (!refreshNightSets(session_)) return;
+    const QString name = session_.night.SelectedNightSet;
+    const std::vector<FileCopy> copies = name == u"Default" ? copyListOfDefault() : copyListOfSet();
+    SimulatorCopier copier(session_);
+    prepare(copier, copies, nullptr);
+    showProgress();
+    if (!loadedNightSets(session_).markInstalled(name)) return;
+    copyAll(copier, copies);
+    finish(copier);
+}
+
+} // namespace morvane

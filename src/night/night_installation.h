@@ -1,0 +1,23 @@
+#pragma once
+
+#include "simulator/set_installation.h"
+
+namespace morvane {
+
+/// The install of the night set in hand (session.night.SelectedNightSet). The weather chooses no night, so
+/// there is no automatic install, nothing is asked and no splash is changed.
+class NightInstallation : public SetInstallation {
+public:
+    explicit NightInstallation(Session& session);
+
+    /// Refuses several rows; see SetInstallation::install.
+    void installNightTextureSet() { install(false); }
+
+private:
+    qsizetype selectedRowCount() const override { return session_.night.selectedRows.size(); }
+    void installSelectedSet() override;
+    std::vector<FileCopy> copyListOfSet();
+    std::vector<FileCopy> copyListOfDefault();
+};
+
+} // namespace morvane

@@ -1,0 +1,171 @@
+#include "ground/texture_catalogue.h"
+#include "imaging/picture_reader.h"
+#include "night/night_files.h"
+#include "night/night_generation.h"
+#include "night/night_selection.h"
+#include "support/night_install.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::addNightSet;
+using test::contentsBelow;
+using test::nightSets;
+
+const QStringList twoFiles{u"Texture\\029b2lm1.bmp"_s, u"Dutch\\005a2lm2.bmp"_s};
+
+struct NightActions : testing::Test {
+    NightActions() {
+        test::addNightStock(install);
+        addNightSet(install, u"Default"_s, true);
+    }
+    void click(const QString& name) { ASSERT_TRUE(clickNightRow(session, name)); }
+    void activate() { NightGeneration(session).activateNightTextureSet(); }
+    void deleteInHand(bool keepsColours) { NightGeneration(session).deleteNightTextureSet(keepsColours); }
+    FilePath sets() { return install.home() / u"Night Texture Sets"; }
+    void confirm(const QStringList& names) {
+        install.user.onModal = [=, this](Screen screen) {
+            ASSERT_EQ(screen, Screen::frm_MultiDelete);
+            session.modal.multiConfirmed = names;
+        };
+    }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+};
+
+TEST_F(NightActions, theListTakesEveryBitmapWhateverTheDutchSwitch) {
+    QStringList lines;
+    const auto list = [&] {
+        lines.clear();
+        for (const CatalogueFile& file : popNightTextureList(session, u"2-Blue"_s))
+            lines << file.fileName + u' ' + file.sourceFolder.text().section(u'/', -1) + u' ' +
+                         file.targetFolder.text().section(u'/', -3) + u' ' +
+                         file.tempFolder.text().section(u'/', -2);
+        lines.replaceInStrings(u"Night Texture Sets/2-Blue"_s, u"*"_s);
+        return lines;
+    };
+    const QStringList generic{u"008b2lm1.bmp GENERIC WORLD NIGHT */Texture TempBitmaps/Texture"_s,
+                              u"029b2lm1.bmp GENERIC WORLD NIGHT */Texture TempBitmaps/Texture"_s,
+                              u"045b2lm1.bmp GENERIC WORLD NIGHT */Texture TempBitmaps/Texture"_s};
+    const QStringList dutch{u"005a2lm2.bmp DUTCH NIGHT */Dutch TempBitmaps/Dutch"_s,
+                            u"008b2lm1.bmp DUTCH NIGHT */Dutch TempBitmaps/Dutch"_s};
+    EXPECT_FALSE(session.IsDutch);
+    EXPECT_EQ(list(), generic + dutch);
+    for (const QString& name : {u"005a2lm2.bmp"_s, u"008b2lm1.bmp"_s})
+        install.files.remove(install.home() / u"Resources\\DUTCH NIGHT" / name);
+    EXPECT_EQ(list(), generic);
+}
+
+TEST_F(NightActions, activationMakesEveryFileInTheColoursOfTheSet) {
+    addNightSet(install, u"2-Red"_s, false);
+    click(u"2-Red"_s);
+    activate();
+    EXPECT_EQ(nightSets(session), u"Default+ 2-Red+"_s);
+    EXPECT_EQ(contentsBelow(sets()).keys().join(u' '),
+              u"2-Red/Dutch/005a2lm2.bmp 2-Red/Dutch/008b2lm1.bmp 2-Red/Texture/008b2lm1.bmp "
+              "2-Red/Texture/029b2lm1.bmp 2-Red/Texture/045b2lm1.bmp"_s);
+    const Picture base =
+        loadPicture(install.files, install.home() / u"Resources\\GENERIC WORLD NIGHT\\029b2lm1.bmp");
+    const Picture made = loadPicture(install.files, sets() / u"2-Red\\Texture\\029b2lm1.bmp");
+    EXPECT_GT(made.rows[5], base.rows[5]) << "the set is redder"; // the second pixel, off the marks
+    EXPECT_TRUE(install.user.told().isEmpty());
+    QStringList texts;
+    for (const Message& message : install.user.messages)
+        texts << message.title + u'|' + message.text;
+    EXPECT_EQ(texts.value(0),
+              u"Creating Night Texture Sets|Colorizing texture set 1 of 1 texture sets.  Process 1 of 2 Be "
+              "aware that this may take 3 - 5 minutes per set dependant on your system specification. "
+              "\nPlease wait............"_s);
+    EXPECT_TRUE(texts.last().contains(u"Converting texture set 1 of 1 texture sets.  Process 2 of 2 "_s));
+    EXPECT_TRUE(install.user.calls.contains(u"hide frm_NightTextures"_s));
+    EXPECT_EQ(install.user.calls.last(), u"show frm_NightTextures"_s);
+    EXPECT_TRUE(session.RefreshNightList);
+}
+
+TEST_F(NightActions, severalAreActivatedAfterAConfirmation) {
+    for (const QString& name : {u"2-A"_s, u"3-B"_s, u"4-C"_s})
+        addNightSet(install, name, false);
+    session.night.selectedRows = QStringList{u"Default"_s, u"2-A"_s, u"3-B"_s, u"4-C"_s};
+    confirm({u"2-A"_s, u"4-C"_s});
+    activate();
+    EXPECT_EQ(session.modal.multiNames, QStringList({u"2-A"_s, u"3-B"_s, u"4-C"_s}));
+    EXPECT_EQ(nightSets(session), u"Default+ 2-A+ 3-B 4-C+"_s);
+    EXPECT_EQ(install.files.listFolders(sets()), QStringList({u"2-A"_s, u"4-C"_s}));
+}
+
+TEST_F(NightActions, aCancelLeavesTheSetDeactivatedInBothPasses) {
+    addNightSet(install, u"2-Red"_s, false, {});
+    for (const QString& pass : {u"Process 1"_s, u"Process 2"_s}) {
+        click(u"2-Red"_s);
+        install.user.onPump = [&] {
+            if (install.user.messages.back().text.contains(pass))
+                install.user.answers().cancelRequested = true;
+        };
+        activate();
+        EXPECT_EQ(nightSets(session), u"Default+ 2-Red"_s);
+        EXPECT_TRUE(contentsBelow(sets()).isEmpty());
+        EXPECT_TRUE(contentsBelow(install.home() / u"TempBitmaps\\Texture").isEmpty());
+    }
+}
+
+TEST_F(NightActions, deletingTakesRowAndFolderAndDeactivatingTheFilesAlone) {
+    addNightSet(install, u"2-Red"_s, true, twoFiles);
+    click(u"2-Red"_s);
+    deleteInHand(true);
+    EXPECT_EQ(nightSets(session), u"Default+ 2-Red"_s);
+    EXPECT_EQ(install.files.listFolders(sets() / u"2-Red"), QStringList({u"Dutch"_s, u"Texture"_s}));
+    EXPECT_TRUE(contentsBelow(sets()).isEmpty());
+    deleteInHand(false);
+    EXPECT_EQ(nightSets(session), u"Default+"_s);
+    EXPECT_TRUE(install.files.listFolders(sets()).isEmpty());
+    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 2);
+}
+
+/// It may go alone, unlike on the ground, and is passed over among several.
+TEST_F(NightActions, theInstalledSetGoesAloneAndNotAmongSeveral) {
+    for (const QString& name : {u"2-A"_s, u"3-B"_s})
+        addNightSet(install, name, true, twoFiles);
+    session.gNightTextureSets->markInstalled(u"2-A"_s);
+    session.night.selectedRows = QStringList{u"2-A"_s, u"3-B"_s};
+    confirm({u"2-A"_s, u"3-B"_s});
+    deleteInHand(false);
+    EXPECT_EQ(nightSets(session), u"Default+ 2-A+*"_s);
+    EXPECT_TRUE(install.user.told().isEmpty());
+
+    click(u"2-A"_s);
+    deleteInHand(true);
+    EXPECT_EQ(nightSets(session), u"Default+ 2-A*"_s);
+    deleteInHand(false);
+    EXPECT_EQ(nightSets(session), u"Default+"_s) << "and no row is installed";
+}
+
+TEST_F(NightActions, defaultIsProtected) {
+    click(u"Default"_s);
+    for (const bool keepsColours : {false, true}) {
+        deleteInHand(keepsColours);
+        EXPECT_EQ(install.user.told().last(),
+                  u"Exclamation|Morvane Information|You have selected the Default texture set to "
+                  "delete/deactivate.\nThis is a protected texture set and no changes can be made to this "
+                  "set."_s);
+    }
+    EXPECT_EQ(nightSets(session), u"Default+"_s);
+}
+
+TEST_F(NightActions, namesOfTheStoreReachNoOtherFolder) {
+    test::writeFile(install.home() / u"Resources\\Texture\\a.bmp", "not a set's");
+    for (const QString& name : {u"..\\Resources"_s, u"../Resources"_s, u".."_s}) {
+        addNightSet(install, name, true);
+        click(name);
+        deleteInHand(false);
+        EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1) << name.toStdString();
+        install.user.messages.clear();
+    }
+    EXPECT_EQ(test::readFile(install.home() / u"Resources\\Texture\\a.bmp"), "not a set's");
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,107 @@
+#include "ground/slider_steps.h"
+#include "night/night_samples.h"
+#include "night/night_tuning.h"
+#include "support/night_install.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+struct NightTuningTest : testing::Test {
+    NightTuningTest() { test::addNightStock(install); }
+    /// What the user types into the dialog before OK.
+    void nameFavourite(const QString& name, const QString& description) {
+        install.user.onModal = [=, this](Screen screen) {
+            ASSERT_EQ(screen, Screen::frm_AddFav);
+            EXPECT_EQ(session.modal.favKind, FavouriteKind::night);
+            session.modal.favName = name;
+            session.modal.favDescription = description;
+            session.modal.favConfirmed = true;
+        };
+        tuning.newFavNightTexture();
+    }
+    FilePath sets() const { return install.home() / u"Night Texture Sets"; }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    NightTuning tuning{session};
+};
+
+/// Captions and colours do not agree, as far as the last but two go.
+TEST_F(NightTuningTest, lightsStandWhereTheyAlwaysStood) {
+    const QString rows[] = {u"White Lights: 13% default 80% 91% -28% default"_s,
+                            u"Orange Lights: default 65% -26% default -22% default"_s,
+                            u"Red Light: 20% 50% default default -22% default"_s,
+                            u"Green Lights: default -30% -30% 80% default default"_s};
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        QStringList labels;
+        for (const int value : lightsBiases()[i].sliders)
+            labels << sliderLabel(value);
+        EXPECT_EQ(lightsBiases()[i].caption + u": "_s + labels.join(u' '), rows[i]);
+    }
+}
+
+TEST_F(NightTuningTest, randomValuesKeepTheirRanges) {
+    const std::pair<double, SliderValues> cases[] = {
+        {0, {-30, -10, 0, -5, -25, -35}}, {0.5, {20, 10, 22, 22, 20, 5}}, {0.9999, {69, 29, 44, 49, 64, 44}}};
+    for (const auto& [fraction, expected] : cases) {
+        install.random.numbers = {fraction};
+        SliderValues values{};
+        getRandomNightValues(session, values);
+        EXPECT_EQ(values, expected) << fraction;
+    }
+}
+
+TEST_F(NightTuningTest, samplesHaveTheirFiles) {
+    const QString files[] = {u"008b2lm1.bmp"_s, u"029b2lm1.bmp"_s, u"035b2lm1.bmp"_s, u"045b2lm1.bmp"_s,
+                             u"049b2lm1.bmp"_s};
+    const QStringList keys{u"rural"_s, u"large city"_s, u"medium city"_s, u"small city"_s,
+                           u"large city center"_s};
+    ASSERT_EQ(nightSamples().size(), std::size(files));
+    for (std::size_t i = 0; i < std::size(files); ++i) {
+        EXPECT_EQ(nightSamples()[i].key, keys[static_cast<qsizetype>(i)]);
+        EXPECT_EQ(nightSampleTexture(session.AppPath, nightSamples()[i].key).text(),
+                  (session.AppPath / u"Resources\\GENERIC WORLD NIGHT" / files[i]).text());
+    }
+    EXPECT_TRUE(nightSampleTexture(session.AppPath, u"ocean"_s).isEmpty());
+}
+
+TEST_F(NightTuningTest, aFavouriteIsARowAndEmptyFolders) {
+    tuning.showColourPreview(lightsBiases()[3].sliders);
+    nameFavourite(u"  Cold: lights "_s, u" blue "_s);
+    EXPECT_EQ(test::nightSets(session), u"1-Cold_ lights"_s);
+    const auto set = findNightSet(session, u"1-Cold_ lights"_s);
+    EXPECT_EQ(set->ColorSettings, u"0:-6:-6:16:0:0"_s);
+    EXPECT_EQ(set->Actvated + set->Description, u"Falseblue"_s);
+    EXPECT_EQ(session.night.SelectedNightSet, set->TextureSet);
+    EXPECT_TRUE(session.RefreshNightList);
+    EXPECT_EQ(install.user.calls.last(), u"show frm_NightTextures"_s);
+    EXPECT_EQ(install.files.listFolders(sets() / set->TextureSet), QStringList({u"Dutch"_s, u"Texture"_s}));
+
+    install.user.onModal = [](Screen) {}; // cancelled
+    tuning.newFavNightTexture();
+    EXPECT_EQ(session.gNightTextureSets->Count(), 1);
+    EXPECT_TRUE(install.user.told().isEmpty());
+}
+
+TEST_F(NightTuningTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
+    tuning.openDefaultSample();
+    EXPECT_EQ(session.modal.selectedNightTexture, firstNightSample);
+    tuning.showColourPreview({0, 0, 0, 0, 100, 0});
+    install.user.onModal = [&](Screen screen) {
+        ASSERT_EQ(screen, Screen::frm_SelectNightTexture);
+        session.modal.selectedNightTexture = u"rural"_s;
+        session.modal.sampleConfirmed = true;
+    };
+    const int before = tuning.sourceDib().DIBSectionBitsPtr()[3];
+    EXPECT_TRUE(tuning.openSample());
+    EXPECT_NE(tuning.sourceDib().DIBSectionBitsPtr()[3], before);
+    EXPECT_GT(tuning.resultDib().DIBSectionBitsPtr()[3], tuning.sourceDib().DIBSectionBitsPtr()[3]);
+    install.user.onModal = [](Screen) {};
+    EXPECT_FALSE(tuning.openSample());
+}
+
+} // namespace
+} // namespace morvane

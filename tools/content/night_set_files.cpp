@@ -1,0 +1,53 @@
+#include "night_set_files.h"
+
+#include "cli/console_user.h"
+#include "core/application.h"
+#include "core/error.h"
+#include "core/registry.h"
+#include "core/store.h"
+#include "night/night_generation.h"
+#include "night/night_selection.h"
+#include "night/night_sets.h"
+#include "simulator/set_removal.h"
+
+namespace morvane {
+
+namespace {
+
+/// Tells failures only.
+class QuietUser : public ConsoleUser {
+public:
+    QuietUser() : ConsoleUser({}) {}
+    void showMessage(const Message& message) override {
+        if (!message.isProgress) ConsoleUser::showMessage(message);
+    }
+    void updateProgress(const QString&, const QString&, double) override {}
+    bool isMessageVisible() const override { return true; }
+};
+
+void activate(Session& session, const QString& name) {
+    if (clickNightRow(session, name)) NightGeneration(session).activateNightTextureSet();
+}
+
+} // namespace
+
+void writeNightSets(FileSystem& files, const FilePath& home) {
+    QuietUser user;
+    SystemClock clock;
+    ReseedingRandomSource random;
+    const auto registry = openRegistry(files, home);
+    Session session({user, files, clock, random, *registry}, home);
+    connectDatabase(session);
+    QStringList names;
+    for (const auto& set : loadedNightSets(session))
+        names << set->TextureSet;
+    names.removeAll(u"Default"_s); // its files are the bodies
+    for (const QString& name : names)
+        activate(session, name);
+    for (const QString& folder : nightSubfolders)
+        emptyBitmapFolder(session, home / u"TempBitmaps" / folder);
+    closeDatabase(session);
+    if (user.hasFailed()) throw Error(ErrorCode::ioFailure, (home / u"Night Texture Sets").text());
+}
+
+} // namespace morvane
