@@ -177,7 +177,7 @@ bool flyWord(CommandContext& context) {
 
 bool flyMetar(CommandContext& context) {
     getCustomSplashVal(context.session);
-    if (processMetarString(context.session, context.arguments[0])) flyNow(context.session);
+    if (processMetarString(context.session, context.arguments[0])) flyWithCover(context.session);
     return true;
 }
 
