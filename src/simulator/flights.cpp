@@ -49,15 +49,6 @@ void copyFlights(Session& session, const FilePath& source) {
     }
 }
 
-/// Empty when the user named none.
-FilePath userFolder(Session& session) {
-    if (!session.MyDocumentsPath.isEmpty()) {
-        const FilePath usual = FilePath(session.MyDocumentsPath) / u"Flight Simulator Files";
-        if (session.files.isFolder(usual)) return usual;
-    }
-    return FilePath(getNonEnglishPath(session));
-}
-
 /// Entries of an older list beyond the new total stay in the file, unread. Written at one go, as a pilot may
 /// have hundreds.
 void writeList(Session& session) {
@@ -72,13 +63,22 @@ void writeList(Session& session) {
 
 } // namespace
 
+FilePath userFlightsFolder(Session& session) {
+    if (!session.MyDocumentsPath.isEmpty()) {
+        const FilePath usual = FilePath(session.MyDocumentsPath) / u"Flight Simulator Files";
+        if (session.files.isFolder(usual)) return usual;
+    }
+    return FilePath(getNonEnglishPath(session));
+}
+
 void loadFlightFiles(Session& session) {
     if (session.IsWideClient) return;
     reportFailures(session.user, {}, [&] {
         session.files.makeFolder(flightsFolder(session));
         removeCopies(session);
         copyFlights(session, session.FSPath / u"Flights\\Morvane");
-        if (const FilePath folder = userFolder(session); !folder.isEmpty()) copyFlights(session, folder);
+        if (const FilePath folder = userFlightsFolder(session); !folder.isEmpty())
+            copyFlights(session, folder);
     });
     reportFailures(session.user, {}, [&] { writeList(session); }); // of those that were copied
 }
