@@ -17,6 +17,11 @@
 #include "ui/screens/name_choice_screen.h"
 #include "ui/screens/splash_screen.h"
 #include "ui/screens/unbuilt_screens.h"
+#include "weather/screens/cover_airports_screen.h"
+#include "weather/screens/cover_method_screen.h"
+#include "weather/screens/cover_option_screen.h"
+#include "weather/screens/cover_report_screen.h"
+#include "weather/screens/flight_plan_screen.h"
 
 #include <functional>
 
@@ -55,6 +60,11 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_SelectBaseSky>(u"frm_SelectBaseSky"_s),
         screenEntry<frm_TsRequired>(u"frm_TsRequired"_s),
         screenEntry<frm_flight>(u"frm_flight"_s),
+        screenEntry<frm_Select_CC_Method>(u"frm_Select_CC_Method"_s),
+        screenEntry<frm_FlightPlan>(u"frm_FlightPlan"_s),
+        screenEntry<frm_FromDepDestVal>(u"frm_FromDepDestVal"_s),
+        screenEntry<frm_CC_From_Option>(u"frm_CC_From_Option"_s),
+        screenEntry<frm_CC_From_Metar_String>(u"frm_CC_From_Metar_String"_s),
         screenEntry<frm_About>(u"frm_About"_s),
         screenEntry<frm_Links>(u"frm_Links"_s),
         unbuiltPage(u"frm_WxControl"_s, u"flight config"_s, u"icon_WxFinder.bmp"_s,
