@@ -4,6 +4,7 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
 #include "ground/screens/ground_colour_screen.h"
+#include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
 #include "sky/screens/sky_colour_screen.h"
 #include "sky/sky_activation.h"
@@ -11,6 +12,7 @@
 #include "sky/sky_installation.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
+#include "weather/screens/wx_control_screen.h"
 
 #include <algorithm>
 #include <array>
@@ -51,6 +53,16 @@ void onGroundColours(Shell& shell, SkinnedButton&) {
 
 void selectFlight(Shell& shell, SkinnedButton&) {
     startSavedFlight(shell.session());
+}
+
+// Weather ------------------------------------------------------------------------------------------------
+
+void flyNowKey(Shell& shell, SkinnedButton&) {
+    flyNow(shell.session());
+}
+
+void clearFilter(Shell& shell, SkinnedButton&) {
+    shell.screen<frm_WxControl>(u"frm_WxControl"_s).ClearFilter();
 }
 
 // Sky ----------------------------------------------------------------------------------------------------
@@ -179,6 +191,8 @@ constexpr Entry entries[] = {
     {large, groundColours, u"add fav", onGroundColours<&frm_GroundColorize::addFavourite>},
 
     {large, wxControl, u"selectflight", selectFlight},
+    {large, wxControl, u"flynow", flyNowKey},
+    {standard, wxControl, u"clearfilter", clearFilter},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

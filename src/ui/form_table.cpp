@@ -17,6 +17,8 @@
 #include "ui/screens/name_choice_screen.h"
 #include "ui/screens/splash_screen.h"
 #include "ui/screens/unbuilt_screens.h"
+#include "weather/screens/decoded_report_screen.h"
+#include "weather/screens/wx_control_screen.h"
 
 #include <functional>
 
@@ -57,8 +59,8 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_flight>(u"frm_flight"_s),
         screenEntry<frm_About>(u"frm_About"_s),
         screenEntry<frm_Links>(u"frm_Links"_s),
-        unbuiltPage(u"frm_WxControl"_s, u"flight config"_s, u"icon_WxFinder.bmp"_s,
-                    u"Weather Control Settings Page"_s),
+        screenEntry<frm_WxControl>(u"frm_WxControl"_s),
+        screenEntry<frm_metar>(u"frm_metar"_s),
         unbuiltPage(u"frm_Switcher"_s, u"switcher info"_s, u"icon_Randomizer.bmp"_s,
                     u"Morvane Configuration Page"_s),
         unbuiltPage(u"frm_Config"_s, u"mv config"_s, u"icon_Config.bmp"_s,
