@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include "cli/airport_commands.h"
 #include "cli/command_helpers.h"
 #include "cli/json_output.h"
 #include "cli/sky_commands.h"
@@ -215,6 +216,9 @@ const std::vector<Command>& commandTable() {
         {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
         {{u"flights"_s, u"list"_s}, 0, true, flightsList, u"flights list"_s},
         {{u"flights"_s, u"load"_s}, 0, true, flightsLoad, u"flights load"_s},
+        {{u"metar"_s, u"show"_s}, 1, true, metarShow, u"metar show ICAO"_s},
+        {{u"airport"_s, u"find"_s}, 1, true, airportFind, u"airport find ICAOPREFIX"_s},
+        {{u"station"_s, u"nearest"_s}, 2, true, stationNearest, u"station nearest LAT LONG"_s},
         {{u"fly"_s, u"--metar"_s}, 1, true, flyMetar, u"fly --metar \"TEXT\""_s},
         {{u"fly"_s}, 1, true, flyWord, u"fly WORD  (CLR, FEW, SCT, BKN or OVC)"_s},
     };

@@ -4,6 +4,7 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
 #include "ground/screens/ground_colour_screen.h"
+#include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
 #include "sky/screens/sky_colour_screen.h"
 #include "sky/sky_activation.h"
@@ -12,6 +13,7 @@
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
 #include "weather/screens/cover_report_screen.h"
+#include "weather/screens/wx_control_screen.h"
 #include "weather/wx_filter.h"
 
 #include <algorithm>
@@ -63,6 +65,14 @@ void processReport(Shell& shell, SkinnedButton&) {
 
 void findWeather(Shell& shell, SkinnedButton&) {
     showWxFinder(shell.session());
+}
+
+void flyNowKey(Shell& shell, SkinnedButton&) {
+    flyNow(shell.session());
+}
+
+void clearFilter(Shell& shell, SkinnedButton&) {
+    shell.screen<frm_WxControl>(u"frm_WxControl"_s).ClearFilter();
 }
 
 // Sky ----------------------------------------------------------------------------------------------------
@@ -194,6 +204,8 @@ constexpr Entry entries[] = {
     {large, wxControl, u"selectflight", selectFlight},
     {large, wxControl, u"wxfinder", findWeather},
     {large, coverReport, u"process metar string", processReport},
+    {large, wxControl, u"flynow", flyNowKey},
+    {standard, wxControl, u"clearfilter", clearFilter},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

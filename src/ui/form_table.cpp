@@ -21,7 +21,9 @@
 #include "weather/screens/cover_method_screen.h"
 #include "weather/screens/cover_option_screen.h"
 #include "weather/screens/cover_report_screen.h"
+#include "weather/screens/decoded_report_screen.h"
 #include "weather/screens/flight_plan_screen.h"
+#include "weather/screens/wx_control_screen.h"
 
 #include <functional>
 
@@ -67,8 +69,8 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_CC_From_Metar_String>(u"frm_CC_From_Metar_String"_s),
         screenEntry<frm_About>(u"frm_About"_s),
         screenEntry<frm_Links>(u"frm_Links"_s),
-        unbuiltPage(u"frm_WxControl"_s, u"flight config"_s, u"icon_WxFinder.bmp"_s,
-                    u"Weather Control Settings Page"_s),
+        screenEntry<frm_WxControl>(u"frm_WxControl"_s),
+        screenEntry<frm_metar>(u"frm_metar"_s),
         unbuiltPage(u"frm_Switcher"_s, u"switcher info"_s, u"icon_Randomizer.bmp"_s,
                     u"Morvane Configuration Page"_s),
         unbuiltPage(u"frm_Config"_s, u"mv config"_s, u"icon_Config.bmp"_s,

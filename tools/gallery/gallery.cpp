@@ -4,9 +4,11 @@
 #include "sky/screens/palette_picture.h"
 #include "ui/controls/slider.h"
 #include "ui/screens/splash_screen.h"
+#include "weather/screens/airport_list.h"
 
 #include <QCoreApplication>
 #include <QImage>
+#include <QLineEdit>
 #include <QPainter>
 #include <QTimer>
 
@@ -82,6 +84,27 @@ void Gallery::savePages() {
         shell_.goToPage(QString::fromUtf16(form));
         save(QString::fromUtf16(picture), window);
     }
+    shell_.hideChildScreen(shell_.CurrentChildScreen);
+    shell_.formatMainScreen();
+}
+
+/// An airport found and chosen for each end of a flight, its report in plain words, and the page afterwards.
+void Gallery::saveWeather() {
+    Form& window = *shell_.form(u"frm_Main"_s);
+    shell_.goToPage(u"frm_WxControl"_s);
+    WeatherState& weather = shell_.session().weather;
+    auto* airports = window.findChild<AirportList*>();
+    weather.InhibitWeatherReports = false;
+    for (const QString& icao : {u"KSEA"_s, u"EHAM"_s}) {
+        weather.optDestAirport = !(weather.optDepAirport = icao == u"KSEA");
+        window.findChild<QLineEdit*>(u"txtICAO"_s)->setText(icao);
+        saveModal(u"decoded-report-"_s + icao, u"frm_metar"_s,
+                  [&] { Q_EMIT airports->airportChosen(airports->airports().shownAirport(0)); });
+    }
+    weather.InhibitWeatherReports = true;
+    window.findChild<QLineEdit*>(u"txtCity"_s)->setText(u"Se"_s);
+    airports->setCurrentIndex(airports->airports().index(2, 0));
+    save(u"weather-control-flight"_s, window);
     shell_.hideChildScreen(shell_.CurrentChildScreen);
     shell_.formatMainScreen();
 }
@@ -171,6 +194,7 @@ void Gallery::saveAll() {
     saveSplash();
     saveMainWindow();
     savePages();
+    saveWeather();
     saveGround();
     saveSky();
     saveNight();

@@ -26,6 +26,7 @@ private:
     void saveSplash();
     void saveMainWindow();
     void savePages();
+    void saveWeather();
     void saveGround();
     void saveSky();
     void saveNight();
