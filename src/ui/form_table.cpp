@@ -24,6 +24,7 @@
 #include "weather/screens/decoded_report_screen.h"
 #include "weather/screens/flight_plan_screen.h"
 #include "weather/screens/wx_control_screen.h"
+#include "weather/screens/wx_finder_screen.h"
 
 #include <functional>
 
@@ -62,6 +63,7 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_SelectBaseSky>(u"frm_SelectBaseSky"_s),
         screenEntry<frm_TsRequired>(u"frm_TsRequired"_s),
         screenEntry<frm_flight>(u"frm_flight"_s),
+        screenEntry<frm_WxFinder>(u"frm_WxFinder"_s),
         screenEntry<frm_Select_CC_Method>(u"frm_Select_CC_Method"_s),
         screenEntry<frm_FlightPlan>(u"frm_FlightPlan"_s),
         screenEntry<frm_FromDepDestVal>(u"frm_FromDepDestVal"_s),

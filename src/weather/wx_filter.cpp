@@ -16,10 +16,6 @@ bool isAsked(const QString& wanted, const QString& text) {
     return wanted == none ? text.isEmpty() : text.contains(wanted);
 }
 
-bool hasIntensity(const WxFilter& filter) {
-    return filter.precipitation != any && filter.precipitation != none;
-}
-
 bool hasPrecipitation(const WxFilter& filter, const clsWxFinder& finder) {
     if (!isAsked(filter.precipitation, finder.WxFinderWeather)) return false;
     const bool asksIntensity = hasIntensity(filter) && filter.intensity != any;
@@ -41,6 +37,10 @@ bool passes(const WxFilter& filter, const clsWxFinder& finder) {
 }
 
 } // namespace
+
+bool hasIntensity(const WxFilter& filter) {
+    return filter.precipitation != any && filter.precipitation != none;
+}
 
 const QStringList& precipitationEntries() {
     static const QStringList entries{any,

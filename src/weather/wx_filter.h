@@ -7,6 +7,7 @@
 namespace morvane {
 
 class Session;
+struct WxFilter;
 
 // What the lists of the weather finder offer, "Any" first.
 const QStringList& precipitationEntries();
@@ -19,6 +20,8 @@ inline constexpr std::int16_t usualMaxResults = 25;
 /// The session's filter as the finder opens with it: any weather, departure. The most results stay as they
 /// were chosen.
 void openWxFilter(Session& session);
+/// True when there is a precipitation to ask an intensity of.
+bool hasIntensity(const WxFilter& filter);
 /// Which end of the flight the finder, and with it the weather page, chooses: so name and report of an end
 /// never part.
 void chooseFlightEnd(Session& session, bool isDeparture);
