@@ -40,9 +40,7 @@ FilterChoice::FilterChoice(QWidget* parent) : QComboBox(parent) {
 }
 
 void FilterChoice::setValues(const QStringList& values) {
-    QAbstractItemModel* former = model();
-    setModel(new FilterModel(values, this));
-    former->deleteLater();
+    setModel(new FilterModel(values, this)); // the box deletes the one before, as its child
     setCurrentIndex(0);
 }
 
