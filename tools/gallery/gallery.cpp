@@ -144,7 +144,7 @@ void Gallery::saveCovers() {
         u"cover-flight-plan"_s, u"frm_FlightPlan"_s, [&] { user.showModal(Screen::frm_FlightPlan); },
         [](QWidget& dialog) {
             auto* list = dialog.findChild<SetTable*>(u"lvwFPList"_s);
-            Q_EMIT list->itemDoubleClicked(list->topLevelItem(0), 0);
+            Q_EMIT list->itemDoubleClicked(list->topLevelItem(1), 0);
         });
     path = usualPath;
     saveModal(u"cover-airports"_s, u"frm_FromDepDestVal"_s,

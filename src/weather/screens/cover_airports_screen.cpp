@@ -9,7 +9,7 @@ namespace morvane {
 
 namespace {
 
-constexpr int left = 30, right = 360, columnWidth = 310, valueOffset = 70;
+constexpr int left = 26, right = 360, columnWidth = 310, valueOffset = 70;
 
 } // namespace
 

@@ -25,8 +25,9 @@ frm_Select_CC_Method::frm_Select_CC_Method(Shell& shell)
         methods_->addButton(option, method++);
     }
     methods_->button(0)->setChecked(true);
-    connect(methods_, &QButtonGroup::idClicked, this,
-            [this](int method) { session().modal.coverMethod = static_cast<std::int16_t>(method); });
+    connect(methods_, &QButtonGroup::idToggled, this, [this](int method, bool isSet) {
+        if (isSet) session().modal.coverMethod = static_cast<std::int16_t>(method);
+    });
     addAnswerKeys(coverOkTip, coverCancelTip);
 }
 

@@ -37,8 +37,9 @@ frm_CC_From_Option::frm_CC_From_Option(Shell& shell)
         option->setGeometry(placeOf(index).x() + CoverLabel::side + 10, placeOf(index).y() + 10, 110, 24);
         optCloudCover_->addButton(option, index++);
     }
-    connect(optCloudCover_, &QButtonGroup::idClicked, this,
-            [this](int index) { setCover(session(), static_cast<std::int16_t>(index + 1)); });
+    connect(optCloudCover_, &QButtonGroup::idToggled, this, [this](int index, bool isSet) {
+        if (isSet) setCover(session(), static_cast<std::int16_t>(index + 1));
+    });
     addAnswerKeys(coverOkTip, coverCancelTip);
 }
 
