@@ -7,6 +7,7 @@
 #include "weather/screens/report_list.h"
 #include "weather/wx_filter.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QLabel>
 #include <QRadioButton>
@@ -68,6 +69,7 @@ QComboBox* frm_WxFinder::addList(const QString& name, const QString& caption, in
     auto* list = new QComboBox(this);
     list->setObjectName(name);
     list->setAccessibleName(caption);
+    list->view()->setAccessibleName(caption);
     list->setFont(fontOf(TextRole::body));
     list->setGeometry(x, 102, pitch - 10, 22);
     list->addItems(entries);
