@@ -13,7 +13,6 @@
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
 #include "weather/screens/wx_control_screen.h"
-#include "weather/weather_refresh.h"
 
 #include <algorithm>
 #include <array>
@@ -60,10 +59,6 @@ void selectFlight(Shell& shell, SkinnedButton&) {
 
 void flyNowKey(Shell& shell, SkinnedButton&) {
     flyNow(shell.session());
-}
-
-void refreshReports(Shell& shell, SkinnedButton&) {
-    refreshWeather(shell.session());
 }
 
 void clearFilter(Shell& shell, SkinnedButton&) {
@@ -197,7 +192,6 @@ constexpr Entry entries[] = {
 
     {large, wxControl, u"selectflight", selectFlight},
     {large, wxControl, u"flynow", flyNowKey},
-    {large, wxControl, u"wxrefresh", refreshReports},
     {standard, wxControl, u"clearfilter", clearFilter},
 
     {medium, sky, u"home", leaveHost},
