@@ -7,6 +7,7 @@
 #include "core/store.h"
 #include "ground/cloud_cover.h"
 #include "simulator/set_matching.h"
+#include "weather/active_sky.h"
 
 #include <clocale>
 
@@ -91,6 +92,7 @@ bool startUp(Session& session) {
         session.BackupPath = session.AppPath / u"Backup";
         session.files.makeFolder(session.BackupPath);
         readSwitches(session);
+        findActiveSky(session);
     });
     return done && found;
 }

@@ -110,6 +110,7 @@ void Gallery::saveWeather() {
                   [&] { Q_EMIT airports->airportChosen(airports->airports().shownAirport(0)); });
     }
     weather.InhibitWeatherReports = true;
+    shell_.session().user.refreshScreen(Screen::frm_WxControl);
     window.findChild<QLineEdit*>(u"txtCity"_s)->setText(u"Se"_s);
     airports->setCurrentIndex(airports->airports().index(2, 0));
     save(u"weather-control-flight"_s, window);

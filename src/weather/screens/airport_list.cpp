@@ -12,7 +12,7 @@ namespace morvane {
 namespace {
 
 /// Logical pixels; the last column takes what is left over.
-constexpr int columnWidths[] = {46, 150, 78, 78, 82, 60};
+constexpr int columnWidths[] = {42, 134, 72, 78, 88, 64};
 
 } // namespace
 

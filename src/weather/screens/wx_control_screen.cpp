@@ -170,6 +170,7 @@ void frm_WxControl::refresh() {
     chkNoWeatherReports_->setChecked(weather.InhibitWeatherReports);
     departure_->setReport(weather.DepMetar);
     destination_->setReport(weather.DestMetar);
+    button(u"btn_FlyNow"_s)->setState(weather.FlyNowDisabled ? ButtonState::disabled : ButtonState::enabled);
     showActiveSky();
 }
 
