@@ -84,6 +84,7 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
     const auto registry = openRegistry(files, request.home);
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
+    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, u"True"_s);
     if (request.simulator.isEmpty()) return;
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s,
                            (request.simulator / u"Flights").native());
