@@ -1,10 +1,12 @@
 #include "cli/commands.h"
 
+#include "cli/airport_commands.h"
 #include "cli/command_helpers.h"
 #include "cli/json_output.h"
 #include "cli/night_commands.h"
 #include "cli/set_commands.h"
 #include "cli/set_kinds.h"
+#include "cli/route_commands.h"
 #include "cli/sky_commands.h"
 #include "cli/terminal.h"
 #include "core/application.h"
@@ -130,13 +132,14 @@ bool flyWord(CommandContext& context) {
 
 bool flyMetar(CommandContext& context) {
     getCustomSplashVal(context.session);
-    if (processMetarString(context.session, context.arguments[0])) flyNow(context.session);
+    if (processMetarString(context.session, context.arguments[0])) flyWithCover(context.session);
     return true;
 }
 
 const Command* findCommand(const QStringList& words) {
     for (const Command& command : commandTable()) {
-        if (words.size() != command.words.size() + command.argumentCount) continue;
+        const qsizetype rest = words.size() - command.words.size();
+        if (command.argumentCount == anyArguments ? rest < 0 : rest != command.argumentCount) continue;
         if (words.first(command.words.size()) == command.words) return &command;
     }
     return nullptr;
@@ -178,10 +181,21 @@ const std::vector<Command>& commandTable() {
          u"night deactivate NAME"_s},
         {{u"night"_s, u"delete"_s}, 1, true, SetCommands<NightKind>::remove, u"night delete NAME"_s},
         {{u"night"_s, u"install"_s}, 1, true, SetCommands<NightKind>::install, u"night install NAME"_s},
+        {{u"metar"_s, u"find"_s},
+         anyArguments,
+         true,
+         metarFind,
+         u"metar find [--precipitation W] [--intensity W] [--obscuration W] [--cover W] [--cb] [--tcu] "
+         u"[--cu] "
+         "[--icao PREFIX] [--max N]"_s},
+        {{u"plan"_s}, 1, true, showPlan, u"plan FILE"_s},
         {{u"originals"_s, u"list"_s}, 0, true, originalsList, u"originals list"_s},
         {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
         {{u"flights"_s, u"list"_s}, 0, true, flightsList, u"flights list"_s},
         {{u"flights"_s, u"load"_s}, 0, true, flightsLoad, u"flights load"_s},
+        {{u"metar"_s, u"show"_s}, 1, true, metarShow, u"metar show ICAO"_s},
+        {{u"airport"_s, u"find"_s}, 1, true, airportFind, u"airport find ICAOPREFIX"_s},
+        {{u"station"_s, u"nearest"_s}, 2, true, stationNearest, u"station nearest LAT LONG"_s},
         {{u"fly"_s, u"--metar"_s}, 1, true, flyMetar, u"fly --metar \"TEXT\""_s},
         {{u"fly"_s}, 1, true, flyWord, u"fly WORD  (CLR, FEW, SCT, BKN or OVC)"_s},
     };

@@ -8,6 +8,7 @@
 #include "ground/cloud_cover.h"
 #include "simulator/first_run.h"
 #include "simulator/set_matching.h"
+#include "weather/active_sky.h"
 
 #include <clocale>
 
@@ -93,6 +94,7 @@ bool startUp(Session& session) {
         session.files.makeFolder(session.BackupPath);
         doFirstRun(session);
         readSwitches(session);
+        findActiveSky(session);
     });
     return done && found;
 }

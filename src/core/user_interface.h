@@ -25,6 +25,7 @@ struct Message {
     bool offersFastExit = false;
     /// A picture that takes the place of the icon, below "\\Media"; a ".gif" moves. Empty: the kind's icon.
     QString picture = {};
+    bool hasQuietTitle = false; ///< the title in grey instead of red: nothing is asked of the user
 };
 
 /// Screens by the names that the whole program uses for them.

@@ -52,15 +52,6 @@ void copyFlights(Session& session, const FilePath& source, const FilePath& targe
     }
 }
 
-/// Empty when the user named none.
-FilePath userFolder(Session& session) {
-    if (!session.MyDocumentsPath.isEmpty()) {
-        const FilePath usual = FilePath(session.MyDocumentsPath) / u"Flight Simulator Files";
-        if (session.files.isFolder(usual)) return usual;
-    }
-    return FilePath(getNonEnglishPath(session));
-}
-
 /// Entries of an older list beyond the new total stay in the file, unread. Written at one go, as a pilot may
 /// have hundreds.
 void writeList(Session& session) {
@@ -75,6 +66,14 @@ void writeList(Session& session) {
 
 } // namespace
 
+FilePath userFlightsFolder(Session& session) {
+    if (!session.MyDocumentsPath.isEmpty()) {
+        const FilePath usual = FilePath(session.MyDocumentsPath) / u"Flight Simulator Files";
+        if (session.files.isFolder(usual)) return usual;
+    }
+    return FilePath(getNonEnglishPath(session));
+}
+
 void copyDeliveredFlights(Session& session) {
     session.files.makeFolder(deliveredFlightsFolder(session));
     copyFlights(session, flightsFolder(session), deliveredFlightsFolder(session));
@@ -86,7 +85,7 @@ void loadFlightFiles(Session& session) {
         session.files.makeFolder(flightsFolder(session));
         removeCopies(session);
         copyFlights(session, deliveredFlightsFolder(session), flightsFolder(session));
-        if (const FilePath folder = userFolder(session); !folder.isEmpty())
+        if (const FilePath folder = userFlightsFolder(session); !folder.isEmpty())
             copyFlights(session, folder, flightsFolder(session));
     });
     reportFailures(session.user, {}, [&] { writeList(session); }); // of those that were copied

@@ -7,6 +7,7 @@
 #include "night/night_generation.h"
 #include "night/night_installation.h"
 #include "night/screens/night_colour_screen.h"
+#include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
 #include "sky/screens/sky_colour_screen.h"
 #include "sky/sky_activation.h"
@@ -14,6 +15,9 @@
 #include "sky/sky_installation.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
+#include "weather/screens/cover_report_screen.h"
+#include "weather/screens/wx_control_screen.h"
+#include "weather/wx_filter.h"
 
 #include <algorithm>
 #include <array>
@@ -54,6 +58,24 @@ void onGroundColours(Shell& shell, SkinnedButton&) {
 
 void selectFlight(Shell& shell, SkinnedButton&) {
     startSavedFlight(shell.session());
+}
+
+// Weather ------------------------------------------------------------------------------------------------
+
+void processReport(Shell& shell, SkinnedButton&) {
+    shell.screen<frm_CC_From_Metar_String>(u"frm_CC_From_Metar_String"_s).processMetarString();
+}
+
+void findWeather(Shell& shell, SkinnedButton&) {
+    showWxFinder(shell.session());
+}
+
+void flyNowKey(Shell& shell, SkinnedButton&) {
+    flyNow(shell.session());
+}
+
+void clearFilter(Shell& shell, SkinnedButton&) {
+    shell.screen<frm_WxControl>(u"frm_WxControl"_s).ClearFilter();
 }
 
 // Sky ----------------------------------------------------------------------------------------------------
@@ -163,8 +185,9 @@ constexpr auto medium = ButtonFamily::MediumButton;
 constexpr char16_t main[] = u"frm_Main", ground[] = u"frm_MVTextures", sky[] = u"frm_KMTextures",
                    night[] = u"frm_NightTextures", groundColours[] = u"frm_GroundColorize",
                    skyColours[] = u"frm_SkyColorize", nightColours[] = u"frm_NightColorize",
-                   wxControl[] = u"frm_WxControl", switcher[] = u"frm_Switcher", config[] = u"frm_Config",
-                   links[] = u"frm_Links", about[] = u"frm_About";
+                   wxControl[] = u"frm_WxControl", coverReport[] = u"frm_CC_From_Metar_String",
+                   switcher[] = u"frm_Switcher", config[] = u"frm_Config", links[] = u"frm_Links",
+                   about[] = u"frm_About";
 constexpr char16_t anyForm[] = u"*"; ///< small keys mean the same wherever they lie, and so do a dialog's
 
 struct Entry {
@@ -205,6 +228,10 @@ constexpr Entry entries[] = {
     {large, groundColours, u"add fav", onGroundColours<&frm_GroundColorize::addFavourite>},
 
     {large, wxControl, u"selectflight", selectFlight},
+    {large, wxControl, u"wxfinder", findWeather},
+    {large, coverReport, u"process metar string", processReport},
+    {large, wxControl, u"flynow", flyNowKey},
+    {standard, wxControl, u"clearfilter", clearFilter},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

@@ -41,6 +41,8 @@ public:
 
     /// What each visit begins with: the window's keys, the title, the contents.
     virtual void format() = 0;
+    /// Shows what was changed elsewhere while the page may stand.
+    virtual void refresh() {}
 
 protected:
     Paper* paper() const { return paper_; }

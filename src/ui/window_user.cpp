@@ -95,6 +95,8 @@ void WindowUser::refreshScreen(Screen screen) {
         shell_->refreshMainStatus();
     else if (auto* host = qobject_cast<HostForm*>(form))
         host->formatList();
+    else if (auto* page = qobject_cast<PageForm*>(form))
+        page->refresh();
 }
 
 void WindowUser::minimiseProgram() {

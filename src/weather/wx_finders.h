@@ -1,10 +1,14 @@
 #pragma once
 
 #include "core/keyed_collection.h"
+#include "weather/cycle_lines.h"
 
 namespace morvane {
 
+class FilePath;
+class RowSet;
 class Session;
+struct WeatherEndpoint;
 
 /// The decoded report of one station. The texts are those that the decoder gives.
 struct clsWxFinder {
@@ -46,8 +50,8 @@ inline const QString& nameOf(const clsWxFinder& record) {
 /// A row of `DECODED_METAR`: the report and the station's position, signed decimal degrees with ".".
 struct DecodedMetarRow {
     clsWxFinder report;
-    QString latitude;  ///< empty: what the row has stays
-    QString longitude; ///< the same
+    QString latitude = {};  ///< empty: what the row has stays; a new row takes its airport's
+    QString longitude = {}; ///< the same
 };
 
 /// The whole of `DECODED_METAR` in memory, in the order of the station codes.
@@ -61,23 +65,55 @@ public:
     std::int16_t findIndex(const QString& icao) const { return findName(icao); }
     /// False after the message of a failure; the collection then holds what was read so far.
     bool getMetarsFromDB();
+    // These two put a fresh collection into `gWxFinders`: the one that was asked may be gone afterwards.
+    // False after a cancel or the message of a failure. For `picture` see Message.
+    bool getMetarsFromNOAA(const QString& picture = {});
+    bool getMetarsFromASv6(const QString& picture = {});
 
 private:
     Session& session_;
 };
 
-/// Runs the statements; it fills the session's collection, whichever one asked.
+/// Runs the statements and the loads; it fills the session's collection, whichever one asked.
 class clsWxFinderData {
 public:
-    explicit clsWxFinderData(Session& session) : session_(session) {}
+    explicit clsWxFinderData(Session& session, const QString& picture = {})
+        : session_(session), picture_(picture) {}
 
+    /// Adds every row of the table to the collection; a session that knows no cycle yet takes its fields from
+    /// the row of KSEA.
     bool GetWeatherFromDb();
+    /// Fetches the last hour's cycle file into "\\METAR", stores its reports and reloads the collection. The
+    /// old one stays until the file is there.
+    bool GetWeatherFromNOAA();
+    /// Stores the reports of Active Sky's export file and reloads the collection.
+    bool GetWeatherFromASv6();
+    /// The same two with a file that is there already: a cycle file of that form as of this hour, an export
+    /// file as of its own time.
+    bool importCycleFile(const FilePath& file, CycleForm form);
+    bool importExportFile(const FilePath& file);
+
+    /// The station's row, or all rows for a blank code.
+    RowSet getDecodedMetar(const QString& icao) const;
     /// Writes over the station's row or adds one; other stations keep theirs, however old. False after the
     /// message of a failure.
     bool insertDecodedMetar(const DecodedMetarRow& decoded);
 
+    /// 1 to 12 for an English month's name; 0 for anything else.
+    static std::int16_t getMonthNumber(const QString& name);
+
 private:
+    bool downloadCycle(const WeatherEndpoint& endpoint, const FilePath& file);
+    void loadCycleFile(const FilePath& file, CycleForm form);
+    void loadExportFile(const FilePath& file);
+    void storeReports(const QStringList& lines, const QString& year, double step);
+    void storeReport(const DecodedMetarRow& decoded);
+    void writeRow(const DecodedMetarRow& decoded);
+    void showProgress(const QString& text, bool withCancel = false) const;
+    void takeCycleOf(const clsWxFinder& reference);
+
     Session& session_;
+    QString picture_; ///< beside the progress messages
 };
 
 } // namespace morvane

@@ -130,18 +130,18 @@ TEST_F(SimulatorLaunchTest, theRoadAsksForTheSetsThenAFlightThenTheSimulator) {
         return found;
     };
     install.user.answersToGive = {false, false, true};
-    EXPECT_EQ(flyNow(session), -1);
+    EXPECT_EQ(flyWithCover(session), -1);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Start Predefined Flight"_s,
                                      u"Launch Flight Simulator?"_s}));
     EXPECT_EQ(startsIn(install.simulator(), 1).size(), 1);
     chooseFlight(u"Evening"_s, true);
     install.user.answersToGive = {false, true};
-    flyNow(session);
+    flyWithCover(session);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Start Predefined Flight"_s}));
     EXPECT_EQ(startsIn(install.simulator(), 2).size(), 2);
     session.IsWideClient = true;
     install.user.answersToGive = {false};
-    flyNow(session);
+    flyWithCover(session);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Processing Complete"_s}));
 }
 

@@ -1,19 +1,14 @@
 #include "ui/controls/set_table.h"
 
 #include "core/literals.h"
-#include "ui/controls/labels.h"
-#include "ui/controls/paper_drawing.h"
+#include "ui/controls/table_look.h"
 
 #include <QHeaderView>
-#include <QPainter>
-#include <QScrollBar>
-#include <QStyledItemDelegate>
 
 namespace morvane {
 
 namespace {
 
-constexpr int headHeight = 22, rowHeight = 20;
 constexpr int keyRole = Qt::UserRole, colourRole = Qt::UserRole + 1;
 
 /// Sorts without regard to case, as a reader expects of names.
@@ -24,43 +19,6 @@ public:
         return text(column).compare(other.text(column), Qt::CaseInsensitive) < 0;
     }
 };
-
-class RowDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return {QStyledItemDelegate::sizeHint(option, index).width(), rowHeight};
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const QColor colour = option->palette.color(QPalette::Text);
-        option->palette.setColor(QPalette::HighlightedText, colour); // a selected row keeps its colour
-    }
-};
-
-/// The list's head where it lies over the scroll bar.
-class HeadEnd : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        drawListHead(painter, rect(), false);
-    }
-};
-
-void setUpHead(QHeaderView& head) {
-    head.setFixedHeight(headHeight);
-    head.setFont(fontOf(TextRole::listHead));
-    head.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    head.setSectionsClickable(true);
-    head.setHighlightSections(false);
-    head.setMinimumSectionSize(22);
-    head.setSectionsMovable(false);
-}
 
 /// In the order shown.
 template <typename Predicate>
@@ -81,19 +39,8 @@ QRgb paintedColour(QRgb stored) {
 
 SetTable::SetTable(QWidget* parent) : QTreeWidget(parent) {
     setAccessibleName(u"Texture sets"_s);
-    setFont(fontOf(TextRole::body));
-    setItemDelegate(new RowDelegate(this));
     setSelectionMode(ExtendedSelection);
-    setEditTriggers(NoEditTriggers);
-    setRootIsDecorated(false);
-    setIndentation(0);
-    setUniformRowHeights(true);
-    setAllColumnsShowFocus(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setUpHead(*header());
-    auto* headEnd = new HeadEnd(this);
-    headEnd->setFixedHeight(headHeight);
-    addScrollBarWidget(headEnd, Qt::AlignTop);
+    giveTableLook(*this);
     connect(header(), &QHeaderView::sectionClicked, this, &SetTable::sortBy);
     // A click on a row's check box checks it and goes nowhere, so it tells nothing of that row.
     connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
@@ -174,16 +121,6 @@ void SetTable::keyPressEvent(QKeyEvent* event) {
     QTreeWidget::keyPressEvent(event);
     const QTreeWidgetItem* now = currentItem();
     if (now && now != before) Q_EMIT rowClicked(now->data(0, keyRole).toString());
-}
-
-void SetTable::focusInEvent(QFocusEvent* event) {
-    QTreeWidget::focusInEvent(event);
-    update(); // its border shows the focus
-}
-
-void SetTable::focusOutEvent(QFocusEvent* event) {
-    QTreeWidget::focusOutEvent(event);
-    update();
 }
 
 } // namespace morvane

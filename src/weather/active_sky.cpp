@@ -1,0 +1,124 @@
+#include "weather/active_sky.h"
+
+#include "core/file_helpers.h"
+#include "core/registry.h"
+#include "weather/wx_finders.h"
+
+namespace morvane {
+
+namespace {
+
+constexpr int writingSeconds = 15;
+
+/// Wanted: each part is tested by itself, so 7.0.1 is not supported.
+bool isSupported(const QString& version) {
+    return versionPart(version, 0) >= 6 && versionPart(version, 1) >= 0 && versionPart(version, 2) >= 5121;
+}
+
+QDateTime timeOf(const QString& text) {
+    return QDateTime::fromString(text, u"yyyy/MM/dd hh:mm:ss"_s);
+}
+
+/// False after the message of what is missing.
+bool hasProgram(Session& session, QString& path) {
+    const auto tell = [&](const QString& title, const QString& text) {
+        session.user.showMessage({MessageKind::exclamation, title, text});
+        return false;
+    };
+    if (!FolderExists(session.files, path))
+        return tell(
+            u"Path not found"_s,
+            u"ASv6.exe could not be detected at the path found in your registry setting. Please check "
+            "that the computer where ASv6 is installed is switched on or that the path "_s +
+                path + u" actually exists"_s);
+    if (!FileExists(session.files, FilePath(path) / u"ASv6.exe"))
+        return tell(
+            u"ASv6.exe not found"_s,
+            u"ASv6.exe could not be detected at the path found in your registry setting, please check "
+            "the path is correct or reinstall ASv6"_s);
+    return true;
+}
+
+} // namespace
+
+void findActiveSky(Session& session) {
+    WeatherState& weather = session.weather;
+    weather.ASv6VersionOK = false;
+    QString path = StripBackslash(
+        session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Install_Path"_s));
+    weather.ASv6Present = !path.isEmpty();
+    if (!weather.ASv6Present) return;
+    weather.ASv6Local = session.registry.RegValueIsDword(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Local"_s);
+    weather.ASv6Present = hasProgram(session, path);
+    weather.ASv6Path = FilePath(path);
+    if (!weather.ASv6Present) return;
+    weather.ASv6VersionOK = isSupported(getFileVersionText(session.files, weather.ASv6Path / u"ASv6.exe"));
+    if (!weather.ASv6VersionOK) return;
+    // So any real cycle counts as newer than none.
+    weather.ASv6ExportDate = QDateTime(QDate(1900, 1, 1), QTime(1, 1, 1));
+    if (!FileExists(session.files, exportCycleFile(session))) return;
+    weather.ASv6ExportDate = exportCycleTime(session, exportCycleFile(session));
+    weather.ASv6Present = weather.ASv6ExportDate.isValid();
+}
+
+FilePath exportCycleFile(const Session& session) {
+    return session.weather.ASv6Path / u"Export_Cycle.dat";
+}
+
+QDateTime exportCycleTime(Session& session, const FilePath& file) {
+    return timeOf(GetFileTime(session, file));
+}
+
+bool ActiveSky::refresh() {
+    if (session_.weather.ASv6Local && !platform_.isWindowOpen(u"ASv6"_s)) {
+        const QDateTime baseTime = FileExists(session_.files, exportCycleFile(session_))
+                                       ? getExportCycleTime()
+                                       : session_.clock.localTime();
+        platform_.startASv6(session_);
+        waitForExportCycle(baseTime);
+        if (session_.ExitInProgress) return false;
+    }
+    return clsWxFinderData(session_, u"ASv6.jpg"_s).GetWeatherFromASv6();
+}
+
+bool ActiveSky::isExportCycleUpdated(const QDateTime& baseTime) {
+    return FileExists(session_.files, exportCycleFile(session_)) && getExportCycleTime() != baseTime;
+}
+
+QDateTime ActiveSky::getExportCycleTime() {
+    return exportCycleTime(session_, exportCycleFile(session_));
+}
+
+void ActiveSky::waitForExportCycle(const QDateTime& baseTime) {
+    session_.weather.ASv6Busy = true;
+    Message message{MessageKind::progress,
+                    u"ASv6 Processing Wx Data"_s,
+                    u"Active Sky is processing your weather data. Please wait..........."_s,
+                    false,
+                    false,
+                    true};
+    message.picture = u"ASv6Process.gif"_s;
+    session_.user.showMessage(message);
+    while (!session_.ExitInProgress && !isExportCycleUpdated(baseTime)) {
+        session_.user.pumpMessages();
+        platform_.rest();
+    }
+    message.title = u"......ASv6 Writing File......"_s;
+    message.hasQuietTitle = true;
+    message.picture.clear();
+    if (!session_.ExitInProgress) session_.user.showMessage(message);
+    session_.weather.ASv6Busy = false;
+    giveTimeToWrite();
+}
+
+/// A new time means that Active Sky has begun to write. The message loop runs on meanwhile, with every window
+/// but the message's blocked by it.
+void ActiveSky::giveTimeToWrite() {
+    const QDateTime end = session_.clock.utcTime().addSecs(writingSeconds);
+    while (!session_.ExitInProgress && session_.clock.utcTime() < end) {
+        session_.user.pumpMessages();
+        platform_.rest();
+    }
+}
+
+} // namespace morvane

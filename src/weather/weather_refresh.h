@@ -1,0 +1,12 @@
+#pragma once
+
+#include "weather/active_sky.h"
+
+namespace morvane {
+
+/// Gets the newest cycle, from a supported Active Sky or from the weather server, after a question where the
+/// table holds rows already (frm_metar_request). Without any report afterwards Fly Now is no longer offered
+/// (WeatherState::FlyNowDisabled); after a load that failed it stays as it was.
+void refreshWeather(Session& session, ActiveSkyPlatform& platform = systemActiveSky());
+
+} // namespace morvane

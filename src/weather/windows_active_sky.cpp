@@ -1,0 +1,34 @@
+#include "weather/active_sky.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+namespace morvane {
+
+namespace {
+
+constexpr DWORD restMilliseconds = 20;
+
+const wchar_t* wide(const QString& text) {
+    return reinterpret_cast<const wchar_t*>(text.utf16());
+}
+
+class WindowsActiveSky : public ActiveSkyPlatform {
+public:
+    bool isWindowOpen(const QString& title) override { return FindWindowW(nullptr, wide(title)) != nullptr; }
+    void startASv6(Session& session) override {
+        const QString program = (session.weather.ASv6Path / u"ASv6.exe").text();
+        ShellExecuteW(nullptr, L"Open", wide(program), L"Hide", nullptr, SW_SHOWNORMAL);
+    }
+    void rest() override { Sleep(restMilliseconds); }
+};
+
+} // namespace
+
+ActiveSkyPlatform& systemActiveSky() {
+    static WindowsActiveSky platform;
+    return platform;
+}
+
+} // namespace morvane

@@ -1,0 +1,195 @@
+#include "weather/active_sky.h"
+
+#include "core/file_helpers.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+#include "weather/weather_refresh.h"
+#include "weather/wx_finders.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::writeFile;
+
+/// Notes what it is asked for, and lets the clock stand in for a rest.
+class ScriptedPlatform : public ActiveSkyPlatform {
+public:
+    explicit ScriptedPlatform(test::ScriptedClock& clock) : clock_(clock) {}
+    bool isWindowOpen(const QString& title) override { return isRunning && title == u"ASv6"; }
+    void startASv6(Session&) override { ++starts; }
+    void rest() override {
+        clock_.now = clock_.now.addSecs(1);
+        ++rests;
+        onRest();
+    }
+
+    bool isRunning = false;
+    int starts = 0, rests = 0;
+    std::function<void()> onRest = [] {};
+
+private:
+    test::ScriptedClock& clock_;
+};
+
+class ActiveSkyTest : public testing::Test {
+protected:
+    ActiveSkyTest() {
+        install.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey);
+        setValue(u"Install_Path"_s, folder.native() + u'\\');
+        user.onModal = [this](Screen) { session.modal.metarRequested = true; };
+        session.weather.MetarDataLoaded = true;
+    }
+
+    void setValue(const QString& name, const QString& text) {
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, name, text);
+    }
+    void makeLocal() {
+        QByteArray text = test::readFile(install.home() / u"registry.ini");
+        writeFile(install.home() / u"registry.ini",
+                  text.replace("Install_Path=", "Local=dword:00000001\r\nInstall_Path="));
+    }
+    /// A program of that file version: only its fixed version record counts.
+    void writeProgram(int major, int minor, int build) {
+        QByteArray record("MZ\xbd\x04\xef\xfe\0\0\1\0", 10);
+        for (const int part : {minor, major, 0, build})
+            record.append(static_cast<char>(part % 256)).append(static_cast<char>(part / 256));
+        writeFile(folder / u"ASv6.exe", record);
+    }
+    void writeExport(const QByteArray& text, const QTime& time) {
+        writeFile(exported, text);
+        QFile opened(exported.native());
+        ASSERT_TRUE(opened.open(QIODevice::ReadWrite));
+        opened.setFileTime(QDateTime(QDate(2007, 10, 14), time), QFileDevice::FileModificationTime);
+    }
+    QString found() {
+        user.messages.clear();
+        findActiveSky(session);
+        const WeatherState& weather = session.weather;
+        return QString(weather.ASv6Present ? u"present "_s : u"absent "_s) +
+               (weather.ASv6VersionOK ? u"supported"_s : u"refused"_s);
+    }
+    void makeSupported() {
+        install.files.makeFolder(folder);
+        writeProgram(6, 0, 5121);
+        EXPECT_EQ(found(), u"present supported"_s);
+    }
+
+    test::SmallInstall install;
+    test::ScriptedUser& user = install.user;
+    Session& session = install.session;
+    FilePath folder = install.folder / u"ASv6 Ünï", exported = folder / u"Export_Cycle.dat";
+    ScriptedPlatform platform{install.clock};
+};
+
+TEST_F(ActiveSkyTest, isFoundStepByStep) {
+    EXPECT_EQ(found(), u"absent refused"_s);
+    EXPECT_EQ(
+        user.told(),
+        QStringList{u"Exclamation|Path not found|ASv6.exe could not be detected at the path found in your "
+                    u"registry setting. Please check that the computer where ASv6 is installed is switched "
+                    u"on or that the path "_s +
+                    folder.native() + u" actually exists"_s});
+    install.files.makeFolder(folder);
+    EXPECT_EQ(found(), u"absent refused"_s);
+    ASSERT_EQ(user.told().size(), 1);
+    EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|ASv6.exe not found|"_s));
+    const std::tuple<int, int, int, bool> versions[] = {
+        {6, 0, 5120, false}, {6, 0, 5121, true}, {7, 0, 1, false}, {5, 9, 9999, false}, {7, 3, 6000, true}};
+    for (const auto& [major, minor, build, isSupported] : versions) {
+        writeProgram(major, minor, build);
+        EXPECT_EQ(found(), isSupported ? u"present supported"_s : u"present refused"_s) << major << build;
+    }
+    EXPECT_EQ(FormatSystemTimeDate(session.weather.ASv6ExportDate), u"1900/01/01"_s);
+    writeExport("EHAM", {14, 7});
+    EXPECT_EQ(found(), u"present supported"_s);
+    EXPECT_EQ(session.weather.ASv6ExportDate, QDateTime(QDate(2007, 10, 14), QTime(14, 7)));
+    EXPECT_FALSE(session.weather.ASv6Local);
+    makeLocal();
+    EXPECT_EQ(found(), u"present supported"_s);
+    EXPECT_TRUE(session.weather.ASv6Local && user.told().isEmpty());
+    setValue(u"Install_Path"_s, u" "_s);
+    EXPECT_EQ(found(), u"absent refused"_s);
+}
+
+TEST_F(ActiveSkyTest, itsFileGivesAllItsLinesAndTheCycleItsOwnTime) {
+    makeSupported();
+    const std::pair<QByteArray, int> cases[] = {{"EHAM 1\r\nKSEA 141353Z\r\n", 2}, {"EGLL 3\r\nLFPG 4", 4}};
+    for (const auto& [text, count] : cases) {
+        writeExport(text, {14, 7});
+        session.gWxFinders = std::make_unique<clsWxFinders>(session);
+        ASSERT_TRUE(session.gWxFinders->getMetarsFromASv6());
+        EXPECT_EQ(session.gWxFinders->Count(), count) << "no empty line, and the last one too";
+    }
+    const auto ksea = session.gWxFinders->GetKey(u"KSEA"_s);
+    EXPECT_EQ(ksea->WxFinderCycle + ksea->WxFinderMonth + ksea->WxFinderYear, u"14May2007"_s)
+        << "the file's hour, the clock's month and year";
+    EXPECT_EQ(session.weather.MetarCycleDay, 14);
+    install.files.remove(exported);
+    const auto* before = session.gWxFinders.get();
+    EXPECT_FALSE(session.gWxFinders->getMetarsFromASv6());
+    EXPECT_EQ(session.gWxFinders.get(), before);
+    ASSERT_EQ(user.told().size(), 1);
+    EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|File Download Error!|File not found"_s));
+}
+
+TEST_F(ActiveSkyTest, isStartedOnlyHereAndOnlyWhenItDoesNotRun) {
+    makeSupported();
+    writeExport("EHAM 1\n", {14, 7});
+    struct Case {
+        bool isLocal, isRunning;
+        int starts;
+    };
+    for (const auto& [isLocal, isRunning, starts] :
+         {Case{false, false, 0}, {true, true, 0}, {true, false, 1}}) {
+        session.weather.ASv6Local = isLocal;
+        platform.isRunning = isRunning;
+        platform.onRest = [this] { writeExport("EHAM 1\n", {13, 9}); }; // going back counts, too
+        refreshWeather(session, platform);
+        EXPECT_EQ(platform.starts, starts);
+        EXPECT_EQ(session.gWxFinders->Count(), 1);
+    }
+    EXPECT_EQ(session.modal.metarRequestText,
+              u"Do you wish Morvane import and decode the latest METAR cycle from Active Sky?"_s);
+    EXPECT_EQ(platform.rests, 16) << "one look, and fifteen seconds for the file to be whole";
+    QStringList shown;
+    for (const Message& message : user.messages)
+        if (message.picture != u"ASv6.jpg") shown << message.title + u'|' + message.picture;
+    EXPECT_EQ(shown, (QStringList{u"ASv6 Processing Wx Data|ASv6Process.gif"_s,
+                                  u"......ASv6 Writing File......|"_s}));
+    EXPECT_FALSE(session.weather.ASv6Busy || user.isMessageVisible());
+}
+
+TEST_F(ActiveSkyTest, aMissingFileIsWaitedForFromNowOn) {
+    makeSupported();
+    session.weather.ASv6Local = true;
+    platform.onRest = [this] {
+        EXPECT_EQ(session.weather.ASv6Busy, platform.rests <= 5);
+        if (platform.rests == 5) writeExport("EHAM 1\n", {14, 7});
+    };
+    refreshWeather(session, platform);
+    EXPECT_EQ(platform.rests, 20);
+    EXPECT_EQ(session.gWxFinders->Count(), 1);
+}
+
+TEST_F(ActiveSkyTest, theEndOfTheProgramEndsTheWait) {
+    makeSupported();
+    session.weather.ASv6Local = true;
+    for (const int closedAt : {3, 40}) {
+        session.ExitInProgress = false;
+        session.gWxFinders.reset();
+        platform.rests = 0;
+        platform.onRest = [&] {
+            if (platform.rests == 30) writeExport("EHAM 1\n", {14, 7});
+            if (platform.rests == closedAt) session.ExitInProgress = true;
+        };
+        refreshWeather(session, platform);
+        EXPECT_EQ(platform.rests, closedAt);
+        EXPECT_EQ(session.gWxFinders->Count(), 0) << "nothing is read on the way out";
+    }
+}
+
+} // namespace
+} // namespace morvane

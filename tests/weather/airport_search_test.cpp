@@ -1,0 +1,101 @@
+#include "weather/airport_search.h"
+
+#include "support/printing.h"
+#include "support/small_install.h"
+#include "weather/directory_rows.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+struct AirportSearchTest : testing::Test {
+    AirportSearchTest() {
+        test::addAirports(
+            session,
+            {{u"KORD"_s, u"O'Hare International"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, {}, {}},
+             {u"KSEA"_s, u"Seattle Tacoma"_s, u"Seattle"_s, u"Washington"_s, u"United States"_s, {}, {}},
+             {u"KBFI"_s, u"Boeing Field"_s, u"Seattle"_s, u"Washington"_s, u"United States"_s, {}, {}},
+             {u"DIAP"_s, u"Abidjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, {}, {}},
+             {u"ESSB"_s, u"Östersund_2"_s, u"Östersund"_s, u""_s, u"Sweden"_s, {}, {}}});
+    }
+    QString found(const AirportFilter& filter = {}) {
+        QStringList codes;
+        const FoundAirports airports = popAirports(session, filter);
+        for (const Airport& airport : airports.airports)
+            codes << airport.icao;
+        return codes.join(u' ') + u": "_s + airports.countLine;
+    }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    WeatherState& weather = session.weather;
+};
+
+TEST_F(AirportSearchTest, boxesFindBeginningsWhateverTheirCase) {
+    const struct {
+        SearchBox box;
+        QString text, codes;
+    } cases[] = {
+        {SearchBox::icao, u"k"_s, u"KBFI KORD KSEA: 3 Airports Found"_s},
+        {SearchBox::icao, u" ksea "_s, u"KSEA: 1 Airports Found"_s},
+        {SearchBox::airportName, u"o'h"_s, u"KORD: 1 Airports Found"_s},
+        {SearchBox::airportName, u"öst"_s, u"ESSB: 1 Airports Found"_s},
+        {SearchBox::airportName, u"%_2"_s,
+         u"ESSB: 1 Airports Found"_s}, // stand for letters, and break nothing
+        {SearchBox::city, u"SEA"_s, u"KSEA KBFI: 2 Airports Found"_s},
+        {SearchBox::city, u"'"_s, u": No Airports Found"_s},
+        {SearchBox::city, u"tacoma"_s, u": No Airports Found"_s},
+    };
+    for (const auto& [box, text, codes] : cases) {
+        EXPECT_TRUE(searchAirports(weather, box, text));
+        EXPECT_EQ(found(), codes) << text.toStdString();
+    }
+}
+
+TEST_F(AirportSearchTest, anEmptiedBoxLeavesTheSearchAsItIs) {
+    searchAirports(weather, SearchBox::airportName, u"O'Hare"_s);
+    EXPECT_FALSE(searchAirports(weather, SearchBox::city, u"  "_s));
+    EXPECT_EQ(weather.AirportQueryWhere, u" WHERE AIRPORT_NAME LIKE 'O''Hare%'"_s);
+    EXPECT_EQ(weather.AirportQueryOrder, u" ORDER BY AIRPORT_NAME"_s);
+}
+
+TEST_F(AirportSearchTest, filtersNarrowTheSearch) {
+    EXPECT_EQ(found({u"côte d'ivoire"_s, {}, {}}), u"DIAP: 1 Airports Found"_s);
+    EXPECT_EQ(found({{}, u"Washington"_s, {}}), u"KSEA KBFI: 2 Airports Found"_s);
+    searchAirports(weather, SearchBox::icao, u"K"_s);
+    const AirportFilter seattle{u"United States"_s, u"Washington"_s, u"Seattle"_s};
+    EXPECT_EQ(found(seattle), u"KBFI KSEA: 2 Airports Found"_s);
+    // The two blanks of the city's term have always been there.
+    EXPECT_EQ(narrowedWhere(weather, seattle),
+              u" WHERE ICAO LIKE 'K%' AND  COUNTRY = 'United States' AND  STATE "
+              u"= 'Washington' AND  CITY =  'Seattle'"_s);
+    weather.AirportQueryWhere.clear();
+    EXPECT_EQ(narrowedWhere(weather, {{}, {}, u"Seattle"_s}), u" WHERE  CITY =  'Seattle'"_s);
+}
+
+TEST_F(AirportSearchTest, listsHoldEachValueOnceAndLeaveOutWhatIsNone) {
+    EXPECT_EQ(popCountries(session, {}).values,
+              (QStringList{u"Côte d'Ivoire"_s, u"Sweden"_s, u"United States"_s}));
+    EXPECT_EQ(popCountries(session, {}).countLine, u"3 Countries Found"_s);
+    EXPECT_EQ(popStates(session, {}).values, (QStringList{u"Illinois"_s, u"Washington"_s}));
+    EXPECT_EQ(popStates(session, u" WHERE CITY = 'Seattle'"_s).countLine, u"1 States Found"_s);
+    EXPECT_EQ(popStates(session, u" WHERE COUNTRY = 'Sweden'"_s).countLine, u"0 States Found"_s);
+    EXPECT_EQ(popCities(session, narrowedWhere(weather, {u"United States"_s, {}, {}})).values,
+              (QStringList{u"Chicago"_s, u"Seattle"_s}));
+    EXPECT_EQ(popCities(session, u" WHERE CITY LIKE 'x%'"_s).countLine, u"0 Cities Found"_s);
+}
+
+TEST_F(AirportSearchTest, anEmptyQueryLeavesTheRecordSetAsItIs) {
+    std::optional<RowSet> rows;
+    clsAirportData directory(session);
+    directory.getAirportData(u"SELECT * FROM AIRPORTDATA WHERE ICAO = 'KSEA'"_s, rows);
+    directory.getAirportData({}, rows);
+    ASSERT_TRUE(rows);
+    EXPECT_EQ(airportOf(*rows).name, u"Seattle Tacoma"_s);
+    EXPECT_EQ(findAirport(session, u"essb"_s)->city, u"Östersund"_s);
+    EXPECT_FALSE(findAirport(session, u"XX'X"_s));
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,239 @@
+#include "core/application.h"
+#include "core/row_set.h"
+#include "core/store.h"
+#include "loopback_server.h"
+#include "support/faulty_store.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+#include "weather/weather_endpoint.h"
+#include "weather/weather_refresh.h"
+#include "weather/wx_finders.h"
+
+#include <QCoreApplication>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::writeFile;
+
+const QString noData =
+    u"Information|No Metar Data|There is no METAR data in the data base.  Until you download "
+    "a METAR cycle no weather data can be displayed"_s;
+
+class CycleLoading : public testing::Test {
+protected:
+    CycleLoading() {
+        install.clock.now = QDateTime(QDate(2007, 6, 1), QTime(10, 12), Qt::UTC);
+        install.user.onModal = [this](Screen screen) {
+            if (screen == Screen::frm_metar_request) session.modal.metarRequested = isRequested;
+        };
+    }
+
+    void setValue(const QString& name, const QString& text) {
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, text);
+    }
+    bool importLines(const QByteArray& text, CycleForm form = CycleForm::plain) {
+        writeFile(file, text);
+        return clsWxFinderData(session).importCycleFile(file, form);
+    }
+    /// The rows, fields joined by "|", rows by "/".
+    QString rows(const QString& fields) {
+        QStringList lines;
+        for (RowSet set(*session.adoConn, u"SELECT * FROM DECODED_METAR ORDER BY ID"_s); !set.atEnd();
+             set.next()) {
+            QStringList texts;
+            for (const QString& field : fields.split(u'|'))
+                texts << set.text(u"METAR_"_s + field);
+            lines << texts.join(u'|');
+        }
+        return lines.join(u'/');
+    }
+    QString cycle() const {
+        const WeatherState& weather = session.weather;
+        return u"%1/%2/%3 %4"_s.arg(weather.MetarCycleYear)
+            .arg(weather.MetarCycleMonth)
+            .arg(weather.MetarCycleDay)
+            .arg(weather.MetarCycleHour);
+    }
+
+    int argumentCount = 0;
+    QCoreApplication application{argumentCount, nullptr};
+    test::SmallInstall install;
+    test::ScriptedUser& user = install.user;
+    Session& session = install.session;
+    FilePath file = install.folder / u"cycle.txt";
+    bool isRequested = true;
+};
+
+TEST_F(CycleLoading, everyLineButTheLastBecomesTheRowOfItsFirstWord) {
+    const QString lines = u"2011/11/23 01:53|KSEA 230153Z 03007KT 10SM OVC030 08/06 A2992 RMK AO2|"
+                          u"|EHAM 230155Z 24015KT 9999 FEW020 12/08|EGLL 230150Z Q1018"_s;
+    for (const char16_t* end : {u"\n", u"\r\n"}) {
+        ASSERT_TRUE(importLines(QString(lines).replace(u"|"_s, QString::fromUtf16(end)).toLatin1()));
+        // No report is no reason to be left out; without a pressure group a blank stays at the end.
+        EXPECT_EQ(rows(u"ICAO|STRING"_s),
+                  u"2011/11/23|2011/11/23 01:53 /KSEA|KSEA 230153Z 03007KT 10SM OVC030 08/06 A2992/|/"
+                  "EHAM|EHAM 230155Z 24015KT 9999 FEW020 12/08 "_s);
+        EXPECT_EQ(session.gWxFinders->Count(), 4);
+    }
+    EXPECT_TRUE(user.told().isEmpty());
+}
+
+TEST_F(CycleLoading, theServicesFormKeepsTheNewestReportOfEachStation) {
+    const QByteArray text = "2011/11/23 01:53\nKSEA newest\n\n2011/11/23 00:53\nKSEA older\n\n"
+                            "2011/11/23 01:53\nEHAM first\n\n2011/11/23 01:53\nEHAM second\n\n"
+                            "2011/11/22 23:00\nEGLL last";
+    EXPECT_TRUE(importLines(text, CycleForm::noaa));
+    EXPECT_EQ(rows(u"STRING"_s), u"EGLL last /EHAM second /KSEA newest "_s);
+    EXPECT_TRUE(importLines("", CycleForm::noaa)); // nothing to read, nothing lost
+    EXPECT_EQ(session.gWxFinders->Count(), 3);
+}
+
+TEST_F(CycleLoading, aLaterCycleWritesOverAStationAndLeavesTheOthers) {
+    session.adoConn->execute(u"INSERT INTO AIRPORTDATA(ICAO, LAT, LONG) VALUES ('EHAM', '52.3', '4.7')"_s);
+    importLines("EHAM 230155Z OVC010\nKSEA 230153Z CLR\n");
+    session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = '47.4' WHERE METAR_ICAO = 'KSEA'"_s);
+    install.clock.now = install.clock.now.addSecs(3600);
+    importLines("EGLL 230250Z\nEHAM 230255Z FEW010\n");
+    importLines("ksea 230253Z\n");
+    EXPECT_EQ(rows(u"ICAO|CYCLE|MAX_CLOUD|LAT|LONG"_s), u"EHAM|10|2|52.3|4.7/ksea|10|0|47.4|/EGLL|10|0||"_s);
+    EXPECT_EQ(rows(u"MONTH|YEAR"_s), u"June|/June|/June|"_s) << "the clock's month, and no year";
+    EXPECT_EQ(session.gWxFinders->GetKey(u"EHAM"_s)->WxFinderYear, "2007");
+}
+
+TEST_F(CycleLoading, theCycleIsTheHourBeforeOnTheSameDay) {
+    const std::pair<QTime, QString> cases[] = {{QTime(10, 59), u"2007/6/1 9"_s},
+                                               {QTime(0, 30), u"2007/6/1 23"_s}, // wanted: not May 31st
+                                               {QTime(1, 0), u"2007/6/1 0"_s}};
+    for (const auto& [time, expected] : cases) {
+        install.clock.now = QDateTime(QDate(2007, 6, 1), time, Qt::UTC);
+        importLines("KSEA 230153Z\n");
+        EXPECT_EQ(cycle(), expected);
+    }
+}
+
+TEST_F(CycleLoading, aStoredTableTellsItsCycleByOneStation) {
+    importLines("EHAM 230155Z\nKSEA 230153Z\nKSEB 240153Z\n");
+    const auto reloaded = [this] {
+        session.weather = {};
+        EXPECT_TRUE(clsWxFinders::reload(session));
+        EXPECT_TRUE(session.weather.MetarDataLoaded);
+        return cycle();
+    };
+    EXPECT_EQ(reloaded(), u"2007/6/23 9"_s);
+    importLines("KSEA NIL\n");
+    EXPECT_EQ(reloaded(), u"2007/6/0 9"_s) << "without a date no day is known";
+    session.adoConn->execute(u"DELETE FROM DECODED_METAR WHERE METAR_ICAO = 'KSEA'"_s);
+    EXPECT_EQ(reloaded(), u"0/0/0 0"_s);
+}
+
+TEST_F(CycleLoading, aLineThatTheTableDoesNotTakeCostsThatLine) {
+    const QByteArray text = "EHAM 1\n" + QByteArray(1 << 20, 'A') + "\nE'LL 2\n" + QByteArray("B\0B", 3) +
+                            " \xFF\xE9 3\nKSEA 4\n";
+    EXPECT_TRUE(importLines(text));
+    EXPECT_EQ(rows(u"STRING"_s), u"EHAM 1 /E'LL 2 /B B ÿé 3 /KSEA 4 "_s);
+    ASSERT_EQ(user.told().size(), 1);
+    EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|Metar Decode Error!|"_s));
+}
+
+TEST_F(CycleLoading, aStoreThatCannotBeWrittenEndsTheLoadWithOneMessage) {
+    importLines("EHAM 1\nKSEA 2\n");
+    closeDatabase(session);
+    test::FaultyStoreDisk disk;
+    session.adoConn = std::make_unique<Store>();
+    session.adoConn->open(install.home() / u"Morvane.mdb");
+    QByteArray text;
+    for (int line = 0; line < 8000; ++line)
+        text += "X" + QByteArray::number(line) + " 230155Z 24015KT 9999 FEW020 12/08 Q1012\n";
+    disk.failAt(1, true);
+    EXPECT_FALSE(importLines(text));
+    EXPECT_EQ(user.told().size(), 1);
+    disk.heal();
+    EXPECT_TRUE(clsWxFinders::reload(session));
+    EXPECT_EQ(rows(u"STRING"_s), u"EHAM 1 /KSEA 2 "_s);
+    closeDatabase(session); // before its disk goes
+}
+
+TEST_F(CycleLoading, refreshingFetchesTheHoursFile) {
+    QByteArrayList paths;
+    const LoopbackServer server([&](const QByteArray& path) {
+        paths << path;
+        return LoopbackServer::textReply("2007/06/01 09:50\nKSEA 010950Z\n\n");
+    });
+    setValue(u"WeatherServer"_s, server.address() + u'/');
+    refreshWeather(session);
+    setValue(u"WeatherPath"_s, u"data/cycles"_s);
+    setValue(u"WeatherFormat"_s, u"noaa"_s);
+    refreshWeather(session);
+    EXPECT_EQ(paths, (QByteArrayList{"/weather/09Z.TXT", "/data/cycles/09Z.TXT"}));
+    EXPECT_EQ(rows(u"ICAO"_s), u"2007/06/01/KSEA/"_s);
+    EXPECT_TRUE(install.files.exists(install.home() / u"METAR\\09Z.txt"));
+    // The first one comes without a question and without a picture.
+    EXPECT_EQ(user.calls.count(u"modal frm_metar_request"_s), 1);
+    EXPECT_EQ(user.messages.front().picture, QString());
+    EXPECT_EQ(user.messages.back().picture, u"orrinsoft.jpg"_s);
+    EXPECT_EQ(session.modal.metarRequestText,
+              u"Do you wish Morvane to download and decode the latest METAR cycle from Orrinsoft?"_s);
+    isRequested = false;
+    refreshWeather(session);
+    EXPECT_EQ(server.requests(), 2);
+    EXPECT_TRUE(user.told().isEmpty());
+}
+
+TEST_F(CycleLoading, aRefreshThatFailsLeavesEverythingAndSaysWhy) {
+    importLines("KSEA 230153Z\n");
+    const clsWxFinders* const before = session.gWxFinders.get();
+    const LoopbackServer server(
+        [](const QByteArray&) { return LoopbackServer::statusReply("404 Not Found"); });
+    const std::pair<QString, QString> cases[] = {{{}, u"No weather server is set."_s},
+                                                 {u"ftp://127.0.0.1"_s, u"Type mismatch"_s},
+                                                 {u"http://127.0.0.1:1"_s, u"could not be downloaded"_s},
+                                                 {server.address(), u"Not Found"_s}};
+    for (const auto& [address, reason] : cases) {
+        user.messages.clear();
+        setValue(u"WeatherServer"_s, address);
+        refreshWeather(session);
+        ASSERT_EQ(user.told().size(), 1) << address.toStdString();
+        EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|File Download Error!|"_s));
+        EXPECT_TRUE(user.told()[0].contains(reason)) << user.told()[0].toStdString();
+        EXPECT_EQ(session.gWxFinders.get(), before);
+        EXPECT_FALSE(session.weather.FlyNowDisabled);
+    }
+}
+
+TEST_F(CycleLoading, aCancelEndsTheDownloadWithoutAWord) {
+    const LoopbackServer server([](const QByteArray&) { return LoopbackServer::Reply{"HTTP/1.1", false}; });
+    setValue(u"WeatherServer"_s, server.address());
+    user.onPump = [this] { user.answers().cancelRequested = true; };
+    refreshWeather(session);
+    EXPECT_TRUE(user.told().isEmpty());
+    EXPECT_FALSE(user.isMessageVisible() || user.answers().cancelRequested || session.jobRunning);
+    EXPECT_TRUE(user.messages.front().withCancel);
+}
+
+TEST_F(CycleLoading, anEmptyCycleForAnEmptyTableEndsFlyNow) {
+    const LoopbackServer server([](const QByteArray&) { return LoopbackServer::textReply(""); });
+    setValue(u"WeatherServer"_s, server.address());
+    refreshWeather(session);
+    EXPECT_EQ(user.told(), QStringList{noData});
+    EXPECT_TRUE(session.weather.FlyNowDisabled);
+    EXPECT_TRUE(user.calls.endsWith(u"refresh frm_WxControl"_s));
+}
+
+TEST_F(CycleLoading, onlyTheLoopbackIsReachedWithoutANetwork) {
+    const std::pair<QString, bool> cases[] = {{u"http://127.0.0.1:80"_s, true},
+                                              {u"http://[::1]"_s, true},
+                                              {u"http://localhost"_s, true},
+                                              {u"https://example.org"_s, false}};
+    for (const auto& [address, expected] : cases)
+        EXPECT_EQ(isOnline({QUrl(address), {}, {}}, {}), expected) << address.toStdString();
+}
+
+TEST_F(CycleLoading, aHandmadeMonthIsFoundByItsName) {
+    EXPECT_EQ(clsWxFinderData::getMonthNumber(u" December "_s), 12);
+    EXPECT_EQ(clsWxFinderData::getMonthNumber(u"december"_s), 0);
+}
+
+} // namespace
+} // namespace morvane

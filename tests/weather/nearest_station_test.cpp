@@ -1,0 +1,119 @@
+#include "weather/nearest_station.h"
+
+#include "core/error.h"
+#include "core/numbers.h"
+#include "core/store.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+#include "weather/coordinates.h"
+#include "weather/sample_reports.h"
+#include "weather/stored_reports.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+namespace morvane {
+namespace {
+
+QString decimalOf(QString coordinate) {
+    try {
+        parseLatLong(coordinate);
+        return coordinate;
+    } catch (const Error& error) {
+        return error.description();
+    }
+}
+
+TEST(Coordinates, formsOfAPlan) {
+    const std::pair<QString, QString> cases[] = {
+        {u"N47* 26.99'"_s, u"47.44983"_s},       {u"W122* 18.71'"_s, u"-122.3118"_s},
+        {u"W059* 29.53'"_s, u"-59.49217"_s},     {u"S0* 0.00'"_s, u"0"_s},
+        {u"E9*"_s, u"Subscript out of range"_s}, {u""_s, u"Subscript out of range"_s},
+        {u"N4x7* 1.0'"_s, u"Type mismatch"_s},   {u"N47* '"_s, u"Type mismatch"_s},
+        {u"N 12.0'"_s, u"Type mismatch"_s},
+    };
+    for (const auto& [text, decimal] : cases)
+        EXPECT_EQ(decimalOf(text), decimal) << text.toStdString();
+}
+
+TEST(Coordinates, distances) {
+    EXPECT_EQ(getDistanceNM(47.45, -122.31, 47.45, -122.31), 0);
+    EXPECT_NEAR(getDistanceNM(52.31, 4.76, 47.45, -122.31), 4231, 4) << "EHAM to KSEA";
+    EXPECT_NEAR(getDistanceNM(10, 179.5, 10, -179.5), 59.1, 0.1) << "across the date line";
+    EXPECT_NEAR(getDistanceNM(0, 0, 0, 180), 10800.1, 0.1) << "antipodes: less than half way round";
+}
+
+/// The angle between two directions, by their dot product: another way to the same order of distances.
+double cosineBetween(double latitude1, double longitude1, double latitude2, double longitude2) {
+    const double radian = std::numbers::pi / 180;
+    return std::sin(latitude1 * radian) * std::sin(latitude2 * radian) +
+           std::cos(latitude1 * radian) * std::cos(latitude2 * radian) *
+               std::cos((longitude1 - longitude2) * radian);
+}
+
+/// "161-09-07W" as degrees.
+double degreesOf(const QString& coordinate) {
+    const QStringList parts = coordinate.chopped(1).split(u'-');
+    double degrees = 0;
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part)
+        degrees = degrees / 60 + textToNumber(*part);
+    return coordinate.endsWith(u'W') || coordinate.endsWith(u'S') ? -degrees : degrees;
+}
+
+TEST(NearestStation, isThatOfAPlainSearchOverTheStationList) {
+    test::SmallInstall install;
+    struct Place {
+        QString icao;
+        double latitude, longitude;
+    };
+    std::vector<Place> places;
+    for (const QString& line : splitLines(test::dataText(u"stations/nsd_bbsss.txt"_s))) {
+        const QStringList fields = line.split(u';');
+        if (fields.size() < 9 || fields[2] == u"----") continue;
+        places.push_back({fields[2], degreesOf(fields[7]), degreesOf(fields[8])});
+    }
+    ASSERT_GT(places.size(), 3000u);
+    StoreTransaction transaction(*install.session.adoConn);
+    for (const Place& place : places)
+        test::addStation(install.session, place.icao, 1, place.latitude, place.longitude);
+    transaction.commit();
+    const StationIndex stations(install.session);
+    for (int step = 0; step < 200; ++step) {
+        const double latitude = -85 + 0.85 * step, longitude = std::fmod(step * 37.7, 360) - 180;
+        double best = -2;
+        for (const Place& place : places)
+            best = std::max(best, cosineBetween(latitude, longitude, place.latitude, place.longitude));
+        const QString found = stations.closestTo(latitude, longitude);
+        double ofFound = -2;
+        for (const Place& place : places)
+            if (place.icao == found)
+                ofFound =
+                    std::max(ofFound, cosineBetween(latitude, longitude, place.latitude, place.longitude));
+        EXPECT_NEAR(ofFound, best, 1e-9) << found.toStdString() << " at " << latitude << ' ' << longitude;
+    }
+}
+
+TEST(NearestStation, whichRowsCount) {
+    test::SmallInstall install;
+    Session& session = install.session;
+    const auto nearest = [&](const QString& latitude, const QString& longitude) {
+        return getClosestMetarStation(session, u"XXXX"_s, latitude, longitude);
+    };
+    test::addStation(session, u"NONE"_s, 3);
+    EXPECT_EQ(nearest(u"10"_s, u"10"_s), "") << "no row has a position";
+    test::addStation(session, u"FAR1"_s, 3, -10, -170);
+    EXPECT_EQ(nearest(u"10"_s, u"10"_s), "") << "only the antipode";
+    test::addStation(session, u"TWIN"_s, 3, 10.5, 10);
+    test::addStation(session, u"ALSO"_s, 3, 9.5, 10);
+    EXPECT_EQ(nearest(u"10"_s, u"10"_s), "TWIN") << "the first of equals";
+    session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = 'x' WHERE METAR_ICAO = 'TWIN'"_s);
+    EXPECT_EQ(nearest(u"10"_s, u"10"_s), "ALSO");
+    EXPECT_THROW(nearest(u""_s, u"10"_s), Error);
+    session.DecimalSep = u","_s;
+    EXPECT_EQ(nearest(u"9.9"_s, u"10.1"_s), "ALSO");
+}
+
+} // namespace
+} // namespace morvane
