@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include "cli/command_helpers.h"
+#include "cli/cycle_commands.h"
 #include "cli/json_output.h"
 #include "cli/sky_commands.h"
 #include "cli/terminal.h"
@@ -215,6 +216,10 @@ const std::vector<Command>& commandTable() {
         {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
         {{u"flights"_s, u"list"_s}, 0, true, flightsList, u"flights list"_s},
         {{u"flights"_s, u"load"_s}, 0, true, flightsLoad, u"flights load"_s},
+        {{u"metar"_s, u"import"_s}, 1, true, metarImport, u"metar import FILE"_s},
+        {{u"metar"_s, u"import"_s}, 2, true, metarImport, u"metar import FILE plain|noaa|asv6"_s},
+        {{u"metar"_s, u"download"_s}, 0, true, metarDownload, u"metar download"_s},
+        {{u"metar"_s, u"rows"_s}, 0, true, metarRows, u"metar rows  (one JSON object a row)"_s},
         {{u"fly"_s, u"--metar"_s}, 1, true, flyMetar, u"fly --metar \"TEXT\""_s},
         {{u"fly"_s}, 1, true, flyWord, u"fly WORD  (CLR, FEW, SCT, BKN or OVC)"_s},
     };

@@ -11,6 +11,7 @@
 #include "sky/sky_installation.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
+#include "weather/weather_refresh.h"
 
 #include <algorithm>
 #include <array>
@@ -51,6 +52,12 @@ void onGroundColours(Shell& shell, SkinnedButton&) {
 
 void selectFlight(Shell& shell, SkinnedButton&) {
     startSavedFlight(shell.session());
+}
+
+// Weather ------------------------------------------------------------------------------------------------
+
+void refreshWeatherCycle(Shell& shell, SkinnedButton&) {
+    refreshWeather(shell.session());
 }
 
 // Sky ----------------------------------------------------------------------------------------------------
@@ -179,6 +186,7 @@ constexpr Entry entries[] = {
     {large, groundColours, u"add fav", onGroundColours<&frm_GroundColorize::addFavourite>},
 
     {large, wxControl, u"selectflight", selectFlight},
+    {large, wxControl, u"wxrefresh", refreshWeatherCycle},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},
