@@ -13,6 +13,7 @@
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
 #include "weather/screens/wx_control_screen.h"
+#include "weather/weather_refresh.h"
 
 #include <algorithm>
 #include <array>
@@ -63,6 +64,10 @@ void flyNowKey(Shell& shell, SkinnedButton&) {
 
 void clearFilter(Shell& shell, SkinnedButton&) {
     shell.screen<frm_WxControl>(u"frm_WxControl"_s).ClearFilter();
+}
+
+void refreshWeatherCycle(Shell& shell, SkinnedButton&) {
+    refreshWeather(shell.session());
 }
 
 // Sky ----------------------------------------------------------------------------------------------------
@@ -193,6 +198,7 @@ constexpr Entry entries[] = {
     {large, wxControl, u"selectflight", selectFlight},
     {large, wxControl, u"flynow", flyNowKey},
     {standard, wxControl, u"clearfilter", clearFilter},
+    {large, wxControl, u"wxrefresh", refreshWeatherCycle},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

@@ -18,6 +18,7 @@
 #include "ui/screens/splash_screen.h"
 #include "ui/screens/unbuilt_screens.h"
 #include "weather/screens/decoded_report_screen.h"
+#include "weather/screens/metar_request_screen.h"
 #include "weather/screens/wx_control_screen.h"
 
 #include <functional>
@@ -57,6 +58,7 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_SelectBaseSky>(u"frm_SelectBaseSky"_s),
         screenEntry<frm_TsRequired>(u"frm_TsRequired"_s),
         screenEntry<frm_flight>(u"frm_flight"_s),
+        screenEntry<frm_metar_request>(u"frm_metar_request"_s),
         screenEntry<frm_About>(u"frm_About"_s),
         screenEntry<frm_Links>(u"frm_Links"_s),
         screenEntry<frm_WxControl>(u"frm_WxControl"_s),
