@@ -4,6 +4,7 @@
 #include "cli/command_helpers.h"
 #include "cli/cycle_commands.h"
 #include "cli/json_output.h"
+#include "cli/route_commands.h"
 #include "cli/sky_commands.h"
 #include "cli/terminal.h"
 #include "core/application.h"
@@ -179,13 +180,14 @@ bool flyWord(CommandContext& context) {
 
 bool flyMetar(CommandContext& context) {
     getCustomSplashVal(context.session);
-    if (processMetarString(context.session, context.arguments[0])) flyNow(context.session);
+    if (processMetarString(context.session, context.arguments[0])) flyWithCover(context.session);
     return true;
 }
 
 const Command* findCommand(const QStringList& words) {
     for (const Command& command : commandTable()) {
-        if (words.size() != command.words.size() + command.argumentCount) continue;
+        const qsizetype rest = words.size() - command.words.size();
+        if (command.argumentCount == anyArguments ? rest < 0 : rest != command.argumentCount) continue;
         if (words.first(command.words.size()) == command.words) return &command;
     }
     return nullptr;
@@ -213,6 +215,14 @@ const std::vector<Command>& commandTable() {
         {{u"sky"_s, u"deactivate"_s}, 1, true, skyDeactivate, u"sky deactivate NAME"_s},
         {{u"sky"_s, u"delete"_s}, 1, true, skyDelete, u"sky delete NAME"_s},
         {{u"sky"_s, u"install"_s}, 1, true, skyInstall, u"sky install NAME"_s},
+        {{u"metar"_s, u"find"_s},
+         anyArguments,
+         true,
+         metarFind,
+         u"metar find [--precipitation W] [--intensity W] [--obscuration W] [--cover W] [--cb] [--tcu] "
+         u"[--cu] "
+         "[--icao PREFIX] [--max N]"_s},
+        {{u"plan"_s}, 1, true, showPlan, u"plan FILE"_s},
         {{u"originals"_s, u"list"_s}, 0, true, originalsList, u"originals list"_s},
         {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
         {{u"flights"_s, u"list"_s}, 0, true, flightsList, u"flights list"_s},

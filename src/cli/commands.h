@@ -13,6 +13,9 @@ inline constexpr int exitDone = 0;
 inline constexpr int exitFailed = 1;
 inline constexpr int exitWrongUsage = 2;
 
+/// The number of arguments of a command that looks at them itself.
+inline constexpr int anyArguments = -1;
+
 /// What a command works with.
 struct CommandContext {
     Session& session;
@@ -23,7 +26,7 @@ struct CommandContext {
 /// One command of the console.
 struct Command {
     QStringList words; ///< such as "ground", "create"
-    int argumentCount;
+    int argumentCount; ///< or `anyArguments`
     bool needsInstall; ///< runs the start sequence first
     /// False for wrong usage. Failures are messages; the exit status follows from those.
     bool (*run)(CommandContext&);

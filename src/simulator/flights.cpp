@@ -20,6 +20,10 @@ FilePath flightsFolder(const Session& session) {
     return session.AppPath / u"Flights";
 }
 
+FilePath deliveredFlightsFolder(const Session& session) {
+    return session.FSPath / u"Flights\\Morvane";
+}
+
 FilePath listFile(const Session& session) {
     return flightsFolder(session) / u"flights.cfg";
 }
@@ -38,8 +42,7 @@ void removeCopies(Session& session) {
         session.files.remove(folder.child(name));
 }
 
-void copyFlights(Session& session, const FilePath& source) {
-    const FilePath target = flightsFolder(session);
+void copyFlights(Session& session, const FilePath& source, const FilePath& target) {
     for (const QString& fileName : session.files.list(source, flightMask)) {
         const QString name = baseName(fileName);
         if (trimmedBlanks(name).isEmpty()) continue; // the list could not hold it
@@ -47,15 +50,6 @@ void copyFlights(Session& session, const FilePath& source) {
             if (session.files.exists(source.child(name + ending)))
                 replaceFile(session.files, source.child(name + ending), target.child(name + ending));
     }
-}
-
-/// Empty when the user named none.
-FilePath userFolder(Session& session) {
-    if (!session.MyDocumentsPath.isEmpty()) {
-        const FilePath usual = FilePath(session.MyDocumentsPath) / u"Flight Simulator Files";
-        if (session.files.isFolder(usual)) return usual;
-    }
-    return FilePath(getNonEnglishPath(session));
 }
 
 /// Entries of an older list beyond the new total stay in the file, unread. Written at one go, as a pilot may
@@ -72,13 +66,27 @@ void writeList(Session& session) {
 
 } // namespace
 
+FilePath userFlightsFolder(Session& session) {
+    if (!session.MyDocumentsPath.isEmpty()) {
+        const FilePath usual = FilePath(session.MyDocumentsPath) / u"Flight Simulator Files";
+        if (session.files.isFolder(usual)) return usual;
+    }
+    return FilePath(getNonEnglishPath(session));
+}
+
+void copyDeliveredFlights(Session& session) {
+    session.files.makeFolder(deliveredFlightsFolder(session));
+    copyFlights(session, flightsFolder(session), deliveredFlightsFolder(session));
+}
+
 void loadFlightFiles(Session& session) {
     if (session.IsWideClient) return;
     reportFailures(session.user, {}, [&] {
         session.files.makeFolder(flightsFolder(session));
         removeCopies(session);
-        copyFlights(session, session.FSPath / u"Flights\\Morvane");
-        if (const FilePath folder = userFolder(session); !folder.isEmpty()) copyFlights(session, folder);
+        copyFlights(session, deliveredFlightsFolder(session), flightsFolder(session));
+        if (const FilePath folder = userFlightsFolder(session); !folder.isEmpty())
+            copyFlights(session, folder, flightsFolder(session));
     });
     reportFailures(session.user, {}, [&] { writeList(session); }); // of those that were copied
 }

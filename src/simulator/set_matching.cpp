@@ -9,6 +9,7 @@
 #include "simulator/simulator_launch.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_sets.h"
+#include "weather/cover_choice.h"
 #include "weather/metar_decoder.h"
 
 #include <algorithm>
@@ -117,8 +118,7 @@ void SetMatching::installMatchingSets(const QString& cover) {
 bool processMetarString(Session& session, const QString& metar) {
     clsDecodeMetar report(session.user);
     report.decodeMetarString(trimmedBlanks(metar));
-    session.WxCloudList = QStringList{QString::number(report.MetarMaxCloud)};
-    session.WxStrengthList = QStringList{QString()};
+    setCover(session, report.MetarMaxCloud);
     if (report.MetarMaxCloud != 0) return true;
     session.user.showMessage({MessageKind::error, u"METAR Format Error!"_s,
                               u"METAR String format not recognised please enter new string to process"_s,
@@ -128,10 +128,15 @@ bool processMetarString(Session& session, const QString& metar) {
 
 int flyNow(Session& session) {
     session.CoverCancelled = false;
+    if (!session.CommandLineRun) selectCloudCoverMethod(session);
+    return session.CoverCancelled ? -1 : flyWithCover(session);
+}
+
+int flyWithCover(Session& session) {
     SetMatching matching(session);
     const int copied = matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
-    if (!session.CoverCancelled) startSavedFlight(session);
-    if (!session.CoverCancelled && !session.modal.FlightSelected) launchFlightSimulator(session);
+    startSavedFlight(session);
+    if (!session.modal.FlightSelected) launchFlightSimulator(session);
     return copied;
 }
 

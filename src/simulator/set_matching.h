@@ -46,9 +46,12 @@ private:
 /// message that told so, for a report without a cloud group; the list then holds "0".
 bool processMetarString(Session& session, const QString& metar);
 
-/// The road of the Fly Now button from the chosen weather on: the question and the install, a saved flight,
-/// the simulator.
-/// Returns what was installed for reports: files copied, or -1 when the user said no.
+/// The road of the Fly Now button: a cover is chosen, unless the run is unattended and has one, then
+/// `flyWithCover`. A cancelled choice ends it (CoverCancelled), with nothing installed and nothing started.
+/// Returns what was installed for reports: files copied, or -1 when nothing was.
 int flyNow(Session& session);
+/// The road from the chosen weather on: the question and the install, a saved flight, the simulator. Returns
+/// the same.
+int flyWithCover(Session& session);
 
 } // namespace morvane

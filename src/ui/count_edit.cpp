@@ -31,13 +31,10 @@ bool isDropped(const QString& typed) {
     return !isControl && typed != u"." && !isDigits(typed);
 }
 
-std::int16_t countIn(const QString& text) {
-    return text.isEmpty() ? std::int16_t(0) : roundToInteger(textToNumber(text));
-}
-
 } // namespace
 
-CountEdit::CountEdit(Form& form, std::int16_t& count) : QLineEdit(&form), form_(form), count_(count) {
+CountEdit::CountEdit(Form& form, std::int16_t& count, std::int16_t whenEmpty)
+    : QLineEdit(&form), form_(form), count_(count), whenEmpty_(whenEmpty) {
     setFont(fontOf(TextRole::value));
     connect(this, &CountEdit::textChanged, this, &CountEdit::storeCount);
 }
@@ -63,12 +60,13 @@ void CountEdit::focusInEvent(QFocusEvent* event) {
 }
 
 void CountEdit::focusOutEvent(QFocusEvent* event) {
-    if (text().isEmpty()) setText(u"0"_s);
+    if (text().isEmpty()) setText(QString::number(whenEmpty_));
     QLineEdit::focusOutEvent(event);
 }
 
 void CountEdit::storeCount() {
-    if (reportFailures(form_.session().user, {}, [&] { count_ = countIn(text()); })) return;
+    const auto store = [&] { count_ = text().isEmpty() ? whenEmpty_ : roundToInteger(textToNumber(text())); };
+    if (reportFailures(form_.session().user, {}, store)) return;
     const QSignalBlocker quiet(this);
     showCount();
 }

@@ -18,7 +18,8 @@ class CountEdit : public QLineEdit {
 public:
     /// Each change of the text is written to `count`. What is no count ("1.2.3", or more than 16 bits) is
     /// told, and the box goes back to the last one that was.
-    CountEdit(Form& form, std::int16_t& count);
+    /// An empty box counts as `whenEmpty`.
+    CountEdit(Form& form, std::int16_t& count, std::int16_t whenEmpty = 0);
 
     /// The count as it stands.
     void showCount();
@@ -33,6 +34,7 @@ private:
 
     Form& form_;
     std::int16_t& count_;
+    const std::int16_t whenEmpty_;
 };
 
 /// A column of five boxes, one below the other.

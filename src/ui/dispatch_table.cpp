@@ -12,8 +12,10 @@
 #include "sky/sky_installation.h"
 #include "ui/dialog_form.h"
 #include "ui/shell.h"
+#include "weather/screens/cover_report_screen.h"
 #include "weather/screens/wx_control_screen.h"
 #include "weather/weather_refresh.h"
+#include "weather/wx_filter.h"
 
 #include <algorithm>
 #include <array>
@@ -57,6 +59,14 @@ void selectFlight(Shell& shell, SkinnedButton&) {
 }
 
 // Weather ------------------------------------------------------------------------------------------------
+
+void processReport(Shell& shell, SkinnedButton&) {
+    shell.screen<frm_CC_From_Metar_String>(u"frm_CC_From_Metar_String"_s).processMetarString();
+}
+
+void findWeather(Shell& shell, SkinnedButton&) {
+    showWxFinder(shell.session());
+}
 
 void flyNowKey(Shell& shell, SkinnedButton&) {
     flyNow(shell.session());
@@ -154,8 +164,9 @@ constexpr auto medium = ButtonFamily::MediumButton;
 constexpr char16_t main[] = u"frm_Main", ground[] = u"frm_MVTextures", sky[] = u"frm_KMTextures",
                    night[] = u"frm_NightTextures", groundColours[] = u"frm_GroundColorize",
                    skyColours[] = u"frm_SkyColorize", nightColours[] = u"frm_NightColorize",
-                   wxControl[] = u"frm_WxControl", switcher[] = u"frm_Switcher", config[] = u"frm_Config",
-                   links[] = u"frm_Links", about[] = u"frm_About";
+                   wxControl[] = u"frm_WxControl", coverReport[] = u"frm_CC_From_Metar_String",
+                   switcher[] = u"frm_Switcher", config[] = u"frm_Config", links[] = u"frm_Links",
+                   about[] = u"frm_About";
 constexpr char16_t anyForm[] = u"*"; ///< small keys mean the same wherever they lie, and so do a dialog's
 
 struct Entry {
@@ -196,6 +207,8 @@ constexpr Entry entries[] = {
     {large, groundColours, u"add fav", onGroundColours<&frm_GroundColorize::addFavourite>},
 
     {large, wxControl, u"selectflight", selectFlight},
+    {large, wxControl, u"wxfinder", findWeather},
+    {large, coverReport, u"process metar string", processReport},
     {large, wxControl, u"flynow", flyNowKey},
     {standard, wxControl, u"clearfilter", clearFilter},
     {large, wxControl, u"wxrefresh", refreshWeatherCycle},

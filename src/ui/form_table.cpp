@@ -17,9 +17,15 @@
 #include "ui/screens/name_choice_screen.h"
 #include "ui/screens/splash_screen.h"
 #include "ui/screens/unbuilt_screens.h"
+#include "weather/screens/cover_airports_screen.h"
+#include "weather/screens/cover_method_screen.h"
+#include "weather/screens/cover_option_screen.h"
+#include "weather/screens/cover_report_screen.h"
 #include "weather/screens/decoded_report_screen.h"
+#include "weather/screens/flight_plan_screen.h"
 #include "weather/screens/metar_request_screen.h"
 #include "weather/screens/wx_control_screen.h"
+#include "weather/screens/wx_finder_screen.h"
 
 #include <functional>
 
@@ -59,6 +65,12 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_TsRequired>(u"frm_TsRequired"_s),
         screenEntry<frm_flight>(u"frm_flight"_s),
         screenEntry<frm_metar_request>(u"frm_metar_request"_s),
+        screenEntry<frm_WxFinder>(u"frm_WxFinder"_s),
+        screenEntry<frm_Select_CC_Method>(u"frm_Select_CC_Method"_s),
+        screenEntry<frm_FlightPlan>(u"frm_FlightPlan"_s),
+        screenEntry<frm_FromDepDestVal>(u"frm_FromDepDestVal"_s),
+        screenEntry<frm_CC_From_Option>(u"frm_CC_From_Option"_s),
+        screenEntry<frm_CC_From_Metar_String>(u"frm_CC_From_Metar_String"_s),
         screenEntry<frm_About>(u"frm_About"_s),
         screenEntry<frm_Links>(u"frm_Links"_s),
         screenEntry<frm_WxControl>(u"frm_WxControl"_s),

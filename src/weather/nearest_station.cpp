@@ -8,33 +8,41 @@
 
 namespace morvane {
 
-StationPositions::StationPositions(const Session& session) {
+StationIndex::StationIndex(const Session& session) {
     for (RowSet rows(connectedStore(session),
-                     u"SELECT METAR_ICAO, METAR_LAT, METAR_LONG FROM DECODED_METAR"_s);
+                     u"SELECT METAR_ICAO, METAR_LAT, METAR_LONG, METAR_MAX_CLOUD FROM DECODED_METAR"_s);
          !rows.atEnd(); rows.next()) {
+        const QString icao = trimmedBlanks(rows.text(u"METAR_ICAO"));
+        cloudClasses_.insert(icao.toUpper(), rows.text(u"METAR_MAX_CLOUD").toShort());
         bool hasLatitude = false, hasLongitude = false;
         const double latitude = rows.text(u"METAR_LAT").toDouble(&hasLatitude);
         const double longitude = rows.text(u"METAR_LONG").toDouble(&hasLongitude);
-        if (hasLatitude && hasLongitude) stations_.push_back({rows.text(u"METAR_ICAO"), latitude, longitude});
+        if (hasLatitude && hasLongitude) places_.push_back({icao, latitude, longitude});
     }
 }
 
-QString StationPositions::closestTo(double latitude, double longitude) const {
+QString StationIndex::closestTo(double latitude, double longitude) const {
     double best = 9999; // so a station on the other side of the globe is never taken: wanted
     QString icao;
-    for (const Station& station : stations_) {
-        const double distance = getDistanceNM(latitude, longitude, station.latitude, station.longitude);
-        if (distance >= best) continue;
+    for (const Place& place : places_) {
+        const double distance = getDistanceNM(latitude, longitude, place.latitude, place.longitude);
+        if (!(distance < best)) continue;
         best = distance;
-        icao = station.icao;
+        icao = place.icao;
     }
     return icao;
+}
+
+std::optional<std::int16_t> StationIndex::cloudClassOf(const QString& icao) const {
+    const QString code = trimmedBlanks(icao).toUpper();
+    const auto found = cloudClasses_.constFind(code);
+    return code.isEmpty() || found == cloudClasses_.constEnd() ? std::nullopt : std::optional(*found);
 }
 
 QString getClosestMetarStation(Session& session, const QString&, const QString& latitude,
                                const QString& longitude) {
     const double north = textToNumber(latitude), east = textToNumber(longitude);
-    return StationPositions(session).closestTo(north, east);
+    return StationIndex(session).closestTo(north, east);
 }
 
 } // namespace morvane

@@ -169,7 +169,7 @@ TEST_F(SetMatchingTest, aFarGroundAndAFittingSkyAreToldOfTheGroundOnly) {
     session.WxStrengthList = QStringList{QString()};
     install.user.answersToGive = {true}; // no flight, no start
     install.user.otherwise = false;
-    EXPECT_EQ(flyNow(session), 6) << "four of the ground's \"Default\", two of the sky";
+    EXPECT_EQ(flyWithCover(session), 6) << "four of the ground's \"Default\", two of the sky";
     EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
     EXPECT_EQ(install.installedSkySets(), QStringList{u"Rain"_s});
     EXPECT_EQ(install.user.countOfKind(MessageKind::information), 1);
@@ -233,14 +233,14 @@ TEST_F(SetMatchingTest, aYesInstallsWhatTheWeatherAsksFor) {
     ASSERT_TRUE(processMetarString(session, u"  EHAM 241225Z 24015KT 9999 SKC 18/09 Q1012 "_s));
     EXPECT_EQ(session.WxCloudList, QStringList{u"1"_s});
     EXPECT_EQ(session.WxStrengthList, QStringList{QString()});
-    EXPECT_EQ(flyNow(session), 1);
+    EXPECT_EQ(flyWithCover(session), 1);
     EXPECT_EQ(install.installedSets(), QStringList{u"Sun"_s});
     EXPECT_EQ(install.installedSkySets(), QStringList{u"CLR"_s});
 
     // An obscured sky keeps its 6 in the list and then counts as "Partly Cloudy".
     ASSERT_TRUE(processMetarString(session, u"EHAM 241225Z 24015KT 0100 FG VV001 18/18 Q1012"_s));
     EXPECT_EQ(session.WxCloudList, QStringList{u"6"_s});
-    flyNow(session);
+    flyWithCover(session);
     EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
     EXPECT_EQ(install.installedSkySets(), QStringList{u"SCT"_s});
 }

@@ -130,18 +130,18 @@ TEST_F(SimulatorLaunchTest, theRoadAsksForTheSetsThenAFlightThenTheSimulator) {
         return found;
     };
     install.user.answersToGive = {false, false, true};
-    EXPECT_EQ(flyNow(session), -1);
+    EXPECT_EQ(flyWithCover(session), -1);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Start Predefined Flight"_s,
                                      u"Launch Flight Simulator?"_s}));
     EXPECT_EQ(startsIn(install.simulator(), 1).size(), 1);
     chooseFlight(u"Evening"_s, true);
     install.user.answersToGive = {false, true};
-    flyNow(session);
+    flyWithCover(session);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Start Predefined Flight"_s}));
     EXPECT_EQ(startsIn(install.simulator(), 2).size(), 2);
     session.IsWideClient = true;
     install.user.answersToGive = {false};
-    flyNow(session);
+    flyWithCover(session);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Processing Complete"_s}));
 }
 
@@ -171,6 +171,14 @@ TEST_F(SimulatorLaunchTest, aWindowsSimulatorIsStartedByTheRunner) {
     const QString flight = (install.home() / u"Flights\\Late Rain.flt").native();
     EXPECT_EQ(startsIn(runner, 1), QStringList{u"--quiet|"_s + program.native() + u"|Z:"_s +
                                                QString(flight).replace(u'/', u'\\')});
+}
+
+TEST_F(SimulatorLaunchTest, aWindowsSimulatorWithoutARunnerIsToldOf) {
+    install.user.otherwise = true;
+    launchFlightSimulator(session);
+    EXPECT_EQ(install.user.told().mid(0, 1), QStringList{launchQuestion});
+    EXPECT_TRUE(install.user.told().last().contains(u"SimulatorRunner"_s));
+    EXPECT_FALSE(install.user.calls.contains(u"minimise"_s)) << "the program stays, as nothing starts";
 }
 
 TEST_F(SimulatorLaunchTest, theCallDependsOnWhatTheProgramIs) {

@@ -79,13 +79,13 @@ TEST(NearestStation, isThatOfAPlainSearchOverTheStationList) {
     for (const Place& place : places)
         test::addStation(install.session, place.icao, 1, place.latitude, place.longitude);
     transaction.commit();
-    const StationPositions positions(install.session);
+    const StationIndex stations(install.session);
     for (int step = 0; step < 200; ++step) {
         const double latitude = -85 + 0.85 * step, longitude = std::fmod(step * 37.7, 360) - 180;
         double best = -2;
         for (const Place& place : places)
             best = std::max(best, cosineBetween(latitude, longitude, place.latitude, place.longitude));
-        const QString found = positions.closestTo(latitude, longitude);
+        const QString found = stations.closestTo(latitude, longitude);
         double ofFound = -2;
         for (const Place& place : places)
             if (place.icao == found)

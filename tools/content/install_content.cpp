@@ -90,6 +90,7 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
                                                     {u"WeatherFormat"_s, u"noaa"_s}};
     for (const auto& [name, value] : endpoint)
         registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, value);
+    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, u"True"_s);
     if (request.simulator.isEmpty()) return;
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s,
                            (request.simulator / u"Flights").native());

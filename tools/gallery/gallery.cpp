@@ -2,14 +2,20 @@
 
 #include "core/session.h"
 #include "sky/screens/palette_picture.h"
+#include "ui/controls/set_table.h"
 #include "ui/controls/slider.h"
 #include "ui/screens/splash_screen.h"
 #include "weather/screens/airport_list.h"
+#include "weather/screens/cover_report_screen.h"
+#include "weather/screens/report_list.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QImage>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
 #include <QTimer>
 
 namespace morvane {
@@ -32,10 +38,12 @@ void Gallery::save(const QString& name, QWidget& window) {
     if (picture.save(folder_.filePath(name + u".png"_s))) ++count_;
 }
 
-void Gallery::saveModal(const QString& name, const QString& form, const std::function<void()>& call) {
+void Gallery::saveModal(const QString& name, const QString& form, const std::function<void()>& call,
+                        const std::function<void(QWidget& dialog)>& act) {
     QTimer::singleShot(0, &shell_, [&] {
         Form* dialog = shell_.loadedForm(form);
         if (!dialog || !dialog->isVisible()) return;
+        act(*dialog);
         save(name, *dialog);
         dialog->cancel();
     });
@@ -108,6 +116,50 @@ void Gallery::saveWeather() {
     save(u"weather-control-flight"_s, window);
     shell_.hideChildScreen(shell_.CurrentChildScreen);
     shell_.formatMainScreen();
+}
+
+void Gallery::saveFinder() {
+    saveModal(
+        u"weather-finder"_s, u"frm_WxFinder"_s,
+        [&] { shell_.session().user.showModal(Screen::frm_WxFinder); },
+        [](QWidget& dialog) {
+            dialog.findChild<QComboBox*>(u"cboPrecipitation"_s)->setCurrentText(u"Rain"_s);
+            auto* reports = dialog.findChild<ReportList*>();
+            reports->setCurrentIndex(reports->model()->index(3, 0));
+        });
+}
+
+/// A plan of the sample data stands in the user's folder meanwhile.
+void Gallery::saveCovers() {
+    UserInterface& user = shell_.session().user;
+    const QTemporaryDir documents;
+    const QDir plans(documents.filePath(u"Flight Simulator Files"_s));
+    plans.mkpath(u"."_s);
+    for (const QString& plan : {u"TBPBEGCC06R.PLN"_s, u"c02_own_form_regions_airways.pln"_s})
+        QFile::copy(QStringLiteral(MORVANE_DATA_DIR "/plans/") + plan, plans.filePath(plan));
+    QString& path = shell_.session().MyDocumentsPath;
+    const QString usualPath = std::exchange(path, documents.path());
+    saveModal(u"cover-method"_s, u"frm_Select_CC_Method"_s,
+              [&] { user.showModal(Screen::frm_Select_CC_Method); });
+    saveModal(
+        u"cover-flight-plan"_s, u"frm_FlightPlan"_s, [&] { user.showModal(Screen::frm_FlightPlan); },
+        [](QWidget& dialog) {
+            auto* list = dialog.findChild<SetTable*>(u"lvwFPList"_s);
+            Q_EMIT list->itemDoubleClicked(list->topLevelItem(1), 0);
+        });
+    path = usualPath;
+    saveModal(u"cover-airports"_s, u"frm_FromDepDestVal"_s,
+              [&] { user.showModal(Screen::frm_FromDepDestVal); });
+    saveModal(u"cover-option"_s, u"frm_CC_From_Option"_s,
+              [&] { user.showModal(Screen::frm_CC_From_Option); });
+    saveModal(
+        u"cover-report"_s, u"frm_CC_From_Metar_String"_s,
+        [&] { user.showModal(Screen::frm_CC_From_Metar_String); },
+        [](QWidget& dialog) {
+            dialog.findChild<QPlainTextEdit*>()->setPlainText(
+                u"EGLL 241220Z 24015G28KT 200V260 9999 -RA SCT012 BKN030 18/09 Q1012"_s);
+            static_cast<frm_CC_From_Metar_String&>(dialog).processMetarString();
+        });
 }
 
 void Gallery::saveGround() {
@@ -211,6 +263,8 @@ void Gallery::saveAll() {
     saveMainWindow();
     savePages();
     saveWeather();
+    saveFinder();
+    saveCovers();
     saveGround();
     saveSky();
     saveNight();

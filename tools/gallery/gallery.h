@@ -19,14 +19,18 @@ public:
 
 private:
     void save(const QString& name, QWidget& window);
-    /// Saves the dialog that the call opens, as soon as it waits, and cancels it.
-    void saveModal(const QString& name, const QString& form, const std::function<void()>& call);
+    /// Saves the dialog that the call opens, as soon as it waits and `act` has worked on it, and cancels it.
+    void saveModal(
+        const QString& name, const QString& form, const std::function<void()>& call,
+        const std::function<void(QWidget& dialog)>& act = [](QWidget&) {});
     void saveMessage(const QString& name, const Message& message);
 
     void saveSplash();
     void saveMainWindow();
     void savePages();
     void saveWeather();
+    void saveFinder();
+    void saveCovers();
     void saveGround();
     void saveSky();
     void saveNight();

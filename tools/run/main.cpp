@@ -132,7 +132,7 @@ bool prepareFlight(Session& session, ConsoleUser& user, const QString& flight) {
 void fly(Session& session) {
     QElapsedTimer timer;
     timer.start();
-    const int copied = flyNow(session);
+    const int copied = flyWithCover(session);
     if (copied < 0) {
         say(u"Nothing was installed."_s);
         return;

@@ -1,0 +1,73 @@
+#include "weather/cover_choice.h"
+
+#include "core/numbers.h"
+#include "core/session.h"
+#include "weather/metar_decoder.h"
+
+namespace morvane {
+
+namespace {
+
+constexpr Screen methodScreens[] = {Screen::frm_FlightPlan, Screen::frm_FromDepDestVal,
+                                    Screen::frm_CC_From_Option, Screen::frm_CC_From_Metar_String};
+
+std::int16_t cloudClassOf(Session& session, const QString& report) {
+    clsDecodeMetar decoded(session.user);
+    decoded.decodeMetarString(trimmedBlanks(report));
+    return decoded.MetarMaxCloud;
+}
+
+/// False when the way that was chosen was cancelled.
+bool chooseCover(Session& session) {
+    session.user.showModal(Screen::frm_Select_CC_Method);
+    const auto method = static_cast<CoverMethod>(session.modal.coverMethod);
+    session.CoverCancelled = method == CoverMethod::cancelled;
+    if (session.CoverCancelled) return true;
+    session.modal.coverConfirmed = false;
+    session.user.showModal(methodScreens[session.modal.coverMethod]);
+    return session.modal.coverConfirmed;
+}
+
+} // namespace
+
+const CoverDisplay& coverDisplay(int cloudClass) {
+    static const CoverDisplay displays[] = {
+        {u"skc.bmp"_s, u"Clear Skies"_s},      {u"few.bmp"_s, u"Few Clouds"_s},
+        {u"sct.bmp"_s, u"Scattered Clouds"_s}, {u"bkn.bmp"_s, u"Broken Clouds"_s},
+        {u"ovc.bmp"_s, u"Overcast"_s},
+    };
+    return displays[cloudClass >= 1 && cloudClass <= 5 ? cloudClass - 1 : 2];
+}
+
+std::int16_t roundedCover(double average) {
+    if (average > 1 && average < 2) return 2;
+    if (average > 4 && average < 5) return 4;
+    return roundToInteger(average);
+}
+
+std::int16_t computeAverageCover(std::int16_t departure, std::int16_t destination) {
+    if (departure == 0) return destination;
+    if (destination == 0) return departure;
+    return roundedCover((departure + destination) / 2.0);
+}
+
+void setCover(Session& session, std::int16_t cloudClass) {
+    session.WxCloudList = QStringList{QString::number(cloudClass)};
+    session.WxStrengthList = QStringList{QString()};
+}
+
+std::int16_t takeCoverOfAirports(Session& session) {
+    const std::int16_t average = computeAverageCover(cloudClassOf(session, session.weather.DepMetar),
+                                                     cloudClassOf(session, session.weather.DestMetar));
+    if (average > 0) setCover(session, average);
+    return average;
+}
+
+void selectCloudCoverMethod(Session& session) {
+    session.user.hideScreen(Screen::frm_Main);
+    while (!chooseCover(session)) {
+    }
+    session.user.showScreen(Screen::frm_Main);
+}
+
+} // namespace morvane

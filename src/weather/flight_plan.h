@@ -1,0 +1,55 @@
+#pragma once
+
+#include "core/file_path.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace morvane {
+
+class Session;
+
+/// A flight plan of the simulator: text, "key=value" a line. Coordinates are as the plan has them, "N51*
+/// 28.65'".
+struct FlightPlan {
+    QString departure, destination, altitude;
+    QStringList waypoints; ///< the values of the waypoint lines, in file order
+};
+
+/// One waypoint and the weather over it.
+struct Waypoint {
+    QString name, type, latitude, longitude, airway;
+    std::int16_t cloudClass = 0; ///< of its own report or its nearest station's; 0 when there is none
+};
+
+/// A plan over the stored weather.
+struct PlanWeather {
+    std::vector<Waypoint> waypoints;
+    double average = 0;          ///< of the waypoints' icons, 0 without a waypoint
+    std::int16_t coverClass = 0; ///< 1 to 5, 0 without a waypoint
+};
+
+/// Names of the plans in the folder (see `userFlightsFolder`); none without a folder.
+QStringList flightPlanNames(Session& session, const FilePath& folder);
+
+/// Reads a plan. Nothing, after a message, for the XML form of the simulator's next version. Raises when the
+/// file cannot be read; one that is no plan at all has no waypoints.
+std::optional<FlightPlan> readFlightPlan(Session& session, const FilePath& file);
+
+/// The waypoint of a line's value, in one of its layouts, without weather: texts for fields that are missing
+/// are empty.
+Waypoint parseWaypoint(const QString& value);
+/// "a" is "Airport", "v" "VOR", "i" "Intersection/Fix", "n" "NDB", in either case; empty for anything else.
+QString getWaypointType(const QString& letter);
+/// The icon that stands for a class in a plan: classes 0 and 6 are drawn, and counted, as clear. That is not
+/// what Fly Now counts for them (3), and is wanted.
+std::int16_t getCloudIcon(std::int16_t cloudClass);
+
+/// Looks up the weather of each waypoint and makes the class of their average the cover of the flight, unless
+/// the plan has no waypoints. `progress` hears of each waypoint, in hundredths of the whole.
+PlanWeather processFlightPlan(
+    Session& session, const FlightPlan& plan, const std::function<void(double)>& progress = [](double) {});
+
+} // namespace morvane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QLabel>
+
+namespace morvane {
+
+class Form;
+
+/// A cover's picture and its words beside it.
+class CoverLabel {
+public:
+    struct Names {
+        QString picture, text; ///< of the two controls
+    };
+    static constexpr int side = 44; ///< of the picture, logical pixels
+
+    /// The picture's corner at `place`; the words take `width` beside it.
+    CoverLabel(Form& form, const Names& names, const QPoint& place, int width);
+
+    /// Shows a class above 0.
+    void showCover(int cloudClass);
+    /// Words without a picture, in that colour.
+    void showText(const QString& text, QRgb colour);
+    void clear();
+
+private:
+    Form& form_;
+    QLabel *picture_, *text_;
+};
+
+} // namespace morvane

@@ -1,0 +1,66 @@
+#include "weather/screens/cover_report_screen.h"
+
+#include "core/numbers.h"
+#include "core/session.h"
+#include "ground/screens/favourite_screen.h"
+#include "simulator/set_matching.h"
+#include "ui/controls/labels.h"
+
+#include <QKeyEvent>
+
+namespace morvane {
+
+namespace {
+
+constexpr int left = 26, paperWidth = 348;
+
+} // namespace
+
+frm_CC_From_Metar_String::frm_CC_From_Metar_String(Shell& shell)
+    : CoverDialog(shell, u"frm_CC_From_Metar_String"_s, smallDialogLook,
+                  u"Enter full METAR String for processing"_s),
+      txtMetarString_(new DescriptionEdit(this)),
+      caption_(makeLabel(this, u"Average Cloud:"_s, {left, 212, paperWidth, 16}, TextRole::fieldCaption)),
+      cover_(*this, {u"picCloudCover"_s, u"lblCloudCover"_s}, {left, 234}, paperWidth - 54) {
+    txtMetarString_->setObjectName(u"txtMetarString"_s);
+    txtMetarString_->setAccessibleName(u"METAR"_s);
+    txtMetarString_->setGeometry(left, 88, paperWidth, 110);
+    connect(txtMetarString_, &QPlainTextEdit::textChanged, this,
+            [this] { session().weather.MetarStringInput = trimmedBlanks(txtMetarString_->toPlainText()); });
+    addButton({ButtonFamily::LargeButton,
+               u"btn_MetarProcess"_s,
+               u"process metar string"_s,
+               u"btn_MetarProcess"_s,
+               u"Click to process the METAR."_s,
+               {20, height() - 58},
+               u"Process\nMETAR"_s});
+    addAnswerKeys(coverOkTip, coverCancelTip);
+}
+
+void frm_CC_From_Metar_String::prepare() {
+    txtMetarString_->clear();
+    caption_->hide();
+    cover_.clear();
+    txtMetarString_->setFocus();
+}
+
+void frm_CC_From_Metar_String::processMetarString() {
+    // A report that was pasted over several lines is one.
+    const QString report = session().weather.MetarStringInput.simplified();
+    const bool hasClouds = morvane::processMetarString(session(), report);
+    caption_->setVisible(hasClouds);
+    if (hasClouds)
+        cover_.showCover(session().WxCloudList[0].toInt());
+    else
+        cover_.clear();
+}
+
+void frm_CC_From_Metar_String::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && txtMetarString_->hasFocus())
+        processMetarString();
+    else
+        CoverDialog::keyPressEvent(event);
+}
+
+} // namespace morvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/file_path.h"
+#include "weather/screens/cover_dialog.h"
+#include "weather/screens/cover_label.h"
+
+namespace morvane {
+
+class SetTable;
+class SkinnedProgressBar;
+struct FlightPlan;
+struct Waypoint;
+
+/// The cloud cover along a flight plan: the plans found, the way of the one that was opened and its weather.
+class frm_FlightPlan : public CoverDialog {
+    Q_OBJECT
+public:
+    explicit frm_FlightPlan(Shell& shell);
+
+protected:
+    void prepare() override;
+    /// Enter on a plan opens it.
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void addPlans();
+    void addWaypoints();
+    QLabel* addHeading(const QString& caption, const QString& name, int row);
+    void clearPlan();
+    /// Reads the plan that is selected, shows it and its weather.
+    void openPlan();
+    void readFlightPlan(const QString& name);
+    void processFlightPlan(const FlightPlan& plan);
+    void addWaypoint(const Waypoint& waypoint);
+
+    FilePath folder_;
+    SetTable *lvwFPList_, *lvwFlightPlan_;
+    QLabel *lblNoFlightPlans_, *lblNoWaypoints_, *lblDepVal_, *lblDestVal_, *lblAltVal_, *lblProgress_;
+    SkinnedProgressBar* pbFlightPlan_;
+    CoverLabel cover_;
+};
+
+} // namespace morvane

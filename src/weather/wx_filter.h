@@ -1,0 +1,39 @@
+#pragma once
+
+#include "weather/wx_finders.h"
+
+#include <vector>
+
+namespace morvane {
+
+class Session;
+struct WxFilter;
+
+// What the lists of the weather finder offer, "Any" first.
+const QStringList& precipitationEntries();
+const QStringList& intensityEntries();
+const QStringList& obscurationEntries();
+const QStringList& cloudCoverEntries();
+
+inline constexpr std::int16_t usualMaxResults = 25;
+
+/// The session's filter as the finder opens with it: any weather, departure. The most results stay as they
+/// were chosen.
+void openWxFilter(Session& session);
+/// True when there is a precipitation to ask an intensity of.
+bool hasIntensity(const WxFilter& filter);
+/// Which end of the flight the finder, and with it the weather page, chooses: so name and report of an end
+/// never part.
+void chooseFlightEnd(Session& session, bool isDeparture);
+/// The stored reports that have the weather of the session's filter, in order of their codes, at most
+/// `WxMaxResults` of them; 0 means all, since the count passes it at once. Loads the reports when nobody has
+/// yet.
+std::vector<clsWxFinders::Pointer> filterMetars(Session& session);
+
+/// Opens the weather finder in the place of the main window.
+void showWxFinder(Session& session);
+/// Makes the airport of `WxSelectedIcao` an end of the flight, as a click on the weather page does; a station
+/// that is no airport is told.
+void selectWxAirport(Session& session);
+
+} // namespace morvane

@@ -1,0 +1,89 @@
+#include "weather/cover_choice.h"
+
+#include "core/session.h"
+#include "simulator/set_matching.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+struct CoverChoiceTest : testing::Test {
+    /// The ways that the user takes, one after another: the method, then whether its screen is confirmed. "0-
+    /// 2+" is a cancelled plan and a cover by hand.
+    void take(const QString& ways) {
+        install.user.onModal = [this, ways, shown = 0](Screen screen) mutable {
+            shownScreens << screenName(screen);
+            const QString way = ways.section(u' ', shown / 2, shown / 2);
+            if (shown++ % 2 == 0)
+                session.modal.coverMethod = way.left(1).toShort();
+            else if ((session.modal.coverConfirmed = way.endsWith(u'+')))
+                setCover(session, 5);
+        };
+    }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    QStringList shownScreens;
+};
+
+TEST_F(CoverChoiceTest, averagesOfTwoAirports) {
+    // Departure, destination, class. 0 is not known; halves go to the even class.
+    for (const QString& line : {u"0 0 0"_s, u"0 4 4"_s, u"6 0 6"_s, u"1 2 2"_s, u"2 3 2"_s, u"3 4 4"_s,
+                                u"5 4 4"_s, u"1 3 2"_s, u"2 5 4"_s, u"6 5 6"_s, u"5 5 5"_s, u"1 1 1"_s}) {
+        const auto number = [&](int index) { return line.section(u' ', index, index).toShort(); };
+        EXPECT_EQ(computeAverageCover(number(0), number(1)), number(2)) << line.toStdString();
+    }
+    EXPECT_EQ(roundedCover(4 / 3.0), 2);
+    EXPECT_EQ(roundedCover(4.9), 4) << "so only a wholly overcast way is overcast";
+}
+
+TEST_F(CoverChoiceTest, reportsOfTheAirports) {
+    session.WxCloudList = QStringList{u"3"_s, u"4"_s};
+    EXPECT_EQ(takeCoverOfAirports(session), 0);
+    EXPECT_EQ(session.WxCloudList.size(), 2) << "nothing known: the cover stays";
+    session.weather.DepMetar = u" EHAM 241225Z 24015KT 9999 FEW030 18/09 Q1012 "_s;
+    EXPECT_EQ(takeCoverOfAirports(session), 2);
+    session.weather.DestMetar = u"EGLL 241220Z 24015KT 0100 VV001 18/18 Q1012"_s;
+    EXPECT_EQ(takeCoverOfAirports(session), 4);
+    session.weather.DepMetar.clear();
+    EXPECT_EQ(takeCoverOfAirports(session), 6);
+    EXPECT_EQ(session.WxCloudList, QStringList{u"6"_s});
+    EXPECT_EQ(session.WxStrengthList, QStringList{QString()});
+    EXPECT_EQ(coverDisplay(6).text, u"Scattered Clouds"_s);
+    EXPECT_EQ(coverDisplay(5).picture, u"ovc.bmp"_s);
+}
+
+TEST_F(CoverChoiceTest, aCancelledWayLeadsBackToTheChoice) {
+    take(u"0- 1- 3- 2+"_s);
+    selectCloudCoverMethod(session);
+    const QString choice = u"frm_Select_CC_Method"_s;
+    EXPECT_EQ(shownScreens, (QStringList{choice, u"frm_FlightPlan"_s, choice, u"frm_FromDepDestVal"_s, choice,
+                                         u"frm_CC_From_Metar_String"_s, choice, u"frm_CC_From_Option"_s}));
+    EXPECT_FALSE(session.CoverCancelled);
+    EXPECT_EQ(install.user.calls.filter(u"frm_Main"_s),
+              (QStringList{u"hide frm_Main"_s, u"show frm_Main"_s}));
+    QStringList often(2000, u"1-"_s);
+    take(often.join(u' ') + u" 4"_s);
+    selectCloudCoverMethod(session);
+    EXPECT_TRUE(session.CoverCancelled);
+}
+
+TEST_F(CoverChoiceTest, aCancelledChoiceEndsTheRoad) {
+    const auto before = test::contentsBelow(install.simulator());
+    take(u"2- 4"_s);
+    EXPECT_EQ(flyNow(session), -1);
+    EXPECT_TRUE(install.user.told().isEmpty()) << "nothing is asked";
+    EXPECT_EQ(test::contentsBelow(install.simulator()), before);
+    take(u"2+"_s);
+    EXPECT_GT(flyNow(session), 0) << "and the next road is free again";
+    session.CommandLineRun = true;
+    shownScreens.clear();
+    EXPECT_GT(flyNow(session), 0);
+    EXPECT_FALSE(shownScreens.contains(u"frm_Select_CC_Method"_s)) << "an unattended run has its cover";
+}
+
+} // namespace
+} // namespace morvane
