@@ -2,6 +2,7 @@
 
 #include "cli/airport_commands.h"
 #include "cli/command_helpers.h"
+#include "cli/cycle_commands.h"
 #include "cli/json_output.h"
 #include "cli/night_commands.h"
 #include "cli/set_commands.h"
@@ -196,6 +197,10 @@ const std::vector<Command>& commandTable() {
         {{u"metar"_s, u"show"_s}, 1, true, metarShow, u"metar show ICAO"_s},
         {{u"airport"_s, u"find"_s}, 1, true, airportFind, u"airport find ICAOPREFIX"_s},
         {{u"station"_s, u"nearest"_s}, 2, true, stationNearest, u"station nearest LAT LONG"_s},
+        {{u"metar"_s, u"import"_s}, 1, true, metarImport, u"metar import FILE"_s},
+        {{u"metar"_s, u"import"_s}, 2, true, metarImport, u"metar import FILE plain|noaa|asv6"_s},
+        {{u"metar"_s, u"download"_s}, 0, true, metarDownload, u"metar download"_s},
+        {{u"metar"_s, u"rows"_s}, 0, true, metarRows, u"metar rows  (one JSON object a row)"_s},
         {{u"fly"_s, u"--metar"_s}, 1, true, flyMetar, u"fly --metar \"TEXT\""_s},
         {{u"fly"_s}, 1, true, flyWord, u"fly WORD  (CLR, FEW, SCT, BKN or OVC)"_s},
     };

@@ -17,6 +17,7 @@
 #include "ui/shell.h"
 #include "weather/screens/cover_report_screen.h"
 #include "weather/screens/wx_control_screen.h"
+#include "weather/weather_refresh.h"
 #include "weather/wx_filter.h"
 
 #include <algorithm>
@@ -76,6 +77,10 @@ void flyNowKey(Shell& shell, SkinnedButton&) {
 
 void clearFilter(Shell& shell, SkinnedButton&) {
     shell.screen<frm_WxControl>(u"frm_WxControl"_s).ClearFilter();
+}
+
+void refreshWeatherCycle(Shell& shell, SkinnedButton&) {
+    refreshWeather(shell.session());
 }
 
 // Sky ----------------------------------------------------------------------------------------------------
@@ -232,6 +237,7 @@ constexpr Entry entries[] = {
     {large, coverReport, u"process metar string", processReport},
     {large, wxControl, u"flynow", flyNowKey},
     {standard, wxControl, u"clearfilter", clearFilter},
+    {large, wxControl, u"wxrefresh", refreshWeatherCycle},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

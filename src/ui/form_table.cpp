@@ -26,6 +26,7 @@
 #include "weather/screens/cover_report_screen.h"
 #include "weather/screens/decoded_report_screen.h"
 #include "weather/screens/flight_plan_screen.h"
+#include "weather/screens/metar_request_screen.h"
 #include "weather/screens/wx_control_screen.h"
 #include "weather/screens/wx_finder_screen.h"
 
@@ -61,6 +62,7 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_SelectBaseSky>(u"frm_SelectBaseSky"_s),
         screenEntry<frm_TsRequired>(u"frm_TsRequired"_s),
         screenEntry<frm_flight>(u"frm_flight"_s),
+        screenEntry<frm_metar_request>(u"frm_metar_request"_s),
         screenEntry<frm_WxFinder>(u"frm_WxFinder"_s),
         screenEntry<frm_Select_CC_Method>(u"frm_Select_CC_Method"_s),
         screenEntry<frm_FlightPlan>(u"frm_FlightPlan"_s),

@@ -11,6 +11,7 @@
 #include "ui/screens/splash_screen.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
+#include "weather/wx_finders.h"
 
 #include <QApplication>
 
@@ -44,6 +45,7 @@ void loadBehindSplash(Shell& shell) {
     if (!session.IsWideClient) showStep(splash, flightsProgressText, 40);
     loadFlightFiles(session);
     clsResourceFolders::reload(session);
+    clsWxFinders::reload(session);
     showStep(splash, u"Loading the texture sets. Please Wait............."_s, 60);
     shell.formatMainScreen();
     showStep(splash, {}, 100);

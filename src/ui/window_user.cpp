@@ -1,8 +1,10 @@
 #include "ui/window_user.h"
 
+#include "core/session.h"
 #include "ui/dialog_form.h"
 #include "ui/host_form.h"
 #include "ui/screens/message_screen.h"
+#include "ui/screens/splash_screen.h"
 #include "ui/shell.h"
 
 #include <QCoreApplication>
@@ -40,8 +42,12 @@ void WindowUser::showMessage(const Message& message) {
     messageForm().showMessage(message);
 }
 
+/// While the program starts the splash has the bar.
 void WindowUser::updateProgress(const QString& title, const QString& text, double value) {
-    messageForm().updateProgress(title, text, value);
+    if (shell_->session().StartingUp)
+        shell_->screen<frm_Splash>(u"frm_Splash"_s).showStep(text, value);
+    else
+        messageForm().updateProgress(title, text, value);
     pumpMessages();
 }
 

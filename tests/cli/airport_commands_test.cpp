@@ -1,7 +1,6 @@
 #include "cli/console.h"
 
 #include "core/application.h"
-#include "core/store.h"
 #include "support/printing.h"
 #include "weather/directory_rows.h"
 #include "weather/stored_reports.h"
@@ -13,7 +12,7 @@ namespace {
 
 struct AirportCommands : testing::Test {
     AirportCommands() {
-        install.session.adoConn->open(install.home() / u"Morvane.mdb");
+        connectDatabase(install.session);
         std::vector<Airport> airports{
             {u"EHAM"_s, u"Schiphol"_s, u"Amsterdam"_s, {}, u"Netherlands"_s, u"52.31"_s, u"4.76"_s}};
         for (int i = 100; i < 250; ++i)

@@ -2,11 +2,10 @@
 
 #include "core/error.h"
 #include "core/text_decoding.h"
+#include "weather/cycle_lines.h"
 #include "weather/decoded_report.h"
 
 #include <QHash>
-#include <QMap>
-#include <QRegularExpression>
 
 namespace morvane {
 
@@ -33,25 +32,6 @@ Positions positionsOf(const std::vector<AirportRow>& airports, const StationList
     return positions;
 }
 
-/// The newest report of each station. The service's own form has a date line before every report and repeats
-/// reports out of order; in the plain form no line has a date, and the last one of a station stays.
-QMap<QString, QString> newestReports(const QString& text) {
-    static const QRegularExpression dateLine(u"^\\d{4}/\\d{2}/\\d{2} \\d{2}:\\d{2}$"_s);
-    QMap<QString, QString> newest;
-    QHash<QString, QString> dates;
-    QString date;
-    for (const QString& line : splitLines(text)) {
-        if (dateLine.match(line).hasMatch()) {
-            date = line;
-        } else if (const QString station = line.section(u' ', 0, 0);
-                   !station.isEmpty() && dates[station] <= date) {
-            dates[station] = date;
-            newest[station] = line;
-        }
-    }
-    return newest;
-}
-
 DecodedMetarRow decodedRow(Session& session, const SampleCycle& cycle, const QString& line) {
     clsDecodeMetar decoded(session.user);
     decoded.decodeMetarString(line);
@@ -64,7 +44,8 @@ DecodedMetarRow decodedRow(Session& session, const SampleCycle& cycle, const QSt
 
 void addCycle(Session& session, const FilePath& data, const SampleCycle& cycle, const Positions& positions) {
     clsWxFinderData rows(session);
-    for (const QString& line : newestReports(decodeText(session.files.read(data / cycle.file)))) {
+    for (const QString& line : newestReports(splitLines(decodeText(session.files.read(data / cycle.file))))) {
+        if (line.isEmpty()) continue;
         DecodedMetarRow row = decodedRow(session, cycle, line);
         const Position position = positions.value(row.report.WxFinderIcao);
         row.latitude = position.latitude;

@@ -201,8 +201,11 @@ void Gallery::saveDialogs() {
         {Screen::frm_SelectSkyTexture, u"sky-set-counts"},
         {Screen::frm_SelectBaseSky, u"select-base-sky"},
         {Screen::frm_flight, u"select-flight"},
+        {Screen::frm_metar_request, u"metar-request"},
         {Screen::frm_AddFav, u"add-favourite"},
         {Screen::frm_MultiDelete, u"name-choice"}};
+    shell_.session().modal.metarRequestText =
+        u"Do you wish Morvane to download and decode the latest METAR cycle from Orrinsoft?"_s;
     shell_.session().modal.multiNames = QStringList{u"12-Desert Haze"_s, u"21-Late Autumn"_s};
     for (const auto& [screen, picture] : dialogs)
         saveModal(QString::fromUtf16(picture), screenName(screen),
@@ -248,6 +251,18 @@ void Gallery::saveProgress() {
     user.setProgressFile(u"Processing file 579 of 1157 files"_s);
     user.updateProgress({}, {}, 50);
     save(u"message-progress"_s, *shell_.form(u"frm_Msg"_s));
+    user.hideMessage();
+    Message waiting{MessageKind::progress,
+                    u"ASv6 Processing Wx Data"_s,
+                    u"Active Sky is processing your weather data. Please wait..........."_s,
+                    false,
+                    false,
+                    true};
+    waiting.picture = u"ASv6Process.gif"_s;
+    shell_.session().weather.ASv6Busy = true;
+    user.showMessage(waiting);
+    save(u"message-weather-program"_s, *shell_.form(u"frm_Msg"_s));
+    shell_.session().weather.ASv6Busy = false;
     user.hideMessage();
 }
 

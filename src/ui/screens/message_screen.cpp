@@ -4,6 +4,7 @@
 #include "core/session.h"
 #include "simulator/configs.h"
 #include "ui/controls/labels.h"
+#include "ui/controls/palette.h"
 #include "ui/controls/paper_style.h"
 #include "ui/controls/skinned_progress_bar.h"
 #include "ui/message_sounds.h"
@@ -12,6 +13,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QMovie>
 #include <QPushButton>
 
 namespace morvane {
@@ -19,6 +21,7 @@ namespace morvane {
 namespace {
 
 constexpr int paintEveryMilliseconds = 33;
+constexpr QRgb quietTitle = qRgb(92, 104, 130);
 constexpr QPoint besideCancel{280, 242}, alone{335, 242};
 
 } // namespace
@@ -40,6 +43,8 @@ void frm_Msg::makeControls() {
     picASv6_ = new QLabel(this);
     picASv6_->setObjectName(u"picASv6"_s);
     picASv6_->setGeometry(26, 108, 40, 40);
+    picASv6_->setAlignment(Qt::AlignCenter);
+    anGifASv6_ = new QMovie(this);
     lbl_Title_ = addText(u"lbl_Title"_s, {80, 61, 294, 20}, TextRole::messageTitle);
     lbl_Message_ = addText(u"lbl_Message"_s, {80, 88, 294, 136}, TextRole::body);
     lblProcessDescription_ = addText(u"lblProcessDescription"_s, {80, 172, 294, 16}, TextRole::body);
@@ -81,6 +86,8 @@ void frm_Msg::fill(const Message& message) {
     pic_Icon_->setPixmap(skin().picture(u"icon_"_s + msgType_ + u".bmp"_s));
     pic_Icon_->setAccessibleName(msgType_);
     setWindowTitle(message.title);
+    showPicture(message.picture);
+    setTextColour(*lbl_Title_, message.hasQuietTitle ? quietTitle : palette::signalRed);
     lbl_Title_->setText(message.title);
     lbl_Message_->setText(message.text);
     lblProcessDescription_->clear();
@@ -90,8 +97,24 @@ void frm_Msg::fill(const Message& message) {
     pbMessage_->setValue(0);
 }
 
+/// An animation moves as long as its message stands.
+void frm_Msg::showPicture(const QString& fileName) {
+    anGifASv6_->stop();
+    picASv6_->clear();
+    picASv6_->setVisible(!fileName.isEmpty());
+    if (fileName.endsWith(u".gif"_s, Qt::CaseInsensitive)) {
+        anGifASv6_->setFileName((session().AppPath / u"Media").child(fileName).native());
+        picASv6_->setMovie(anGifASv6_);
+        anGifASv6_->start();
+    } else if (!fileName.isEmpty()) {
+        picASv6_->setPixmap(skin().picture(fileName));
+    }
+}
+
 void frm_Msg::layOut(const Message& message) {
     const bool isQuestion = !message.isProgress;
+    // Nobody knows how much of Active Sky's work is done.
+    const bool isWaiting = session().weather.ASv6Busy;
     const auto place = [](SkinnedButton* button, bool isThere, const QPoint& at) {
         button->setState(isThere ? ButtonState::enabled : ButtonState::disabled);
         button->setVisible(isThere);
@@ -99,7 +122,7 @@ void frm_Msg::layOut(const Message& message) {
     };
     place(btn_Ok_, isQuestion && message.withOk, message.withCancel ? besideCancel : alone);
     place(btn_Cancel_, isQuestion && message.withCancel, alone);
-    pbMessage_->setVisible(message.isProgress);
+    pbMessage_->setVisible(message.isProgress && !isWaiting);
     cmdCancel_->setVisible(message.isProgress && message.withCancel);
     lbl_Message_->resize(294, message.isProgress ? 70 : 136);
     chkFastExit_->setChecked(false);

@@ -9,6 +9,7 @@
 class QCheckBox;
 class QEventLoop;
 class QLabel;
+class QMovie;
 class QPushButton;
 
 namespace morvane {
@@ -43,6 +44,7 @@ private:
     void answer(bool ok);
     void askForCancel();
     void fill(const Message& message);
+    void showPicture(const QString& fileName);
     void layOut(const Message& message);
     void storeFastExit(bool isTicked);
     bool isTimeToPaint(double value);
@@ -53,6 +55,7 @@ private:
     SkinnedProgressBar* pbMessage_;
     QPushButton* cmdCancel_;
     QCheckBox* chkFastExit_;
+    QMovie* anGifASv6_;
     QString processFile_;
     QElapsedTimer lastPaint_;
     bool isProgress_ = false;
