@@ -6,6 +6,7 @@
 #include "core/registry.h"
 #include "core/store.h"
 #include "ground/cloud_cover.h"
+#include "simulator/first_run.h"
 #include "simulator/set_matching.h"
 #include "weather/active_sky.h"
 
@@ -91,6 +92,7 @@ bool startUp(Session& session) {
         getSideFSVal(session);
         session.BackupPath = session.AppPath / u"Backup";
         session.files.makeFolder(session.BackupPath);
+        doFirstRun(session);
         readSwitches(session);
         findActiveSky(session);
     });

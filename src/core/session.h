@@ -12,6 +12,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace morvane {
 
@@ -65,6 +66,15 @@ struct ModalState {
     /// frm_FlightPlan, frm_FromDepDestVal, frm_CC_From_Option, frm_CC_From_Metar_String: whether OK was
     /// pressed. The cover itself stands in the session's lists.
     bool coverConfirmed = false;
+    /// frm_BackupList: the backups offered, the name of the row clicked last, and whether OK was pressed.
+    struct Backup {
+        QString name;
+        QDateTime takenAt;
+        bool isComplete;
+    };
+    std::vector<Backup> backups;
+    QString chosenBackup;
+    bool backupConfirmed = false;
 };
 
 /// The ground set in hand: written by a selection in the list, read by the actions.

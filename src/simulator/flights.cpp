@@ -20,6 +20,10 @@ FilePath flightsFolder(const Session& session) {
     return session.AppPath / u"Flights";
 }
 
+FilePath deliveredFlightsFolder(const Session& session) {
+    return session.FSPath / u"Flights\\Morvane";
+}
+
 FilePath listFile(const Session& session) {
     return flightsFolder(session) / u"flights.cfg";
 }
@@ -38,8 +42,7 @@ void removeCopies(Session& session) {
         session.files.remove(folder.child(name));
 }
 
-void copyFlights(Session& session, const FilePath& source) {
-    const FilePath target = flightsFolder(session);
+void copyFlights(Session& session, const FilePath& source, const FilePath& target) {
     for (const QString& fileName : session.files.list(source, flightMask)) {
         const QString name = baseName(fileName);
         if (trimmedBlanks(name).isEmpty()) continue; // the list could not hold it
@@ -72,13 +75,19 @@ void writeList(Session& session) {
 
 } // namespace
 
+void copyDeliveredFlights(Session& session) {
+    session.files.makeFolder(deliveredFlightsFolder(session));
+    copyFlights(session, flightsFolder(session), deliveredFlightsFolder(session));
+}
+
 void loadFlightFiles(Session& session) {
     if (session.IsWideClient) return;
     reportFailures(session.user, {}, [&] {
         session.files.makeFolder(flightsFolder(session));
         removeCopies(session);
-        copyFlights(session, session.FSPath / u"Flights\\Morvane");
-        if (const FilePath folder = userFolder(session); !folder.isEmpty()) copyFlights(session, folder);
+        copyFlights(session, deliveredFlightsFolder(session), flightsFolder(session));
+        if (const FilePath folder = userFolder(session); !folder.isEmpty())
+            copyFlights(session, folder, flightsFolder(session));
     });
     reportFailures(session.user, {}, [&] { writeList(session); }); // of those that were copied
 }

@@ -9,6 +9,9 @@ namespace morvane {
 /// A saved flight is a pair of files, "<name>.flt" and "<name>.wx"; its name is known without the ending. The
 /// program works on copies in its own folder "\Flights", listed in "flights.cfg" there.
 
+/// Copies the delivered flights from the program's folder to the kept ones below the simulator.
+void copyDeliveredFlights(Session& session);
+
 /// Gathers the copies anew: first the flights kept below the simulator ("\Flights\Morvane"), then the user's,
 /// which win over kept ones of the same name. Nothing on a WideFS client, whose flights are the server's.
 /// Asks for the user's folder when there is none of the usual name; without an answer only the kept flights

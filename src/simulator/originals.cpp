@@ -5,7 +5,6 @@
 #include "core/safe_copy.h"
 #include "core/text_decoding.h"
 
-#include <QCryptographicHash>
 #include <algorithm>
 #include <optional>
 
@@ -46,20 +45,14 @@ void Originals::load() {
         const QStringList fields = text.split(u'\t');
         if (fields.size() != 4 || fields[3].isEmpty()) continue; // the same, with tornLineEnd behind it
         const QString& path = fields[3];
-        const Fingerprint print{fields[1].toLongLong(), fields[2]};
+        const FileFingerprint print{fields[1].toLongLong(), fields[2]};
         paths_.insert(keyOf(path), path);
         if (fields[0] == u"kept") kept_.insert(keyOf(path), {path, print.size, print.checksum});
         if (fields[0] == u"ours" && !ours_.contains(keyOf(path), print)) ours_.insert(keyOf(path), print);
     }
 }
 
-Originals::Fingerprint Originals::fingerprint(const FilePath& file) {
-    const QByteArray contents = files_.read(file);
-    const QByteArray sum = QCryptographicHash::hash(contents, QCryptographicHash::Sha1).toHex();
-    return {contents.size(), QString::fromLatin1(sum)};
-}
-
-QString Originals::line(const char* fact, const Fingerprint& print, const QString& path) {
+QString Originals::line(const char* fact, const FileFingerprint& print, const QString& path) {
     return QString::fromLatin1(fact) + u'\t' + QString::number(print.size) + u'\t' + print.checksum + u'\t' +
            path + u'\n';
 }
@@ -68,7 +61,7 @@ void Originals::announce(const std::vector<FileCopy>& copies) {
     QString lines;
     for (const FileCopy& copy : copies) {
         const QString path = copy.target.relative();
-        const Fingerprint print = fingerprint(copy.source);
+        const FileFingerprint print = fingerprintOf(files_, copy.source);
         paths_.insert(keyOf(path), path);
         announced_.insert(keyOf(path), print); // of several copies to one path the last one stays
         if (ours_.contains(keyOf(path), print)) continue;
@@ -97,7 +90,7 @@ void Originals::settle() {
 bool Originals::isOurs(const QString& key, const FilePath& target) {
     if (!ours_.contains(key)) return false;
     try {
-        return ours_.contains(key, fingerprint(target));
+        return ours_.contains(key, fingerprintOf(files_, target));
     } catch (const Error& error) {
         if (error.code() != ErrorCode::fileNotFound) throw;
         return true; // not there: nothing to keep
@@ -119,7 +112,7 @@ void Originals::keep(const FilePath& target) {
         }
         files_.rename(part, copy);
     }
-    const Fingerprint print = fingerprint(copy);
+    const FileFingerprint print = fingerprintOf(files_, copy);
     files_.append(listFile_, (tornLineEnd + line("kept", print, path)).toUtf8());
     kept_.insert(keyOf(path), {path, print.size, print.checksum});
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/file_system.h"
+#include "core/file_fingerprint.h"
 
 #include <QHash>
 #include <QMultiHash>
@@ -49,23 +49,18 @@ public:
     int restore();
 
 private:
-    struct Fingerprint {
-        std::int64_t size;
-        QString checksum;
-        bool operator==(const Fingerprint&) const = default;
-    };
     void load();
     void putBack(const KeptOriginal& original);
-    Fingerprint fingerprint(const FilePath& file);
-    static QString line(const char* fact, const Fingerprint& print, const QString& path);
+    static QString line(const char* fact, const FileFingerprint& print, const QString& path);
     bool isOurs(const QString& key, const FilePath& target);
 
     FileSystem& files_;
     FilePath simulator_, folder_, listFile_;
     QHash<QString, KeptOriginal> kept_;
-    QMultiHash<QString, Fingerprint> ours_; ///< by key; a kill leaves it open which of several stands there
-    QHash<QString, QString> paths_;         ///< spelling of each key
-    QHash<QString, Fingerprint> announced_;
+    QMultiHash<QString, FileFingerprint>
+        ours_;                      ///< by key; a kill leaves it open which of several stands there
+    QHash<QString, QString> paths_; ///< spelling of each key
+    QHash<QString, FileFingerprint> announced_;
 };
 
 } // namespace morvane

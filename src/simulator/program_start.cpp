@@ -70,6 +70,10 @@ ProgramCall programCall(const FilePath& program, const FilePath& document, const
     return call;
 }
 
+bool lacksRunner(const FilePath& program, const QString& runner) {
+    return QProcess::splitCommand(runner).isEmpty() && isWindowsProgram(program.native());
+}
+
 void startProgram(const FilePath& program, const FilePath& document, const QString& runner) {
     const ProgramCall call = programCall(program, document, runner);
     QProcess process;

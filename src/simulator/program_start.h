@@ -14,6 +14,9 @@ namespace morvane {
 /// such as "wine" or "flatpak run org.winehq.Wine"; any other program is started by itself.
 void startProgram(const FilePath& program, const FilePath& document, const QString& runner);
 
+/// True for a Windows program on another system while there is no runner: it cannot be started.
+bool lacksRunner(const FilePath& program, const QString& runner);
+
 #ifndef Q_OS_WIN
 
 /// What is handed to the system for such a start.

@@ -10,6 +10,11 @@ SimulatorCopier::SimulatorCopier(Session& session)
     : session_(session), originals_(session.files, session.FSPath, session.AppPath) {}
 
 void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
+    clearStrays(copies);
+    originals_.announce(copies);
+}
+
+void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
     QSet<QString> seen;
     for (const FileCopy& copy : copies) {
         const FilePath folder = copy.target.parent();
@@ -17,7 +22,6 @@ void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
         seen.insert(folder.relative());
         removePartialCopies(session_.files, folder);
     }
-    originals_.announce(copies);
 }
 
 void SimulatorCopier::copy(const FileCopy& copy) {

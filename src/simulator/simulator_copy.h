@@ -14,6 +14,8 @@ public:
     /// Takes the whole list before the first copy: clears what a killed run left beside the targets and notes
     /// what will be put where.
     void prepare(const std::vector<FileCopy>& copies);
+    /// The first half alone, for files that are the pilot's own.
+    void clearStrays(const std::vector<FileCopy>& copies);
     void copy(const FileCopy& copy);
     /// After the last copy of the list.
     void finish() { originals_.settle(); }

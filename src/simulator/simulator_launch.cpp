@@ -20,7 +20,15 @@ void leaveTheScreenToTheSimulator(Session& session) {
 void startSimulator(Session& session, const FilePath& flight) {
     const QString runner =
         session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"SimulatorRunner"_s);
-    startProgram(session.FSPath / u"fs9.exe", flight, runner);
+    const FilePath simulator = session.FSPath / u"fs9.exe";
+    if (lacksRunner(simulator, runner)) {
+        session.user.showMessage(
+            {MessageKind::information, u"Flight Simulator Not Started"_s,
+             u"Flight Simulator is a Windows program and needs a runner on this system. Set the value "
+             u"\"SimulatorRunner\" of Morvane's registry.ini to its command, such as wine."_s});
+        return;
+    }
+    startProgram(simulator, flight, runner);
     leaveTheScreenToTheSimulator(session);
 }
 

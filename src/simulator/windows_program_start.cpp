@@ -27,6 +27,10 @@ QString argumentOf(const QString& path) {
 
 } // namespace
 
+bool lacksRunner(const FilePath&, const QString&) {
+    return false;
+}
+
 void startProgram(const FilePath& program, const FilePath& document, const QString&) {
     const QString argument = document.isEmpty() ? QString() : argumentOf(document.text());
     const QString folder = program.parent().text();

@@ -14,6 +14,7 @@ Paper::Paper(Form& form, const QString& picture, Title title, QWidget* parent)
       picHeader_(new QLabel(this)), lblHeader_(makeLabel(this, {}, {}, TextRole::pageTitle)) {
     const int lift = title == Title::compact ? 2 : 0;
     resize(pagePlace.size());
+    setAttribute(Qt::WA_OpaquePaintEvent); // else the window's picture is painted beneath at each change
     picHeader_->setObjectName(u"picHeader"_s);
     picHeader_->setGeometry(14, 9 - lift, 24, 24);
     lblHeader_->setObjectName(u"lblHeader"_s);

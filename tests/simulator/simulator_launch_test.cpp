@@ -173,6 +173,14 @@ TEST_F(SimulatorLaunchTest, aWindowsSimulatorIsStartedByTheRunner) {
                                                QString(flight).replace(u'/', u'\\')});
 }
 
+TEST_F(SimulatorLaunchTest, aWindowsSimulatorWithoutARunnerIsToldOf) {
+    install.user.otherwise = true;
+    launchFlightSimulator(session);
+    EXPECT_EQ(install.user.told().mid(0, 1), QStringList{launchQuestion});
+    EXPECT_TRUE(install.user.told().last().contains(u"SimulatorRunner"_s));
+    EXPECT_FALSE(install.user.calls.contains(u"minimise"_s)) << "the program stays, as nothing starts";
+}
+
 TEST_F(SimulatorLaunchTest, theCallDependsOnWhatTheProgramIs) {
     const FilePath flight = install.home() / u"Flights\\a.flt";
     writeFile(flight, "flight");

@@ -33,6 +33,7 @@ public:
     std::deque<bool> answersToGive;
     bool otherwise = true;
     std::deque<QString> foldersToChoose;
+    std::function<void(const Message&)> onMessage = [](const Message&) {}; ///< before its answer is drawn
     std::function<void(Screen)> onModal = [](Screen) {};
     std::function<void()> onPump = [] {};
     std::function<void()> onMinimise = [] {};

@@ -14,7 +14,7 @@ namespace morvane {
 namespace {
 
 /// Raise it whenever what the tool makes changes: samples of another version are made anew.
-constexpr int contentVersion = 6;
+constexpr int contentVersion = 7;
 
 /// What the steps take of the whole, in hundredths; the splashes and the skin take the rest.
 constexpr int storeShare = 5, stockShare = 80;
@@ -84,6 +84,7 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
     const auto registry = openRegistry(files, request.home);
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
+    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, u"True"_s);
     // The public weather service: Refresh works from the first start on.
     const std::pair<QString, QString> endpoint[] = {{u"WeatherServer"_s, u"https://tgftp.nws.noaa.gov"_s},
                                                     {u"WeatherPath"_s, u"/data/observations/metar/cycles/"_s},

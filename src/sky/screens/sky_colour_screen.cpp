@@ -58,11 +58,15 @@ void frm_SkyColorize::openSkyImage(const FilePath& path) {
 
 void frm_SkyColorize::showPreview() {
     tuning_.SkyProcess(sliderValues());
-    showPictures();
+    showResult();
 }
 
 void frm_SkyColorize::showPictures() {
     picSkySource_->setPicture(pictureOf(tuning_.sourceDib()));
+    showResult();
+}
+
+void frm_SkyColorize::showResult() {
     picSkyResult_->setPicture(pictureOf(tuning_.resultDib()));
 }
 

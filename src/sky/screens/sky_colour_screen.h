@@ -31,6 +31,7 @@ private:
     void optCloudCover(int index) override { tuning_.optCloudCover(index); }
     void showPreview() override;
     void showPictures();
+    void showResult();
     void showGroup();
 
     SkyTuning tuning_;

@@ -3,6 +3,7 @@
 #include "core/literals.h"
 #include "ui/controls/palette.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace morvane {
@@ -40,25 +41,45 @@ QRect PictureFrame::picturePlace() const {
 
 void PictureFrame::setPicture(const QImage& picture) {
     picture_ = picture;
-    update();
+    sized_ = {};
+    update(picturePlace());
 }
 
 void PictureFrame::setSmooth(bool isSmooth) {
     isSmooth_ = isSmooth;
+    sized_ = {};
     update();
 }
 
-void PictureFrame::paintEvent(QPaintEvent*) {
+/// The picture at the size of its place on this screen, made once: a painter that enlarges spreads the work
+/// over threads, which takes longer than all of a small picture.
+const QImage& PictureFrame::sizedPicture() {
+    const double ratio = devicePixelRatioF();
+    const QSize dots = (QSizeF(picturePlace().size()) * ratio).toSize();
+    if (sized_.size() == dots) return sized_;
+    sized_ = picture_.scaled(dots, Qt::IgnoreAspectRatio,
+                             isSmooth_ ? Qt::SmoothTransformation : Qt::FastTransformation);
+    sized_.setDevicePixelRatio(ratio);
+    return sized_;
+}
+
+void PictureFrame::paintFrame(QPainter& painter) const {
     const QRect place = picturePlace();
-    QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     paintShadow(painter, place.adjusted(-1, -1, 1, 1));
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(place.adjusted(-2, -2, 2, 2), Qt::white);
     painter.fillRect(place.adjusted(-1, -1, 1, 1), QColor::fromRgb(palette::pictureLine));
-    if (picture_.isNull()) return painter.fillRect(place, QColor::fromRgb(palette::paperFoot));
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, isSmooth_);
-    painter.drawImage(place, picture_);
+}
+
+void PictureFrame::paintEvent(QPaintEvent* event) {
+    const QRect place = picturePlace();
+    QPainter painter(this);
+    if (!place.contains(event->rect())) paintFrame(painter);
+    if (picture_.isNull())
+        painter.fillRect(place, QColor::fromRgb(palette::paperFoot));
+    else
+        painter.drawImage(place.topLeft(), sizedPicture());
 }
 
 } // namespace morvane

@@ -25,7 +25,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QImage picture_;
+    const QImage& sizedPicture();
+    void paintFrame(QPainter& painter) const;
+
+    QImage picture_, sized_;
     bool isSmooth_ = true;
 };
 
