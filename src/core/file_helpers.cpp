@@ -26,10 +26,6 @@ QString FormatSystemTimeDate(const QDateTime& time) {
     return time.toString(u"yyyy/MM/dd");
 }
 
-QString getUtcText(const Clock& clock) {
-    return clock.utcTime().toString(u"yyyy/MM/dd hh:mm");
-}
-
 QString GetFileTime(Session& session, const FilePath& path) {
     QString text;
     const FailureReport report{u"Morvane Error"_s, MessageKind::exclamation, u"Function GetFileTime: "_s};

@@ -16,8 +16,6 @@ QString GetFileTime(Session& session, const FilePath& path);
 QString FormatSystemTimeTime(const QDateTime& time);
 /// "2006/07/14".
 QString FormatSystemTimeDate(const QDateTime& time);
-/// Now in UTC as "2006/07/14 14:07".
-QString getUtcText(const Clock& clock);
 
 /// The user's folder of that number, with a separator behind it; empty for a number without a folder here.
 /// Known is 5, the documents.

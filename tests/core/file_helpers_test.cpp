@@ -34,9 +34,6 @@ TEST(SystemTimeTexts, onlyTheDateIsPadded) {
     const QDateTime time(QDate(2006, 7, 4), QTime(4, 7, 3, 25));
     EXPECT_EQ(FormatSystemTimeTime(time), u"4:7:3.25"_s);
     EXPECT_EQ(FormatSystemTimeDate(time), u"2006/07/04"_s);
-    test::ScriptedClock clock;
-    clock.now = QDateTime(QDate(2007, 3, 1), QTime(0, 5, 9), Qt::OffsetFromUTC, 3600);
-    EXPECT_EQ(getUtcText(clock), u"2007/02/28 23:05"_s);
 }
 
 TEST(Existence, aFolderTestCleansTheCallersText) {

@@ -2,11 +2,13 @@
 
 #include "core/job.h"
 #include "simulator/configs.h"
+#include "ui/controls/skinned_progress_bar.h"
 #include "ui/screens/message_screen.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMovie>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
@@ -157,6 +159,36 @@ TEST_F(MessageScreenTest, cannotBeCancelledWhereNothingSaysSo) {
     form().close();
     EXPECT_TRUE(form().isVisible());
     EXPECT_FALSE(program.user.answers().cancelRequested);
+    program.user.hideMessage();
+}
+
+TEST_F(MessageScreenTest, showsAPictureOrAnAnimationBelowTheIcon) {
+    const FilePath media = program.install.home() / u"Media";
+    test::writeFile(media / u"server.bmp", test::smallBitmap(27, 90));
+    test::writeFile(media / u"wait.gif",
+                    QByteArray::fromBase64("R0lGODlhAQABAIAAAAAAAP///ywAAAAAAQABAAACAUwAOw=="));
+    auto& picture = control<QLabel>(u"picASv6"_s);
+    const auto shownFor = [&](const QString& name) {
+        progress.picture = name;
+        program.user.showMessage(progress);
+        if (picture.isHidden()) return u"nothing"_s;
+        if (picture.movie()) return picture.movie()->isValid() ? u"animation"_s : u"broken"_s;
+        return picture.pixmap().isNull() ? u"empty"_s : u"picture"_s;
+    };
+    EXPECT_EQ(shownFor(u"server.bmp"_s), u"picture"_s);
+    EXPECT_EQ(shownFor(u"wait.gif"_s), u"animation"_s);
+    EXPECT_EQ(shownFor({}), u"nothing"_s);
+    EXPECT_EQ(shownFor(u"missing.gif"_s), u"broken"_s) << "and no harm done";
+    program.user.hideMessage();
+}
+
+TEST_F(MessageScreenTest, hasNoBarWhileActiveSkyWorks) {
+    const auto& bar = control<SkinnedProgressBar>({});
+    for (const bool isBusy : {true, false}) {
+        program.session.weather.ASv6Busy = isBusy;
+        program.user.showMessage(progress);
+        EXPECT_EQ(bar.isHidden(), isBusy);
+    }
     program.user.hideMessage();
 }
 

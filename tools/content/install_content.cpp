@@ -88,13 +88,13 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
     const auto registry = openRegistry(files, request.home);
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
+    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, u"True"_s);
     // The public weather service: Refresh works from the first start on.
     const std::pair<QString, QString> endpoint[] = {{u"WeatherServer"_s, u"https://tgftp.nws.noaa.gov"_s},
                                                     {u"WeatherPath"_s, u"/data/observations/metar/cycles/"_s},
                                                     {u"WeatherFormat"_s, u"noaa"_s}};
     for (const auto& [name, value] : endpoint)
         registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, value);
-    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, u"True"_s);
     if (request.simulator.isEmpty()) return;
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s,
                            (request.simulator / u"Flights").native());
