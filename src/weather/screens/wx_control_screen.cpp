@@ -12,6 +12,7 @@
 #include "weather/screens/metar_box.h"
 #include "weather/weather_control.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -86,6 +87,7 @@ void frm_WxControl::addFilterLists() {
     const auto add = [this](const QString& name, const QString& caption, FilterList kind, int left,
                             int width) {
         auto* list = addField<FilterChoice>(paper(), name, caption, {left, 104}, width);
+        list->view()->setAccessibleName(caption);
         connect(list, &FilterChoice::activated, this, [this, kind] { applyFilter(kind); });
         return list;
     };
