@@ -1,0 +1,222 @@
+#include "simulator/stock_import.h"
+
+#include "core/error.h"
+#include "core/failure_report.h"
+#include "core/ordered_work.h"
+#include "core/safe_copy.h"
+#include "ground/ground_sets.h"
+#include "imaging/picture_reader.h"
+#include "imaging/pixel_buffer.h"
+#include "night/night_sets.h"
+#include "simulator/backup_files.h"
+#include "simulator/backups.h"
+
+#include <algorithm>
+
+namespace morvane {
+
+namespace {
+
+const QString title = u"Use My Simulator's Textures"_s;
+
+void tell(Session& session, MessageKind kind, const QString& text) {
+    session.user.hideMessage();
+    session.user.showMessage({kind, title, text});
+}
+
+template <class Sets>
+bool isSetInstalled(const Sets& sets) {
+    return std::ranges::any_of(sets, [](const auto& set) { return set->Installed; });
+}
+
+/// The newest of those that are whole; of the others when none is.
+const clsBackup* newestBackup(Session& session) {
+    if (!session.gBackups && !clsBackups::reload(session)) return nullptr;
+    const clsBackup* newest = nullptr;
+    const auto rank = [&](const clsBackup& backup) {
+        return std::pair(isBackupComplete(session, backup.BackupName), backup.BackupDateTime);
+    };
+    for (const auto& backup : *session.gBackups)
+        if (!newest || rank(*newest) < rank(*backup)) newest = backup.get();
+    return newest;
+}
+
+std::optional<StockSource> sourceFromBackup(Session& session) {
+    const clsBackup* backup = newestBackup(session);
+    if (!backup) {
+        tell(session, MessageKind::exclamation,
+             u"A Morvane texture set is installed in Flight Simulator now and there is no backup of your own "
+             "textures.  Restore them first, then try again."_s);
+        return std::nullopt;
+    }
+    const QString taken = backup->BackupDateTime.toString(u"yyyy-MM-dd hh:mm");
+    if (!session.user.ask(Question::backup, title,
+                          u"A Morvane texture set is installed in Flight Simulator now.  Would you like to "
+                          u"use the textures of your newest backup, "_s +
+                              backup->BackupName + u" of "_s + taken + u", instead?"_s))
+        return std::nullopt;
+    const FilePath folder = (session.AppPath / u"Backup").child(backup->BackupName);
+    return StockSource{folder / u"Texture", folder / u"UTEurLC"};
+}
+
+std::optional<StockSource> sourceFromSimulator(Session& session, bool isConfirmed) {
+    if (isSetInstalled(loadedGroundSets(session)) || isSetInstalled(loadedNightSets(session)))
+        return sourceFromBackup(session);
+    const QString question =
+        u"Would you like Morvane to make its base images from the textures of your Flight Simulator?  The "
+        "images that are there now are kept, so that you can go back to them."_s;
+    if (!isConfirmed && !session.user.ask(Question::backup, title, question)) return std::nullopt;
+    return StockSource{session.FSPath / u"Scenery\\World\\Texture",
+                       session.FSPath / u"Scenery\\UTEurLC\\Texture"};
+}
+
+/// Nothing for a file that is no picture: one broken texture must not cost the pilot all others.
+std::optional<cDIBSection> decoded(FileSystem& files, const StockFile& file) {
+    std::optional<cDIBSection> image;
+    if (!file.isPicture) return image;
+    try {
+        image.emplace().CreateFromPicture(loadPicture(files, file.source));
+        if (!image->isCreated()) image.reset();
+    } catch (const Error& error) {
+        if (error.code() != ErrorCode::invalidPicture) throw;
+        image.reset();
+    }
+    return image;
+}
+
+/// The old image or the new one stands there at every moment.
+void saveWhole(FileSystem& files, const cDIBSection& image, const FilePath& target) {
+    const FilePath part(target.native() + partialCopySuffix);
+    if (!image.SavePicture(part)) {
+        files.remove(part);
+        throw Error(ErrorCode::diskFull, target.text());
+    }
+    files.rename(part, target);
+}
+
+class StockImport {
+public:
+    StockImport(Session& session, const Job& job, const StockSource& source)
+        : session_(session), job_(job), plan_(planStockImport(session, source)) {
+        session.user.showMessage({MessageKind::progress, title,
+                                  u"Morvane is making base images from your textures.  Please wait......."_s,
+                                  false, true, true});
+    }
+
+    StockImportReport run() {
+        if (!plan_.files.empty()) report_.isCancelled = !keepAll() || !bringAll();
+        report_.categories = std::move(plan_.categories);
+        return std::move(report_);
+    }
+
+private:
+    /// Both walks take half of the bar. False when it was cancelled.
+    template <class Step>
+    bool walk(double from, Step step) {
+        for (std::size_t i = 0; i < plan_.files.size(); ++i) {
+            session_.user.pumpMessages();
+            if (job_.isCancelled()) return false;
+            step(plan_.files[i]);
+            session_.user.updateProgress(
+                {}, {}, from + 50 * static_cast<double>(i + 1) / static_cast<double>(plan_.files.size()));
+        }
+        return true;
+    }
+
+    bool keepAll() {
+        KeptStock kept(session_.files, session_.AppPath);
+        const bool isWhole = walk(0, [&](const StockFile& file) { kept.keep(file.target); });
+        if (isWhole) kept.settle();
+        return isWhole;
+    }
+
+    bool bringAll() {
+        OrderedWork<std::optional<cDIBSection>> work(static_cast<int>(plan_.files.size()), [&](int i) {
+            return decoded(session_.files, plan_.files[static_cast<std::size_t>(i)]);
+        });
+        return walk(50, [&](const StockFile& file) { bring(file, work.next()); });
+    }
+
+    void bring(const StockFile& file, const std::optional<cDIBSection>& image) {
+        if (file.isPicture && !image) {
+            report_.unreadable << file.source.text();
+            return;
+        }
+        const FilePath target = folder(file.target.folder).exactChild(file.target.name);
+        if (image)
+            saveWhole(session_.files, *image, target);
+        else
+            replaceFile(session_.files, file.source, target);
+        ++report_.files;
+        ++plan_.categories[file.category].count;
+    }
+
+    const FilePath& folder(const QString& name) {
+        if (!folders_.contains(name)) folders_.insert(name, (session_.AppPath / name).resolved());
+        return folders_[name];
+    }
+
+    Session& session_;
+    const Job& job_;
+    StockPlan plan_;
+    QHash<QString, FilePath> folders_;
+    StockImportReport report_;
+};
+
+QString closingText(const StockImportReport& report) {
+    if (report.isCancelled)
+        return u"The import was cancelled after %1 files.  What stood there before is kept and can be put back."_s
+            .arg(report.files);
+    qsizetype missing = 0;
+    for (const StockCategory& category : report.categories)
+        missing += category.emptyPatterns.size();
+    QString text = u"%1 base images and annotation files were made from your textures.  "
+                   "%2 kinds of land have no texture among them and keep Morvane's own."_s.arg(report.files)
+                       .arg(missing);
+    if (!report.unreadable.isEmpty())
+        text += u"  %1 files could not be read as pictures."_s.arg(report.unreadable.size());
+    return text;
+}
+
+} // namespace
+
+StockImportReport importStock(Session& session, const Job& job, const StockSource& source) {
+    return StockImport(session, job, source).run();
+}
+
+std::optional<StockImportReport> importStock(Session& session, const StockSource& source) {
+    std::optional<StockImportReport> report;
+    const Job job(session);
+    if (!job) return report;
+    if (!reportFailures(session.user, {}, [&] { report = importStock(session, job, source); })) return {};
+    if (report->files == 0 && !report->isCancelled)
+        tell(session, MessageKind::exclamation,
+             u"No textures of Flight Simulator were found in "_s + source.world.text());
+    else
+        tell(session, MessageKind::information, closingText(*report));
+    return report;
+}
+
+std::optional<StockImportReport> importSimulatorStock(Session& session, bool isConfirmed) {
+    std::optional<StockSource> source;
+    reportFailures(session.user, {}, [&] { source = sourceFromSimulator(session, isConfirmed); });
+    return source ? importStock(session, *source) : std::nullopt;
+}
+
+std::optional<int> restoreStock(Session& session) {
+    std::optional<int> count;
+    const Job job(session);
+    if (!job) return count;
+    reportFailures(session.user, {}, [&] {
+        count = KeptStock(session.files, session.AppPath).restore();
+        tell(session, MessageKind::information,
+             u"%1 base images and annotation files were put back."_s.arg(*count));
+    });
+    return count;
+}
+
+bool hasKeptStock(Session& session) {
+    return !KeptStock(session.files, session.AppPath).isEmpty();
+}
+
+} // namespace morvane
