@@ -60,6 +60,7 @@ std::optional<StockSource> sourceFromBackup(Session& session) {
 }
 
 std::optional<StockSource> sourceFromSimulator(Session& session, bool isConfirmed) {
+    if (!refreshGroundSets(session) || !refreshNightSets(session)) return std::nullopt;
     if (isSetInstalled(loadedGroundSets(session)) || isSetInstalled(loadedNightSets(session)))
         return sourceFromBackup(session);
     const QString question =
@@ -139,7 +140,7 @@ private:
 
     void bring(const StockFile& file, const std::optional<cDIBSection>& image) {
         if (file.isPicture && !image) {
-            report_.unreadable << file.source.text();
+            report_.unreadable << file.source.fileName();
             return;
         }
         const FilePath target = folder(file.target.folder).exactChild(file.target.name);

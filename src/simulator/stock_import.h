@@ -14,7 +14,7 @@ namespace morvane {
 struct StockImportReport {
     std::vector<StockCategory> categories;
     int files = 0;          ///< brought, of all categories
-    QStringList unreadable; ///< paths of source files that are no picture of any kind the simulator knows
+    QStringList unreadable; ///< names of source files that are no picture of any kind the simulator knows
     bool isCancelled = false;
 };
 

@@ -77,12 +77,12 @@ TEST_F(StockImportTest, everyFileThatAPatternTakesBecomesABaseImageAndComesBack)
         EXPECT_EQ(readFile(install.home() / path), "the pilot's trees");
     EXPECT_FALSE(install.files.exists(install.home() / u"DUTCH\\029h2an1.agn"));
     EXPECT_EQ(report->files, 12);
-    EXPECT_EQ(report->unreadable, QStringList{(world / u"002C2WI1.BMP").text()});
+    EXPECT_EQ(report->unreadable, QStringList{u"002C2WI1.BMP"_s});
     EXPECT_EQ(report->categories[0].name, u"1 GENERIC WORLD"_s);
     EXPECT_EQ(report->categories[0].count, 3);
     EXPECT_FALSE(report->categories[0].emptyPatterns.contains(u"029*2"_s));
     EXPECT_EQ(report->categories[12].emptyPatterns, QStringList{u"038*2"_s});
-    EXPECT_EQ(restoreStock(session), 5);
+    EXPECT_EQ(restoreStock(session), 6);
     EXPECT_EQ(stock(), before);
     EXPECT_FALSE(hasKeptStock(session));
 }
@@ -106,7 +106,7 @@ TEST_F(StockImportTest, aCancelledImportCanBeUndoneAtEveryFile) {
         const auto report = importSimulatorStock(session);
         install.user.onPump = [] {};
         if (!report->isCancelled) break;
-        ASSERT_LT(files, 40);
+        ASSERT_LT(files, 100);
         restoreStock(session);
         EXPECT_EQ(stock(), before) << files;
     }
