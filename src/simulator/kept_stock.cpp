@@ -1,7 +1,6 @@
 #include "simulator/kept_stock.h"
 
 #include "core/error.h"
-#include "core/safe_copy.h"
 #include "core/text_decoding.h"
 
 #include <algorithm>
@@ -27,30 +26,35 @@ void KeptStock::load() {
     for (const QString& line : splitLines(QString::fromUtf8(files_.read(listFile_))))
         if (const QStringList fields = line.split(u'\t'); fields.size() == 2)
             add(fields[1], fields[0] == keptWord);
+    loadKept({});
+}
+
+void KeptStock::loadKept(const QString& folder) {
+    const FilePath place = keptPath_ / folder;
+    const QString beginning = folder.isEmpty() ? folder : folder + u'\\';
+    for (const QString& name : files_.list(place, u"*.*"_s))
+        kept_.insert((beginning + name).toCaseFolded());
+    for (const QString& inner : files_.listFolders(place))
+        loadKept(beginning + inner);
 }
 
 void KeptStock::add(const QString& path, bool wasThere) {
     facts_.insert(path.toCaseFolded(), {path, wasThere});
 }
 
-/// Looked up once for its thousands of files.
-FilePath KeptStock::folderOf(const FilePath& root, const QString& folder) {
-    const QString key = root.text() + u'\n' + folder;
+/// Folders are looked up once for their thousands of files.
+FilePath KeptStock::placeOf(const FilePath& root, const InstallFile& file) {
+    const QString key = root.text() + u'\n' + file.folder;
     if (!folders_.contains(key)) {
-        files_.makeFolder(root / folder);
-        folders_.insert(key, (root / folder).resolved());
+        files_.makeFolder(root / file.folder);
+        folders_.insert(key, (root / file.folder).resolved());
     }
-    return folders_.value(key);
+    return folders_.value(key).exactChild(file.name);
 }
 
-void KeptStock::keep(const InstallFile& file) {
-    if (facts_.contains(file.path().toCaseFolded())) return;
-    const FilePath target = folderOf(appPath_, file.folder).exactChild(file.name);
-    if (file.isThere) replaceFile(files_, target, folderOf(keptPath_, file.folder).exactChild(file.name));
-    add(file.path(), file.isThere);
-}
-
-void KeptStock::settle() {
+void KeptStock::announce(const std::vector<InstallFile>& files) {
+    for (const InstallFile& file : files)
+        if (!facts_.contains(file.path().toCaseFolded())) add(file.path(), file.isThere);
     QString list;
     for (const Fact& fact : facts_)
         list += (fact.wasThere ? keptWord : newWord) + u'\t' + fact.path + u'\n';
@@ -58,10 +62,23 @@ void KeptStock::settle() {
     files_.write(listFile_, list.toUtf8());
 }
 
+void KeptStock::replace(const InstallFile& file, const FilePath& part) {
+    const FilePath target = placeOf(appPath_, file);
+    const QString key = file.path().toCaseFolded();
+    const bool isOwn = file.isThere && facts_.value(key).wasThere && !kept_.contains(key);
+    if (isOwn) {
+        files_.rename(target, placeOf(keptPath_, file));
+        kept_.insert(key);
+    }
+    files_.rename(part, target);
+}
+
+/// What does not lie here has not been replaced, or is back already.
 bool KeptStock::putBack(const Fact& fact) {
     const FilePath target = appPath_ / fact.path;
     if (fact.wasThere) {
-        replaceFile(files_, keptPath_ / fact.path, target);
+        if (!kept_.contains(fact.path.toCaseFolded())) return false;
+        files_.rename(keptPath_ / fact.path, target);
         return true;
     }
     try {
@@ -88,24 +105,22 @@ int KeptStock::restore() {
     return count;
 }
 
-/// The list is gone, so what cannot be removed now is only room; the next import writes over it.
+/// Only folders without a file are left.
 void KeptStock::forget() {
     QStringList folders{{}};
-    try {
-        for (const Fact& fact : facts_) {
-            const FilePath kept = keptPath_ / fact.path;
-            if (fact.wasThere && files_.exists(kept)) files_.remove(kept);
-            for (QString path = fact.path; path.contains(u'\\');) {
-                path.truncate(path.lastIndexOf(u'\\'));
-                if (!folders.contains(path)) folders << path;
-            }
+    for (const Fact& fact : facts_)
+        for (QString path = fact.path; path.contains(u'\\');) {
+            path.truncate(path.lastIndexOf(u'\\'));
+            if (!folders.contains(path)) folders << path;
         }
-        std::ranges::sort(folders, std::greater(), &QString::size); // the inner ones first
+    std::ranges::sort(folders, std::greater(), &QString::size); // the inner ones first
+    try {
         for (const QString& folder : folders)
             if (files_.isFolder(keptPath_ / folder)) files_.removeFolder(keptPath_ / folder);
-    } catch (const Error&) {
+    } catch (const Error&) { // it costs nothing but its name
     }
     facts_.clear();
+    kept_.clear();
 }
 
 } // namespace morvane

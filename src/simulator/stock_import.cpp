@@ -71,95 +71,97 @@ std::optional<StockSource> sourceFromSimulator(Session& session, bool isConfirme
                        session.FSPath / u"Scenery\\UTEurLC\\Texture"};
 }
 
-/// Nothing for a file that is no picture: one broken texture must not cost the pilot all others.
-std::optional<cDIBSection> decoded(FileSystem& files, const StockFile& file) {
-    std::optional<cDIBSection> image;
-    if (!file.isPicture) return image;
+/// Makes the file that is to stand in its place, beside it. Nothing for a file that is no picture: one broken
+/// texture must not cost the pilot all others.
+bool makePart(FileSystem& files, const StockFile& file, const FilePath& part) {
+    if (!file.isPicture) {
+        files.copyContents(file.source, part);
+        return true;
+    }
+    cDIBSection image;
     try {
-        image.emplace().CreateFromPicture(loadPicture(files, file.source));
-        if (!image->isCreated()) image.reset();
+        image.CreateFromPicture(loadPicture(files, file.source));
     } catch (const Error& error) {
         if (error.code() != ErrorCode::invalidPicture) throw;
-        image.reset();
     }
-    return image;
-}
-
-/// The old image or the new one stands there at every moment.
-void saveWhole(FileSystem& files, const cDIBSection& image, const FilePath& target) {
-    const FilePath part(target.native() + partialCopySuffix);
-    if (!image.SavePicture(part)) {
-        files.remove(part);
-        throw Error(ErrorCode::diskFull, target.text());
-    }
-    files.rename(part, target);
+    if (!image.isCreated()) return false;
+    if (!image.SavePicture(part)) throw Error(ErrorCode::diskFull, part.text());
+    return true;
 }
 
 class StockImport {
 public:
     StockImport(Session& session, const Job& job, const StockSource& source)
-        : session_(session), job_(job), plan_(planStockImport(session, source)) {
+        : session_(session), job_(job), plan_(planStockImport(session, source)),
+          kept_(session.files, session.AppPath) {
         session.user.showMessage({MessageKind::progress, title,
                                   u"Morvane is making base images from your textures.  Please wait......."_s,
                                   false, true, true});
     }
 
     StockImportReport run() {
-        if (!plan_.files.empty()) report_.isCancelled = !keepAll() || !bringAll();
+        if (!plan_.files.empty()) {
+            announce();
+            report_.isCancelled = !bringAll();
+            clearParts();
+        }
         report_.categories = std::move(plan_.categories);
         return std::move(report_);
     }
 
 private:
-    /// Both walks take half of the bar. False when it was cancelled.
-    template <class Step>
-    bool walk(double from, Step step) {
-        for (std::size_t i = 0; i < plan_.files.size(); ++i) {
-            session_.user.pumpMessages();
+    void announce() {
+        std::vector<InstallFile> targets;
+        for (const StockFile& file : plan_.files) {
+            targets.push_back(file.target);
+            const QString& folder = file.target.folder;
+            if (folders_.contains(folder)) continue;
+            session_.files.makeFolder(session_.AppPath / folder);
+            folders_.insert(folder, (session_.AppPath / folder).resolved());
+        }
+        clearParts();
+        kept_.announce(targets);
+    }
+
+    /// Of files that were made ahead of a cancel, or of a run that died.
+    void clearParts() {
+        for (const FilePath& folder : folders_)
+            removePartialCopies(session_.files, folder);
+    }
+
+    FilePath partOf(const StockFile& file) const {
+        return folders_.value(file.target.folder).exactChild(file.target.name + partialCopySuffix);
+    }
+
+    /// False when it was cancelled.
+    bool bringAll() {
+        const std::size_t count = plan_.files.size();
+        OrderedWork<bool> work(static_cast<int>(count), [&](int i) {
+            const StockFile& file = plan_.files[static_cast<std::size_t>(i)];
+            return makePart(session_.files, file, partOf(file));
+        });
+        for (std::size_t i = 0; i < count; ++i) {
+            session_.user.updateProgress({}, {}, 100 * static_cast<double>(i) / static_cast<double>(count));
             if (job_.isCancelled()) return false;
-            step(plan_.files[i]);
-            session_.user.updateProgress(
-                {}, {}, from + 50 * static_cast<double>(i + 1) / static_cast<double>(plan_.files.size()));
+            bring(plan_.files[i], work.next());
         }
         return true;
     }
 
-    bool keepAll() {
-        KeptStock kept(session_.files, session_.AppPath);
-        const bool isWhole = walk(0, [&](const StockFile& file) { kept.keep(file.target); });
-        if (isWhole) kept.settle();
-        return isWhole;
-    }
-
-    bool bringAll() {
-        OrderedWork<std::optional<cDIBSection>> work(static_cast<int>(plan_.files.size()), [&](int i) {
-            return decoded(session_.files, plan_.files[static_cast<std::size_t>(i)]);
-        });
-        return walk(50, [&](const StockFile& file) { bring(file, work.next()); });
-    }
-
-    void bring(const StockFile& file, const std::optional<cDIBSection>& image) {
-        if (file.isPicture && !image) {
+    void bring(const StockFile& file, bool isMade) {
+        if (!isMade) {
             report_.unreadable << file.source.fileName();
             return;
         }
-        const FilePath target = folder(file.target.folder).exactChild(file.target.name);
-        if (image)
-            saveWhole(session_.files, *image, target);
-        else
-            replaceFile(session_.files, file.source, target);
+        kept_.replace(file.target, partOf(file));
         ++report_.files;
         ++plan_.categories[file.category].count;
-    }
-
-    const FilePath& folder(const QString& name) {
-        if (!folders_.contains(name)) folders_.insert(name, (session_.AppPath / name).resolved());
-        return folders_[name];
     }
 
     Session& session_;
     const Job& job_;
     StockPlan plan_;
+    KeptStock kept_;
     QHash<QString, FilePath> folders_;
     StockImportReport report_;
 };
