@@ -9,23 +9,14 @@
 #include "night/delivered_night_sets.h"
 #include "simulator/upgrade.h"
 
-#include <vector>
-
 namespace morvane {
 
 namespace {
 
-enum class FieldKind { text, number, flag };
-
-struct ImportedColumn {
-    const char16_t* name;
-    FieldKind kind = FieldKind::text;
-};
-
 /// A table whose rows come anew from a file, together with a column that it lacked.
 struct TableImport {
     QString table, newColumn, alteration, progressText;
-    std::vector<ImportedColumn> columns; ///< of the fields behind the first
+    const std::vector<ImportedColumn>& columns;
 };
 
 // Names are compared exactly: a store of another spelling is none of this program's.
@@ -50,11 +41,11 @@ bool flagOf(const QString& field) {
 
 void setField(RowSet& rows, const ImportedColumn& column, const QString& field) {
     switch (column.kind) {
-    case FieldKind::text:
+    case ImportedKind::text:
         return rows.setText(column.name, field);
-    case FieldKind::number:
+    case ImportedKind::number:
         return rows.setNumber(column.name, numberOf(field));
-    case FieldKind::flag:
+    case ImportedKind::flag:
         return rows.setFlag(column.name, flagOf(field));
     }
 }
@@ -101,58 +92,64 @@ void replaceRows(Session& session, const TableImport& import, const FilePath& fi
 
 } // namespace
 
+const std::vector<ImportedColumn>& airportColumns() {
+    static const std::vector<ImportedColumn> columns{{u"ICAO"},
+                                                     {u"AIRPORT_NAME"},
+                                                     {u"CITY"},
+                                                     {u"COUNTRY"},
+                                                     {u"STATE"},
+                                                     {u"LAT"},
+                                                     {u"LONG"},
+                                                     {u"ELEVATION"},
+                                                     {u"WMO_REGION", ImportedKind::number},
+                                                     {u"BLOCK_NUMBER", ImportedKind::number},
+                                                     {u"STATION_NUMBER", ImportedKind::number}};
+    return columns;
+}
+
+const std::vector<ImportedColumn>& decodedMetarColumns() {
+    static const std::vector<ImportedColumn> columns{{u"METAR_STRING"},
+                                                     {u"METAR_ICAO"},
+                                                     {u"METAR_WIND_SPEED"},
+                                                     {u"METAR_WIND_SPEED_MEASUREMENT"},
+                                                     {u"METAR_WIND_DIRECTION"},
+                                                     {u"METAR_WIND_GUSTING", ImportedKind::flag},
+                                                     {u"METAR_WIND_GUST"},
+                                                     {u"METAR_WIND_VARYING", ImportedKind::flag},
+                                                     {u"METAR_WIND_VARYING_FROM"},
+                                                     {u"METAR_WIND_VARYING_TO"},
+                                                     {u"METAR_CLOUD_COVER"},
+                                                     {u"METAR_MAX_CLOUD", ImportedKind::number},
+                                                     {u"METAR_VISIBILITY"},
+                                                     {u"METAR_VISIBILITY_FORMAT"},
+                                                     {u"METAR_WEATHER_STRENGTH"},
+                                                     {u"METAR_FOG"},
+                                                     {u"METAR_WEATHER"},
+                                                     {u"METAR_TEMP"},
+                                                     {u"METAR_DEWPOINT"},
+                                                     {u"METAR_PRESSURE"},
+                                                     {u"METAR_DATE"},
+                                                     {u"METAR_MONTH"},
+                                                     {u"METAR_YEAR"},
+                                                     {u"METAR_TIME"},
+                                                     {u"METAR_CYCLE"},
+                                                     {u"METAR_LAT"},
+                                                     {u"METAR_LONG"}};
+    return columns;
+}
+
 void importAirportData(Session& session) {
-    const TableImport import{u"AIRPORTDATA"_s,
-                             u"STATE"_s,
+    const TableImport import{u"AIRPORTDATA"_s, u"STATE"_s,
                              u"ALTER TABLE AIRPORTDATA ADD COLUMN STATE TEXT(50)"_s,
-                             u"Inserting Airport Data into the database"_s,
-                             {{u"ICAO"},
-                              {u"AIRPORT_NAME"},
-                              {u"CITY"},
-                              {u"COUNTRY"},
-                              {u"STATE"},
-                              {u"LAT"},
-                              {u"LONG"},
-                              {u"ELEVATION"},
-                              {u"WMO_REGION", FieldKind::number},
-                              {u"BLOCK_NUMBER", FieldKind::number},
-                              {u"STATION_NUMBER", FieldKind::number}}};
+                             u"Inserting Airport Data into the database"_s, airportColumns()};
     replaceRows(session, import, airportFile(session));
 }
 
 void importDecodedMetars(Session& session) {
     const TableImport import{
-        u"DECODED_METAR"_s,
-        u"METAR_LAT"_s,
+        u"DECODED_METAR"_s, u"METAR_LAT"_s,
         u"ALTER TABLE DECODED_METAR ADD COLUMN METAR_LAT TEXT(50), METAR_LONG TEXT(50)"_s,
-        u"Inserting Decoded Metar Data into the database"_s,
-        {{u"METAR_STRING"},
-         {u"METAR_ICAO"},
-         {u"METAR_WIND_SPEED"},
-         {u"METAR_WIND_SPEED_MEASUREMENT"},
-         {u"METAR_WIND_DIRECTION"},
-         {u"METAR_WIND_GUSTING", FieldKind::flag},
-         {u"METAR_WIND_GUST"},
-         {u"METAR_WIND_VARYING", FieldKind::flag},
-         {u"METAR_WIND_VARYING_FROM"},
-         {u"METAR_WIND_VARYING_TO"},
-         {u"METAR_CLOUD_COVER"},
-         {u"METAR_MAX_CLOUD", FieldKind::number},
-         {u"METAR_VISIBILITY"},
-         {u"METAR_VISIBILITY_FORMAT"},
-         {u"METAR_WEATHER_STRENGTH"},
-         {u"METAR_FOG"},
-         {u"METAR_WEATHER"},
-         {u"METAR_TEMP"},
-         {u"METAR_DEWPOINT"},
-         {u"METAR_PRESSURE"},
-         {u"METAR_DATE"},
-         {u"METAR_MONTH"},
-         {u"METAR_YEAR"},
-         {u"METAR_TIME"},
-         {u"METAR_CYCLE"},
-         {u"METAR_LAT"},
-         {u"METAR_LONG"}}};
+        u"Inserting Decoded Metar Data into the database"_s, decodedMetarColumns()};
     replaceRows(session, import, decodedMetarFile(session));
 }
 
