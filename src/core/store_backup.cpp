@@ -35,6 +35,8 @@ void copyStore(const FilePath& store, const FilePath& copy) {
     if (!QFileInfo(store.native()).isFile()) throw Error(ErrorCode::fileNotFound, store.text());
     const Connection source = connectionTo(store, SQLITE_OPEN_READWRITE);
     const Connection target = connectionTo(copy, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    // Nobody needs the way back to an empty file.
+    refuse(sqlite3_exec(target.get(), "PRAGMA journal_mode = OFF", nullptr, nullptr, nullptr), copy);
     sqlite3_backup* backup = sqlite3_backup_init(target.get(), "main", source.get(), "main");
     if (!backup) refuse(sqlite3_errcode(target.get()), copy);
     sqlite3_backup_step(backup, -1); // all pages; `finish` tells how it went

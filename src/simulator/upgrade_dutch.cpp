@@ -71,6 +71,7 @@ void createDutchForAllSets(Session& session) {
     const int total = static_cast<int>(sets.size()) - 1; // "Default" is taken to be one of them
     for (const clsTextureSet& set : sets)
         if (set.TextureSet != u"Default") createDutchForSet(session, job, set, ++number, total);
+    session.gTextureSets.reset(); // its records still say what was before
     session.user.hideMessage();
 }
 

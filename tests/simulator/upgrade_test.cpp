@@ -74,6 +74,7 @@ TEST_F(UpgradeTest, anInstallOfVersionTwoBecomesAWorkingOne) {
                      {u"RESOURCE_SOURCE"_s, u"RESOURCE_TEXTURE_SET"_s, u"RESOURCE_DESTINATION"_s}),
               "DUTCH:Dutch:Scenery\\World\\texture");
     EXPECT_EQ(dutchSets(), u"Default:1|2-Own Á:1|3-Own B:1"_s);
+    EXPECT_TRUE(findGroundSet(session, u"3-Own B"_s)->IsDutch);
     for (const QString& set : {u"2-Own Á"_s, u"3-Own B"_s})
         EXPECT_EQ(dutchFiles(set), (QStringList{u"002b2su1.bmp"_s, u"002c2wi1.bmp"_s, u"022a2wi1.bmp"_s}));
     EXPECT_EQ(readFile(home / u"Media\\dlgsplash.bmp"), "the pilot's splash");
@@ -205,7 +206,10 @@ void expectNothingLost(UpgradeTest& test) {
 }
 
 struct OneUpgrade : UpgradeTest {
-    OneUpgrade() { UpgradeTest::SetUp(); }
+    OneUpgrade() {
+        UpgradeTest::SetUp();
+        install.user.otherwise = false; // a simulator that cannot be found would be asked for over and over
+    }
     void TestBody() override {}
 };
 
@@ -223,7 +227,7 @@ TEST(UpgradeFaults, noFailedFileOperationLosesARow) {
             if (testing::Test::HasFatalFailure()) return;
         }
     std::cout << failures << " failed file operations\n";
-    EXPECT_GT(failures, 60);
+    EXPECT_GT(failures, 80);
 }
 
 TEST(UpgradeFaults, noFailedWriteOfTheStoreLosesARow) {
