@@ -99,6 +99,9 @@ private:
     void add(const FilePath& from, const QString& name, const QString& folder, bool isPicture) {
         const QString own = spelling(folder).value(name.toCaseFolded());
         const InstallFile target{folder, own.isEmpty() ? name : own, !own.isEmpty()};
+        // Two spellings of a name in one folder are one file to the simulator.
+        if (targets_.contains(target.path().toCaseFolded())) return;
+        targets_.insert(target.path().toCaseFolded());
         plan_.files.push_back({from.exactChild(name), target, plan_.categories.size() - 1, isPicture});
     }
 
@@ -116,6 +119,7 @@ private:
     QStringList worldNames_;
     NameBuckets world_, addOn_;
     QHash<QString, QHash<QString, QString>> spellings_;
+    QSet<QString> targets_;
     StockPlan plan_;
 };
 

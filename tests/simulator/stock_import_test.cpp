@@ -30,6 +30,7 @@ struct StockImportTest : testing::Test {
                                      u"029A2LM1.BMP", u"008A2LM3.BMP", u"lights2lm.bmp", u"029a2xx1.bmp"})
             writeFile(world / name, texture);
         writeFile(addOn / u"034B2SU4.BMP", texture);
+        writeFile(world.exactChild(u"029h2Su6.bmp"_s), texture); // the first one again
         for (const char16_t* name : {u"029h2an1.agn", u"005a2an1.agn"})
             writeFile(world / name, "the pilot's trees");
         writeFile(install.home() / u"DUTCH\\005a2an1.agn", "our trees");
