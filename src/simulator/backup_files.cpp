@@ -4,6 +4,7 @@
 #include "core/failure_report.h"
 #include "core/file_fingerprint.h"
 #include "core/job.h"
+#include "core/ordered_work.h"
 #include "core/safe_copy.h"
 #include "core/text_decoding.h"
 #include "simulator/backups.h"
@@ -89,17 +90,26 @@ bool walkFiles(Session& session, const std::vector<FileCopy>& copies, const Job*
     return true;
 }
 
+/// The check sums of the sources, in order, worked out on the other cores while the files are copied.
+OrderedWork<FileFingerprint> fingerprintsOf(const std::vector<FileCopy>& copies) {
+    return {static_cast<int>(copies.size()), [&copies](int index) {
+                NativeFileSystem files;
+                return fingerprintOf(files, copies[static_cast<std::size_t>(index)].source);
+            }};
+}
+
 void copyIntoBackup(Session& session, const Job& job, const QString& name) {
     std::vector<FileCopy> copies;
     for (const auto& [source, folder] :
          {std::pair{worldTextures(session), u"Texture"}, std::pair{addOnTextures(session), u"UTEurLC"}})
         for (const QString& file : session.files.list(source, bitmaps))
             copies.push_back({source.child(file), (backupFolder(session, name) / folder).exactChild(file)});
+    OrderedWork<FileFingerprint> prints = fingerprintsOf(copies);
     QString list;
     const bool isWhole = walkFiles(session, copies, &job, [&](const FileCopy& copy) {
         tryStep([&] {
+            const FileFingerprint print = prints.next();
             replaceFile(session.files, copy.source, copy.target);
-            const FileFingerprint print = fingerprintOf(session.files, copy.target);
             list += QString::number(print.size) + u'\t' + print.checksum + u'\t' +
                     copy.target.parent().fileName() + u'\\' + copy.target.fileName() + u'\n';
         });
@@ -121,32 +131,28 @@ QHash<QString, FileFingerprint> readList(Session& session, const QString& name) 
     return prints;
 }
 
-/// One file on its way back.
-class BackupReader {
-public:
-    BackupReader(Session& session, const QString& name)
-        : session_(session), copier_(session), prints_(readList(session, name)) {}
+/// True when the target holds the same already.
+bool stands(FileSystem& files, const FileCopy& copy) {
+    return files.exists(copy.target) && files.size(copy.target) == files.size(copy.source) &&
+           files.read(copy.target) == files.read(copy.source);
+}
 
-    void prepare(const std::vector<FileCopy>& copies) { copier_.clearStrays(copies); }
-    void putBack(const FileCopy& copy) {
-        const QByteArray contents = session_.files.read(copy.source);
-        const QString path = copy.source.parent().fileName() + u'\\' + copy.source.fileName();
-        const auto print = prints_.constFind(path.toCaseFolded());
-        const bool isDamaged = print != prints_.cend() && fingerprintOf(contents) != *print;
-        if (!isDamaged && !stands(copy.target, contents)) copier_.copy(copy);
-    }
-
-private:
-    bool stands(const FilePath& target, const QByteArray& contents) {
-        FileSystem& files = session_.files;
-        return files.exists(target) && files.size(target) == contents.size() &&
-               files.read(target) == contents;
-    }
-
-    Session& session_;
-    SimulatorCopier copier_;
-    QHash<QString, FileFingerprint> prints_;
-};
+void copyBack(Session& session, const QString& name, std::vector<FileCopy> copies) {
+    for (FileCopy& copy : copies)
+        copy.target = copy.target.resolved();
+    const QHash<QString, FileFingerprint> known = readList(session, name);
+    SimulatorCopier copier(session);
+    copier.clearStrays(copies);
+    OrderedWork<FileFingerprint> prints = fingerprintsOf(copies);
+    walkFiles(session, copies, nullptr, [&](const FileCopy& copy) {
+        tryStep([&] {
+            const QString path = copy.source.parent().fileName() + u'\\' + copy.source.fileName();
+            const FileFingerprint print = prints.next();
+            const bool isDamaged = known.value(path.toCaseFolded(), print) != print;
+            if (!isDamaged && !stands(session.files, copy)) copier.copy(copy);
+        });
+    });
+}
 
 } // namespace
 
@@ -185,10 +191,7 @@ void restoreBackup(Session& session, const QString& name) {
         addFolderFiles(session, folder / u"Texture", bitmaps, worldTextures(session), copies);
         if (session.files.isFolder(session.FSPath / u"Scenery\\UTEurLC"))
             addFolderFiles(session, folder / u"UTEurLC", bitmaps, addOnTextures(session), copies);
-        BackupReader backup(session, name);
-        backup.prepare(copies);
-        walkFiles(session, copies, nullptr,
-                  [&](const FileCopy& copy) { tryStep([&] { backup.putBack(copy); }); });
+        copyBack(session, name, std::move(copies));
     });
     session.user.updateProgress({}, {}, 100);
 }

@@ -65,8 +65,10 @@ std::int16_t takeCoverOfAirports(Session& session) {
 
 void selectCloudCoverMethod(Session& session) {
     session.user.hideScreen(Screen::frm_Main);
-    while (!chooseCover(session)) {
-    }
+    // A program that ends closes each screen at once, which must not bring up the next one.
+    while (!chooseCover(session))
+        if (session.ExitInProgress) break;
+    session.CoverCancelled |= session.ExitInProgress;
     session.user.showScreen(Screen::frm_Main);
 }
 

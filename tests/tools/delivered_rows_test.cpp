@@ -13,20 +13,19 @@ namespace {
 
 using DeliveredRows = test::StartedInstall;
 
-TEST_F(DeliveredRows, letTheProgramStartWithoutAQuestion) {
+TEST_F(DeliveredRows, letTheProgramDoItsFirstRunWithoutAQuestion) {
     EXPECT_TRUE(hasStarted);
-    EXPECT_EQ(user.told(), QStringList());
-    EXPECT_EQ(user.calls, QStringList());
+    EXPECT_EQ(user.countOfKind(MessageKind::question), 0);
     EXPECT_EQ(session.FSPath.native(), simulator().native());
     EXPECT_FALSE(session.IsWideClient || session.IsDutch || session.IsTropical || session.IsHalo ||
                  session.IsFastExit);
     EXPECT_EQ(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s), u"False");
-    EXPECT_EQ(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s), QString());
+    EXPECT_EQ(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s), u"False");
 }
 
 TEST_F(DeliveredRows, everyTableIsThereAndHoldsItsCount) {
     const QString counts =
-        u"AIRPORTDATA 19871|DECODED_METAR 611|MV_BACKUP 0|MV_CONFIG 4|NIGHT_TEXTURE_SETS 5|"
+        u"AIRPORTDATA 19871|DECODED_METAR 611|MV_BACKUP 1|MV_CONFIG 4|NIGHT_TEXTURE_SETS 5|"
         u"RESOURCE_FOLDERS 4|SKY_TEXTURE_SETS 1|SKY_TEXTURE_SUB_SETS 1|TEXTURE_SETS 1|"
         u"TEXTURE_SWITCH 1|WX_STATIONS 0"_s;
     QStringList found;
