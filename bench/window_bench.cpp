@@ -1,10 +1,12 @@
 // The window program on the install of MORVANE_HOME_BENCH, on the offscreen platform: how long from the start
-// of its own code to a painted main window, and how live it stays while a set is made. The install is worked
-// on: name a sample.
+// of its own code to a painted main window, how live it stays while a set is made, and how soon a search
+// shows what it found. The install is worked on: name a sample.
 
 #include "core/application.h"
 #include "core/registry.h"
 #include "core/session.h"
+#include "core/store.h"
+#include "core/store_statement.h"
 #include "ground/ground_generation.h"
 #include "simulator/resource_folders.h"
 #include "sky/sky_generation.h"
@@ -16,8 +18,10 @@
 #include "ui/shell.h"
 #include "ui/skin.h"
 #include "ui/window_user.h"
+#include "weather/wx_finders.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -25,6 +29,8 @@
 #include <QTimer>
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <ctime>
+#include <functional>
 
 namespace morvane {
 namespace {
@@ -64,7 +70,7 @@ public:
         : registry_(openRegistry(files_, home)), session({user_, files_, clock_, random_, *registry_}, home),
           skin_(files_, home / u"Media"), shell(session, skin_) {
         user_.setShell(&shell);
-        isStarted = startUp(session) && clsResourceFolders::reload(session);
+        isStarted = startUp(session) && clsResourceFolders::reload(session) && clsWxFinders::reload(session);
         shell.formatMainScreen();
         shell.form(u"frm_Main"_s)->show();
         QCoreApplication::processEvents();
@@ -193,6 +199,107 @@ void movingASkySlider(benchmark::State& state) {
     state.counters["ms_median"] = moves[moves.size() / 2];
 }
 BENCHMARK(movingASkySlider)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// Weather ------------------------------------------------------------------------------------------------
+
+constexpr int fullCycle = 5'100, allAirports = 20'000;
+
+/// Copies rows of both tables under codes of their own until they hold a full cycle and all airports of a
+/// large directory, and takes the copies away at its end.
+class FullTables {
+public:
+    FullTables() {
+        Store store;
+        store.open(file_);
+        fill(store, u"DECODED_METAR"_s, u"METAR_ICAO"_s, fullCycle);
+        fill(store, u"AIRPORTDATA"_s, u"ICAO"_s, allAirports);
+    }
+    ~FullTables() {
+        Store store;
+        store.open(file_);
+        StoreStatement(store, u"DELETE FROM DECODED_METAR WHERE METAR_ICAO LIKE '~%'"_s).step();
+        StoreStatement(store, u"DELETE FROM AIRPORTDATA WHERE ICAO LIKE '~%'"_s).step();
+    }
+
+private:
+    static void fill(Store& store, const QString& table, const QString& code, int count) {
+        QStringList columns = store.columns(table);
+        columns.removeOne(u"ID"_s);
+        QStringList values = columns;
+        values.replace(columns.indexOf(code), u"'~' || n || "_s + code);
+        StoreStatement(store,
+                       u"WITH RECURSIVE rounds(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM rounds WHERE n < "
+                       "100) INSERT INTO %1(%2) SELECT %3 FROM rounds, %1 LIMIT max(0, %4 - (SELECT count(*) "
+                       "FROM %1))"_s.arg(table, columns.join(u','), values.join(u','))
+                           .arg(count))
+            .step();
+    }
+    FilePath file_ = benchHome() / u"Morvane.mdb"; ///< open only here, for the program wants it for itself
+};
+
+void startingWithAFullCycle(benchmark::State& state) {
+    const FullTables tables;
+    for (auto round : state) {
+        const Program program(benchHome());
+        if (!program.isStarted) state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
+        state.counters["reports"] = program.session.gWxFinders->Count();
+    }
+}
+BENCHMARK(startingWithAFullCycle)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+/// The longest of the changes, each with all paints that follow it, by the clock and in processor time.
+template <class Changes>
+void timeChanges(benchmark::State& state, const Changes& changes) {
+    double longest = 0;
+    std::clock_t longestWork = 0;
+    for (auto round : state)
+        for (const auto& change : changes) {
+            QElapsedTimer clock;
+            clock.start();
+            const std::clock_t before = std::clock();
+            change();
+            QCoreApplication::processEvents();
+            longestWork = std::max(longestWork, std::clock() - before);
+            longest = std::max(longest, static_cast<double>(clock.nsecsElapsed()) / 1e6);
+        }
+    state.counters["ms_longest"] = longest;
+    state.counters["ms_longest_work"] = 1e3 * static_cast<double>(longestWork) / CLOCKS_PER_SEC;
+    state.counters["changes"] = static_cast<double>(changes.size());
+}
+
+void typingInTheSearchBoxes(benchmark::State& state) {
+    const FullTables tables;
+    Program program(benchHome());
+    if (!program.isStarted) return state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
+    program.shell.goToPage(u"frm_WxControl"_s);
+    std::vector<std::function<void()>> changes;
+    for (const QString& box : {u"txtICAO"_s, u"txtAirportName"_s, u"txtCity"_s})
+        for (const QString& text : {u"~"_s, u"s"_s, u"sa"_s, u"san"_s, u"e"_s, u"eh"_s})
+            changes.emplace_back([edit = program.shell.form(u"frm_Main"_s)->findChild<QLineEdit*>(box),
+                                  text] { edit->setText(text); });
+    timeChanges(state, changes);
+}
+BENCHMARK(typingInTheSearchBoxes)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+/// With all reports shown, the most that a change can cost.
+void changingTheFinder(benchmark::State& state) {
+    const FullTables tables;
+    Program program(benchHome());
+    if (!program.isStarted) return state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
+    Form& finder = *program.shell.form(u"frm_WxFinder"_s);
+    finder.show();
+    std::vector<std::function<void()>> changes;
+    for (const QString& most : {u"25"_s, u"0"_s}) {
+        changes.emplace_back(
+            [&finder, most] { finder.findChild<QLineEdit*>(u"txtWxMaxResults"_s)->setText(most); });
+        for (const QString& name : {u"cboPrecipitation"_s, u"cboObscuration"_s, u"cboCloudCover"_s})
+            for (const int entry : {1, 2, 3, 0})
+                changes.emplace_back(
+                    [list = finder.findChild<QComboBox*>(name), entry] { list->setCurrentIndex(entry); });
+    }
+    timeChanges(state, changes);
+}
+BENCHMARK(changingTheFinder)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 } // namespace
 } // namespace morvane

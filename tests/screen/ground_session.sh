@@ -3,36 +3,12 @@
 # a real mouse and keyboard: a run of ground sets is made, a set is installed, a second run is cancelled.
 # MORVANE_SCREENSHOTS=FOLDER keeps a picture of every step. Exit status 77: a tool is missing here.
 set -uo pipefail
-readonly skipped=77
-for tool in Xvfb openbox xdotool xwininfo xprop setpriv; do
-    if ! command -v "$tool" >/dev/null; then
-        echo "Skipped: this test of the windows needs $tool, which is not installed (see tools/packages.sh)."
-        exit $skipped
-    fi
-done
-
 programs=$1
-root=$(mktemp -d "${TMPDIR:-/tmp}/Mörvane am Schirm XXXXXX")
 here=$(dirname "$0")
-. "$here/display.sh"
-. "$here/install.sh"
-cleanUp() {
-    stopDisplay
-    rm -rf "$root"
-}
-trap cleanUp EXIT
-trap 'exit 1' INT TERM
-
-# Nothing of the user's own settings and no scale of the display reaches the programs. Leaks are for the tests
-# without a display to find: here the display's own libraries would be counted in.
-unset QT_QPA_PLATFORM QT_SCREEN_SCALE_FACTORS QT_STYLE_OVERRIDE QT_PLUGIN_PATH
-export LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1 QT_FONT_DPI=96 HOME="$root/user" XDG_RUNTIME_DIR="$root/run"
-export XDG_CONFIG_HOME="$HOME" XDG_CACHE_HOME="$HOME" XDG_DATA_HOME="$HOME"
-export ASAN_OPTIONS="detect_leaks=0:${ASAN_OPTIONS:-}"
+. "$here/session.sh"
 
 # Places in the windows -----------------------------------------------------------------------------------
 
-readonly mainSize=880x580 messageSize=400x300
 readonly headerPlace="300 78" cutCorner="3 3" inside="440 300"
 readonly groundKey="71 239" backKey="71 159"
 readonly createKey="233 512" installKey="509 512"
@@ -48,11 +24,7 @@ rowPlace() {
 startProgram() {
     say "The program starts with its main window, which has an outline and lies on the screen"
     filesBefore=$(otherFiles)
-    MORVANE_HOME="$home" QT_QPA_PLATFORM=xcb "$programs/morvane" >"$root/morvane.log" 2>&1 &
-    programId=$!
-    waitFor "the main window" hasWindow Morvane $mainSize
-    mainWindow=$(windowOf Morvane $mainSize)
-    waitFor "the splash to go" hasNoWindow Morvane 700x500
+    startWindows
     expect "the main window is alone" hasNoWindow Morvane $messageSize
     expect "the main window lies on the screen" isOnScreen "$mainWindow"
     expect "the main window has an outline" hasOutline "$mainWindow"
@@ -195,7 +167,6 @@ closeProgram() {
     diff <(echo "$filesBefore") <(otherFiles) || fail "there are stray files, or some are gone"
 }
 
-mkdir -m 700 "$root/user" "$root/run"
 makeInstall || fail "no install"
 startDisplay
 startProgram

@@ -10,6 +10,8 @@ makeInstall() {
     for folder in "GENERIC WORLD" "UT EUROPE" UTIND DUTCH; do
         find "$home/Resources/$folder" -name '*.bmp' -not -name '029*' | sort | awk 'NR % 3' | tr '\n' '\0' | xargs -0 -r rm
     done
+    # The first run of all, which keeps a backup and tells so, is behind it.
+    "$programs/morvane-cli" --home "$home" ground list >/dev/null 2>&1
 }
 
 # The sets in the store, a line each: name, cover and "true" where installed, parted by "|".

@@ -41,13 +41,16 @@ void Gallery::save(const QString& name, QWidget& window) {
 
 void Gallery::saveModal(const QString& name, const QString& form, const std::function<void()>& call,
                         const std::function<void(QWidget& dialog)>& act) {
-    QTimer::singleShot(0, &shell_, [&] {
+    QTimer timer; // asks again until the screen is there: some let events flow while they are filled
+    timer.callOnTimeout([&] {
         Form* dialog = shell_.loadedForm(form);
         if (!dialog || !dialog->isVisible()) return;
+        timer.stop();
         act(*dialog);
         save(name, *dialog);
         dialog->cancel();
     });
+    timer.start(0);
     call();
 }
 

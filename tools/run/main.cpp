@@ -1,24 +1,24 @@
-// morvane-run: the main job at the console, on a sample install: a METAR, its cover word, a ground set for
-// it, the question, the install, the simulator's start, and a contact sheet to look at.
+// morvane-run: the main job at the console, on a sample install: the weather of a flight, its cover word, a
+// ground set for it, the question, the install, the simulator's start, and a contact sheet to look at.
 
 #include "cli/console_user.h"
 #include "cli/terminal.h"
 #include "contact_sheet_samples.h"
 #include "core/application.h"
-#include "core/numbers.h"
 #include "core/options.h"
 #include "core/registry.h"
 #include "core/text_decoding.h"
+#include "flight_weather.h"
 #include "ground/cloud_cover.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
+#include "sample_endpoint.h"
 #include "simulator/flights.h"
 #include "simulator/set_choice.h"
 #include "simulator/set_matching.h"
 #include "sky/sky_generation.h"
 #include "sky/sky_sets.h"
 #include "start_record.h"
-#include "weather/metar_decoder.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -31,10 +31,6 @@ using namespace morvane;
 
 namespace {
 
-void say(const QString& text) {
-    writeStandardOutput(text + u'\n');
-}
-
 /// A report of the sample cycle with some weather in it.
 QString sampleReport(FileSystem& files) {
     const QString cycle =
@@ -42,21 +38,6 @@ QString sampleReport(FileSystem& files) {
     for (const QString& line : splitLines(cycle))
         if (line.startsWith(u"KSEA ")) return line;
     return {};
-}
-
-void describe(const clsDecodeMetar& report) {
-    const std::pair<const char16_t*, QString> lines[] = {
-        {u"Station", report.MetarICAO},
-        {u"Wind", report.WindDirection + u' ' + report.WindSpeed + report.WindSpeedMeasurement},
-        {u"Visibility", report.MetarVisiblity},
-        {u"Weather", report.MetarWeatherStrength + report.MetarWeather},
-        {u"Sky", report.MetarCloud},
-        {u"Temperature", report.MetarTemp},
-        {u"Pressure", report.MetarPressure},
-    };
-    for (const auto& [name, value] : lines)
-        if (!trimmedBlanks(value).isEmpty())
-            say(u"  %1 %2"_s.arg(QStringView(name).toString() + u':', -12).arg(value));
 }
 
 /// Whether there is another activated set for the cover than the delivered one.
@@ -145,18 +126,23 @@ void fly(Session& session) {
 }
 
 struct RunRequest {
-    QString metar, flight, sheet;
+    QString metar, departure, destination, plan, flight, sheet;
+    bool refreshes;
 };
 
+bool takeWeather(Session& session, ConsoleUser& user, const RunRequest& request) {
+    if (!request.plan.isEmpty()) return takeWeatherOfPlan(session, request.plan);
+    if (!request.departure.isEmpty() || !request.destination.isEmpty())
+        return takeWeatherOfAirports(session, user, request.departure, request.destination);
+    return takeWeatherOfReport(session,
+                               request.metar.isEmpty() ? sampleReport(session.files) : request.metar);
+}
+
 int run(Session& session, ConsoleUser& user, const RunRequest& request) {
-    const QString& metar = request.metar;
     if (!startUp(session)) return 1;
     getCustomSplashVal(session);
-    say(u"METAR: "_s + metar);
-    clsDecodeMetar report(user);
-    report.decodeMetarString(metar);
-    describe(report);
-    if (!processMetarString(session, metar)) return 1;
+    if (request.refreshes && !refreshCycle(session, user)) return 1;
+    if (!takeWeather(session, user, request)) return 1;
     const QString cover = SetMatching::coverWord(SetMatching(session).getAverageCloudCover());
     say(u"Cloud cover: "_s + cover);
     makeMissingSets(session, user, cover);
@@ -172,6 +158,20 @@ int run(Session& session, ConsoleUser& user, const RunRequest& request) {
     return user.hasFailed() ? 1 : 0;
 }
 
+void addOptions(QCommandLineParser& parser) {
+    const auto add = [&](const QString& name, const QString& meaning, const QString& value = {}) {
+        parser.addOption({name, meaning, value});
+    };
+    add(u"home"_s, u"The install folder."_s, u"DIR"_s);
+    add(u"sheet"_s, u"Where the contact sheet goes."_s, u"PNG"_s);
+    add(u"metar"_s, u"A report of your own; else one of the sample cycle."_s, u"TEXT"_s);
+    add(u"from"_s, u"The departure, for its stored report."_s, u"ICAO"_s);
+    add(u"to"_s, u"The destination, for its stored report."_s, u"ICAO"_s);
+    add(u"plan"_s, u"A flight plan, for the stored reports along it."_s, u"FILE"_s);
+    add(u"serve-sample"_s, u"Refresh first, from a server on the loopback that has the sample cycle."_s);
+    add(u"flight"_s, u"A saved flight to start the simulator with; else none."_s, u"NAME"_s);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -179,10 +179,7 @@ int main(int argc, char** argv) {
     QCommandLineParser parser;
     parser.setApplicationDescription(u"From a METAR to an installed ground set, on a sample install."_s);
     parser.addHelpOption();
-    parser.addOption({u"home"_s, u"The install folder."_s, u"DIR"_s});
-    parser.addOption({u"sheet"_s, u"Where the contact sheet goes."_s, u"PNG"_s});
-    parser.addOption({u"metar"_s, u"A report of your own; else one of the sample cycle."_s, u"TEXT"_s});
-    parser.addOption({u"flight"_s, u"A saved flight to start the simulator with; else none."_s, u"NAME"_s});
+    addOptions(parser);
     parser.process(application);
     if (!parser.isSet(u"home"_s) || !parser.isSet(u"sheet"_s)) parser.showHelp(2);
 
@@ -194,8 +191,11 @@ int main(int argc, char** argv) {
                       {{Question::savedFlight, parser.isSet(u"flight"_s)}}});
     const FilePath home(QFileInfo(parser.value(u"home"_s)).absoluteFilePath());
     const auto registry = openRegistry(files, home);
-    Session session({user, files, clock, random, *registry}, home);
-    const QString metar = parser.isSet(u"metar"_s) ? parser.value(u"metar"_s) : sampleReport(files);
-    const QString sheet = QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath();
-    return run(session, user, {metar, parser.value(u"flight"_s), sheet});
+    std::optional<SampleEndpoint> sample;
+    if (parser.isSet(u"serve-sample"_s)) say(u"Weather server: "_s + sample.emplace(*registry).address());
+    Session session({user, files, clock, random, sample ? *sample : *registry}, home);
+    return run(session, user,
+               {parser.value(u"metar"_s), parser.value(u"from"_s), parser.value(u"to"_s),
+                parser.value(u"plan"_s), parser.value(u"flight"_s),
+                QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath(), sample.has_value()});
 }
