@@ -8,6 +8,7 @@
 #include "night/night_sets.h"
 #include "support/printing.h"
 
+#include <QImage>
 #include <QSet>
 #include <cmath>
 
@@ -124,6 +125,21 @@ TEST_F(StockFiles, splashesAreDifferentBitmapsOf24Bits) {
     EXPECT_EQ(contents.size(), 6);
     EXPECT_EQ(files.read(simulator() / u"Uires\\dlgsplash.bmp"),
               files.read(home() / u"Media\\dlgsplash.bmp"));
+}
+
+TEST_F(StockFiles, halosAreBrightInTheMiddleAndBlackAtTheirEdge) {
+    QSet<QByteArray> contents;
+    for (const char16_t* name : {u"halo.bmp", u"halodefault.bmp"}) {
+        const QByteArray halo = files.read(home() / u"Media" / name);
+        const QImage picture = QImage::fromData(halo);
+        EXPECT_EQ(picture.size(), QSize(64, 64));
+        EXPECT_GT(qGray(picture.pixel(32, 32)), 240);
+        for (int x = 0; x < 64; ++x)
+            EXPECT_EQ(qGray(picture.pixel(x, 0)), 0) << "a square would stand round each lamp";
+        contents << halo;
+    }
+    EXPECT_EQ(contents.size(), 2);
+    EXPECT_EQ(files.read(simulator() / u"Texture\\halo.bmp"), files.read(home() / u"Media\\halodefault.bmp"));
 }
 
 TEST_F(StockCatalogue, noBaseImageIsWithoutUse) {

@@ -3,6 +3,7 @@
 #include "base_image_drawing.h"
 #include "core/error.h"
 #include "core/ordered_work.h"
+#include "halo_picture.h"
 #include "imaging/recolouring.h"
 #include "imaging/texture_codec.h"
 #include "splash_screen.h"
@@ -93,6 +94,13 @@ void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simu
     const FilePath own = home / u"Media\\dlgsplash.bmp";
     saveBitmap(toPicture(drawSplash({})), own);
     if (!simulator.isEmpty()) files.copyContents(own, simulator / u"Uires\\dlgsplash.bmp");
+}
+
+void writeHalos(FileSystem& files, const FilePath& home, const FilePath& simulator) {
+    const FilePath own = home / u"Media\\halodefault.bmp";
+    saveBitmap(toPicture(drawHalo(HaloStyle::customHalo)), home / u"Media\\halo.bmp");
+    saveBitmap(toPicture(drawHalo(HaloStyle::defaultHalo)), own);
+    if (!simulator.isEmpty()) files.copyContents(own, simulator / u"Texture\\halo.bmp");
 }
 
 } // namespace morvane

@@ -25,4 +25,7 @@ Picture inSimulatorLook(const Picture& picture);
 /// The splash pictures below `home`\Media, and the simulator's own in its "Uires".
 void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simulator);
 
+/// "halo.bmp" and "halodefault.bmp" below `home`\Media, and the simulator's own in its "Texture".
+void writeHalos(FileSystem& files, const FilePath& home, const FilePath& simulator);
+
 } // namespace morvane
