@@ -41,13 +41,16 @@ void Gallery::save(const QString& name, QWidget& window) {
 
 void Gallery::saveModal(const QString& name, const QString& form, const std::function<void()>& call,
                         const std::function<void(QWidget& dialog)>& act) {
-    QTimer::singleShot(0, &shell_, [&] {
+    QTimer timer; // a dialog that loads its rows lets events run before it shows
+    QObject::connect(&timer, &QTimer::timeout, &shell_, [&] {
         Form* dialog = shell_.loadedForm(form);
         if (!dialog || !dialog->isVisible()) return;
+        timer.stop();
         act(*dialog);
         save(name, *dialog);
         dialog->cancel();
     });
+    timer.start(0);
     call();
 }
 

@@ -6,6 +6,7 @@
 #include "core/session.h"
 #include "simulator/texture_switches.h"
 #include "ui/controls/labels.h"
+#include "ui/controls/palette.h"
 #include "ui/controls/paper_style.h"
 
 #include <QCheckBox>
@@ -14,7 +15,7 @@ namespace morvane {
 
 namespace {
 
-constexpr int columns[] = {14, 306}, firstRow = 44, rowPitch = 115, pathWidth = 500;
+constexpr int columns[] = {14, 306}, firstRow = 44, rowPitch = 115, deckTop = 388, pathWidth = 500;
 
 /// An option that cannot be refused.
 template <void (*set)(Session&, bool)>
@@ -91,8 +92,18 @@ void frm_Switcher::addOption(const Option& option) {
     box->setGeometry(left, top, 276, 18);
     makeLabel(paper(), option.text, {left, top + 18, 276, 92}, TextRole::longHelp)
         ->setObjectName(option.label);
+    if (top + rowPitch < deckTop) addRule({left, top + 110, 276, 1});
     connect(box, &QCheckBox::toggled, this, [this, &option](bool isTicked) { takeOption(option, isTicked); });
     boxes_.push_back(box);
+}
+
+void frm_Switcher::addRule(const QRect& place) {
+    auto* rule = new QWidget(paper());
+    QPalette colours;
+    colours.setColor(QPalette::Window, QColor::fromRgb(palette::hair));
+    rule->setPalette(colours);
+    rule->setAutoFillBackground(true);
+    rule->setGeometry(place);
 }
 
 void frm_Switcher::addFlightsFolder() {
