@@ -1,3 +1,4 @@
+#include "core/store.h"
 #include "ground/ground_sets.h"
 #include "simulator/configs.h"
 #include "simulator/texture_switches.h"
