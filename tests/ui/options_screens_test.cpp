@@ -97,9 +97,9 @@ TEST_F(OptionsScreens, withoutSetsTheRefusalIsToldTwice) {
 
 TEST_F(OptionsScreens, aFailureLeavesTheBoxAsTheOptionIs) {
     program.shell.goToPage(u"frm_Switcher"_s);
-    // A splash of the simulator's own was never kept.
     EXPECT_EQ(titlesDuring([&] { box(u"chkFastExit"_s).click(); }),
               QStringList{u"Morvane FastExit Status"_s});
+    // The install has no halo of ours.
     EXPECT_EQ(titlesDuring([&] { box(u"chkHalo"_s).click(); }), QStringList{u"Morvane Error"_s});
     EXPECT_EQ(box(u"chkHalo"_s).isChecked(), session.IsHalo);
     EXPECT_TRUE(session.IsFastExit);
@@ -129,7 +129,6 @@ TEST_F(OptionsScreens, aBackupIsMadeChosenAndRestored) {
     EXPECT_EQ(titlesDuring([&] { program.press(u"frm_Config"_s, u"btn_backup"_s); }).value(0),
               u"Create New Backup?"_s);
     test::writeFile(texture, "a set");
-    test::writeFile(program.install.home() / u"Backup\\2-Backup\\note.txt", "");
     const auto choose = [&](bool isChosen) {
         program.whenShown(u"frm_BackupList"_s, [isChosen](DialogForm& dialog) {
             auto* list = dialog.findChild<SetTable*>(u"lstBackupList"_s);
