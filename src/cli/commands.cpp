@@ -10,6 +10,7 @@
 #include "cli/set_kinds.h"
 #include "cli/route_commands.h"
 #include "cli/sky_commands.h"
+#include "cli/stock_commands.h"
 #include "cli/terminal.h"
 #include "core/application.h"
 #include "core/failure_report.h"
@@ -208,6 +209,8 @@ const std::vector<Command>& commandTable() {
         {{u"plan"_s}, 1, true, showPlan, u"plan FILE"_s},
         {{u"originals"_s, u"list"_s}, 0, true, originalsList, u"originals list"_s},
         {{u"originals"_s, u"restore"_s}, 0, true, originalsRestore, u"originals restore"_s},
+        {{u"stock"_s, u"import"_s}, anyArguments, true, stockImport, u"stock import [--from DIR]"_s},
+        {{u"stock"_s, u"restore"_s}, 0, true, stockRestore, u"stock restore"_s},
         {{u"flights"_s, u"list"_s}, 0, true, flightsList, u"flights list"_s},
         {{u"flights"_s, u"load"_s}, 0, true, flightsLoad, u"flights load"_s},
         {{u"metar"_s, u"show"_s}, 1, true, metarShow, u"metar show ICAO"_s},

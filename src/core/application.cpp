@@ -8,6 +8,7 @@
 #include "ground/cloud_cover.h"
 #include "simulator/first_run.h"
 #include "simulator/set_matching.h"
+#include "simulator/upgrade.h"
 #include "weather/active_sky.h"
 
 #include <clocale>
@@ -54,6 +55,16 @@ bool findSimulator(Session& session) {
     return true;
 }
 
+/// The files of a new version, laid over an old install, ask for its upgrade.
+void openStore(Session& session) {
+    if (session.files.exists(airportFile(session))) {
+        updateToV21(session);
+    } else {
+        connectDatabase(session);
+        session.DecimalSep = getDecimalSeparator();
+    }
+}
+
 } // namespace
 
 QString getDecimalSeparator() {
@@ -86,8 +97,7 @@ bool startUp(Session& session) {
     const bool done = reportFailures(session.user, report, [&] {
         found = findSimulator(session);
         if (!found) return;
-        connectDatabase(session);
-        session.DecimalSep = getDecimalSeparator();
+        openStore(session);
         session.AirportQuery = u"SELECT * FROM AIRPORTDATA"_s;
         getSideFSVal(session);
         session.BackupPath = session.AppPath / u"Backup";

@@ -60,7 +60,7 @@ void TextureCatalogue::walkCategory(const CatalogueCategory& category, bool forS
 /// The add-on's industrial areas: two classes of its own, then generic classes under the add-on's folder,
 /// some in summer only, some with their first file only.
 void TextureCatalogue::walkIndustrialRuns(const Folders& industrial, bool forSet, const QString& setName) {
-    walkSeasons(industrial, {split(u"034*2 038*2")});
+    walkSeasons(industrial, {split(industrialPatterns)});
     // Their intermediate bitmaps lie in the category's own folder even when the row is missing.
     Folders rural = ruralFoldersOf(industrial, forSet, setName);
     rural.temp = session_.AppPath / catalogueTable()[12].tempPath;

@@ -22,14 +22,16 @@ QByteArray compressedFile(FileSystem& files, const FilePath& path) {
 } // namespace
 
 void TexturePasses::showProgress(const QString& text) {
-    session_.user.showMessage({MessageKind::progress, description_.caption, text, false, true, true});
+    session_.user.showMessage(
+        {MessageKind::progress, description_.caption, text, false, description_.canCancel, true});
 }
 
 TexturePasses::Progress TexturePasses::openProgress(const QString& verb, int process, std::size_t count) {
+    const QString& own = description_.warnings[static_cast<std::size_t>(process - 1)];
+    const QString usual = description_.duration + u"system specification. \nPlease wait............"_s;
     const QString text = verb + u" texture set "_s + QString::number(description_.setNumber) + u" of "_s +
                          QString::number(description_.setTotal) + u" texture sets.  Process "_s +
-                         QString::number(process) + u" of 2 "_s + description_.duration +
-                         u"system specification. \nPlease wait............"_s;
+                         QString::number(process) + u" of 2 "_s + (own.isEmpty() ? usual : own);
     showProgress(text);
     return {text, count > 1 ? 100.0 / static_cast<double>(count + 1) : 100.0};
 }

@@ -17,6 +17,9 @@ struct PassDescription {
     QStringList subfolders;          ///< made in a new set folder
     QString lastSubfolder;           ///< made when only this one is missing
     int setNumber = 1, setTotal = 1; ///< shown as "set 2 of 5"
+    /// What stands behind "Process 1 of 2 " and "2 of 2 "; empty where it is made of the duration.
+    std::array<QString, 2> warnings{};
+    bool canCancel = true;
 };
 
 /// Pass one recolours the base files into intermediate bitmaps, pass two compresses those into the set's

@@ -7,6 +7,7 @@
 #include "core/store.h"
 #include "core/store_schema.h"
 #include "core/text_decoding.h"
+#include "night/delivered_night_sets.h"
 #include "sample_reports.h"
 #include "weather/airport_table.h"
 
@@ -116,24 +117,6 @@ void addDefaultSkySet(Store& store) {
                      {u"MAIN_SKY", u"0:0:0:0:0:0:1:32:255"_s}});
 }
 
-void addNightSets(Store& store) {
-    const QString rows[][3] = {
-        {u"Default"_s, u"0:0:0:0:0:0"_s, u"Default Morvane Night Texture Set with no extra settings"_s},
-        {u"Green Bias"_s, u"13:0:16:18.2:-8.4:0"_s, u"Morvane created set with green bias"_s},
-        {u"Red Bias"_s, u"0:13:-5.2:0:-6.6:0"_s, u"Morvane created set with red bias"_s},
-        {u"Orange Bias"_s, u"20:10:0:0:-6.6:0"_s, u"Morvane created set with orange bias"_s},
-        // The quote at its end is a part of the text.
-        {u"White Bias"_s, u"0:-6:-6:16:0:0"_s, u"Morvane created set with white bias\""_s},
-    };
-    RowSet table(store, u"SELECT * FROM NIGHT_TEXTURE_SETS"_s);
-    for (const auto& row : rows)
-        addRow(table, {{u"TEXTURE_SET", row[0]},
-                       {u"COLOR_SETTINGS", row[1]},
-                       {u"DESCRIPTION", row[2]},
-                       {u"ACTIVATED", u"True"_s},
-                       {u"INSTALLED", false}});
-}
-
 void addAirports(Store& store, const std::vector<AirportRow>& airports, const StationList& stations) {
     RowSet table(store, u"SELECT * FROM AIRPORTDATA WHERE ID = 0"_s);
     for (const AirportRow& airport : airports) {
@@ -177,7 +160,7 @@ void writeDeliveredStore(FileSystem& files, const FilePath& data, const FilePath
     addSwitches(store);
     addDefaultGroundSet(store);
     addDefaultSkySet(store);
-    addNightSets(store);
+    addDeliveredNightSets(store);
     addWeather(session, data);
     whole.commit();
     store.close();

@@ -9,6 +9,7 @@
 #include "skin_files.h"
 #include "sky_files.h"
 #include "stock_files.h"
+#include "version_two.h"
 
 #include <algorithm>
 #include <iterator>
@@ -68,7 +69,7 @@ FilePath versionFile(const ContentRequest& request) {
 
 QByteArray versionMark(const ContentRequest& request) {
     return "content " + QByteArray::number(contentVersion) + " density " +
-           QByteArray::number(request.density) + "\n";
+           QByteArray::number(request.density) + (request.isVersionTwo ? " of version 2\n" : "\n");
 }
 
 FilePath storeFile(const ContentRequest& request) {
@@ -140,6 +141,7 @@ int makeContent(FileSystem& files, const ContentRequest& request) {
     writeSkin(files, request.home / u"Media");
     writeHelp(files, request.home / u"MV Help");
     writeRegistry(files, request);
+    if (request.isVersionTwo) makeVersionTwo(files, request.home);
     files.write(versionFile(request), versionMark(request));
     request.onProgress(100);
     return static_cast<int>(stock.size());

@@ -14,6 +14,7 @@ struct ContentRequest {
     FilePath simulatorProgram; ///< the stand-in that becomes the sample simulator's fs9.exe
     FilePath data;
     int density = 1;
+    bool isVersionTwo = false; ///< an install of before, with the files that ask for its upgrade
     /// Told the share of the work that is done, 0 to 100, some hundred times.
     std::function<void(int)> onProgress = [](int) {};
 };

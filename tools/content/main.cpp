@@ -51,8 +51,9 @@ void setDefault(const char* variable, const QString& value) {
 int run(const QCommandLineParser& parser) {
     if (parser.isSet(u"icon"_s)) return skin::drawProgramIcon(128).save(parser.value(u"icon"_s)) ? 0 : 1;
     NativeFileSystem files;
-    ContentRequest request{folder(parser, u"home"_s), folder(parser, u"simulator"_s), simulatorProgram(),
-                           folder(parser, u"data"_s), parser.value(u"density"_s).toInt()};
+    ContentRequest request{
+        folder(parser, u"home"_s), folder(parser, u"simulator"_s),     simulatorProgram(),
+        folder(parser, u"data"_s), parser.value(u"density"_s).toInt(), parser.isSet(u"old-version"_s)};
     if (parser.isSet(u"check"_s)) return isContentCurrent(files, request) ? 0 : 1;
     if (parser.isSet(u"progress"_s))
         request.onProgress = [](int percent) {
@@ -84,6 +85,7 @@ int main(int argc, char** argv) {
     parser.addOption({u"progress"_s, u"Write the share of the work done, a number a line."_s});
     parser.addOption({u"density"_s, u"1 to 6: 1 makes about a thousand base images, 4 about four thousand."_s,
                       u"N"_s, u"1"_s});
+    parser.addOption({u"old-version"_s, u"Make an install of version 2 that its next start upgrades."_s});
     parser.addOption({u"check"_s, u"Make nothing; the exit status is 0 when the install is current."_s});
     parser.addOption({u"icon"_s, u"Draw the program's icon into that file, and nothing else."_s, u"PNG"_s});
     parser.process(application);

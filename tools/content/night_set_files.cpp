@@ -1,6 +1,5 @@
 #include "night_set_files.h"
 
-#include "cli/console_user.h"
 #include "core/application.h"
 #include "core/error.h"
 #include "core/registry.h"
@@ -8,22 +7,12 @@
 #include "night/night_generation.h"
 #include "night/night_selection.h"
 #include "night/night_sets.h"
+#include "quiet_user.h"
 #include "simulator/set_removal.h"
 
 namespace morvane {
 
 namespace {
-
-/// Tells failures only.
-class QuietUser : public ConsoleUser {
-public:
-    QuietUser() : ConsoleUser({}) {}
-    void showMessage(const Message& message) override {
-        if (!message.isProgress) ConsoleUser::showMessage(message);
-    }
-    void updateProgress(const QString&, const QString&, double) override {}
-    bool isMessageVisible() const override { return true; }
-};
 
 void activate(Session& session, const QString& name) {
     if (clickNightRow(session, name)) NightGeneration(session).activateNightTextureSet();

@@ -1,0 +1,77 @@
+#include "simulator/upgrade_dutch.h"
+
+#include "core/failure_report.h"
+#include "ground/colour_settings.h"
+#include "ground/ground_generation.h"
+#include "ground/ground_sets.h"
+#include "ground/texture_passes.h"
+
+namespace morvane {
+
+namespace {
+
+constexpr std::size_t upgradeCategory = 15;
+const QString dutchFolder = u"Dutch"_s;
+
+/// The category's own folders are those of the generic textures.
+std::vector<CatalogueFile> dutchFilesOf(Session& session, const QString& setName) {
+    TextureCatalogue catalogue(session);
+    catalogue.flags.categories[upgradeCategory - 1] = true;
+    std::vector<CatalogueFile> files = catalogue.popTextureList(0, 1, true, setName);
+    for (CatalogueFile& file : files) {
+        file.tempFolder = session.AppPath / u"TempBitmaps" / dutchFolder;
+        file.targetFolder = groundSetFolder(session, setName) / dutchFolder;
+    }
+    return files;
+}
+
+PassDescription descriptionOf(Session& session, const QString& setName, int number, int total) {
+    const auto warning = [](const QString& minutes, const QString& wait) {
+        return u"\nBe aware that this may take "_s + minutes +
+               u" minutes per set dependant on your system specification. \nPlease wait"_s + wait;
+    };
+    return {u"Creating Ground Texture Sets"_s,
+            {},
+            Screen::frm_MVTextures,
+            groundSetFolder(session, setName),
+            {dutchFolder},
+            dutchFolder,
+            number,
+            total,
+            {warning(u"1 - 2"_s, u"........"_s), warning(u"2 - 3"_s, u"......."_s)},
+            false};
+}
+
+void createDutchForSet(Session& session, const Job& job, clsTextureSet set, int number, int total) {
+    reportFailures(session.user, {}, [&] {
+        const ColourValues colours = parseColourSettings(set.ColorSettings, session.DecimalSep);
+        const std::vector<CatalogueFile> files = dutchFilesOf(session, set.TextureSet);
+        TexturePasses passes(session, job, descriptionOf(session, set.TextureSet, number, total));
+        passes.colourFiles(files, colours);
+        passes.convertFiles(files);
+        set.IsDutch = true;
+        session.gTextureSets->UpdateTextureSet(set);
+    });
+}
+
+} // namespace
+
+void createDutchForAllSets(Session& session) {
+    session.user.hideMessage();
+    session.user.showMessage(
+        {MessageKind::information, u"Create Dutch Textures"_s,
+         u"Morvane will now create updated textures for all your existing texture sets.  This will take "
+         "approximately 1 - 2 minutes per set"_s});
+    const Job job(session);
+    if (!job || !clsTextureSets::reload(session)) return;
+    std::vector<clsTextureSet> sets;
+    for (const auto& set : *session.gTextureSets)
+        sets.push_back(*set);
+    int number = 0;
+    const int total = static_cast<int>(sets.size()) - 1; // "Default" is taken to be one of them
+    for (const clsTextureSet& set : sets)
+        if (set.TextureSet != u"Default") createDutchForSet(session, job, set, ++number, total);
+    session.user.hideMessage();
+}
+
+} // namespace morvane

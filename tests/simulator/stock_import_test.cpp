@@ -1,0 +1,160 @@
+#include "ground/ground_sets.h"
+#include "imaging/picture_reader.h"
+#include "imaging/texture_codec.h"
+#include "simulator/backup_files.h"
+#include "simulator/stock_import.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::contentsBelow;
+using test::readFile;
+using test::writeFile;
+
+struct StockImportTest : testing::Test {
+    test::SmallInstall install;
+    Session& session = install.session;
+    FilePath world = install.simulator() / u"Scenery\\World\\texture";
+    FilePath addOn = install.simulator() / u"Scenery\\UTEurLC\\Texture";
+    QByteArray texture;
+
+    void SetUp() override {
+        const FilePath one = install.folder / u"one.bmp";
+        writeFile(one, test::smallBitmap(16, 90));
+        texture = compressTexture(loadPicture(install.files, one));
+        for (const char16_t* name : {u"029H2SU6.BMP", u"029B2SU6.BMP", u"005A2SU2.BMP", u"030A2WI1.BMP",
+                                     u"029A2LM1.BMP", u"008A2LM3.BMP", u"lights2lm.bmp", u"029a2xx1.bmp"})
+            writeFile(world / name, texture);
+        writeFile(addOn / u"034B2SU4.BMP", texture);
+        for (const char16_t* name : {u"029h2an1.agn", u"005a2an1.agn"})
+            writeFile(world / name, "the pilot's trees");
+        writeFile(install.home() / u"DUTCH\\005a2an1.agn", "our trees");
+    }
+    /// Everything below the install but the store, what is kept and parts of copies.
+    QMap<QString, QByteArray> stock() {
+        auto contents = contentsBelow(install.home());
+        contents.removeIf([](const std::pair<const QString&, QByteArray&>& file) {
+            return file.first.startsWith(u"Morvane.mdb") || file.first.startsWith(u"Resources kept") ||
+                   file.first.endsWith(u".morvane-part");
+        });
+        return contents;
+    }
+    QByteArray pixels(const FilePath& file) {
+        const Picture picture = loadPicture(install.files, file);
+        return QByteArray(reinterpret_cast<const char*>(picture.rows.data()),
+                          static_cast<qsizetype>(picture.rows.size()));
+    }
+};
+
+TEST_F(StockImportTest, everyFileThatAPatternTakesBecomesABaseImageAndComesBack) {
+    const auto before = stock();
+    const auto report = importSimulatorStock(session);
+    ASSERT_TRUE(report);
+    const std::pair<QString, bool> images[] = {{u"GENERIC WORLD\\029h2su6.bmp"_s, true},
+                                               {u"GENERIC WORLD\\029b2su6.bmp"_s, true},
+                                               {u"GENERIC WORLD\\030A2WI1.BMP"_s, true},
+                                               {u"GENERIC WORLD\\005A2SU2.BMP"_s, true},
+                                               {u"DUTCH\\005a2su2.bmp"_s, true},
+                                               {u"UTIND\\034b2su4.bmp"_s, true},
+                                               {u"GENERIC WORLD NIGHT\\029A2LM1.BMP"_s, true},
+                                               {u"GENERIC WORLD NIGHT\\008A2LM3.BMP"_s, true},
+                                               {u"DUTCH NIGHT\\008A2LM3.BMP"_s, true},
+                                               {u"GENERIC WORLD NIGHT\\lights2lm.bmp"_s, false},
+                                               {u"DUTCH NIGHT\\029A2LM1.BMP"_s, false},
+                                               {u"GENERIC WORLD\\029a2xx1.bmp"_s, false}};
+    for (const auto& [path, isTaken] : images) {
+        const FilePath file = install.home() / u"Resources" / path;
+        ASSERT_EQ(install.files.exists(file), isTaken) << path.toStdString();
+        if (!isTaken) continue;
+        EXPECT_EQ(readFile(file).at(28), 24) << path.toStdString();
+        EXPECT_EQ(pixels(file), pixels(world / u"029H2SU6.BMP")) << path.toStdString();
+    }
+    for (const char16_t* path : {u"GENERIC WORLD\\029h2an1.agn", u"DUTCH\\005a2an1.agn"})
+        EXPECT_EQ(readFile(install.home() / path), "the pilot's trees");
+    EXPECT_FALSE(install.files.exists(install.home() / u"DUTCH\\029h2an1.agn"));
+    EXPECT_EQ(report->files, 12);
+    EXPECT_EQ(report->unreadable, QStringList{u"002C2WI1.BMP"_s});
+    EXPECT_EQ(report->categories[0].name, u"1 GENERIC WORLD"_s);
+    EXPECT_EQ(report->categories[0].count, 3);
+    EXPECT_FALSE(report->categories[0].emptyPatterns.contains(u"029*2"_s));
+    EXPECT_EQ(report->categories[12].emptyPatterns, QStringList{u"038*2"_s});
+    EXPECT_EQ(restoreStock(session), 5);
+    EXPECT_EQ(stock(), before);
+    EXPECT_FALSE(hasKeptStock(session));
+}
+
+TEST_F(StockImportTest, aSecondImportKeepsWhatTheFirstOneFound) {
+    const auto before = stock();
+    importSimulatorStock(session);
+    writeFile(world / u"031A2SU1.BMP", texture);
+    importSimulatorStock(session);
+    restoreStock(session);
+    EXPECT_EQ(stock(), before);
+}
+
+TEST_F(StockImportTest, aCancelledImportCanBeUndoneAtEveryFile) {
+    const auto before = stock();
+    for (int files = 1;; ++files) {
+        int left = files;
+        install.user.onPump = [&] {
+            if (--left == 0) session.user.answers().cancelRequested = true;
+        };
+        const auto report = importSimulatorStock(session);
+        install.user.onPump = [] {};
+        if (!report->isCancelled) break;
+        ASSERT_LT(files, 100);
+        restoreStock(session);
+        EXPECT_EQ(stock(), before) << files;
+    }
+}
+
+TEST_F(StockImportTest, whileASetStandsInTheSimulatorTheNewestBackupIsOffered) {
+    const auto before = stock();
+    writeFile(world / u"031A2SU1.BMP", texture);
+    loadedGroundSets(session).markInstalled(u"Default"_s);
+    EXPECT_FALSE(importSimulatorStock(session));
+    EXPECT_TRUE(install.user.told().back().contains(u"there is no backup"_s));
+    createBackup(session, true);
+    install.files.remove(world / u"031A2SU1.BMP");
+    install.user.otherwise = false;
+    EXPECT_FALSE(importSimulatorStock(session, true));
+    EXPECT_TRUE(install.user.told().back().contains(u"1-Backup"_s));
+    EXPECT_FALSE(install.files.exists(install.home() / u"Resources kept"));
+    install.user.otherwise = true;
+    EXPECT_TRUE(importSimulatorStock(session));
+    EXPECT_TRUE(install.files.exists(install.home() / u"Resources\\GENERIC WORLD\\031A2SU1.BMP"));
+}
+
+TEST_F(StockImportTest, nothingFoundIsToldAndANoChangesNothing) {
+    const auto before = stock();
+    ASSERT_EQ(importStock(session, {install.folder / u"nowhere", install.folder / u"nowhere"})->files, 0);
+    EXPECT_TRUE(install.user.told().back().startsWith(u"Exclamation|"_s));
+    install.user.otherwise = false;
+    EXPECT_FALSE(importSimulatorStock(session));
+    EXPECT_EQ(stock(), before);
+}
+
+TEST_F(StockImportTest, noFailureOfAFileLosesTheStock) {
+    const auto before = stock();
+    int failures = 0;
+    for (const bool forever : {false, true})
+        for (int n = 1;; ++n) {
+            install.files.failAt(n, forever);
+            importSimulatorStock(session, true);
+            restoreStock(session);
+            const bool failed = install.files.hasFailed();
+            install.files.failAt(0, false);
+            restoreStock(session);
+            ASSERT_EQ(stock(), before) << n << forever;
+            if (!failed) break;
+            ++failures;
+        }
+    EXPECT_GT(failures, 100);
+}
+
+} // namespace
+} // namespace morvane
