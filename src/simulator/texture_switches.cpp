@@ -71,6 +71,21 @@ void addGenericVariants(Session& session, const FilePath& source, const FilePath
     }
 }
 
+void copyOverExisting(Session& session, const std::vector<FileCopy>& copies) {
+    SimulatorCopier copier(session);
+    copier.prepare(copies);
+    const double step = 100.0 / static_cast<double>(copies.size() + 2);
+    double position = 0;
+    for (const FileCopy& copy : copies) {
+        // The look at its attributes has always failed for a missing file: what a simulator has not, the
+        // switches do not bring. Wanted.
+        if (!session.files.exists(copy.target)) throw Error(ErrorCode::fileNotFound, copy.target.text());
+        copier.copyOverReadOnly(copy);
+        session.user.updateProgress({}, {}, position += step);
+    }
+    copier.finish();
+}
+
 } // namespace
 
 std::vector<FileCopy> dutchCopies(Session& session, bool isOn, const QString& groundName,
@@ -102,26 +117,16 @@ std::vector<FileCopy> tropicalCopies(Session& session, bool isOn, const QString&
 }
 
 void copyWithProgress(Session& session, const std::vector<FileCopy>& copies) {
-    UserInterface& user = session.user;
-    if (!copies.empty())
-        user.showMessage({MessageKind::progress, u"File Copy"_s,
-                          u"Copying the textures into Flight Simulator.  This may take a few moments. Please "
-                          "wait......."_s,
-                          false, false, true});
-    SimulatorCopier copier(session);
-    copier.prepare(copies);
-    const double step = 100.0 / static_cast<double>(copies.size() + 2);
-    double position = 0;
-    for (const FileCopy& copy : copies) {
-        // The look at its attributes has always failed for a missing file: what a simulator has not, the
-        // switches do not bring. Wanted.
-        if (!session.files.exists(copy.target)) throw Error(ErrorCode::fileNotFound, copy.target.text());
-        copier.copyOverReadOnly(copy);
-        user.updateProgress({}, {}, position += step);
+    if (!copies.empty()) {
+        session.user.showMessage(
+            {MessageKind::progress, u"File Copy"_s,
+             u"Copying the textures into Flight Simulator.  This may take a few moments. "
+             "Please wait......."_s,
+             false, false, true});
+        copyOverExisting(session, copies);
     }
-    copier.finish();
-    user.updateProgress({}, {}, 100);
-    user.hideMessage();
+    session.user.updateProgress({}, {}, 100);
+    session.user.hideMessage();
 }
 
 void dutchTexturesOn(Session& session, const QString& groundName, const QString& nightName) {

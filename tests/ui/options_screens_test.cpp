@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPushButton>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -145,6 +146,20 @@ TEST_F(OptionsScreens, aBackupIsMadeChosenAndRestored) {
     EXPECT_EQ(test::readFile(texture), "a set") << "OK without a choice";
     choose(true);
     EXPECT_EQ(test::readFile(texture), own);
+}
+
+TEST_F(OptionsScreens, thePilotsOwnTexturesBecomeBaseImages) {
+    const FilePath image = program.install.home() / u"Resources\\GENERIC WORLD\\029h2su6.bmp";
+    const FilePath world = program.install.simulator() / u"Scenery\\World\\texture";
+    const QByteArray own = test::smallBitmap(16, 201), before = test::readFile(image);
+    ASSERT_NE(QImage::fromData(own), QImage::fromData(before));
+    for (const QString& name : program.install.files.list(world, u"*.bmp"_s))
+        test::writeFile(world.child(name), own);
+    program.shell.goToPage(u"frm_Config"_s);
+    const QStringList titles =
+        titlesDuring([&] { program.control<QPushButton>(u"frm_Config"_s, u"cmdUseSimulator"_s).click(); });
+    EXPECT_GE(titles.size(), 1) << "it asks";
+    EXPECT_EQ(QImage::fromData(test::readFile(image)), QImage::fromData(own));
 }
 
 TEST_F(OptionsScreens, aPartialBackupIsMarkedWithItsDate) {

@@ -3,10 +3,13 @@
 #include "core/session.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"
+#include "simulator/stock_import.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/picture_frame.h"
 #include "ui/controls/set_table.h"
 #include "ui/skin.h"
+
+#include <QPushButton>
 
 namespace morvane {
 
@@ -36,6 +39,7 @@ frm_Config::frm_Config(Shell& shellOfPages)
     picPreview_->setAccessibleName(u"Preview"_s);
     picPreview_->placePicture({353, 131, 228, 138});
     addTexts();
+    addStockButton();
     addKeys();
 }
 
@@ -52,6 +56,15 @@ void frm_Config::addTexts() {
         ->setObjectName(u"lbl_ConfigDesc"_s);
     lblMVDescription_ = makeLabel(paper(), {}, {352, 284, 230, 62}, TextRole::body);
     lblMVDescription_->setObjectName(u"lblMVDescription"_s);
+}
+
+void frm_Config::addStockButton() {
+    auto* button = new QPushButton(u"Use my simulator's textures"_s, paper());
+    button->setObjectName(u"cmdUseSimulator"_s);
+    button->setAccessibleName(button->text());
+    button->setToolTip(u"Click to make your new texture sets from the textures of your own simulator."_s);
+    button->setGeometry(352, 352, 230, 26);
+    connect(button, &QPushButton::clicked, this, [this] { importSimulatorStock(session()); });
 }
 
 void frm_Config::addKeys() {

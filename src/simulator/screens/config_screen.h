@@ -20,6 +20,7 @@ public:
 
 private:
     void addTexts();
+    void addStockButton();
     void addKeys();
     void fillRows();
     void showDescription(const QString& title);
