@@ -4,8 +4,6 @@
 
 namespace morvane {
 
-namespace {
-
 QStringList tropicalPatterns(TropicalForm form) {
     const QString variant = form == TropicalForm::b ? u"b2"_s : u"h2"_s;
     QStringList patterns;
@@ -13,8 +11,6 @@ QStringList tropicalPatterns(TropicalForm form) {
         patterns << u"%1"_s.arg(landClass, 3, 10, QChar(u'0')) + variant;
     return patterns;
 }
-
-} // namespace
 
 std::vector<FilePath> tropicalFiles(Session& session, TropicalForm form, const QString& groundName) {
     const QStringList patterns = tropicalPatterns(form);

@@ -9,6 +9,9 @@ namespace morvane {
 /// Fourteen land classes of the tropics have two forms, "b" and "h", which differ at dawn and dusk only.
 enum class TropicalForm { b, h };
 
+/// How the names of that form begin: "004h2" to "047h2".
+QStringList tropicalPatterns(TropicalForm form);
+
 /// The pictures of that form in the named ground set, those of spring, summer, autumn and winter in this
 /// order, and behind them the annotation files, which are "GENERIC WORLD"'s whatever the set.
 std::vector<FilePath> tropicalFiles(Session& session, TropicalForm form, const QString& groundName);

@@ -1,6 +1,7 @@
 #include "made_install.h"
 
 #include "ground/texture_catalogue.h"
+#include "ground/tropical_files.h"
 #include "imaging/bitmap_header.h"
 #include "imaging/picture_reader.h"
 #include "night/night_files.h"
@@ -62,6 +63,16 @@ TEST_F(StockFiles, everyBaseImageHasItsBodyAndTheBodyShowsIt) {
 }
 
 TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
+    // The options replace only what is there: every Dutch file and both forms of the tropics.
+    const auto namesForTheOptions = [this] {
+        QStringList names =
+            files.list(home() / u"DUTCH", u"*"_s) + files.list(home() / u"DUTCH NIGHT", u"*"_s);
+        collectPatternFiles(session, home() / u"GENERIC WORLD", tropicalPatterns(TropicalForm::b), u"*.bmp"_s,
+                            names);
+        for (QString& name : names)
+            name = (name.contains(u"b2") ? tropicalName(name) : name).toUpper();
+        return names;
+    };
     const std::pair<const char16_t*, QStringList> places[] = {
         {u"Scenery\\World\\Texture", {u"GENERIC WORLD"_s, u"UT EUROPE"_s, u"GENERIC WORLD NIGHT"_s}},
         {u"Scenery\\UTEurLC\\Texture", {u"UTIND"_s}}};
@@ -82,6 +93,8 @@ TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
                 }
             }
         }
+        if (place == places[0].first) expected += namesForTheOptions();
+        expected.removeDuplicates();
         expected.sort();
         // Spelled in upper case on the disk, one file a name.
         QStringList found = files.list(simulator() / place, u"*.*"_s);
