@@ -67,8 +67,8 @@ TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
     const auto namesForTheOptions = [this] {
         QStringList names =
             files.list(home() / u"DUTCH", u"*"_s) + files.list(home() / u"DUTCH NIGHT", u"*"_s);
-        collectPatternFiles(session, home() / u"GENERIC WORLD", tropicalPatterns(TropicalForm::b), u"*.bmp"_s,
-                            names);
+        for (const QString& pattern : tropicalPatterns(TropicalForm::b))
+            names += files.list(home() / u"GENERIC WORLD", pattern + u"*"_s);
         for (QString& name : names)
             name = (name.contains(u"b2") ? tropicalName(name) : name).toUpper();
         return names;
