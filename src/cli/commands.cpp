@@ -5,6 +5,7 @@
 #include "cli/cycle_commands.h"
 #include "cli/json_output.h"
 #include "cli/night_commands.h"
+#include "cli/option_commands.h"
 #include "cli/set_commands.h"
 #include "cli/set_kinds.h"
 #include "cli/route_commands.h"
@@ -183,6 +184,21 @@ const std::vector<Command>& commandTable() {
          u"night deactivate NAME"_s},
         {{u"night"_s, u"delete"_s}, 1, true, SetCommands<NightKind>::remove, u"night delete NAME"_s},
         {{u"night"_s, u"install"_s}, 1, true, SetCommands<NightKind>::install, u"night install NAME"_s},
+        {{u"base"_s, u"list"_s}, 0, true, baseList, u"base list"_s},
+        {{u"base"_s, u"install"_s}, anyArguments, true, baseInstall, u"base install TITLE..."_s},
+        {{u"backup"_s, u"create"_s}, 0, true, backupCreate, u"backup create"_s},
+        {{u"backup"_s, u"list"_s}, 0, true, backupList, u"backup list"_s},
+        {{u"backup"_s, u"restore"_s}, 1, true, backupRestore, u"backup restore NAME"_s},
+        {{u"option"_s, u"get"_s},
+         1,
+         true,
+         optionGet,
+         u"option get dutch|tropical|halo|fastexit|widefs|inhibitsplash"_s},
+        {{u"option"_s, u"set"_s},
+         2,
+         true,
+         optionSet,
+         u"option set dutch|tropical|halo|fastexit|widefs|inhibitsplash on|off"_s},
         {{u"metar"_s, u"find"_s},
          anyArguments,
          true,

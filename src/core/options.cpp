@@ -108,7 +108,7 @@ void setSideFSVal(Session& session, bool value) {
                      : u"This setting states that this PC is a WideServer/Stand Alone PC and therefore "
                        u"Morvane will "
                        "attempt to start Flight Simulator as required by you the user."_s);
-        session.user.refreshScreen(Screen::frm_Config);
+        session.user.refreshScreen(Screen::frm_Switcher);
     });
 }
 
@@ -135,7 +135,7 @@ void setNonEnglishRegVal(Session& session) {
         storeOwnValue(session, u"NonEnglishPath", path);
         inform(session, u"FS9 Flight Simulator Files Path"_s,
                u"FS9 My Documents Flight Simulator Files path has been updated to: "_s + path);
-        session.user.refreshScreen(Screen::frm_Config);
+        session.user.refreshScreen(Screen::frm_Switcher);
     });
 }
 

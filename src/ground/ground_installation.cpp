@@ -3,6 +3,7 @@
 #include "ground/cloud_cover.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
+#include "ground/tropical_files.h"
 #include "simulator/set_choice.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_sets.h"
@@ -12,11 +13,6 @@ namespace morvane {
 namespace {
 
 const QString defaultSet = u"Default"_s;
-
-/// Land classes whose "h" and "b" forms differ at dawn and dusk only.
-constexpr const char16_t* tropicalPatternsB[] = {u"004b2", u"005b2", u"007b2", u"008b2", u"029b2",
-                                                 u"031b2", u"033b2", u"035b2", u"037b2", u"039b2",
-                                                 u"041b2", u"043b2", u"045b2", u"047b2"};
 
 // The refusal speaks of a sky set: the message's own word.
 const InstallationKind groundKind{
@@ -84,20 +80,8 @@ std::vector<FileCopy> GroundInstallation::copyListOfDefault() {
 }
 
 void GroundInstallation::addTropicalFiles(std::vector<FileCopy>& copies) {
-    const bool isDefault = session_.ground.SelectedGroundSet == defaultSet;
-    const FilePath generic = session_.AppPath / u"GENERIC WORLD";
-    const FilePath source =
-        isDefault ? generic : groundSetFolder(session_, session_.ground.SelectedGroundSet) / u"Texture";
-    const auto addMatches = [&](const FilePath& folder, const QString& ending) {
-        const QStringList names = session_.files.list(folder, u"*"_s + ending);
-        for (const char16_t* pattern : tropicalPatternsB)
-            for (const QString& name : names)
-                if (matchesMask(name, QStringView(pattern).toString() + ending))
-                    copies.push_back({folder.child(name), worldTexture().child(tropicalName(name))});
-    };
-    for (const QString& ending : {u"sp*.bmp"_s, u"su*.bmp"_s, u"fa*.bmp"_s, u"wi*.bmp"_s})
-        addMatches(source, ending);
-    addMatches(generic, u"an*.agn"_s);
+    for (const FilePath& file : tropicalFiles(session_, TropicalForm::b, session_.ground.SelectedGroundSet))
+        copies.push_back({file, worldTexture().child(tropicalName(file.fileName()))});
 }
 
 void GroundInstallation::installGeneratedSet() {
@@ -123,11 +107,6 @@ void GroundInstallation::installDefaultSet() {
     // Once more, whatever the option says: "Default" always shows the nominal splash. Wanted.
     copier.copy(splashCopy(nominal));
     finish(copier);
-}
-
-QString tropicalName(const QString& name) {
-    const qsizetype variant = name.indexOf(u'b', 0, Qt::CaseInsensitive);
-    return variant < 0 ? name : QString(name).replace(variant, 1, u'h');
 }
 
 } // namespace morvane

@@ -27,7 +27,4 @@ private:
     FilePath utEurLcTexture() const { return session_.FSPath / u"Scenery\\UTEurLC\\Texture"; }
 };
 
-/// The name under which a "b" texture stands in for its "h" twin: the first "b" of either case becomes "h".
-QString tropicalName(const QString& name);
-
 } // namespace morvane

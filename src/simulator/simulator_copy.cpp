@@ -30,6 +30,12 @@ void SimulatorCopier::copy(const FileCopy& copy) {
     replaceFile(session_.files, copy.source, target);
 }
 
+void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {
+    FileSystem& files = session_.files;
+    if (files.exists(copy.target) && files.isReadOnly(copy.target)) files.setReadOnly(copy.target, false);
+    this->copy(copy);
+}
+
 void copyIntoSimulator(Session& session, const FilePath& source, const FilePath& target) {
     SimulatorCopier copier(session);
     copier.prepare({{source, target}});

@@ -17,6 +17,9 @@ public:
     /// The first half alone, for files that are the pilot's own.
     void clearStrays(const std::vector<FileCopy>& copies);
     void copy(const FileCopy& copy);
+    /// The same for a target that may be marked read-only: the mark goes first, and stays gone. Base install
+    /// and options have always been so free; the installs of sets are not.
+    void copyOverReadOnly(const FileCopy& copy);
     /// After the last copy of the list.
     void finish() { originals_.settle(); }
 

@@ -1,12 +1,15 @@
 #include "ui/dispatch_table.h"
 
 #include "core/literals.h"
+#include "core/options.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
 #include "ground/screens/ground_colour_screen.h"
 #include "night/night_generation.h"
 #include "night/night_installation.h"
 #include "night/screens/night_colour_screen.h"
+#include "simulator/backup_files.h"
+#include "simulator/screens/config_screen.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
 #include "sky/screens/sky_colour_screen.h"
@@ -81,6 +84,28 @@ void clearFilter(Shell& shell, SkinnedButton&) {
 
 void refreshWeatherCycle(Shell& shell, SkinnedButton&) {
     refreshWeather(shell.session());
+}
+
+// Base install and options -------------------------------------------------------------------------------
+
+void installBase(Shell& shell, SkinnedButton&) {
+    shell.screen<frm_Config>(u"frm_Config"_s).install();
+}
+
+void makeBackup(Shell& shell, SkinnedButton&) {
+    backupOnRequest(shell.session());
+}
+
+void bringBackupBack(Shell& shell, SkinnedButton&) {
+    restoreBackupOnRequest(shell.session());
+}
+
+void openUpdatePage(Shell& shell, SkinnedButton&) {
+    shell.openUpdatePage();
+}
+
+void chooseFlightsFolder(Shell& shell, SkinnedButton&) {
+    setNonEnglishRegVal(shell.session());
 }
 
 // Sky ----------------------------------------------------------------------------------------------------
@@ -238,6 +263,12 @@ constexpr Entry entries[] = {
     {large, wxControl, u"flynow", flyNowKey},
     {standard, wxControl, u"clearfilter", clearFilter},
     {large, wxControl, u"wxrefresh", refreshWeatherCycle},
+
+    {large, config, u"mvinstall", installBase},
+    {large, config, u"backup", makeBackup},
+    {large, config, u"restore", bringBackupBack},
+    {large, config, u"update", openUpdatePage},
+    {standard, switcher, u"regupdate", chooseFlightsFolder},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

@@ -8,7 +8,10 @@
 #include "night/screens/night_colour_screen.h"
 #include "night/screens/night_sample_screen.h"
 #include "night/screens/night_sets_screen.h"
+#include "simulator/screens/backup_list_screen.h"
+#include "simulator/screens/config_screen.h"
 #include "simulator/screens/flight_screen.h"
+#include "simulator/screens/switcher_screen.h"
 #include "sky/screens/base_sky_screen.h"
 #include "sky/screens/sky_colour_screen.h"
 #include "sky/screens/sky_set_counts_screen.h"
@@ -19,7 +22,6 @@
 #include "ui/screens/message_screen.h"
 #include "ui/screens/name_choice_screen.h"
 #include "ui/screens/splash_screen.h"
-#include "ui/screens/unbuilt_screens.h"
 #include "weather/screens/cover_airports_screen.h"
 #include "weather/screens/cover_method_screen.h"
 #include "weather/screens/cover_option_screen.h"
@@ -46,10 +48,6 @@ FormEntry screenEntry(const QString& name) {
     return {name, [](Shell& shell) { return new Screen(shell); }};
 }
 
-FormEntry unbuiltPage(const QString& name, const QString& key, const QString& icon, const QString& title) {
-    return {name, [=](Shell& shell) { return new UnbuiltPage(shell, {name, key, icon, title}); }};
-}
-
 const std::vector<FormEntry>& formEntries() {
     static const std::vector<FormEntry> entries{
         screenEntry<frm_Main>(u"frm_Main"_s),
@@ -73,10 +71,9 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_Links>(u"frm_Links"_s),
         screenEntry<frm_WxControl>(u"frm_WxControl"_s),
         screenEntry<frm_metar>(u"frm_metar"_s),
-        unbuiltPage(u"frm_Switcher"_s, u"switcher info"_s, u"icon_Randomizer.bmp"_s,
-                    u"Morvane Configuration Page"_s),
-        unbuiltPage(u"frm_Config"_s, u"mv config"_s, u"icon_Config.bmp"_s,
-                    u"Main Morvane Base Install Page"_s),
+        screenEntry<frm_Switcher>(u"frm_Switcher"_s),
+        screenEntry<frm_Config>(u"frm_Config"_s),
+        screenEntry<frm_BackupList>(u"frm_BackupList"_s),
         screenEntry<frm_MVTextures>(u"frm_MVTextures"_s),
         screenEntry<frm_GroundColorize>(u"frm_GroundColorize"_s),
         screenEntry<frm_KMTextures>(u"frm_KMTextures"_s),

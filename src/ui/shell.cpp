@@ -2,6 +2,8 @@
 
 #include "core/application.h"
 #include "core/failure_report.h"
+#include "core/registry.h"
+#include "core/session.h"
 #include "ui/dispatch_table.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
@@ -13,6 +15,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QUrl>
+#include <QUrlQuery>
 
 namespace morvane {
 
@@ -118,6 +121,21 @@ void Shell::openHelp() {
 
 void Shell::openWebPage(const QString& address) {
     if (isWebAddress(address)) QDesktopServices::openUrl(QUrl(address));
+}
+
+void Shell::openUpdatePage() {
+    const QString server =
+        session_.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"UpdateServer"_s);
+    if (!isWebAddress(server)) {
+        session_.user.showMessage(
+            {MessageKind::information, u"Morvane updates"_s,
+             u"The address would stand in the registry value \"UpdateServer\" of Morvane."_s});
+        return;
+    }
+    QUrlQuery query;
+    query.addQueryItem(u"product"_s, u"Morvane"_s);
+    query.addQueryItem(u"version"_s, QCoreApplication::applicationVersion());
+    openWebPage(server + (server.endsWith(u'/') ? u"updates.asp?"_s : u"/updates.asp?"_s) + query.toString());
 }
 
 void Shell::minimiseProgram() {

@@ -58,6 +58,8 @@ public:
     /// Opens the address in the browser; anything but a web address is left alone, as the text may come from
     /// a file that others write.
     void openWebPage(const QString& address);
+    /// Asks the maker's server for newer versions; tells where its address would stand when there is none.
+    void openUpdatePage();
     void minimiseProgram();
     void exitProgram();
 

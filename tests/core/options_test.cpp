@@ -173,7 +173,7 @@ TEST_F(OptionsTest, theFlightsFolderCanBeChosenAnew) {
     EXPECT_EQ(stored(u"NonEnglishPath"_s), u"/Çhosen folder"_s);
     EXPECT_EQ(user.told(), QStringList{u"Information|FS9 Flight Simulator Files Path|FS9 My Documents Flight "
                                        u"Simulator Files path has been updated to: /Çhosen folder"_s});
-    EXPECT_EQ(user.calls.last(), u"refresh frm_Config"_s);
+    EXPECT_EQ(user.calls.last(), u"refresh frm_Switcher"_s);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/tropical_files.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 

@@ -1,6 +1,7 @@
 #include "made_install.h"
 
 #include "ground/texture_catalogue.h"
+#include "ground/tropical_files.h"
 #include "imaging/bitmap_header.h"
 #include "imaging/picture_reader.h"
 #include "night/night_files.h"
@@ -8,6 +9,7 @@
 #include "night/night_sets.h"
 #include "support/printing.h"
 
+#include <QImage>
 #include <QSet>
 #include <cmath>
 
@@ -61,6 +63,16 @@ TEST_F(StockFiles, everyBaseImageHasItsBodyAndTheBodyShowsIt) {
 }
 
 TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
+    // The options replace only what is there: every Dutch file and both forms of the tropics.
+    const auto namesForTheOptions = [this] {
+        QStringList names =
+            files.list(home() / u"DUTCH", u"*"_s) + files.list(home() / u"DUTCH NIGHT", u"*"_s);
+        for (const QString& pattern : tropicalPatterns(TropicalForm::b))
+            names += files.list(home() / u"GENERIC WORLD", pattern + u"*"_s);
+        for (QString& name : names)
+            name = (name.contains(u"b2") ? tropicalName(name) : name).toUpper();
+        return names;
+    };
     const std::pair<const char16_t*, QStringList> places[] = {
         {u"Scenery\\World\\Texture", {u"GENERIC WORLD"_s, u"UT EUROPE"_s, u"GENERIC WORLD NIGHT"_s}},
         {u"Scenery\\UTEurLC\\Texture", {u"UTIND"_s}}};
@@ -81,6 +93,8 @@ TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
                 }
             }
         }
+        if (place == places[0].first) expected += namesForTheOptions();
+        expected.removeDuplicates();
         expected.sort();
         // Spelled in upper case on the disk, one file a name.
         QStringList found = files.list(simulator() / place, u"*.*"_s);
@@ -124,6 +138,21 @@ TEST_F(StockFiles, splashesAreDifferentBitmapsOf24Bits) {
     EXPECT_EQ(contents.size(), 6);
     EXPECT_EQ(files.read(simulator() / u"Uires\\dlgsplash.bmp"),
               files.read(home() / u"Media\\dlgsplash.bmp"));
+}
+
+TEST_F(StockFiles, halosAreBrightInTheMiddleAndBlackAtTheirEdge) {
+    QSet<QByteArray> contents;
+    for (const char16_t* name : {u"halo.bmp", u"halodefault.bmp"}) {
+        const QByteArray halo = files.read(home() / u"Media" / name);
+        const QImage picture = QImage::fromData(halo);
+        EXPECT_EQ(picture.size(), QSize(64, 64));
+        EXPECT_GT(qGray(picture.pixel(32, 32)), 240);
+        for (int x = 0; x < 64; ++x)
+            EXPECT_EQ(qGray(picture.pixel(x, 0)), 0) << "a square would stand round each lamp";
+        contents << halo;
+    }
+    EXPECT_EQ(contents.size(), 2);
+    EXPECT_EQ(files.read(simulator() / u"Texture\\halo.bmp"), files.read(home() / u"Media\\halodefault.bmp"));
 }
 
 TEST_F(StockCatalogue, noBaseImageIsWithoutUse) {

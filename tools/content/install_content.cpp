@@ -19,7 +19,7 @@ namespace morvane {
 namespace {
 
 /// Raise it whenever what the tool makes changes: samples of another version are made anew.
-constexpr int contentVersion = 6;
+constexpr int contentVersion = 7;
 
 /// What the steps take of the whole, in hundredths; the splashes and the skin take the rest.
 constexpr int storeShare = 5, stockShare = 80;
@@ -137,6 +137,7 @@ int makeContent(FileSystem& files, const ContentRequest& request) {
     writeSkyStock(files, request.home, request.simulator);
     writeFlights(files, request.home, request.simulator);
     writeSplashes(files, request.home, request.simulator);
+    writeHalos(files, request.home, request.simulator);
     writeSkin(files, request.home / u"Media");
     writeHelp(files, request.home / u"MV Help");
     writeRegistry(files, request);

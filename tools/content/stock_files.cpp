@@ -3,11 +3,14 @@
 #include "base_image_drawing.h"
 #include "core/error.h"
 #include "core/ordered_work.h"
+#include "ground/tropical_files.h"
+#include "halo_picture.h"
 #include "imaging/recolouring.h"
 #include "imaging/texture_codec.h"
 #include "splash_screen.h"
 
 #include <QImage>
+#include <algorithm>
 
 namespace morvane {
 
@@ -53,6 +56,24 @@ FilePath simulatorFolder(const FilePath& simulator, const QString& resourceFolde
            (resourceFolder == u"UTIND" ? u"Scenery\\UTEurLC\\Texture" : u"Scenery\\World\\Texture");
 }
 
+bool isTropical(const BaseImage& image) {
+    return image.resourceFolder == u"GENERIC WORLD" &&
+           std::ranges::any_of(tropicalPatterns(TropicalForm::b), [&](const QString& pattern) {
+               return image.fileName.startsWith(pattern, Qt::CaseInsensitive);
+           });
+}
+
+/// The options of the program replace only what a simulator has: it has a file for every Dutch one, a generic
+/// one where there is one, and both forms of the tropics.
+void addToSimulator(FileSystem& files, const FilePath& simulator, const BaseImage& image,
+                    const QByteArray& texture) {
+    const FilePath folder = simulatorFolder(simulator, image.resourceFolder);
+    const FilePath own = folder.exactChild(image.fileName.toUpper());
+    const FilePath twin = folder.exactChild(tropicalName(image.fileName).toUpper());
+    if (!image.resourceFolder.startsWith(u"DUTCH") || !files.exists(own)) files.write(own, texture);
+    if (isTropical(image) && !files.exists(twin)) files.write(twin, texture);
+}
+
 } // namespace
 
 void saveBitmap(const Picture& picture, const FilePath& target) {
@@ -79,9 +100,7 @@ void writeStock(FileSystem& files, const FilePath& home, const FilePath& simulat
         onDone(++done);
         saveBitmap(drawn.picture, (home / u"Resources").child(image.resourceFolder).child(image.fileName));
         files.write(home.child(image.resourceFolder).child(image.fileName), drawn.body);
-        if (simulator.isEmpty() || image.resourceFolder.startsWith(u"DUTCH")) continue;
-        files.write(simulatorFolder(simulator, image.resourceFolder).child(image.fileName.toUpper()),
-                    drawn.simulatorTexture);
+        if (!simulator.isEmpty()) addToSimulator(files, simulator, image, drawn.simulatorTexture);
     }
 }
 
@@ -93,6 +112,13 @@ void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simu
     const FilePath own = home / u"Media\\dlgsplash.bmp";
     saveBitmap(toPicture(drawSplash({})), own);
     if (!simulator.isEmpty()) files.copyContents(own, simulator / u"Uires\\dlgsplash.bmp");
+}
+
+void writeHalos(FileSystem& files, const FilePath& home, const FilePath& simulator) {
+    const FilePath own = home / u"Media\\halodefault.bmp";
+    saveBitmap(toPicture(drawHalo(HaloStyle::customHalo)), home / u"Media\\halo.bmp");
+    saveBitmap(toPicture(drawHalo(HaloStyle::defaultHalo)), own);
+    if (!simulator.isEmpty()) files.copyContents(own, simulator / u"Texture\\halo.bmp");
 }
 
 } // namespace morvane

@@ -206,9 +206,13 @@ void Gallery::saveDialogs() {
         {Screen::frm_flight, u"select-flight"},
         {Screen::frm_metar_request, u"metar-request"},
         {Screen::frm_AddFav, u"add-favourite"},
+        {Screen::frm_BackupList, u"backup-list"},
         {Screen::frm_MultiDelete, u"name-choice"}};
     shell_.session().modal.metarRequestText =
         u"Do you wish Morvane to download and decode the latest METAR cycle from Orrinsoft?"_s;
+    const QDateTime firstFlight(QDate(2026, 7, 14), QTime(14, 7));
+    shell_.session().modal.backups = {{u"1-Backup"_s, firstFlight, true},
+                                      {u"2-Backup"_s, firstFlight.addDays(9), false}};
     shell_.session().modal.multiNames = QStringList{u"12-Desert Haze"_s, u"21-Late Autumn"_s};
     for (const auto& [screen, picture] : dialogs)
         saveModal(QString::fromUtf16(picture), screenName(screen),

@@ -1,0 +1,37 @@
+#include "simulator/screens/backup_list_screen.h"
+
+#include "core/session.h"
+#include "ui/controls/set_table.h"
+
+namespace morvane {
+
+frm_BackupList::frm_BackupList(Shell& shell)
+    : DialogForm(shell, u"frm_BackupList"_s, smallDialogLook, u"Restore Backup"_s),
+      lstBackupList_(new SetTable(this)) {
+    lstBackupList_->setObjectName(u"lstBackupList"_s);
+    lstBackupList_->setAccessibleName(u"Backups"_s);
+    lstBackupList_->setGeometry(26, 88, 348, 190);
+    lstBackupList_->setColumns({{u"Name"_s, 130}, {u"Date"_s, 200}});
+    lstBackupList_->setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(lstBackupList_, &SetTable::rowClicked, this,
+            [this](const QString& name) { session().modal.chosenBackup = name; });
+    connect(lstBackupList_, &SetTable::itemDoubleClicked, this, &frm_BackupList::ok);
+    addAnswerKeys(u"Click to restore selected backups."_s, u"Click to cancel the restore."_s);
+}
+
+/// The mark of a backup that was cut short stands with its date: the name is that of its folder.
+void frm_BackupList::popBackupList() {
+    lstBackupList_->clearRows();
+    for (const ModalState::Backup& backup : session().modal.backups) {
+        QString date = backup.takenAt.toString(u"yyyy/MM/dd hh:mm:ss"_s);
+        if (!backup.isComplete) date += u" (partial)"_s;
+        lstBackupList_->addRow({backup.name, {backup.name, date}, {backup.name, date}});
+    }
+    lstBackupList_->setFocus();
+}
+
+void frm_BackupList::confirm() {
+    session().modal.backupConfirmed = true;
+}
+
+} // namespace morvane

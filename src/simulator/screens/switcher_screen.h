@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ui/page_form.h"
+
+class QCheckBox;
+
+namespace morvane {
+
+/// The options. Each box takes effect when it is clicked; there is nothing to confirm.
+class frm_Switcher : public PageForm {
+    Q_OBJECT
+public:
+    explicit frm_Switcher(Shell& shell);
+
+    void format() override { formatSwitcherScreen(); }
+    void refresh() override { loadSwitcherValues(); }
+
+private:
+    struct Option;
+    static const std::vector<Option>& options();
+
+    void addOption(const Option& option);
+    void addRule(const QRect& place);
+    void addFlightsFolder();
+    void formatSwitcherScreen();
+    /// Shows the flags and the flights' folder, without any effect and without a question.
+    void loadSwitcherValues();
+    void takeOption(const Option& option, bool isTicked);
+    void clearBox(const Option& option);
+    QString flightsFolder() const;
+
+    bool SwitcherPopulating = false; ///< the boxes are filled: their clicks do nothing
+    std::vector<QCheckBox*> boxes_;  ///< as `options()`
+    QLabel *lblFSFilesPath_, *lblFSFilesPathVal_;
+};
+
+} // namespace morvane

@@ -1,0 +1,81 @@
+#include "cli/console.h"
+
+#include "core/application.h"
+#include "core/row_set.h"
+#include "support/night_install.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::readFile;
+using test::writeFile;
+
+struct OptionCommands : testing::Test {
+    test::ConsoleInstall install;
+    FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP";
+
+    OptionCommands() {
+        writeFile(install.home() / u"Media\\halo.bmp", "ours");
+        writeFile(install.home() / u"Media\\dlgsplash.bmp", "the pilot's own splash");
+        connectDatabase(install.session);
+        RowSet rows(*install.session.adoConn, u"SELECT * FROM MV_CONFIG"_s);
+        rows.addNew();
+        rows.setText(u"TITLE", u"Global Coverage - Day"_s);
+        rows.setText(u"MV_FOLDER", u"GENERIC WORLD"_s);
+        rows.setText(u"FS_FOLDER", u"Scenery\\World\\texture"_s);
+        rows.setFlag(u"INSTALLED", false);
+        rows.update();
+        test::addNightSet(install, u"Default"_s, true);
+        closeDatabase(install.session);
+    }
+};
+
+TEST_F(OptionCommands, baseInstallBackupAndRestore) {
+    const QByteArray own = readFile(texture);
+    EXPECT_EQ(install.run(u"backup create"_s).status, 0);
+    EXPECT_EQ(install.run(u"base install"_s, {u"Global Coverage - Day"_s}).status, 0);
+    EXPECT_EQ(readFile(texture), "body of GENERIC WORLD\\029h2su6.bmp");
+    EXPECT_TRUE(install.run(u"base list"_s).array()[0].toObject()[u"ConfigInstalled"].toBool());
+    EXPECT_EQ(install.sets(), u"Default+*"_s);
+    const QJsonObject backup = install.run(u"backup list"_s).array()[0].toObject();
+    EXPECT_EQ(backup[u"BackupName"], u"1-Backup"_s);
+    EXPECT_TRUE(backup[u"complete"].toBool());
+    EXPECT_EQ(install.run(u"backup restore 1-Backup"_s).status, 0);
+    EXPECT_EQ(readFile(texture), own);
+}
+
+TEST_F(OptionCommands, eachOptionIsKept) {
+    for (const QString& name :
+         {u"dutch"_s, u"tropical"_s, u"halo"_s, u"fastexit"_s, u"widefs"_s, u"inhibitsplash"_s}) {
+        const auto value = [&] { return install.run(u"option get "_s + name).objects().at(0).value(name); };
+        EXPECT_EQ(value(), QJsonValue(false)) << name.toStdString();
+        const auto run = install.run(u"option set "_s + name + u" on"_s);
+        EXPECT_EQ(run.status, 0) << name.toStdString() << run.messages.toStdString();
+        EXPECT_EQ(value(), QJsonValue(true)) << name.toStdString();
+    }
+    EXPECT_EQ(readFile(install.simulator() / u"Texture\\halo.bmp"), "ours");
+    EXPECT_EQ(readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's own splash");
+}
+
+TEST_F(OptionCommands, refusalsChangeNothing) {
+    const auto before = test::contentsBelow(install.folder.path());
+    const std::tuple<QString, int, QString> cases[] = {
+        {u"base install"_s, 2, u"base install TITLE..."_s},
+        {u"base install Fog"_s, 1, u"There is no base install named 'Fog'"_s},
+        {u"backup restore 1-Backup"_s, 1, u"There is no backup named '1-Backup'"_s},
+        {u"option get fog"_s, 2, u"option get dutch|tropical"_s},
+        {u"option set halo yes"_s, 2, u"option set dutch|tropical"_s},
+    };
+    for (const auto& [words, status, text] : cases) {
+        const auto run = install.run(words);
+        EXPECT_EQ(run.status, status) << words.toStdString();
+        EXPECT_TRUE(run.messages.contains(text)) << run.messages.toStdString();
+    }
+    EXPECT_EQ(test::contentsBelow(install.folder.path()), before);
+}
+
+} // namespace
+} // namespace morvane
