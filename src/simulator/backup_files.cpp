@@ -133,8 +133,7 @@ QHash<QString, FileFingerprint> readList(Session& session, const QString& name) 
 
 /// True when the target holds the same already.
 bool stands(FileSystem& files, const FileCopy& copy) {
-    return files.exists(copy.target) && files.size(copy.target) == files.size(copy.source) &&
-           files.read(copy.target) == files.read(copy.source);
+    return files.exists(copy.target) && files.read(copy.target) == files.read(copy.source);
 }
 
 void copyBack(Session& session, const QString& name, std::vector<FileCopy> copies) {

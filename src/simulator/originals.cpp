@@ -97,13 +97,19 @@ bool Originals::isOurs(const QString& key, const FilePath& target) {
     }
 }
 
+void Originals::makeFolderOnce(const FilePath& folder) {
+    if (made_.contains(folder.relative())) return;
+    files_.makeFolder(folder);
+    made_.insert(folder.relative());
+}
+
 void Originals::keep(const FilePath& target) {
     const QString path = target.relative();
     if (kept_.contains(keyOf(path)) || isOurs(keyOf(path), target)) return;
     const FilePath place = folder_ / path, copy = place.parent().exactChild(place.fileName());
     if (!files_.exists(copy)) {
         const FilePath part(copy.native() + partialCopySuffix);
-        files_.makeFolder(place.parent());
+        makeFolderOnce(place.parent());
         try {
             files_.copyContents(target, part);
         } catch (const Error& error) {

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QMultiHash>
+#include <QSet>
 #include <QStringList>
 #include <cstdint>
 #include <vector>
@@ -52,6 +53,7 @@ private:
     void load();
     void putBack(const KeptOriginal& original);
     static QString line(const char* fact, const FileFingerprint& print, const QString& path);
+    void makeFolderOnce(const FilePath& folder);
     bool isOurs(const QString& key, const FilePath& target);
 
     FileSystem& files_;
@@ -61,6 +63,7 @@ private:
         ours_;                      ///< by key; a kill leaves it open which of several stands there
     QHash<QString, QString> paths_; ///< spelling of each key
     QHash<QString, FileFingerprint> announced_;
+    QSet<QString> made_; ///< folders that the kept files lie in
 };
 
 } // namespace morvane
