@@ -99,6 +99,18 @@ public:
     /// message of a failure.
     bool insertDecodedMetar(const DecodedMetarRow& decoded);
 
+    // Upkeep of the table of airports from lists in the install folder, called by hand. Each raises on a
+    // failure and then leaves the table as it was.
+    /// "wxStations.txt", a station a line: gives airports without a position the station's numbers, position
+    /// and elevation.
+    void popWxStations();
+    /// Takes stations without a code off the list of stations.
+    void deleteWxData();
+    /// Adds the airports of "icao.cfg" to the table and takes those off "noaa.cfg" that both lists have.
+    void removeDuplicatesFromNoaaConfig();
+    /// Writes the first four characters of each line to "noaa.cfg" as "1", "2" and so on.
+    void writeNoaaConfig(const QStringList& lines);
+
     /// 1 to 12 for an English month's name; 0 for anything else.
     static std::int16_t getMonthNumber(const QString& name);
 

@@ -1,4 +1,4 @@
-#include "station_list.h"
+#include "weather/station_list.h"
 
 #include "core/literals.h"
 #include "core/text_decoding.h"
