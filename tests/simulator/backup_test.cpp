@@ -1,4 +1,5 @@
 #include "core/registry.h"
+#include "ground/ground_installation.h"
 #include "simulator/backup_files.h"
 #include "simulator/backups.h"
 #include "simulator/first_run.h"
@@ -52,9 +53,17 @@ TEST_F(BackupTest, restoreIsTheIdentityForWhatWasBackedUp) {
     EXPECT_TRUE(isBackupComplete(session, u"1-Backup"_s));
     EXPECT_EQ(install.files.list(folder / u"Texture", u"*"_s).size(), 5);
     EXPECT_EQ(install.files.list(folder / u"UTEurLC", u"*"_s), QStringList{u"034B2SU4.BMP"_s});
-    writeFile(world / u"029H2SU6.BMP", "a set");
-    writeFile(addOn / u"034B2SU4.BMP", "a set");
-    install.files.remove(world / u"Gelände ñ.bmp");
+    for (const QString& name : {u"1-Blue"_s, u"5-Störm"_s, u"3-Mixed"_s}) {
+        install.addGroundSet(
+            name, u"Sunny"_s, true,
+            {u"Texture\\029h2su6.bmp"_s, u"Texture\\Gelände ñ.bmp"_s, u"UTEurLC\\034b2su4.bmp"_s});
+        install.reload();
+        session.ground.SelectedGroundSet = name;
+        GroundInstallation(session).installTextureSet(true);
+        EXPECT_NE(readFile(addOn / u"034B2SU4.BMP"), before[u"Scenery/UTEurLC/Texture/034B2SU4.BMP"_s]);
+    }
+    install.files.remove(world / u"029B2SU6.BMP");
+    writeFile(install.simulator() / u"Uires\\dlgsplash.bmp", "the pilot's splash"); // no part of a backup
     writeFile(world / u"later.bmp", "added since");
     restore(u"1-Backup"_s);
     auto after = contentsBelow(install.simulator());

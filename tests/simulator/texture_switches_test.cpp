@@ -1,6 +1,7 @@
 #include "core/store.h"
 #include "ground/ground_sets.h"
 #include "simulator/configs.h"
+#include "simulator/originals.h"
 #include "simulator/texture_switches.h"
 #include "support/night_install.h"
 #include "support/printing.h"
@@ -186,6 +187,30 @@ TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
     }
     install.files.remove(install.home() / u"Media\\halo.bmp");
     EXPECT_THROW(switchHalo(session, true), Error);
+}
+
+/// Whatever fails, each file of the simulator is the old one or the new one, and the old ones can be put
+/// back.
+TEST_F(TextureSwitches, everyFailingOperationOfTheDutchSwitchLeavesWholeFiles) {
+    installDefaults();
+    const auto before = test::contentsBelow(install.simulator());
+    switchDutch(session, true);
+    const auto switched = test::contentsBelow(install.simulator());
+    EXPECT_NE(switched, before);
+    int failures = 0;
+    for (bool hasFailed = true; hasFailed; ++failures) {
+        Originals(install.files, session.FSPath, session.AppPath).restore();
+        EXPECT_EQ(test::contentsBelow(install.simulator()), before) << failures;
+        install.files.failAt(failures + 1, false);
+        switchDutch(session, true);
+        hasFailed = install.files.hasFailed();
+        install.files.failAt(0, false);
+        const auto after = test::contentsBelow(install.simulator());
+        for (auto file = before.begin(); file != before.end(); ++file)
+            EXPECT_TRUE(after[file.key()] == *file || after[file.key()] == switched[file.key()])
+                << failures << ' ' << file.key().toStdString();
+    }
+    EXPECT_GT(failures, 15);
 }
 
 } // namespace
