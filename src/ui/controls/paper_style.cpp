@@ -17,6 +17,7 @@ namespace morvane {
 
 namespace {
 
+constexpr int headMargin = 6;
 constexpr int boxSize = 15, tipDelay = 250, tipTime = 10'000, shortestHandle = 24;
 constexpr char onDarkName[] = "onDark", captionOffsetName[] = "captionOffset";
 
@@ -135,7 +136,7 @@ int PaperStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
                                // cell
         return 5;
     case PM_HeaderMargin:
-        return 6;
+        return headMargin;
     case PM_ScrollBarExtent:
         return 12;
     case PM_ButtonShiftHorizontal:
@@ -205,6 +206,12 @@ void PaperStyle::drawControl(ControlElement element, const QStyleOption* option,
         const bool isLast =
             head->position == QStyleOptionHeader::End || head->position == QStyleOptionHeader::OnlyOneSection;
         return drawListHead(*painter, option->rect, !isLast);
+    }
+    case CE_HeaderLabel: {
+        // The margin that was taken off all round is for the sides; above and below it would cut the letters.
+        QStyleOptionHeader label(*qstyleoption_cast<const QStyleOptionHeader*>(option));
+        label.rect.adjust(0, -headMargin, headMargin - 2, headMargin);
+        return QProxyStyle::drawControl(element, &label, painter, widget);
     }
     case CE_HeaderEmptyArea:
         return drawListHead(*painter, option->rect, false);
