@@ -90,11 +90,17 @@ bool walkFiles(Session& session, const std::vector<FileCopy>& copies, const Job*
     return true;
 }
 
-/// The check sums of the sources, in order, worked out on the other cores while the files are copied.
-OrderedWork<FileFingerprint> fingerprintsOf(const std::vector<FileCopy>& copies) {
+struct CheckedFile {
+    QByteArray contents;
+    FileFingerprint print;
+};
+
+/// The sources in order, read and summed up on the other cores while the files are copied.
+OrderedWork<CheckedFile> readAhead(const std::vector<FileCopy>& copies) {
     return {static_cast<int>(copies.size()), [&copies](int index) {
                 NativeFileSystem files;
-                return fingerprintOf(files, copies[static_cast<std::size_t>(index)].source);
+                const QByteArray contents = files.read(copies[static_cast<std::size_t>(index)].source);
+                return CheckedFile{contents, fingerprintOf(contents)};
             }};
 }
 
@@ -104,11 +110,11 @@ void copyIntoBackup(Session& session, const Job& job, const QString& name) {
          {std::pair{worldTextures(session), u"Texture"}, std::pair{addOnTextures(session), u"UTEurLC"}})
         for (const QString& file : session.files.list(source, bitmaps))
             copies.push_back({source.child(file), (backupFolder(session, name) / folder).exactChild(file)});
-    OrderedWork<FileFingerprint> prints = fingerprintsOf(copies);
+    OrderedWork<CheckedFile> sources = readAhead(copies);
     QString list;
     const bool isWhole = walkFiles(session, copies, &job, [&](const FileCopy& copy) {
         tryStep([&] {
-            const FileFingerprint print = prints.next();
+            const FileFingerprint print = sources.next().print;
             replaceFile(session.files, copy.source, copy.target);
             list += QString::number(print.size) + u'\t' + print.checksum + u'\t' +
                     copy.target.parent().fileName() + u'\\' + copy.target.fileName() + u'\n';
@@ -131,9 +137,8 @@ QHash<QString, FileFingerprint> readList(Session& session, const QString& name) 
     return prints;
 }
 
-/// True when the target holds the same already.
-bool stands(FileSystem& files, const FileCopy& copy) {
-    return files.exists(copy.target) && files.read(copy.target) == files.read(copy.source);
+bool stands(FileSystem& files, const FilePath& target, const QByteArray& contents) {
+    return files.exists(target) && files.read(target) == contents;
 }
 
 void copyBack(Session& session, const QString& name, std::vector<FileCopy> copies) {
@@ -142,13 +147,13 @@ void copyBack(Session& session, const QString& name, std::vector<FileCopy> copie
     const QHash<QString, FileFingerprint> known = readList(session, name);
     SimulatorCopier copier(session);
     copier.clearStrays(copies);
-    OrderedWork<FileFingerprint> prints = fingerprintsOf(copies);
+    OrderedWork<CheckedFile> sources = readAhead(copies);
     walkFiles(session, copies, nullptr, [&](const FileCopy& copy) {
         tryStep([&] {
             const QString path = copy.source.parent().fileName() + u'\\' + copy.source.fileName();
-            const FileFingerprint print = prints.next();
-            const bool isDamaged = known.value(path.toCaseFolded(), print) != print;
-            if (!isDamaged && !stands(session.files, copy)) copier.copy(copy);
+            const CheckedFile source = sources.next();
+            const bool isDamaged = known.value(path.toCaseFolded(), source.print) != source.print;
+            if (!isDamaged && !stands(session.files, copy.target, source.contents)) copier.copy(copy);
         });
     });
 }
