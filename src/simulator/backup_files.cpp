@@ -91,16 +91,18 @@ bool walkFiles(Session& session, const std::vector<FileCopy>& copies, const Job*
 }
 
 struct CheckedFile {
-    QByteArray contents;
     FileFingerprint print;
+    bool stands; ///< the target has the same contents already
 };
 
-/// The sources in order, read and summed up on the other cores while the files are copied.
-OrderedWork<CheckedFile> readAhead(const std::vector<FileCopy>& copies) {
+/// The sources in order, read, summed up and compared on the other cores while files before them are copied.
+OrderedWork<CheckedFile> checkAhead(const std::vector<FileCopy>& copies) {
     return {static_cast<int>(copies.size()), [&copies](int index) {
+                const FileCopy& copy = copies[static_cast<std::size_t>(index)];
                 NativeFileSystem files;
-                const QByteArray contents = files.read(copies[static_cast<std::size_t>(index)].source);
-                return CheckedFile{contents, fingerprintOf(contents)};
+                const QByteArray contents = files.read(copy.source);
+                const bool stands = files.exists(copy.target) && files.read(copy.target) == contents;
+                return CheckedFile{fingerprintOf(contents), stands};
             }};
 }
 
@@ -110,7 +112,7 @@ void copyIntoBackup(Session& session, const Job& job, const QString& name) {
          {std::pair{worldTextures(session), u"Texture"}, std::pair{addOnTextures(session), u"UTEurLC"}})
         for (const QString& file : session.files.list(source, bitmaps))
             copies.push_back({source.child(file), (backupFolder(session, name) / folder).exactChild(file)});
-    OrderedWork<CheckedFile> sources = readAhead(copies);
+    OrderedWork<CheckedFile> sources = checkAhead(copies);
     QString list;
     const bool isWhole = walkFiles(session, copies, &job, [&](const FileCopy& copy) {
         tryStep([&] {
@@ -137,23 +139,19 @@ QHash<QString, FileFingerprint> readList(Session& session, const QString& name) 
     return prints;
 }
 
-bool stands(FileSystem& files, const FilePath& target, const QByteArray& contents) {
-    return files.exists(target) && files.read(target) == contents;
-}
-
 void copyBack(Session& session, const QString& name, std::vector<FileCopy> copies) {
     for (FileCopy& copy : copies)
         copy.target = copy.target.resolved();
     const QHash<QString, FileFingerprint> known = readList(session, name);
     SimulatorCopier copier(session);
     copier.clearStrays(copies);
-    OrderedWork<CheckedFile> sources = readAhead(copies);
+    OrderedWork<CheckedFile> sources = checkAhead(copies);
     walkFiles(session, copies, nullptr, [&](const FileCopy& copy) {
         tryStep([&] {
             const QString path = copy.source.parent().fileName() + u'\\' + copy.source.fileName();
             const CheckedFile source = sources.next();
             const bool isDamaged = known.value(path.toCaseFolded(), source.print) != source.print;
-            if (!isDamaged && !stands(session.files, copy.target, source.contents)) copier.copy(copy);
+            if (!isDamaged && !source.stands) copier.copy(copy);
         });
     });
 }

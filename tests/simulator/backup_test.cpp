@@ -163,7 +163,7 @@ TEST_F(BackupTest, everyFailingOperationLeavesSimulatorAndBackupWhole) {
             install.files.failAt(0, false);
             check(failures + 1);
         }
-        EXPECT_GT(failures, 15);
+        EXPECT_GT(failures, 10);
     };
     failEach([&] { createBackup(session, true); },
              [&](int n) { EXPECT_EQ(contentsBelow(install.simulator()), before) << n; });
