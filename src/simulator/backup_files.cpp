@@ -10,6 +10,10 @@
 #include "simulator/backups.h"
 #include "simulator/simulator_copy.h"
 
+#include <algorithm>
+#include <deque>
+#include <optional>
+
 namespace morvane {
 
 namespace {
@@ -95,16 +99,47 @@ struct CheckedFile {
     bool stands; ///< the target has the same contents already
 };
 
-/// The sources in order, read, summed up and compared on the other cores while files before them are copied.
-OrderedWork<CheckedFile> checkAhead(const std::vector<FileCopy>& copies) {
-    return {static_cast<int>(copies.size()), [&copies](int index) {
-                const FileCopy& copy = copies[static_cast<std::size_t>(index)];
-                NativeFileSystem files;
-                const QByteArray contents = files.read(copy.source);
-                const bool stands = files.exists(copy.target) && files.read(copy.target) == contents;
-                return CheckedFile{fingerprintOf(contents), stands};
-            }};
+CheckedFile check(const FileCopy& copy) {
+    NativeFileSystem files;
+    const QByteArray contents = files.read(copy.source);
+    const bool stands = files.exists(copy.target) && files.read(copy.target) == contents;
+    return {fingerprintOf(contents), stands};
 }
+
+/// The sources in order, read, summed up and compared on the other cores while files before them are copied;
+/// several at a time, as a thread for each small file would cost more than it saves.
+class CheckAhead {
+public:
+    explicit CheckAhead(const std::vector<FileCopy>& copies)
+        : work_(static_cast<int>((copies.size() + share - 1) / share), [&copies](int index) {
+              Checked checked;
+              const std::size_t first = static_cast<std::size_t>(index) * share;
+              for (std::size_t i = first; i < std::min(first + share, copies.size()); ++i)
+                  checked.push_back(tryCheck(copies[i]));
+              return checked;
+          }) {}
+
+    /// Nothing for a file that cannot be read.
+    std::optional<CheckedFile> next() {
+        if (checked_.empty()) checked_ = work_.next();
+        const std::optional<CheckedFile> file = checked_.front();
+        checked_.pop_front();
+        return file;
+    }
+
+private:
+    static constexpr std::size_t share = 32;
+    using Checked = std::deque<std::optional<CheckedFile>>;
+
+    static std::optional<CheckedFile> tryCheck(const FileCopy& copy) {
+        std::optional<CheckedFile> checked;
+        tryStep([&] { checked = check(copy); });
+        return checked;
+    }
+
+    OrderedWork<Checked> work_;
+    Checked checked_;
+};
 
 void copyIntoBackup(Session& session, const Job& job, const QString& name) {
     std::vector<FileCopy> copies;
@@ -112,11 +147,13 @@ void copyIntoBackup(Session& session, const Job& job, const QString& name) {
          {std::pair{worldTextures(session), u"Texture"}, std::pair{addOnTextures(session), u"UTEurLC"}})
         for (const QString& file : session.files.list(source, bitmaps))
             copies.push_back({source.child(file), (backupFolder(session, name) / folder).exactChild(file)});
-    OrderedWork<CheckedFile> sources = checkAhead(copies);
+    CheckAhead sources(copies);
     QString list;
     const bool isWhole = walkFiles(session, copies, &job, [&](const FileCopy& copy) {
+        const std::optional<CheckedFile> source = sources.next();
+        if (!source) return;
         tryStep([&] {
-            const FileFingerprint print = sources.next().print;
+            const FileFingerprint& print = source->print;
             replaceFile(session.files, copy.source, copy.target);
             list += QString::number(print.size) + u'\t' + print.checksum + u'\t' +
                     copy.target.parent().fileName() + u'\\' + copy.target.fileName() + u'\n';
@@ -145,14 +182,13 @@ void copyBack(Session& session, const QString& name, std::vector<FileCopy> copie
     const QHash<QString, FileFingerprint> known = readList(session, name);
     SimulatorCopier copier(session);
     copier.clearStrays(copies);
-    OrderedWork<CheckedFile> sources = checkAhead(copies);
+    CheckAhead sources(copies);
     walkFiles(session, copies, nullptr, [&](const FileCopy& copy) {
-        tryStep([&] {
-            const QString path = copy.source.parent().fileName() + u'\\' + copy.source.fileName();
-            const CheckedFile source = sources.next();
-            const bool isDamaged = known.value(path.toCaseFolded(), source.print) != source.print;
-            if (!isDamaged && !source.stands) copier.copy(copy);
-        });
+        const std::optional<CheckedFile> source = sources.next();
+        if (!source || source->stands) return;
+        const QString path = copy.source.parent().fileName() + u'\\' + copy.source.fileName();
+        const bool isDamaged = known.value(path.toCaseFolded(), source->print) != source->print;
+        if (!isDamaged) tryStep([&] { copier.copy(copy); });
     });
 }
 
