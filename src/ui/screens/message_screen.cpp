@@ -153,7 +153,9 @@ void frm_Msg::answer(bool ok) {
 }
 
 void frm_Msg::cancel() {
-    if (isProgress_)
+    if (session().weather.ASv6Busy)
+        askForExit();
+    else if (isProgress_)
         askForCancel();
     else
         answer(btn_Cancel_->isHidden());
@@ -166,6 +168,17 @@ void frm_Msg::askForCancel() {
                                                  u"Cancel Operation?"_s, SystemBoxButtons::okCancel);
     isAsking_ = false;
     session().user.answers().cancelRequested = wanted;
+}
+
+/// Active Sky is waited for as long as it takes: the program's end is the only other way out.
+void frm_Msg::askForExit() {
+    if (isAsking_) return;
+    isAsking_ = true;
+    const bool wanted =
+        session().user.systemBox(u"Active Sky is still working. Do you wish to exit Morvane?"_s,
+                                 u"Exit Morvane?"_s, SystemBoxButtons::okCancel);
+    isAsking_ = false;
+    if (wanted && session().weather.ASv6Busy) shell().exitProgram();
 }
 
 void frm_Msg::storeFastExit(bool isTicked) {

@@ -31,7 +31,8 @@ public:
     void setProgressFile(const QString& line);
 
     void ok() override { answer(true); }
-    /// Escape and close: no, or OK where only OK shows. While progress shows they ask for a cancel.
+    /// Escape and close: no, or OK where only OK shows. While progress shows they ask for a cancel, and while
+    /// Active Sky is waited for whether to end the program.
     void cancel() override;
 
 protected:
@@ -43,6 +44,7 @@ private:
     void makeControls();
     void answer(bool ok);
     void askForCancel();
+    void askForExit();
     void fill(const Message& message);
     void showPicture(const QString& fileName);
     void layOut(const Message& message);
