@@ -21,9 +21,9 @@ namespace {
 constexpr std::size_t mostAirports = 100;
 
 QJsonObject toJson(const Airport& airport) {
-    return {{u"icao"_s, airport.icao},         {u"name"_s, airport.name},
-            {u"city"_s, airport.city},         {u"state"_s, airport.state},
-            {u"country"_s, airport.country},   {u"latitude"_s, airport.latitude},
+    return {{u"icao"_s, airport.icao},          {u"name"_s, airport.name},
+            {u"city"_s, airport.city},          {u"state"_s, airport.state},
+            {u"country"_s, airport.country},    {u"latitude"_s, airport.latitude},
             {u"longitude"_s, airport.longitude}};
 }
 

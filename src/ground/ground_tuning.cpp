@@ -12,7 +12,8 @@
 
 namespace morvane {
 
-GroundTuning::GroundTuning(Session& session) : session_(session), tuningColourise_(session, session.ground.colours) {
+GroundTuning::GroundTuning(Session& session)
+    : session_(session), tuningColourise_(session, session.ground.colours) {
     optCloudCover(0);
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ground/ground_randomiser.h"
-#include "ground/texture_sample.h"
 #include "ground/sample_textures.h"
+#include "ground/texture_sample.h"
 
 #include <cstdint>
 

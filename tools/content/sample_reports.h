@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/session.h"
-#include "weather/station_list.h"
 #include "weather/airport_table.h"
+#include "weather/station_list.h"
 
 #include <vector>
 
