@@ -27,6 +27,32 @@ void addRule(QWidget* paper, const QRect& place) {
 
 } // namespace
 
+SetListSetup textureListPage(const QString& instructions, const std::vector<SetColumn>& columns,
+                             const SetListSetup::Key& create) {
+    return {
+        .instructionsName = u"lblTsInstructions"_s,
+        .instructions = instructions,
+        .listName = u"lstTextureSets"_s,
+        .listWidth = 330,
+        .columns = columns,
+        .hasCheckBoxes = false,
+        .sourceName = u"picTextureSetSource"_s,
+        .resultName = u"picTextureSetResult"_s,
+        .pictureSide = 108,
+        .pictureLefts = {359, 473},
+        .isSmooth = true,
+        .descriptionName = u"lblFavDescription"_s,
+        .descriptionRole = TextRole::body,
+        .create = create,
+        .activate = {u"btn_TextureActivate"_s, u"activate ts"_s},
+        .install = {u"btn_TextureInstall"_s, u"install ts"_s},
+        .remove = {u"btn_TextureDelete"_s, u"delete ts"_s},
+        // Unlike a click this leaves the key of an activated set dead: once the list was built anew, a set
+        // can be deactivated only after its row was clicked.
+        .ofActivatedByPage = ButtonState::disabled,
+    };
+}
+
 SetListForm::SetListForm(Shell& shell, const QString& name, const WindowLook& look, const HostKeys& keys,
                          const QString& colourPage, const SetListSetup& setup)
     : HostForm(shell, name, look, keys, colourPage), setup_(setup) {

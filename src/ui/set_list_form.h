@@ -36,6 +36,11 @@ struct SetListSetup {
     ButtonState ofActivatedByPage;
 };
 
+/// The page that ground and night have in common. Their words, their columns and the key "create" are each
+/// one's own.
+SetListSetup textureListPage(const QString& instructions, const std::vector<SetColumn>& columns,
+                             const SetListSetup::Key& create = {});
+
 /// A window whose own page lists all sets of one kind, shows the one in hand on a sample, and has the keys
 /// that act on it. Column 1 of its list tells which sets are activated.
 class SetListForm : public HostForm {

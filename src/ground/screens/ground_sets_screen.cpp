@@ -14,33 +14,14 @@ constexpr QRgb installedColour = qRgb(255, 0, 0);
 const HostKeys windowKeys{u"texture sets"_s, u"ground"_s, u"btn_2d"_s,
                           u"Click to minimize Ground Textures screen."_s};
 
-const SetListSetup listPage{
-    .instructionsName = u"lblTsInstructions"_s,
+const SetListSetup listPage = textureListPage(
     // The two sentences have never been parted by a full stop.
-    .instructions =
-        u"To create a series of ground texture sets please click the create button and then enter the number "
-        "of each cloud cover value required into the text boxes on the dialog screen that appears. Click the "
-        "checkmark button to commence the creation process These sets take 10 - 20 minutes each to create "
-        "therefore please allow sufficient time for the creation process. "_s,
-    .listName = u"lstTextureSets"_s,
-    .listWidth = 330,
-    .columns = {{u"Name"_s, 160}, {u"Activated"_s, 68}, {u"Cloud Cover"_s, 84}},
-    .hasCheckBoxes = false,
-    .sourceName = u"picTextureSetSource"_s,
-    .resultName = u"picTextureSetResult"_s,
-    .pictureSide = 108,
-    .pictureLefts = {359, 473},
-    .isSmooth = true,
-    .descriptionName = u"lblFavDescription"_s,
-    .descriptionRole = TextRole::body,
-    .create = {u"btn_textureCreate"_s, u"create ts"_s},
-    .activate = {u"btn_TextureActivate"_s, u"activate ts"_s},
-    .install = {u"btn_TextureInstall"_s, u"install ts"_s},
-    .remove = {u"btn_TextureDelete"_s, u"delete ts"_s},
-    // Unlike a click this leaves the key of an activated set dead: once the list was built anew, a set can be
-    // deactivated only after its row was clicked.
-    .ofActivatedByPage = ButtonState::disabled,
-};
+    u"To create a series of ground texture sets please click the create button and then enter the number "
+    "of each cloud cover value required into the text boxes on the dialog screen that appears. Click the "
+    "checkmark button to commence the creation process These sets take 10 - 20 minutes each to create "
+    "therefore please allow sufficient time for the creation process. "_s,
+    {{u"Name"_s, 160}, {u"Activated"_s, 68}, {u"Cloud Cover"_s, 84}},
+    {u"btn_textureCreate"_s, u"create ts"_s});
 
 SetRow rowOf(const clsTextureSet& set) {
     return {u"Key:"_s + QString::number(set.TsID),

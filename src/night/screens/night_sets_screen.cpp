@@ -14,32 +14,13 @@ constexpr QRgb installedColour = qRgb(255, 0, 0);
 const HostKeys windowKeys{u"texture sets"_s, u"ground"_s, u"btn_2d"_s,
                           u"Click to minimize Ground Textures screen."_s};
 
-const SetListSetup listPage{
-    .instructionsName = u"lblTsInstructions"_s,
-    .instructions =
-        u"To create a customized night texture set, open the Colorize screen and adjust the color setings to "
-        "achieve the look you require.  Accept the settings and use the Activate button on this screen to "
-        "create the set.  To activate a series of texture sets select each texture set required from the "
-        "list (holding down the Ctrl key whilst selecting) and then click the activate button. Each set will "
-        "take between 2 - 3 minutes to create depending on your system specification."_s,
-    .listName = u"lstTextureSets"_s,
-    .listWidth = 330,
-    .columns = {{u"Name"_s, 244}, {u"Activated"_s, 68}},
-    .hasCheckBoxes = false,
-    .sourceName = u"picTextureSetSource"_s,
-    .resultName = u"picTextureSetResult"_s,
-    .pictureSide = 108,
-    .pictureLefts = {359, 473},
-    .isSmooth = true,
-    .descriptionName = u"lblFavDescription"_s,
-    .descriptionRole = TextRole::body,
-    .create = {},
-    .activate = {u"btn_TextureActivate"_s, u"activate ts"_s},
-    .install = {u"btn_TextureInstall"_s, u"install ts"_s},
-    .remove = {u"btn_TextureDelete"_s, u"delete ts"_s},
-    // As on the ground: only a click offers the way back.
-    .ofActivatedByPage = ButtonState::disabled,
-};
+const SetListSetup listPage = textureListPage(
+    u"To create a customized night texture set, open the Colorize screen and adjust the color setings to "
+    "achieve the look you require.  Accept the settings and use the Activate button on this screen to "
+    "create the set.  To activate a series of texture sets select each texture set required from the "
+    "list (holding down the Ctrl key whilst selecting) and then click the activate button. Each set will "
+    "take between 2 - 3 minutes to create depending on your system specification."_s,
+    {{u"Name"_s, 244}, {u"Activated"_s, 68}});
 
 SetRow rowOf(const clsNightTextureSet& set) {
     return {u"Key:"_s + QString::number(set.NtsID),
