@@ -5,10 +5,17 @@ target_compile_options(morvane_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
 target_compile_options(morvane_options INTERFACE -ffp-contract=off)
 target_compile_definitions(morvane_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS)
 
+# morvane_test_target(TARGET GROUP): what the targets of tests share. They are compiled more often than they run.
+function(morvane_test_target target group)
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O0>)
+    morvane_precompile(${target} ${group})
+endfunction()
+
 # morvane_test(NAME FILES...): one GoogleTest program for one folder of tests, each case a ctest of its own.
 function(morvane_test name)
     add_executable(${name} ${ARGN})
     target_link_libraries(${name} PRIVATE morvane_test_support)
+    morvane_test_target(${name} test)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
 endfunction()
 
@@ -16,11 +23,13 @@ endfunction()
 function(morvane_bench name)
     add_executable(${name} ${ARGN})
     target_link_libraries(${name} PRIVATE morvane_engine benchmark::benchmark_main)
+    morvane_precompile(${name} engine)
 endfunction()
 
 # morvane_ui_test(NAME FILES...): the same for tests that show widgets, on a platform without a display.
 function(morvane_ui_test name)
     add_executable(${name} ${ARGN} ${CMAKE_SOURCE_DIR}/tests/support/ui_main.cpp)
     target_link_libraries(${name} PRIVATE morvane_ui morvane_font morvane_test_support Qt6::Test)
+    morvane_test_target(${name} window_test)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
 endfunction()
