@@ -21,6 +21,7 @@ public:
     void updateProgress(const QString&, const QString&, double) override {}
     void setProgressFile(const QString&) override {}
     void hideMessage() override {}
+    void tellDone(const DoneLine&) override {}
     bool isMessageVisible() const override { return false; }
     bool systemBox(const QString&, const QString&, SystemBoxButtons) override { return true; }
     QString browseForFolder(const QString&) override { return {}; }

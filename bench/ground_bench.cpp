@@ -26,6 +26,7 @@ public:
     void updateProgress(const QString&, const QString&, double) override {}
     void setProgressFile(const QString&) override {}
     void hideMessage() override { isVisible_ = false; }
+    void tellDone(const DoneLine&) override {}
     bool isMessageVisible() const override { return isVisible_; }
     bool systemBox(const QString&, const QString&, SystemBoxButtons buttons) override {
         return buttons == SystemBoxButtons::ok;

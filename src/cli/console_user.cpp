@@ -52,6 +52,11 @@ void ConsoleUser::hideMessage() {
     progressVisible_ = false;
 }
 
+void ConsoleUser::tellDone(const DoneLine& line) {
+    endProgressLine();
+    print(line.text + (line.remark.isEmpty() ? QString() : u" ("_s + line.remark + u')') + u'\n');
+}
+
 bool ConsoleUser::answerOf(const QString& question) {
     if (settings_.policy != AnswerPolicy::ask) return settings_.policy == AnswerPolicy::yes;
     print(u"  "_s + question + (settings_.enterMeansYes ? u"? [Y/n] "_s : u"? [y/N] "_s));

@@ -26,6 +26,7 @@ public:
     void updateProgress(const QString& title, const QString& text, double value) override;
     void setProgressFile(const QString& line) override { progressFile_ = line; }
     void hideMessage() override;
+    void tellDone(const DoneLine& line) override;
     bool isMessageVisible() const override { return progressVisible_; }
     bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
     QString browseForFolder(const QString& startFolder) override;

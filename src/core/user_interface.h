@@ -28,6 +28,13 @@ struct Message {
     bool hasQuietTitle = false; ///< the title in grey instead of red: nothing is asked of the user
 };
 
+/// What a job says when it is done: one line, such as "1,183 textures backed up", that asks for nothing.
+struct DoneLine {
+    QString text;
+    QString remark = {};     ///< a second, quieter text
+    bool hasLeftOut = false; ///< something was left out: a warning sign in place of the tick
+};
+
 /// Screens by the names that the whole program uses for them.
 enum class Screen {
     frm_Main,
@@ -81,6 +88,8 @@ public:
     /// The second line of a progress message, such as "Processing file 3 of 900 files".
     virtual void setProgressFile(const QString& line) = 0;
     virtual void hideMessage() = 0;
+    /// Shows the line until the user's next click or key. Called when the job's own messages are closed.
+    virtual void tellDone(const DoneLine& line) = 0;
     /// True while a message of any kind stands on the screen.
     virtual bool isMessageVisible() const = 0;
 

@@ -59,6 +59,8 @@ void WindowUser::hideMessage() {
     if (isMessageVisible()) messageForm().hide();
 }
 
+void WindowUser::tellDone(const DoneLine&) {}
+
 bool WindowUser::isMessageVisible() const {
     const Form* form = shell_ ? shell_->loadedForm(u"frm_Msg"_s) : nullptr;
     return form && form->isVisible();

@@ -19,6 +19,7 @@ public:
     void updateProgress(const QString& title, const QString& text, double value) override;
     void setProgressFile(const QString& line) override;
     void hideMessage() override;
+    void tellDone(const DoneLine& line) override;
     bool isMessageVisible() const override;
     bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
     QString browseForFolder(const QString& startFolder) override;

@@ -16,6 +16,7 @@ public:
     void updateProgress(const QString& title, const QString& text, double value) override;
     void setProgressFile(const QString& line) override { calls << u"file "_s + line; }
     void hideMessage() override;
+    void tellDone(const DoneLine& line) override { calls << u"done "_s + line.text; }
     bool isMessageVisible() const override { return messageVisible_; }
     bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
     QString browseForFolder(const QString& startFolder) override;
