@@ -52,7 +52,7 @@ bool skyCreate(CommandContext& context) {
 
 bool skyShow(CommandContext& context) {
     const auto set = SetCommands<SkyKind>::clickedSet(context);
-    if (!set) return true;
+    if (!set || !clsSkyTextureSubSets::reload(context.session, set->StsID)) return true;
     QJsonValue dayColours; // null for a set without colours
     for (const auto& subSet : *context.session.gSkyTextureSubSets)
         if (subSet->timeOfDay == skyDay) dayColours = toJson(*subSet);

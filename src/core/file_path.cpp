@@ -49,11 +49,10 @@ QString withSeparator(const QString& root) {
     return root.endsWith(u'/') ? root : root + u'/';
 }
 
-void refuseUnsafe(QStringView name) {
+bool isSafe(QStringView name) {
     // Windows drops dots and blanks at a name's end: of ".. " or " " nothing is left but the folder itself.
     const bool blank = std::all_of(name.begin(), name.end(), [](QChar c) { return c == u'.' || c == u' '; });
-    const bool unsafe = blank || name.contains(QChar(u'\0')) || name.contains(u':');
-    if (unsafe) throw Error(ErrorCode::pathNotFound, name.toString());
+    return !blank && !name.contains(QChar(u'\0')) && !name.contains(u':');
 }
 
 } // namespace
@@ -75,15 +74,18 @@ FilePath FilePath::operator/(QStringView relative) const {
         const QStringView name = relative.mid(start, i - start);
         start = i + 1;
         if (name.isEmpty() || name == u".") continue;
-        refuseUnsafe(name);
+        if (!isSafe(name)) throw Error(ErrorCode::pathNotFound, name.toString());
         joined.names_.append(name.toString());
     }
     return joined;
 }
 
+bool FilePath::isChildName(const QString& name) {
+    return isSafe(name) && std::none_of(name.begin(), name.end(), isSeparator);
+}
+
 FilePath FilePath::child(const QString& name) const {
-    const bool single = std::none_of(name.begin(), name.end(), isSeparator);
-    if (name.isEmpty() || name == u"." || !single) throw Error(ErrorCode::pathNotFound, name);
+    if (!isChildName(name)) throw Error(ErrorCode::pathNotFound, name);
     return *this / QStringView(name);
 }
 

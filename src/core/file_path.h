@@ -23,6 +23,8 @@ public:
     /// Appends exactly one name, a set's or a file's. An empty name, or one that holds a separator, raises
     /// "Path not found": a name from the store or the user can never reach another folder.
     FilePath child(const QString& name) const;
+    /// True for a name that `child` takes.
+    static bool isChildName(const QString& name);
     /// The same, but in exactly that spelling; no other one is looked for. For folders that only we write to:
     /// a new name among thousands needs no search.
     FilePath exactChild(const QString& name) const;

@@ -30,6 +30,10 @@ QString nameWithKey(NameRule rule, std::int16_t key, const QString& name) {
     return rule == NameRule::fitForFolder ? newSetName(key, name) : QString::number(key) + u'-' + name;
 }
 
+QString nameWithoutKey(NameRule rule, const QString& name) {
+    return rule == NameRule::fitForFolder ? name.left(longestSetName) : name;
+}
+
 std::int16_t readNewestKey(Store& store, const NewestKey& newestKey) {
     return RowSet(store, newestKey.statement).integer(newestKey.field);
 }
@@ -47,9 +51,7 @@ void readField(const RowSet& row, const QString& column, std::int16_t& value) {
 }
 
 void readField(const RowSet& row, const QString& column, QDateTime& value) {
-    const QString text = row.text(column);
-    value = QDateTime::fromString(text, dateForm);
-    if (!value.isValid() && !text.isEmpty()) throw Error(ErrorCode::typeMismatch);
+    value = QDateTime::fromString(row.text(column), dateForm);
 }
 
 void writeField(RowSet& row, const QString& column, const QString& value) {

@@ -4,10 +4,12 @@
 #include "core/keyed_collection.h"
 #include "core/row_set.h"
 #include "core/session.h"
+#include "core/set_collections.h"
 #include "core/store.h"
 
 #include <QDateTime>
 #include <functional>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -79,11 +81,14 @@ bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine
 
 /// The name of a new row: key, "-" and the name that it was given.
 QString nameWithKey(NameRule rule, std::int16_t key, const QString& name);
+/// What stands in its place until the key is known: cut so that the column takes it.
+QString nameWithoutKey(NameRule rule, const QString& name);
 
 /// Raises "Overflow" for a key beyond 16 bits.
 std::int16_t readNewestKey(Store& store, const NewestKey& newestKey);
 
-// One field, by the type of its property. A stored date is "yyyy/mm/dd hh:mm:ss", and none is "".
+// One field, by the type of its property. A stored date is "yyyy/mm/dd hh:mm:ss", none is "", and so is read
+// what is no date: the row is worth more than its date.
 void readField(const RowSet& row, const QString& column, QString& value);
 void readField(const RowSet& row, const QString& column, bool& value);
 void readField(const RowSet& row, const QString& column, std::int16_t& value);
@@ -117,16 +122,23 @@ void writeFields(RowSet& row, const RecordColumns<Record>& columns, const QStrin
     }
 }
 
-/// Walks the statement's rows and hands each to the collection; it stays filled as far as the walk came.
+/// Walks the statement's rows and hands each to the collection. One that cannot be read is left out and hides
+/// no other; the first such failure is raised at the end.
 template <class Record>
 void loadRecords(const Session& session, const QString& statement, const RecordTable<Record>& table,
                  KeyedCollection<Record>& collection) {
+    std::optional<Error> failure;
     for (RowSet rows(connectedStore(session), statement); !rows.atEnd(); rows.next()) {
-        Record record;
-        readField(rows, u"ID"_s, record.*table.key);
-        readFields(rows, table.columns, session.DecimalSep, record);
-        collection.popCollection(std::move(record));
+        try {
+            Record record;
+            readField(rows, u"ID"_s, record.*table.key);
+            readFields(rows, table.columns, session.DecimalSep, record);
+            collection.popCollection(std::move(record));
+        } catch (const Error& error) {
+            if (!failure) failure = error;
+        }
     }
+    if (failure) throw *failure;
 }
 
 /// Adds the row of a new record: the key is read as the newest one, then the name gets it in front.
@@ -146,11 +158,12 @@ void writeNewRow(Store& store, RowSet& row, const RecordTable<Record>& table, Re
 template <class Record>
 void writeRecord(const Session& session, const RecordTable<Record>& table, Record& record) {
     Store& store = connectedStore(session);
-    Record written = record;
+    Record first = record, written = record;
+    if (record.IsNew) first.*table.name = nameWithoutKey(table.nameRule, record.*table.name);
     StoreTransaction transaction(store);
     RowSet row(store, table.selectRow + QString::number(record.*table.key));
     if (record.IsNew) row.addNew();
-    writeFields(row, table.columns, session.DecimalSep, record);
+    writeFields(row, table.columns, session.DecimalSep, std::move(first));
     if (record.IsNew)
         writeNewRow(store, row, table, written);
     else
@@ -171,15 +184,17 @@ void saveRecord(const Session& session, const RecordTable<Record>& table, Record
 }
 
 /// Writes every set of the collection back, the one of that name as installed and all others as not: at most
-/// one is at any time. All rows or none; false after the one message of a failure.
+/// one is at any time, the first where two rows were given one name. All rows or none; false after the one
+/// message of a failure.
 template <class Record>
 bool writeInstalledSet(Session& session, const RecordTable<Record>& table,
                        const KeyedCollection<Record>& collection, const QString& name) {
     return reportFailures(session.user, {}, [&] {
+        const auto installed = findTrimmedName(collection, name);
         StoreTransaction transaction(connectedStore(session));
         for (const auto& kept : collection) {
             Record record = *kept;
-            record.Installed = nameOf(record) == name;
+            record.Installed = kept == installed;
             writeRecord(session, table, record);
         }
         transaction.commit();

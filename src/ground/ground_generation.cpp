@@ -69,17 +69,15 @@ void GroundGeneration::createTextureSets(bool fromMain) {
     });
 }
 
-/// False when the run was cancelled.
+/// False when the run was cancelled or the store refused a set.
 bool GroundGeneration::createAll(const Job& job, int total, bool fromMain) {
     int setsDone = 0;
     for (int cloudNumber = 1; cloudNumber <= cloudCoverCount; ++cloudNumber) {
         const int count = session_.modal.setCounts[static_cast<std::size_t>(cloudNumber - 1)];
         for (int i = 0; i < count; ++i) {
-            createRandomSet(job, cloudNumber, {++setsDone, total}, fromMain);
-            if (!job.isCancelled()) continue;
-            if (!session_.ground.SelectedGroundSet.isEmpty())
-                removeSetFiles(session_.ground.SelectedGroundSet, false);
-            cleanTempBitmaps(session_);
+            const bool isStored = createRandomSet(job, cloudNumber, {++setsDone, total}, fromMain);
+            if (isStored && !job.isCancelled()) continue;
+            if (job.isCancelled()) dropUnfinishedSet();
             session_.user.hideMessage();
             return false;
         }
@@ -87,16 +85,24 @@ bool GroundGeneration::createAll(const Job& job, int total, bool fromMain) {
     return true;
 }
 
-void GroundGeneration::createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain) {
+void GroundGeneration::dropUnfinishedSet() {
+    if (!session_.ground.SelectedGroundSet.isEmpty())
+        removeSetFiles(session_.ground.SelectedGroundSet, false);
+    cleanTempBitmaps(session_);
+}
+
+bool GroundGeneration::createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain) {
     // A run that fails before its set has a row must not leave an earlier set's name behind for the cancel.
     session_.ground.SelectedGroundSet.clear();
     SliderValues sliders{};
     getRandomGroundValues(session_, cloudNumber, sliders);
-    createSet(job, cloudNumber, sliders, counters, fromMain);
+    return createSet(job, cloudNumber, sliders, counters, fromMain);
 }
 
-void GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderValues& sliders,
+/// False when the store refused the set: it would refuse those behind it, too.
+bool GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderValues& sliders,
                                  Counters counters, bool fromMain) {
+    bool isStored = false;
     reportFailures(session_.user, {}, [&] {
         session_.ground.colours = effectiveColours(sliders);
         clsTextureSet record;
@@ -107,10 +113,12 @@ void GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderVa
         record.CloudCover = cloudCover(cloudNumber)->word;
         record.IsDutch = true; // every set is marked Dutch, whatever the switch says
         record.IsNew = true;
-        if (!loadedGroundSets(session_).UpdateTextureSet(record)) return;
+        isStored = loadedGroundSets(session_).UpdateTextureSet(record);
+        if (!isStored) return;
         session_.ground.SelectedGroundSet = record.TextureSet;
         makeFiles(job, counters, fromMain ? Screen::frm_Main : Screen::frm_MVTextures);
     });
+    return isStored;
 }
 
 void GroundGeneration::reportDuration(const QTime& start, const QTime& end, int total) {

@@ -21,8 +21,9 @@ public:
 
 private:
     bool createAll(const Job& job, int total, bool fromMain);
-    void createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain);
-    void createSet(const Job& job, int cloudNumber, const SliderValues& sliders, Counters counters,
+    void dropUnfinishedSet();
+    bool createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain);
+    bool createSet(const Job& job, int cloudNumber, const SliderValues& sliders, Counters counters,
                    bool fromMain);
     void reportDuration(const QTime& start, const QTime& end, int total);
     void endRun(bool fromMain);

@@ -22,28 +22,25 @@ const InstallationKind groundKind{
     u"Would you like Morvane to install a matching Sky Texture set?"_s,
     Screen::frm_MVTextures,
     &Session::RefreshGroundList,
-    1};
+    2};
 
 } // namespace
 
 GroundInstallation::GroundInstallation(Session& session) : SetInstallation(session, groundKind) {}
 
-void GroundInstallation::installSelectedSet() {
-    if (!refreshGroundSets(session_)) return;
-    if (session_.ground.SelectedGroundSet == defaultSet)
-        installDefaultSet();
-    else
-        installGeneratedSet();
+bool GroundInstallation::installSelectedSet() {
+    if (!refreshGroundSets(session_)) return false;
+    return session_.ground.SelectedGroundSet == defaultSet ? installDefaultSet() : installGeneratedSet();
 }
 
-void GroundInstallation::installMatch(const Job& job) {
+bool GroundInstallation::installMatch(const Job& job) {
     const clsSkyTextureSets& skies = loadedSkySets(session_);
     // Without any sky set no sky is touched; a sky that asks for its ground has no such way out. Wanted.
-    if (skies.Count() == 0) return;
+    if (skies.Count() == 0) return true;
     const QStringList names = namesForCover(activatedSets(skies), session_.ground.SelectedGroundCover);
     // This draw reaches the last of the skies; a sky's draw of its ground stops short of the last. Wanted.
     session_.sky.SelectedSkySet = drawName(session_, names, names.size());
-    SkyInstallation(session_).installInside(job);
+    return SkyInstallation(session_).installInside(job);
 }
 
 std::vector<FileCopy> GroundInstallation::copyListOfSet() {
@@ -84,21 +81,22 @@ void GroundInstallation::addTropicalFiles(std::vector<FileCopy>& copies) {
         copies.push_back({file, worldTexture().child(tropicalName(file.fileName()))});
 }
 
-void GroundInstallation::installGeneratedSet() {
+bool GroundInstallation::installGeneratedSet() {
     const QString name = session_.ground.SelectedGroundSet;
     const std::vector<FileCopy> copies = copyListOfSet();
     // The store says "installed" before the first file is copied, also when the copying then fails.
-    if (!loadedGroundSets(session_).markInstalled(name)) return;
+    if (!loadedGroundSets(session_).markInstalled(name)) return false;
     const auto record = findGroundSet(session_, name);
     putSet(record ? record->CloudCover : QString(), copies);
+    return true;
 }
 
-void GroundInstallation::installDefaultSet() {
+bool GroundInstallation::installDefaultSet() {
     const CloudCover& nominal = *cloudCover(3);
     const std::vector<FileCopy> copies = copyListOfDefault();
     showProgress();
     showCover(nominal.word + nominal.tag);
-    if (!loadedGroundSets(session_).markInstalled(defaultSet)) return;
+    if (!loadedGroundSets(session_).markInstalled(defaultSet)) return false;
 
     SimulatorCopier copier(session_);
     prepare(copier, copies, &nominal);
@@ -107,6 +105,7 @@ void GroundInstallation::installDefaultSet() {
     // Once more, whatever the option says: "Default" always shows the nominal splash. Wanted.
     copier.copy(splashCopy(nominal));
     finish(copier);
+    return true;
 }
 
 } // namespace morvane

@@ -14,14 +14,14 @@ public:
 
 private:
     qsizetype selectedRowCount() const override { return session_.ground.selectedRows.size(); }
-    void installMatch(const Job& job) override;
-    void installSelectedSet() override;
+    bool installMatch(const Job& job) override;
+    bool installSelectedSet() override;
 
     std::vector<FileCopy> copyListOfSet();
     std::vector<FileCopy> copyListOfDefault();
     void addTropicalFiles(std::vector<FileCopy>& copies);
-    void installGeneratedSet();
-    void installDefaultSet();
+    bool installGeneratedSet();
+    bool installDefaultSet();
 
     FilePath worldTexture() const { return session_.FSPath / u"Scenery\\WORLD\\Texture"; }
     FilePath utEurLcTexture() const { return session_.FSPath / u"Scenery\\UTEurLC\\Texture"; }

@@ -12,27 +12,31 @@ namespace {
 
 constexpr qsizetype descriptionLength = 255;
 
+void takeInHand(GroundSelection& selection, const clsTextureSet& set) {
+    selection.SelectedGroundKey = u"Key:"_s + QString::number(set.TsID);
+    selection.SelectedGroundSet = set.TextureSet;
+    selection.SelectedGroundActivated = set.Actvated == flagText(true);
+    selection.SelectedGroundCover = set.CloudCover;
+    selection.SelectedGroundDescription = set.Description.left(descriptionLength);
+    selection.colours = {};
+}
+
 } // namespace
 
 bool loadGroundSelection(Session& session, const QString& listKey) {
     return reportFailures(session.user, {}, [&] {
         const auto record = findListKey(loadedGroundSets(session), listKey);
-        GroundSelection& selection = session.ground;
-        selection.SelectedGroundSet = record->TextureSet;
-        selection.colours = parseColourSettings(record->ColorSettings, session.DecimalSep);
-        selection.SelectedGroundDescription = record->Description.left(descriptionLength);
+        takeInHand(session.ground, *record);
+        session.ground.colours = parseColourSettings(record->ColorSettings, session.DecimalSep);
     });
 }
 
 bool clickGroundRow(Session& session, const QString& name) {
     const auto record = findGroundSet(session, name);
     if (!record) return false;
-    GroundSelection& selection = session.ground;
-    selection.SelectedGroundKey = u"Key:"_s + QString::number(record->TsID);
-    selection.SelectedGroundActivated = record->Actvated == flagText(true);
-    selection.SelectedGroundCover = record->CloudCover;
-    selection.selectedRows = QStringList{record->TextureSet};
-    return loadGroundSelection(session, selection.SelectedGroundKey);
+    takeInHand(session.ground, *record);
+    session.ground.selectedRows = QStringList{record->TextureSet};
+    return true;
 }
 
 } // namespace morvane

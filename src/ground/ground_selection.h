@@ -4,12 +4,13 @@
 
 namespace morvane {
 
-/// Takes the set behind a list key ("Key:" and the TsID) into the session's selection: name, colours,
-/// description. A screen repaints its sample afterwards. False after a failure was told.
+/// Takes the set behind a list key ("Key:" and the TsID) into the session's selection, whoever selected it:
+/// its row, its description, its colours. A screen repaints its sample afterwards. False after a failure was
+/// told; a set whose colours are damaged is in hand all the same, with neutral ones.
 bool loadGroundSelection(Session& session, const QString& listKey);
 
-/// What a click on the set's row does: the selection above, with the row's activation and cover, and the row
-/// as the only one selected. False when there is no set of that name.
+/// Takes the set of that name in hand, its row as the only one selected; the colours are left neutral. False
+/// when there is no set of that name.
 bool clickGroundRow(Session& session, const QString& name);
 
 } // namespace morvane

@@ -13,7 +13,7 @@ void SetGeneration::makeFiles(const Job& job, Counters counters, Screen hiddenSc
     const std::vector<CatalogueFile> files = baseFilesOf(set.name);
     TexturePasses passes(session_, job,
                          {kind_.caption, kind_.duration, hiddenScreen, folderOf(set.name), kind_.subfolders,
-                          kind_.subfolders.last(), counters.setsDone, counters.total});
+                          counters.setsDone, counters.total});
     passes.colourFiles(files, set.colours);
     if (!job.isCancelled()) passes.convertFiles(files);
 }
@@ -45,11 +45,19 @@ void SetGeneration::activateSeveral(const Job& job, const QStringList& names) {
     cleanTempBitmaps(session_);
 }
 
-/// False when the store refused or the run was cancelled.
+/// Everything that a damaged row makes fail, before anything is stored.
+bool SetGeneration::takeInHand(const StoredSet& set) {
+    return reportFailures(session_.user, {}, [&] {
+        const ColourValues colours = parseColourSettings(set.colourSettings, session_.DecimalSep);
+        folderOf(set.name);
+        inHand().colours = colours;
+        inHand().name = set.name;
+    });
+}
+
+/// False when the store refused or the run was cancelled. A damaged set is told of, and no reason to end.
 bool SetGeneration::activate(const Job& job, const StoredSet& set, Counters counters) {
-    const SetsInHand selection = inHand();
-    selection.colours = parseColourSettings(set.colourSettings, session_.DecimalSep);
-    selection.name = set.name;
+    if (!takeInHand(set)) return true;
     if (!storeActivation(set.name, true)) return false;
     makeFiles(job, counters, kind_.activatedFrom);
     if (!job.isCancelled()) return true;
@@ -81,23 +89,24 @@ bool SetGeneration::removeSetFiles(const QString& name, bool keepRecord) {
     reportFailures(session_.user, {}, [&] {
         const auto set = find(name);
         if (!set) return;
-        const FilePath folder = folderOf(set->name);
         // The record goes first: a failure in between leaves files without a row, never a row without a set.
         stored = keepRecord ? storeActivation(set->name, false) : removeRecord(set->name);
-        if (stored) removeBitmapFolders(session_, folder, kind_.subfolders, !keepRecord);
+        // A name that no folder can have, of a store that was edited by hand: the row is all there is.
+        if (stored && FilePath::isChildName(set->name))
+            removeBitmapFolders(session_, folderOf(set->name), kind_.subfolders, !keepRecord);
     });
     return stored;
 }
 
 void removeBitmapFolders(Session& session, const FilePath& setFolder, const QStringList& subfolders,
                          bool removeFolders) {
-    for (const QString& name : subfolders) {
+    const bool isOurs = !session.files.isLink(setFolder);
+    for (const QString& name : isOurs ? subfolders : QStringList()) {
         const FilePath folder = setFolder.child(name);
-        if (!session.files.isFolder(folder) || session.files.isLink(folder)) continue;
         emptyBitmapFolder(session, folder);
-        if (removeFolders) session.files.removeFolder(folder);
+        if (removeFolders) removeFolderOrLink(session.files, folder);
     }
-    if (removeFolders && session.files.isFolder(setFolder)) session.files.removeFolder(setFolder);
+    if (removeFolders) removeFolderOrLink(session.files, setFolder);
 }
 
 } // namespace morvane

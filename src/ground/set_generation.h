@@ -70,13 +70,15 @@ protected:
 
 private:
     void activateSeveral(const Job& job, const QStringList& names);
+    bool takeInHand(const StoredSet& set);
     bool activate(const Job& job, const StoredSet& set, Counters counters);
 
     const GenerationKind& kind_;
 };
 
 /// Empties each of the subfolders that holds a bitmap, and with `removeFolders` removes them and the folder.
-/// Folders are removed only when empty, and one that is a link is left alone with what it points to.
+/// Folders are removed only when empty. What a link points to is left alone: the link itself goes with the
+/// folders.
 void removeBitmapFolders(Session& session, const FilePath& setFolder, const QStringList& subfolders,
                          bool removeFolders);
 

@@ -44,6 +44,16 @@ void TexturePasses::advance(Progress& progress, std::size_t index, std::size_t c
     session_.user.updateProgress({}, {}, progress.position);
 }
 
+/// They come with the install, and may have been tidied away since.
+void TexturePasses::makeTempFolders(const std::vector<CatalogueFile>& files) {
+    QString made;
+    for (const CatalogueFile& file : files) {
+        const QString folder = file.tempFolder.relative();
+        if (folder != made) session_.files.makeFolder(file.tempFolder);
+        made = folder;
+    }
+}
+
 void TexturePasses::saveColoured(const CatalogueFile& file) {
     const FilePath target = file.tempFolder.child(file.fileName);
     if (resultDib_.Width() > 0)
@@ -56,6 +66,7 @@ void TexturePasses::colourFiles(const std::vector<CatalogueFile>& files, const C
     reportFailures(session_.user, {}, [&] {
         session_.user.hideScreen(description_.hiddenScreen);
         Progress progress = openProgress(u"Colorizing"_s, 1, files.size());
+        makeTempFolders(files);
         const Recolouring recolouring(colours);
         OrderedWork<ColouredFile> work(static_cast<int>(files.size()), [&](int i) {
             const CatalogueFile& file = files[static_cast<std::size_t>(i)];
@@ -76,14 +87,8 @@ void TexturePasses::colourFiles(const std::vector<CatalogueFile>& files, const C
 }
 
 void TexturePasses::makeSetFolders() {
-    const FilePath& folder = description_.setFolder;
-    if (!session_.files.isFolder(folder)) {
-        for (const QString& name : description_.subfolders)
-            session_.files.makeFolder(folder.child(name));
-    } else {
-        // A favourite's or a deactivated set's folder, whose others are taken to exist.
-        session_.files.makeFolder(folder.child(description_.lastSubfolder));
-    }
+    for (const QString& name : description_.subfolders)
+        session_.files.makeFolder(description_.setFolder.child(name));
 }
 
 void TexturePasses::convertFiles(const std::vector<CatalogueFile>& files) {

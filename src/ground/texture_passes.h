@@ -14,8 +14,7 @@ struct PassDescription {
     QString duration;                ///< the sentence on how long it takes, up to "on your "
     Screen hiddenScreen;             ///< the screen that started the run
     FilePath setFolder;              ///< the set's own folder
-    QStringList subfolders;          ///< made in a new set folder
-    QString lastSubfolder;           ///< made when only this one is missing
+    QStringList subfolders;          ///< made where they are missing
     int setNumber = 1, setTotal = 1; ///< shown as "set 2 of 5"
     /// What stands behind "Process 1 of 2 " and "2 of 2 "; empty where it is made of the duration.
     std::array<QString, 2> warnings{};
@@ -43,6 +42,7 @@ private:
     void showProgress(const QString& text);
     void advance(Progress& progress, std::size_t index, std::size_t count);
     void saveColoured(const CatalogueFile& file);
+    void makeTempFolders(const std::vector<CatalogueFile>& files);
     void makeSetFolders();
 
     Session& session_;

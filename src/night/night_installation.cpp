@@ -14,7 +14,7 @@ const InstallationKind nightKind{
     {},
     Screen::frm_NightTextures,
     &Session::RefreshNightList,
-    1};
+    2};
 
 FilePath worldTexture(const Session& session) {
     return session.FSPath / u"Scenery\\WORLD\\Texture";
@@ -47,16 +47,17 @@ std::vector<FileCopy> NightInstallation::copyListOfDefault() {
 }
 
 /// The message comes before the record here; the record still comes before the first file.
-void NightInstallation::installSelectedSet() {
-    if (!refreshNightSets(session_)) return;
+bool NightInstallation::installSelectedSet() {
+    if (!refreshNightSets(session_)) return false;
     const QString name = session_.night.SelectedNightSet;
     const std::vector<FileCopy> copies = name == u"Default" ? copyListOfDefault() : copyListOfSet();
     SimulatorCopier copier(session_);
     prepare(copier, copies, nullptr);
     showProgress();
-    if (!loadedNightSets(session_).markInstalled(name)) return;
+    if (!loadedNightSets(session_).markInstalled(name)) return false;
     copyAll(copier, copies);
     finish(copier);
+    return true;
 }
 
 } // namespace morvane

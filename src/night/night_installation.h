@@ -15,7 +15,7 @@ public:
 
 private:
     qsizetype selectedRowCount() const override { return session_.night.selectedRows.size(); }
-    void installSelectedSet() override;
+    bool installSelectedSet() override;
     std::vector<FileCopy> copyListOfSet();
     std::vector<FileCopy> copyListOfDefault();
 };

@@ -7,21 +7,30 @@
 
 namespace morvane {
 
+namespace {
+
+void takeInHand(NightSelection& selection, const clsNightTextureSet& set) {
+    selection.SelectedNightSet = set.TextureSet;
+    selection.SelectedNightDescription = set.Description;
+    selection.colours = {};
+}
+
+} // namespace
+
 bool loadNightSelection(Session& session, const QString& listKey) {
     return reportFailures(session.user, {}, [&] {
         const auto record = findListKey(loadedNightSets(session), listKey);
-        NightSelection& selection = session.night;
-        selection.SelectedNightSet = record->TextureSet;
-        selection.colours = parseColourSettings(record->ColorSettings, session.DecimalSep);
-        selection.SelectedNightDescription = record->Description;
+        takeInHand(session.night, *record);
+        session.night.colours = parseColourSettings(record->ColorSettings, session.DecimalSep);
     });
 }
 
 bool clickNightRow(Session& session, const QString& name) {
     const auto record = findNightSet(session, name);
     if (!record) return false;
+    takeInHand(session.night, *record);
     session.night.selectedRows = QStringList{record->TextureSet};
-    return loadNightSelection(session, u"Key:"_s + QString::number(record->NtsID));
+    return true;
 }
 
 } // namespace morvane

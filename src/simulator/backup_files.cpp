@@ -217,7 +217,7 @@ void backupOnRequest(Session& session) {
 }
 
 bool isBackupComplete(Session& session, const QString& name) {
-    return session.files.exists(listFile(session, name));
+    return FilePath::isChildName(name) && session.files.exists(listFile(session, name));
 }
 
 void restoreBackup(Session& session, const QString& name) {

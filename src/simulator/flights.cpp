@@ -81,14 +81,16 @@ void copyDeliveredFlights(Session& session) {
 
 void loadFlightFiles(Session& session) {
     if (session.IsWideClient) return;
-    reportFailures(session.user, {}, [&] {
+    // The kind is misspelt, as that of one failure of the weather's road: it names an icon of its own.
+    const FailureReport report{u"Morvane Error"_s, MessageKind::exlamation};
+    reportFailures(session.user, report, [&] {
         session.files.makeFolder(flightsFolder(session));
         removeCopies(session);
         copyFlights(session, deliveredFlightsFolder(session), flightsFolder(session));
         if (const FilePath folder = userFlightsFolder(session); !folder.isEmpty())
             copyFlights(session, folder, flightsFolder(session));
     });
-    reportFailures(session.user, {}, [&] { writeList(session); }); // of those that were copied
+    reportFailures(session.user, report, [&] { writeList(session); }); // of those that were copied
 }
 
 QStringList savedFlights(Session& session) {

@@ -8,26 +8,26 @@ namespace morvane {
 
 void SetInstallation::install(bool automatic) {
     if (session_.jobRunning) return;
-    const bool installed = run(Job(session_), automatic);
-    if (!installed || automatic || session_.CommandLineRun || kind_.matchQuestion.isEmpty()) return;
+    const Outcome outcome = run(Job(session_), automatic);
+    const bool offersStart = !automatic && !session_.CommandLineRun && !kind_.matchQuestion.isEmpty();
+    if (outcome != Outcome::installed || !offersStart) return;
     // The job has ended by now: what the user does before the answer is no part of it.
     reportFailures(session_.user, {}, [this] { launchFlightSimulator(session_); });
 }
 
-bool SetInstallation::run(const Job& job, bool automatic) {
+SetInstallation::Outcome SetInstallation::run(const Job& job, bool automatic) {
     filesCopied_ = 0;
-    bool installed = false;
+    Outcome outcome = Outcome::failed;
     reportFailures(session_.user, {}, [&] {
         if (!automatic && !prepareByHand(job)) return;
-        installSelectedSet();
-        installed = true;
+        outcome = installSelectedSet() ? Outcome::installed : Outcome::storeRefused;
     });
-    if (!installed || session_.CommandLineRun) return installed;
+    if (outcome != Outcome::installed || session_.CommandLineRun) return outcome;
     session_.user.refreshScreen(Screen::frm_Main);
-    if (automatic) return true;
+    if (automatic) return outcome;
     session_.*kind_.refreshList = true;
     session_.user.refreshScreen(kind_.listScreen);
-    return true;
+    return outcome;
 }
 
 bool SetInstallation::prepareByHand(const Job& job) {
@@ -39,10 +39,9 @@ bool SetInstallation::prepareByHand(const Job& job) {
     }
     if (kind_.matchQuestion.isEmpty()) return true;
     // Both questions stand under the ground's title, also the one that offers a sky.
-    if (session_.user.ask(Question::setInstall, u"Install Matching Ground Texture Set?"_s,
-                          kind_.matchQuestion))
-        installMatch(job);
-    return true;
+    const bool isMatchWanted = session_.user.ask(
+        Question::setInstall, u"Install Matching Ground Texture Set?"_s, kind_.matchQuestion);
+    return !isMatchWanted || installMatch(job);
 }
 
 FileCopy SetInstallation::splashCopy(const CloudCover& cover) const {
@@ -70,7 +69,7 @@ void SetInstallation::showCover(const QString& tagged) {
 /// No messages are let through and no cancel is read: an install once begun goes through its list.
 void SetInstallation::copyAll(SimulatorCopier& copier, const std::vector<FileCopy>& copies) {
     const double steps = static_cast<double>(copies.size()) + kind_.stepsBesideFiles;
-    const double step = copies.size() > 1 ? 100.0 / steps : 100.0;
+    const double step = copies.empty() ? 100.0 : 100.0 / steps;
     double position = 0;
     for (const FileCopy& copy : copies) {
         copier.copy(copy);

@@ -30,17 +30,20 @@ public:
     /// `automatic`: no questions, as on the road from the weather. Otherwise several rows are refused and a
     /// matching set of the other kind is offered, which goes in first, and the start of the simulator last.
     void install(bool automatic);
-    /// The automatic install as a part of a job that is running already.
-    void installInside(const Job& job) { run(job, true); }
+    /// The automatic install as a part of a job that is running already. False when the store refused to
+    /// record it: the job then ends, too.
+    bool installInside(const Job& job) { return run(job, true) != Outcome::storeRefused; }
 
     /// Files copied by the last install, the splash left out.
     int filesCopied() const { return filesCopied_; }
 
 protected:
     virtual qsizetype selectedRowCount() const = 0;
-    /// The user wants the set of the other kind, too. Never called without a question.
-    virtual void installMatch(const Job&) {}
-    virtual void installSelectedSet() = 0;
+    /// The user wants the set of the other kind, too. Never called without a question. False when the store
+    /// refused.
+    virtual bool installMatch(const Job&) { return true; }
+    /// False when the store refused: nothing was copied then.
+    virtual bool installSelectedSet() = 0;
 
     /// Splash, progress message and files of a set for that cover; an unknown cover has no splash.
     void putSet(const QString& coverWord, const std::vector<FileCopy>& copies);
@@ -58,9 +61,9 @@ protected:
     Session& session_;
 
 private:
-    /// True when it came to its end.
-    bool run(const Job& job, bool automatic);
-    /// False when the install was refused.
+    enum class Outcome { installed, failed, storeRefused };
+    Outcome run(const Job& job, bool automatic);
+    /// False when the install was refused, by the store or for its several rows.
     bool prepareByHand(const Job& job);
 
     const InstallationKind& kind_;

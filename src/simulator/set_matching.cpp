@@ -99,7 +99,7 @@ QString SetMatching::closestSet(const std::vector<ActivatedSet>& sets, ClosestSe
 }
 
 void SetMatching::installMatchingSets(const QString& cover) {
-    // The kind is misspelt here and nowhere else in this file: it names an icon of its own.
+    // The kind is misspelt, as that of the flights' failure: it names an icon of its own.
     reportFailures(session_.user, {u"getIcaoWxDetails Error"_s, MessageKind::exlamation}, [&] {
         const auto grounds = activatedSets(loadedGroundSets(session_));
         const auto skies = activatedSets(loadedSkySets(session_));

@@ -72,4 +72,11 @@ void emptyBitmapFolder(Session& session, const FilePath& folder) {
         session.files.remove(folder.child(name));
 }
 
+void removeFolderOrLink(FileSystem& files, const FilePath& folder) {
+    if (files.isFolder(folder))
+        files.removeFolder(folder); // of a link the link alone
+    else if (files.isLink(folder))
+        files.remove(folder); // it points to nothing any more
+}
+
 } // namespace morvane

@@ -34,5 +34,8 @@ QStringList confirmedNames(Session& session, const QStringList& names);
 /// Removes every file of a folder that holds at least one bitmap. A folder that is a link is left alone with
 /// what it points to.
 void emptyBitmapFolder(Session& session, const FilePath& folder);
+/// Removes a folder that is empty; of a link the link, and never what it points to. Nothing when neither is
+/// there.
+void removeFolderOrLink(FileSystem& files, const FilePath& folder);
 
 } // namespace morvane

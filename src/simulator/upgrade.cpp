@@ -32,7 +32,8 @@ void backupDatabaseV2(Session& session) {
 }
 
 void backupSplashV2(Session& session) {
-    const FailureReport report{u"Morvane Error"_s, MessageKind::error, u"Sub backUserFSSplash "_s};
+    // The kind is misspelt here and nowhere else: it names an icon of its own.
+    const FailureReport report{u"Morvane Error"_s, MessageKind::exclamtion, u"Sub backUserFSSplash "_s};
     reportFailures(session.user, report, [&] {
         const FilePath splash = splashTarget(session);
         if (session.files.isFolder(splash.parent()))

@@ -35,14 +35,15 @@ PassDescription descriptionOf(Session& session, const QString& setName, int numb
             Screen::frm_MVTextures,
             groundSetFolder(session, setName),
             {dutchFolder},
-            dutchFolder,
             number,
             total,
             {warning(u"1 - 2"_s, u"........"_s), warning(u"2 - 3"_s, u"......."_s)},
             false};
 }
 
-void createDutchForSet(Session& session, const Job& job, clsTextureSet set, int number, int total) {
+/// False when the store refused the set's row: it would refuse those behind it, too.
+bool createDutchForSet(Session& session, const Job& job, clsTextureSet set, int number, int total) {
+    bool isRefused = false;
     reportFailures(session.user, {}, [&] {
         const ColourValues colours = parseColourSettings(set.ColorSettings, session.DecimalSep);
         const std::vector<CatalogueFile> files = dutchFilesOf(session, set.TextureSet);
@@ -50,8 +51,9 @@ void createDutchForSet(Session& session, const Job& job, clsTextureSet set, int 
         passes.colourFiles(files, colours);
         passes.convertFiles(files);
         set.IsDutch = true;
-        session.gTextureSets->UpdateTextureSet(set);
+        isRefused = !session.gTextureSets->UpdateTextureSet(set);
     });
+    return !isRefused;
 }
 
 } // namespace
@@ -70,7 +72,7 @@ void createDutchForAllSets(Session& session) {
     int number = 0;
     const int total = static_cast<int>(sets.size()) - 1; // "Default" is taken to be one of them
     for (const clsTextureSet& set : sets)
-        if (set.TextureSet != u"Default") createDutchForSet(session, job, set, ++number, total);
+        if (set.TextureSet != u"Default" && !createDutchForSet(session, job, set, ++number, total)) break;
     session.gTextureSets.reset(); // its records still say what was before
     session.user.hideMessage();
 }

@@ -48,14 +48,21 @@ void SkyActivation::activateSeveral(const Job& job, const QStringList& names) {
     }
 }
 
-/// False when the store refused or the run was cancelled.
+/// False when the store refused or the run was cancelled. A damaged set is told of, and no reason to end.
 bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const QStringList& timesOfDay,
                              Counters counters) {
-    if (!storeActivation(set, true)) return false;
+    FilePath folder;
+    bool hasColours = false;
+    const bool isWhole = reportFailures(session_.user, {}, [&] {
+        folder = skySetFolder(session_, set.SkyTextureSet);
+        skyStockFolder(session_, set.TextureSetGroup);
+        // The colours are the day's whatever the time: the other families are plain copies.
+        hasColours = loadSkyTextureGroups(session_, set.StsID, skyDay);
+    });
+    if (!isWhole) return true;
+    if (!hasColours || !storeActivation(set, true)) return false;
     session_.sky.SelectedSkySet = set.SkyTextureSet;
-    // The colours are the day's whatever the time: the other families are plain copies.
-    if (!loadSkyTextureGroups(session_, set.StsID, skyDay)) return false;
-    session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
+    session_.files.makeFolder(folder);
     SkyGeneration generation(session_);
     for (const QString& timeOfDay : timesOfDay) {
         generation.colourSkySetFiles(set.SkyTextureSet, set.TextureSetGroup, timeOfDay,
@@ -97,12 +104,13 @@ bool SkyActivation::removeSet(const QString& name, bool keepRecord) {
     reportFailures(session_.user, {}, [&] {
         const auto set = findSkySet(session_, name);
         if (!set) return;
-        const FilePath folder = skySetFolder(session_, set->SkyTextureSet);
         // The record goes first: a failure in between leaves files without a row, never a row without a set.
         stored = keepRecord ? storeActivation(*set, false) : loadedSkySets(session_).RemoveItem(keyOf(*set));
-        if (!stored) return;
+        // A name that no folder can have, of a store that was edited by hand: the rows are all there is.
+        if (!stored || !FilePath::isChildName(set->SkyTextureSet)) return;
+        const FilePath folder = skySetFolder(session_, set->SkyTextureSet);
         emptyBitmapFolder(session_, folder);
-        if (!keepRecord && session_.files.isFolder(folder)) session_.files.removeFolder(folder);
+        if (!keepRecord) removeFolderOrLink(session_.files, folder);
     });
     return stored;
 }

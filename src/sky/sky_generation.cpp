@@ -61,9 +61,11 @@ void SkyGeneration::createAll(const Job& job) {
     const auto counts = session_.modal.skySetCounts;
     const int total = plannedSets(session_.modal);
     int setNumber = 0;
+    bool isStored = true;
     const auto createSeveral = [&](const QString& baseSet, int cloudIndex) {
-        for (int i = 0; i < counts[static_cast<std::size_t>(cloudIndex - 1)] && !job.isCancelled(); ++i)
-            createAutoSkySet(baseSet, cloudIndex, ++setNumber, total);
+        const int count = counts[static_cast<std::size_t>(cloudIndex - 1)];
+        for (int i = 0; i < count && isStored && !job.isCancelled(); ++i)
+            isStored = createAutoSkySet(baseSet, cloudIndex, ++setNumber, total);
     };
     for (const QString& baseSet : skyBaseSetsInRun())
         for (int cloudIndex = 1; cloudIndex < overcastIndex && ticked.contains(baseSet); ++cloudIndex)
@@ -89,7 +91,7 @@ void SkyGeneration::showNewestSet() {
 }
 
 bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal) {
-    bool done = false;
+    bool isStored = false;
     reportFailures(session_.user, {}, [&] {
         const CloudCover* cover = cloudCover(cloudIndex);
         if (!cover) throw Error(ErrorCode::subscript);
@@ -100,16 +102,18 @@ bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int
         set.CloudCover = cover->word;
         set.Activated = flagText(true); // activated from its birth, so it has files
         set.IsNew = true;
-        if (!loadedSkySets(session_).UpdateSkyTextureSet(set)) return;
+        isStored = loadedSkySets(session_).UpdateSkyTextureSet(set);
+        if (!isStored) return;
         session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
-        if (!storeSubSet(set, skyStringsFor(session_, skyDay, cloudIndex, baseSet))) return;
+        isStored = storeSubSet(set, skyStringsFor(session_, skyDay, cloudIndex, baseSet));
+        if (!isStored) return;
         // "Day" alone: the files of sunrise and sunset come with an activation by hand.
-        done = colourSkySetFiles(set.SkyTextureSet, baseSet, skyDay,
-                                 u"Processing Texture Set: Please wait until the process has finished.  This "
-                                 "may take several minutes.........."_s,
-                                 setNumber, setTotal);
+        colourSkySetFiles(set.SkyTextureSet, baseSet, skyDay,
+                          u"Processing Texture Set: Please wait until the process has finished.  This "
+                          "may take several minutes.........."_s,
+                          setNumber, setTotal);
     });
-    return done;
+    return isStored;
 }
 
 bool SkyGeneration::storeSubSet(const clsSkyTextureSet& set, const SkyStrings& strings) {

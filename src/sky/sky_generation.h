@@ -17,7 +17,7 @@ public:
     /// before the next. A cancel ends the run; sets made so far stay, the one in hand with the files it has.
     void createSkySets(bool fromHomeScreen);
     /// Draws, stores and colours one set of that base set for the cloud cover of that number, 1 to 5. False
-    /// when it was cancelled or a failure was told.
+    /// when the store refused it, which was told: it would refuse another one, too.
     bool createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal);
     /// Writes the files of the set for a time of day: for "Day" the base set's in the colours of
     /// `skyTextureGroups`, for "Sunrise" and "Sunset" plain copies of their own folder's. The set's folder

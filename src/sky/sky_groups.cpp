@@ -91,7 +91,7 @@ std::optional<SkyGroup> parseSkyColourString(const QString& text) {
     SkyGroup record;
     auto number = numbers.begin();
     for (const SkyField& field : skyFields())
-        record.*field.value = static_cast<float>(textToNumber(*number++));
+        record.*field.value = static_cast<float>(textToNumber(QString(*number++).replace(u',', u'.')));
     return record;
 }
 

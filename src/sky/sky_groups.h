@@ -51,8 +51,8 @@ QString skyRegionSuffix(const SkyGroupConstants& group);
 /// "0:12:0:0:0:-5:1:32:255": the six colours of the record and the region of the group, without a colon at
 /// the end.
 QString skyColourString(const SkyGroup& colours, const SkyGroupConstants& group);
-/// The nine fields of a colour text; nothing when it is blank. Raises "Subscript out of range" with fewer
-/// fields and "Type mismatch" when one is no number.
+/// The nine fields of a colour text; nothing when it is blank. A number is read with "," as with ".". Raises
+/// "Subscript out of range" with fewer fields and "Type mismatch" when one is no number.
 std::optional<SkyGroup> parseSkyColourString(const QString& text);
 
 } // namespace morvane

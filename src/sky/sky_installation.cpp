@@ -22,23 +22,24 @@ const InstallationKind skyKind{
 
 SkyInstallation::SkyInstallation(Session& session) : SetInstallation(session, skyKind) {}
 
-void SkyInstallation::installMatch(const Job& job) {
+bool SkyInstallation::installMatch(const Job& job) {
     const QStringList names =
         namesForCover(activatedSets(loadedGroundSets(session_)), session_.sky.SelectedSkyCover);
     // The last of the grounds is never drawn, though the last of the skies is for a ground. Wanted.
     session_.ground.SelectedGroundSet = drawName(session_, names, names.size() - 1);
-    GroundInstallation(session_).installInside(job);
+    return GroundInstallation(session_).installInside(job);
 }
 
-void SkyInstallation::installSelectedSet() {
-    if (!refreshSkySets(session_)) return;
+bool SkyInstallation::installSelectedSet() {
+    if (!refreshSkySets(session_)) return false;
     const auto record = findSkySet(session_, session_.sky.SelectedSkySet);
     const QString name = record ? record->SkyTextureSet : session_.sky.SelectedSkySet;
     std::vector<FileCopy> copies;
     addFolderFiles(session_, skySetFolder(session_, name), u"*.bmp"_s, session_.FSPath / u"Texture", copies);
     // The store says "installed" before the first file is copied, also when the copying then fails.
-    if (!loadedSkySets(session_).markInstalled(name)) return;
+    if (!loadedSkySets(session_).markInstalled(name)) return false;
     putSet(record ? record->CloudCover : QString(), copies);
+    return true;
 }
 
 } // namespace morvane

@@ -15,8 +15,8 @@ public:
 
 private:
     qsizetype selectedRowCount() const override { return session_.sky.selectedRows.size(); }
-    void installMatch(const Job& job) override;
-    void installSelectedSet() override;
+    bool installMatch(const Job& job) override;
+    bool installSelectedSet() override;
 };
 
 } // namespace morvane

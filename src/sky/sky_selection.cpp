@@ -11,7 +11,7 @@ namespace morvane {
 
 namespace {
 
-void select(SkySelection& selection, const clsSkyTextureSet& set) {
+void takeInHand(SkySelection& selection, const clsSkyTextureSet& set) {
     selection.SelectedSkyKey = skyListKey(set);
     selection.SelectedSkySet = set.SkyTextureSet;
     selection.SelectedSkyActivated = set.Activated == flagText(true);
@@ -29,12 +29,14 @@ QString skyListKey(const clsSkyTextureSet& set) {
 bool loadSkyTextureGroups(Session& session, std::int16_t setKey, const QString& timeOfDay) {
     session.skyTextureGroups = {};
     if (!clsSkyTextureSubSets::reload(session, setKey)) return false;
+    SkyGroupTable groups;
     for (const auto& subSet : *session.gSkyTextureSubSets) {
         if (subSet->StsID != setKey || subSet->timeOfDay != timeOfDay) continue;
         for (const SkyGroupConstants& group : skyGroups())
             if (const auto record = parseSkyColourString((*subSet).*group.property))
-                skyRecord(session.skyTextureGroups, group.number) = *record;
+                skyRecord(groups, group.number) = *record;
     }
+    session.skyTextureGroups = groups;
     return true;
 }
 
@@ -43,7 +45,7 @@ bool loadSkySubSet(Session& session, const QString& listKey, const QString& time
     reportFailures(session.user, {}, [&] {
         session.skyTextureGroups = {};
         const auto set = findListKey(loadedSkySets(session), listKey);
-        select(session.sky, *set);
+        takeInHand(session.sky, *set);
         loaded = loadSkyTextureGroups(session, set->StsID, timeOfDay);
     });
     return loaded;
@@ -51,7 +53,8 @@ bool loadSkySubSet(Session& session, const QString& listKey, const QString& time
 
 bool clickSkyRow(Session& session, const QString& name) {
     const auto set = findSkySet(session, name);
-    return set && loadSkySubSet(session, skyListKey(*set), skyDay);
+    if (set) takeInHand(session.sky, *set);
+    return set != nullptr;
 }
 
 } // namespace morvane

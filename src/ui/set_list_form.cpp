@@ -143,7 +143,7 @@ void SetListForm::fillRows() {
     }
     if (list_->rowCount() > 0) return;
     rowInHand_ = 0;
-    setActivateState(ButtonState::disabled);
+    disableSetKeys();
     description_->clear();
     showNoSet();
 }
@@ -152,24 +152,33 @@ void SetListForm::selectSetRow(int row) {
     const QString key = list_->keyOf(row);
     if (key.isEmpty()) return;
     list_->selectRow(row);
-    takeSet(key);
-    takeInHand(row, setup_.ofActivatedByPage);
-    remove_->setState(ButtonState::enabled);
+    const bool hasColours = takeSet(key);
+    takeInHand(row, hasColours, setup_.ofActivatedByPage);
 }
 
 void SetListForm::clickRow(const QString& listKey) {
     const int row = list_->currentIndex().row() + 1;
-    if (!clickSet(row)) return;
-    takeSet(listKey);
-    takeInHand(row, ButtonState::deactivate);
+    // The keys must not stay alive for the set of the row before.
+    if (!clickSet(row)) return disableSetKeys();
+    const bool hasColours = takeSet(listKey);
+    takeInHand(row, hasColours, ButtonState::deactivate);
 }
 
-void SetListForm::takeInHand(int row, ButtonState ofActivated) {
+/// A set whose colours are damaged can only be taken away.
+void SetListForm::takeInHand(int row, bool hasColours, ButtonState ofActivated) {
+    const ButtonState ofWhole = hasColours ? ButtonState::enabled : ButtonState::disabled;
     rowInHand_ = static_cast<int>(filledKeys_.indexOf(list_->keyOf(row))) + 1;
     noteRows(row);
     const bool isActivated = list_->textOf(row, activatedColumn) == flagText(true);
-    install_->setState(isActivated ? ButtonState::enabled : ButtonState::disabled);
-    setActivateState(isActivated ? ofActivated : ButtonState::enabled);
+    install_->setState(isActivated ? ofWhole : ButtonState::disabled);
+    setActivateState(isActivated ? ofActivated : ofWhole);
+    remove_->setState(ButtonState::enabled);
+}
+
+void SetListForm::disableSetKeys() {
+    setActivateState(ButtonState::disabled);
+    for (SkinnedButton* key : {install_, remove_})
+        key->setState(ButtonState::disabled);
 }
 
 void SetListForm::setActivateState(ButtonState state) {

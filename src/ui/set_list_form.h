@@ -58,9 +58,10 @@ protected:
     /// The rows of all sets, from a collection that is read anew when the session's refresh flag is set.
     virtual std::vector<SetRow> setRows() = 0;
     /// Before a clicked row is taken in hand; false when its set is not there any more.
-    virtual bool clickSet(int) { return true; }
+    virtual bool clickSet(int row) = 0;
     /// Takes the set behind the key into the session's selection, and shows its description and its sample.
-    virtual void takeSet(const QString& listKey) = 0;
+    /// False when its colours are damaged, which was told.
+    virtual bool takeSet(const QString& listKey) = 0;
     /// Notes in the session which rows actions take, once that row is in hand.
     virtual void noteRows(int row) = 0;
     /// The pictures of an empty list.
@@ -82,7 +83,8 @@ private:
     void clickRow(const QString& listKey);
     /// Remembers the row and sets the keys for it; `ofActivated` is how "activate" stands for an activated
     /// set.
-    void takeInHand(int row, ButtonState ofActivated);
+    void takeInHand(int row, bool hasColours, ButtonState ofActivated);
+    void disableSetKeys();
     void setActivateState(ButtonState state);
 
     const SetListSetup setup_;

@@ -83,6 +83,25 @@ TEST_F(BadInstall, aLockedStoreIsToldAndNothingChanges) {
     EXPECT_EQ(contentsBelow(install.simulator()), simulator);
 }
 
+TEST_F(BadInstall, aSetOfSpoiltColoursIsTakenAwayAndNotMade) {
+    install.addSet(u"2-Storm"_s, u"Overcast"_s);
+    install.addSky(u"1-Fog"_s, u"Overcast"_s);
+    Store store;
+    store.open(install.home() / u"Morvane.mdb");
+    store.execute(u"UPDATE TEXTURE_SETS SET COLOR_SETTINGS = 'x' WHERE TEXTURE_SET = '2-Storm'"_s);
+    store.execute(u"UPDATE SKY_TEXTURE_SUB_SETS SET MAIN_SKY = 'x'"_s);
+    store.close();
+    EXPECT_EQ(install.run(u"sky show 1-Fog"_s).status, 0);
+    for (const QString& set : {u"ground %1 2-Storm"_s, u"sky %1 1-Fog"_s}) {
+        EXPECT_EQ(install.run(set.arg(u"deactivate"_s)).status, 0);
+        expectTold(set.arg(u"activate"_s), u"Error: Morvane Error"_s);
+        EXPECT_EQ(install.sets() + install.skies(),
+                  set.startsWith(u"sky") ? u"Default+1-Fog"_s : u"Default+ 2-Storm1-Fog+"_s);
+        EXPECT_EQ(install.run(set.arg(u"delete"_s)).status, 0);
+    }
+    EXPECT_EQ(install.sets() + install.skies(), u"Default+"_s);
+}
+
 TEST_F(BadInstall, aSpoiltBaseImageIsToldAndTheOthersAreMade) {
     writeFile(install.home() / u"Resources\\GENERIC WORLD\\029b2su6.bmp", "BM, and no more");
     expectTold(createASet, u"Error: Morvane Error"_s);

@@ -112,20 +112,47 @@ TEST_F(RecordsTest, keysEndAtSixteenBits) {
     EXPECT_FALSE(session.gTextureSets->UpdateTextureSet(storm));
     EXPECT_EQ(storm.TextureSet, "Storm");
     EXPECT_EQ(groundSets(), QStringList());
-    execute(u"INSERT INTO TEXTURE_SETS(ID) VALUES (7), (40000)"_s);
+    EXPECT_EQ(user.told(), QStringList{u"Error|Morvane Error|Overflow"_s});
+}
+
+TEST_F(RecordsTest, aDamagedRowIsToldAndHidesNoOther) {
+    execute(u"INSERT INTO TEXTURE_SETS(ID, INSTALLED) VALUES (7, 0), (8, 'much'), (9, 'more'), (10, 0), "
+            "(40000, 0)"_s);
     EXPECT_FALSE(clsTextureSets::reload(session));
-    EXPECT_EQ(session.gTextureSets->Count(), 1); // what was read before the bad row stays
-    const QString told = u"Error|Morvane Error|Overflow"_s;
-    EXPECT_EQ(user.told(), (QStringList{told, told}));
+    EXPECT_EQ(session.gTextureSets->Count(), 2);
+    EXPECT_EQ(user.told(), QStringList{u"Error|Morvane Error|Type mismatch"_s});
+    execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('1-Backup', 'yesterday'), "
+            "(NULL, NULL), ('3-Backup', '2007/05/30 21:14:09')"_s);
+    EXPECT_TRUE(clsBackups::reload(session)); // a backup without a date can be put back, too
+    ASSERT_EQ(session.gBackups->Count(), 3);
+    EXPECT_FALSE(session.gBackups->GetItem(1)->BackupDateTime.isValid());
+    EXPECT_EQ(session.gBackups->GetItem(3)->BackupDateTime, clock.now);
+}
+
+/// The narrowest column, the nights', takes the name in its final form alone.
+TEST_F(RecordsTest, aLongNameIsCutBeforeItsFirstWrite) {
+    const QString title = QString(u"ñ"_s).repeated(400), name = u"1-"_s + title.left(48);
+    clsNightTextureSets::reload(session);
+    clsSkyTextureSets::reload(session);
+    clsNightTextureSet night{false, true, 0, {}, title, {}, {}};
+    clsSkyTextureSet sky{{}, {}, {}, {}, true, false, 0, title};
+    storm.TextureSet = title;
+    EXPECT_TRUE(session.gTextureSets->UpdateTextureSet(storm));
+    EXPECT_TRUE(session.gNightTextureSets->UpdateNightTextureSet(night));
+    EXPECT_TRUE(session.gSkyTextureSets->UpdateSkyTextureSet(sky));
+    EXPECT_EQ(groundSets(), QStringList{name});
+    EXPECT_EQ(column(u"TEXTURE_SET"_s, u"NIGHT_TEXTURE_SETS"_s), QStringList{name});
+    EXPECT_EQ(column(u"SKY_TEXTURE_SET"_s, u"SKY_TEXTURE_SETS"_s), QStringList{name});
+    EXPECT_EQ(user.told(), QStringList());
 }
 
 TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
-    execute(u"INSERT INTO MV_BACKUP(BACKUP_DATE_TIME) VALUES ('yesterday')"_s);
+    execute(u"INSERT INTO MV_BACKUP(ID) VALUES (40000)"_s);
     EXPECT_FALSE(clsBackups::reload(session));
     session.adoConn->close();
     EXPECT_FALSE(clsResourceFolders::reload(session));
     const QString closed = u"The database cannot be used: it is not open"_s;
-    EXPECT_EQ(user.calls, (QStringList{u"box Type mismatch"_s, u"box "_s + closed})); // the oldest ones
+    EXPECT_EQ(user.calls, (QStringList{u"box Overflow"_s, u"box "_s + closed})); // the oldest ones
     EXPECT_FALSE(clsTextureSets::reload(session));
     EXPECT_FALSE(clsWxFinders::reload(session));
     session.adoConn.reset(); // as when no store was found at all
@@ -185,15 +212,15 @@ TEST_F(RecordsTest, aLoadFillsTheSessionsCollection) {
 }
 
 TEST_F(RecordsTest, oneSetIsInstalled) {
-    addGroundSets({u"Default"_s, u"Storm"_s, u"Calm"_s});
+    addGroundSets({u"Default"_s, u"Storm"_s, u"Calm"_s, u"Storm"_s}); // two of one name, by hand
     const auto installed = [&] { return column(u"INSTALLED"_s, u"TEXTURE_SETS"_s).join(u' '); };
     execute(u"UPDATE TEXTURE_SETS SET INSTALLED = True WHERE ID < 3"_s); // more than ever should be
     EXPECT_TRUE(session.gTextureSets->markInstalled(u"Storm"_s));
-    EXPECT_EQ(installed(), "0 1 0");
+    EXPECT_EQ(installed(), "0 1 0 0");
     execute(u"CREATE TRIGGER T BEFORE UPDATE ON TEXTURE_SETS WHEN OLD.TEXTURE_SET = 'Storm' "
             "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
     EXPECT_FALSE(session.gTextureSets->markInstalled(u"Default"_s));
-    EXPECT_EQ(installed(), "0 1 0"); // not two, not none
+    EXPECT_EQ(installed(), "0 1 0 0"); // not two, not none
 }
 
 TEST_F(RecordsTest, configurationsAreFoundByTheirTitle) {

@@ -44,6 +44,9 @@ TEST_F(GroundInstall, copiesTheSetAndRecordsIt) {
     EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
     EXPECT_TRUE(install.user.told().isEmpty());
     EXPECT_TRUE(install.user.calls.contains("file Installing Overcast (OVC) ground textures"));
+    // Five files, and two steps more than there are: the bar jumps at its end. Wanted.
+    EXPECT_EQ(install.user.calls.filter("progress ").first(2),
+              QStringList({"progress 14.2857", "progress 28.5714"}));
     // "029H2SU6.BMP" was replaced, not doubled, and keeps its spelling.
     EXPECT_EQ(install.files.list(install.simulator() / u"Scenery\\World\\texture", "*.bmp"),
               QStringList({"002C2WI1.BMP", "005A2SU2.BMP", "029B2SU6.BMP", "029H2SU6.BMP", "new.bmp"}));

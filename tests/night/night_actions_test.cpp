@@ -155,17 +155,5 @@ TEST_F(NightActions, defaultIsProtected) {
     EXPECT_EQ(nightSets(session), u"Default+"_s);
 }
 
-TEST_F(NightActions, namesOfTheStoreReachNoOtherFolder) {
-    test::writeFile(install.home() / u"Resources\\Texture\\a.bmp", "not a set's");
-    for (const QString& name : {u"..\\Resources"_s, u"../Resources"_s, u".."_s}) {
-        addNightSet(install, name, true);
-        click(name);
-        deleteInHand(false);
-        EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1) << name.toStdString();
-        install.user.messages.clear();
-    }
-    EXPECT_EQ(test::readFile(install.home() / u"Resources\\Texture\\a.bmp"), "not a set's");
-}
-
 } // namespace
 } // namespace morvane

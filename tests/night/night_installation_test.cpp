@@ -95,6 +95,9 @@ TEST_F(NightInstall, showsOneMessageAsksNothingAndStartsNothing) {
               u"Morvane Information|Processing your Night Texture Files.  Please wait until the process has "
               "finished.  This may take a few moments!"_s);
     EXPECT_TRUE(install.user.calls.filter(u"file "_s).isEmpty()) << "the file line stays empty";
+    EXPECT_EQ(install.user.calls.filter(u"progress "_s),
+              QStringList({u"progress 25"_s, u"progress 50"_s, u"progress 100"_s}))
+        << "two files";
     EXPECT_TRUE(install.user.calls.contains(u"refresh frm_NightTextures"_s));
     EXPECT_TRUE(session.RefreshNightList);
     EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash");

@@ -1,4 +1,5 @@
 #include "core/registry.h"
+#include "core/store.h"
 #include "ground/ground_installation.h"
 #include "simulator/backup_files.h"
 #include "simulator/backups.h"
@@ -101,6 +102,16 @@ TEST_F(BackupTest, whatIsCutShortIsMarkedAndNothingIsOverwritten) {
     ASSERT_EQ(session.modal.backups.size(), 2U);
     EXPECT_FALSE(session.modal.backups[0].isComplete);
     EXPECT_FALSE(install.user.calls.contains(restoring)) << "the list was left with Cancel";
+}
+
+TEST_F(BackupTest, aDamagedRowHidesNoOther) {
+    session.adoConn->execute(
+        u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('..', 'yesterday'), (NULL, NULL)"_s);
+    createBackup(session, true);
+    restore(u"3-Backup"_s);
+    EXPECT_EQ(session.modal.backups.size(), 3U);
+    EXPECT_TRUE(session.modal.backups.at(2).isComplete);
+    EXPECT_TRUE(install.user.calls.filter(u"box "_s).isEmpty());
 }
 
 TEST_F(BackupTest, aNoAndAnEmptyListDoNothing) {

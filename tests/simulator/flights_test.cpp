@@ -123,6 +123,7 @@ TEST_F(FlightsTest, aFailureIsToldAndTheListNamesWhatIsThere) {
         install.files.failAt(n, false);
         loadFlightFiles(session);
         EXPECT_TRUE(install.files.failedAtTest() || install.user.told().size() == 1) << n;
+        EXPECT_EQ(install.user.countOfKind(MessageKind::error), 0) << "its kind is misspelt";
         install.files.failAt(0, false);
         for (const QString& name : savedFlights(session))
             EXPECT_TRUE(install.files.exists(savedFlightFile(session, name))) << n;

@@ -186,10 +186,17 @@ TEST_F(UpgradeTest, withDefaultAloneTheMessageIsShownAndNoSetIsMade) {
     EXPECT_TRUE(install.user.calls.filter(u"file Processing"_s).isEmpty());
 }
 
+TEST_F(UpgradeTest, aStoreThatRefusesASetsRowIsToldOnceForAllSets) {
+    prepare({u"CREATE TRIGGER T BEFORE UPDATE ON TEXTURE_SETS WHEN OLD.TEXTURE_SET <> 'Default' "
+             "BEGIN SELECT RAISE(ABORT, 'no'); END"_s});
+    ASSERT_TRUE(start());
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+}
+
 TEST_F(UpgradeTest, aMissingSplashIsToldUnderItsNameAndStopsNothing) {
     install.files.remove(install.simulator() / u"Uires\\dlgsplash.bmp");
     ASSERT_TRUE(start());
-    EXPECT_TRUE(install.user.told()[1].startsWith(u"Error|Morvane Error|Sub backUserFSSplash "_s))
+    EXPECT_TRUE(install.user.told()[1].startsWith(u"Exclamtion|Morvane Error|Sub backUserFSSplash "_s))
         << install.user.told()[1].toStdString();
 }
 

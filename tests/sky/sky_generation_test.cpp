@@ -182,12 +182,16 @@ TEST_F(SkyGenerationTest, failuresAreToldOncePerSetAndTheRowsStand) {
     EXPECT_EQ(filesOf(u"2"_s + first.mid(1)), install.skyFiles);
 }
 
-TEST_F(SkyGenerationTest, aRefusedRowMakesNoFolder) {
-    session.adoConn->execute(u"CREATE TRIGGER T BEFORE INSERT ON SKY_TEXTURE_SETS "
-                             "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
-    create({u"Sunny"_s}, {1, 0, 0, 0, 0});
-    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-    EXPECT_TRUE(setFolders().isEmpty());
+TEST_F(SkyGenerationTest, aRefusedRowEndsTheRunWithOneMessageAndMakesNoFile) {
+    for (const QString& table : {u"SKY_TEXTURE_SETS"_s, u"SKY_TEXTURE_SUB_SETS"_s}) {
+        install.user.messages.clear();
+        session.adoConn->execute(
+            u"CREATE TRIGGER T BEFORE INSERT ON %1 BEGIN SELECT RAISE(ABORT, 'refused'); END"_s.arg(table));
+        create({u"Sunny"_s, u"Default"_s, u"Overcast"_s}, {2, 1, 0, 0, 1});
+        EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1) << table.toStdString();
+        EXPECT_TRUE(test::contentsBelow(sets()).isEmpty());
+        session.adoConn->execute(u"DROP TRIGGER T"_s);
+    }
     EXPECT_FALSE(SkyGeneration(session).createAutoSkySet(u"Sunny"_s, 6, 1, 1));
 }
 

@@ -42,12 +42,12 @@ TEST(SkyGroups, coloursComeFirstAndTheRegionOfTheTableLast) {
 }
 
 TEST(SkyGroups, aTextIsReadBackFieldByField) {
-    const auto record = parseSkyColourString(u"1:-2:3.5:4:5:6:7:8:9"_s);
+    const auto record = parseSkyColourString(u"1:-2:3.5:4,25:5:6:7:8:9"_s);
     ASSERT_TRUE(record);
     EXPECT_EQ(record->saturation, 1);
     EXPECT_EQ(record->red, -2);
     EXPECT_EQ(record->green, 3.5f);
-    EXPECT_EQ(record->blue, 4);
+    EXPECT_EQ(record->blue, 4.25f) << "as another language writes it";
     EXPECT_EQ(record->brightness, 5);
     EXPECT_EQ(record->contrast, 6);
     EXPECT_EQ(record->PixelXLow, 7);

@@ -1,3 +1,4 @@
+#include "core/store.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
@@ -121,6 +122,22 @@ TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
     EXPECT_FALSE(session.RefreshSkyList);
     EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1) << "no start of the simulator is offered";
     EXPECT_FALSE(install.user.calls.contains("refresh frm_Main"));
+}
+
+TEST_F(SkyInstall, aStoreThatRefusesEndsAnInstallByHand) {
+    install.addGroundSet("2-A", "Overcast", true, {"Texture\\029h2su6.bmp"});
+    for (const char* refusing : {"TEXTURE_SETS", "SKY_TEXTURE_SETS"})
+        for (const bool isSky : {false, true}) {
+            session.adoConn->execute(
+                u"CREATE TRIGGER T BEFORE UPDATE ON %1 BEGIN SELECT RAISE(ABORT, 'no'); END"_s.arg(refusing));
+            install.user.messages.clear();
+            install.user.answersToGive = {true};
+            clickGroundRow(session, "2-A");
+            isSky ? installSky("1-Storm", false) : GroundInstallation(session).installTextureSet(false);
+            EXPECT_EQ(install.user.told().size(), 2) << refusing << isSky << ": question and failure alone";
+            EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1) << refusing << isSky;
+            session.adoConn->execute(u"DROP TRIGGER T"_s);
+        }
 }
 
 TEST_F(SkyInstall, theMatchingGroundIsDrawnButNeverTheLast) {

@@ -150,6 +150,9 @@ TEST_F(SliderTest, tipShowsTheValueAboveTheThumbWhileItIsDragged) {
     drag({67.8, 10});
     ASSERT_TRUE(tip() && tip()->isVisible());
     EXPECT_EQ(tip()->findChild<QLabel*>(u"lblTip"_s)->text(), u"40"_s);
+    EXPECT_FALSE(tip()->testAttribute(Qt::WA_TranslucentBackground)) << "black where nobody mixes windows";
+    EXPECT_FALSE(tip()->mask().contains(tip()->rect().bottomRight()));
+    EXPECT_TRUE(tip()->mask().contains(tip()->rect().center()));
     const QRect thumb(slider.mapToGlobal(slider.thumbPlace().topLeft()).toPoint(), QSize(11, 18));
     EXPECT_EQ(tip()->y() + tip()->height() + 5, thumb.top());
     EXPECT_EQ(tip()->x(), thumb.x() + (11 - tip()->width() - 4) / 2);

@@ -1,3 +1,4 @@
+#include "core/store.h"
 #include "ground/ground_sets.h"
 #include "ground/screens/ground_sets_screen.h"
 #include "support/printing.h"
@@ -146,6 +147,29 @@ TEST_F(GroundSetsScreenTest, aMissingSampleIsToldAndLeavesTheListUsable) {
     program.confirmNext(u"frm_Msg"_s);
     clickRow(2);
     EXPECT_EQ(keyStates()[2], ButtonState::deactivate);
+}
+
+/// Each click shows one message, and the keys are never those of the row before.
+TEST_F(GroundSetsScreenTest, aSetOfDamagedColoursCanOnlyBeTakenAway) {
+    program.install.addGroundSet(u"4-Odd"_s, u"Mostly Clear"_s, true, {u"Texture\\029h2su6.bmp"_s});
+    program.install.addGroundSet(u"5-Odd"_s, u"Overcast"_s, false);
+    program.install.session.adoConn->execute(
+        u"UPDATE TEXTURE_SETS SET COLOR_SETTINGS = '0:x' WHERE TEXTURE_SET LIKE '%Odd'"_s);
+    open();
+    EXPECT_EQ(selection.SelectedGroundCover, u"Partly Cloudy"_s) << "the page's choice has a cover, too";
+    for (const auto& [row, activate] : {std::pair(4, ButtonState::deactivate), std::pair(5, dead)}) {
+        clickRow(2);
+        program.confirmNext(u"frm_Msg"_s);
+        clickRow(row);
+        EXPECT_EQ(selection.SelectedGroundSet, list->textOf(row, 0));
+        EXPECT_EQ(keyStates(), (std::vector{alive, alive, activate, dead})) << row;
+        EXPECT_EQ(picture(u"picTextureSetSource"_s), picture(u"picTextureSetResult"_s));
+    }
+    clickRow(2);
+    program.confirmNext(u"frm_Msg"_s);
+    program.press(u"frm_MVTextures"_s, u"btn_TextureDelete"_s);
+    EXPECT_EQ(list->selectedNames(), QStringList{u"3-Haze"_s});
+    EXPECT_EQ(selection.SelectedGroundCover, u"Sky Clear"_s) << "after a removal as well";
 }
 
 /// The key looks dead and is not.

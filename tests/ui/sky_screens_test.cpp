@@ -1,3 +1,4 @@
+#include "core/store.h"
 #include "sky/screens/palette_picture.h"
 #include "sky/screens/sky_sets_screen.h"
 #include "sky/sky_groups.h"
@@ -61,6 +62,24 @@ struct SkySetsScreenTest : testing::Test {
 
     static constexpr auto alive = ButtonState::enabled, dead = ButtonState::disabled;
 };
+
+TEST_F(SkySetsScreenTest, aSetOfDamagedColoursCanOnlyBeTakenAway) {
+    Store& store = *program.install.session.adoConn;
+    store.execute(
+        u"UPDATE SKY_TEXTURE_SUB_SETS SET MAIN_SKY = '1:2' WHERE SKY_TEXTURE_SUB_SET LIKE '%3-Calm'"_s);
+    store.execute(u"UPDATE SKY_TEXTURE_SETS SET TEXTURE_SET_GROUP = '..' WHERE SKY_TEXTURE_SET = '2-Haze'"_s);
+    open();
+    program.confirmNext(u"frm_Msg"_s);
+    clickRow(3);
+    EXPECT_EQ(selection.SelectedSkySet, u"3-Calm"_s);
+    EXPECT_EQ(install(), ButtonState::disabled);
+    EXPECT_EQ(activate(), ButtonState::deactivate);
+    EXPECT_EQ(picture(u"picSkyTextureSetSource"_s), picture(u"picSkyTextureSetResult"_s));
+    program.confirmNext(u"frm_Msg"_s);
+    clickRow(2); // its base set is no folder's name
+    EXPECT_EQ(selection.SelectedSkySet, u"2-Haze"_s);
+    EXPECT_EQ(activate(), ButtonState::enabled);
+}
 
 TEST_F(SkySetsScreenTest, listsEverySkyAndShowsTheFirstOnItsOwnBase) {
     open();

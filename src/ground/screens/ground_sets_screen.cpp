@@ -1,6 +1,5 @@
 #include "ground/screens/ground_sets_screen.h"
 
-#include "core/options.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/sample_textures.h"
@@ -53,16 +52,16 @@ bool frm_MVTextures::clickSet(int row) {
     return clickGroundRow(session(), list().textOf(row, 0));
 }
 
-void frm_MVTextures::loadGroundSelection(const QString& listKey) {
-    if (!morvane::loadGroundSelection(session(), listKey)) return;
+bool frm_MVTextures::loadGroundSelection(const QString& listKey) {
+    const bool hasColours = morvane::loadGroundSelection(session(), listKey);
     showDescription(session().ground.SelectedGroundDescription);
     openDefaultSample();
     list().selectName(session().ground.SelectedGroundSet);
+    return hasColours;
 }
 
 /// Several sets are those whose rows are selected.
-void frm_MVTextures::noteRows(int row) {
-    session().ground.SelectedGroundActivated = list().textOf(row, 1) == flagText(true);
+void frm_MVTextures::noteRows(int) {
     session().ground.selectedRows = list().selectedNames();
 }
 

@@ -16,7 +16,8 @@ public:
     void formatGroundSets(int& selectedRow) { formatSets(selectedRow); }
     void selectGroundRow(int row) { selectSetRow(row); }
     /// Takes the set behind the row's key in hand, and shows its description, its sample and its row.
-    void loadGroundSelection(const QString& listKey);
+    /// False when its colours are damaged, which was told.
+    bool loadGroundSelection(const QString& listKey);
 
     /// Loads a picture, shows it and its colouring by the session's colours.
     void openTexImage(const FilePath& path);
@@ -26,8 +27,8 @@ public:
 private:
     std::vector<SetRow> setRows() override;
     bool clickSet(int row) override;
-    void takeSet(const QString& listKey) override { loadGroundSelection(listKey); }
-    void noteRows(int row) override;
+    bool takeSet(const QString& listKey) override { return loadGroundSelection(listKey); }
+    void noteRows(int) override;
     void showNoSet() override { openDefaultSample(); }
     void openDefaultSample();
 

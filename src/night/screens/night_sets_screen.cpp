@@ -52,11 +52,12 @@ bool frm_NightTextures::clickSet(int row) {
     return clickNightRow(session(), list().textOf(row, 0));
 }
 
-void frm_NightTextures::takeSet(const QString& listKey) {
-    if (!loadNightSelection(session(), listKey)) return;
+bool frm_NightTextures::takeSet(const QString& listKey) {
+    const bool hasColours = loadNightSelection(session(), listKey);
     showDescription(session().night.SelectedNightDescription);
     openFirstSample();
     list().selectName(session().night.SelectedNightSet);
+    return hasColours;
 }
 
 /// Several sets are those whose rows are selected.

@@ -26,7 +26,7 @@ public:
 private:
     std::vector<SetRow> setRows() override;
     bool clickSet(int row) override;
-    void takeSet(const QString& listKey) override;
+    bool takeSet(const QString& listKey) override;
     void noteRows(int row) override;
     void showNoSet() override { openFirstSample(); }
     void openFirstSample();

@@ -10,7 +10,7 @@ frm_flight::frm_flight(Shell& shell)
     : DialogForm(shell, u"frm_flight"_s, messageLook, u"Saved Flights"_s), lstFlights_(new SetTable(this)) {
     lstFlights_->setObjectName(u"lstFlights"_s);
     lstFlights_->setAccessibleName(u"Saved flights"_s);
-    lstFlights_->setGeometry(26, 84, 348, 146);
+    lstFlights_->setGeometry(26, 84, 348, 134);
     lstFlights_->setColumns({{u"Flight"_s, 330}});
     lstFlights_->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(lstFlights_, &SetTable::rowClicked, this,

@@ -11,7 +11,7 @@ namespace morvane {
 
 namespace {
 
-constexpr int left = 26, countsLeft = 176, headTop = 54, firstRow = 72;
+constexpr int left = 26, countsLeft = 176, headTop = 51, firstRow = 66;
 
 const CountColumn countColumn{
     {countsLeft, firstRow, 130, 22}, {314, firstRow, 60, 22}, 25, TextRole::value, u"Overcast (OVC)"_s};
@@ -27,7 +27,7 @@ frm_SelectSkyTexture::frm_SelectSkyTexture(Shell& shell)
     makeLabel(this,
               u"Please be aware Overcast are special textures and only used for overcast conditions.and will "
               "therefore have their own count"_s,
-              {left, 198, 348, 32}, TextRole::longHelp)
+              {left, 192, 348, 32}, TextRole::longHelp)
         ->setObjectName(u"lblOvercastDesc"_s);
     addAnswerKeys(u"Click to answer Yes or to continue."_s, u"Click to answer No or to close window."_s);
 }

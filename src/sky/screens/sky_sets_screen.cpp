@@ -82,11 +82,18 @@ std::vector<SetRow> frm_KMTextures::setRows() {
     return rows;
 }
 
-void frm_KMTextures::takeSet(const QString& listKey) {
-    const bool loaded = loadSkySubSet(session(), listKey, skyDay);
+bool frm_KMTextures::clickSet(int row) {
+    return clickSkyRow(session(), list().textOf(row, 0));
+}
+
+bool frm_KMTextures::takeSet(const QString& listKey) {
+    const bool hasColours = loadSkySubSet(session(), listKey, skyDay);
     showDescription(session().sky.SelectedSkyDescription);
-    if (!loaded) return SkyTextureSetProcess();
-    openSkyTextureSetImage(skySampleFile(session(), session().sky.SelectedSkyGroup));
+    // A base set that was edited by hand may be no folder's name.
+    reportFailures(session().user, {}, [this] {
+        openSkyTextureSetImage(skySampleFile(session(), session().sky.SelectedSkyGroup));
+    });
+    return hasColours;
 }
 
 void frm_KMTextures::noteTicks() {

@@ -24,7 +24,8 @@ public:
 private:
     const clsSkyTextureSets& refreshedSets();
     std::vector<SetRow> setRows() override;
-    void takeSet(const QString& listKey) override;
+    bool clickSet(int row) override;
+    bool takeSet(const QString& listKey) override;
     void noteRows(int) override { noteTicks(); }
     void noteTicks();
     void showNoSet() override;

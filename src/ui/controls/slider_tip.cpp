@@ -23,7 +23,6 @@ ucSliderTip::ucSliderTip(QWidget* slider)
     setAccessibleName(u"Value"_s);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::NoFocus);
     lblTip = makeLabel(this, u"0"_s, {}, TextRole::valueTip);
     lblTip->setObjectName(u"lblTip"_s);
@@ -33,6 +32,11 @@ void ucSliderTip::setValue(int value) {
     lblTip->setText(QString::number(value));
     lblTip->setGeometry({{spareSize.width() / 2, spareSize.height() / 2}, lblTip->sizeHint() + labelPadding});
     resize(lblTip->size() + spareSize);
+    // A mask and no translucency: where nobody mixes windows, what shines through is black.
+    QRegion outline;
+    for (const int step : {0, 1, 2})
+        outline += rect().adjusted(step, 2 - step, -step, step - 2);
+    setMask(outline);
 }
 
 void ucSliderTip::showBeside(const QRect& thumb, bool isVertical) {
@@ -47,8 +51,10 @@ void ucSliderTip::showBeside(const QRect& thumb, bool isVertical) {
 
 void ucSliderTip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    const QColor outline = QColor::fromRgb(palette::outline);
+    painter.fillRect(rect(), outline); // what the mask leaves of the corners
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor::fromRgb(palette::outline));
+    painter.setPen(outline);
     painter.setBrush(QColor::fromRgb(palette::deck));
     painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), 4, 4);
 }
