@@ -36,7 +36,7 @@ void stockImport(benchmark::State& state) {
         files = importSimulatorStock(install.session).value_or(StockImportReport{}).files;
         state.counters["import_ms"] = static_cast<double>(clock.nsecsElapsed()) / 1e6;
         clock.start();
-        restoreStock(install.session);
+        restoreStock(install.session, true);
         state.counters["restore_ms"] = static_cast<double>(clock.nsecsElapsed()) / 1e6;
     }
     state.counters["files"] = files;

@@ -46,7 +46,7 @@ bool stockRestore(CommandContext& context) {
     if (!hasKeptStock(context.session))
         fail(context, u"No base images are kept: nothing was imported."_s);
     else
-        restoreStock(context.session);
+        restoreStock(context.session, true);
     return true;
 }
 

@@ -1,12 +1,14 @@
 #include "simulator/stock_import.h"
 
-#include "core/error.h"
+#include "core/attempts.h"
 #include "core/failure_report.h"
+#include "core/numbers.h"
 #include "core/ordered_work.h"
 #include "core/safe_copy.h"
 #include "ground/ground_sets.h"
 #include "imaging/picture_reader.h"
 #include "imaging/pixel_buffer.h"
+#include "imaging/texture_codec.h"
 #include "night/night_sets.h"
 #include "simulator/backup_files.h"
 #include "simulator/backups.h"
@@ -55,8 +57,8 @@ std::optional<StockSource> sourceFromBackup(Session& session) {
                           u"use the textures of your newest backup, "_s +
                               backup->BackupName + u" of "_s + taken + u", instead?"_s))
         return std::nullopt;
-    const FilePath folder = (session.AppPath / u"Backup").child(backup->BackupName);
-    return StockSource{folder / u"Texture", folder / u"UTEurLC"};
+    const auto [world, addOn] = backupPlaces(session, backup->BackupName);
+    return StockSource{world.backup, addOn.backup};
 }
 
 std::optional<StockSource> sourceFromSimulator(Session& session, bool isConfirmed) {
@@ -71,22 +73,40 @@ std::optional<StockSource> sourceFromSimulator(Session& session, bool isConfirme
                        session.FSPath / u"Scenery\\UTEurLC\\Texture"};
 }
 
-/// Makes the file that is to stand in its place, beside it. Nothing for a file that is no picture: one broken
-/// texture must not cost the pilot all others.
-bool makePart(FileSystem& files, const StockFile& file, const FilePath& part) {
-    if (!file.isPicture) {
-        files.copyContents(file.source, part);
-        return true;
-    }
-    cDIBSection image;
+/// False for a file that cannot be read; raises when the part cannot be written.
+bool copyReadable(FileSystem& files, const FilePath& source, const FilePath& part) {
     try {
-        image.CreateFromPicture(loadPicture(files, file.source));
-    } catch (const Error& error) {
-        if (error.code() != ErrorCode::invalidPicture) throw;
+        files.copyContents(source, part);
+        return true;
+    } catch (const Error&) {
+        if (attempt([&] { files.read(source); })) throw;
+        return false;
     }
-    if (!image.isCreated()) return false;
-    if (!image.SavePicture(part)) throw Error(ErrorCode::diskFull, part.text());
+}
+
+/// The same for a picture; one that no texture can be made of is as good as none.
+bool convertReadable(FileSystem& files, const FilePath& source, const FilePath& part) {
+    cDIBSection image;
+    const bool isRead = attempt([&] { image.CreateFromPicture(loadPicture(files, source)); });
+    if (!isRead || !isTextureSide(image.Width()) || !isTextureSide(image.Height())) return false;
+    if (!image.SavePicture(part)) throw Error(ErrorCode::diskFull);
     return true;
+}
+
+FilePath partOf(const FilePath& target) {
+    return FilePath(target.native() + partialCopySuffix);
+}
+
+/// Makes the file that is to stand in its place, beside it. False where that cannot be had from its source:
+/// one broken texture must not cost the pilot all others. A failure names the file, as nobody knows of its
+/// part.
+bool makePart(FileSystem& files, const StockFile& file, const FilePath& target) {
+    try {
+        const auto make = file.isPicture ? convertReadable : copyReadable;
+        return make(files, file.source, partOf(target));
+    } catch (const Error& error) {
+        throw Error(error.code(), target.text());
+    }
 }
 
 class StockImport {
@@ -100,10 +120,13 @@ public:
     }
 
     StockImportReport run() {
-        if (!plan_.files.empty()) {
+        report_.planned = static_cast<int>(plan_.files.size());
+        if (report_.planned > 0) {
+            const bool wasEmpty = kept_.isEmpty();
             announce();
-            report_.isCancelled = !bringAll();
-            clearParts();
+            bringWhatCanBeHad();
+            attempt([&] { clearParts(); });
+            if (report_.files == 0 && wasEmpty) attempt([&] { kept_.restore(); }); // no import stands
         }
         report_.categories = std::move(plan_.categories);
         return std::move(report_);
@@ -129,8 +152,17 @@ private:
             removePartialCopies(session_.files, folder);
     }
 
-    FilePath partOf(const StockFile& file) const {
-        return folders_.value(file.target.folder).exactChild(file.target.name + partialCopySuffix);
+    FilePath targetOf(const StockFile& file) const {
+        return folders_.value(file.target.folder).exactChild(file.target.name);
+    }
+
+    /// What has come stays, whatever ends the run, and can be put back.
+    void bringWhatCanBeHad() {
+        try {
+            report_.isCancelled = !bringAll();
+        } catch (const std::exception& error) {
+            report_.failure = QString::fromUtf8(error.what());
+        }
     }
 
     /// False when it was cancelled.
@@ -138,7 +170,7 @@ private:
         const std::size_t count = plan_.files.size();
         OrderedWork<bool> work(static_cast<int>(count), [&](int i) {
             const StockFile& file = plan_.files[static_cast<std::size_t>(i)];
-            return makePart(session_.files, file, partOf(file));
+            return makePart(session_.files, file, targetOf(file));
         });
         for (std::size_t i = 0; i < count; ++i) {
             session_.user.updateProgress({}, {}, 100 * static_cast<double>(i) / static_cast<double>(count));
@@ -153,7 +185,7 @@ private:
             report_.unreadable << file.source.fileName();
             return;
         }
-        kept_.replace(file.target, partOf(file));
+        kept_.replace(file.target, partOf(targetOf(file)));
         ++report_.files;
         ++plan_.categories[file.category].count;
     }
@@ -166,19 +198,53 @@ private:
     StockImportReport report_;
 };
 
-QString closingText(const StockImportReport& report) {
-    if (report.isCancelled)
-        return u"The import was cancelled after %1 files.  What stood there before is kept and can be put back."_s
-            .arg(report.files);
-    qsizetype missing = 0;
+/// As many names as a message can hold.
+QString namesText(const QStringList& names) {
+    constexpr qsizetype shown = 5;
+    const QString more =
+        names.size() > shown ? u" and %1 more"_s.arg(countText(names.size() - shown)) : QString();
+    return names.first(std::min(shown, names.size())).join(u", "_s) + more;
+}
+
+QString unreadableText(const StockImportReport& report) {
+    return u"Left out, as they could not be read as textures: "_s + namesText(report.unreadable);
+}
+
+QString endedText(const StockImportReport& report) {
+    const QString how = report.isCancelled ? u"was cancelled"_s : u"ended"_s;
+    QString text = u"The import %1 after %2 of %3.  "_s.arg(how, countText(report.files),
+                                                            countText(report.planned, u"file"_s));
+    if (!report.failure.isEmpty()) text += report.failure + u"  "_s;
+    return text + (report.files == 0 ? u"No base image was replaced."_s
+                                     : u"What stood there before is kept and can be put back."_s);
+}
+
+qsizetype emptyKinds(const StockImportReport& report) {
+    qsizetype count = 0;
     for (const StockCategory& category : report.categories)
-        missing += category.emptyPatterns.size();
-    QString text = u"%1 base images and annotation files were made from your textures.  "
-                   "%2 kinds of land have no texture among them and keep Morvane's own."_s.arg(report.files)
-                       .arg(missing);
-    if (!report.unreadable.isEmpty())
-        text += u"  %1 files could not be read as pictures."_s.arg(report.unreadable.size());
-    return text;
+        count += category.emptyPatterns.size();
+    return count;
+}
+
+DoneLine doneLine(const StockImportReport& report) {
+    const qsizetype leftOut = report.unreadable.size(), kinds = emptyKinds(report);
+    DoneLine line{countText(report.files, u"file"_s) + u" imported"_s};
+    if (leftOut > 0) line.text += u", %1 left out"_s.arg(countText(leftOut));
+    if (kinds > 0) line.remark = u"Morvane's own for "_s + countText(kinds, u"kind"_s) + u" of land"_s;
+    line.hasLeftOut = leftOut > 0;
+    return line;
+}
+
+void tellEnd(Session& session, const StockImportReport& report, const StockSource& source) {
+    if (!report.failure.isEmpty()) return tell(session, MessageKind::error, endedText(report));
+    if (report.isCancelled) return tell(session, MessageKind::information, endedText(report));
+    if (report.files == 0)
+        return tell(session, MessageKind::exclamation,
+                    u"No textures of Flight Simulator were found in "_s + source.world.text() +
+                        (report.unreadable.isEmpty() ? QString() : u".  "_s + unreadableText(report)));
+    session.user.hideMessage();
+    if (!report.unreadable.isEmpty()) tell(session, MessageKind::information, unreadableText(report));
+    session.user.tellDone(doneLine(report));
 }
 
 } // namespace
@@ -189,14 +255,13 @@ StockImportReport importStock(Session& session, const Job& job, const StockSourc
 
 std::optional<StockImportReport> importStock(Session& session, const StockSource& source) {
     std::optional<StockImportReport> report;
-    const Job job(session);
-    if (!job) return report;
-    if (!reportFailures(session.user, {}, [&] { report = importStock(session, job, source); })) return {};
-    if (report->files == 0 && !report->isCancelled)
-        tell(session, MessageKind::exclamation,
-             u"No textures of Flight Simulator were found in "_s + source.world.text());
-    else
-        tell(session, MessageKind::information, closingText(*report));
+    {
+        const Job job(session);
+        if (!job) return report;
+        reportFailures(session.user, {}, [&] { report = importStock(session, job, source); });
+    }
+    session.user.hideMessage();
+    if (report) tellEnd(session, *report, source);
     return report;
 }
 
@@ -206,15 +271,16 @@ std::optional<StockImportReport> importSimulatorStock(Session& session, bool isC
     return source ? importStock(session, *source) : std::nullopt;
 }
 
-std::optional<int> restoreStock(Session& session) {
+std::optional<int> restoreStock(Session& session, bool isConfirmed) {
+    const QString question =
+        u"Would you like Morvane to use the delivered base images again?  Those that were made from your "
+        "own textures go; they can be made again."_s;
     std::optional<int> count;
+    if (!isConfirmed && !session.user.ask(Question::backup, title, question)) return count;
     const Job job(session);
     if (!job) return count;
-    reportFailures(session.user, {}, [&] {
-        count = KeptStock(session.files, session.AppPath).restore();
-        tell(session, MessageKind::information,
-             u"%1 base images and annotation files were put back."_s.arg(*count));
-    });
+    reportFailures(session.user, {}, [&] { count = KeptStock(session.files, session.AppPath).restore(); });
+    if (count) session.user.tellDone({countText(*count, u"delivered file"_s) + u" put back"_s});
     return count;
 }
 
