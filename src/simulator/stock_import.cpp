@@ -214,7 +214,7 @@ QString endedText(const StockImportReport& report) {
     const QString how = report.isCancelled ? u"was cancelled"_s : u"ended"_s;
     QString text = u"The import %1 after %2 of %3.  "_s.arg(how, countText(report.files),
                                                             countText(report.planned, u"file"_s));
-    if (!report.failure.isEmpty()) text += report.failure + u"  "_s;
+    if (!report.failure.isEmpty()) text += report.failure + u".  "_s;
     return text + (report.files == 0 ? u"No base image was replaced."_s
                                      : u"What stood there before is kept and can be put back."_s);
 }

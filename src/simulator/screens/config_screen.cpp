@@ -75,10 +75,10 @@ void frm_Config::addStockButtons() {
     auto* useSimulator =
         add(u"cmdUseSimulator"_s, u"Use my simulator's textures"_s,
             u"Click to make your new texture sets from the textures of your own simulator."_s,
-            {14, 352, 176, 26});
+            {14, 352, 170, 26});
     cmdUseDelivered_ = add(u"cmdUseDelivered"_s, u"Use the delivered base images again"_s,
                            u"Click to make your new texture sets from the textures that came with Morvane."_s,
-                           {198, 352, 196, 26});
+                           {192, 352, 222, 26});
     connect(useSimulator, &QPushButton::clicked, this, [this] {
         importSimulatorStock(session());
         showStock();
