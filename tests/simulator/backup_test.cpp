@@ -253,6 +253,7 @@ TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedFor) {
 /// A folder stands where a file should go: that file alone is missed, and told of.
 TEST_F(FirstRunTest, whatFailsCostsNothingElse) {
     for (const FilePath& place : {keptSplash, flights / u"Älpler.flt"}) {
+        QDir(flights.native()).removeRecursively();
         QFile::remove(place.native());
         writeFile(place / u"in the way", "");
         setFirstTime(u"True"_s);
