@@ -1,6 +1,5 @@
 #include "simulator/backup_files.h"
 
-#include "core/attempts.h"
 #include "core/failure_report.h"
 #include "core/numbers.h"
 #include "core/safe_copy.h"
@@ -45,7 +44,7 @@ bool holdsNoTexture(Session& session, const QString& name) {
 std::optional<clsBackup> unfinishedFirstBackup(Session& session) {
     for (const auto& backup : *session.gBackups) {
         const QString& name = backup->BackupName;
-        if (!attempt([&] { backupFolder(session, name); })) continue; // a damaged row has no folder
+        if (!FilePath::isChildName(name)) continue; // a damaged row has no folder
         const BackupList list = BackupList::read(session, name);
         if (list.isOfFirstRun() || (!list.isThere() && holdsNoTexture(session, name))) return *backup;
     }
