@@ -2,7 +2,7 @@
 
 #include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 #include "support/small_install.h"
 
 #include <QElapsedTimer>

@@ -2,7 +2,7 @@
 
 #include "cli/command_helpers.h"
 #include "cli/json_output.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 
 #include <QJsonArray>
 

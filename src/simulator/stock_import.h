@@ -3,12 +3,13 @@
 #include "core/job.h"
 #include "simulator/stock_plan.h"
 
-#include <optional>
-
 namespace morvane {
 
 /// A pilot's own textures as base images: what sets are made of from then on. Sets that exist keep their
 /// files until they are activated anew.
+
+/// Over all that is said of it.
+inline const QString stockTitle = u"Use My Simulator's Textures"_s;
 
 /// What an import did.
 struct StockImportReport {
@@ -24,18 +25,5 @@ struct StockImportReport {
 /// it will replace is noted before the first file is, so a failure, a cancel and a kill can be undone like a
 /// whole import. Raises when it cannot be noted: nothing is replaced then. Shows progress.
 StockImportReport importStock(Session& session, const Job& job, const StockSource& source);
-/// The same as a job of its own, which says at the end what came of it; nothing when it could not begin.
-std::optional<StockImportReport> importStock(Session& session, const StockSource& source);
-
-/// From the simulator's own folder. While a set of ours is installed the textures there are not the pilot's:
-/// then the newest backup is offered instead, and without one there is nothing to take. Asks in any case,
-/// unless the user has said already that it is wanted. Nothing when it was refused or failed.
-std::optional<StockImportReport> importSimulatorStock(Session& session, bool isConfirmed = false);
-
-/// Puts the base images of before the first import back. Asks, unless the user has said already that it is
-/// wanted. The number of files; nothing when it was refused or after the message of a failure.
-std::optional<int> restoreStock(Session& session, bool isConfirmed = false);
-/// There is something to put back.
-bool hasKeptStock(Session& session);
 
 } // namespace morvane

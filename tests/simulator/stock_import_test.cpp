@@ -2,7 +2,7 @@
 #include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
 #include "simulator/backup_files.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 

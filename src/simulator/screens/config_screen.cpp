@@ -4,7 +4,7 @@
 #include "core/session.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/picture_frame.h"
 #include "ui/controls/set_table.h"
