@@ -5,6 +5,7 @@
 #include "core/options.h"
 #include "core/set_collections.h"
 #include "simulator/backup_files.h"
+#include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"

@@ -2,7 +2,7 @@
 
 #include "cli/command_helpers.h"
 #include "cli/json_output.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 
 #include <QJsonArray>
 
@@ -46,7 +46,7 @@ bool stockRestore(CommandContext& context) {
     if (!hasKeptStock(context.session))
         fail(context, u"No base images are kept: nothing was imported."_s);
     else
-        restoreStock(context.session);
+        restoreStock(context.session, true);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "simulator/flights.h"
 
+#include "core/attempts.h"
 #include "core/failure_report.h"
 #include "core/ini_file.h"
 #include "core/numbers.h"
@@ -42,14 +43,19 @@ void removeCopies(Session& session) {
         session.files.remove(folder.child(name));
 }
 
+/// One that cannot be copied costs no other; the first such failure is raised at the end.
 void copyFlights(Session& session, const FilePath& source, const FilePath& target) {
+    FirstFailure failure;
     for (const QString& fileName : session.files.list(source, flightMask)) {
         const QString name = baseName(fileName);
         if (trimmedBlanks(name).isEmpty()) continue; // the list could not hold it
         for (const QString& ending : {flightEnding, weatherEnding})
-            if (session.files.exists(source.child(name + ending)))
-                replaceFile(session.files, source.child(name + ending), target.child(name + ending));
+            failure.attempt([&] {
+                if (session.files.exists(source.child(name + ending)))
+                    replaceFile(session.files, source.child(name + ending), target.child(name + ending));
+            });
     }
+    failure.raise();
 }
 
 /// Entries of an older list beyond the new total stay in the file, unread. Written at one go, as a pilot may

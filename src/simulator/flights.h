@@ -13,7 +13,8 @@ namespace morvane {
 /// folder that is asked for when there is none. Empty when the user named none.
 FilePath userFlightsFolder(Session& session);
 
-/// Copies the delivered flights from the program's folder to the kept ones below the simulator.
+/// Copies the delivered flights from the program's folder to the kept ones below the simulator, each that can
+/// be; the first failure is raised at the end.
 void copyDeliveredFlights(Session& session);
 
 /// Gathers the copies anew: first the flights kept below the simulator ("\Flights\Morvane"), then the user's,
