@@ -198,5 +198,9 @@ int main(int argc, char** argv) {
         parser.value(u"to"_s),     parser.value(u"plan"_s),
         parser.value(u"flight"_s), QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath(),
         sample.has_value()};
-    return run(session, user, request);
+    try {
+        return run(session, user, request);
+    } catch (const RoadEnded&) {
+        return 1;
+    }
 }
