@@ -128,9 +128,16 @@ QString getNonEnglishPath(Session& session) {
     return chooseFlightsFolder(session);
 }
 
+QString usersFlightsFolder(Session& session) {
+    const QString& documents = session.MyDocumentsPath;
+    const QString usual = documents + u"Flight Simulator Files"_s;
+    if (!documents.isEmpty() && session.files.isFolder(FilePath(usual))) return usual;
+    return ownValue(session, u"NonEnglishPath");
+}
+
 void setNonEnglishRegVal(Session& session) {
     reportFailures(session.user, optionFailure(u"Sub setNonEnglishRegVal"_s), [&] {
-        const QString path = session.user.browseForFolder({});
+        const QString path = session.user.browseForFolder(usersFlightsFolder(session));
         if (path.isEmpty()) return;
         storeOwnValue(session, u"NonEnglishPath", path);
         inform(session, u"FS9 Flight Simulator Files Path"_s,

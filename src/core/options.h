@@ -18,7 +18,9 @@ void getSideFSVal(Session& session);
 void setSideFSVal(Session& session, bool value);
 /// Folder in which the user keeps saved flights, asked for until it is usable; empty when the user cancels.
 QString getNonEnglishPath(Session& session);
-/// Lets the user choose that folder anew.
+/// What is known of that folder without a question: the usual one, else what is stored, be it empty or gone.
+QString usersFlightsFolder(Session& session);
+/// Lets the user choose that folder anew, from where it is now.
 void setNonEnglishRegVal(Session& session);
 
 /// "True" or "False", as the registry and the store's text columns hold flags.
