@@ -7,6 +7,7 @@
 #include "ui/first_start.h"
 #include "ui/program.h"
 #include "ui/program_font.h"
+#include "ui/screen_scale.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
 #include "ui/window_user.h"
@@ -17,6 +18,7 @@
 using namespace morvane;
 
 int main(int argc, char** argv) {
+    fitScaleToScreen(argc, argv);
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Morvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
