@@ -57,6 +57,13 @@ void ConsoleUser::tellDone(const DoneLine& line) {
     print(line.text + (line.remark.isEmpty() ? QString() : u" ("_s + line.remark + u')') + u'\n');
 }
 
+bool ConsoleUser::allowsRun(const RunSize& run) {
+    if (run.fits()) return true;
+    failed_ = true;
+    print(run.refusal() + u'\n');
+    return false;
+}
+
 bool ConsoleUser::answerOf(const QString& question) {
     if (settings_.policy != AnswerPolicy::ask) return settings_.policy == AnswerPolicy::yes;
     print(u"  "_s + question + (settings_.enterMeansYes ? u"? [Y/n] "_s : u"? [y/N] "_s));
