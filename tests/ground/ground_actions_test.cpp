@@ -85,6 +85,45 @@ TEST_F(GroundActions, severalAtOncePassOverDefaultAndTheInstalledOne) {
     deleteSelected(false);
     EXPECT_EQ(activationOf("2-A") + activationOf("3-B") + activationOf("4-C"), "goneTrueTrue");
     EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_EQ(install.user.calls.filter("done "), QStringList({"done 1 texture set deleted (1 set left)"}));
+}
+
+TEST_F(GroundActions, aRemovalShowsThatItIsBusyAndCanBeEnded) {
+    struct Case {
+        bool keepsColours;
+        int cancelAt; ///< the set before which the user cancels
+        const char* activations;
+        QStringList calls;
+    };
+    const Case cases[] = {
+        {true,
+         0,
+         "FalseFalse",
+         {"message Progress Morvane Information", "file 2-A",
+          "progress 0 Deactivating texture set 1 of 2.  Please wait............", "file 3-B",
+          "progress 50 Deactivating texture set 2 of 2.  Please wait............", "hide message",
+          "done 2 texture sets deactivated"}},
+        {false,
+         2,
+         "goneFalse",
+         {"message Progress Morvane Information", "file 2-A",
+          "progress 0 Deleting texture set 1 of 2.  Please wait............", "file 3-B",
+          "progress 50 Deleting texture set 2 of 2.  Please wait............", "hide message",
+          "done 1 texture set deleted (1 set left)"}}};
+    for (const char* name : {"2-A", "3-B"})
+        install.addGroundSet(name, "Overcast", true, threeFiles);
+    install.user.onModal = [&](Screen) { session.modal.multiConfirmed = session.modal.multiNames; };
+    for (const Case& example : cases) {
+        session.ground.selectedRows = QStringList{"2-A", "3-B"};
+        install.user.calls.clear();
+        install.user.onPump = [&] {
+            if (install.user.calls.filter("progress").size() == example.cancelAt)
+                install.user.answers().cancelRequested = true;
+        };
+        deleteSelected(example.keepsColours);
+        EXPECT_EQ(install.user.calls.mid(1, example.calls.size()), example.calls);
+        EXPECT_EQ(activationOf("2-A") + activationOf("3-B"), example.activations);
+    }
 }
 
 TEST_F(GroundActions, cancelledActivationLeavesTheSetDeactivated) {
