@@ -285,6 +285,18 @@ TEST_F(SkyColourScreenTest, theArrowKeysGoFromGroupToGroup) {
     EXPECT_EQ(palette->accessibleDescription(), skyGroup(9).text);
 }
 
+TEST_F(SkyColourScreenTest, theTabKeyComesToThePaletteBeforeTheSliders) {
+    open();
+    QApplication::setActiveWindow(program.shell.form(hostName));
+    program.control<QPushButton>(pageName, u"cmdSkyResetAll"_s).setFocus();
+    QStringList visited;
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(program.shell.form(hostName)->focusWidget(), Qt::Key_Tab);
+        visited << program.shell.form(hostName)->focusWidget()->objectName();
+    }
+    EXPECT_EQ(visited.join(u' '), u"picSkySource vcSkySat cmdSkySatMinus"_s);
+}
+
 TEST_F(SkyColourScreenTest, theTipTellsWhatLiesUnderThePointer) {
     open();
     EXPECT_EQ(tipAt(2, 3), skyGroup(1).tip);
@@ -439,6 +451,16 @@ TEST(SkySetCounts, theBoxesOfTheBaseSetsEnableTheirCounts) {
             box->click();
         }
         dialog.findChild<QCheckBox*>(u"chkStsGroup3"_s)->click();
+        dialog.findChild<QCheckBox*>(u"chkStsGroup6"_s)->click();
+        dialog.findChild<QCheckBox*>(u"chkStsGroup6"_s)->setFocus();
+        QStringList visited;
+        for (int i = 0; i < 6; ++i) {
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            visited << dialog.focusWidget()->objectName();
+        }
+        EXPECT_EQ(visited.join(u' '), u"txtNoClouds txtLightClouds txtMediumClouds txtLightOvcClouds "
+                                      "txtOvercastClouds btn_Ok"_s);
+        dialog.findChild<QCheckBox*>(u"chkStsGroup6"_s)->click();
         auto* overcast = dialog.findChild<QLineEdit*>(u"txtOvercastClouds"_s);
         overcast->setFocus();
         QTest::keyClicks(overcast, u"12a"_s);
