@@ -1,5 +1,6 @@
 #include "ground/ground_run_size.h"
 
+#include "core/error.h"
 #include "core/numbers.h"
 #include "core/session.h"
 #include "ground/texture_catalogue.h"
@@ -16,34 +17,63 @@ namespace morvane {
 
 namespace {
 
-constexpr int mostUnasked = 20; ///< sets; a larger number may be a slip
+constexpr int mostUnasked = 20;  ///< sets; a larger number may be a slip
+constexpr int filesMeasured = 3; ///< the last one counts: the first finds nothing prepared
 constexpr double bytesAPixel = 3;
 
-/// One file of the stock on its way through both passes, but for the writing.
+/// One file of the stock on its way through both passes.
 struct MeasuredFile {
     double seconds = 0;
     double bitmapShare = 0, textureShare = 0; ///< of what is written in the size of the base image
 };
 
-MeasuredFile measure(FileSystem& files, const FilePath& path) {
-    QElapsedTimer timer;
-    timer.start();
-    const ColouredFile coloured = openImageForTextureSet(files, path, Recolouring({}));
-    if (!coloured.picture || coloured.failure) return {};
-    const QByteArray texture = compressTexture(loadPicture(files, path));
-    const auto seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
-    const auto size = static_cast<double>(files.size(path));
-    const double pixels = static_cast<double>(coloured.picture->Width()) * coloured.picture->Height();
-    return {seconds, pixels * bytesAPixel / size, static_cast<double>(texture.size()) / size};
+double secondsOf(const QElapsedTimer& timer) {
+    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
 }
 
-/// The first file that can be measured: a damaged one is told of by the run.
-MeasuredFile measureOne(FileSystem& files, const std::vector<CatalogueFile>& catalogue) {
-    for (const CatalogueFile& file : catalogue)
-        if (const MeasuredFile measured = measure(files, file.sourceFolder.child(file.fileName));
-            measured.textureShare > 0)
-            return measured;
-    return {};
+/// 0 where they cannot be written: why, the run tells.
+double secondsToWrite(FileSystem& files, const FilePath& path, const cDIBSection& picture,
+                      const QByteArray& texture) {
+    QElapsedTimer timer;
+    timer.start();
+    try {
+        picture.SavePicture(path);
+        files.write(path, texture);
+        const double seconds = secondsOf(timer);
+        files.remove(path);
+        return seconds;
+    } catch (const Error&) {
+        return 0;
+    }
+}
+
+/// The pixels are worked on over all cores, the files are written one by one.
+MeasuredFile measure(FileSystem& files, const CatalogueFile& file) {
+    const FilePath base = file.sourceFolder.child(file.fileName);
+    const double cores = std::max(std::thread::hardware_concurrency(), 1U);
+    QElapsedTimer timer;
+    timer.start();
+    const ColouredFile coloured = openImageForTextureSet(files, base, Recolouring({}));
+    if (!coloured.picture || coloured.failure) return {};
+    const QByteArray texture = compressTexture(loadPicture(files, base));
+    const double working = secondsOf(timer) / cores;
+    const double writing =
+        secondsToWrite(files, file.tempFolder.child(file.fileName), *coloured.picture, texture);
+    const auto size = static_cast<double>(files.size(base));
+    const double pixels = static_cast<double>(coloured.picture->Width()) * coloured.picture->Height();
+    return {working + writing, pixels * bytesAPixel / size, static_cast<double>(texture.size()) / size};
+}
+
+/// A damaged file is passed over, as the run tells of it.
+MeasuredFile measureLast(FileSystem& files, const std::vector<CatalogueFile>& catalogue) {
+    MeasuredFile last;
+    for (int count = 0; const CatalogueFile& file : catalogue) {
+        const MeasuredFile measured = measure(files, file);
+        if (measured.textureShare <= 0) continue;
+        last = measured;
+        if (++count == filesMeasured) break;
+    }
+    return last;
 }
 
 /// Sizes of base images, in bytes.
@@ -76,16 +106,15 @@ FilePath setsFolder(Session& session) {
 RunSize groundRunSize(Session& session, int sets) {
     FileSystem& files = session.files;
     const std::vector<CatalogueFile> catalogue = TextureCatalogue(session).popTextureList(0, 0, false, {});
-    const MeasuredFile file = measureOne(files, catalogue);
     const StockSize stock = sizeOfStock(files, catalogue);
+    const MeasuredFile file = measureLast(files, catalogue);
     RunSize run{countText(sets, u"ground set"_s)};
     run.isQuestionWanted = sets > mostUnasked;
     run.freeBytes = files.freeSpace(setsFolder(session));
     // One set's intermediate bitmaps take the place of those of the set before.
     run.bytes = static_cast<std::int64_t>(sets * file.textureShare * static_cast<double>(stock.all) +
                                           file.bitmapShare * static_cast<double>(stock.withoutBitmap));
-    const double cores = std::max(std::thread::hardware_concurrency(), 1U);
-    const double measured = file.seconds * static_cast<double>(catalogue.size()) / cores;
+    const double measured = file.seconds * static_cast<double>(catalogue.size());
     run.seconds = sets * (session.groundSetSeconds > 0 ? session.groundSetSeconds : measured);
     return run;
 }
