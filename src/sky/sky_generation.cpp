@@ -94,6 +94,7 @@ void SkyGeneration::createAll(const Job& job) {
 void SkyGeneration::endRun(bool fromHomeScreen) {
     if (!fromHomeScreen) return showNewestSet();
     session_.RefreshSkyList = true;
+    takeNewestSet(); // in hand when the list is opened
     session_.user.refreshScreen(Screen::frm_Main);
     session_.user.showScreen(Screen::frm_Main);
 }
@@ -102,10 +103,14 @@ void SkyGeneration::endRun(bool fromHomeScreen) {
 void SkyGeneration::showNewestSet() {
     session_.RefreshSkyList = true;
     session_.sky.selectedRows.clear();
-    const clsSkyTextureSets& sets = loadedSkySets(session_);
-    if (sets.Count() > 0) loadSkySubSet(session_, skyListKey(*sets.GetItem(sets.Count())), skyDay);
+    takeNewestSet();
     session_.user.refreshScreen(Screen::frm_KMTextures);
     session_.user.showScreen(Screen::frm_KMTextures);
+}
+
+void SkyGeneration::takeNewestSet() {
+    const clsSkyTextureSets& sets = loadedSkySets(session_);
+    if (sets.Count() > 0) loadSkySubSet(session_, skyListKey(*sets.GetItem(sets.Count())), skyDay);
 }
 
 bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal) {

@@ -177,9 +177,10 @@ void SetListForm::clickRow(const QString& listKey) {
 
 /// What a double click on a set is for: the key that is alive, as if it had been pressed.
 void SetListForm::useSet() {
+    const ButtonState activation = activate_->state();
     if (install_->state() != ButtonState::disabled)
         shell().dispatch(install_);
-    else if (activate_->state() == ButtonState::enabled)
+    else if (activation != ButtonState::disabled && activation != ButtonState::deactivate)
         shell().dispatch(activate_);
 }
 

@@ -213,6 +213,7 @@ TEST_F(SkySetsScreenTest, createsSetsFromTheHomeScreenAndFromTheList) {
     open();
     EXPECT_EQ(column(3).mid(3), QStringList(2, u"Sunny"_s));
     EXPECT_EQ(column(2).mid(3), QStringList(2, u"Mostly Clear"_s));
+    EXPECT_EQ(list->selectedNames(), QStringList{list->textOf(5, 0)}) << "the last one made";
     program.confirmNext(u"frm_SelectSkyTexture"_s); // what was entered stands
     program.press(hostName, u"btn_SkytextureCreate"_s);
     ASSERT_EQ(list->rowCount(), 7);
