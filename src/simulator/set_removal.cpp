@@ -32,12 +32,11 @@ QString removalQuestion(const SetRemoval& removal) {
 void showProgress(Session& session, const SetRemoval& removal, const QString& name, qsizetype index,
                   qsizetype count) {
     const QString text = (removal.deactivateMode ? u"Deactivating"_s : u"Deleting"_s) + u" texture set "_s +
-                         QString::number(index + 1) + u" of "_s + QString::number(count) +
-                         u".  Please wait............"_s;
+                         QString::number(index + 1) + u" of "_s + QString::number(count) + u", '"_s + name +
+                         u"'.  Please wait............"_s;
     UserInterface& user = session.user;
     if (!user.isMessageVisible())
         user.showMessage({MessageKind::progress, u"Morvane Information"_s, text, false, count > 1, true});
-    user.setProgressFile(name);
     user.updateProgress({}, text, 100.0 * static_cast<double>(index) / static_cast<double>(count));
 }
 
