@@ -85,7 +85,8 @@ TEST_F(GroundActions, severalAtOncePassOverDefaultAndTheInstalledOne) {
     deleteSelected(false);
     EXPECT_EQ(activationOf("2-A") + activationOf("3-B") + activationOf("4-C"), "goneTrueTrue");
     EXPECT_TRUE(install.user.told().isEmpty());
-    EXPECT_EQ(install.user.calls.filter("done "), QStringList({"done 1 texture set deleted (1 set left)"}));
+    EXPECT_EQ(install.user.calls.filter("done "), QStringList({"done 1 texture set deleted"}));
+    EXPECT_EQ(install.user.doneRemark, "1 set left");
 }
 
 TEST_F(GroundActions, aRemovalShowsThatItIsBusyAndCanBeEnded) {
@@ -96,7 +97,7 @@ TEST_F(GroundActions, aRemovalShowsThatItIsBusyAndCanBeEnded) {
     };
     const Case cases[] = {
         {true, 0, "FalseFalse", "Deactivating", "done 2 texture sets deactivated"},
-        {false, 2, "goneFalse", "Deleting", "done 1 texture set deleted (1 set left)"},
+        {false, 2, "goneFalse", "Deleting", "done 1 texture set deleted"},
     };
     for (const char* name : {"2-A", "3-B"})
         install.addGroundSet(name, "Overcast", true, threeFiles);

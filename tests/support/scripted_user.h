@@ -17,7 +17,8 @@ public:
     void setProgressFile(const QString& line) override { calls << u"file "_s + line; }
     void hideMessage() override;
     void tellDone(const DoneLine& line) override {
-        calls << u"done "_s + line.text + (line.remark.isEmpty() ? u""_s : u" ("_s + line.remark + u')');
+        calls << u"done "_s + line.text;
+        doneRemark = line.remark;
     }
     bool allowsRun(const RunSize& run) override {
         runs.push_back(run);
@@ -50,6 +51,7 @@ public:
     /// ...".
     std::vector<Message> messages;
     std::vector<RunSize> runs; ///< those that were to start
+    QString doneRemark;        ///< of the job that was done last
     QStringList calls;
 
     /// The messages that ask for attention: every kind but Progress, as "Kind|title|text".
