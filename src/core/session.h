@@ -89,6 +89,7 @@ struct GroundSelection {
     ColourValues colours;
     /// Names of all rows that are selected in the list; the row in hand alone when it was clicked alone.
     QStringList selectedRows;
+    QString madeSet; ///< made just now: the list selects it, as if it had been clicked, and forgets it
 };
 
 /// The sky set in hand, in the same way.
@@ -110,6 +111,7 @@ struct NightSelection {
     ColourValues colours;
     /// As of the ground.
     QStringList selectedRows;
+    QString madeSet;
 };
 
 /// What the colour page of the sky is set to, beside its table of numbers (`skyPaletteGroups`).
@@ -191,6 +193,8 @@ public:
     bool ExitInProgress = false;
     bool MinimiseForLaunch = false;
     bool RefreshGroundList = false, RefreshSkyList = false, RefreshNightList = false;
+
+    double groundSetSeconds = 0; ///< that the ground set made last took; 0 before the first
 
     /// A long job is running; another one is not started from inside it.
     bool jobRunning = false;

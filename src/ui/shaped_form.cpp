@@ -81,10 +81,10 @@ void ShapedForm::showEvent(QShowEvent* event) {
 
 void ShapedForm::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (background_.isNull())
-        painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
-    else
-        painter.drawPixmap(rect(), background_);
+    if (background_.isNull()) return painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
+    // On a dense display the picture's edge is finer than the outline that the window is cut to.
+    painter.fillRect(rect(), QColor::fromRgb(palette::outline));
+    painter.drawPixmap(rect(), background_);
 }
 
 void ShapedForm::mousePressEvent(QMouseEvent* event) {

@@ -98,6 +98,31 @@ TEST_F(SetTableTest, everyClickOnAHeadTurnsTheOrderRound) {
     EXPECT_EQ(takeClicked(), QStringList());
 }
 
+/// With a key held rows are being picked, and on a box each click ticks.
+TEST_F(SetTableTest, aDoubleClickTellsOfARowAndNotOfItsBox) {
+    int told = 0;
+    QObject::connect(&table, &SetTable::rowDoubleClicked, [&] { ++told; });
+    struct Case {
+        QPoint place;
+        Qt::KeyboardModifier key;
+        int told;
+    };
+    const QPoint row = cell(2).topLeft();
+    const Case cases[] = {{row + QPoint(60, 10), Qt::NoModifier, 1},
+                          {cell(2, 1).center(), Qt::NoModifier, 1},
+                          {row + QPoint(12, 10), Qt::NoModifier, 0},
+                          {row + QPoint(60, 10), Qt::ControlModifier, 0},
+                          {QPoint(60, 200), Qt::NoModifier, 0}};
+    for (const Case& example : cases) {
+        told = 0;
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, example.key, example.place);
+        QTest::mouseDClick(table.viewport(), Qt::LeftButton, example.key, example.place);
+        EXPECT_EQ(told, 0) << "the button is still down";
+        QTest::mouseRelease(table.viewport(), Qt::LeftButton, example.key, example.place);
+        EXPECT_EQ(told, example.told) << example.place.x() << ' ' << example.key;
+    }
+}
+
 TEST_F(SetTableTest, boxesAreCheckedByTheMouseAndTheSpaceKey) {
     EXPECT_EQ(table.checkedNames(), QStringList{u"cirrus"_s});
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell(1).topLeft() + QPoint(12, 10));

@@ -6,6 +6,7 @@
 #include "ui/controls/set_table.h"
 
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <gtest/gtest.h>
@@ -183,6 +184,24 @@ TEST_F(OptionsScreens, aPartialBackupIsMarkedWithItsDate) {
     });
     program.user.showModal(Screen::frm_BackupList);
     EXPECT_FALSE(session.modal.backupConfirmed);
+}
+
+TEST_F(OptionsScreens, theFolderBrowserOpensInTheFolderShown) {
+    const QString shown = program.install.home().native();
+    session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s, shown);
+    program.shell.goToPage(u"frm_Switcher"_s);
+    ASSERT_EQ(program.control<QLabel>(u"frm_Switcher"_s, u"lblFSFilesPathVal"_s).accessibleName(), shown);
+    QTimer timer;
+    QString opened;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        auto* browser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!browser) return;
+        opened = browser->directory().path();
+        browser->reject();
+    });
+    timer.start(0);
+    program.press(u"frm_Switcher"_s, u"btn_RegOK"_s);
+    EXPECT_EQ(opened, shown);
 }
 
 } // namespace

@@ -1,10 +1,14 @@
 #include "support/window_program.h"
 
 #include "ground/ground_sets.h"
+#include "imaging/window_region.h"
+#include "ui/controls/foot_line.h"
+#include "ui/controls/palette.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
 
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
@@ -118,6 +122,46 @@ TEST_F(ShellTest, startsWithoutASkinAndSaysSoOnce) {
     EXPECT_TRUE(shell.form(u"frm_Main"_s)->mask().isEmpty()) << "a plain window";
     EXPECT_FALSE(shell.form(u"frm_Main"_s)->windowFlags() & Qt::FramelessWindowHint);
     shell.reportMissingSkin(); // would wait for an answer that never comes
+}
+
+/// A picture of twice the size has a finer edge than the outline; what shows between them must not be white.
+TEST_F(ShellTest, isDarkUpToItsOutline) {
+    QImage picture(880, 580, QImage::Format_RGB888);
+    picture.fill(qRgb(255, 0, 255));
+    QPainter(&picture).fillRect(picture.rect().adjusted(2, 2, -2, -2), QColor::fromRgb(palette::bezel));
+    const FilePath media = program.install.home() / u"Media";
+    ASSERT_TRUE(picture.save((media / u"MVSkyInterface.bmp").native()));
+    WindowRegion whole{picture.rect(), {picture.rect()}};
+    test::writeFile(media / u"MainRegion.dat", writeWindowRegion(whole));
+    const QImage shown = shell.form(u"frm_KMTextures"_s)->grab().toImage();
+    EXPECT_EQ(shown.pixel(0, 0), palette::outline);
+    EXPECT_EQ(shown.pixel(shown.width() / 2, shown.height() - 8), palette::bezel);
+}
+
+/// A page's own text goes and comes with the page; what a job said is on whichever window is shown next.
+TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
+    const auto lineOf = [this](const QString& window) {
+        return shell.form(window)->findChild<FootLine*>()->shown().text;
+    };
+    shell.goToPage(u"frm_About"_s);
+    shell.screen<PageForm>(u"frm_About"_s).setFootText({u"a text of its own"_s});
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
+    shell.goToPage(u"frm_Links"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
+    shell.goToPage(u"frm_About"_s);
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
+    shell.goToPage(u"frm_About"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
+
+    for (const QString& window : windowNames)
+        shell.form(window);
+    program.user.tellDone({u"2 texture sets deleted"_s});
+    for (const QString& window : windowNames)
+        EXPECT_EQ(lineOf(window), u"2 texture sets deleted"_s);
+    QTest::mouseClick(shell.form(u"frm_Main"_s), Qt::RightButton);
+    EXPECT_EQ(lineOf(u"frm_MVTextures"_s), QString());
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
 }
 
 TEST_F(ShellTest, saysOnItsKeyThatALinkHasNoAddress) {

@@ -43,7 +43,11 @@ void frm_SelectSkyTexture::addBaseSets() {
         chkStsGroup_[index] = box;
     }
     // The boxes were made after the counts and come before them.
-    QWidget::setTabOrder(chkStsGroup_.back(), boxes_.front());
+    QWidget* before = chkStsGroup_.back();
+    for (CountEdit* box : boxes_) {
+        setTabOrder(before, box);
+        before = box;
+    }
 }
 
 void frm_SelectSkyTexture::prepare() {

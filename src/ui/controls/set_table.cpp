@@ -4,6 +4,8 @@
 #include "ui/controls/table_look.h"
 
 #include <QHeaderView>
+#include <QMouseEvent>
+#include <utility>
 
 namespace morvane {
 
@@ -85,6 +87,12 @@ QString SetTable::textOf(int row, int column) const {
     return item ? item->text(column) : QString();
 }
 
+int SetTable::rowOf(const QString& name) const {
+    for (int row = 1; row <= rowCount(); ++row)
+        if (textOf(row, 0) == name) return row;
+    return 0;
+}
+
 QRgb SetTable::storedColour(int row) const {
     const QTreeWidgetItem* item = topLevelItem(row - 1);
     return item ? item->data(0, colourRole).toUInt() : palette::textBlue;
@@ -98,8 +106,7 @@ void SetTable::selectRow(int row) {
 }
 
 void SetTable::selectName(const QString& name) {
-    for (int index = 0; index < rowCount(); ++index)
-        if (topLevelItem(index)->text(0) == name) return topLevelItem(index)->setSelected(true);
+    if (const int row = rowOf(name)) topLevelItem(row - 1)->setSelected(true);
 }
 
 QStringList SetTable::selectedNames() const {
@@ -114,6 +121,30 @@ QStringList SetTable::checkedNames() const {
 void SetTable::sortBy(int column) {
     order_ = order_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
     sortItems(column, order_);
+}
+
+bool SetTable::isOnCheckBox(const QPoint& place) const {
+    const QModelIndex index = indexAt(place);
+    if (!hasCheckBoxes_ || index.column() != 0) return false;
+    QStyleOptionViewItem cell;
+    initViewItemOption(&cell);
+    cell.features |= QStyleOptionViewItem::HasCheckIndicator;
+    cell.rect = visualRect(index);
+    return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, this).contains(place);
+}
+
+/// With a key held several rows are being picked.
+void SetTable::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    isDoubleClick_ = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
+                     itemAt(place) && !isOnCheckBox(place);
+    QTreeWidget::mouseDoubleClickEvent(event);
+}
+
+/// What follows may open a window, which would keep the release from the list.
+void SetTable::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeWidget::mouseReleaseEvent(event);
+    if (std::exchange(isDoubleClick_, false)) Q_EMIT rowDoubleClicked();
 }
 
 void SetTable::keyPressEvent(QKeyEvent* event) {
