@@ -24,6 +24,7 @@
 #include "simulator/flights.h"
 #include "simulator/originals.h"
 #include "simulator/set_matching.h"
+#include "weather/active_sky.h"
 #include "weather/metar_decoder.h"
 
 #include <QFile>
@@ -238,10 +239,9 @@ int runCommand(const QStringList& words, Session& session, ConsoleUser& user) {
     if (!command) return exitWrongUsage;
     CommandContext context{session, user, words.mid(command->words.size())};
     bool understood = true;
-    if (!command->needsInstall || startUp(session))
-        reportFailures(user, {}, [&] { understood = command->run(context); });
-    else
-        return exitFailed;
+    if (command->needsInstall && !startUp(session)) return exitFailed;
+    if (words.front() == u"metar") tellActiveSkyProblem(session);
+    reportFailures(user, {}, [&] { understood = command->run(context); });
     closeDatabase(session);
     if (!understood) return exitWrongUsage;
     return user.hasFailed() ? exitFailed : exitDone;

@@ -22,8 +22,11 @@ public:
 ActiveSkyPlatform& systemActiveSky();
 
 /// The step of a start: sets ASv6Path, ASv6Present, ASv6Local, ASv6VersionOK and ASv6ExportDate from the
-/// registry and the folder named there. A folder or a program that is missing is told.
+/// registry and the folder named there. What is missing is kept in ASv6Problem and not told: most commands of
+/// the console have nothing to do with the weather, and an unattended run waits for nobody.
 void findActiveSky(Session& session);
+/// Shows ASv6Problem where there is one.
+void tellActiveSkyProblem(Session& session);
 
 FilePath exportCycleFile(const Session& session);
 /// The file's own time, to the minute; invalid after the message that it cannot be read.
