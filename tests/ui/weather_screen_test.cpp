@@ -26,7 +26,7 @@ struct WeatherScreenTest : testing::Test {
             session,
             {{u"kbfi"_s, u"Boeing Field"_s, u"Seattle"_s, u"Washington"_s, u"United States"_s, u"47.53"_s,
               u"-122.30"_s},
-             {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41.98"_s,
+             {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41,98"_s,
               u"-87.9"_s},
              {u"DIAP"_s, u"Abidjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
         test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);

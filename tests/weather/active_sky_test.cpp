@@ -6,7 +6,9 @@
 #include "weather/weather_refresh.h"
 #include "weather/wx_finders.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -172,6 +174,22 @@ TEST_F(ActiveSkyTest, isStartedOnlyHereAndOnlyWhenItDoesNotRun) {
                                   u"......ASv6 Writing File......|"_s}));
     EXPECT_FALSE(session.weather.ASv6Busy || user.isMessageVisible());
 }
+
+#ifndef Q_OS_WIN
+TEST_F(ActiveSkyTest, whatARunnerRunsIsKnownByItsName) {
+    const QString title = u"AS %1"_s.arg(QCoreApplication::applicationPid());
+    EXPECT_FALSE(systemActiveSky().isWindowOpen(title));
+    QProcess runner;
+    runner.start(u"sh"_s,
+                 {u"-c"_s, u"read line; true"_s, u"Z:\\Program Files\\"_s + title.toLower() + u".EXE"_s});
+    ASSERT_TRUE(runner.waitForStarted());
+    EXPECT_TRUE(systemActiveSky().isWindowOpen(title));
+    EXPECT_FALSE(systemActiveSky().isWindowOpen(title.mid(1))) << "no part of a name";
+    runner.closeWriteChannel();
+    ASSERT_TRUE(runner.waitForFinished());
+    EXPECT_FALSE(systemActiveSky().isWindowOpen(title));
+}
+#endif
 
 TEST_F(ActiveSkyTest, aMissingFileIsWaitedForFromNowOn) {
     makeSupported();
