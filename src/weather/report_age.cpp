@@ -17,17 +17,11 @@ constexpr int minutesPerHour = 60, minutesPerDay = 24 * minutesPerHour;
 /// A short month can stand between two months that have the day.
 constexpr int monthsToLookBack = 2;
 
-/// "1 report", "4,871 reports".
-QString counted(qint64 count, const QString& word) {
-    const QLocale english(QLocale::English, QLocale::UnitedStates);
-    return english.toString(count) + u' ' + word + (count == 1 ? QString() : u"s"_s);
-}
-
 /// In minutes below two hours, in hours below two days.
 QString ageText(qint64 minutes) {
-    if (minutes < 2 * minutesPerHour) return counted(std::max<qint64>(minutes, 0), u"minute"_s) + u" old"_s;
-    if (minutes < 2 * minutesPerDay) return counted(minutes / minutesPerHour, u"hour"_s) + u" old"_s;
-    return counted(minutes / minutesPerDay, u"day"_s) + u" old"_s;
+    if (minutes < 2 * minutesPerHour) return countText(std::max<qint64>(minutes, 0), u"minute"_s) + u" old"_s;
+    if (minutes < 2 * minutesPerDay) return countText(minutes / minutesPerHour, u"hour"_s) + u" old"_s;
+    return countText(minutes / minutesPerDay, u"day"_s) + u" old"_s;
 }
 
 /// Thousands of reports share a few hundred times.
@@ -62,7 +56,7 @@ QDateTime observationTime(const QString& day, const QString& time, const QDateTi
 QString reportAgeText(const Session& session) {
     const int count = session.gWxFinders ? session.gWxFinders->Count() : 0;
     if (count == 0) return u"No reports yet"_s;
-    const QString reports = counted(count, u"report"_s);
+    const QString reports = countText(count, u"report"_s);
     const QDateTime utc = session.clock.utcTime(), youngest = youngestOf(*session.gWxFinders, utc);
     if (!youngest.isValid()) return reports + u", none with a time"_s;
     return reports + u", the youngest of "_s + QLocale::c().toString(youngest, u"hh:mm'Z' d MMM") + u", "_s +

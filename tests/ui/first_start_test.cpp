@@ -63,6 +63,7 @@ TEST(FirstStart, withAStoreThatIsNoneSaysSoOnceAndKeepsItsFirstRunForLater) {
             told << message->findChild<QLabel*>(u"lbl_Message"_s)->text();
             message->ok();
         } else if (mainWindow && mainWindow->isVisible()) {
+            EXPECT_FALSE(mainWindow->findChild<QLabel*>(u"lblWideFS"_s)->isVisible()) << "a claim";
             QCoreApplication::exit(0);
         }
     });

@@ -1,6 +1,5 @@
 #include "support/window_program.h"
 
-#include "core/store.h"
 #include "ground/ground_sets.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
@@ -179,12 +178,6 @@ TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
         for (const QString& scheme : {u"http"_s, u"https"_s, u"file"_s})
             QDesktopServices::unsetUrlHandler(scheme);
     }
-}
-
-TEST_F(ShellTest, aStatusPageWithoutAStoreIsSilentAndClaimsNoWideClient) {
-    program.session.adoConn->close();
-    shell.refreshMainStatus(); // a message would wait for an answer that never comes
-    EXPECT_FALSE(program.control<QLabel>(u"frm_Main"_s, u"lblWideFS"_s).isVisible());
 }
 
 TEST_F(ShellTest, refusesToLeaveWhileAJobRuns) {
