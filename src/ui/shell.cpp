@@ -130,9 +130,9 @@ void Shell::openWebPage(const QString& address, const QString& registryValue) {
     if (isWebAddress(address))
         openOutside(QUrl(address));
     else
-        session_.user.showMessage(
-            {MessageKind::information, u"Morvane Information"_s,
-             u"The address would stand in the registry value \""_s + registryValue + u"\" of Morvane."_s});
+        session_.user.showMessage({MessageKind::information, u"Morvane Information"_s,
+                                   u"There is no address yet. It would stand in the registry value \""_s +
+                                       registryValue + u"\" of Morvane."_s});
 }
 
 void Shell::openUpdatePage() {

@@ -159,7 +159,7 @@ TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
         {[&] { shell.openUpdatePage(); }, update, noProgram + update},
         {[&] { shell.openWebPage(u"file:///etc/passwd"_s, u"HomePage"_s); },
          {},
-         u"The address would stand in the registry value \"HomePage\" of Morvane."_s},
+         u"There is no address yet. It would stand in the registry value \"HomePage\" of Morvane."_s},
     };
     Browser browser;
     for (const Case& each : cases) {

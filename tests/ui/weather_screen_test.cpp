@@ -193,7 +193,9 @@ TEST_F(WeatherScreenTest, aLinkWithoutAnAddressSaysWhereItWouldStand) {
         form.ok();
     });
     QTest::mouseClick(&on<LinkLabel>(u"lblASv6Support"_s), Qt::LeftButton);
-    EXPECT_EQ(said, u"The address would stand in the registry value \"ActiveSkyPage\" of Morvane."_s);
+    EXPECT_EQ(
+        said,
+        u"There is no address yet. It would stand in the registry value \"ActiveSkyPage\" of Morvane."_s);
 }
 
 TEST_F(WeatherScreenTest, everyKeyOfThePageDoesSomething) {
