@@ -103,8 +103,8 @@ bool startUp(Session& session) {
         getSideFSVal(session);
         session.BackupPath = session.AppPath / u"Backup";
         session.files.makeFolder(session.BackupPath);
-        if (hasStore(
-                session)) { // what could not be opened was told, and a first run waits for the next start
+        // One that could not be opened was told; a first run then waits for the next start.
+        if (hasStore(session)) {
             doFirstRun(session);
             readSwitches(session);
         }

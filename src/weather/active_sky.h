@@ -10,7 +10,7 @@ inline const QString activeSkyKey = u"Software\\HiFi\\Asv6"_s;
 class ActiveSkyPlatform {
 public:
     virtual ~ActiveSkyPlatform() = default;
-    /// A window of exactly that title is open.
+    /// A window of exactly that title is open; where windows cannot be seen, the program of that name runs.
     virtual bool isWindowOpen(const QString& title) = 0;
     /// Starts ASv6.exe and does not wait for it; one that does not start starts nothing.
     virtual void startASv6(Session& session) = 0;
