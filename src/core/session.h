@@ -12,6 +12,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace morvane {
@@ -135,6 +136,9 @@ struct WeatherState {
     bool ASv6Local = false; ///< runs on this computer
     bool ASv6Busy = false;  ///< being waited for: keeps the progress message up
     QDateTime ASv6ExportDate;
+    bool ASv6Imported = false; ///< ASv6ExportDate is that of reports taken in this run
+    /// What keeps the Active Sky that is set from being used; told only to those who use it.
+    std::optional<Message> ASv6Problem;
 
     QString AirportQueryWhere, AirportQueryOrder; ///< behind Session::AirportQuery
     bool InhibitWeatherReports = true;

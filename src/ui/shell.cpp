@@ -108,34 +108,41 @@ void Shell::showList(const QString& formName) {
     host.formatList();
 }
 
+void Shell::openOutside(const QUrl& address) {
+    if (!QDesktopServices::openUrl(address))
+        showFailure(session_.user, {u"Morvane Error"_s, MessageKind::exclamation},
+                    u"There is no program here that opens "_s +
+                        address.toDisplayString(QUrl::PreferLocalFile));
+}
+
 void Shell::openHelp() {
     const FilePath folder = session_.AppPath / u"MV Help";
     const bool hasCompiled = session_.files.exists(folder / u"Morvane.chm");
     const FilePath help = folder / (hasCompiled ? u"Morvane.chm" : u"index.html");
     if (session_.files.exists(help))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(help.native()));
+        openOutside(QUrl::fromLocalFile(help.native()));
     else
         showFailure(session_.user, {u"Morvane Error"_s, MessageKind::exclamation},
                     u"There is no help file in "_s + folder.text());
 }
 
-void Shell::openWebPage(const QString& address) {
-    if (isWebAddress(address)) QDesktopServices::openUrl(QUrl(address));
+void Shell::openWebPage(const QString& address, const QString& registryValue) {
+    if (isWebAddress(address))
+        openOutside(QUrl(address));
+    else
+        session_.user.showMessage({MessageKind::information, u"Morvane Information"_s,
+                                   u"There is no address yet. It would stand in the registry value \""_s +
+                                       registryValue + u"\" of Morvane."_s});
 }
 
 void Shell::openUpdatePage() {
-    const QString server =
-        session_.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"UpdateServer"_s);
-    if (!isWebAddress(server)) {
-        session_.user.showMessage(
-            {MessageKind::information, u"Morvane updates"_s,
-             u"The address would stand in the registry value \"UpdateServer\" of Morvane."_s});
-        return;
-    }
+    const QString value = u"UpdateServer"_s;
+    const QString server = session_.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, value);
     QUrlQuery query;
     query.addQueryItem(u"product"_s, u"Morvane"_s);
     query.addQueryItem(u"version"_s, QCoreApplication::applicationVersion());
-    openWebPage(server + (server.endsWith(u'/') ? u"updates.asp?"_s : u"/updates.asp?"_s) + query.toString());
+    openWebPage(server + (server.endsWith(u'/') ? u"updates.asp?"_s : u"/updates.asp?"_s) + query.toString(),
+                value);
 }
 
 void Shell::minimiseProgram() {

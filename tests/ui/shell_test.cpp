@@ -7,9 +7,11 @@
 #include "ui/form_table.h"
 #include "ui/host_form.h"
 
+#include <QDesktopServices>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -174,6 +176,54 @@ TEST_F(ShellTest, saysOnItsKeyThatALinkHasNoAddress) {
         EXPECT_FALSE(isWebAddress(address));
 }
 
+/// Stands for the program that opens addresses.
+struct Browser : QObject {
+    Q_OBJECT
+public:
+    Q_SLOT void open(const QUrl& address) { opened << address.toString(); }
+    QStringList opened;
+};
+
+TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
+    const QString help = (program.install.home() / u"MV Help\\index.html").native();
+    test::writeFile(program.install.home() / u"MV Help\\index.html", "help");
+    program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"UpdateServer"_s,
+                                          u"http://updates.example.org"_s);
+    QCoreApplication::setApplicationVersion(u"2.1.0"_s);
+    const QString update = u"http://updates.example.org/updates.asp?product=Morvane&version=2.1.0"_s;
+    const QString noProgram = u"There is no program here that opens "_s;
+    struct Case {
+        std::function<void()> open;
+        QString address, said; ///< what a browser gets, and what is said where there is none
+    };
+    const Case cases[] = {
+        {[&] { shell.openHelp(); }, u"file://"_s + help, noProgram + help},
+        {[&] { shell.openWebPage(u"https://example.org/"_s); }, u"https://example.org/"_s,
+         noProgram + u"https://example.org/"_s},
+        {[&] { shell.openUpdatePage(); }, update, noProgram + update},
+        {[&] { shell.openWebPage(u"file:///etc/passwd"_s, u"HomePage"_s); },
+         {},
+         u"There is no address yet. It would stand in the registry value \"HomePage\" of Morvane."_s},
+    };
+    Browser browser;
+    for (const Case& each : cases) {
+        QString said;
+        program.whenShown(u"frm_Msg"_s, [&](DialogForm& form) {
+            said = form.findChild<QLabel*>(u"lbl_Message"_s)->text();
+            form.ok();
+        });
+        each.open();
+        EXPECT_EQ(said, each.said);
+        if (each.address.isEmpty()) continue;
+        for (const QString& scheme : {u"http"_s, u"https"_s, u"file"_s})
+            QDesktopServices::setUrlHandler(scheme, &browser, "open");
+        each.open();
+        EXPECT_EQ(browser.opened.takeLast(), each.address);
+        for (const QString& scheme : {u"http"_s, u"https"_s, u"file"_s})
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+}
+
 TEST_F(ShellTest, refusesToLeaveWhileAJobRuns) {
     program.session.jobRunning = true;
     program.press(u"frm_Main"_s, u"btn_Exit"_s);
@@ -185,3 +235,5 @@ TEST_F(ShellTest, refusesToLeaveWhileAJobRuns) {
 
 } // namespace
 } // namespace morvane
+
+#include "shell_test.moc" // of the browser

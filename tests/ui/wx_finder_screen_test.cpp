@@ -100,13 +100,21 @@ TEST_F(WxFinderScreenTest, theReportChosenBecomesAnEndOfTheFlight) {
     EXPECT_EQ(session.weather.DepAirportName, "Own Field");
     EXPECT_TRUE(session.weather.DepMetar.startsWith(u"K007 "));
     EXPECT_EQ(session.weather.DestMetar, "");
-    open([this](DialogForm& dialog) {
-        QTest::mouseClick(dialog.findChild<QRadioButton*>(u"optAirport1"_s), Qt::LeftButton);
-        click(7, true);
-        EXPECT_FALSE(dialog.isVisible());
-    });
+    for (const bool isTaken : {false, true})
+        open([&](DialogForm& dialog) {
+            EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport0"_s)->isChecked());
+            QTest::mouseClick(dialog.findChild<QRadioButton*>(u"optAirport1"_s), Qt::LeftButton);
+            EXPECT_TRUE(session.weather.optDepAirport) << "the page's choice waits for OK";
+            isTaken ? click(7, true) : dialog.cancel();
+            EXPECT_FALSE(dialog.isVisible());
+        });
     EXPECT_TRUE(session.weather.optDestAirport && !session.weather.optDepAirport);
     EXPECT_EQ(session.weather.DestCity, "Home");
+    open([](DialogForm& dialog) {
+        EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport1"_s)->isChecked()) << "as on the page";
+        dialog.cancel();
+    });
+    session.weather.optDepAirport = true;
     int told = 0;
     program.whenShown(u"frm_Msg"_s, [&](DialogForm& message) {
         ++told;

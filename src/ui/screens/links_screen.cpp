@@ -38,7 +38,9 @@ frm_Links::frm_Links(Shell& shellOfPages) : PageForm(shellOfPages, u"frm_Links"_
         auto* open = new QPushButton(paper());
         open->setAccessibleName(u"Open "_s + title);
         open->setGeometry(492, top + 4, 90, 26);
-        connect(open, &QPushButton::clicked, this, [this, &link] { shell().openWebPage(addressOf(link)); });
+        connect(open, &QPushButton::clicked, this, [this, &link] {
+            shell().openWebPage(addressOf(link), QString::fromUtf16(link.registryValue));
+        });
         buttons_ << open;
         top += 54;
     }

@@ -16,6 +16,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QUrl>
 
 namespace morvane {
@@ -76,7 +77,8 @@ void frm_WxControl::addActiveSky() {
 void frm_WxControl::addSearchBoxes() {
     const auto add = [this](const QString& name, const QString& caption, SearchBox box, int left, int width) {
         auto* edit = addField<QLineEdit>(paper(), name, caption, {left, 62}, width);
-        connect(edit, &QLineEdit::textChanged, this, [this, box](const QString& text) { search(box, text); });
+        connect(edit, &QLineEdit::textChanged, this, [this, box, edit] { search(box, *edit); });
+        searchBoxes_ << edit;
     };
     add(u"txtICAO"_s, u"ICAO"_s, SearchBox::icao, 14, 92);
     add(u"txtAirportName"_s, u"Airport name"_s, SearchBox::airportName, 116, 190);
@@ -178,9 +180,13 @@ void frm_WxControl::refresh() {
 
 // Searching ----------------------------------------------------------------------------------------------
 
-/// A box that was emptied leaves the list as it is.
-void frm_WxControl::search(SearchBox box, const QString& text) {
-    if (searchAirports(session().weather, box, text)) ClearFilter();
+/// A box that was emptied leaves the list as it is. The others lose their texts: nothing is found by them any
+/// more.
+void frm_WxControl::search(SearchBox box, const QLineEdit& edit) {
+    if (!searchAirports(session().weather, box, edit.text())) return;
+    for (QLineEdit* other : searchBoxes_)
+        if (const QSignalBlocker quiet(other); other != &edit) other->clear();
+    ClearFilter();
 }
 
 void frm_WxControl::ClearFilter() {
@@ -237,18 +243,18 @@ void frm_WxControl::showActiveSky() {
     lblASv6Support_->setText(text);
     lblASv6Support_->setEnabled(!weather.ASv6Present || !weather.ASv6VersionOK);
     picASv6_->setPixmap(weather.ASv6Present ? skin().picture(u"ASv6.jpg"_s) : QPixmap());
-    lblASv6FileTime_->setText(weather.ASv6ExportDate.isValid()
+    lblASv6FileTime_->setText(weather.ASv6Imported && weather.ASv6ExportDate.isValid()
                                   ? u"ASv6 File Updated "_s +
                                         weather.ASv6ExportDate.toString(u"yyyy/MM/dd HH:mm:ss"_s)
                                   : QString());
 }
 
-/// The vendor's host is a registry value; without it nothing opens.
+/// The vendor's host is a registry value.
 void frm_WxControl::openActiveSkyPage() {
     const QUrl vendor(
         session().registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"ActiveSkyPage"_s));
     const QUrl page(session().weather.ASv6Present ? u"/ASV6/downloads.htm"_s : u"/ASv6/"_s);
-    shell().openWebPage(vendor.resolved(page).toString());
+    shell().openWebPage(vendor.resolved(page).toString(), u"ActiveSkyPage"_s);
 }
 
 } // namespace morvane

@@ -108,12 +108,12 @@ void frm_WxFinder::addFlightEnds() {
         option->setFont(fontOf(TextRole::body));
         option->setGeometry(left + pitch * static_cast<int>(index), lastRow, pitch - 10, 22);
         connect(option, &QRadioButton::clicked, this,
-                [this, isDeparture] { chooseFlightEnd(session(), isDeparture); });
+                [this, isDeparture] { session().wxFilter.WxFinderIsDeparture = isDeparture; });
         optAirport_[index] = option;
     }
 }
 
-/// Each opening begins with any weather and the departure.
+/// Each opening begins with any weather and the end of the flight that the weather page shows.
 void frm_WxFinder::prepare() {
     openWxFilter(session());
     session().wxFilter.WxFinderLoading = true;
@@ -123,7 +123,7 @@ void frm_WxFinder::prepare() {
         box->setChecked(false);
     txtFilter_->clear();
     txtWxMaxResults_->showCount();
-    optAirport_[0]->setChecked(true);
+    optAirport_[session().wxFilter.WxFinderIsDeparture ? 0 : 1]->setChecked(true);
     allowIntensity();
     session().wxFilter.WxFinderLoading = false;
     filterMetars();
