@@ -32,6 +32,7 @@ void DialogForm::addAnswerKeys(const QString& okTip, const QString& cancelTip) {
 
 void DialogForm::run() {
     prepare();
+    focusFirst();
     centreOver(shell().messageAnchor());
     QEventLoop loop;
     connect(this, &DialogForm::closed, &loop, &QEventLoop::quit);
@@ -39,7 +40,16 @@ void DialogForm::run() {
     loop.exec();
 }
 
+void DialogForm::allowOk(bool isAllowed) {
+    button(u"btn_Ok"_s)->setState(isAllowed ? ButtonState::enabled : ButtonState::disabled);
+}
+
+bool DialogForm::isOkAllowed() const {
+    return button(u"btn_Ok"_s)->state() != ButtonState::disabled;
+}
+
 void DialogForm::ok() {
+    if (!isOkAllowed()) return;
     confirm();
     hide();
 }

@@ -13,6 +13,7 @@ public:
     /// Prepares, shows, waits; the answer stands in the session.
     void run();
 
+    /// Nothing while its key is dead, however it was asked for.
     virtual void ok();
     void cancel() override;
 
@@ -27,6 +28,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
+    void allowOk(bool isAllowed);
+    bool isOkAllowed() const;
     /// The two keys, with the tips of this dialog.
     void addAnswerKeys(const QString& okTip, const QString& cancelTip);
 };

@@ -36,6 +36,21 @@ SkinnedButton* Form::addButton(const ButtonSetup& setup, QWidget* parent) {
     return button;
 }
 
+bool Form::canHaveFocus(const QWidget* control) const {
+    return control && isAncestorOf(control) && control->isVisibleTo(this) && control->isEnabled() &&
+           control->focusPolicy() & Qt::TabFocus;
+}
+
+bool Form::focusFirst() {
+    QWidget* control = firstFocus_;
+    if (!canHaveFocus(control)) control = nextInFocusChain();
+    while (control != this && !canHaveFocus(control))
+        control = control->nextInFocusChain();
+    if (control == this) return false;
+    control->setFocus();
+    return true;
+}
+
 SkinnedButton* Form::button(const QString& controlName) const {
     return findChild<SkinnedButton*>(controlName);
 }

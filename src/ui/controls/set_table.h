@@ -54,16 +54,21 @@ public:
     QStringList checkedNames() const;
 
 Q_SIGNALS:
-    /// The user clicked this row or went to it by the keys; never told for a selection from code.
+    /// The user clicked this row, dragged the selection to it, or went to it or stayed on it by a key of the
+    /// list; never told for a selection from code.
     void rowClicked(const QString& key);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void sortBy(int column);
+    void tellOfCurrent();
 
     bool hasCheckBoxes_ = false;
+    const QTreeWidgetItem* pressed_ = nullptr;  ///< the row on which the mouse went down
     Qt::SortOrder order_ = Qt::DescendingOrder; ///< of the last sort; the first one is ascending
 };
 
