@@ -70,6 +70,7 @@ void SetListForm::addInstructionsAndList() {
     list_->setGeometry(14, 112, setup_.listWidth, 266);
     list_->setColumns(setup_.columns, setup_.hasCheckBoxes);
     connect(list_, &SetTable::rowClicked, this, &SetListForm::clickRow);
+    setFirstFocus(list_);
 }
 
 void SetListForm::addPictures() {

@@ -42,6 +42,8 @@ public:
     void hideChildScreen(const QString& formName);
     /// What a navigation key does: the page, its formatting, the two names above.
     void goToPage(const QString& formName);
+    /// The main window's own page in the place of whichever stands there.
+    void goHome();
 
     /// The main page: its keys, its title, its numbers.
     void formatMainScreen();
@@ -73,6 +75,8 @@ public Q_SLOTS:
     void dispatch(SkinnedButton* button);
 
 private:
+    void giveFocus(Form& page);
+
     Session& session_;
     Skin& skin_;
     QHash<QString, Form*> forms_; ///< by lower-cased name

@@ -46,6 +46,8 @@ frm_Main::frm_Main(Shell& shell)
         addButton(key);
     for (const ButtonSetup& key : pageKeys())
         addButton(key, status_);
+    setFirstFocus(button(pageKeys().front().name));
+    focusFirst();
 }
 
 void frm_Main::formatMainScreen() {

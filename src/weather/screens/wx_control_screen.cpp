@@ -77,8 +77,9 @@ void frm_WxControl::addSearchBoxes() {
     const auto add = [this](const QString& name, const QString& caption, SearchBox box, int left, int width) {
         auto* edit = addField<QLineEdit>(paper(), name, caption, {left, 62}, width);
         connect(edit, &QLineEdit::textChanged, this, [this, box](const QString& text) { search(box, text); });
+        return edit;
     };
-    add(u"txtICAO"_s, u"ICAO"_s, SearchBox::icao, 14, 92);
+    setFirstFocus(add(u"txtICAO"_s, u"ICAO"_s, SearchBox::icao, 14, 92));
     add(u"txtAirportName"_s, u"Airport name"_s, SearchBox::airportName, 116, 190);
     add(u"txtCity"_s, u"City"_s, SearchBox::city, 316, 206);
 }
