@@ -2,6 +2,8 @@
 
 #include "ui/shaped_form.h"
 
+#include <QElapsedTimer>
+
 namespace morvane {
 
 /// A screen above the windows that waits for its answer. Its keys "ok" and "cancel" end it.
@@ -16,6 +18,7 @@ public:
     /// Nothing while its key is dead, however it was asked for.
     virtual void ok();
     void cancel() override;
+    void setVisible(bool isWanted) override;
 
 Q_SIGNALS:
     void closed();
@@ -32,6 +35,11 @@ protected:
     bool isOkAllowed() const;
     /// The two keys, with the tips of this dialog.
     void addAnswerKeys(const QString& okTip, const QString& cancelTip);
+
+private:
+    void waitForKeyboard();
+
+    QElapsedTimer shown_;
 };
 
 } // namespace morvane

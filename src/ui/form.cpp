@@ -2,6 +2,8 @@
 
 #include "ui/shell.h"
 
+#include <QRadioButton>
+
 namespace morvane {
 
 Form::Form(Shell& shell, const QString& name, QWidget* parent) : QWidget(parent), shell_(shell) {
@@ -42,6 +44,7 @@ bool Form::canHaveFocus(const QWidget* control) const {
 }
 
 bool Form::focusFirst() {
+    giveStopToChosenOptions();
     QWidget* control = firstFocus_;
     if (!canHaveFocus(control)) control = nextInFocusChain();
     while (control != this && !canHaveFocus(control))
@@ -49,6 +52,18 @@ bool Form::focusFirst() {
     if (control == this) return false;
     control->setFocus();
     return true;
+}
+
+/// A group of options has one stop of Tab. Left to itself it is the option that had the focus last, even
+/// where another one was chosen since.
+void Form::giveStopToChosenOptions() {
+    const auto options = findChildren<QRadioButton*>();
+    for (const QRadioButton* chosen : options) {
+        if (!chosen->isChecked()) continue;
+        for (QRadioButton* option : options)
+            if (option->group() == chosen->group() && option->parentWidget() == chosen->parentWidget())
+                option->setFocusPolicy(option == chosen ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 SkinnedButton* Form::button(const QString& controlName) const {

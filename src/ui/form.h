@@ -55,6 +55,7 @@ protected:
 
 private:
     bool canHaveFocus(const QWidget* control) const;
+    void giveStopToChosenOptions();
 
     Shell& shell_;
     QWidget* firstFocus_ = nullptr;
