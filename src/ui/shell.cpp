@@ -176,8 +176,7 @@ void Shell::exitProgram() {
     if (isExiting_ || session_.jobRunning) return;
     isExiting_ = true;
     morvane::exitProgram(session_);
-    QApplication::closeAllWindows();
-    QApplication::quit();
+    QCoreApplication::exit(0); // TEMPORARY-FOR-WALK
 }
 
 QWidget* Shell::messageAnchor() const {

@@ -118,6 +118,7 @@ private:
     std::function<void(WindowProgram&)> furnish_;
     std::unique_ptr<WindowProgram> program_;
     QUrl address_;
+    int failures_ = 0;
     QPointer<QWidget> window_, control_;
 };
 
