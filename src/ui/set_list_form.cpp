@@ -72,6 +72,7 @@ void SetListForm::addInstructionsAndList() {
     list_->setColumns(setup_.columns, setup_.hasCheckBoxes);
     connect(list_, &SetTable::rowClicked, this, &SetListForm::clickRow);
     connect(list_, &SetTable::rowDoubleClicked, this, &SetListForm::useSet);
+    setFirstFocus(list_);
 }
 
 void SetListForm::addPictures() {

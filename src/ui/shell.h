@@ -44,6 +44,8 @@ public:
     void hideChildScreen(const QString& formName);
     /// What a navigation key does: the page, its formatting, the two names above.
     void goToPage(const QString& formName);
+    /// The main window's own page in the place of whichever stands there.
+    void goHome();
 
     /// The main page: its keys, its title, its numbers.
     void formatMainScreen();
@@ -77,6 +79,7 @@ public Q_SLOTS:
 
 private:
     void openOutside(const QUrl& address);
+    void giveFocus(Form& page);
 
     Session& session_;
     Skin& skin_;

@@ -69,9 +69,22 @@ TEST_F(SetTableTest, onlyTheUserTellsOfARow) {
     QTest::keyClick(&table, Qt::Key_Down);
     QTest::keyClick(&table, Qt::Key_Down); // already on the last row
     QTest::keyClick(&table, Qt::Key_Home);
-    EXPECT_EQ(takeClicked(), (QStringList{u"Key:2"_s, u"Key:3"_s, u"Key:1"_s}));
+    QTest::keyClick(&table, Qt::Key_Shift);
+    EXPECT_EQ(takeClicked(), (QStringList{u"Key:2"_s, u"Key:3"_s, u"Key:3"_s, u"Key:1"_s}));
     click(1);
     EXPECT_EQ(takeClicked(), QStringList{u"Key:1"_s}) << "a click on the selected row counts, too";
+}
+
+TEST_F(SetTableTest, aDragOverRowsTellsOfTheOneItEndsOn) {
+    table.show();
+    const auto placeOf = [this](int row) {
+        return table.visualItemRect(table.topLevelItem(row - 1)).center();
+    };
+    QTest::mousePress(table.viewport(), Qt::LeftButton, {}, placeOf(1));
+    QTest::mouseMove(table.viewport(), placeOf(3));
+    QTest::mouseRelease(table.viewport(), Qt::LeftButton, {}, placeOf(3));
+    EXPECT_EQ(table.selectedNames().size(), 3);
+    EXPECT_EQ(takeClicked(), QStringList{u"Key:3"_s});
 }
 
 TEST_F(SetTableTest, severalRowsAreSelectedWithControlAndShift) {

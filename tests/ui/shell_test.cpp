@@ -51,6 +51,62 @@ TEST_F(ShellTest, swapsPagesWithOneChildAWindow) {
     EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
 }
 
+/// A page in front of another one hides it: nothing of it can be reached or read.
+TEST_F(ShellTest, showsOnePageOfAWindowAtATime) {
+    const auto& ownKey = program.control<SkinnedButton>(u"frm_Main"_s, u"btn_GroundInstall"_s);
+    EXPECT_TRUE(ownKey.isVisible());
+    for (const QString& key : {u"btn_About"_s, u"btn_Switcher"_s}) {
+        program.press(u"frm_Main"_s, key);
+        EXPECT_FALSE(ownKey.isVisible()) << key.toStdString();
+    }
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_TRUE(ownKey.isVisible());
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    const auto& listKey = program.control<SkinnedButton>(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+    EXPECT_TRUE(listKey.isVisible());
+    program.press(u"frm_MVTextures"_s, u"btn_Ground"_s);
+    EXPECT_FALSE(listKey.isVisible());
+    program.press(u"frm_MVTextures"_s, u"btn_TextureSets"_s);
+    EXPECT_TRUE(listKey.isVisible());
+}
+
+TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
+    program.press(u"frm_Main"_s, u"btn_FlightConfig"_s);
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    program.press(u"frm_MVTextures"_s, u"btn_Main"_s);
+    const Form* weather = shell.loadedForm(u"frm_WxControl"_s);
+    EXPECT_TRUE(weather->isVisible());
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"flight config"_s});
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_FALSE(weather->isVisible());
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
+    EXPECT_TRUE(program.control<SkinnedButton>(u"frm_Main"_s, u"btn_GroundInstall"_s).isVisible());
+}
+
+/// The keyboard is on the page and not on the key that led to it, and no window is a stop of its own.
+TEST_F(ShellTest, givesEachPageAFirstFocus) {
+    const std::pair<QString, QString> pages[] = {{u"frm_WxControl"_s, u"txtICAO"_s},
+                                                 {u"frm_Switcher"_s, u"chkWideFS"_s},
+                                                 {u"frm_Config"_s, u"lstMVMain"_s},
+                                                 {u"frm_About"_s, u"btn_Home"_s},
+                                                 {u"frm_MVTextures"_s, u"lstTextureSets"_s},
+                                                 {u"frm_GroundColorize"_s, u"optCloudCover0"_s},
+                                                 {u"frm_KMTextures"_s, u"lstSkyTextureSets"_s},
+                                                 {u"frm_NightTextures"_s, u"lstTextureSets"_s}};
+    for (const auto& [page, control] : pages) {
+        if (childPage(page))
+            shell.goToPage(page);
+        else
+            shell.showHost(page);
+        const QWidget* window = shell.form(page)->window();
+        ASSERT_NE(window->focusWidget(), nullptr) << page.toStdString();
+        EXPECT_EQ(window->focusWidget()->objectName(), control) << page.toStdString();
+        EXPECT_EQ(window->focusPolicy(), Qt::NoFocus);
+    }
+    shell.goHome();
+    EXPECT_EQ(shell.form(u"frm_Main"_s)->focusWidget()->objectName(), u"btn_GroundInstall"_s);
+}
+
 TEST_F(ShellTest, attachesAPageAnewThatStandsThere) {
     shell.goToPage(u"frm_Config"_s);
     const Form* page = shell.loadedForm(u"frm_Config"_s);

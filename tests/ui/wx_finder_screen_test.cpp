@@ -89,9 +89,15 @@ TEST_F(WxFinderScreenTest, everyChangeFiltersAnew) {
 TEST_F(WxFinderScreenTest, theReportChosenBecomesAnEndOfTheFlight) {
     open([this](DialogForm& dialog) {
         const SkinnedButton& ok = *dialog.button(u"btn_Ok"_s);
-        EXPECT_EQ(ok.state(), ButtonState::disabled);
+        EXPECT_EQ(session.wxFilter.WxSelectedIcao, "K000") << "the first is chosen from the start";
+        EXPECT_TRUE(list->hasFocus());
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txtFilter"_s), u"X"_s);
+        EXPECT_EQ(ok.state(), ButtonState::disabled) << "nothing found, nothing to choose";
         QTest::keyClick(&dialog, Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible());
+        dialog.findChild<QLineEdit*>(u"txtFilter"_s)->clear();
+        QTest::keyClick(list, Qt::Key_Down);
+        EXPECT_EQ(session.wxFilter.WxSelectedIcao, "K001");
         click(7);
         EXPECT_EQ(session.wxFilter.WxSelectedIcao, "K007");
         QTest::mouseClick(dialog.button(u"btn_Ok"_s), Qt::LeftButton);

@@ -56,7 +56,7 @@ void frm_SelectSkyTexture::prepare() {
     for (CountEdit* box : boxes_)
         box->showCount();
     enableCounts();
-    chkStsGroup_[0]->setFocus();
+    setFirstFocus(chkStsGroup_[0]);
 }
 
 void frm_SelectSkyTexture::confirm() {

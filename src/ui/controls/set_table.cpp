@@ -4,7 +4,9 @@
 #include "ui/controls/table_look.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <algorithm>
 #include <utility>
 
 namespace morvane {
@@ -31,6 +33,12 @@ QStringList namesWhere(const QTreeWidget& table, Predicate isWanted) {
     return names;
 }
 
+bool isListKey(const QKeyEvent& event) {
+    constexpr int keys[] = {Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Home, Qt::Key_End,
+                            Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space};
+    return std::ranges::find(keys, event.key()) != std::end(keys) || event.matches(QKeySequence::SelectAll);
+}
+
 } // namespace
 
 QRgb paintedColour(QRgb stored) {
@@ -46,8 +54,12 @@ SetTable::SetTable(QWidget* parent) : QTreeWidget(parent) {
     connect(header(), &QHeaderView::sectionClicked, this, &SetTable::sortBy);
     // A click on a row's check box checks it and goes nowhere, so it tells nothing of that row.
     connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
-        if (item == currentItem()) Q_EMIT rowClicked(item->data(0, keyRole).toString());
+        if (item == currentItem()) tellOfCurrent();
     });
+}
+
+void SetTable::tellOfCurrent() {
+    Q_EMIT rowClicked(currentItem()->data(0, keyRole).toString());
 }
 
 void SetTable::setColumns(const std::vector<SetColumn>& columns, bool hasCheckBoxes) {
@@ -141,17 +153,26 @@ void SetTable::mouseDoubleClickEvent(QMouseEvent* event) {
     QTreeWidget::mouseDoubleClickEvent(event);
 }
 
-/// What follows may open a window, which would keep the release from the list.
-void SetTable::mouseReleaseEvent(QMouseEvent* event) {
-    QTreeWidget::mouseReleaseEvent(event);
-    if (std::exchange(isDoubleClick_, false)) Q_EMIT rowDoubleClicked();
-}
-
+/// A key of the list that leads nowhere, as on its only row, is a choice of the row it stays on.
 void SetTable::keyPressEvent(QKeyEvent* event) {
     const QTreeWidgetItem* before = currentItem();
     QTreeWidget::keyPressEvent(event);
-    const QTreeWidgetItem* now = currentItem();
-    if (now && now != before) Q_EMIT rowClicked(now->data(0, keyRole).toString());
+    if (currentItem() && (currentItem() != before || isListKey(*event))) tellOfCurrent();
+}
+
+void SetTable::mousePressEvent(QMouseEvent* event) {
+    pressed_ = itemAt(event->position().toPoint());
+    QTreeWidget::mousePressEvent(event);
+}
+
+/// A drag over rows selects them without a click. What follows a double click may open a window, which would
+/// keep the release from the list.
+void SetTable::mouseReleaseEvent(QMouseEvent* event) {
+    const bool isDrag = pressed_ && itemAt(event->position().toPoint()) != pressed_;
+    QTreeWidget::mouseReleaseEvent(event);
+    if (isDrag && currentItem() && currentItem() != pressed_) tellOfCurrent();
+    pressed_ = nullptr;
+    if (std::exchange(isDoubleClick_, false)) Q_EMIT rowDoubleClicked();
 }
 
 } // namespace morvane

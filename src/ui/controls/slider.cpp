@@ -2,6 +2,7 @@
 
 #include "ui/controls/slider_tip.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -118,6 +119,8 @@ void ucSlider::setValue(int value) {
     if (value == value_) return;
     value_ = value;
     update();
+    QAccessibleValueChangeEvent event(this, value);
+    QAccessible::updateAccessibility(&event);
     Q_EMIT Change();
     if (value_ == max_) Q_EMIT ArrivedLast();
     if (value_ == min_) Q_EMIT ArrivedFirst();

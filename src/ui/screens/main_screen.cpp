@@ -48,6 +48,8 @@ frm_Main::frm_Main(Shell& shell)
     for (const ButtonSetup& key : pageKeys())
         addButton(key, status_);
     new FootLine(this);
+    setFirstFocus(button(pageKeys().front().name));
+    focusFirst();
 }
 
 void frm_Main::formatMainScreen() {

@@ -45,7 +45,7 @@ frm_CC_From_Option::frm_CC_From_Option(Shell& shell)
 
 void frm_CC_From_Option::prepare() {
     optCloudCover_->button(scattered)->setChecked(true);
-    optCloudCover_->button(scattered)->setFocus();
+    setFirstFocus(optCloudCover_->button(scattered));
     setCover(session(), scattered + 1);
 }
 

@@ -43,7 +43,7 @@ void frm_CC_From_Metar_String::prepare() {
     txtMetarString_->clear();
     caption_->hide();
     cover_.clear();
-    txtMetarString_->setFocus();
+    setFirstFocus(txtMetarString_);
 }
 
 void frm_CC_From_Metar_String::processMetarString() {

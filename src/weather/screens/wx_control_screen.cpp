@@ -79,8 +79,9 @@ void frm_WxControl::addSearchBoxes() {
         auto* edit = addField<QLineEdit>(paper(), name, caption, {left, 62}, width);
         connect(edit, &QLineEdit::textChanged, this, [this, box, edit] { search(box, *edit); });
         searchBoxes_ << edit;
+        return edit;
     };
-    add(u"txtICAO"_s, u"ICAO"_s, SearchBox::icao, 14, 92);
+    setFirstFocus(add(u"txtICAO"_s, u"ICAO"_s, SearchBox::icao, 14, 92));
     add(u"txtAirportName"_s, u"Airport name"_s, SearchBox::airportName, 116, 190);
     add(u"txtCity"_s, u"City"_s, SearchBox::city, 316, 206);
 }

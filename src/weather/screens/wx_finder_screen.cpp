@@ -127,7 +127,7 @@ void frm_WxFinder::prepare() {
     allowIntensity();
     session().wxFilter.WxFinderLoading = false;
     filterMetars();
-    cboPrecipitation_->setFocus();
+    setFirstFocus(lstMetar_);
 }
 
 void frm_WxFinder::allowIntensity() {
@@ -138,18 +138,15 @@ void frm_WxFinder::allowIntensity() {
 
 void frm_WxFinder::choose(const QString& icao) {
     session().wxFilter.WxSelectedIcao = icao;
-    button(u"btn_Ok"_s)->setState(ButtonState::enabled);
+    allowOk(true);
 }
 
-/// What is found anew is not chosen yet.
+/// The first of what is found is chosen at once.
 void frm_WxFinder::filterMetars() {
     if (session().wxFilter.WxFinderLoading) return;
+    session().wxFilter.WxSelectedIcao.clear();
+    allowOk(false);
     lstMetar_->setReports(morvane::filterMetars(session()));
-    button(u"btn_Ok"_s)->setState(ButtonState::disabled);
-}
-
-void frm_WxFinder::ok() {
-    if (button(u"btn_Ok"_s)->state() != ButtonState::disabled) DialogForm::ok();
 }
 
 void frm_WxFinder::confirm() {
