@@ -1,5 +1,6 @@
 #include "support/printing.h"
 #include "support/window_program.h"
+#include "ui/controls/foot_line.h"
 #include "ui/dispatch_table.h"
 #include "weather/directory_rows.h"
 #include "weather/screens/airport_list.h"
@@ -184,6 +185,20 @@ TEST_F(WeatherScreenTest, whatIsChangedElsewhereIsShown) {
     EXPECT_EQ(support.text(), u"ASv6 Detected, update required, click to update ASv6"_s);
     EXPECT_TRUE(support.isEnabled());
     EXPECT_EQ(on<SkinnedButton>(u"btn_FlyNow"_s).state(), ButtonState::enabled);
+}
+
+TEST_F(WeatherScreenTest, theAgeOfTheReportsStandsBelowThePage) {
+    const FootLine& line = *program.shell.form(u"frm_Main"_s)->findChild<FootLine*>();
+    EXPECT_EQ(line.shown().text, u"No reports yet"_s) << "the two of the table were never loaded";
+    session.adoConn->execute(
+        u"UPDATE DECODED_METAR SET METAR_DATE = '30', METAR_TIME = '2010' WHERE METAR_ICAO = 'KSEA'"_s);
+    clsWxFinders::reload(session);
+    program.install.clock.now = QDateTime(QDate(2007, 5, 30), QTime(21, 14), Qt::UTC);
+    program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_EQ(line.shown().text, u"2 reports, the youngest of 20:10Z 30 May, 64 minutes old"_s);
+    EXPECT_EQ(line.shown().remark, u"Source: no weather server is set"_s);
+    program.press(u"frm_Main"_s, u"btn_About"_s);
+    EXPECT_EQ(line.shown().text, QString());
 }
 
 TEST_F(WeatherScreenTest, aLinkWithoutAnAddressSaysWhereItWouldStand) {

@@ -6,6 +6,7 @@
 #include "ui/controls/labels.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
+#include "weather/report_age.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/filter_choice.h"
 #include "weather/screens/link_label.h"
@@ -17,12 +18,15 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QUrl>
 
 namespace morvane {
 
 namespace {
 
+/// The age counts in minutes.
+constexpr std::chrono::seconds showAgeEvery{20};
 constexpr int fieldHeight = 22, captionRise = 15, keyRow = 397, optionRow = 262;
 
 /// A field's caption stands over it and is its name.
@@ -56,6 +60,9 @@ frm_WxControl::frm_WxControl(Shell& shellOfPages)
     addOptions();
     addReports();
     addKeys();
+    auto* age = new QTimer(this);
+    connect(age, &QTimer::timeout, this, &frm_WxControl::showAge);
+    age->start(showAgeEvery);
 }
 
 void frm_WxControl::addActiveSky() {
@@ -177,6 +184,11 @@ void frm_WxControl::refresh() {
     destination_->setReport(weather.DestMetar);
     button(u"btn_FlyNow"_s)->setState(weather.FlyNowDisabled ? ButtonState::disabled : ButtonState::enabled);
     showActiveSky();
+    showAge();
+}
+
+void frm_WxControl::showAge() {
+    setFootText({reportAgeText(session()), reportSourceText(session())});
 }
 
 // Searching ----------------------------------------------------------------------------------------------

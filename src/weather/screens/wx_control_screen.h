@@ -44,6 +44,7 @@ private:
     void fillLists(const QString& where);
     void fillAirports(const AirportFilter& filter);
     void showActiveSky();
+    void showAge();
     void openActiveSkyPage();
 
     bool isLoaded_ = false;
