@@ -234,8 +234,9 @@ void Walk::onScreen(const WalkScreen& screen, const std::function<void()>& body)
     if (screen.isDialog) return inDialog(screen, body);
     screen.open(*this);
     window_ = front();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window_->windowHandle(), patience));
-    body();
+    if (QTest::qWaitForWindowActive(window_->windowHandle(), patience)) return body();
+    ++failures_;
+    FAIL() << screen.name << " does not come to the front";
 }
 
 /// The call that opens the dialog waits for its end, so what is done meanwhile is done by a timer.
@@ -393,7 +394,7 @@ void Walk::checkReach(const QStringList& live) {
         if (!partOf(name).isEmpty()) continue;
         QWidget& control = find(name);
         const QWidget* hit = window_->childAt(control.mapTo(window_.data(), livePoint(control)));
-        EXPECT_TRUE(hit == &control || control.isAncestorOf(hit)) << name.toStdString() << " is covered";
+        EXPECT_TRUE(hit == &control || control.isAncestorOf(hit)) << name.toStdString() << " is covered by " << (hit ? nameOf(*hit).toStdString() : "nothing");
         const bool isOption = qobject_cast<QRadioButton*>(&control);
         EXPECT_TRUE(isOption || stops.contains(name)) << name.toStdString() << " is no stop of Tab";
     }

@@ -19,11 +19,12 @@ const CountColumn countColumn{
 } // namespace
 
 frm_SelectSkyTexture::frm_SelectSkyTexture(Shell& shell)
-    : DialogForm(shell, u"frm_SelectSkyTexture"_s, messageLook, {}),
-      boxes_(addCountBoxes(*this, session().modal.skySetCounts, countColumn)) {
+    : DialogForm(shell, u"frm_SelectSkyTexture"_s, messageLook, {}) {
     makeLabel(this, u"Select Texture Group"_s, {left, headTop, 140, 14}, TextRole::fieldCaption);
     makeLabel(this, u"Cloud Cover Quantity"_s, {countsLeft, headTop, 198, 14}, TextRole::fieldCaption);
+    // The keys go from one control to the next in the order in which they are made.
     addBaseSets();
+    boxes_ = addCountBoxes(*this, session().modal.skySetCounts, countColumn);
     makeLabel(this,
               u"Please be aware Overcast are special textures and only used for overcast conditions.and will "
               "therefore have their own count"_s,
@@ -41,12 +42,6 @@ void frm_SelectSkyTexture::addBaseSets() {
         box->setGeometry(left, firstRow + 18 * static_cast<int>(index), 140, 16);
         connect(box, &QCheckBox::clicked, this, &frm_SelectSkyTexture::storeBaseSets);
         chkStsGroup_[index] = box;
-    }
-    // The boxes were made after the counts and come before them.
-    QWidget* before = chkStsGroup_.back();
-    for (CountEdit* box : boxes_) {
-        setTabOrder(before, box);
-        before = box;
     }
 }
 

@@ -25,7 +25,7 @@ private:
     void enableCounts();
 
     std::array<QCheckBox*, 7> chkStsGroup_{};
-    std::array<CountEdit*, 5> boxes_; ///< of the cloud covers 1 to 5
+    std::array<CountEdit*, 5> boxes_{}; ///< of the cloud covers 1 to 5
 };
 
 } // namespace morvane
