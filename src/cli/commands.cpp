@@ -6,6 +6,7 @@
 #include "cli/json_output.h"
 #include "cli/night_commands.h"
 #include "cli/option_commands.h"
+#include "cli/originals_commands.h"
 #include "cli/route_commands.h"
 #include "cli/set_commands.h"
 #include "cli/set_kinds.h"
@@ -22,7 +23,6 @@
 #include "ground/texture_catalogue.h"
 #include "imaging/texture_codec.h"
 #include "simulator/flights.h"
-#include "simulator/originals.h"
 #include "simulator/set_matching.h"
 #include "weather/metar_decoder.h"
 
@@ -89,28 +89,6 @@ bool groundCreate(CommandContext& context) {
         context.session.modal.setCountsConfirmed = true;
     };
     GroundGeneration(context.session).createTextureSets(true);
-    return true;
-}
-
-Originals originalsOf(Session& session) {
-    return Originals(session.files, session.FSPath, session.AppPath);
-}
-
-bool originalsList(CommandContext& context) {
-    QJsonArray list;
-    for (const KeptOriginal& original : originalsOf(context.session).list())
-        list << toJson(original);
-    printJson(QJsonDocument(list));
-    return true;
-}
-
-bool originalsRestore(CommandContext& context) {
-    const int count = originalsOf(context.session).restore();
-    // The simulator shows the pilot's own files again, so no set of ours is the installed one.
-    loadedGroundSets(context.session).markInstalled({});
-    loadedSkySets(context.session).markInstalled({});
-    loadedNightSets(context.session).markInstalled({});
-    writeStandardError(u"%1 files put back\n"_s.arg(count));
     return true;
 }
 

@@ -11,8 +11,8 @@ class SimulatorCopier {
 public:
     explicit SimulatorCopier(Session& session);
 
-    /// Takes the whole list before the first copy: clears what a killed run left beside the targets and notes
-    /// what will be put where.
+    /// Takes the whole list before the first copy: clears what a killed run left beside the targets, keeps
+    /// the pilot's files and notes what will be put where. The failure of one file is raised by its copy.
     void prepare(const std::vector<FileCopy>& copies);
     /// The first half alone, for files that are the pilot's own.
     void clearStrays(const std::vector<FileCopy>& copies);
@@ -20,10 +20,14 @@ public:
     /// The same for a target that may be marked read-only: the mark goes first, and stays gone. Base install
     /// and options have always been so free; the installs of sets are not.
     void copyOverReadOnly(const FileCopy& copy);
+    /// A folder for copies; a restore of the originals takes it away when it is empty by then.
+    void makeFolder(const FilePath& folder) { originals_.makeFolder(folder); }
     /// After the last copy of the list.
     void finish() { originals_.settle(); }
 
 private:
+    void put(const FileCopy& copy, const FilePath& place);
+
     Session& session_;
     Originals originals_;
 };

@@ -60,7 +60,9 @@ public:
     void copyMode(const FilePath& model, const FilePath& target) override {
         act(target).copyMode(model, target);
     }
+    void setMode(const FilePath& file, unsigned mode) override { act(file).setMode(file, mode); }
     std::int64_t size(const FilePath& file) override { return act(file).size(file); }
+    FileStamp stamp(const FilePath& path) override { return act(path).stamp(path); }
     std::int64_t freeSpace(const FilePath& folder) override { return act(folder).freeSpace(folder); }
     QByteArray read(const FilePath& file) override { return act(file).read(file); }
     void write(const FilePath& file, const QByteArray& contents) override {

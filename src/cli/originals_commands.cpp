@@ -1,0 +1,47 @@
+#include "cli/originals_commands.h"
+
+#include "cli/json_output.h"
+#include "simulator/restore_originals.h"
+
+#include <QJsonArray>
+
+namespace morvane {
+
+namespace {
+
+QJsonObject toJson(const KeptOriginal& original) {
+    QJsonObject object{{u"path"_s, original.path},
+                       {u"size"_s, qint64(original.size)},
+                       {u"sha1"_s, original.checksum},
+                       {u"number"_s, original.number},
+                       {u"copy"_s, original.copy}};
+    // Lists of old do not know these.
+    if (original.day.isValid()) object[u"kept"_s] = original.day.toString(Qt::ISODate);
+    if (original.mode) object[u"mode"_s] = QString::number(original.mode, 8).rightJustified(4, u'0');
+    return object;
+}
+
+QJsonObject toJson(const RestoreReport& report) {
+    return {{u"putBack"_s, report.putBack},
+            {u"takenAway"_s, report.takenAway},
+            {u"left"_s, QJsonArray::fromStringList(report.left)},
+            {u"damaged"_s, QJsonArray::fromStringList(report.damaged)}};
+}
+
+} // namespace
+
+bool originalsList(CommandContext& context) {
+    QJsonArray list;
+    const Session& session = context.session;
+    for (const KeptOriginal& original : Originals(session.files, session.FSPath, session.AppPath).list())
+        list << toJson(original);
+    printJson(QJsonDocument(list));
+    return true;
+}
+
+bool originalsRestore(CommandContext& context) {
+    if (const auto report = restoreOriginals(context.session)) printJson(QJsonDocument(toJson(*report)));
+    return true;
+}
+
+} // namespace morvane
