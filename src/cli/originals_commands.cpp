@@ -1,7 +1,7 @@
 #include "cli/originals_commands.h"
 
 #include "cli/json_output.h"
-#include "simulator/restore_originals.h"
+#include "simulator/simulator_restore.h"
 
 #include <QJsonArray>
 
@@ -21,7 +21,7 @@ QJsonObject toJson(const KeptOriginal& original) {
     return object;
 }
 
-QJsonObject toJson(const RestoreReport& report) {
+QJsonObject toJson(const OriginalsReport& report) {
     return {{u"putBack"_s, report.putBack},
             {u"takenAway"_s, report.takenAway},
             {u"left"_s, QJsonArray::fromStringList(report.left)},

@@ -19,13 +19,24 @@ QString spellingAmong(const QStringList& names, const QString& name) {
 } // namespace
 
 FilePath DiskSpelling::find(const QString& path) {
+    return spelled(path, false);
+}
+
+FilePath DiskSpelling::findExactly(const QString& path) {
+    return spelled(path, true);
+}
+
+FilePath DiskSpelling::spelled(const QString& path, bool isExact) {
     const qsizetype end = path.lastIndexOf(u'\\');
     Folder& inside = folder(path.left(std::max<qsizetype>(end, 0)));
     const QString name = path.mid(end + 1);
+    const FilePath asGiven = inside.path.exactChild(name);
     QStringList& alike = inside.names[name.toCaseFolded()];
-    const QString spelling = spellingAmong(alike, name);
-    if (spelling.isEmpty()) alike << name;
-    return inside.path.exactChild(spelling.isEmpty() ? name : spelling);
+    const QString known = spellingAmong(alike, name);
+    if (!known.isEmpty() && (!isExact || known == name || files_.exists(asGiven)))
+        return inside.path.exactChild(known);
+    alike << name;
+    return asGiven;
 }
 
 DiskSpelling::Folder& DiskSpelling::folder(const QString& path) {

@@ -17,6 +17,9 @@ public:
     /// else another one, else as given; a name not found is taken as the file's spelling from then on. Both
     /// `relative()` and `native()` of the result are as on the disk.
     FilePath find(const QString& path);
+    /// The same for a file that is meant in that spelling: another one is taken only where the drive makes no
+    /// difference between the two.
+    FilePath findExactly(const QString& path);
     /// The folder of that path, alike.
     FilePath findFolder(const QString& path);
 
@@ -26,6 +29,7 @@ private:
         QHash<QString, QStringList> names; ///< by the name without regard to case
     };
     Folder& folder(const QString& path);
+    FilePath spelled(const QString& path, bool isExact);
 
     FileSystem& files_;
     FilePath root_;

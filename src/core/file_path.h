@@ -30,6 +30,8 @@ public:
     FilePath exactChild(const QString& name) const;
     /// A file beside this one whose name on the disk has that ending; in messages it goes by this one's name.
     FilePath withEnding(const QString& ending) const;
+    /// A spelling was settled on, by `exactChild` or `resolved`.
+    bool isResolved() const { return !resolved_.isEmpty(); }
     /// The folder above; a path without joined names loses the last name of its root.
     FilePath parent() const;
 

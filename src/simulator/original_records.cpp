@@ -12,6 +12,10 @@ bool OriginalRecord::isKept(const FileFingerprint& print) const {
     return !kept.empty() && kept.back().print == print;
 }
 
+bool OriginalRecord::wasKept(const FileFingerprint& print) const {
+    return std::ranges::find(kept, print, &OriginalFact::print) != kept.end();
+}
+
 std::vector<OriginalFact> OriginalRecord::facts() const {
     std::vector<OriginalFact> facts = kept;
     facts.insert(facts.end(), ours.begin(), ours.end());

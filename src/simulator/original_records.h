@@ -18,6 +18,8 @@ struct OriginalRecord {
     bool isOurs(const FileFingerprint& print) const;
     /// The pilot's youngest has those contents.
     bool isKept(const FileFingerprint& print) const;
+    /// One of the pilot's has.
+    bool wasKept(const FileFingerprint& print) const;
     /// The facts that make the same record.
     std::vector<OriginalFact> facts() const;
 };

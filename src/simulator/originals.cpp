@@ -32,6 +32,13 @@ void Originals::respell() {
     }
 }
 
+FilePath Originals::find(const FilePath& target) {
+    const QString path = target.relativeTo(simulator_);
+    if (!target.isResolved()) return spelling_.find(path);
+    const qsizetype end = path.lastIndexOf(u'\\') + 1;
+    return spelling_.findExactly(path.left(end) + FilePath(target.native()).fileName());
+}
+
 OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
     OriginalFact fact{kind, place.relative()};
     fact.day = today_;

@@ -27,7 +27,7 @@ struct FileCopy {
 };
 
 /// What a restore did with the files that are known.
-struct RestoreReport {
+struct OriginalsReport {
     int putBack = 0;     ///< the pilot's files; those that stand already are not counted
     int takenAway = 0;   ///< ours, where nothing stood before
     QStringList left;    ///< paths left as they are: changed by another hand, or before us not known
@@ -76,11 +76,11 @@ public:
     /// Gives the first tree back: the pilot's youngest files in the place of ours, with their modes, and
     /// nothing where we put the first file. What was given back has no facts afterwards. One file that fails
     /// does not keep the others from it. `progress` is called with a part of 1 after each file.
-    RestoreReport restore(const std::function<void(double)>& progress = [](double) {});
+    OriginalsReport restore(const std::function<void(double)>& progress = [](double) {});
 
 private:
     void respell();
-    FilePath find(const FilePath& target) { return spelling_.find(target.relativeTo(simulator_)); }
+    FilePath find(const FilePath& target);
     void prepareCopy(const FileCopy& copy, std::vector<OriginalFact>& facts);
     /// Adds what has to be noted before the file is replaced.
     void look(const FilePath& place, bool isForOurs, std::vector<OriginalFact>& facts);
@@ -93,8 +93,8 @@ private:
 
     void clearStrays();
     bool isSound(const OriginalFact& kept);
-    void restoreFile(const QString& path, RestoreReport& report);
-    void restoreKept(const FilePath& place, const OriginalRecord& record, RestoreReport& report);
+    void restoreFile(const QString& path, OriginalsReport& report);
+    void restoreKept(const FilePath& place, const OriginalRecord& record, OriginalsReport& report);
     unsigned modeAfter(const FilePath& place, const OriginalRecord& record, bool isThere);
     void removeMadeFolders();
 

@@ -12,8 +12,8 @@ constexpr unsigned everyonesWriteBits = 0222;
 
 } // namespace
 
-RestoreReport Originals::restore(const std::function<void(double)>& progress) {
-    RestoreReport report;
+OriginalsReport Originals::restore(const std::function<void(double)>& progress) {
+    OriginalsReport report;
     const QStringList paths = list_.records().all().keys();
     const auto tryStep = [&](const std::function<void()>& step) {
         try {
@@ -53,7 +53,7 @@ bool Originals::isSound(const OriginalFact& kept) {
     }
 }
 
-void Originals::restoreFile(const QString& path, RestoreReport& report) {
+void Originals::restoreFile(const QString& path, OriginalsReport& report) {
     const OriginalRecord record = list_.records().of(path);
     if (record.madeFolder) return; // when the files in it are gone
     const FilePath place = spelling_.find(path);
@@ -73,7 +73,7 @@ void Originals::restoreFile(const QString& path, RestoreReport& report) {
     list_.add({factOf(FactKind::gone, place)});
 }
 
-void Originals::restoreKept(const FilePath& place, const OriginalRecord& record, RestoreReport& report) {
+void Originals::restoreKept(const FilePath& place, const OriginalRecord& record, OriginalsReport& report) {
     const OriginalFact& kept = record.kept.back();
     const auto contents = files_.readIfThere(place);
     const std::optional<FileFingerprint> print =

@@ -37,10 +37,11 @@ public:
         if (const FoundList* list = findHeaded(lists_)) return {list->prefix, list->text.facts, true};
         for (const FoundList& list : lists_)
             if (!list.text.hasHead) return {list.prefix, list.text.facts};
-        for (const FoundList& list : lists_)
-            if (hasMovedHere(list)) return {list.prefix, list.text.facts, false, list.bytes};
+        if (const FoundList* list = findMoved(lists_))
+            return {list->prefix, list->text.facts, false, list->bytes};
         const std::vector<FoundList> left = readAll(leftListName);
         const FoundList* own = findHeaded(left);
+        if (!own) own = findMoved(left);
         return {freePrefix(), own ? own->text.facts : std::vector<OriginalFact>()};
     }
 
@@ -78,26 +79,60 @@ private:
         return there && here && there->isSameFile(*here);
     }
 
-    bool hasMovedHere(const FoundList& list) {
-        if (files_.exists(FilePath(list.text.simulator) / u"fs9.exe")) return false;
+    /// How far the files here are those that a list knows.
+    struct Standing {
+        int replaced = 0; ///< that a file of ours is known to have been put in their place
+        int ours = 0, pilots = 0;
+        int untouched = 0; ///< of ours, those last written when we wrote them
+    };
+
+    Standing standingOf(const FoundList& list) {
         OriginalRecords records;
         for (const OriginalFact& fact : list.text.facts)
             records.apply(fact);
-        int ours = 0, standing = 0, pilots = 0;
         DiskSpelling spelling(files_, simulator_);
+        Standing standing;
         for (auto record = records.all().begin(); record != records.all().end(); ++record) {
-            if (record->ours.empty()) continue;
-            ++ours;
-            const auto print = tryRead([&] { return fingerprintOf(files_, spelling.find(record.key())); });
+            // Where both have the same bytes they say nothing.
+            if (record->ours.empty() || record->wasKept(record->ours.back().print)) continue;
+            ++standing.replaced;
+            const FilePath file = spelling.find(record.key());
+            const auto print = tryRead([&] { return fingerprintOf(files_, file); });
             if (!print) continue;
-            const bool isPilots =
-                std::ranges::find(record->kept, *print, &OriginalFact::print) != record->kept.end();
-            pilots += isPilots;
-            standing += !isPilots && record->isOurs(*print);
+            const auto ours = std::ranges::find(record->ours, *print, &OriginalFact::print);
+            standing.pilots += record->wasKept(*print);
+            standing.ours += ours != record->ours.end();
+            standing.untouched += ours != record->ours.end() && files_.stamp(file).time == ours->time;
         }
+        return standing;
+    }
+
+    /// What speaks for a list being that of a simulator which stands here now, the stronger first: it is the
+    /// folder that the list knew; so many files are ours. Nothing when it does not look so: in another folder
+    /// the pilot's files say nothing, as two simulators may have the same, and some of our bytes may stand
+    /// there by chance, but not with the very time of our writing.
+    using Evidence = std::pair<bool, int>;
+
+    std::optional<Evidence> evidenceOf(const FoundList& list) {
+        constexpr int tooManyForChance = 20;
+        if (files_.exists(FilePath(list.text.simulator) / u"fs9.exe")) return std::nullopt;
+        const auto [replaced, ours, pilots, untouched] = standingOf(list);
         const auto here = tryRead([&] { return files_.stamp(simulator_); });
-        const bool isSameFolder = here && here->number == list.text.folderNumber;
-        return (standing > 0 || isSameFolder) && 2 * (standing + pilots) >= ours;
+        const bool isFolder = here && here->number == list.text.folderNumber;
+        const bool isKnown = isFolder && (ours + pilots > 0 || replaced == 0);
+        const bool isLikely = untouched > 0 || (ours > tooManyForChance && 2 * ours > replaced);
+        return isKnown || isLikely ? std::optional(Evidence{isFolder, ours}) : std::nullopt;
+    }
+
+    const FoundList* findMoved(const std::vector<FoundList>& lists) {
+        const FoundList* best = nullptr;
+        std::optional<Evidence> most;
+        for (const FoundList& list : lists)
+            if (const auto evidence = evidenceOf(list); evidence > most) { // none is less than any
+                best = &list;
+                most = evidence;
+            }
+        return best;
     }
 
     /// Also where the folder could not be listed: no list is ever written over another.

@@ -228,7 +228,7 @@ TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
     for (qsizetype i = 0; i < paths.size(); ++i)
         put(paths[i], cases[i].at);
     for (const int round : {1, 2}) { // once more: what was left is left again
-        const RestoreReport report = originals().restore();
+        const OriginalsReport report = originals().restore();
         EXPECT_EQ(report.left, left);
         EXPECT_EQ(report.putBack, round == 1 ? 2 : 0);
         EXPECT_EQ(report.takenAway, round == 1 ? 1 : 0);
@@ -276,7 +276,7 @@ TEST_F(OriginalsTest, aDamagedKeptFileIsLeftOutAndTheOthersComeBack) {
     install("ours", {a, b, c});
     writeFile(keptFiles / a, "damaged");
     files.remove(keptFiles / b);
-    const RestoreReport report = originals().restore();
+    const OriginalsReport report = originals().restore();
     EXPECT_EQ(report.damaged, (QStringList{a, b}));
     EXPECT_EQ(report.putBack, 1);
     EXPECT_EQ(contents(a) + '|' + contents(c), "ours|" + c.toUtf8());

@@ -10,6 +10,6 @@ namespace morvane {
 /// tropical textures are off. Files that were left as they are are named in a message, which is an
 /// Exclamation where a kept file is damaged; at the end one line says what was done. Nothing after the
 /// message of a failure.
-std::optional<RestoreReport> restoreOriginals(Session& session);
+std::optional<OriginalsReport> restoreOriginals(Session& session);
 
 } // namespace morvane

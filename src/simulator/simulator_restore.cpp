@@ -1,4 +1,4 @@
-#include "simulator/restore_originals.h"
+#include "simulator/simulator_restore.h"
 
 #include "core/failure_report.h"
 #include "core/job.h"
@@ -44,7 +44,7 @@ QString listed(const QStringList& paths) {
     return text;
 }
 
-void tellLeft(Session& session, const RestoreReport& report) {
+void tellLeft(Session& session, const OriginalsReport& report) {
     if (!report.damaged.isEmpty())
         session.user.showMessage(
             {MessageKind::exclamation, title,
@@ -58,7 +58,7 @@ void tellLeft(Session& session, const RestoreReport& report) {
                  listed(report.left)});
 }
 
-QString doneText(const RestoreReport& report) {
+QString doneText(const OriginalsReport& report) {
     QString text = u"%1 files put back"_s.arg(report.putBack);
     if (report.takenAway > 0) text += u", %1 taken away"_s.arg(report.takenAway);
     const qsizetype left = report.left.size() + report.damaged.size();
@@ -67,10 +67,10 @@ QString doneText(const RestoreReport& report) {
 
 } // namespace
 
-std::optional<RestoreReport> restoreOriginals(Session& session) {
+std::optional<OriginalsReport> restoreOriginals(Session& session) {
     const Job job(session);
     if (!job) return std::nullopt;
-    std::optional<RestoreReport> report;
+    std::optional<OriginalsReport> report;
     reportFailures(session.user, {}, [&] {
         session.user.showMessage({MessageKind::progress, title,
                                   u"Morvane is putting your own files back.  Please wait......."_s, false,
