@@ -83,6 +83,18 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
     return error;
 }
 
+std::error_code removeEmptyFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+#ifdef Q_OS_WIN
+    // The library's own tries to remove a file next and tells of that.
+    if (!RemoveDirectoryW(folder.c_str()))
+        error.assign(static_cast<int>(GetLastError()), std::system_category());
+#else
+    std::filesystem::remove(folder, error); // refuses a folder that is not empty
+#endif
+    return error;
+}
+
 void writeAll(QFileDevice& file, const char* bytes, qint64 count, const FilePath& path) {
     if (file.write(bytes, count) != count)
         throw Error(codeOf(file.error(), ErrorCode::diskFull), path.text());
@@ -154,11 +166,9 @@ void NativeFileSystem::remove(const FilePath& file) {
 }
 
 void NativeFileSystem::removeFolder(const FilePath& folder) {
-    std::error_code error;
     const auto path = systemPath(folder);
     if (!std::filesystem::is_directory(path)) throw Error(ErrorCode::pathNotFound, folder.text());
-    std::filesystem::remove(path, error); // refuses a folder that is not empty
-    raise(error, folder);
+    raise(removeEmptyFolder(path), folder);
 }
 
 bool NativeFileSystem::isLink(const FilePath& path) {

@@ -6,6 +6,7 @@
 #include "simulator/original_records.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace morvane {
 
@@ -25,6 +26,12 @@ auto tryRead(Action action) -> std::optional<decltype(action())> {
     } catch (const Error&) {
         return std::nullopt;
     }
+}
+
+/// A drive may keep times less exactly than the one that a file was moved from.
+bool isSameTime(std::int64_t time, std::int64_t other) {
+    constexpr std::int64_t coarsest = 2'000'000'000;
+    return std::abs(time - other) <= coarsest;
 }
 
 class OriginalsSearch {
@@ -102,7 +109,8 @@ private:
             const auto ours = std::ranges::find(record->ours, *print, &OriginalFact::print);
             standing.pilots += record->wasKept(*print);
             standing.ours += ours != record->ours.end();
-            standing.untouched += ours != record->ours.end() && files_.stamp(file).time == ours->time;
+            standing.untouched +=
+                ours != record->ours.end() && isSameTime(files_.stamp(file).time, ours->time);
         }
         return standing;
     }
