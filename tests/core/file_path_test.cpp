@@ -140,11 +140,12 @@ TEST(NativeFileSystem, aFailedWriteLeavesNothingAndNamesTheFile) {
     files.write(source, contents);
     files.write(target, "old");
     for (const FilePath& file : {target, fresh}) {
-        const std::function<void()> actions[] = {[&] { files.write(file, contents); },
-                                                 [&] { replaceFile(files, source, file); }};
+        const std::function<void()> actions[] = {[&] { replaceFile(files, source, file); },
+                                                 [&] { files.write(file, contents); }};
         for (const auto& action : actions) {
             const FileSizeLimit limit(1000);
             EXPECT_EQ(test::descriptionRaisedBy(action), u"Disk full: "_s + file.text());
+            EXPECT_TRUE(files.list(folder.path(), u"*"_s + partialCopySuffix).isEmpty());
         }
     }
     EXPECT_EQ(test::readFile(target), "old");

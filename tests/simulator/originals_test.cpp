@@ -229,6 +229,8 @@ TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
     install("ours", paths);
     for (qsizetype i = 0; i < paths.size(); ++i)
         put(paths[i], cases[i].at);
+    const FilePath stray = target(u"Texture\\stray.bmp"_s + partialCopySuffix);
+    writeFile(stray, "what a kill left");
     for (const int round : {1, 2}) { // once more: what was left is left again
         const OriginalsReport report = originals().restore();
         EXPECT_EQ(report.left, left);
@@ -237,6 +239,7 @@ TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
         EXPECT_TRUE(report.damaged.isEmpty() && !report.failure);
         for (qsizetype i = 0; i < paths.size(); ++i)
             EXPECT_EQ(contents(paths[i]), cases[i].after) << i;
+        EXPECT_FALSE(files.exists(stray));
     }
     // What was left is the pilot's from now on and kept as such, beside the first.
     install("ours", paths);
@@ -249,25 +252,29 @@ TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
 /// mode that it had.
 TEST_F(OriginalsTest, aRestoreGivesTheModesBack) {
     const QString taken = u"Texture\\taken.bmp"_s, later = u"Texture\\later.bmp"_s,
-                  away = u"Texture\\away.bmp"_s, added = u"Texture\\added.bmp"_s;
-    for (const QString& path : {taken, later, away})
+                  between = u"Texture\\between.bmp"_s, away = u"Texture\\away.bmp"_s,
+                  added = u"Texture\\added.bmp"_s;
+    for (const QString& path : {taken, later, between, away})
         writeFile(target(path), path.toUtf8());
     files.setMode(target(taken), 0444);
     files.setMode(target(away), 0600);
     writeFile(app / u"ours.bmp", "ours");
     originals().prepare({{app / u"ours.bmp", target(taken)}});
     originals().takeReadOnlyMark(target(taken));
-    install("ours", {taken, later, away, added});
+    install("ours", {taken, later, between, away, added});
     EXPECT_FALSE(files.isReadOnly(target(taken)));
-    for (const QString& path : {later, added})
+    for (const QString& path : {later, between, added})
         files.setReadOnly(target(path), true);
+    originals().takeReadOnlyMark(target(between)); // as an option does before it copies once more
+    EXPECT_FALSE(files.isReadOnly(target(between)));
     files.remove(target(away));
-    EXPECT_EQ(originals().restore().putBack, 3);
-    for (const QString& path : {taken, later, away})
+    EXPECT_EQ(originals().restore().putBack, 4);
+    for (const QString& path : {taken, later, between, away})
         EXPECT_EQ(contents(path), path.toUtf8());
     EXPECT_EQ(contents(added), "none");
     EXPECT_EQ(files.stamp(target(taken)).mode, 0444u);
     EXPECT_EQ(files.stamp(target(later)).mode, 0444u);
+    EXPECT_EQ(files.stamp(target(between)).mode, 0444u);
     EXPECT_EQ(files.stamp(target(away)).mode, 0600u);
 }
 
