@@ -45,10 +45,12 @@ OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
     return fact;
 }
 
-void Originals::prepare(const std::vector<FileCopy>& copies) {
+void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
     std::vector<OriginalFact> facts;
-    for (const FileCopy& copy : copies)
+    for (const FileCopy& copy : copies) {
         prepareCopy(copy, facts);
+        pump();
+    }
     list_.add(facts);
 }
 

@@ -50,8 +50,10 @@ public:
 
     /// Call it with all copies before the first of them is made: looks at every target, keeps the pilot's
     /// files and notes, in one write, what is about to be put where. A file that cannot be read or kept does
-    /// not stop the others: its failure is raised by `place`.
-    void prepare(const std::vector<FileCopy>& copies);
+    /// not stop the others: its failure is raised by `place`. A first install takes its time here; `pump` is
+    /// called after each copy's part.
+    void prepare(
+        const std::vector<FileCopy>& copies, const std::function<void()>& pump = [] {});
     /// Where that copy goes, in the spelling of the disk. Raises what kept it from being prepared: it must
     /// not be made then. A copy that was not prepared brings a file of the pilot's own; only what stands in
     /// its place is kept.

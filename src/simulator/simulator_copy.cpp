@@ -12,7 +12,10 @@ SimulatorCopier::SimulatorCopier(Session& session)
 
 void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
     clearStrays(copies);
-    originals_.prepare(copies);
+    // Outside a job a click could begin something else in the middle.
+    originals_.prepare(copies, [this] {
+        if (session_.jobRunning) session_.user.pumpMessages();
+    });
 }
 
 void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
