@@ -1,6 +1,7 @@
 #include "cli/originals_commands.h"
 
 #include "cli/json_output.h"
+#include "simulator/simulator_copy.h"
 #include "simulator/simulator_restore.h"
 
 #include <QJsonArray>
@@ -32,8 +33,7 @@ QJsonObject toJson(const OriginalsReport& report) {
 
 bool originalsList(CommandContext& context) {
     QJsonArray list;
-    const Session& session = context.session;
-    for (const KeptOriginal& original : Originals(session.files, session.FSPath, session.AppPath).list())
+    for (const KeptOriginal& original : originalsOf(context.session).list())
         list << toJson(original);
     printJson(QJsonDocument(list));
     return true;

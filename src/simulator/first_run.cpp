@@ -6,7 +6,6 @@
 #include "ground/cloud_cover.h"
 #include "simulator/backup_files.h"
 #include "simulator/flights.h"
-#include "simulator/kept_originals.h"
 #include "simulator/simulator_copy.h"
 
 #include <algorithm>
@@ -30,7 +29,7 @@ void keepSimulatorSplash(Session& session) {
     const FilePath splash = splashTarget(session);
     if (!session.files.exists(splash)) return;
     std::optional<FilePath> own = splash;
-    if (isCoverSplash(session, splash)) own = KeptOriginals(session).of(splash);
+    if (isCoverSplash(session, splash)) own = originalsOf(session).keptFile(splash);
     if (own) replaceFile(session.files, *own, session.AppPath / u"Media\\dlgsplash.bmp");
 }
 

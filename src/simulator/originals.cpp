@@ -182,8 +182,14 @@ std::vector<KeptOriginal> Originals::list() const {
     return kept;
 }
 
-bool Originals::isOurs(const FilePath& target, const FileFingerprint& print) {
-    return list_.records().of(find(target).relative()).isOurs(print);
+const OriginalRecord& Originals::recordOf(const FilePath& target) {
+    return list_.records().of(find(target).relative());
+}
+
+std::optional<FilePath> Originals::keptFile(const FilePath& target) {
+    const OriginalRecord& record = recordOf(target);
+    if (record.kept.empty() || !isSound(record.kept.back())) return std::nullopt;
+    return folder_ / record.kept.back().where;
 }
 
 } // namespace morvane

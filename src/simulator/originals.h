@@ -71,8 +71,11 @@ public:
 
     /// All kept files, sorted by path and number.
     std::vector<KeptOriginal> list() const;
-    /// What stands in the simulator under that path is a file of ours.
-    bool isOurs(const FilePath& target, const FileFingerprint& print);
+    /// What is known of that place of the simulator.
+    const OriginalRecord& recordOf(const FilePath& target);
+    /// The pilot's youngest file of that place; nothing where none was kept, or where it is no longer what
+    /// was kept.
+    std::optional<FilePath> keptFile(const FilePath& target);
     const OriginalRecords& records() const { return list_.records(); }
 
     /// Gives the first tree back: the pilot's youngest files in the place of ours, with their modes, and

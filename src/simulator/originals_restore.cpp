@@ -1,3 +1,4 @@
+#include "core/attempts.h"
 #include "core/literals.h"
 #include "core/safe_copy.h"
 #include "simulator/originals.h"
@@ -15,21 +16,16 @@ constexpr unsigned everyonesWriteBits = 0222;
 OriginalsReport Originals::restore(const std::function<void(double)>& progress) {
     OriginalsReport report;
     const QStringList paths = list_.records().all().keys();
-    const auto tryStep = [&](const std::function<void()>& step) {
-        try {
-            step();
-        } catch (const Error& error) {
-            if (!report.failure) report.failure = error;
-        }
-    };
-    tryStep([&] { clearStrays(); });
+    FirstFailure failure;
+    failure.attempt([&] { clearStrays(); });
     double done = 0;
     for (const QString& path : paths) {
-        tryStep([&] { restoreFile(path, report); });
+        failure.attempt([&] { restoreFile(path, report); });
         progress(++done / static_cast<double>(paths.size()));
     }
-    tryStep([&] { removeMadeFolders(); });
-    if (!paths.isEmpty()) tryStep([&] { list_.write(); });
+    failure.attempt([&] { removeMadeFolders(); });
+    if (!paths.isEmpty()) failure.attempt([&] { list_.write(); });
+    report.failure = failure.error();
     return report;
 }
 

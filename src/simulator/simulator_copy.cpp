@@ -6,9 +6,11 @@
 
 namespace morvane {
 
-SimulatorCopier::SimulatorCopier(Session& session)
-    : session_(session),
-      originals_(session.files, session.FSPath, session.AppPath, session.clock.localTime().date()) {}
+Originals originalsOf(const Session& session) {
+    return {session.files, session.FSPath, session.AppPath, session.clock.localTime().date()};
+}
+
+SimulatorCopier::SimulatorCopier(Session& session) : session_(session), originals_(originalsOf(session)) {}
 
 void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
     clearStrays(copies);

@@ -2,9 +2,11 @@
 
 #include "core/failure_report.h"
 #include "core/job.h"
+#include "core/numbers.h"
 #include "ground/ground_sets.h"
 #include "night/night_sets.h"
 #include "simulator/configs.h"
+#include "simulator/simulator_copy.h"
 #include "sky/sky_sets.h"
 
 namespace morvane {
@@ -40,7 +42,7 @@ void forgetInstalled(Session& session) {
 QString listed(const QStringList& paths) {
     constexpr qsizetype most = 10;
     QString text = paths.first(std::min(most, paths.size())).join(u"\n"_s);
-    if (paths.size() > most) text += u"\nand %1 more"_s.arg(paths.size() - most);
+    if (paths.size() > most) text += u"\nand "_s + countText(paths.size() - most) + u" more"_s;
     return text;
 }
 
@@ -59,10 +61,10 @@ void tellLeft(Session& session, const OriginalsReport& report) {
 }
 
 QString doneText(const OriginalsReport& report) {
-    QString text = u"%1 files put back"_s.arg(report.putBack);
-    if (report.takenAway > 0) text += u", %1 taken away"_s.arg(report.takenAway);
+    QString text = countText(report.putBack, u"file"_s) + u" put back"_s;
+    if (report.takenAway > 0) text += u", "_s + countText(report.takenAway) + u" taken away"_s;
     const qsizetype left = report.left.size() + report.damaged.size();
-    return left > 0 ? text + u", %1 left as they are"_s.arg(left) : text;
+    return left > 0 ? text + u", "_s + countText(left) + u" left as they are"_s : text;
 }
 
 } // namespace
@@ -75,10 +77,8 @@ std::optional<OriginalsReport> restoreOriginals(Session& session) {
         session.user.showMessage({MessageKind::progress, title,
                                   u"Morvane is putting your own files back.  Please wait......."_s, false,
                                   false, true});
-        const QDate today = session.clock.localTime().date();
-        report = Originals(session.files, session.FSPath, session.AppPath, today).restore([&](double part) {
-            session.user.updateProgress({}, {}, 100 * part);
-        });
+        report = originalsOf(session).restore(
+            [&](double part) { session.user.updateProgress({}, {}, 100 * part); });
         // The rows come last: a kill before them leaves what the next restore finishes.
         const bool isUntouched = report->failure && report->putBack + report->takenAway == 0;
         if (!isUntouched) forgetInstalled(session);

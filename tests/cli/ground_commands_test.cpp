@@ -157,7 +157,7 @@ TEST_F(GroundCommands, aRestoreNamesWhatItLeaves) {
         int status;
         QString list, said;
     } cases[] = {
-        {install.simulator() / path, 0, u"left"_s, u"1 files put back, 1 left as they are\n"_s},
+        {install.simulator() / path, 0, u"left"_s, u"1 file put back, 1 left as they are\n"_s},
         {install.home() / u"Backup\\Originals" / path, 1, u"damaged"_s, u"Exclamation: "_s},
     };
     for (const auto& road : cases) {

@@ -6,6 +6,7 @@
 #include "simulator/backups.h"
 #include "simulator/first_run.h"
 #include "simulator/simulator_copy.h"
+#include "simulator/simulator_restore.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -75,6 +76,26 @@ TEST_F(BackupTest, restoreIsTheIdentityForWhatWasBackedUp) {
     EXPECT_EQ(after.take(u"Scenery/World/texture/later.bmp"_s), "added since");
     EXPECT_EQ(after, before);
     EXPECT_TRUE(install.user.messages.back().text.endsWith(u"stand by...\""_s));
+}
+
+/// A backup may hold files of ours. Put back they are ours again, also when they were taken away in between;
+/// what it holds of the pilot's stays his, also where nothing stood any more.
+TEST_F(BackupTest, whatWasOursInABackupIsOursAgain) {
+    const auto before = contentsBelow(install.simulator());
+    install.addGroundSet(u"1-Blue"_s, u"Sunny"_s, true,
+                         {u"Texture\\029h2su6.bmp"_s, u"Texture\\added.bmp"_s});
+    session.ground.SelectedGroundSet = u"1-Blue"_s;
+    GroundInstallation(session).installTextureSet(true);
+    backupOnRequest(session);
+    for (const bool isTakenAway : {true, false}) {
+        if (isTakenAway) restoreOriginals(session);
+        install.files.remove(world / u"029B2SU6.BMP");
+        restore(u"1-Backup"_s);
+        EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "1-Blue Texture\\029h2su6.bmp");
+        EXPECT_EQ(readFile(world / u"added.bmp"), "1-Blue Texture\\added.bmp");
+        restoreOriginals(session);
+        EXPECT_EQ(contentsBelow(install.simulator()), before);
+    }
 }
 
 TEST_F(BackupTest, restorePassesOverReadOnlyTargetsAndDamagedCopiesWithoutAWord) {

@@ -2,15 +2,17 @@
 
 #include "core/application.h"
 #include "core/options.h"
+#include "core/safe_copy.h"
 #include "ground/ground_installation.h"
 #include "night/night_installation.h"
-#include "core/safe_copy.h"
 #include "simulator/backup_files.h"
+#include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"
 #include "simulator/simulator_restore.h"
 #include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 #include "simulator/texture_switches.h"
 #include "sky/sky_installation.h"
 #include "support/night_install.h"
@@ -18,6 +20,8 @@
 #include "support/small_install.h"
 
 #include <QDirIterator>
+#include <chrono>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -27,7 +31,7 @@ namespace {
 using test::contentsBelow;
 using test::writeFile;
 
-constexpr int steps = 30, oftenKilled = 4, latestKill = 60;
+constexpr int steps = 30, oftenKilled = 4, latestKill = 120;
 constexpr int seedsInEveryRun = 3;
 
 /// Contents and mode of every file below a folder, names of folders alone.
@@ -72,8 +76,10 @@ public:
         const QMap<QString, QByteArray> contents = contentsBelow(simulator);
         for (auto file = contents.begin(); file != contents.end(); ++file)
             writeFile(other / file.key(), *file + (file.key().contains(u"008") ? " of another" : ""));
-        for (const FilePath& one : {simulator, other})
+        for (const FilePath& one : {simulator, other}) {
+            makeOlder(one);
             planes_.push_back({one, treeOf(files_, one), {}, {}});
+        }
         current_ = &planes_.front();
         restart();
     }
@@ -89,6 +95,14 @@ public:
     }
 
 private:
+    /// No file of the pilot's was written while we wrote ours.
+    static void makeOlder(const FilePath& folder) {
+        namespace fs = std::filesystem;
+        for (const auto& entry : fs::recursive_directory_iterator(fs::path(folder.native().toStdU16String())))
+            if (entry.is_regular_file())
+                fs::last_write_time(entry.path(), entry.last_write_time() - std::chrono::hours(1));
+    }
+
     void addSets() {
         int number = 2;
         for (const QString& cover : {u"Overcast"_s, u"Sky Clear"_s, u"Unknown"_s})
@@ -168,8 +182,8 @@ private:
              }},
             {"import", [&] { importSimulator(); }},
             {"import undone", [&] { restoreStock(*session_); }},
-            {"backup", [&] { createBackup(*session_, true); }},
-            //{"backup put back", [&] { putBackupBack(); }},
+            {"backup", [&] { createBackup(*session_, false); }},
+            {"backup put back", [&] { putBackupBack(); }},
             {"originals put back", [&] { restoreOriginals(*session_); }},
             {"mark", [&] { markReadOnly(); }},
             {"another hand", [&] { changeByHand(); }},
@@ -189,6 +203,7 @@ private:
         }
         if (isKilled || draw(6) == 0) restart();
         files_.failAt(0, false);
+        noteBackups();
     }
 
     void installGround() {
@@ -199,15 +214,22 @@ private:
 
     void importSimulator() {
         const FilePath scenery = current_->folder / u"Scenery";
-        importStock(*session_, StockSource{scenery / u"World\\texture", scenery / u"UTEurLC\\Texture"});
+        const Job job(*session_);
+        importStock(*session_, job, StockSource{scenery / u"World\\texture", scenery / u"UTEurLC\\Texture"});
     }
 
+    /// Those of the plane in use.
     void putBackupBack() {
-        clsBackups::reload(*session_);
         QStringList names;
-        for (const auto& backup : *session_->gBackups)
-            names << backup->BackupName;
+        for (auto backup = backups_.begin(); backup != backups_.end(); ++backup)
+            if (*backup == current_) names << backup.key();
         if (!names.isEmpty()) restoreBackup(*session_, drawFrom(names));
+    }
+
+    void noteBackups() {
+        clsBackups::reload(*session_);
+        for (const auto& backup : *session_->gBackups)
+            if (!backups_.contains(backup->BackupName)) backups_[backup->BackupName] = current_;
     }
 
     /// Not what a killed run left, which is nobody's.
@@ -253,9 +275,12 @@ private:
         ASSERT_TRUE(report) << log_;
         EXPECT_TRUE(report->damaged.isEmpty() && !report->failure) << log_;
         Tree now = treeOf(hand_, current_->folder), first = current_->first;
-        for (const QString& path : current_->changed) {
-            now.remove(path);
-            first.remove(path);
+        for (const QString& path : current_->changed) { // in whatever case it came back
+            const auto isIt = [&](Tree::iterator file) {
+                return file.key().compare(path, Qt::CaseInsensitive) == 0;
+            };
+            now.removeIf(isIt);
+            first.removeIf(isIt);
         }
         EXPECT_EQ(namesOf(now, first), QString()) << log_;
         const auto standing = contentsBelow(current_->folder).values(),
@@ -301,6 +326,7 @@ private:
     std::vector<Plane> planes_;
     Plane* current_ = nullptr;
     QStringList titles_;
+    QMap<QString, const Plane*> backups_; ///< by name, and of which plane
     int moves_ = 0;
     std::string log_;
 };
