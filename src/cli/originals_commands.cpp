@@ -1,5 +1,5 @@
-#include "cli/originals_commands.h"
-
+#include "cli/command_helpers.h"
+#include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "simulator/simulator_copy.h"
 #include "simulator/simulator_restore.h"
@@ -29,19 +29,30 @@ QJsonObject toJson(const OriginalsReport& report) {
             {u"damaged"_s, QJsonArray::fromStringList(report.damaged)}};
 }
 
-} // namespace
-
-bool originalsList(CommandContext& context) {
+void list(CommandContext& context) {
     QJsonArray list;
     for (const KeptOriginal& original : originalsOf(context.session).list())
         list << toJson(original);
     printJson(QJsonDocument(list));
-    return true;
 }
 
-bool originalsRestore(CommandContext& context) {
+void restore(CommandContext& context) {
     if (const auto report = restoreOriginals(context.session)) printJson(QJsonDocument(toJson(*report)));
-    return true;
+}
+
+} // namespace
+
+std::vector<Command> originalsCommands() {
+    return {{.words = u"originals list"_s,
+             .options = {{jsonOption.name, u"the same: the list is one JSON array in any case"_s}},
+             .run = list,
+             .meaning = u"the kept simulator files"_s,
+             .example = u"originals list"_s},
+            {.words = u"originals restore"_s,
+             .writes = true,
+             .run = restore,
+             .meaning = u"gives the simulator back as it was, and tells which files it left"_s,
+             .example = u"originals restore"_s}};
 }
 
 } // namespace morvane

@@ -21,6 +21,10 @@ void copyDeliveredFlights(Session& session);
 /// which win over kept ones of the same name. Nothing on a WideFS client, whose flights are the server's.
 /// Asks for the user's folder when there is none of the usual name; without an answer only the kept flights
 /// are there. A failure is told; the list then names what was gathered before.
+///
+/// A flight in "\\Flights" that neither folder holds is moved to "\\Backup\\Flights". Where "\\Flights" is
+/// not the program's alone, because it is a link or one of the folders that are gathered from, it stays as it
+/// is and is only listed.
 void loadFlightFiles(Session& session);
 /// What the splash says meanwhile.
 extern const QString flightsProgressText;

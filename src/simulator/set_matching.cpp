@@ -126,18 +126,19 @@ bool processMetarString(Session& session, const QString& metar) {
     return false;
 }
 
-int flyNow(Session& session) {
+FlyReport flyNow(Session& session) {
     session.CoverCancelled = false;
     if (!session.CommandLineRun) selectCloudCoverMethod(session);
-    return session.CoverCancelled ? -1 : flyWithCover(session);
+    return session.CoverCancelled ? FlyReport{} : flyWithCover(session);
 }
 
-int flyWithCover(Session& session) {
+FlyReport flyWithCover(Session& session) {
     SetMatching matching(session);
-    const int copied = matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
-    startSavedFlight(session);
-    if (!session.modal.FlightSelected) launchFlightSimulator(session);
-    return copied;
+    FlyReport report;
+    if (matching.askInstallMatchingSets()) report.filesCopied = matching.filesCopied();
+    report.isSimulatorStarted = startSavedFlight(session);
+    if (!session.modal.FlightSelected) report.isSimulatorStarted = launchFlightSimulator(session);
+    return report;
 }
 
 } // namespace morvane
