@@ -78,7 +78,9 @@ void BackupRun::plan(const BackupPlace& place) {
 
 /// The first run takes the pilot's where one of ours may stand; later ones remember which are ours.
 void BackupRun::plan(const FilePath& own, const FilePath& copy) {
-    copies_.push_back({isFirstRun_ ? originals_->keptFile(own).value_or(own) : own, copy});
+    FilePath source = own;
+    if (isFirstRun_) attempt([&] { source = originals_->keptFile(own).value_or(own); });
+    copies_.push_back({source, copy});
     if (!originals_) return;
     for (const OriginalFact& ours : originals_->recordOf(own).ours)
         list_.addOurs(copy, ours.print);

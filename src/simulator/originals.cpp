@@ -186,9 +186,17 @@ const OriginalRecord& Originals::recordOf(const FilePath& target) {
     return list_.records().of(find(target).relative());
 }
 
+bool Originals::isOurs(const FilePath& target) {
+    const FilePath place = find(target);
+    const OriginalRecord& record = list_.records().of(place.relative());
+    if (record.ours.empty()) return false;
+    const auto contents = files_.readIfThere(place);
+    return contents && record.isOurs(fingerprintOf(*contents));
+}
+
 std::optional<FilePath> Originals::keptFile(const FilePath& target) {
     const OriginalRecord& record = recordOf(target);
-    if (record.kept.empty() || !isSound(record.kept.back())) return std::nullopt;
+    if (record.kept.empty() || !isOurs(target) || !isSound(record.kept.back())) return std::nullopt;
     return folder_ / record.kept.back().where;
 }
 

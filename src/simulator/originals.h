@@ -73,8 +73,10 @@ public:
     std::vector<KeptOriginal> list() const;
     /// What is known of that place of the simulator.
     const OriginalRecord& recordOf(const FilePath& target);
-    /// The pilot's youngest file of that place; nothing where none was kept, or where it is no longer what
-    /// was kept.
+    /// One of ours stands there. Raises when the file cannot be read.
+    bool isOurs(const FilePath& target);
+    /// The pilot's youngest file in the place of one of ours; nothing where none of ours stands, where none
+    /// was kept, or where it is no longer what was kept.
     std::optional<FilePath> keptFile(const FilePath& target);
     const OriginalRecords& records() const { return list_.records(); }
 

@@ -271,6 +271,17 @@ TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedFor) {
     EXPECT_EQ(backupNames().size(), 2);
 }
 
+/// They go through the list of originals, too: a pilot's flight of that name is not lost, and all is undone.
+TEST_F(FirstRunTest, theDeliveredFlightsCanBeTakenBack) {
+    writeFile(flights / u"ÄLPLER.FLT", "the pilot's");
+    const auto before = contentsBelow(install.simulator());
+    doFirstRun(session);
+    EXPECT_EQ(readFile(flights / u"ÄLPLER.FLT"), "Älpler");
+    EXPECT_EQ(readFile(flights / u"Zürich.flt"), "Zürich");
+    restoreOriginals(session);
+    EXPECT_EQ(contentsBelow(install.simulator()), before);
+}
+
 /// A folder stands where a file should go: that file alone is missed, and told of.
 TEST_F(FirstRunTest, whatFailsCostsNothingElse) {
     for (const FilePath& place : {keptSplash, flights / u"Älpler.flt"}) {
@@ -294,10 +305,12 @@ TEST_F(FirstRunTest, whatFailsCostsNothingElse) {
 /// Sets of ours stand in the simulator: from an earlier install, or from between two starts.
 TEST_F(FirstRunTest, theKeptOriginalsAreTakenForWhatIsOurs) {
     writeFile(keptSplash, "as delivered");
-    install.addGroundSet(u"1-Blue"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s});
+    install.addGroundSet(u"1-Blue"_s, u"Overcast"_s, true,
+                         {u"Texture\\029h2su6.bmp"_s, u"Texture\\029b2su6.bmp"_s});
     session.ground.SelectedGroundSet = u"1-Blue"_s;
     GroundInstallation(session).installTextureSet(true);
     ASSERT_EQ(readFile(splashTarget(session)), "splash OVC");
+    writeFile(world / u"029B2SU6.BMP", "another's"); // changed since ours
     const FilePath originals = install.home() / u"Backup\\Originals", aside = install.home() / u"aside";
     install.files.rename(originals, aside);
     doFirstRun(session);
@@ -308,6 +321,7 @@ TEST_F(FirstRunTest, theKeptOriginalsAreTakenForWhatIsOurs) {
     EXPECT_EQ(readFile(keptSplash), "the pilot's splash");
     EXPECT_EQ(readFile(install.home() / u"Backup\\2-Backup\\Texture\\029H2SU6.BMP"),
               "the pilot's GENERIC WORLD\\029h2su6.bmp");
+    EXPECT_EQ(readFile(install.home() / u"Backup\\2-Backup\\Texture\\029B2SU6.BMP"), "another's");
     EXPECT_TRUE(isBackupComplete(session, u"2-Backup"_s));
 }
 

@@ -10,6 +10,7 @@
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"
+#include "simulator/flights.h"
 #include "simulator/simulator_restore.h"
 #include "simulator/stock_import.h"
 #include "simulator/stock_requests.h"
@@ -185,6 +186,7 @@ private:
             {"backup", [&] { createBackup(*session_, false); }},
             {"backup put back", [&] { putBackupBack(); }},
             {"originals put back", [&] { restoreOriginals(*session_); }},
+            {"flights", [&] { bringFlights(); }},
             {"mark", [&] { markReadOnly(); }},
             {"another hand", [&] { changeByHand(); }},
             {"move", [&] { move(); }},
@@ -216,6 +218,12 @@ private:
         const FilePath scenery = current_->folder / u"Scenery";
         const Job job(*session_);
         importStock(*session_, job, StockSource{scenery / u"World\\texture", scenery / u"UTEurLC\\Texture"});
+    }
+
+    void bringFlights() {
+        for (const char16_t* name : {u"Älpler.flt", u"Älpler.wx"})
+            writeFile(install_.home() / u"Flights" / name, "a delivered flight");
+        copyDeliveredFlights(*session_);
     }
 
     /// Those of the plane in use.
