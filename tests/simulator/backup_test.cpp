@@ -315,6 +315,7 @@ TEST_F(FirstRunTest, theKeptOriginalsAreTakenForWhatIsOurs) {
     install.files.rename(originals, aside);
     doFirstRun(session);
     EXPECT_EQ(readFile(keptSplash), "as delivered") << "nobody knows the pilot's";
+    QDir(originals.native()).removeRecursively(); // of the flights
     install.files.rename(aside, originals);
     setFirstTime(u"True"_s);
     doFirstRun(session);
