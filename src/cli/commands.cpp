@@ -5,6 +5,7 @@
 #include "core/failure_report.h"
 #include "core/install_folder.h"
 #include "core/options.h"
+#include "weather/active_sky.h"
 
 #include <algorithm>
 
@@ -29,6 +30,8 @@ bool makeReady(const Command& command, Session& session) {
         if (!startUp(session)) return false;
         // What copies sets has to know whether a splash goes with them.
         session.InhibitCustomSplash = isCustomSplashInhibited(session);
+        // Whatever else runs is not held up by a weather program it does not ask.
+        if (firstWord(command) == u"metar") tellActiveSkyProblem(session);
     } else if (command.needs == Needs::folder) {
         const QString problem = installFolderProblem(session.files, session.AppPath);
         if (!problem.isEmpty()) session.user.systemBox(problem, {}, SystemBoxButtons::ok);

@@ -2,6 +2,8 @@
 
 #include "ui/shaped_form.h"
 
+#include <QElapsedTimer>
+
 namespace morvane {
 
 /// A screen above the windows that waits for its answer. Its keys "ok" and "cancel" end it.
@@ -13,8 +15,10 @@ public:
     /// Prepares, shows, waits; the answer stands in the session.
     void run();
 
+    /// Nothing while its key is dead, however it was asked for.
     virtual void ok();
     void cancel() override;
+    void setVisible(bool isWanted) override;
 
 Q_SIGNALS:
     void closed();
@@ -27,8 +31,15 @@ protected:
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
+    void allowOk(bool isAllowed);
+    bool isOkAllowed() const;
     /// The two keys, with the tips of this dialog.
     void addAnswerKeys(const QString& okTip, const QString& cancelTip);
+
+private:
+    void waitForKeyboard();
+
+    QElapsedTimer shown_;
 };
 
 } // namespace morvane

@@ -5,12 +5,14 @@
 #include "core/file_helpers.h"
 #include "core/options.h"
 #include "core/session.h"
+#include "core/store_records.h"
 #include "simulator/flights.h"
 #include "simulator/resource_folders.h"
 #include "ui/screens/main_screen.h"
 #include "ui/screens/splash_screen.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
+#include "weather/active_sky.h"
 #include "weather/wx_finders.h"
 
 #include <QApplication>
@@ -44,8 +46,10 @@ void loadBehindSplash(Shell& shell) {
     getCustomSplashVal(session);
     if (!session.IsWideClient) showStep(splash, flightsProgressText, 40);
     loadFlightFiles(session);
-    clsResourceFolders::reload(session);
-    clsWxFinders::reload(session);
+    if (hasStore(session)) {
+        clsResourceFolders::reload(session);
+        clsWxFinders::reload(session);
+    }
     showStep(splash, u"Loading the texture sets. Please Wait............."_s, 60);
     shell.formatMainScreen();
     showStep(splash, {}, 100);
@@ -72,6 +76,7 @@ int runProgram(Shell& shell, const QString& commandLine) {
         runUnattended(session, commandLine);
         return 0;
     }
+    tellActiveSkyProblem(session);
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const bool isStarted = reportFailures(session.user, report, [&] {
         loadBehindSplash(shell);
