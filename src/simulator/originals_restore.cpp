@@ -110,7 +110,7 @@ void Originals::removeMadeFolders() {
     for (const OriginalFact& made : folders) { // the inner ones first
         const FilePath folder = spelling_.find(made.path);
         try {
-            files_.removeFolder(folder);
+            if (!files_.isLink(folder)) files_.removeFolder(folder); // a link came later, from the pilot
         } catch (const Error& error) {
             if (error.code() == ErrorCode::folderNotEmpty) continue; // something of the pilot's is in it
             if (error.code() != ErrorCode::pathNotFound) throw;

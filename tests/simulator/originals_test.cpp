@@ -306,6 +306,13 @@ TEST_F(OriginalsTest, foldersThatWereMadeGoWhenTheyAreEmpty) {
         EXPECT_FALSE(files.exists(target(made)));
         EXPECT_EQ(files.exists(target(u"Flights"_s)), hasOther);
     }
+    // In its place the pilot has put a link.
+    const FilePath link = target(u"Linked"_s);
+    originals().makeFolder(link);
+    files.removeFolder(link);
+    ASSERT_TRUE(QFile::link(folder.path().native(), link.native()));
+    originals().restore();
+    EXPECT_TRUE(files.isLink(link));
 }
 
 /// Each simulator has a list of its own; one that was moved goes on with its old one, and one that seemed to
