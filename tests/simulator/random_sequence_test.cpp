@@ -21,6 +21,7 @@
 #include "support/small_install.h"
 
 #include <QDirIterator>
+#include <QFileInfo>
 #include <chrono>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -283,6 +284,12 @@ private:
         ASSERT_TRUE(report) << log_;
         EXPECT_TRUE(report->damaged.isEmpty() && !report->failure) << log_;
         Tree now = treeOf(hand_, current_->folder), first = current_->first;
+        for (const QString& left : report->left) {
+            const QString path = QString(left).replace(u'\\', u'/');
+            EXPECT_TRUE(current_->changed.contains(path, Qt::CaseInsensitive)) << qPrintable(path) << log_;
+            for (QFileInfo above(path); above.path() != u"."; above.setFile(above.path()))
+                first[above.path()] = {}; // it keeps its folders
+        }
         for (const QString& path : current_->changed) { // in whatever case it came back
             const auto isIt = [&](Tree::iterator file) {
                 return file.key().compare(path, Qt::CaseInsensitive) == 0;
