@@ -4,7 +4,6 @@
 #include "ground/texture_catalogue.h"
 #include "ground/texture_sets.h"
 #include "night/night_texture_sets.h"
-#include "simulator/originals.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
 #include "weather/metar_decoder.h"
@@ -107,10 +106,6 @@ QJsonObject toJson(const clsSkyTextureSubSet& subSet) {
         {u"HorizonLow"_s, subSet.HorizonLow},
         {u"HorizonHigh"_s, subSet.HorizonHigh},
     };
-}
-
-QJsonObject toJson(const KeptOriginal& original) {
-    return {{u"path"_s, original.path}, {u"size"_s, qint64(original.size)}, {u"sha1"_s, original.checksum}};
 }
 
 QJsonObject toJson(const std::vector<CatalogueFile>& files) {

@@ -8,7 +8,6 @@ namespace morvane {
 class clsDecodeMetar;
 class clsTextureSet;
 struct CatalogueFile;
-struct KeptOriginal;
 struct clsNightTextureSet;
 struct clsSkyTextureSet;
 struct clsSkyTextureSubSet;
@@ -20,7 +19,6 @@ QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator);
 QJsonObject toJson(const clsNightTextureSet& set, const QString& decimalSeparator);
 QJsonObject toJson(const clsSkyTextureSet& set);
 QJsonObject toJson(const clsSkyTextureSubSet& subSet);
-QJsonObject toJson(const KeptOriginal& original);
 /// The catalogue's four parallel arrays.
 QJsonObject toJson(const std::vector<CatalogueFile>& files);
 

@@ -1,10 +1,8 @@
+#include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
-#include "cli/terminal.h"
-#include "ground/ground_sets.h"
-#include "night/night_sets.h"
-#include "simulator/originals.h"
-#include "sky/sky_sets.h"
+#include "simulator/simulator_copy.h"
+#include "simulator/simulator_restore.h"
 
 #include <QJsonArray>
 
@@ -12,8 +10,23 @@ namespace morvane {
 
 namespace {
 
-Originals originalsOf(Session& session) {
-    return Originals(session.files, session.FSPath, session.AppPath);
+QJsonObject toJson(const KeptOriginal& original) {
+    QJsonObject object{{u"path"_s, original.path},
+                       {u"size"_s, qint64(original.size)},
+                       {u"sha1"_s, original.checksum},
+                       {u"number"_s, original.number},
+                       {u"copy"_s, original.copy}};
+    // Lists of old do not know these.
+    if (original.day.isValid()) object[u"kept"_s] = original.day.toString(Qt::ISODate);
+    if (original.mode) object[u"mode"_s] = QString::number(original.mode, 8).rightJustified(4, u'0');
+    return object;
+}
+
+QJsonObject toJson(const OriginalsReport& report) {
+    return {{u"putBack"_s, report.putBack},
+            {u"takenAway"_s, report.takenAway},
+            {u"left"_s, QJsonArray::fromStringList(report.left)},
+            {u"damaged"_s, QJsonArray::fromStringList(report.damaged)}};
 }
 
 void list(CommandContext& context) {
@@ -24,25 +37,21 @@ void list(CommandContext& context) {
 }
 
 void restore(CommandContext& context) {
-    const int count = originalsOf(context.session).restore();
-    // The simulator shows the pilot's own files again, so no set of ours is the installed one.
-    loadedGroundSets(context.session).markInstalled({});
-    loadedSkySets(context.session).markInstalled({});
-    loadedNightSets(context.session).markInstalled({});
-    writeStandardError(u"%1 files put back\n"_s.arg(count));
+    if (const auto report = restoreOriginals(context.session)) printJson(QJsonDocument(toJson(*report)));
 }
 
 } // namespace
 
 std::vector<Command> originalsCommands() {
     return {{.words = u"originals list"_s,
+             .options = {{jsonOption.name, u"the same: the list is one JSON array in any case"_s}},
              .run = list,
              .meaning = u"the kept simulator files"_s,
              .example = u"originals list"_s},
             {.words = u"originals restore"_s,
              .writes = true,
              .run = restore,
-             .meaning = u"puts the kept simulator files back, read-only ones included"_s,
+             .meaning = u"gives the simulator back as it was, and tells which files it left"_s,
              .example = u"originals restore"_s}};
 }
 

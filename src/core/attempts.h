@@ -28,6 +28,7 @@ public:
             if (!failure_) failure_ = error;
         }
     }
+    const std::optional<Error>& error() const { return failure_; }
     void raise() const {
         if (failure_) throw *failure_;
     }

@@ -28,8 +28,12 @@ QString tableText(ErrorCode code) {
         return u"Disk full"_s;
     case ErrorCode::permissionDenied:
         return u"Permission denied"_s;
+    case ErrorCode::otherDrive:
+        return u"Can't move to another drive"_s;
     case ErrorCode::pathNotFound:
         return u"Path not found"_s;
+    case ErrorCode::folderNotEmpty:
+        return u"Folder not empty"_s;
     case ErrorCode::invalidPropertyValue:
         return u"Invalid property value"_s;
     case ErrorCode::duplicateKey:

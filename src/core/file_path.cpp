@@ -95,6 +95,12 @@ FilePath FilePath::exactChild(const QString& name) const {
     return path;
 }
 
+FilePath FilePath::withEnding(const QString& ending) const {
+    FilePath path = *this;
+    path.resolved_ = native() + ending;
+    return path;
+}
+
 FilePath FilePath::parent() const {
     FilePath above = *this;
     above.resolved_.clear();

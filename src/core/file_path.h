@@ -28,6 +28,10 @@ public:
     /// The same, but in exactly that spelling; no other one is looked for. For folders that only we write to:
     /// a new name among thousands needs no search.
     FilePath exactChild(const QString& name) const;
+    /// A file beside this one whose name on the disk has that ending; in messages it goes by this one's name.
+    FilePath withEnding(const QString& ending) const;
+    /// A spelling was settled on, by `exactChild` or `resolved`.
+    bool isResolved() const { return !resolved_.isEmpty(); }
     /// The folder above; a path without joined names loses the last name of its root.
     FilePath parent() const;
 
@@ -35,6 +39,8 @@ public:
     QString fileName() const;
     /// The part that was joined behind the root, with "\" between the names.
     QString relative() const { return names_.join(u'\\'); }
+    /// The part that was joined behind `folder`, which this path was joined from.
+    QString relativeTo(const FilePath& folder) const { return names_.mid(folder.names_.size()).join(u'\\'); }
     /// For messages: the path as joined, with the system's separators.
     QString text() const;
     /// The path on this system. Each name is taken in the spelling found on the disk, if need be without

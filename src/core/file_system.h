@@ -4,8 +4,20 @@
 
 #include <QByteArray>
 #include <cstdint>
+#include <optional>
 
 namespace morvane {
+
+/// What the system knows of a file or folder without reading it.
+struct FileStamp {
+    std::int64_t size = 0;
+    std::int64_t time = 0;    ///< of the last write, in nanoseconds since 1970
+    std::uint64_t number = 0; ///< stays when the file is renamed; no other one on its drive has it
+    std::uint64_t drive = 0;  ///< tells the numbers of two drives apart as long as both are there
+    unsigned mode = 0;        ///< permission bits, as of chmod; elsewhere 0444 or 0666
+
+    bool isSameFile(const FileStamp& other) const { return number == other.number && drive == other.drive; }
+};
 
 /// Every operation of the engine on files and folders, so that a test can make the n-th one fail.
 /// Failures raise Error with the path in the description.
@@ -19,7 +31,7 @@ public:
     /// Names of the files (never folders) that the mask takes, hidden and read-only ones included, sorted by
     /// upper-cased name: the order decides the order of a copy. A missing folder lists nothing.
     virtual QStringList list(const FilePath& folder, const QString& mask) = 0;
-    /// Names of the folders in it, sorted alike, links left out.
+    /// Names of the folders in it, sorted alike, links left out. A missing folder lists nothing.
     virtual QStringList listFolders(const FilePath& folder) = 0;
     /// Makes the folder and those above it; an existing one is no failure.
     virtual void makeFolder(const FilePath& folder) = 0;
@@ -36,10 +48,15 @@ public:
     virtual void setReadOnly(const FilePath& file, bool readOnly) = 0;
     /// Gives `target` the mode of `model`.
     virtual void copyMode(const FilePath& model, const FilePath& target) = 0;
+    virtual void setMode(const FilePath& file, unsigned mode) = 0;
     virtual std::int64_t size(const FilePath& file) = 0;
+    /// Of a link, what it points to.
+    virtual FileStamp stamp(const FilePath& path) = 0;
     virtual std::int64_t freeSpace(const FilePath& folder) = 0;
     virtual QByteArray read(const FilePath& file) = 0;
-    /// Replaces the file's contents; never leaves half of them.
+    /// Nothing for a file that is not there, nor for a link that leads nowhere.
+    std::optional<QByteArray> readIfThere(const FilePath& file);
+    /// Replaces the file's contents; never leaves half of them, nor anything else when it fails.
     virtual void write(const FilePath& file, const QByteArray& contents) = 0;
     /// Adds to the file's end, making it when missing, and hands it to the system before it returns.
     virtual void append(const FilePath& file, const QByteArray& contents) = 0;
@@ -61,7 +78,9 @@ public:
     bool isReadOnly(const FilePath& file) override;
     void setReadOnly(const FilePath& file, bool readOnly) override;
     void copyMode(const FilePath& model, const FilePath& target) override;
+    void setMode(const FilePath& file, unsigned mode) override;
     std::int64_t size(const FilePath& file) override;
+    FileStamp stamp(const FilePath& path) override;
     std::int64_t freeSpace(const FilePath& folder) override;
     QByteArray read(const FilePath& file) override;
     void write(const FilePath& file, const QByteArray& contents) override;

@@ -24,6 +24,8 @@ ErrorCode codeOf(const std::error_code& error) {
     if (error == std::errc::no_such_file_or_directory) return ErrorCode::pathNotFound;
     if (error == std::errc::no_space_on_device) return ErrorCode::diskFull;
     if (error == std::errc::io_error) return ErrorCode::ioFailure;
+    if (error == std::errc::cross_device_link) return ErrorCode::otherDrive;
+    if (error == std::errc::directory_not_empty) return ErrorCode::folderNotEmpty;
     return ErrorCode::permissionDenied;
 }
 
@@ -81,6 +83,18 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
     return error;
 }
 
+std::error_code removeEmptyFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+#ifdef Q_OS_WIN
+    // The library's own tries to remove a file next and tells of that.
+    if (!RemoveDirectoryW(folder.c_str()))
+        error.assign(static_cast<int>(GetLastError()), std::system_category());
+#else
+    std::filesystem::remove(folder, error); // refuses a folder that is not empty
+#endif
+    return error;
+}
+
 void writeAll(QFileDevice& file, const char* bytes, qint64 count, const FilePath& path) {
     if (file.write(bytes, count) != count)
         throw Error(codeOf(file.error(), ErrorCode::diskFull), path.text());
@@ -116,8 +130,11 @@ QStringList NativeFileSystem::list(const FilePath& folder, const QString& mask) 
 }
 
 QStringList NativeFileSystem::listFolders(const FilePath& folder) {
+    const QDir directory(folder.native());
+    if (directory.exists() && !directory.isReadable())
+        throw Error(ErrorCode::permissionDenied, folder.text());
     const auto filters = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks;
-    return sortedByUpperName(QDir(folder.native()).entryList(filters, QDir::Unsorted));
+    return sortedByUpperName(directory.entryList(filters, QDir::Unsorted));
 }
 
 void NativeFileSystem::makeFolder(const FilePath& folder) {
@@ -149,11 +166,9 @@ void NativeFileSystem::remove(const FilePath& file) {
 }
 
 void NativeFileSystem::removeFolder(const FilePath& folder) {
-    std::error_code error;
     const auto path = systemPath(folder);
     if (!std::filesystem::is_directory(path)) throw Error(ErrorCode::pathNotFound, folder.text());
-    std::filesystem::remove(path, error); // refuses a folder that is not empty
-    raise(error, folder);
+    raise(removeEmptyFolder(path), folder);
 }
 
 bool NativeFileSystem::isLink(const FilePath& path) {
@@ -179,6 +194,12 @@ void NativeFileSystem::copyMode(const FilePath& model, const FilePath& target) {
         throw Error(missingOrDenied(target), target.text());
 }
 
+void NativeFileSystem::setMode(const FilePath& file, unsigned mode) {
+    std::error_code error;
+    std::filesystem::permissions(systemPath(file), std::filesystem::perms{mode}, error);
+    raise(error, file);
+}
+
 std::int64_t NativeFileSystem::size(const FilePath& file) {
     const QFileInfo info(file.native());
     if (!info.exists()) throw Error(ErrorCode::fileNotFound, file.text());
@@ -198,14 +219,17 @@ QByteArray NativeFileSystem::read(const FilePath& file) {
 }
 
 void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
-    const FilePath placed = file.resolved();
-    const FilePath part(placed.native() + partialCopySuffix);
-    {
+    const FilePath placed = file.resolved(), part = partOf(placed);
+    try {
         QFile out(part.native());
-        openForWriting(out, file, QIODevice::WriteOnly);
-        writeAll(out, contents.constData(), contents.size(), file);
+        openForWriting(out, part, QIODevice::WriteOnly);
+        writeAll(out, contents.constData(), contents.size(), part);
+        out.close();
+        rename(part, placed);
+    } catch (const Error&) {
+        QFile::remove(part.native());
+        throw;
     }
-    rename(part, placed);
 }
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {

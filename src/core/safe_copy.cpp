@@ -17,8 +17,7 @@ void removeQuietly(FileSystem& files, const FilePath& file) {
 } // namespace
 
 void replaceFile(FileSystem& files, const FilePath& source, const FilePath& target) {
-    const FilePath placed = target.resolved();
-    const FilePath part(placed.native() + partialCopySuffix);
+    const FilePath placed = target.resolved(), part = partOf(placed);
     const bool isLink = files.isLink(placed);
     if (!isLink && files.isReadOnly(placed)) throw Error(ErrorCode::permissionDenied, placed.text());
     try {

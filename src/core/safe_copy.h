@@ -8,6 +8,11 @@ namespace morvane {
 /// What a copy is called until it is whole. No listing of textures takes the name.
 inline const QString partialCopySuffix = u".morvane-part"_s;
 
+/// Beside the target, and in messages under its name: what a failure is about is the target.
+inline FilePath partOf(const FilePath& target) {
+    return target.withEnding(partialCopySuffix);
+}
+
 /// Copies the contents of `source` over `target` so that at every moment, a kill or a full disk included, the
 /// target is whole: the old file or the new one. A replaced file keeps its spelling and its mode, a new one
 /// gets the normal mode; a link is replaced by a plain file and what it points to is left alone.

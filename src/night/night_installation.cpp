@@ -51,9 +51,9 @@ bool NightInstallation::installSelectedSet() {
     if (!refreshNightSets(session_)) return false;
     const QString name = session_.night.SelectedNightSet;
     const std::vector<FileCopy> copies = name == u"Default" ? copyListOfDefault() : copyListOfSet();
+    showProgress();
     SimulatorCopier copier(session_);
     prepare(copier, copies, nullptr);
-    showProgress();
     if (!loadedNightSets(session_).markInstalled(name)) return false;
     copyAll(copier, copies);
     finish(copier);

@@ -13,9 +13,29 @@ FilePath listFile(const Session& session, const QString& name) {
     return backupFolder(session, name) / u"backup.lst";
 }
 
+FilePath oursFile(const Session& session, const QString& name) {
+    return backupFolder(session, name) / u"ours.lst";
+}
+
 /// Below the backup: its folder there and its name.
 QString pathOf(const FilePath& file) {
     return file.parent().fileName() + u'\\' + file.fileName();
+}
+
+QString lineOf(const FilePath& file, const FileFingerprint& print) {
+    return QString::number(print.size) + u'\t' + print.checksum + u'\t' + pathOf(file) + u'\n';
+}
+
+/// By path without regard to case; those that are missing have none.
+QMultiHash<QString, FileFingerprint> filesOf(const QString& text) {
+    QMultiHash<QString, FileFingerprint> files;
+    for (const QString& line : splitLines(text)) {
+        const QStringList fields = line.split(u'\t');
+        if (fields.size() != 3) continue;
+        const QString key = fields[0] == missingWord ? QString() : fields[2].toCaseFolded();
+        files.insert(key, {fields[0].toLongLong(), fields[1]});
+    }
+    return files;
 }
 
 } // namespace
@@ -32,11 +52,10 @@ std::array<BackupPlace, 2> backupPlaces(const Session& session, const QString& n
 
 BackupList BackupList::read(Session& session, const QString& name) {
     BackupList list;
-    try {
-        list.parse(QString::fromUtf8(session.files.read(listFile(session, name))));
-    } catch (const Error& error) {
-        if (error.code() != ErrorCode::fileNotFound) throw;
-    }
+    if (const auto text = session.files.readIfThere(listFile(session, name)))
+        list.parse(QString::fromUtf8(*text));
+    if (const auto text = session.files.readIfThere(oursFile(session, name)))
+        list.ours_ = filesOf(QString::fromUtf8(*text));
     return list;
 }
 
@@ -49,18 +68,16 @@ BackupList BackupList::readIfReadable(Session& session, const QString& name) {
 void BackupList::parse(const QString& text) {
     isThere_ = true;
     isOfFirstRun_ = text == firstRunMark;
-    for (const QString& line : splitLines(text)) {
-        const QStringList fields = line.split(u'\t');
-        if (fields.size() != 3) continue;
-        if (fields[0] == missingWord)
-            ++missing_;
-        else
-            files_.insert(fields[2].toCaseFolded(), {fields[0].toLongLong(), fields[1]});
-    }
+    files_ = filesOf(text);
+    missing_ = static_cast<int>(files_.remove({}));
 }
 
 void BackupList::write(Session& session, const QString& name) const {
     session.files.write(listFile(session, name), text_.toUtf8());
+}
+
+void BackupList::writeOurs(Session& session, const QString& name) const {
+    if (!oursText_.isEmpty()) session.files.write(oursFile(session, name), oursText_.toUtf8());
 }
 
 void BackupList::markFirstRun(Session& session, const QString& name) {
@@ -68,7 +85,11 @@ void BackupList::markFirstRun(Session& session, const QString& name) {
 }
 
 void BackupList::add(const FilePath& file, const FileFingerprint& print) {
-    text_ += QString::number(print.size) + u'\t' + print.checksum + u'\t' + pathOf(file) + u'\n';
+    text_ += lineOf(file, print);
+}
+
+void BackupList::addOurs(const FilePath& file, const FileFingerprint& print) {
+    oursText_ += lineOf(file, print);
 }
 
 void BackupList::addMissing(const FilePath& folder, const QString& name) {
@@ -78,6 +99,10 @@ void BackupList::addMissing(const FilePath& folder, const QString& name) {
 bool BackupList::isDamaged(const FilePath& file, const FileFingerprint& print) const {
     const QString key = pathOf(file).toCaseFolded();
     return files_.contains(key) && !files_.contains(key, print);
+}
+
+bool BackupList::isOurs(const FilePath& file, const FileFingerprint& print) const {
+    return ours_.contains(pathOf(file).toCaseFolded(), print);
 }
 
 } // namespace morvane

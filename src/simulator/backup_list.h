@@ -22,6 +22,9 @@ std::array<BackupPlace, 2> backupPlaces(const Session& session, const QString& n
 /// backup, separated by tabs. In the place of the size stands "missing" for a file that the simulator had and
 /// the backup has not. A backup without a list was cut short. That of the first run says "first run" from its
 /// beginning until its list is written, which tells the next start what to go on with.
+///
+/// "ours.lst" beside it, written first, has such a line for every file of ours that stands in the simulator:
+/// put back, that is ours again and not taken for the pilot's.
 class BackupList {
 public:
     /// As found in the folder. Raises when there is one and it cannot be read.
@@ -36,18 +39,24 @@ public:
     /// `name` is what can be said of it: a name may be none that the list could hold.
     void addMissing(const FilePath& folder, const QString& name);
 
+    void addOurs(const FilePath& file, const FileFingerprint& print);
+    /// Nothing where there are none. Raises when they cannot be written.
+    void writeOurs(Session& session, const QString& name) const;
+
     bool isThere() const { return isThere_; }
     bool isOfFirstRun() const { return isOfFirstRun_; }
     bool isComplete() const { return isThere_ && !isOfFirstRun_ && missing_ == 0; }
     /// The file's contents are not those that were backed up. Without regard to case, as a backup may have
     /// lain on another disk meanwhile; of two names that differ in nothing else each may be either.
     bool isDamaged(const FilePath& file, const FileFingerprint& print) const;
+    /// The file stood in the simulator as one of ours, not as the pilot's.
+    bool isOurs(const FilePath& file, const FileFingerprint& print) const;
 
 private:
     void parse(const QString& text);
 
-    QMultiHash<QString, FileFingerprint> files_;
-    QString text_; ///< of the lines that were added
+    QMultiHash<QString, FileFingerprint> files_, ours_;
+    QString text_, oursText_; ///< of the lines that were added
     int missing_ = 0;
     bool isThere_ = false, isOfFirstRun_ = false;
 };

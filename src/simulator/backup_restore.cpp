@@ -36,8 +36,12 @@ std::vector<FileCopy> texturesOf(Session& session, const QString& name) {
 }
 
 /// Which of the report's numbers the file counts in.
-int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const FileCopy& copy) {
-    if (attempt([&] { copier.copy(copy); })) return &RestoreReport::putBack;
+int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const FileCopy& copy, bool isOurs) {
+    const bool isDone = attempt([&] {
+        if (isOurs) copier.announce(copy);
+        copier.copy(copy);
+    });
+    if (isDone) return &RestoreReport::putBack;
     bool isReadOnly = false;
     attempt([&] { isReadOnly = session.files.isReadOnly(copy.target); });
     return isReadOnly ? &RestoreReport::readOnly : &RestoreReport::failed;
@@ -59,8 +63,9 @@ RestoreReport copyBack(Session& session, const QString& name) {
         else if (source->stands)
             ++report.standing;
         else
-            ++(report.*putBack(session, copier, copy));
+            ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, source->print)));
     });
+    copier.finish();
     return report;
 }
 

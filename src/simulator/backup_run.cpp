@@ -2,6 +2,7 @@
 
 #include "core/attempts.h"
 #include "core/safe_copy.h"
+#include "simulator/simulator_copy.h"
 
 #include <QFile>
 #include <filesystem>
@@ -36,6 +37,7 @@ BackupRun::BackupRun(Session& session, const Job& job, const QString& name, bool
 BackupReport BackupRun::run() {
     planAll();
     if (isFirstRun_) BackupList::markFirstRun(session_, name_);
+    list_.writeOurs(session_, name_);
     CopyWalk walk(session_, copies_, 2);
     BackupReport report;
     report.name = name_;
@@ -47,25 +49,41 @@ BackupReport BackupRun::run() {
 }
 
 void BackupRun::planAll() {
-    std::optional<KeptOriginals> originals;
-    if (isFirstRun_) originals.emplace(session_);
+    const auto readOriginals = [&] { originals_.emplace(originalsOf(session_)); };
+    if (isFirstRun_)
+        readOriginals();
+    else
+        attempt(readOriginals);
     for (const BackupPlace& place : backupPlaces(session_, name_))
-        plan({place.simulator, place.backup.resolved()}, originals ? &*originals : nullptr);
+        plan({place.simulator, place.backup.resolved()});
 }
 
-void BackupRun::plan(const BackupPlace& place, const KeptOriginals* originals) {
+void BackupRun::plan(const BackupPlace& place) {
     attempt([&] { removePartialCopies(session_.files, place.backup); });
     for (const QString& name : session_.files.list(place.simulator, u'*' + ending)) {
+        FilePath own, copy;
         // A name that the system takes may be none that a path of ours can have.
         const bool isPath = attempt([&] {
-            const FilePath own = place.simulator.child(name);
-            copies_.push_back(
-                {originals ? originals->of(own).value_or(own) : own, place.backup.exactChild(name)});
+            own = place.simulator.child(name);
+            copy = place.backup.exactChild(name);
         });
-        if (!isPath) miss(place, name);
+        if (isPath)
+            plan(own, copy);
+        else
+            miss(place, name);
     }
     for (int left = namelessTextures(place.simulator); left > 0; --left)
         miss(place, u"?"_s);
+}
+
+/// The first run takes the pilot's where one of ours may stand; later ones remember which are ours.
+void BackupRun::plan(const FilePath& own, const FilePath& copy) {
+    FilePath source = own;
+    if (isFirstRun_) attempt([&] { source = originals_->keptFile(own).value_or(own); });
+    copies_.push_back({source, copy});
+    if (!originals_) return;
+    for (const OriginalFact& ours : originals_->recordOf(own).ours)
+        list_.addOurs(copy, ours.print);
 }
 
 void BackupRun::miss(const BackupPlace& place, const QString& name) {

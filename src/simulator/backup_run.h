@@ -2,7 +2,7 @@
 
 #include "simulator/backup_list.h"
 #include "simulator/checked_copies.h"
-#include "simulator/kept_originals.h"
+#include "simulator/originals.h"
 
 #include <QDateTime>
 
@@ -32,7 +32,8 @@ public:
 
 private:
     void planAll();
-    void plan(const BackupPlace& place, const KeptOriginals* originals);
+    void plan(const BackupPlace& place);
+    void plan(const FilePath& own, const FilePath& copy);
     void miss(const BackupPlace& place, const QString& name);
     bool copyAll(CopyWalk& walk);
     void copy(const FileCopy& copy);
@@ -43,6 +44,7 @@ private:
     const Job& job_;
     const QString name_;
     const bool isFirstRun_;
+    std::optional<Originals> originals_; ///< none where its list cannot be read
     std::vector<FileCopy> copies_;
     BackupList list_;
     int missing_ = 0;   ///< that no copy could be tried of, or that cannot be read

@@ -66,14 +66,7 @@ void collectConfig(Session& session, clsConfig config, std::vector<FileCopy>& co
     session.gConfigs->UpdateConfig(config);
 }
 
-/// Left out before the list is noted, which reads every source: one of them in use does not keep the rest
-/// from the pilot.
-void leaveOutUnreadable(Session& session, std::vector<FileCopy>& copies) {
-    std::erase_if(copies,
-                  [&](const FileCopy& copy) { return !attempt([&] { session.files.read(copy.source); }); });
-}
-
-/// Returns how many came; a target in use is passed over alike.
+/// Returns how many came; a source or a target in use is passed over and costs no other.
 int copyEach(Session& session, const std::vector<FileCopy>& copies) {
     SimulatorCopier copier(session);
     copier.prepare(copies);
@@ -110,7 +103,6 @@ std::optional<DoneLine> copyTicked(Session& session, const QStringList& tickedTi
     int count = 0;
     if (wanted > 0) {
         showCopying(session, copyingTitle + u". This may take a few moments. Please wait......."_s);
-        leaveOutUnreadable(session, *copies);
         count = copyEach(session, *copies);
     }
     const QString leftOut = count < wanted ? u", %1 left out"_s.arg(countText(wanted - count)) : QString();

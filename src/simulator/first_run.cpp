@@ -6,7 +6,6 @@
 #include "ground/cloud_cover.h"
 #include "simulator/backup_files.h"
 #include "simulator/flights.h"
-#include "simulator/kept_originals.h"
 #include "simulator/simulator_copy.h"
 
 #include <algorithm>
@@ -15,7 +14,8 @@ namespace morvane {
 
 namespace {
 
-/// One of the splashes that an install puts there for its cloud cover.
+/// One of the splashes that an install puts there for its cloud cover; no list knows of one that an earlier
+/// installation of the program left there.
 bool isCoverSplash(Session& session, const FilePath& splash) {
     const QByteArray contents = session.files.read(splash);
     return std::any_of(cloudCovers(), cloudCovers() + cloudCoverCount, [&](const CloudCover& cover) {
@@ -29,8 +29,9 @@ bool isCoverSplash(Session& session, const FilePath& splash) {
 void keepSimulatorSplash(Session& session) {
     const FilePath splash = splashTarget(session);
     if (!session.files.exists(splash)) return;
-    std::optional<FilePath> own = splash;
-    if (isCoverSplash(session, splash)) own = KeptOriginals(session).of(splash);
+    Originals originals = originalsOf(session);
+    const bool isOurs = originals.isOurs(splash) || isCoverSplash(session, splash);
+    const std::optional<FilePath> own = isOurs ? originals.keptFile(splash) : splash;
     if (own) replaceFile(session.files, *own, session.AppPath / u"Media\\dlgsplash.bmp");
 }
 

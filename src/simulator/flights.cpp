@@ -7,6 +7,7 @@
 #include "core/numbers.h"
 #include "core/options.h"
 #include "core/safe_copy.h"
+#include "simulator/simulator_copy.h"
 
 #include <algorithm>
 
@@ -76,18 +77,24 @@ bool holdsOnlyCopies(Session& session, const std::vector<FilePath>& sources) {
     return !session.files.isLink(own) && !isChosen && std::ranges::none_of(sources, isOwn);
 }
 
-/// One that cannot be copied costs no other; the first such failure is raised at the end.
-void copyFlights(Session& session, const FilePath& source, const FilePath& target) {
-    FirstFailure failure;
+std::vector<FileCopy> flightCopies(Session& session, const FilePath& source, const FilePath& target) {
+    std::vector<FileCopy> copies;
     for (const QString& fileName : session.files.list(source, flightMask)) {
         const QString name = baseName(fileName);
         if (trimmedBlanks(name).isEmpty()) continue; // the list could not hold it
         for (const QString& ending : {flightEnding, weatherEnding})
-            failure.attempt([&] {
-                if (session.files.exists(source.child(name + ending)))
-                    replaceFile(session.files, source.child(name + ending), target.child(name + ending));
-            });
+            if (session.files.exists(source.child(name + ending)))
+                copies.push_back({source.child(name + ending), target.child(name + ending)});
     }
+    return copies;
+}
+
+/// One that cannot be copied costs no other; the first such failure is raised at the end.
+template <class Copy>
+void copyEach(const std::vector<FileCopy>& flights, Copy copy) {
+    FirstFailure failure;
+    for (const FileCopy& flight : flights)
+        failure.attempt([&] { copy(flight); });
     failure.raise();
 }
 
@@ -114,8 +121,13 @@ FilePath userFlightsFolder(Session& session) {
 }
 
 void copyDeliveredFlights(Session& session) {
-    session.files.makeFolder(deliveredFlightsFolder(session));
-    copyFlights(session, flightsFolder(session), deliveredFlightsFolder(session));
+    const FilePath folder = deliveredFlightsFolder(session);
+    const std::vector<FileCopy> flights = flightCopies(session, flightsFolder(session), folder);
+    SimulatorCopier copier(session);
+    copier.makeFolder(folder);
+    copier.prepare(flights);
+    copyEach(flights, [&](const FileCopy& flight) { copier.copy(flight); });
+    copier.finish();
 }
 
 void loadFlightFiles(Session& session) {
@@ -130,7 +142,11 @@ void loadFlightFiles(Session& session) {
         clearFlights(session, sources);
         FirstFailure failure; // of one folder costs the other's flights nothing
         for (const FilePath& source : sources)
-            failure.attempt([&] { copyFlights(session, source, flightsFolder(session)); });
+            failure.attempt([&] {
+                copyEach(flightCopies(session, source, flightsFolder(session)), [&](const FileCopy& flight) {
+                    replaceFile(session.files, flight.source, flight.target);
+                });
+            });
         failure.raise();
     });
     reportFailures(session.user, report, [&] { writeList(session); }); // of those that were copied

@@ -87,11 +87,11 @@ void SetInstallation::finish(SimulatorCopier& copier) {
 void SetInstallation::putSet(const QString& coverWord, const std::vector<FileCopy>& copies) {
     const CloudCover* cover = cloudCover(coverWord);
     const bool withSplash = cover && !session_.InhibitCustomSplash;
+    showProgress();
+    showCover(coverWord + (cover ? cover->tag : QString()));
     SimulatorCopier copier(session_);
     prepare(copier, copies, withSplash ? cover : nullptr);
     if (withSplash) copier.copy(splashCopy(*cover));
-    showProgress();
-    showCover(coverWord + (cover ? cover->tag : QString()));
     copyAll(copier, copies);
     finish(copier);
 }

@@ -6,12 +6,18 @@
 
 namespace morvane {
 
-SimulatorCopier::SimulatorCopier(Session& session)
-    : session_(session), originals_(session.files, session.FSPath, session.AppPath) {}
+Originals originalsOf(const Session& session) {
+    return {session.files, session.FSPath, session.AppPath, session.clock.localTime().date()};
+}
+
+SimulatorCopier::SimulatorCopier(Session& session) : session_(session), originals_(originalsOf(session)) {}
 
 void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
     clearStrays(copies);
-    originals_.announce(copies);
+    // Outside a job a click could begin something else in the middle.
+    originals_.prepare(copies, [this] {
+        if (session_.jobRunning) session_.user.pumpMessages();
+    });
 }
 
 void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
@@ -25,15 +31,18 @@ void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
 }
 
 void SimulatorCopier::copy(const FileCopy& copy) {
-    const FilePath target = copy.target.resolved();
-    originals_.keep(target);
-    replaceFile(session_.files, copy.source, target);
+    put(copy, originals_.place(copy));
 }
 
 void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {
-    FileSystem& files = session_.files;
-    if (files.exists(copy.target) && files.isReadOnly(copy.target)) files.setReadOnly(copy.target, false);
-    this->copy(copy);
+    const FilePath place = originals_.place(copy);
+    originals_.takeReadOnlyMark(place);
+    put(copy, place);
+}
+
+void SimulatorCopier::put(const FileCopy& copy, const FilePath& place) {
+    replaceFile(session_.files, copy.source, place);
+    originals_.notePlaced(copy, place);
 }
 
 void copyIntoSimulator(Session& session, const FilePath& source, const FilePath& target) {

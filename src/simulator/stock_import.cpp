@@ -33,10 +33,6 @@ bool convertReadable(FileSystem& files, const FilePath& source, const FilePath& 
     return true;
 }
 
-FilePath partOf(const FilePath& target) {
-    return FilePath(target.native() + partialCopySuffix);
-}
-
 /// Makes the file that is to stand in its place, beside it. False where that cannot be had from its source:
 /// one broken texture must not cost the pilot all others. A failure names the file, as nobody knows of its
 /// part.

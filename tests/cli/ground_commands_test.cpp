@@ -144,15 +144,41 @@ TEST_F(GroundCommands, thePilotsFilesAreListedAndRestored) {
 
     const QJsonArray list = install.run(u"originals list"_s).array();
     ASSERT_EQ(list.size(), 2); // "new.bmp" replaced nothing
-    EXPECT_EQ(list[0].toObject()[u"path"].toString().toLower(), u"scenery\\world\\texture\\029h2su6.bmp"_s);
-    EXPECT_EQ(list[1].toObject(), QJsonObject({{u"path"_s, u"Uires\\dlgsplash.bmp"_s},
-                                               {u"sha1"_s, u"74a0a683fa9a9bd35ff624fad775b1f42cc4b897"_s},
-                                               {u"size"_s, 18}}));
+    EXPECT_EQ(list[0].toObject()[u"path"], u"Scenery\\World\\texture\\029H2SU6.BMP"_s);
+    const QJsonObject splash = list[1].toObject();
+    EXPECT_EQ(splash.keys(), QStringList({"copy", "kept", "mode", "number", "path", "sha1", "size"}));
+    EXPECT_EQ(splash[u"path"], u"Uires\\dlgsplash.bmp"_s);
+    EXPECT_EQ(splash[u"sha1"], u"74a0a683fa9a9bd35ff624fad775b1f42cc4b897"_s);
+    EXPECT_EQ(splash[u"size"], 18);
+    EXPECT_EQ(splash[u"number"], 1);
 
     expectDone(u"originals restore"_s, u"Default+ 2-Storm+"_s); // none is installed any more
-    auto after = contentsBelow(install.simulator());
-    EXPECT_EQ(after.take(u"Scenery/World/texture/new.bmp"_s), "2-Storm Texture\\new.bmp");
-    EXPECT_EQ(after, before);
+    EXPECT_EQ(contentsBelow(install.simulator()), before);
+}
+
+/// What is not ours any more is left and named; a damaged kept file is a failure.
+TEST_F(GroundCommands, aRestoreNamesWhatItLeaves) {
+    const QString path = u"Scenery\\World\\texture\\029H2SU6.BMP"_s;
+    install.addSet(u"2-Storm"_s, u"Overcast"_s);
+    const struct {
+        FilePath spoilt;
+        int status;
+        QString list, said;
+    } cases[] = {
+        {install.simulator() / path, 0, u"left"_s, u"1 file put back, 1 left as they are\n"_s},
+        {install.home() / u"Backup\\Originals" / path, 1, u"damaged"_s, u"Exclamation: "_s},
+    };
+    for (const auto& road : cases) {
+        EXPECT_EQ(install.run(u"ground install 2-Storm"_s).status, 0);
+        test::writeFile(road.spoilt, "by another hand");
+        const auto run = install.run(u"originals restore"_s);
+        EXPECT_EQ(run.status, road.status) << run.messages.toStdString();
+        ASSERT_EQ(run.objects().size(), 1u);
+        EXPECT_EQ(run.objects()[0][road.list].toArray(), QJsonArray{path});
+        EXPECT_TRUE(run.messages.contains(road.said) && run.messages.contains(path))
+            << run.messages.toStdString();
+        test::writeFile(install.simulator() / path, "2-Storm Texture\\029h2su6.bmp");
+    }
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "simulator/backups.h"
 #include "simulator/first_run.h"
 #include "simulator/simulator_copy.h"
+#include "simulator/simulator_restore.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -75,6 +76,26 @@ TEST_F(BackupTest, restoreIsTheIdentityForWhatWasBackedUp) {
     EXPECT_EQ(after.take(u"Scenery/World/texture/later.bmp"_s), "added since");
     EXPECT_EQ(after, before);
     EXPECT_TRUE(install.user.messages.back().text.endsWith(u"stand by...\""_s));
+}
+
+/// A backup may hold files of ours. Put back they are ours again, also when they were taken away in between;
+/// what it holds of the pilot's stays his, also where nothing stood any more.
+TEST_F(BackupTest, whatWasOursInABackupIsOursAgain) {
+    const auto before = contentsBelow(install.simulator());
+    install.addGroundSet(u"1-Blue"_s, u"Sunny"_s, true,
+                         {u"Texture\\029h2su6.bmp"_s, u"Texture\\added.bmp"_s});
+    session.ground.SelectedGroundSet = u"1-Blue"_s;
+    GroundInstallation(session).installTextureSet(true);
+    backupOnRequest(session);
+    for (const bool isTakenAway : {true, false}) {
+        if (isTakenAway) restoreOriginals(session);
+        install.files.remove(world / u"029B2SU6.BMP");
+        restore(u"1-Backup"_s);
+        EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "1-Blue Texture\\029h2su6.bmp");
+        EXPECT_EQ(readFile(world / u"added.bmp"), "1-Blue Texture\\added.bmp");
+        restoreOriginals(session);
+        EXPECT_EQ(contentsBelow(install.simulator()), before);
+    }
 }
 
 TEST_F(BackupTest, restorePassesOverReadOnlyTargetsAndDamagedCopiesWithoutAWord) {
@@ -250,6 +271,17 @@ TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedFor) {
     EXPECT_EQ(backupNames().size(), 2);
 }
 
+/// They go through the list of originals, too: a pilot's flight of that name is not lost, and all is undone.
+TEST_F(FirstRunTest, theDeliveredFlightsCanBeTakenBack) {
+    writeFile(flights / u"ÄLPLER.FLT", "the pilot's");
+    const auto before = contentsBelow(install.simulator());
+    doFirstRun(session);
+    EXPECT_EQ(readFile(flights / u"ÄLPLER.FLT"), "Älpler");
+    EXPECT_EQ(readFile(flights / u"Zürich.flt"), "Zürich");
+    restoreOriginals(session);
+    EXPECT_EQ(contentsBelow(install.simulator()), before);
+}
+
 /// A folder stands where a file should go: that file alone is missed, and told of.
 TEST_F(FirstRunTest, whatFailsCostsNothingElse) {
     for (const FilePath& place : {keptSplash, flights / u"Älpler.flt"}) {
@@ -273,20 +305,24 @@ TEST_F(FirstRunTest, whatFailsCostsNothingElse) {
 /// Sets of ours stand in the simulator: from an earlier install, or from between two starts.
 TEST_F(FirstRunTest, theKeptOriginalsAreTakenForWhatIsOurs) {
     writeFile(keptSplash, "as delivered");
-    install.addGroundSet(u"1-Blue"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s});
+    install.addGroundSet(u"1-Blue"_s, u"Overcast"_s, true,
+                         {u"Texture\\029h2su6.bmp"_s, u"Texture\\029b2su6.bmp"_s});
     session.ground.SelectedGroundSet = u"1-Blue"_s;
     GroundInstallation(session).installTextureSet(true);
     ASSERT_EQ(readFile(splashTarget(session)), "splash OVC");
+    writeFile(world / u"029B2SU6.BMP", "another's"); // changed since ours
     const FilePath originals = install.home() / u"Backup\\Originals", aside = install.home() / u"aside";
     install.files.rename(originals, aside);
     doFirstRun(session);
     EXPECT_EQ(readFile(keptSplash), "as delivered") << "nobody knows the pilot's";
+    QDir(originals.native()).removeRecursively(); // of the flights
     install.files.rename(aside, originals);
     setFirstTime(u"True"_s);
     doFirstRun(session);
     EXPECT_EQ(readFile(keptSplash), "the pilot's splash");
     EXPECT_EQ(readFile(install.home() / u"Backup\\2-Backup\\Texture\\029H2SU6.BMP"),
               "the pilot's GENERIC WORLD\\029h2su6.bmp");
+    EXPECT_EQ(readFile(install.home() / u"Backup\\2-Backup\\Texture\\029B2SU6.BMP"), "another's");
     EXPECT_TRUE(isBackupComplete(session, u"2-Backup"_s));
 }
 

@@ -1,7 +1,9 @@
+#include "core/options.h"
 #include "core/store.h"
+#include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
 #include "simulator/configs.h"
-#include "simulator/originals.h"
+#include "simulator/simulator_restore.h"
 #include "simulator/texture_switches.h"
 #include "support/night_install.h"
 #include "support/printing.h"
@@ -187,6 +189,34 @@ TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
     }
     install.files.remove(install.home() / u"Media\\halo.bmp");
     EXPECT_THROW(switchHalo(session, true), Error);
+}
+
+/// What the options put first may have the very bytes of the pilot's file: it is kept all the same.
+TEST_F(TextureSwitches, thePilotsFileComesBackAlsoWhereOurFirstCopyEqualsIt) {
+    writeFile(install.home() / u"Media\\halo.bmp", "ours");
+    writeFile(install.home() / u"Media\\halodefault.bmp", "default");
+    writeFile(install.home() / u"Media\\dlgsplash.bmp", "the pilot's splash");
+    writeFile(install.simulator() / u"Texture\\halo.bmp", "default");
+    installDefaults();
+    const auto before = test::contentsBelow(install.simulator());
+    switchHalo(session, false);
+    switchHalo(session, true);
+    setCustomSplashVal(session, true);
+    setCustomSplashVal(session, false);
+    session.ground.SelectedGroundSet = u"2-Storm"_s;
+    GroundInstallation(session).installTextureSet(true);
+    switchDutch(session, true);
+    switchTropical(session, true);
+    EXPECT_NE(test::contentsBelow(install.simulator()), before);
+
+    install.user.calls.clear();
+    restoreOriginals(session);
+    EXPECT_EQ(test::contentsBelow(install.simulator()), before);
+    EXPECT_TRUE(install.user.calls.last().startsWith(u"done "_s));
+    EXPECT_TRUE(install.installedSets().isEmpty());
+    clsConfigs switches(session);
+    EXPECT_FALSE(session.IsHalo || session.IsDutch || session.IsTropical);
+    EXPECT_FALSE(switches.GetHaloVal() || switches.GetDutchVal() || switches.GetTropicalVal());
 }
 
 /// Whatever fails, each file of the simulator is the old one or the new one, and the old ones can be put

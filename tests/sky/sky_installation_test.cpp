@@ -39,6 +39,14 @@ struct SkyInstall : testing::Test {
     QByteArray splash() { return readFile(install.simulator() / u"Uires\\dlgsplash.bmp"); }
 };
 
+TEST_F(SkyInstall, aSetWithNothingToCopyIsNoError) {
+    install.addSkySet("2-Empty", "Odd", true); // no files, and a cover without a splash
+    installSky("2-Empty");
+    EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_EQ(install.installedSkySets(), QStringList{"2-Empty"});
+    EXPECT_FALSE(install.files.exists(install.home() / u"Backup\\Originals"));
+}
+
 TEST_F(SkyInstall, copiesTheBitmapsAndRecordsTheSet) {
     install.addSkySet("2-Calm", "Sky Clear", true);
     session.gSkyTextureSets->markInstalled("2-Calm");

@@ -17,4 +17,15 @@ std::optional<ErrorCode> codeRaisedBy(Action action) {
     return std::nullopt;
 }
 
+/// The description; empty when it raises none.
+template <class Action>
+QString descriptionRaisedBy(Action action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.description();
+    }
+    return {};
+}
+
 } // namespace morvane::test

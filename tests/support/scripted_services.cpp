@@ -1,6 +1,5 @@
 #include "support/scripted_services.h"
 
-#include "core/error.h"
 #include "support/temporary_folder.h"
 
 namespace morvane::test {
@@ -20,7 +19,18 @@ void FaultyFileSystem::failAt(int n, bool forever) {
     operations_ = 0;
     failing_ = n;
     forever_ = forever;
-    hasFailed_ = failedAtTest_ = false;
+    isKilling_ = hasFailed_ = failedAtTest_ = false;
+}
+
+void FaultyFileSystem::killAt(int n) {
+    failAt(n, true);
+    isKilling_ = true;
+}
+
+void FaultyFileSystem::fail(ErrorCode code, const FilePath& path) {
+    hasFailed_ = true;
+    if (isKilling_) throw Killed();
+    throw Error(code, path.text());
 }
 
 bool FaultyFileSystem::isFailing() {
@@ -30,6 +40,7 @@ bool FaultyFileSystem::isFailing() {
 
 bool FaultyFileSystem::test() {
     if (!isFailing()) return true;
+    if (isKilling_) throw Killed();
     failedAtTest_ = failedAtTest_ || !hasFailed_;
     hasFailed_ = true;
     return false;
@@ -37,8 +48,7 @@ bool FaultyFileSystem::test() {
 
 FileSystem& FaultyFileSystem::act(const FilePath& path) {
     if (!isFailing()) return real_;
-    hasFailed_ = true;
-    throw Error(ErrorCode::ioFailure, path.text());
+    fail(ErrorCode::ioFailure, path);
 }
 
 void FaultyFileSystem::takeRoom(const FilePath& file, qint64 size) {
@@ -49,11 +59,10 @@ void FaultyFileSystem::takeRoom(const FilePath& file, qint64 size) {
 
 void FaultyFileSystem::copyContents(const FilePath& source, const FilePath& target) {
     if (isFailing()) {
-        hasFailed_ = true;
         // As on a full disk: half of the file is there.
         const QByteArray contents = real_.read(source);
         writeFile(target, contents.left(contents.size() / 2));
-        throw Error(ErrorCode::diskFull, target.text());
+        fail(ErrorCode::diskFull, target);
     }
     if (room_ >= 0 && real_.exists(source)) takeRoom(target, real_.size(source));
     real_.copyContents(source, target);

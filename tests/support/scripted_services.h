@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/clock.h"
+#include "core/error.h"
 #include "core/file_system.h"
 
 #include <deque>
@@ -27,6 +28,9 @@ public:
     int draws = 0;
 };
 
+/// Thrown through everything that catches failures, as a kill ends a run: only destructors still run.
+struct Killed {};
+
 /// The real file system, but its n-th operation fails: with an Error, or, for a test of existence, with "no".
 /// Counts every operation.
 class FaultyFileSystem : public FileSystem {
@@ -36,6 +40,8 @@ public:
     /// From now on so many bytes can be written; a file that needs more fails as on a full disk. Below 0, as
     /// at first, the disk has room for everything.
     void leaveRoom(qint64 bytes) { room_ = bytes; }
+    /// The n-th operation from now on, and all later ones, end the run with Killed; half of a copy is there.
+    void killAt(int n);
     int operations() const { return operations_; }
     /// Whether the operation that failed first was a test of existence.
     bool failedAtTest() const { return failedAtTest_; }
@@ -60,7 +66,9 @@ public:
     void copyMode(const FilePath& model, const FilePath& target) override {
         act(target).copyMode(model, target);
     }
+    void setMode(const FilePath& file, unsigned mode) override { act(file).setMode(file, mode); }
     std::int64_t size(const FilePath& file) override { return act(file).size(file); }
+    FileStamp stamp(const FilePath& path) override { return act(path).stamp(path); }
     std::int64_t freeSpace(const FilePath& folder) override { return act(folder).freeSpace(folder); }
     QByteArray read(const FilePath& file) override { return act(file).read(file); }
     void write(const FilePath& file, const QByteArray& contents) override {
@@ -74,6 +82,8 @@ public:
 
 private:
     bool isFailing();
+    /// The failure of the operation, which is one to fail.
+    [[noreturn]] void fail(ErrorCode code, const FilePath& path);
     bool test();
     /// The real file system, unless this operation is one to fail.
     FileSystem& act(const FilePath& path);
@@ -81,7 +91,7 @@ private:
     NativeFileSystem real_;
     qint64 room_ = -1;
     int operations_ = 0, failing_ = 0;
-    bool forever_ = false, hasFailed_ = false, failedAtTest_ = false;
+    bool forever_ = false, isKilling_ = false, hasFailed_ = false, failedAtTest_ = false;
 };
 
 } // namespace morvane::test

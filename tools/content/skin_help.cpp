@@ -99,8 +99,8 @@ sets.</p>
 <p>The version of the program, for questions about it.</p>
 
 <h2 id="originals">Getting your own textures back</h2>
-<p>Morvane keeps a copy of every file of the simulator before it replaces that file for the first time. To put
-all of them back, close Morvane, open a terminal and enter</p>
+<p>Morvane keeps a copy of every file of the simulator before it replaces that file. To put all of them back, and
+to take away what Morvane added, close Morvane, open a terminal and enter</p>
 <p><code>morvane-cli originals restore</code></p>
 <p>The command <code>morvane-cli originals list</code> shows which files are kept. They lie in the folder
 <code>Backup/Originals</code> of the install folder; leave them there.</p>

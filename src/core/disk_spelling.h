@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/file_system.h"
+
+#include <QHash>
+
+namespace morvane {
+
+/// The spellings that files below a folder have on the disk. Each folder is listed once, so a thousand files
+/// cost one look, and the spelling is the true one also on a drive that takes any, where FilePath has no need
+/// to look.
+class DiskSpelling {
+public:
+    DiskSpelling(FileSystem& files, const FilePath& root) : files_(files), root_(root.native()) {}
+
+    /// The file of that path below the root, names joined by "\": the exact spelling where the folder has it,
+    /// else another one, else as given; a name not found is taken as the file's spelling from then on. Both
+    /// `relative()` and `native()` of the result are as on the disk.
+    FilePath find(const QString& path);
+    /// The same for a file that is meant in that spelling: another one is taken only where the drive makes no
+    /// difference between the two.
+    FilePath findExactly(const QString& path);
+    /// The folder of that path, alike.
+    FilePath findFolder(const QString& path);
+
+private:
+    struct Folder {
+        FilePath path;
+        QHash<QString, QStringList> names; ///< by the name without regard to case
+    };
+    Folder& folder(const QString& path);
+    FilePath spelled(const QString& path, bool isExact);
+
+    FileSystem& files_;
+    FilePath root_;
+    QHash<QString, QString> spelledFolders_; ///< by the spelling that was asked for
+    QHash<QString, Folder> folders_;         ///< by their own
+};
+
+} // namespace morvane
