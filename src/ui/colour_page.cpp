@@ -55,7 +55,7 @@ ColourPage::ColourPage(Shell& shell, const QString& name, const ColourPageSetup&
     addResetAll(setup.resetAllName);
     addSliders(setup);
     addKeys(setup);
- (new QWidget(paper()))->setGeometry(90,310,100,50);}
+}
 
 void ColourPage::placePicture(PictureFrame& picture, const QString& name, const QString& caption, int left) {
     makeLabel(paper(), caption, {left, 39, 240, 14}, TextRole::fieldCaption);
