@@ -18,6 +18,7 @@
 #include "core/numbers.h"
 #include "core/options.h"
 #include "core/text_decoding.h"
+#include "core/writing.h"
 #include "ground/colour_settings.h"
 #include "ground/texture_catalogue.h"
 #include "imaging/texture_codec.h"
@@ -139,6 +140,13 @@ bool flyMetar(CommandContext& context) {
     return true;
 }
 
+/// Everything does that needs an install and is not among those that tell something.
+bool writes(const Command& command) {
+    static const QStringList telling{u"catalogue"_s, u"list"_s, u"show"_s, u"get"_s,
+                                     u"find"_s,      u"rows"_s, u"plan"_s, u"nearest"_s};
+    return command.needsInstall && !telling.contains(command.words.last());
+}
+
 const Command* findCommand(const QStringList& words) {
     for (const Command& command : commandTable()) {
         const qsizetype rest = words.size() - command.words.size();
@@ -236,6 +244,8 @@ QString usageText() {
 int runCommand(const QStringList& words, Session& session, ConsoleUser& user) {
     const Command* command = findCommand(words);
     if (!command) return exitWrongUsage;
+    std::optional<Writing> writing;
+    if (writes(*command) && !writing.emplace(session)) return exitFailed;
     CommandContext context{session, user, words.mid(command->words.size())};
     bool understood = true;
     if (!command->needsInstall || startUp(session))

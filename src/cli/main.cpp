@@ -2,6 +2,7 @@
 #include "cli/terminal.h"
 #include "core/install_folder.h"
 #include "core/registry.h"
+#include "core/writing.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -14,6 +15,7 @@ struct Arguments {
     QString home = defaultInstallFolder();
     AnswerPolicy policy = isTerminal() ? AnswerPolicy::ask : AnswerPolicy::no;
     QStringList words;
+    bool isUnattended = false; ///< all answers were given beforehand
 };
 
 std::optional<AnswerPolicy> policyOf(const QString& word) {
@@ -31,7 +33,7 @@ std::optional<Arguments> parse(QStringList words) {
         if (words[0] == u"--home")
             arguments.home = words[1];
         else if (policy)
-            arguments.policy = *policy;
+            arguments.policy = *policy, arguments.isUnattended = *policy != AnswerPolicy::ask;
         else
             return std::nullopt;
         words.remove(0, 2);
@@ -54,6 +56,7 @@ int main(int argc, char** argv) {
         const FilePath home(QFileInfo(arguments->home).absoluteFilePath());
         const auto registry = openRegistry(files, home);
         Session session({user, files, clock, random, *registry}, home);
+        if (arguments->isUnattended) session.writing->beUnattended();
         status = runCommand(arguments->words, session, user);
     }
     if (status == exitWrongUsage) writeStandardError(usageText());

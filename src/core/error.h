@@ -15,6 +15,7 @@ enum class ErrorCode {
     subscript = 9,
     divisionByZero = 11,
     typeMismatch = 13,
+    interrupted = 18, ///< what was begun is left, and the user knows why: nothing is told
     cannotOpenForWriting = 17,
     fileNotFound = 53,
     ioFailure = 57,

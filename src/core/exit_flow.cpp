@@ -83,8 +83,9 @@ void checkResetTextures(Session& session) {
 
 void exitProgram(Session& session) {
     if (!session.MinimiseForLaunch && !session.CommandLineRun) {
-        session.ExitInProgress = true;
-        reportFailures(session.user, {}, [&] { checkResetTextures(session); });
+        session.ExitInProgress.moveTo(ExitStage::inFlow);
+        if (!session.ExitInProgress.isSilent())
+            reportFailures(session.user, {}, [&] { checkResetTextures(session); });
     }
     releaseCollections(session);
     reportFailures(session.user, {}, [&] { clearDownloadedCycles(session); });

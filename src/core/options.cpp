@@ -1,6 +1,7 @@
 #include "core/options.h"
 
 #include "core/failure_report.h"
+#include "core/job.h"
 #include "core/numbers.h"
 #include "core/registry.h"
 #include "simulator/configs.h"
@@ -69,10 +70,13 @@ void getCustomSplashVal(Session& session) {
 
 void setCustomSplashVal(Session& session, bool value) {
     reportFailures(session.user, optionFailure(u"Sub setCustomSplashVal"_s), [&] {
+        Job job(session);
+        if (!job) return;
         storeOwnValue(session, u"InhibitCustomSplash", flagText(value));
         session.InhibitCustomSplash = value;
         if (value)
             copyIntoSimulator(session, session.AppPath / u"Media\\dlgsplash.bmp", splashTarget(session));
+        job.end();
         const QString copied = u"The default FS splash screen has been copied to Flight Similator. "_s;
         inform(
             session, u"FS9 Splash Screen Status"_s,
@@ -92,6 +96,7 @@ void getSideFSVal(Session& session) {
             u"Please indicate if you are using Morvane on a WideClient PC.  Click the checkmark for 'Yes' or "
             u"the "
             "crossmark for 'No'  If you are not using WideFS please select the crossmark to continue."_s);
+        if (session.ExitInProgress.isSilent()) return; // nobody has answered
         storeOwnValue(session, u"IsWideClient", flagText(session.IsWideClient));
     });
 }

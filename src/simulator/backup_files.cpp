@@ -87,7 +87,7 @@ bool walkFiles(Session& session, const std::vector<FileCopy>& copies, const Job*
     const double share = 100.0 / static_cast<double>(copies.size() + 1);
     double position = 0;
     for (const FileCopy& copy : copies) {
-        if (cancellable && cancellable->isCancelled()) return false;
+        if (session.ExitInProgress.endsCopies() || (cancellable && cancellable->isCancelled())) return false;
         step(copy);
         session.user.updateProgress({}, {}, position += share);
     }
@@ -197,6 +197,7 @@ void copyBack(Session& session, const QString& name, std::vector<FileCopy> copie
 void createBackup(Session& session, bool isFirstRun) {
     if (session.jobRunning || !isWanted(session, isFirstRun)) return;
     const Job job(session);
+    if (!job) return;
     session.user.showMessage({MessageKind::information, u"Creating New Backup"_s,
                               u"Morvane is backing up your Flight Simulator Texture Files.  This may take a "
                               "few minutes.  Please wait......."_s,

@@ -72,8 +72,9 @@ void copyEach(Session& session, const std::vector<FileCopy>& copies) {
     for (const FileCopy& copy : copies) {
         try {
             copier.copyOverReadOnly(copy);
-        } catch (const Error&) {
+        } catch (const Error& error) {
             // Wanted: one file in use does not keep the rest from the pilot.
+            if (error.code() == ErrorCode::interrupted) throw;
         }
         session.user.updateProgress({}, {}, position += share);
     }

@@ -1,5 +1,6 @@
 #include "simulator/simulator_copy.h"
 
+#include "core/error.h"
 #include "core/safe_copy.h"
 
 #include <QSet>
@@ -25,6 +26,7 @@ void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
 }
 
 void SimulatorCopier::copy(const FileCopy& copy) {
+    if (session_.ExitInProgress.endsCopies()) throw Error(ErrorCode::interrupted);
     const FilePath target = copy.target.resolved();
     originals_.keep(target);
     replaceFile(session_.files, copy.source, target);

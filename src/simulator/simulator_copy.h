@@ -16,6 +16,7 @@ public:
     void prepare(const std::vector<FileCopy>& copies);
     /// The first half alone, for files that are the pilot's own.
     void clearStrays(const std::vector<FileCopy>& copies);
+    /// Raises `interrupted` once the desktop's session ends: what is left of the list stays as it is.
     void copy(const FileCopy& copy);
     /// The same for a target that may be marked read-only: the mark goes first, and stays gone. Base install
     /// and options have always been so free; the installs of sets are not.

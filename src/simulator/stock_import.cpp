@@ -189,9 +189,10 @@ StockImportReport importStock(Session& session, const Job& job, const StockSourc
 
 std::optional<StockImportReport> importStock(Session& session, const StockSource& source) {
     std::optional<StockImportReport> report;
-    const Job job(session);
+    Job job(session);
     if (!job) return report;
     if (!reportFailures(session.user, {}, [&] { report = importStock(session, job, source); })) return {};
+    job.end();
     if (report->files == 0 && !report->isCancelled)
         tell(session, MessageKind::exclamation,
              u"No textures of Flight Simulator were found in "_s + source.world.text());
@@ -208,10 +209,11 @@ std::optional<StockImportReport> importSimulatorStock(Session& session, bool isC
 
 std::optional<int> restoreStock(Session& session) {
     std::optional<int> count;
-    const Job job(session);
+    Job job(session);
     if (!job) return count;
     reportFailures(session.user, {}, [&] {
         count = KeptStock(session.files, session.AppPath).restore();
+        job.end();
         tell(session, MessageKind::information,
              u"%1 base images and annotation files were put back."_s.arg(*count));
     });

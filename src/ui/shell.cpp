@@ -1,9 +1,9 @@
 #include "ui/shell.h"
 
-#include "core/application.h"
 #include "core/failure_report.h"
 #include "core/registry.h"
 #include "core/session.h"
+#include "core/writing.h"
 #include "ui/dispatch_table.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
@@ -143,14 +143,40 @@ void Shell::minimiseProgram() {
         if (Form* window = loadedForm(name); window && window->isVisible()) return window->showMinimized();
 }
 
+void Shell::bringToFront() {
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* front = modal ? modal->window() : messageAnchor();
+    if (!front || !front->isVisible()) return; // the program is just starting
+    if (front->isMinimized()) front->showNormal();
+    front->raise();
+    front->activateWindow();
+}
+
 void Shell::exitProgram() {
-    // The question on exit lets clicks through to nothing else, but a second close may reach us from outside,
-    // and a running job still works on what would be released here.
-    if (isExiting_ || session_.jobRunning) return;
-    isExiting_ = true;
-    morvane::exitProgram(session_);
-    QApplication::closeAllWindows();
-    QApplication::quit();
+    // A close may also come from outside, through whatever covers the window.
+    if (session_.writing->holders > 0)
+        exitAfterQuestion(u"Morvane is still working. Do you wish to end its work and exit Morvane?"_s);
+    else if (session_.ExitInProgress.stage() == ExitStage::running)
+        leave(ExitStage::leaving);
+}
+
+void Shell::exitAfterQuestion(const QString& question) {
+    ExitProgress& exit = session_.ExitInProgress;
+    if (exit.stage() != ExitStage::running) return;
+    exit.moveTo(ExitStage::asking);
+    const bool isWanted = session_.user.systemBox(question, u"Exit Morvane?"_s, SystemBoxButtons::okCancel);
+    exit.moveTo(ExitStage::running);
+    if (isWanted) leave(ExitStage::leaving);
+}
+
+void Shell::endWithSession() {
+    leave(ExitStage::sessionEnd);
+}
+
+void Shell::leave(ExitStage stage) {
+    session_.ExitInProgress.moveTo(stage);
+    // `quit` would be given up, as no window takes its close.
+    QCoreApplication::exit(0);
 }
 
 QWidget* Shell::messageAnchor() const {
@@ -170,7 +196,7 @@ void Shell::dispatch(SkinnedButton* button) {
 }
 
 void Shell::reportMissingSkin() {
-    if (hasReportedSkin_ || skin_.missing().isEmpty() || isExiting_) return;
+    if (hasReportedSkin_ || skin_.missing().isEmpty() || session_.ExitInProgress.isSilent()) return;
     hasReportedSkin_ = true;
     constexpr int namesShown = 5;
     const QStringList& missing = skin_.missing();

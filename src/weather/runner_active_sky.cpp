@@ -1,5 +1,4 @@
-#include "core/registry.h"
-#include "simulator/program_start.h"
+#include "simulator/program_runner.h"
 #include "weather/active_sky.h"
 
 #include <QThread>
@@ -15,10 +14,8 @@ class RunnerActiveSky : public ActiveSkyPlatform {
 public:
     /// Nobody here knows the windows of the runner's programs.
     bool isWindowOpen(const QString&) override { return false; }
-    void startASv6(Session& session) override {
-        const QString runner =
-            session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"SimulatorRunner"_s);
-        startProgram(session.weather.ASv6Path / u"ASv6.exe", {}, runner);
+    bool startASv6(Session& session) override {
+        return startWithRunner(session, u"Active Sky"_s, session.weather.ASv6Path / u"ASv6.exe");
     }
     void rest() override { QThread::msleep(restMilliseconds); }
 };

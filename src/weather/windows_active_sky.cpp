@@ -17,9 +17,10 @@ const wchar_t* wide(const QString& text) {
 class WindowsActiveSky : public ActiveSkyPlatform {
 public:
     bool isWindowOpen(const QString& title) override { return FindWindowW(nullptr, wide(title)) != nullptr; }
-    void startASv6(Session& session) override {
+    bool startASv6(Session& session) override {
         const QString program = (session.weather.ASv6Path / u"ASv6.exe").text();
         ShellExecuteW(nullptr, L"Open", wide(program), L"Hide", nullptr, SW_SHOWNORMAL);
+        return true;
     }
     void rest() override { Sleep(restMilliseconds); }
 };

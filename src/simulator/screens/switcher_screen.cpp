@@ -151,16 +151,16 @@ QString frm_Switcher::flightsFolder() const {
     return session().registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s);
 }
 
-/// After a failure the boxes say what is in force.
+/// After a failure, and when another program writes, the boxes say what is in force.
 void frm_Switcher::takeOption(const Option& option, bool isTicked) {
     if (SwitcherPopulating) return;
     bool isTaken = false;
     const bool isDone =
         reportFailures(session().user, {}, [&] { isTaken = option.take(session(), isTicked); });
-    if (!isDone)
-        loadSwitcherValues();
-    else if (!isTaken)
+    if (isDone && !isTaken)
         clearBox(option);
+    else if (session().*option.flag != isTicked)
+        loadSwitcherValues();
 }
 
 /// Clearing a box is a click like any other to its handler, so that its refusal is told twice: wanted.
