@@ -24,9 +24,10 @@ void WritingLock::beUnattended() {
 
 Writing::Writing(Session& session, Waiting waiting) : session_(session) {
     WritingLock& lock = *session.writing;
+    if (!lock.isUnattended) lock.wasRefused = false;
+    if (lock.wasRefused) return;
     isHeld_ = lock.holders > 0 || lock.file.tryTake() || (waiting == Waiting::wanted && waitForOther());
-    if (!isHeld_) return;
-    if (++lock.holders == 1) reloadChangedRows(session);
+    if (isHeld_ && ++lock.holders == 1) reloadChangedRows(session);
 }
 
 Writing::~Writing() {
@@ -59,7 +60,6 @@ bool Writing::waitForOther() {
 void Writing::tellOfOther() {
     WritingLock& lock = *session_.writing;
     lock.wasRefused = true;
-    if (lock.isUnattended) lock.patience = {}; // the run ends: its next job must not wait once more
     session_.user.showMessage({MessageKind::exclamation, title,
                                lock.file.holder() + u" is still working on this install.  Please try again "
                                                     "when it has ended."_s,

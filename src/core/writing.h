@@ -21,7 +21,7 @@ struct WritingLock {
     int holders = 0;                           ///< a job inside a command takes it once more
     std::chrono::milliseconds patience{10000}; ///< with another writer
     bool isUnattended = false;
-    bool wasRefused = false; ///< once at least in this run
+    bool wasRefused = false; ///< to the last writer; an unattended run that was refused once writes no more
 };
 
 /// The right to write, as long as it lives. Another writer is waited for, with a message that can be
@@ -45,7 +45,7 @@ private:
     void tellOfOther();
 
     Session& session_;
-    bool isHeld_;
+    bool isHeld_ = false;
 };
 
 } // namespace morvane

@@ -3,6 +3,7 @@
 #include "core/error.h"
 #include "core/failure_report.h"
 #include "core/numbers.h"
+#include "core/writing.h"
 #include "ground/cloud_cover.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
@@ -135,6 +136,7 @@ int flyNow(Session& session) {
 int flyWithCover(Session& session) {
     SetMatching matching(session);
     const int copied = matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
+    if (session.writing->wasRefused) return -1;
     startSavedFlight(session);
     if (!session.modal.FlightSelected) launchFlightSimulator(session);
     return copied;

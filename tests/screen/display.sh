@@ -1,7 +1,7 @@
 # A display and a window manager of our own, the program's windows on it, and a mouse and a keyboard for them.
 # Sourced. Needs $root, a folder that goes with the run. Window positions are pixels from the window's corner.
 
-readonly patience=120 # seconds that anything may take; far more than it needs, for machines with much to do
+readonly patience=${MORVANE_PATIENCE:-120} # seconds that anything may take; far more than it needs, for machines with much to do
 programId=
 
 say() {
@@ -9,9 +9,16 @@ say() {
 }
 
 fail() {
-    echo "FAILED: $*" >&2
+    echo "FAILED: $*; windows: $(windowNames)" >&2
     takePicture failed
     exit 1
+}
+
+windowNames() {
+    local id
+    for id in $(visibleWindows); do
+        echo -n "'$(xdotool getwindowname "$id" 2>/dev/null)' "
+    done
 }
 
 hasEnded() {
