@@ -41,6 +41,10 @@ public:
     SkinnedButton* addButton(const ButtonSetup& setup, QWidget* parent = nullptr);
     SkinnedButton* button(const QString& controlName) const;
 
+    /// When another program has written into the store: shows anew what is shown of it. True when that was
+    /// other than what the user sees.
+    virtual bool showForeignChanges() { return false; }
+
     /// Escape, and the window manager's close: a dialog cancels, a window leaves the program.
     virtual void cancel() {}
 

@@ -1,5 +1,6 @@
 #include "ui/shell.h"
 
+#include "core/changed_rows.h"
 #include "core/failure_report.h"
 #include "core/registry.h"
 #include "core/session.h"
@@ -191,8 +192,23 @@ void Shell::dispatch(SkinnedButton* button) {
         actionOf(button->family(), form ? form->formName() : QString(), button->button_type());
     if (!action) return;
     // An exception must not cross the toolkit's event loop.
-    reportFailures(session_.user, {}, [&] { action(*this, *button); });
+    reportFailures(session_.user, {}, [&] {
+        if (isAsShown(*button)) action(*this, *button);
+    });
     reportMissingSkin();
+}
+
+/// Another program may have written since the page was filled. A key that acts on what the page shows then
+/// waits for a click on what is really there.
+bool Shell::isAsShown(const SkinnedButton& button) {
+    Form* form = Form::of(button.parentWidget());
+    if (!reloadChangedRows(session_) || !form || !form->showForeignChanges()) return true;
+    if (button.family() != ButtonFamily::LargeButton) return true;
+    session_.user.showMessage({MessageKind::information, u"Sets Have Changed"_s,
+                               u"Another program has changed the texture sets.  The list shows them as they "
+                               u"are now.  Please look at it and "
+                               "choose again."_s});
+    return false;
 }
 
 void Shell::reportMissingSkin() {

@@ -84,6 +84,7 @@ public Q_SLOTS:
     void dispatch(SkinnedButton* button);
 
 private:
+    bool isAsShown(const SkinnedButton& button);
     /// Every loop is left, dialogs and messages with a "no"; the exit flow runs behind the main one.
     void leave(ExitStage stage);
 
