@@ -1,7 +1,8 @@
 #include "simulator/simulator_launch.h"
 
+#include "core/registry.h"
 #include "simulator/flights.h"
-#include "simulator/program_runner.h"
+#include "simulator/program_start.h"
 
 namespace morvane {
 
@@ -17,8 +18,18 @@ void leaveTheScreenToTheSimulator(Session& session) {
 }
 
 void startSimulator(Session& session, const FilePath& flight) {
-    if (startWithRunner(session, u"Flight Simulator"_s, session.FSPath / u"fs9.exe", flight))
-        leaveTheScreenToTheSimulator(session);
+    const QString runner =
+        session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"SimulatorRunner"_s);
+    const FilePath simulator = session.FSPath / u"fs9.exe";
+    if (lacksRunner(simulator, runner)) {
+        session.user.showMessage(
+            {MessageKind::information, u"Flight Simulator Not Started"_s,
+             u"Flight Simulator is a Windows program and needs a runner on this system. Set the value "
+             u"\"SimulatorRunner\" of Morvane's registry.ini to its command, such as wine."_s});
+        return;
+    }
+    startProgram(simulator, flight, runner);
+    leaveTheScreenToTheSimulator(session);
 }
 
 } // namespace

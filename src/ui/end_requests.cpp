@@ -1,6 +1,6 @@
 #include "ui/end_requests.h"
 
-#include "ui/blocked_close.h"
+#include "ui/close_request.h"
 #include "ui/shell.h"
 
 #include <QApplication>
@@ -17,6 +17,11 @@ namespace morvane {
 
 namespace {
 
+bool isBlocked(const QWidget* window) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return modal && modal->window() != window;
+}
+
 #ifndef Q_OS_WIN
 
 int signalSockets[2]; ///< a handler may do no more than write
@@ -27,27 +32,44 @@ void onSignal(int number) {
     std::signal(number, SIG_DFL); // a second one kills
 }
 
-void listenToSignals(Shell& shell) {
-    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, signalSockets) != 0) return;
-    auto* notifier = new QSocketNotifier(signalSockets[1], QSocketNotifier::Read, &shell);
-    QObject::connect(notifier, &QSocketNotifier::activated, &shell, [&shell, notifier] {
-        notifier->setEnabled(false);
-        shell.endWithSession();
-    });
-    for (const int number : {SIGTERM, SIGHUP, SIGINT})
-        std::signal(number, onSignal);
-}
-
 #endif
 
 } // namespace
 
-void listenToEndRequests(Shell& shell) {
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &shell, [&shell] { shell.endWithSession(); });
+EndRequests::EndRequests(Shell& shell) : shell_(shell) {
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { shell_.endWithSession(); });
+    qApp->installEventFilter(this);
+    qApp->installNativeEventFilter(this);
+    listenToSignals();
+}
+
+void EndRequests::listenToSignals() {
 #ifndef Q_OS_WIN
-    listenToSignals(shell);
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, signalSockets) != 0) return;
+    auto* notifier = new QSocketNotifier(signalSockets[1], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
+        notifier->setEnabled(false);
+        shell_.endWithSession();
+    });
+    for (const int number : {SIGTERM, SIGHUP, SIGINT})
+        std::signal(number, onSignal);
 #endif
-    new BlockedCloses(shell);
+}
+
+/// The session's last word, also where no data was asked to be saved. The program itself never quits.
+bool EndRequests::eventFilter(QObject* receiver, QEvent* event) {
+    if (receiver != qApp || event->type() != QEvent::Quit) return false;
+    shell_.endWithSession();
+    return true;
+}
+
+bool EndRequests::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
+    const WId id = windowToClose(type, message);
+    QWidget* window = id ? QWidget::find(id) : nullptr;
+    if (!window || !isBlocked(window) || !windowNames.contains(window->objectName())) return false;
+    // Not from inside the reading of events, as a question may follow.
+    QMetaObject::invokeMethod(&shell_, &Shell::exitProgram, Qt::QueuedConnection);
+    return true;
 }
 
 } // namespace morvane

@@ -49,6 +49,6 @@ int main(int argc, char** argv) {
     Shell shell(session, skin);
     user.setShell(&shell);
     window.serve(shell);
-    listenToEndRequests(shell);
+    const EndRequests requests(shell);
     return runProgram(shell, words.join(u' '));
 }

@@ -11,12 +11,10 @@ namespace {
 using test::Console;
 using test::ConsoleInstall;
 
-constexpr int fileCount = 60;
-
-QStringList manyFiles(const QString& folder) {
+QStringList manyFiles(const QString& folder, int count) {
     QStringList names;
-    for (int number = 0; number < fileCount; ++number)
-        names << folder + u"\\029b2su%1.bmp"_s.arg(number, 2, 10, QChar(u'0'));
+    for (int number = 0; number < count; ++number)
+        names << folder + u"\\029b2su%1.bmp"_s.arg(number, 3, 10, QChar(u'0'));
     return names;
 }
 
@@ -30,7 +28,8 @@ std::pair<test::ConsoleRun, test::ConsoleRun> runTwo(ConsoleInstall& install, co
 }
 
 TEST(TwoPrograms, setsOfTwoRunsAreAllWhole) {
-    ConsoleInstall install({manyFiles(u"GENERIC WORLD"_s), 32});
+    constexpr int fileCount = 60;
+    ConsoleInstall install({manyFiles(u"GENERIC WORLD"_s, fileCount), 32});
     const auto [first, second] =
         runTwo(install, u"ground create 0 0 0 0 3"_s, u"Process 1 of 2"_s, u"ground create 3 0 0 0 0"_s);
     EXPECT_EQ(first.status, 0) << first.messages.toStdString();
@@ -47,15 +46,17 @@ TEST(TwoPrograms, setsOfTwoRunsAreAllWhole) {
 
 TEST(TwoPrograms, noOriginalOfTwoInstallsIsLost) {
     ConsoleInstall install;
-    const FilePath textures = install.simulator() / u"Scenery\\World\\texture";
-    const QStringList names = manyFiles({});
+    // Long enough for the other one to note its files in the middle of it.
+    const QStringList names = manyFiles(u"Texture"_s, 200), skyNames{u"day.bmp"_s, u"dawn.bmp"_s};
     for (const QString& name : names)
-        test::writeFile(textures.child(name.mid(1)), "the pilot's " + name.toUtf8());
+        test::writeFile(install.simulator() / u"Scenery\\World" / name, "the pilot's " + name.toUtf8());
+    for (const QString& name : skyNames)
+        test::writeFile(install.simulator() / u"Texture" / name, "the pilot's " + name.toUtf8());
     const auto before = test::contentsBelow(install.simulator());
-    install.addSet(u"2-Storm"_s, u"Overcast"_s, true, manyFiles(u"Texture"_s).mid(0, fileCount / 2));
-    install.addSky(u"3-Grey"_s, u"Overcast"_s, true, {u"day.bmp"_s, u"dawn.bmp"_s});
-    const auto [first, second] = runTwo(install, u"ground install 2-Storm"_s,
-                                        u"Processing your Ground"_s, u"sky install 3-Grey"_s);
+    install.addSet(u"2-Storm"_s, u"Overcast"_s, true, names);
+    install.addSky(u"3-Grey"_s, u"Overcast"_s, true, skyNames);
+    const auto [first, second] =
+        runTwo(install, u"ground install 2-Storm"_s, u"Processing your Ground"_s, u"sky install 3-Grey"_s);
     EXPECT_EQ(first.status + second.status, 0) << second.messages.toStdString();
     EXPECT_NE(test::contentsBelow(install.simulator()), before);
     EXPECT_EQ(install.run(u"originals restore"_s).status, 0);
@@ -65,7 +66,7 @@ TEST(TwoPrograms, noOriginalOfTwoInstallsIsLost) {
 }
 
 TEST(TwoPrograms, readersRunBesideAWriterAndAKilledOnesLockIsTakenOver) {
-    ConsoleInstall install({manyFiles(u"GENERIC WORLD"_s), 64});
+    ConsoleInstall install({manyFiles(u"GENERIC WORLD"_s, 60), 64});
     Console writer(install.withHome(u"ground create 0 0 0 0 200"_s));
     ASSERT_TRUE(writer.waitForMessage(u"Process 1 of 2"_s));
     for (const QString& command : {u"ground list"_s, u"originals list"_s, u"option get halo"_s})

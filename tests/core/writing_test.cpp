@@ -32,10 +32,12 @@ TEST_F(WritingTest, aSecondWriterIsToldWhoTheFirstIsAndBeginsNothing) {
     for (const bool isUnattended : {false, true}) {
         if (isUnattended) second.writing->beUnattended();
         second.writing->patience = {};
+        second.writing->wasRefused = false;
         user.messages.clear();
         EXPECT_FALSE(Job(second));
         ASSERT_EQ(user.told().size(), 1);
-        EXPECT_TRUE(user.told()[0].contains(u" (process "_s + QString::number(QCoreApplication::applicationPid()) + u')'))
+        EXPECT_TRUE(user.told()[0].contains(u" (process "_s +
+                                            QString::number(QCoreApplication::applicationPid()) + u')'))
             << user.told()[0].toStdString();
         EXPECT_EQ(user.messages.back().isProgress, isUnattended) << "which waits for no click";
         EXPECT_FALSE(second.jobRunning);

@@ -76,8 +76,8 @@ TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndReset
     const QStringList files{"Texture\\a.bmp", "Texture\\b.bmp", "Texture\\c.bmp", "Texture\\d.bmp"};
     install.addGroundSet("2-Storm", "Overcast", true, files);
     session.InhibitCustomSplash = true;
-    install.user.onPump = [this] {
-        if (install.user.calls.last() == u"progress 40"_s) session.ExitInProgress.moveTo(ExitStage::sessionEnd);
+    install.user.onPump = [this, files = 0]() mutable {
+        if (++files == 2) session.ExitInProgress.moveTo(ExitStage::sessionEnd);
     };
     put("2-Storm");
     const FilePath textures = session.FSPath / u"Scenery\\World\\texture";

@@ -187,7 +187,8 @@ TEST_F(MessageScreenTest, hasNoBarWhileActiveSkyWorksAndIsCancelledWithoutAQuest
         program.session.weather.ASv6Busy = isBusy;
         program.user.showMessage(progress);
         EXPECT_EQ(bar.isHidden(), isBusy);
-        EXPECT_EQ(control<QPushButton>(u"cmdCancel"_s).text(), isBusy ? u"Cancel"_s : u"Cancel the process"_s);
+        EXPECT_EQ(control<QPushButton>(u"cmdCancel"_s).text(),
+                  isBusy ? u"Cancel"_s : u"Cancel the process"_s);
     }
     QTest::keyClick(&form(), Qt::Key_Escape);
     EXPECT_TRUE(program.user.answers().cancelRequested);

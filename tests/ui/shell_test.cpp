@@ -237,7 +237,8 @@ TEST_F(ShellTest, aKeyWaitsForASecondClickWhenItsListHasChanged) {
     program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
     program.shell.screen<frm_MVTextures>(u"frm_MVTextures"_s).selectSetRow(2);
     EXPECT_EQ(program.session.ground.SelectedGroundSet, u"2-Storm"_s);
-    program.install.session.adoConn->execute(u"DELETE FROM TEXTURE_SETS WHERE ID = "_s + QString::number(storm));
+    program.install.session.adoConn->execute(u"DELETE FROM TEXTURE_SETS WHERE ID = "_s +
+                                             QString::number(storm));
     program.confirmNext(u"frm_Msg"_s);
     program.press(u"frm_MVTextures"_s, u"btn_TextureInstall"_s);
     EXPECT_EQ(program.session.ground.SelectedGroundSet, u"Default"_s);

@@ -179,7 +179,8 @@ TEST_F(ActiveSkyTest, theWaitIsLeftByACancelAndByTheEndOfTheProgram) {
     session.weather.ASv6Local = true;
     const auto cancel = [this] { user.answers().cancelRequested = true; };
     const auto leave = [this] { session.ExitInProgress.moveTo(ExitStage::leaving); };
-    const std::pair<int, std::function<void()>> cases[] = {{3, cancel}, {40, cancel}, {3, leave}, {40, leave}};
+    const std::pair<int, std::function<void()>> cases[] = {
+        {3, cancel}, {40, cancel}, {3, leave}, {40, leave}};
     for (const auto& [leftAt, action] : cases) {
         session.ExitInProgress.moveTo(ExitStage::running);
         session.gWxFinders.reset();
