@@ -27,6 +27,6 @@ int main(int count, char** words) {
     event.type = atomOf(display, "WM_PROTOCOLS");
     event.data.data32[0] = atomOf(display, "WM_DELETE_WINDOW");
     xcb_send_event(display, 0, event.window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&event));
-    xcb_flush(display);
+    atomOf(display, "WM_PROTOCOLS"); // an answer says that all before it has arrived
     xcb_disconnect(display);
 }
