@@ -30,12 +30,14 @@ std::optional<Arguments> parse(QStringList words) {
     Arguments arguments;
     while (words.size() >= 2 && (words[0] == u"--home" || words[0] == u"--answer")) {
         const auto policy = policyOf(words[1]);
-        if (words[0] == u"--home")
+        if (words[0] == u"--home") {
             arguments.home = words[1];
-        else if (policy)
-            arguments.policy = *policy, arguments.isUnattended = *policy != AnswerPolicy::ask;
-        else
+        } else if (policy) {
+            arguments.policy = *policy;
+            arguments.isUnattended = *policy != AnswerPolicy::ask;
+        } else {
             return std::nullopt;
+        }
         words.remove(0, 2);
     }
     arguments.words = words;

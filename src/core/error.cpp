@@ -18,10 +18,10 @@ QString tableText(ErrorCode code) {
         return u"Division by zero"_s;
     case ErrorCode::typeMismatch:
         return u"Type mismatch"_s;
-    case ErrorCode::interrupted:
-        return u"User interrupt occurred"_s;
     case ErrorCode::cannotOpenForWriting:
         return u"Can't open file for writing"_s;
+    case ErrorCode::interrupted:
+        return u"User interrupt occurred"_s;
     case ErrorCode::fileNotFound:
         return u"File not found"_s;
     case ErrorCode::ioFailure:

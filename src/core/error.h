@@ -15,8 +15,8 @@ enum class ErrorCode {
     subscript = 9,
     divisionByZero = 11,
     typeMismatch = 13,
-    interrupted = 18, ///< what was begun is left, and the user knows why: nothing is told
     cannotOpenForWriting = 17,
+    interrupted = 18, ///< what was begun is left, and the user knows why: nothing is told
     fileNotFound = 53,
     ioFailure = 57,
     diskFull = 61,

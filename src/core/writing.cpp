@@ -45,14 +45,13 @@ bool Writing::waitForOther() {
          false, true, true});
     const QDeadlineTimer deadline(lock.patience);
     bool isTaken = false;
-    const auto isOver = [&] { return answers.cancelRequested || session_.ExitInProgress.endsWork(); };
-    while (!isTaken && !isOver() && !deadline.hasExpired()) {
+    while (!isTaken && !isWorkCancelled(session_) && !deadline.hasExpired()) {
         session_.user.pumpMessages();
         QThread::msleep(restMilliseconds);
         isTaken = lock.file.tryTake();
     }
     session_.user.hideMessage();
-    if (!isTaken && !isOver()) tellOfOther();
+    if (!isTaken && !isWorkCancelled(session_)) tellOfOther();
     answers.cancelRequested = false;
     return isTaken;
 }

@@ -36,8 +36,8 @@ void onSignal(int number) {
 
 } // namespace
 
-EndRequests::EndRequests(Shell& shell) : shell_(shell) {
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { shell_.endWithSession(); });
+EndRequests::EndRequests() {
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &EndRequests::end);
     qApp->installEventFilter(this);
     qApp->installNativeEventFilter(this);
     listenToSignals();
@@ -49,26 +49,34 @@ void EndRequests::listenToSignals() {
     auto* notifier = new QSocketNotifier(signalSockets[1], QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
         notifier->setEnabled(false);
-        shell_.endWithSession();
+        end();
     });
     for (const int number : {SIGTERM, SIGHUP, SIGINT})
         std::signal(number, onSignal);
 #endif
 }
 
+void EndRequests::end() {
+    hasEnded_ = true;
+    if (shell_)
+        shell_->endWithSession();
+    else
+        QCoreApplication::exit(0);
+}
+
 /// The session's last word, also where no data was asked to be saved. The program itself never quits.
 bool EndRequests::eventFilter(QObject* receiver, QEvent* event) {
     if (receiver != qApp || event->type() != QEvent::Quit) return false;
-    shell_.endWithSession();
+    end();
     return true;
 }
 
 bool EndRequests::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
     const WId id = windowToClose(type, message);
     QWidget* window = id ? QWidget::find(id) : nullptr;
-    if (!window || !isBlocked(window) || !windowNames.contains(window->objectName())) return false;
+    if (!shell_ || !window || !isBlocked(window) || !windowNames.contains(window->objectName())) return false;
     // Not from inside the reading of events, as a question may follow.
-    QMetaObject::invokeMethod(&shell_, &Shell::exitProgram, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(shell_.data(), &Shell::exitProgram, Qt::QueuedConnection);
     return true;
 }
 

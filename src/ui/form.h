@@ -41,8 +41,7 @@ public:
     SkinnedButton* addButton(const ButtonSetup& setup, QWidget* parent = nullptr);
     SkinnedButton* button(const QString& controlName) const;
 
-    /// When another program has written into the store: shows anew what is shown of it. True when that was
-    /// other than what the user sees.
+    /// Shows anew what another program has changed of what is shown; true when there was something.
     virtual bool showForeignChanges() { return false; }
 
     /// Escape, and the window manager's close: a dialog cancels, a window leaves the program.

@@ -34,7 +34,8 @@ int main(int argc, char** argv) {
         words.remove(0, 2);
     }
     const bool isFirstStart = home == userInstallFolder() && !QFileInfo::exists(home);
-    if (isFirstStart && !makeInstallFolder(home)) return 1;
+    EndRequests requests;
+    if (isFirstStart && !makeInstallFolder(home)) return requests.hasEnded() ? 0 : 1;
     const FilePath folder(QFileInfo(home).absoluteFilePath());
     SingleWindow window(folder);
     if (words.isEmpty() && !window.take()) return 0;
@@ -49,6 +50,6 @@ int main(int argc, char** argv) {
     Shell shell(session, skin);
     user.setShell(&shell);
     window.serve(shell);
-    const EndRequests requests(shell);
+    requests.handTo(shell);
     return runProgram(shell, words.join(u' '));
 }

@@ -172,7 +172,7 @@ void SetListForm::clickRow(const QString& listKey) {
 void SetListForm::takeInHand(int row, bool hasColours, ButtonState ofActivated) {
     const ButtonState ofWhole = hasColours ? ButtonState::enabled : ButtonState::disabled;
     const auto filled = std::ranges::find(filledRows_, list_->keyOf(row), &SetRow::key);
-    rowInHand_ = static_cast<int>(filled - filledRows_.begin()) + 1;
+    rowInHand_ = filled == filledRows_.end() ? 0 : static_cast<int>(filled - filledRows_.begin()) + 1;
     noteRows(row);
     const bool isActivated = list_->textOf(row, activatedColumn) == flagText(true);
     install_->setState(isActivated ? ofWhole : ButtonState::disabled);

@@ -5,6 +5,7 @@
 #include "core/registry.h"
 #include "core/session.h"
 #include "core/writing.h"
+#include "ui/dialog_form.h"
 #include "ui/dispatch_table.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
@@ -199,11 +200,12 @@ void Shell::dispatch(SkinnedButton* button) {
 }
 
 /// Another program may have written since the page was filled. A key that acts on what the page shows then
-/// waits for a click on what is really there.
+/// waits for a click on what is really there. The keys of a dialog answer what was asked.
 bool Shell::isAsShown(const SkinnedButton& button) {
     Form* form = Form::of(button.parentWidget());
-    if (!reloadChangedRows(session_) || !form || !form->showForeignChanges()) return true;
-    if (button.family() != ButtonFamily::LargeButton) return true;
+    if (!form || qobject_cast<DialogForm*>(form)) return true;
+    reloadChangedRows(session_);
+    if (!form->showForeignChanges() || button.family() != ButtonFamily::LargeButton) return true;
     session_.user.showMessage({MessageKind::information, u"Sets Have Changed"_s,
                                u"Another program has changed the texture sets.  The list shows them as they "
                                u"are now.  Please look at it and "

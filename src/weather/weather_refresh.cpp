@@ -32,7 +32,10 @@ bool loadNewCycle(Session& session, ActiveSkyPlatform& platform) {
 void refreshWeather(Session& session, ActiveSkyPlatform& platform) {
     const bool hasData = session.weather.MetarDataLoaded;
     if (hasData && !isWanted(session)) return;
-    if (!session.gWxFinders) session.gWxFinders = std::make_unique<clsWxFinders>(session);
+    if (!session.gWxFinders) {
+        session.gWxFinders = std::make_unique<clsWxFinders>(session);
+        if (hasData) session.gWxFinders->getMetarsFromDB(); // dropped when another program had written
+    }
     if (!(hasData ? loadNewCycle(session, platform) : loadFirstCycle(session))) return;
     session.weather.FlyNowDisabled = session.gWxFinders->Count() == 0;
     if (session.weather.FlyNowDisabled)

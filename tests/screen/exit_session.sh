@@ -231,6 +231,18 @@ secondWindow() {
     waitFor "the keyboard in it" hasFocus "$mainWindow"
 }
 
+endFirstStart() {
+    say "The first start of all draws its images; the end of the session leaves nothing of them"
+    unset MORVANE_HOME
+    QT_QPA_PLATFORM=xcb "$programs/morvane" >"$root/morvane.log" 2>&1 &
+    programId=$!
+    inFront Morvane
+    situation=atDrawing way=byTerm
+    byTerm
+    expectEnd $session Default
+    expect "nothing is left of it" test -z "$(find "$HOME" -name 'Morvane*')"
+}
+
 leaveByYes() {
     say "Yes puts the sets back before the program ends"
     situation=atReset way=byYes
@@ -259,4 +271,5 @@ cancelWait
 secondWindow
 leaveByYes
 firstStart
+endFirstStart
 say "Done"
