@@ -1,6 +1,7 @@
 // Backup and restore of 4,000 textures of 43 KB, beside what `cp -r` takes for the same files.
 
 #include "simulator/backup_files.h"
+#include "simulator/backup_restore.h"
 #include "support/small_install.h"
 
 #include <QElapsedTimer>

@@ -2,7 +2,7 @@
 
 #include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 #include "support/small_install.h"
 
 #include <QElapsedTimer>
@@ -36,7 +36,7 @@ void stockImport(benchmark::State& state) {
         files = importSimulatorStock(install.session).value_or(StockImportReport{}).files;
         state.counters["import_ms"] = static_cast<double>(clock.nsecsElapsed()) / 1e6;
         clock.start();
-        restoreStock(install.session);
+        restoreStock(install.session, true);
         state.counters["restore_ms"] = static_cast<double>(clock.nsecsElapsed()) / 1e6;
     }
     state.counters["files"] = files;

@@ -1,6 +1,5 @@
-#include "cli/airport_commands.h"
-
 #include "cli/command_helpers.h"
+#include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "cli/terminal.h"
 #include "core/numbers.h"
@@ -9,6 +8,7 @@
 #include "core/store_records.h"
 #include "weather/airport_search.h"
 #include "weather/coordinates.h"
+#include "weather/metar_decoder.h"
 #include "weather/nearest_station.h"
 #include "weather/weather_control.h"
 
@@ -35,23 +35,35 @@ double distanceOf(const Session& session, const QString& station, double latitud
                          textToNumber(row.text(u"METAR_LONG")));
 }
 
-} // namespace
+/// What the lines say and what they were made of. The report may be a neighbour's.
+QJsonObject toJson(CommandContext& context, const Airport& airport, const QString& metar) {
+    clsDecodeMetar report(context.user);
+    report.decodeMetarString(trimmedBlanks(metar));
+    return {{u"icao"_s, context.arguments[0].toUpper()},
+            {u"name"_s, airport.name},
+            {u"city"_s, airport.city},
+            {u"metar"_s, metar},
+            {u"decoded"_s, toJson(report)},
+            {u"lines"_s, QJsonArray::fromStringList(context.session.modal.decodedMetarLines)}};
+}
 
-bool metarShow(CommandContext& context) {
+/// The decoded report of a station or an airport, line by line.
+void showReport(CommandContext& context) {
     Session& session = context.session;
     const QString& icao = context.arguments[0];
     const Airport airport = findAirport(session, icao).value_or(Airport{});
     session.weather.InhibitWeatherReports = false;
-    context.user.onModal = [&](Screen) {
-        for (const QString& line : session.modal.decodedMetarLines)
-            writeStandardOutput(line + u'\n');
-    };
     QString metar;
-    getMetar(session, icao.toUpper(), airport.latitude, airport.longitude, airport.city, airport.name, metar);
-    return true;
+    if (!getMetar(session, icao.toUpper(), airport.latitude, airport.longitude, airport.city, airport.name,
+                  metar))
+        return;
+    if (context.options.contains(jsonOption.name))
+        return printJson(QJsonDocument(toJson(context, airport, metar)));
+    for (const QString& line : session.modal.decodedMetarLines)
+        writeStandardOutput(line + u'\n');
 }
 
-bool airportFind(CommandContext& context) {
+void findAirports(CommandContext& context) {
     searchAirports(context.session.weather, SearchBox::icao, context.arguments[0]);
     QJsonArray found;
     for (const Airport& airport : popAirports(context.session, {}).airports) {
@@ -59,20 +71,44 @@ bool airportFind(CommandContext& context) {
         found << toJson(airport);
     }
     printJson(QJsonDocument(found));
-    return true;
 }
 
-bool stationNearest(CommandContext& context) {
+void findNearestStation(CommandContext& context) {
     const QString &latitude = context.arguments[0], &longitude = context.arguments[1];
     const QString station = getClosestMetarStation(context.session, {}, latitude, longitude);
-    if (station.isEmpty()) {
-        fail(context, u"No station with a position has a stored report"_s);
-        return true;
-    }
+    if (station.isEmpty()) return fail(context, u"No station with a position has a stored report"_s);
     const double distance =
         distanceOf(context.session, station, textToNumber(latitude), textToNumber(longitude));
     printJson(QJsonDocument(QJsonObject{{u"icao"_s, station}, {u"distanceNM"_s, distance}}));
-    return true;
+}
+
+} // namespace
+
+std::vector<Command> airportCommands() {
+    const Operand latitude{.name = u"LAT"_s,
+                           .meaning = u"degrees, north positive"_s,
+                           .takes = u"a number from -90 to 90"_s,
+                           .isTaken = [](const QString& word) { return isNumberWithin(word, -90, 90); }};
+    const Operand longitude{.name = u"LONG"_s,
+                            .meaning = u"degrees, east positive"_s,
+                            .takes = u"a number from -180 to 180"_s,
+                            .isTaken = [](const QString& word) { return isNumberWithin(word, -180, 180); }};
+    return {{.words = u"metar show"_s,
+             .operands = {{u"ICAO"_s, u"the airport's or the station's code"_s}},
+             .options = {jsonOption},
+             .run = showReport,
+             .meaning = u"the decoded report of an airport, or of its nearest station, in eleven lines"_s,
+             .example = u"metar show EHAM --json"_s},
+            {.words = u"airport find"_s,
+             .operands = {{u"PREFIX"_s, u"the beginning of the code"_s}},
+             .run = findAirports,
+             .meaning = u"the airports whose code begins so, at most 100"_s,
+             .example = u"airport find EH"_s},
+            {.words = u"station nearest"_s,
+             .operands = {latitude, longitude},
+             .run = findNearestStation,
+             .meaning = u"the nearest station with a report, and its distance"_s,
+             .example = u"station nearest -33.9 151.2"_s}};
 }
 
 } // namespace morvane

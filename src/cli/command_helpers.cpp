@@ -1,27 +1,53 @@
 #include "cli/command_helpers.h"
 
+#include "cli/terminal.h"
 #include "core/error.h"
 #include "core/numbers.h"
 #include "imaging/picture_reader.h"
 
-#include <QDir>
+#include <QLocale>
 
 namespace morvane {
 
+const Operand setName{u"NAME"_s, u"the set's name, in quotes where it has blanks"_s};
+const Operand inPicture{u"IN"_s, u"the picture that is read"_s};
+const CommandOption jsonOption{u"--json"_s, u"prints one JSON object instead of lines"_s};
+const Operand outFile{u"OUT"_s, u"the file that is written"_s};
+
+Operand countOperand(const QString& name, const QString& meaning) {
+    const auto isCount = [](const QString& word) { return isDigits(word); };
+    return {.name = name, .meaning = meaning, .takes = u"a whole number"_s, .isTaken = isCount};
+}
+
+std::vector<Operand> fiveCounts() {
+    return {countOperand(u"N1"_s, u"how many for clear skies"_s),
+            countOperand(u"N2"_s, u"how many for mostly clear skies"_s),
+            countOperand(u"N3"_s, u"how many for partly cloudy skies"_s),
+            countOperand(u"N4"_s, u"how many for mostly cloudy skies"_s),
+            countOperand(u"N5"_s, u"how many for overcast skies"_s)};
+}
+
+bool isNumberWithin(const QString& word, double lowest, double highest) {
+    bool isNumber = false;
+    const double number = QLocale::c().toDouble(word, &isNumber);
+    return isNumber && number >= lowest && number <= highest;
+}
+
 FilePath pathOfArgument(const QString& argument) {
-    return FilePath(QDir::current().absoluteFilePath(argument));
+    return FilePath(fullPath(argument));
 }
 
 void fail(CommandContext& context, const QString& text) {
     context.user.showMessage({MessageKind::error, u"Morvane Error"_s, text, true, false, false});
 }
 
-std::optional<std::array<std::int16_t, 5>> countsOfArguments(const QStringList& arguments, qsizetype first) {
+std::array<std::int16_t, 5> countsOfArguments(const QStringList& arguments, qsizetype first) {
     std::array<std::int16_t, 5> counts{};
     for (std::size_t i = 0; i < counts.size(); ++i) {
-        const QString& text = arguments[first + static_cast<qsizetype>(i)];
-        if (!isDigits(text)) return std::nullopt;
-        counts[i] = toInteger(text.toLongLong());
+        bool fits = false;
+        const qlonglong count = arguments[first + static_cast<qsizetype>(i)].toLongLong(&fits);
+        if (!fits) throw Error(ErrorCode::overflow);
+        counts[i] = toInteger(count);
     }
     return counts;
 }

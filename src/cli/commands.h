@@ -3,8 +3,8 @@
 #include "cli/console_user.h"
 #include "core/session.h"
 
+#include <QHash>
 #include <QStringList>
-#include <optional>
 
 namespace morvane {
 
@@ -13,32 +13,58 @@ inline constexpr int exitDone = 0;
 inline constexpr int exitFailed = 1;
 inline constexpr int exitWrongUsage = 2;
 
-/// The number of arguments of a command that looks at them itself.
-inline constexpr int anyArguments = -1;
+/// A word behind a command, or the value of an option. What it does not take is told before anything runs.
+struct Operand {
+    QString name; ///< as the help spells it: "NAME"
+    QString meaning = {};
+    QStringList entries = {};                       ///< the only words taken, where it is a closed list
+    QString takes = {};                             ///< else what a good word is: "a whole number"
+    bool (*isTaken)(const QString& word) = nullptr; ///< any word is, without it
+    bool isOptional = false;
+    bool repeats = false; ///< the last operand of a command, once or several times
+};
+
+/// An option of one command, "--from DIR"; a flag when its value has no name.
+struct CommandOption {
+    QString name;
+    QString meaning = {};
+    Operand value = {};
+};
 
 /// What a command works with.
 struct CommandContext {
     Session& session;
     ConsoleUser& user;
-    QStringList arguments; ///< behind the command's own words
+    QStringList arguments;                ///< the operands, checked
+    QHash<QString, QString> options = {}; ///< those given, by name; a flag has an empty value
+};
+
+/// What has to stand before a command runs.
+enum class Needs {
+    nothing,
+    folder,   ///< the install folder
+    simulator ///< the start sequence: folder, simulator, store, switches
 };
 
 /// One command of the console.
 struct Command {
-    QStringList words; ///< such as "ground", "create"
-    int argumentCount; ///< or `anyArguments`
-    bool needsInstall; ///< runs the start sequence first
-    /// False for wrong usage. Failures are messages; the exit status follows from those.
-    bool (*run)(CommandContext&);
-    QString usage;
+    QString words; ///< such as "ground create"
+    std::vector<Operand> operands = {};
+    std::vector<CommandOption> options = {};
+    Needs needs = Needs::simulator;
+    bool writes = false; ///< into the install or the simulator
+    /// Failures are messages; the exit status follows from those.
+    void (*run)(CommandContext&);
+    /// What is wrong with operands and options that are good each by itself; empty when nothing is.
+    QString (*problem)(const QStringList& operands, const QHash<QString, QString>& options) = nullptr;
+    QString meaning = {};
+    QString example; ///< behind the program's name
 };
 
 /// All of them, in the order of the help text.
 const std::vector<Command>& commandTable();
 
-/// Finds the command, starts what it needs, runs it and gives the exit status.
-int runCommand(const QStringList& words, Session& session, ConsoleUser& user);
-
-QString usageText();
+/// Starts what the command needs, runs it and gives the exit status.
+int runCommand(const Command& command, CommandContext context);
 
 } // namespace morvane

@@ -2,6 +2,8 @@
 
 #include "cli/terminal.h"
 
+#include <algorithm>
+
 namespace morvane {
 
 namespace {
@@ -12,12 +14,24 @@ void print(const QString& text) {
     writeStandardError(text);
 }
 
+/// A No to one of these leaves nothing of the command; the other questions are about something beside it.
+bool isWholeCommand(const UserAnswers& asked) {
+    static constexpr Question deciding[] = {Question::setAction, Question::confirmDelete, Question::skyAction,
+                                            Question::installMatchingSets, Question::backup};
+    return std::ranges::any_of(deciding, [&](Question question) { return asked.isPending(question); });
+}
+
 } // namespace
 
 ConsoleUser::ConsoleUser(const Settings& settings)
     : settings_(settings), canChooseFolder_(settings.policy == AnswerPolicy::ask && isTerminal()) {
     catchInterrupts();
     lastPaint_.start();
+}
+
+void ConsoleUser::noteFailure() {
+    failedBefore_ = failed_;
+    failed_ = true;
 }
 
 void ConsoleUser::endProgressLine() {
@@ -29,13 +43,13 @@ void ConsoleUser::showMessage(const Message& message) {
     endProgressLine();
     const bool harmless = message.kind == MessageKind::information || message.kind == MessageKind::question ||
                           message.kind == MessageKind::progress;
-    failed_ = failed_ || !harmless;
+    if (!harmless) noteFailure();
     progressVisible_ = message.isProgress;
     progressTitle_ = message.title;
     progressFile_.clear();
     print(kindWord(message.kind) + u": "_s + message.title + u"\n  "_s +
           QString(message.text).replace(u"\n"_s, u"\n  "_s) + u'\n');
-    if (!message.isProgress && message.withCancel) answers().answer(answerOfPending());
+    if (!message.isProgress && message.withCancel && answers().isPending()) answerPending();
 }
 
 void ConsoleUser::updateProgress(const QString& title, const QString&, double value) {
@@ -57,40 +71,82 @@ void ConsoleUser::tellDone(const DoneLine& line) {
     print(line.text + (line.remark.isEmpty() ? QString() : u" ("_s + line.remark + u')') + u'\n');
 }
 
-bool ConsoleUser::answerOf(const QString& question) {
-    if (settings_.policy != AnswerPolicy::ask) return settings_.policy == AnswerPolicy::yes;
+/// Nothing at the end of input.
+std::optional<QString> ConsoleUser::typedLine() {
+    std::optional<QString> line = readLine();
+    if (!line && wasInterrupted()) {
+        print(u"\n"_s);
+        throw RoadEnded{};
+    }
+    return line;
+}
+
+/// Nothing when nobody answers.
+std::optional<bool> ConsoleUser::answerOf(const QString& question) {
+    if (settings_.policy == AnswerPolicy::nobody) return std::nullopt;
+    if (settings_.policy != AnswerPolicy::ask) {
+        const bool isYes = settings_.policy == AnswerPolicy::yes;
+        print(isYes ? u"  Yes\n"_s : u"  No\n"_s);
+        return isYes;
+    }
     print(u"  "_s + question + (settings_.enterMeansYes ? u"? [Y/n] "_s : u"? [y/N] "_s));
-    const std::optional<QString> line = readLine();
-    if (!line) return false;
+    const std::optional<QString> line = typedLine();
+    if (!line) return std::nullopt;
     const QString answer = line->trimmed().toLower();
     return answer.isEmpty() ? settings_.enterMeansYes : answer.startsWith(u'y');
 }
 
-bool ConsoleUser::answerOfPending() {
+/// Nothing when nobody answers, and for what only a person knows: a script's yes must not turn the install
+/// into a client.
+std::optional<bool> ConsoleUser::answerOfPending() {
     for (const auto& [question, answer] : settings_.settled)
         if (answers().isPending(question)) return answer;
+    if (answers().isPending(Question::wideClient) && settings_.policy != AnswerPolicy::ask)
+        return std::nullopt;
     return answerOf(u"OK"_s);
+}
+
+void ConsoleUser::answerPending() {
+    pumpMessages();
+    if (isInterrupted_) throw RoadEnded{};
+    const std::optional<bool> answer = answerOfPending();
+    const bool isPersonal = answers().isPending(Question::wideClient);
+    if (!answer) {
+        print(isPersonal ? u"  No; use option set widefs on, or off\n"_s : u"  No; use --answer yes\n"_s);
+        wasLeftOpen_ = wasLeftOpen_ || isWholeCommand(answers());
+    }
+    // A question for a person stays open, so that the next one who is asked can say it.
+    if (answer || !isPersonal) answers().answer(answer.value_or(false));
 }
 
 bool ConsoleUser::systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) {
     endProgressLine();
     print((title.isEmpty() ? QString() : title + u": "_s) + text + u'\n');
     if (buttons == SystemBoxButtons::ok) {
-        failed_ = true;
+        noteFailure();
         return true;
     }
-    // "Try again" makes no sense, and would never end, where nobody can choose.
-    return canChooseFolder_ && answerOf(u"Yes"_s);
+    if (canChooseFolder_) return answerOf(u"Yes"_s).value_or(false);
+    print(u"  No\n"_s); // "try again" makes no sense, and would never end, where nobody can choose
+    return false;
 }
 
 QString ConsoleUser::browseForFolder(const QString&) {
-    if (!canChooseFolder_) return {};
+    if (!canChooseFolder_) {
+        print(u"  Nobody can choose a folder here; use config set simulator DIR, or flights DIR\n"_s);
+        return {};
+    }
     print(u"Please select a folder... "_s);
-    return readLine().value_or(QString()).trimmed();
+    const QString typed = typedLine().value_or(QString()).trimmed();
+    if (typed.isEmpty()) return {};
+    failed_ = failedBefore_; // what was told last was that a folder is needed
+    return fullPath(typed);
 }
 
 void ConsoleUser::pumpMessages() {
-    if (wasInterrupted()) answers().cancelRequested = true;
+    if (!wasInterrupted()) return;
+    isInterrupted_ = true;
+    answers().cancelRequested = true;
 }
 
 } // namespace morvane

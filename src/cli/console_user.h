@@ -5,11 +5,17 @@
 #include <QElapsedTimer>
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace morvane {
 
-/// Who answers the questions of a console run.
-enum class AnswerPolicy { yes, no, ask };
+/// Who answers the questions of a console run: the command line, somebody, or nobody, which is a No that says
+/// how to say Yes.
+enum class AnswerPolicy { yes, no, ask, nobody };
+
+/// Raised out of a question that Ctrl-C ended, or that comes behind one: nothing more is done. It is no
+/// std::exception, as a routine's boundary for failures is not to take it for one of its own.
+struct RoadEnded {};
 
 /// The seam's console: messages and progress on stderr, answers from the keyboard or from a policy.
 /// Ctrl-C is the cancel button, already confirmed; a second one kills.
@@ -40,16 +46,24 @@ public:
     /// What a modal screen does here; the command that expects one sets it.
     std::function<void(Screen)> onModal = [](Screen) {};
 
-    /// True once a message of any kind but Information, Question and Progress was shown, or a plain box.
+    /// True once a message of any kind but Information, Question and Progress was shown, or a plain box; but
+    /// not for one that only asked for a folder and got it.
     bool hasFailed() const { return failed_; }
+    /// True once nobody answered a question on which the whole command hangs.
+    bool wasLeftOpen() const { return wasLeftOpen_; }
 
 private:
-    bool answerOf(const QString& question);
-    bool answerOfPending();
+    void noteFailure();
+    std::optional<bool> answerOf(const QString& question);
+    std::optional<bool> answerOfPending();
+    void answerPending();
+    std::optional<QString> typedLine();
     void endProgressLine();
 
     Settings settings_;
-    bool failed_ = false;
+    bool failed_ = false, failedBefore_ = false; ///< now, and before the last failure
+    bool wasLeftOpen_ = false;
+    bool isInterrupted_ = false; ///< what was cancelled has ended by then, and may have forgotten it
     bool progressVisible_ = false;
     bool progressLineOpen_ = false;
     bool canChooseFolder_;

@@ -1,14 +1,30 @@
-#include "cli/cycle_commands.h"
-
 #include "cli/command_helpers.h"
+#include "cli/command_tables.h"
 #include "cli/json_output.h"
+#include "core/error.h"
 #include "core/row_set.h"
 #include "core/store.h"
+#include "core/text_decoding.h"
+#include "weather/metar_decoder.h"
 #include "weather/wx_finders.h"
+
+#include <QFile>
 
 namespace morvane {
 
 namespace {
+
+void decode(CommandContext& context) {
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) throw Error(ErrorCode::ioFailure);
+    QStringList lines = splitLines(decodeText(input.readAll()));
+    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
+    for (const QString& line : lines) {
+        clsDecodeMetar report(context.user);
+        report.decodeMetarString(line);
+        printJson(QJsonDocument(toJson(report)));
+    }
+}
 
 QJsonValue fieldOf(const RowSet& row, const QString& column) {
     static const QStringList flags{u"METAR_WIND_GUSTING"_s, u"METAR_WIND_VARYING"_s};
@@ -19,27 +35,21 @@ QJsonValue fieldOf(const RowSet& row, const QString& column) {
     return row.text(column);
 }
 
-} // namespace
-
-bool metarImport(CommandContext& context) {
+void import(CommandContext& context) {
     const FilePath file = pathOfArgument(context.arguments[0]);
-    const QString form = context.arguments.value(1, u"plain"_s);
+    const QString form = context.arguments.value(1);
     clsWxFinderData data(context.session);
     if (form == u"asv6")
         data.importExportFile(file);
-    else if (form == u"plain" || form == u"noaa")
-        data.importCycleFile(file, form == u"noaa" ? CycleForm::noaa : CycleForm::plain);
     else
-        return false;
-    return true;
+        data.importCycleFile(file, form == u"noaa" ? CycleForm::noaa : CycleForm::plain);
 }
 
-bool metarDownload(CommandContext& context) {
+void download(CommandContext& context) {
     clsWxFinderData(context.session).GetWeatherFromNOAA();
-    return true;
 }
 
-bool metarRows(CommandContext& context) {
+void printRows(CommandContext& context) {
     const QStringList columns = context.session.adoConn->columns(u"DECODED_METAR"_s);
     for (RowSet rows = clsWxFinderData(context.session).getDecodedMetar({}); !rows.atEnd(); rows.next()) {
         QJsonObject row;
@@ -47,7 +57,37 @@ bool metarRows(CommandContext& context) {
             row.insert(column, fieldOf(rows, column));
         printJson(QJsonDocument(row));
     }
-    return true;
+}
+
+} // namespace
+
+std::vector<Command> cycleCommands() {
+    const Operand form{.name = u"FORM"_s,
+                       .meaning =
+                           u"its form: plain (when nothing is said) and noaa as a server's cycle, asv6 "
+                           "as an export of Active Sky's"_s,
+                       .entries = {u"plain"_s, u"noaa"_s, u"asv6"_s},
+                       .isOptional = true};
+    return {{.words = u"decode"_s,
+             .needs = Needs::nothing,
+             .run = decode,
+             .meaning = u"decodes METAR lines on stdin, one JSON object a line"_s,
+             .example = u"decode < reports.txt"_s},
+            {.words = u"metar import"_s,
+             .operands = {{u"FILE"_s, u"the file of reports"_s}, form},
+             .writes = true,
+             .run = import,
+             .meaning = u"stores the reports of a file"_s,
+             .example = u"metar import 02Z.TXT noaa"_s},
+            {.words = u"metar download"_s,
+             .writes = true,
+             .run = download,
+             .meaning = u"fetches the last hour's cycle and stores it"_s,
+             .example = u"metar download"_s},
+            {.words = u"metar rows"_s,
+             .run = printRows,
+             .meaning = u"every stored report, one JSON object a line"_s,
+             .example = u"metar rows"_s}};
 }
 
 } // namespace morvane

@@ -1,4 +1,4 @@
-#include "cli/commands.h"
+#include "cli/command_line.h"
 #include "cli/terminal.h"
 #include "core/install_folder.h"
 #include "core/registry.h"
@@ -6,61 +6,51 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <algorithm>
 
 using namespace morvane;
 
 namespace {
 
-struct Arguments {
-    QString home = defaultInstallFolder();
-    AnswerPolicy policy = isTerminal() ? AnswerPolicy::ask : AnswerPolicy::no;
-    QStringList words;
-    bool isUnattended = false; ///< all answers were given beforehand
-};
-
-std::optional<AnswerPolicy> policyOf(const QString& word) {
+AnswerPolicy policyOf(const QString& word) {
     if (word == u"yes") return AnswerPolicy::yes;
     if (word == u"no") return AnswerPolicy::no;
-    if (word == u"ask") return AnswerPolicy::ask;
-    return std::nullopt;
+    return word == u"ask" || isTerminal() ? AnswerPolicy::ask : AnswerPolicy::nobody;
 }
 
-/// Options stand before the command; nothing when one of them is wrong.
-std::optional<Arguments> parse(QStringList words) {
-    Arguments arguments;
-    while (words.size() >= 2 && (words[0] == u"--home" || words[0] == u"--answer")) {
-        const auto policy = policyOf(words[1]);
-        if (words[0] == u"--home") {
-            arguments.home = words[1];
-        } else if (policy) {
-            arguments.policy = *policy;
-            arguments.isUnattended = *policy != AnswerPolicy::ask;
-        } else {
-            return std::nullopt;
-        }
-        words.remove(0, 2);
-    }
-    arguments.words = words;
-    return arguments;
+bool isAnsweredBeforehand(AnswerPolicy policy) {
+    return policy == AnswerPolicy::yes || policy == AnswerPolicy::no;
+}
+
+int run(const CommandLine& line) {
+    NativeFileSystem files;
+    SystemClock clock;
+    ReseedingRandomSource random;
+    const AnswerPolicy policy = policyOf(line.options.value(u"--answer"_s));
+    ConsoleUser user({policy, false});
+    const QString home = line.options.value(u"--home"_s, defaultInstallFolder());
+    const FilePath folder(QFileInfo(home).absoluteFilePath());
+    const auto registry = openRegistry(files, folder);
+    Session session({user, files, clock, random, *registry}, folder);
+    if (isAnsweredBeforehand(policy)) session.writing->beUnattended();
+    return runCommand(*line.command, {session, user, line.operands, line.options});
+}
+
+int runLine(const QStringList& words) {
+    const CommandLine line = readCommandLine(words);
+    if (line.command) return run(line);
+    writeStandardOutput(line.output);
+    if (line.slip.isEmpty()) return exitDone;
+    writeStandardError(u"morvane-cli: "_s + line.slip + u'\n');
+    return exitWrongUsage;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
-    const auto arguments = parse(QCoreApplication::arguments().mid(1));
-    int status = exitWrongUsage;
-    if (arguments) {
-        NativeFileSystem files;
-        SystemClock clock;
-        ReseedingRandomSource random;
-        ConsoleUser user({arguments->policy, false});
-        const FilePath home(QFileInfo(arguments->home).absoluteFilePath());
-        const auto registry = openRegistry(files, home);
-        Session session({user, files, clock, random, *registry}, home);
-        if (arguments->isUnattended) session.writing->beUnattended();
-        status = runCommand(arguments->words, session, user);
-    }
-    if (status == exitWrongUsage) writeStandardError(usageText());
-    return status;
+    const int status = runLine(QCoreApplication::arguments().mid(1));
+    if (isOutputWhole()) return status;
+    writeStandardError(u"morvane-cli: what was printed could not be written in full\n"_s);
+    return std::max(status, exitFailed);
 }

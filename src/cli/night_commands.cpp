@@ -1,7 +1,11 @@
-#include "cli/night_commands.h"
-
+#include "cli/command_helpers.h"
+#include "cli/command_tables.h"
+#include "cli/set_commands.h"
+#include "cli/set_kinds.h"
 #include "ground/slider_steps.h"
 #include "night/night_tuning.h"
+
+#include <algorithm>
 
 namespace morvane {
 
@@ -19,20 +23,33 @@ std::optional<SliderValues> slidersOf(const QString& argument) {
     return sliders;
 }
 
-} // namespace
-
-bool nightFavourite(CommandContext& context) {
-    const auto sliders = slidersOf(context.arguments[1]);
-    if (!sliders) return false;
+void addFavourite(CommandContext& context) {
     context.user.onModal = [&](Screen screen) {
         if (screen != Screen::frm_AddFav) return;
         context.session.modal.favName = context.arguments[0];
         context.session.modal.favConfirmed = true;
     };
     NightTuning tuning(context.session);
-    tuning.showColourPreview(*sliders);
+    tuning.showColourPreview(slidersOf(context.arguments[1]).value());
     tuning.newFavNightTexture();
-    return true;
+}
+
+} // namespace
+
+std::vector<Command> nightCommands() {
+    const Operand sliders{
+        .name = u"SLIDERS"_s,
+        .meaning = u"saturation, red, green, blue, brightness, contrast, each -100 to 100, joined by \":\""_s,
+        .takes = u"six whole numbers from -100 to 100 joined by \":\""_s,
+        .isTaken = [](const QString& word) { return slidersOf(word).has_value(); }};
+    std::vector<Command> commands{{.words = u"night favourite"_s,
+                                   .operands = {setName, sliders},
+                                   .writes = true,
+                                   .run = addFavourite,
+                                   .meaning = u"adds a night set with those slider values"_s,
+                                   .example = u"night favourite \"Cold lights\" 0:-30:-30:80:0:0"_s}};
+    std::ranges::move(SetCommands<NightKind>::all(u"2-Cold lights"_s), std::back_inserter(commands));
+    return commands;
 }
 
 } // namespace morvane

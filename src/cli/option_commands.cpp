@@ -1,10 +1,10 @@
-#include "cli/option_commands.h"
-
 #include "cli/command_helpers.h"
+#include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "core/options.h"
 #include "core/set_collections.h"
 #include "simulator/backup_files.h"
+#include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"
@@ -17,7 +17,7 @@ namespace morvane {
 
 namespace {
 
-struct ConsoleOption {
+struct SimulatorOption {
     QString name;
     bool Session::*flag;
     bool (*set)(Session&, bool); ///< false after the message of a refusal
@@ -29,8 +29,8 @@ bool always(Session& session, bool value) {
     return true;
 }
 
-const ConsoleOption* findOption(const QString& name) {
-    static const ConsoleOption options[] = {
+const std::vector<SimulatorOption>& simulatorOptions() {
+    static const std::vector<SimulatorOption> options{
         {u"dutch"_s, &Session::IsDutch, switchDutch},
         {u"tropical"_s, &Session::IsTropical, switchTropical},
         {u"halo"_s, &Session::IsHalo, always<switchHalo>},
@@ -38,8 +38,11 @@ const ConsoleOption* findOption(const QString& name) {
         {u"widefs"_s, &Session::IsWideClient, always<setSideFSVal>},
         {u"inhibitsplash"_s, &Session::InhibitCustomSplash, always<setCustomSplashVal>},
     };
-    const auto option = std::ranges::find(options, name, &ConsoleOption::name);
-    return option == std::end(options) ? nullptr : option;
+    return options;
+}
+
+const SimulatorOption& optionOf(const CommandContext& context) {
+    return *std::ranges::find(simulatorOptions(), context.arguments[0], &SimulatorOption::name);
 }
 
 QJsonObject toJson(const clsConfig& config) {
@@ -59,33 +62,27 @@ bool hasName(CommandContext& context, const KeyedCollection<Record>& records, co
     return false;
 }
 
-} // namespace
-
-bool baseList(CommandContext& context) {
+void listBases(CommandContext& context) {
     QJsonArray list;
     for (const auto& config : loadedCollection(context.session, context.session.gConfigs))
         list << toJson(*config);
     printJson(QJsonDocument(list));
-    return true;
 }
 
-bool baseInstall(CommandContext& context) {
-    if (context.arguments.isEmpty()) return false;
+void installBases(CommandContext& context) {
     const clsConfigs& configs = loadedCollection(context.session, context.session.gConfigs);
     const auto isKnown = [&](const QString& title) {
         return hasName(context, configs, u"base install"_s, title);
     };
     if (std::ranges::all_of(context.arguments, isKnown))
         copyBaseResources(context.session, context.arguments);
-    return true;
 }
 
-bool backupCreate(CommandContext& context) {
+void createBackupOfAll(CommandContext& context) {
     backupOnRequest(context.session);
-    return true;
 }
 
-bool backupList(CommandContext& context) {
+void listBackups(CommandContext& context) {
     QJsonArray list;
     for (const auto& backup : loadedCollection(context.session, context.session.gBackups))
         list << QJsonObject{{u"BackupID"_s, backup->BackupID},
@@ -93,36 +90,73 @@ bool backupList(CommandContext& context) {
                             {u"BackupDateTime"_s, backup->BackupDateTime.toString(Qt::ISODate)},
                             {u"complete"_s, isBackupComplete(context.session, backup->BackupName)}};
     printJson(QJsonDocument(list));
-    return true;
 }
 
-bool backupRestore(CommandContext& context) {
+void restoreBackupOf(CommandContext& context) {
     const QString& name = context.arguments[0];
     const clsBackups& backups = loadedCollection(context.session, context.session.gBackups);
-    if (!hasName(context, backups, u"backup"_s, name)) return true;
+    if (!hasName(context, backups, u"backup"_s, name)) return;
     context.user.onModal = [&](Screen screen) {
         if (screen != Screen::frm_BackupList) return;
         context.session.modal.chosenBackup = name;
         context.session.modal.backupConfirmed = true;
     };
     restoreBackupOnRequest(context.session);
-    return true;
 }
 
-bool optionGet(CommandContext& context) {
-    const ConsoleOption* option = findOption(context.arguments[0]);
-    if (!option) return false;
-    getCustomSplashVal(context.session);
-    printJson(QJsonDocument(QJsonObject{{option->name, context.session.*option->flag}}));
-    return true;
+void getOption(CommandContext& context) {
+    const SimulatorOption& option = optionOf(context);
+    printJson(QJsonDocument(QJsonObject{{option.name, context.session.*option.flag}}));
 }
 
-bool optionSet(CommandContext& context) {
-    const ConsoleOption* option = findOption(context.arguments[0]);
-    const QString& value = context.arguments[1];
-    if (!option || (value != u"on" && value != u"off")) return false;
-    option->set(context.session, value == u"on");
-    return true;
+void setOption(CommandContext& context) {
+    optionOf(context).set(context.session, context.arguments[1] == u"on");
+}
+
+} // namespace
+
+std::vector<Command> optionCommands() {
+    Operand option{.name = u"OPTION"_s, .meaning = u"the option"_s};
+    for (const SimulatorOption& each : simulatorOptions())
+        option.entries << each.name;
+    return {
+        {.words = u"base list"_s,
+         .run = listBases,
+         .meaning = u"the bodies of textures that come with Morvane"_s,
+         .example = u"base list"_s},
+        {.words = u"base install"_s,
+         .operands = {{.name = u"TITLE"_s, .meaning = u"a title of the list"_s, .repeats = true}},
+         .writes = true,
+         .run = installBases,
+         .meaning = u"copies the bodies of those titles into the simulator"_s,
+         .example = u"base install \"Global Coverage - Day\""_s},
+        {.words = u"backup create"_s,
+         .writes = true,
+         .run = createBackupOfAll,
+         .meaning = u"backs the simulator's textures up"_s,
+         .example = u"--answer yes backup create"_s},
+        {.words = u"backup list"_s,
+         .run = listBackups,
+         .meaning = u"the backups"_s,
+         .example = u"backup list"_s},
+        {.words = u"backup restore"_s,
+         .operands = {{u"NAME"_s, u"the backup's name"_s}},
+         .writes = true,
+         .run = restoreBackupOf,
+         .meaning = u"puts a backup back"_s,
+         .example = u"backup restore 1-Backup"_s},
+        {.words = u"option get"_s,
+         .operands = {option},
+         .run = getOption,
+         .meaning = u"one of the six options"_s,
+         .example = u"option get halo"_s},
+        {.words = u"option set"_s,
+         .operands = {option,
+                      {.name = u"VALUE"_s, .meaning = u"the new state"_s, .entries = {u"on"_s, u"off"_s}}},
+         .writes = true,
+         .run = setOption,
+         .meaning = u"switches one of the six options at once"_s,
+         .example = u"option set inhibitsplash on"_s}};
 }
 
 } // namespace morvane

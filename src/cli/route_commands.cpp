@@ -1,6 +1,5 @@
-#include "cli/route_commands.h"
-
 #include "cli/command_helpers.h"
+#include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "core/numbers.h"
 #include "simulator/set_matching.h"
@@ -13,47 +12,57 @@ namespace morvane {
 
 namespace {
 
-/// An option that takes one of a list's entries, spelt as in the list.
-bool takeEntry(const QStringList& entries, const QString& value, QString& entry) {
-    if (!entries.contains(value)) return false;
-    entry = value;
-    return true;
+/// The options of `metar find` that take a list's entry, and where each goes.
+struct EntryOption {
+    QString name, meaning;
+    const QStringList& entries;
+    QString WxFilter::*field;
+};
+
+const std::vector<EntryOption>& entryOptions() {
+    static const std::vector<EntryOption> options{
+        {u"--precipitation"_s, u"what falls"_s, precipitationEntries(), &WxFilter::precipitation},
+        {u"--intensity"_s, u"how strongly"_s, intensityEntries(), &WxFilter::intensity},
+        {u"--obscuration"_s, u"what hides the view"_s, obscurationEntries(), &WxFilter::obscuration},
+        {u"--cover"_s, u"the cloud cover"_s, cloudCoverEntries(), &WxFilter::cloudCover},
+    };
+    return options;
 }
 
-bool takeMost(const QString& value, std::int16_t& most) {
-    if (!isDigits(value)) return false;
-    most = roundToInteger(textToNumber(value));
-    return true;
+struct FlagOption {
+    QString name, meaning;
+    bool WxFilter::*flag;
+};
+
+const std::vector<FlagOption>& flagOptions() {
+    static const std::vector<FlagOption> options{
+        {u"--cb"_s, u"with cumulonimbus"_s, &WxFilter::cumulonimbus},
+        {u"--tcu"_s, u"with towering cumulus"_s, &WxFilter::towering},
+        {u"--cu"_s, u"with cumulus"_s, &WxFilter::cumulus},
+    };
+    return options;
 }
 
-/// False for an unknown option or a value that it does not take.
-bool takeOption(const QString& option, const QString& value, WxFilter& filter) {
-    if (option == u"--precipitation") return takeEntry(precipitationEntries(), value, filter.precipitation);
-    if (option == u"--intensity") return takeEntry(intensityEntries(), value, filter.intensity);
-    if (option == u"--obscuration") return takeEntry(obscurationEntries(), value, filter.obscuration);
-    if (option == u"--cover") return takeEntry(cloudCoverEntries(), value, filter.cloudCover);
-    if (option == u"--max") return takeMost(value, filter.WxMaxResults);
-    if (option != u"--icao") return false;
-    filter.WxFilterText = value;
-    return true;
+const QString icaoOption = u"--icao"_s, mostOption = u"--max"_s;
+
+std::vector<CommandOption> findOptions() {
+    std::vector<CommandOption> options;
+    for (const EntryOption& option : entryOptions())
+        options.push_back({option.name, option.meaning, {.name = u"W"_s, .entries = option.entries}});
+    for (const FlagOption& option : flagOptions())
+        options.push_back({option.name, option.meaning});
+    options.push_back({icaoOption, u"stations whose code begins so"_s, {u"PREFIX"_s, {}}});
+    options.push_back({mostOption, u"at most so many; 0 for all"_s, countOperand(u"N"_s, {})});
+    return options;
 }
 
-bool takeFlag(const QString& option, WxFilter& filter) {
-    bool* flag = option == u"--tcu"  ? &filter.towering
-                 : option == u"--cb" ? &filter.cumulonimbus
-                 : option == u"--cu" ? &filter.cumulus
-                                     : nullptr;
-    if (flag) *flag = true;
-    return flag != nullptr;
-}
-
-bool takeOptions(const QStringList& arguments, WxFilter& filter) {
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
-        if (takeFlag(arguments[i], filter)) continue;
-        if (i + 1 == arguments.size() || !takeOption(arguments[i], arguments[i + 1], filter)) return false;
-        ++i;
-    }
-    return true;
+void applyOptions(const QHash<QString, QString>& given, WxFilter& filter) {
+    for (const EntryOption& option : entryOptions())
+        if (given.contains(option.name)) filter.*option.field = given[option.name];
+    for (const FlagOption& option : flagOptions())
+        if (given.contains(option.name)) filter.*option.flag = true;
+    if (given.contains(icaoOption)) filter.WxFilterText = given[icaoOption];
+    if (given.contains(mostOption)) filter.WxMaxResults = roundToInteger(textToNumber(given[mostOption]));
 }
 
 QJsonObject toJson(const Waypoint& waypoint) {
@@ -77,24 +86,37 @@ QJsonObject toJson(const FlightPlan& plan, const PlanWeather& weather) {
             {u"cover"_s, cover}};
 }
 
-} // namespace
-
-bool metarFind(CommandContext& context) {
+/// The reports found as one array, in order of their codes.
+void findReports(CommandContext& context) {
     openWxFilter(context.session);
-    if (!takeOptions(context.arguments, context.session.wxFilter)) return false;
+    applyOptions(context.options, context.session.wxFilter);
     QJsonArray reports;
     for (const auto& finder : filterMetars(context.session))
         reports << QJsonObject{{u"WxFinderIcao"_s, finder->WxFinderIcao},
                                {u"WxFinderMetar"_s, finder->WxFinderMetar}};
     printJson(QJsonDocument(reports));
-    return true;
 }
 
-bool showPlan(CommandContext& context) {
+void showPlan(CommandContext& context) {
     const auto plan = readFlightPlan(context.session, pathOfArgument(context.arguments[0]));
-    if (!plan) return true;
+    if (!plan) return;
     printJson(QJsonDocument(toJson(*plan, processFlightPlan(context.session, *plan))));
-    return true;
+}
+
+} // namespace
+
+std::vector<Command> routeCommands() {
+    return {{.words = u"metar find"_s,
+             .options = findOptions(),
+             .run = findReports,
+             .meaning = u"the reports with that weather"_s,
+             .example = u"metar find --precipitation Rain --cb --icao K --max 10"_s},
+            {.words = u"plan"_s,
+             .operands = {{u"FILE"_s, u"the flight plan"_s}},
+             .options = {{jsonOption.name, u"the same: a plan is one JSON object in any case"_s}},
+             .run = showPlan,
+             .meaning = u"a flight plan with the cloud class of each waypoint, their average and its word"_s,
+             .example = u"plan data/plans/TBPBEGCC06R.PLN"_s}};
 }
 
 } // namespace morvane

@@ -11,40 +11,26 @@ namespace morvane {
 /// The commands that every kind of set has. `Kind` is one of those in cli/set_kinds.h.
 template <class Kind>
 struct SetCommands {
-    static bool list(CommandContext& context) {
-        QJsonArray sets;
-        for (const auto& set : Kind::sets(context.session))
-            sets << Kind::json(context.session, *set);
-        printJson(QJsonDocument(sets));
-        return true;
-    }
-
-    static bool activate(CommandContext& context) {
-        const auto set = clickedSet(context);
-        if (set && Kind::refusesActivated && Kind::activation(*set) == flagText(true))
-            refuse(context, nameOf(*set), u"is activated already"_s);
-        else if (set)
-            Kind::activate(context.session);
-        return true;
-    }
-
-    static bool deactivate(CommandContext& context) {
-        if (clickedSet(context)) Kind::remove(context.session, true);
-        return true;
-    }
-
-    static bool remove(CommandContext& context) {
-        if (clickedSet(context)) Kind::remove(context.session, false);
-        return true;
-    }
-
-    static bool install(CommandContext& context) {
-        const auto set = clickedSet(context);
-        if (set && Kind::activation(*set) != flagText(true))
-            refuse(context, nameOf(*set), u"is not activated"_s);
-        else if (set)
-            Kind::install(context.session);
-        return true;
+    /// `example` is the name of such a set.
+    static std::vector<Command> all(const QString& example) {
+        const QString word = Kind::word();
+        const auto onOne = [&](const QString& verb, void (*run)(CommandContext&), const QString& meaning) {
+            const QString words = word + u' ' + verb;
+            return Command{.words = words,
+                           .operands = {setName},
+                           .writes = true,
+                           .run = run,
+                           .meaning = meaning,
+                           .example = words + u" \""_s + example + u'"'};
+        };
+        return {{.words = word + u" list"_s,
+                 .run = list,
+                 .meaning = u"all %1 sets"_s.arg(word),
+                 .example = word + u" list"_s},
+                onOne(u"activate"_s, activate, Kind::activationMeaning()),
+                onOne(u"deactivate"_s, deactivate, u"takes a set's files away but keeps its colours"_s),
+                onOne(u"delete"_s, remove, u"removes a set"_s),
+                onOne(u"install"_s, install, u"copies a set into the simulator"_s)};
     }
 
     /// The set of the first argument, selected as by a click on its row; nothing after the message of what is
@@ -58,6 +44,37 @@ struct SetCommands {
     }
 
 private:
+    static void list(CommandContext& context) {
+        QJsonArray sets;
+        for (const auto& set : Kind::sets(context.session))
+            sets << Kind::json(context.session, *set);
+        printJson(QJsonDocument(sets));
+    }
+
+    static void activate(CommandContext& context) {
+        const auto set = clickedSet(context);
+        if (set && Kind::refusesActivated && Kind::activation(*set) == flagText(true))
+            refuse(context, nameOf(*set), u"is activated already"_s);
+        else if (set)
+            Kind::activate(context.session);
+    }
+
+    static void deactivate(CommandContext& context) {
+        if (clickedSet(context)) Kind::remove(context.session, true);
+    }
+
+    static void remove(CommandContext& context) {
+        if (clickedSet(context)) Kind::remove(context.session, false);
+    }
+
+    static void install(CommandContext& context) {
+        const auto set = clickedSet(context);
+        if (set && Kind::activation(*set) != flagText(true))
+            refuse(context, nameOf(*set), u"is not activated"_s);
+        else if (set)
+            Kind::install(context.session);
+    }
+
     static void refuse(CommandContext& context, const QString& name, const QString& reason) {
         fail(context, u"The %1 texture set '%2' %3"_s.arg(Kind::word(), name, reason));
     }

@@ -20,6 +20,7 @@ namespace morvane {
 
 struct GroundKind {
     static QString word() { return u"ground"_s; }
+    static QString activationMeaning() { return u"rebuilds a set's files"_s; }
     static constexpr bool refusesActivated = true;
     static const clsTextureSets& sets(Session& session) { return loadedGroundSets(session); }
     static auto find(Session& session, const QString& name) { return findGroundSet(session, name); }
@@ -37,6 +38,9 @@ struct GroundKind {
 
 struct SkyKind {
     static QString word() { return u"sky"_s; }
+    static QString activationMeaning() {
+        return u"writes a set's files, those of sunrise and sunset included"_s;
+    }
     /// A second activation gives a generated set its files of sunrise and sunset.
     static constexpr bool refusesActivated = false;
     static const clsSkyTextureSets& sets(Session& session) { return loadedSkySets(session); }
@@ -53,6 +57,7 @@ struct SkyKind {
 
 struct NightKind {
     static QString word() { return u"night"_s; }
+    static QString activationMeaning() { return u"rebuilds a set's files"_s; }
     static constexpr bool refusesActivated = true;
     static const clsNightTextureSets& sets(Session& session) { return loadedNightSets(session); }
     static auto find(Session& session, const QString& name) { return findNightSet(session, name); }

@@ -1,14 +1,15 @@
-#include "cli/stock_commands.h"
-
 #include "cli/command_helpers.h"
+#include "cli/command_tables.h"
 #include "cli/json_output.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 
 #include <QJsonArray>
 
 namespace morvane {
 
 namespace {
+
+const QString fromOption = u"--from"_s;
 
 QJsonObject toJson(const StockImportReport& report) {
     QJsonArray categories;
@@ -22,15 +23,10 @@ QJsonObject toJson(const StockImportReport& report) {
             {u"cancelled"_s, report.isCancelled}};
 }
 
-} // namespace
-
-bool stockImport(CommandContext& context) {
-    const QStringList& arguments = context.arguments;
-    const bool hasFolder = arguments.size() == 2 && arguments[0] == u"--from";
-    if (!arguments.isEmpty() && !hasFolder) return false;
+void import(CommandContext& context) {
     std::optional<StockImportReport> report;
-    if (hasFolder) {
-        const FilePath folder = pathOfArgument(arguments[1]);
+    if (context.options.contains(fromOption)) {
+        const FilePath folder = pathOfArgument(context.options[fromOption]);
         report = importStock(context.session, {folder, folder / u"UTEurLC"});
     } else {
         report = importSimulatorStock(context.session, true);
@@ -39,15 +35,31 @@ bool stockImport(CommandContext& context) {
         fail(context, u"No textures were taken."_s);
     else
         printJson(QJsonDocument(toJson(*report)));
-    return true;
 }
 
-bool stockRestore(CommandContext& context) {
+void restore(CommandContext& context) {
     if (!hasKeptStock(context.session))
         fail(context, u"No base images are kept: nothing was imported."_s);
     else
-        restoreStock(context.session);
-    return true;
+        restoreStock(context.session, true);
+}
+
+} // namespace
+
+std::vector<Command> stockCommands() {
+    const CommandOption from{
+        fromOption, u"the textures of that folder, not the simulator's"_s, {u"DIR"_s, {}}};
+    return {{.words = u"stock import"_s,
+             .options = {from},
+             .writes = true,
+             .run = import,
+             .meaning = u"base images made of the simulator's own textures, or of those of a folder"_s,
+             .example = u"stock import --from ~/textures"_s},
+            {.words = u"stock restore"_s,
+             .writes = true,
+             .run = restore,
+             .meaning = u"back to the base images of before"_s,
+             .example = u"stock restore"_s}};
 }
 
 } // namespace morvane

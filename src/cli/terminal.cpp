@@ -1,5 +1,7 @@
 #include "cli/terminal.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <atomic>
 #include <csignal>
 #include <cstdio>
@@ -94,6 +96,10 @@ void writeStandardOutput(const QString& text) {
     write(stdout, text);
 }
 
+bool isOutputWhole() {
+    return std::ferror(stdout) == 0;
+}
+
 std::optional<QString> readLine() {
 #ifdef _WIN32
     if (isTerminalFile(stdin)) return readTerminalLine();
@@ -101,6 +107,13 @@ std::optional<QString> readLine() {
     std::string line;
     if (!std::getline(std::cin, line) || interrupted) return std::nullopt;
     return QString::fromStdString(line);
+}
+
+QString fullPath(const QString& typed) {
+    const QString path = QDir::current().absoluteFilePath(typed);
+    // ".." behind a link leads elsewhere than its text says, so that the disk is asked where it can be.
+    const QString onDisk = path.contains(u"..") ? QFileInfo(path).canonicalFilePath() : QString();
+    return QDir::cleanPath(onDisk.isEmpty() ? path : onDisk);
 }
 
 void catchInterrupts() {

@@ -11,8 +11,13 @@ bool isTerminal();      ///< someone can be asked: stdin and stderr are a termin
 bool isErrorTerminal(); ///< stderr is one, so a line may be painted over
 void writeStandardError(const QString& text);
 void writeStandardOutput(const QString& text);
+/// False once something could not be written there, as on a full disk.
+bool isOutputWhole();
 /// A line of stdin without its end; nothing at the end of input or after an interrupt.
 std::optional<QString> readLine();
+
+/// A path as typed, from the folder in which the program was started, without "." and ".." in it.
+QString fullPath(const QString& typed);
 
 /// Makes the first Ctrl-C a wish that `wasInterrupted` tells once; the second one kills.
 void catchInterrupts();

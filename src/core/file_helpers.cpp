@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <filesystem>
 
 namespace morvane {
 
@@ -15,6 +16,14 @@ bool FolderExists(FileSystem& files, QString& path) {
 
 bool FileExists(FileSystem& files, const FilePath& path) {
     return files.exists(path);
+}
+
+bool isSameFolder(const FilePath& one, const FilePath& other) {
+    const auto pathOf = [](const FilePath& path) {
+        return std::filesystem::path(path.native().toStdU16String());
+    };
+    std::error_code failure;
+    return std::filesystem::equivalent(pathOf(one), pathOf(other), failure);
 }
 
 QString FormatSystemTimeTime(const QDateTime& time) {

@@ -9,6 +9,10 @@ bool FolderExists(FileSystem& files, QString& path);
 /// True for a file or a folder.
 bool FileExists(FileSystem& files, const FilePath& path);
 
+/// True when both paths lead to the same folder, through links or in another spelling. A path that leads
+/// nowhere is the same as none.
+bool isSameFolder(const FilePath& one, const FilePath& other);
+
 /// Last write time as "2006/07/14 14:07:00": local time, the seconds always "00". A file that cannot be
 /// opened is told in a message and gives an empty text.
 QString GetFileTime(Session& session, const FilePath& path);

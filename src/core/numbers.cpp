@@ -2,6 +2,7 @@
 
 #include "core/error.h"
 
+#include <QLocale>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -61,6 +62,14 @@ QString floatText(float value) {
         if (text.endsWith(u'.')) text.chop(1);
     }
     return text;
+}
+
+QString countText(std::int64_t count) {
+    return QLocale(QLocale::English).toString(static_cast<qlonglong>(count));
+}
+
+QString countText(std::int64_t count, const QString& noun) {
+    return countText(count) + u' ' + noun + (count == 1 ? QString() : u"s"_s);
 }
 
 bool isDigits(QStringView text) {

@@ -16,6 +16,10 @@ double textToNumber(const QString& text);
 /// Shortest text of a 32-bit float, up to seven significant digits, no exponent, "." the separator: "2.1",
 /// "0".
 QString floatText(float value);
+/// A count for the user's eyes: "1,183".
+QString countText(std::int64_t count);
+/// With what was counted, by its name for one: "1 texture", "1,183 textures".
+QString countText(std::int64_t count, const QString& noun);
 /// True for one or more digits 0 to 9 and nothing else.
 bool isDigits(QStringView text);
 /// The text without blanks at both ends. Only blanks count, not tabs or line ends.

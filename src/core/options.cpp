@@ -1,11 +1,14 @@
 #include "core/options.h"
 
 #include "core/failure_report.h"
+#include "core/file_helpers.h"
 #include "core/job.h"
 #include "core/numbers.h"
 #include "core/registry.h"
 #include "simulator/configs.h"
 #include "simulator/simulator_copy.h"
+
+#include <QDir>
 
 namespace morvane {
 
@@ -28,10 +31,14 @@ FailureReport optionFailure(const QString& routine) {
     return {u"Morvane Error!"_s, MessageKind::exclamation, routine + u'\n', false};
 }
 
-bool isOwnFlightsFolder(const Session& session, const QString& path) {
-    const FilePath own = session.AppPath / u"Flights";
-    return path.compare(own.text(), Qt::CaseInsensitive) == 0 ||
-           path.compare(own.native(), Qt::CaseInsensitive) == 0;
+/// Without separators at the end, "." and ".." in it, in one case.
+QString plainSpelling(QString path) {
+    return QDir::cleanPath(path.replace(u'\\', u'/')).toCaseFolded();
+}
+
+void refuseFolder(Session& session) {
+    session.user.showMessage({MessageKind::exclamation, u"Invalid Path"_s,
+                              u"The path supplied was invalid please try again"_s, true, false, false});
 }
 
 /// Cancelling the browser leaves saved flights alone: nobody is asked again and again.
@@ -41,8 +48,7 @@ QString chooseFlightsFolder(Session& session) {
         if (path.isEmpty()) return {};
         storeOwnValue(session, u"NonEnglishPath", path);
         if (!isOwnFlightsFolder(session, path)) return path;
-        session.user.showMessage({MessageKind::exclamation, u"Invalid Path"_s,
-                                  u"The path supplied was invalid please try again"_s, true, false, false});
+        refuseFolder(session);
     }
 }
 
@@ -58,6 +64,10 @@ void readSwitches(Session& session) {
     session.IsTropical = switches.GetTropicalVal();
     session.IsHalo = switches.GetHaloVal();
     session.IsFastExit = switches.GetFastExitVal();
+}
+
+bool isCustomSplashInhibited(const Session& session) {
+    return ownValue(session, u"InhibitCustomSplash") == u"True";
 }
 
 void getCustomSplashVal(Session& session) {
@@ -96,8 +106,9 @@ void getSideFSVal(Session& session) {
             u"Please indicate if you are using Morvane on a WideClient PC.  Click the checkmark for 'Yes' or "
             u"the "
             "crossmark for 'No'  If you are not using WideFS please select the crossmark to continue."_s);
-        if (session.ExitInProgress.isSilent()) return; // nobody has answered
-        storeOwnValue(session, u"IsWideClient", flagText(session.IsWideClient));
+        // The end of the program is no answer either.
+        if (session.user.answers().isAnswered(Question::wideClient) && !session.ExitInProgress.isSilent())
+            storeOwnValue(session, u"IsWideClient", flagText(session.IsWideClient));
     });
 }
 
@@ -117,8 +128,19 @@ void setSideFSVal(Session& session, bool value) {
     });
 }
 
+bool isOwnFlightsFolder(const Session& session, const QString& path) {
+    const FilePath own = session.AppPath / u"Flights";
+    const QString spelling = plainSpelling(path);
+    return spelling == plainSpelling(own.text()) || spelling == plainSpelling(own.native()) ||
+           isSameFolder(FilePath(path), own);
+}
+
+QString storedFlightsFolder(const Session& session) {
+    return trimmedBlanks(ownValue(session, u"NonEnglishPath"));
+}
+
 QString getNonEnglishPath(Session& session) {
-    const QString path = trimmedBlanks(ownValue(session, u"NonEnglishPath"));
+    const QString path = storedFlightsFolder(session);
     if (path.isEmpty() || isOwnFlightsFolder(session, path)) {
         inform(session, u"Saved Flights/Flight Plans Location required"_s,
                u"Please supply the path to your My Documents\\Flight Simulator Files folder. Please ensure "
@@ -137,6 +159,7 @@ void setNonEnglishRegVal(Session& session) {
     reportFailures(session.user, optionFailure(u"Sub setNonEnglishRegVal"_s), [&] {
         const QString path = session.user.browseForFolder({});
         if (path.isEmpty()) return;
+        if (isOwnFlightsFolder(session, path)) return refuseFolder(session);
         storeOwnValue(session, u"NonEnglishPath", path);
         inform(session, u"FS9 Flight Simulator Files Path"_s,
                u"FS9 My Documents Flight Simulator Files path has been updated to: "_s + path);

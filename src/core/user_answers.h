@@ -26,13 +26,18 @@ inline constexpr std::size_t questionCount = 11;
 /// A message returns nothing; the caller marks its question before showing it and reads the flag afterwards.
 class UserAnswers {
 public:
-    void mark(Question question) { pending_.set(index(question)); }
+    void mark(Question question) {
+        pending_.set(index(question));
+        answered_.reset(index(question));
+    }
     void unmark(Question question) { pending_.reset(index(question)); }
     bool isPending() const { return pending_.any(); }
     bool isPending(Question question) const { return pending_.test(index(question)); }
 
     /// Called by the message screen's buttons: the first pending question takes the answer.
     void answer(bool ok);
+    /// False when the question was closed without anybody's answer.
+    bool isAnswered(Question question) const { return answered_.test(index(question)); }
     bool flag(Question question) const { return flags_[index(question)]; }
     void setFlag(Question question, bool value) { flags_[index(question)] = value; }
 
@@ -42,7 +47,7 @@ public:
 
 private:
     static std::size_t index(Question question) { return static_cast<std::size_t>(question); }
-    std::bitset<questionCount> pending_;
+    std::bitset<questionCount> pending_, answered_;
     std::array<bool, questionCount> flags_{};
 };
 

@@ -21,10 +21,6 @@ constexpr int blockSize = 8;
 constexpr int largestSide = 1024;
 constexpr std::size_t pixelSize = 4;
 
-bool isTextureSide(int side) {
-    return side >= blockSide && side <= largestSide && std::has_single_bit(static_cast<unsigned>(side));
-}
-
 /// Bytes of the first `levels` levels. A level of fewer pixels than a block still takes a whole one.
 int sizeOfLevels(int width, int height, int levels) {
     int size = 0;
@@ -104,6 +100,10 @@ bool isOnlySelection(const QString& format, int levels, int alpha, int options) 
 }
 
 } // namespace
+
+bool isTextureSide(int side) {
+    return side >= blockSide && side <= largestSide && std::has_single_bit(static_cast<unsigned>(side));
+}
 
 QByteArray compressTexture(const Picture& picture) {
     const int width = picture.width, height = picture.height;

@@ -5,8 +5,11 @@
 
 namespace morvane {
 
+/// A side that a texture can have: a power of two from 4 to 1024.
+bool isTextureSide(int side);
+
 /// The file of a ground texture with these pixels, as docs/texture_format.md tells: opaque DXT1 with all
-/// levels down to 1 x 1. Empty when a side is not a power of two from 4 to 1024; resizing would hide a wrong
+/// levels down to 1 x 1. Empty when a side is none that a texture can have; resizing would hide a wrong
 /// source. Touches nothing but its argument, so any thread may call it.
 QByteArray compressTexture(const Picture& picture);
 

@@ -1,11 +1,13 @@
 #include "simulator/base_install.h"
 
+#include "core/attempts.h"
 #include "core/failure_report.h"
-#include "core/job.h"
+#include "core/numbers.h"
 #include "core/options.h"
 #include "core/set_collections.h"
 #include "ground/ground_sets.h"
 #include "night/night_sets.h"
+#include "simulator/checked_copies.h"
 #include "simulator/configs.h"
 #include "simulator/simulator_copy.h"
 
@@ -64,40 +66,56 @@ void collectConfig(Session& session, clsConfig config, std::vector<FileCopy>& co
     session.gConfigs->UpdateConfig(config);
 }
 
-void copyEach(Session& session, const std::vector<FileCopy>& copies) {
-    SimulatorCopier copier(session);
-    copier.prepare(copies);
-    const double share = 100.0 / static_cast<double>(copies.size());
-    double position = 0;
-    for (const FileCopy& copy : copies) {
-        try {
-            copier.copyOverReadOnly(copy);
-        } catch (const Error& error) {
-            // Wanted: one file in use does not keep the rest from the pilot.
-            if (error.code() == ErrorCode::interrupted) throw;
-        }
-        session.user.updateProgress({}, {}, position += share);
-    }
-    copier.finish();
+/// Left out before the list is noted, which reads every source: one of them in use does not keep the rest
+/// from the pilot.
+void leaveOutUnreadable(Session& session, std::vector<FileCopy>& copies) {
+    std::erase_if(copies,
+                  [&](const FileCopy& copy) { return !attempt([&] { session.files.read(copy.source); }); });
 }
 
-void copyTicked(Session& session, const QStringList& tickedTitles) {
-    std::vector<FileCopy> copies;
-    bool isAnyTicked = false;
+/// Returns how many came; a target in use is passed over alike.
+int copyEach(Session& session, const std::vector<FileCopy>& copies) {
+    SimulatorCopier copier(session);
+    copier.prepare(copies);
+    int count = 0;
+    const bool isWhole = CopyWalk(session, copies, 1).round(nullptr, [&](const FileCopy& copy) {
+        count += attempt([&] { copier.copyOverReadOnly(copy); });
+    });
+    if (!isWhole) throw Error(ErrorCode::interrupted);
+    copier.finish();
+    return count;
+}
+
+/// Nothing when nothing was ticked.
+std::optional<std::vector<FileCopy>> collectTicked(Session& session, const QStringList& tickedTitles) {
+    std::optional<std::vector<FileCopy>> copies;
     const clsConfigs& configs = loadedCollection(session, session.gConfigs);
     for (const auto& config : configs) {
         if (!tickedTitles.contains(config->ConfigName)) continue;
-        isAnyTicked = true;
-        collectConfig(session, *config, copies);
+        if (!copies) copies.emplace();
+        collectConfig(session, *config, *copies);
     }
-    if (!isAnyTicked) {
+    return copies;
+}
+
+/// What to say at the end; nothing where nothing was ticked.
+std::optional<DoneLine> copyTicked(Session& session, const QStringList& tickedTitles) {
+    std::optional<std::vector<FileCopy>> copies = collectTicked(session, tickedTitles);
+    if (!copies) {
         session.user.showMessage(
             {MessageKind::progress, u"No Options Selected"_s,
              u"No options were selected and no textures will be copied to Flight Simulator"_s});
-    } else if (!copies.empty()) {
-        showCopying(session, copyingTitle + u". This may take a few moments. Please wait......."_s);
-        copyEach(session, copies);
+        return std::nullopt;
     }
+    const auto wanted = static_cast<int>(copies->size());
+    int count = 0;
+    if (wanted > 0) {
+        showCopying(session, copyingTitle + u". This may take a few moments. Please wait......."_s);
+        leaveOutUnreadable(session, *copies);
+        count = copyEach(session, *copies);
+    }
+    const QString leftOut = count < wanted ? u", %1 left out"_s.arg(countText(wanted - count)) : QString();
+    return DoneLine{countText(count, u"file"_s) + u" installed"_s + leftOut, {}, count < wanted};
 }
 
 } // namespace
@@ -112,10 +130,12 @@ void copyBaseResources(Session& session, const QStringList& tickedTitles) {
     const Job job(session);
     if (!job) return;
     showCopying(session, copyingTitle);
-    reportFailures(session.user, {}, [&] { copyTicked(session, tickedTitles); });
+    std::optional<DoneLine> line;
+    reportFailures(session.user, {}, [&] { line = copyTicked(session, tickedTitles); });
     clsConfigs::reload(session);
     session.user.refreshScreen(Screen::frm_Main);
     session.user.hideMessage();
+    if (line) session.user.tellDone(*line);
 }
 
 } // namespace morvane

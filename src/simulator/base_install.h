@@ -12,7 +12,7 @@ inline const QString globalNightConfig = u"Global Coverage - Night"_s; ///< and 
 
 /// Copies the bodies of files with those titles (`ConfigName`) into the simulator and marks their rows as
 /// installed, which nothing takes back. Read-only targets are replaced and lose the mark. A file that cannot
-/// be copied is passed over without a word.
+/// be read or copied is passed over; the line at the end has their number.
 void copyBaseResources(Session& session, const QStringList& tickedTitles);
 
 /// Appends all files of the folder, those of its subfolders left out. False after the message of a failure.

@@ -4,18 +4,35 @@
 #include "core/registry.h"
 #include "core/safe_copy.h"
 #include "core/writing.h"
+#include "ground/cloud_cover.h"
 #include "simulator/backup_files.h"
 #include "simulator/flights.h"
+#include "simulator/kept_originals.h"
 #include "simulator/simulator_copy.h"
+
+#include <algorithm>
 
 namespace morvane {
 
 namespace {
 
+/// One of the splashes that an install puts there for its cloud cover.
+bool isCoverSplash(Session& session, const FilePath& splash) {
+    const QByteArray contents = session.files.read(splash);
+    return std::any_of(cloudCovers(), cloudCovers() + cloudCoverCount, [&](const CloudCover& cover) {
+        const FilePath ours = session.AppPath / u"Media" / cover.splash;
+        return session.files.exists(ours) && session.files.read(ours) == contents;
+    });
+}
+
+/// For the option that brings it back. Where one of ours stands the pilot's is among the originals; if it is
+/// not, what was kept before is left alone.
 void keepSimulatorSplash(Session& session) {
     const FilePath splash = splashTarget(session);
-    if (session.files.exists(splash))
-        replaceFile(session.files, splash, session.AppPath / u"Media\\dlgsplash.bmp");
+    if (!session.files.exists(splash)) return;
+    std::optional<FilePath> own = splash;
+    if (isCoverSplash(session, splash)) own = KeptOriginals(session).of(splash);
+    if (own) replaceFile(session.files, *own, session.AppPath / u"Media\\dlgsplash.bmp");
 }
 
 } // namespace
@@ -29,14 +46,13 @@ void doFirstRun(Session& session) {
     // Two programs that are started at once make one first backup. Who comes second need not wait for it.
     const Writing writing(session, Writing::Waiting::none);
     if (!writing || !isFirstTime()) return;
-    // Told, and no reason not to start: the next start would meet it again.
-    reportFailures(session.user, {}, [&] {
-        if (!session.IsWideClient) copyDeliveredFlights(session);
-        keepSimulatorSplash(session);
-    });
-    createBackup(session, true);
+    // Each is told for itself, costs none of the others, and is no reason not to start.
+    reportFailures(session.user, {}, [&] { keepSimulatorSplash(session); });
+    if (!session.IsWideClient) reportFailures(session.user, {}, [&] { copyDeliveredFlights(session); });
+    const std::optional<BackupReport> backup = createBackup(session, true);
     session.user.hideMessage();
-    session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime, u"False"_s);
+    if (backup && backup->isWritten)
+        session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime, u"False"_s);
 }
 
 } // namespace morvane

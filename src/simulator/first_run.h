@@ -5,8 +5,9 @@
 namespace morvane {
 
 /// What is done once, at the first start after an install, which leaves "FirstTime" as "True" in the
-/// registry: the delivered flights go into the simulator's folder, its own splash is kept for the option that
-/// brings it back, and its textures are backed up. Any other value, or none, means that it was done.
+/// registry: the simulator's own splash is kept for the option that brings it back, the delivered flights go
+/// into its folder, and its textures are backed up. Any other value, or none, means that it was done. As long
+/// as the disk or the store refuses the backup the value stays, and the next start goes on with it.
 void doFirstRun(Session& session);
 
 } // namespace morvane

@@ -1,10 +1,14 @@
 #include "simulator/flights.h"
 
+#include "core/attempts.h"
 #include "core/failure_report.h"
+#include "core/file_helpers.h"
 #include "core/ini_file.h"
 #include "core/numbers.h"
 #include "core/options.h"
 #include "core/safe_copy.h"
+
+#include <algorithm>
 
 namespace morvane {
 
@@ -33,23 +37,58 @@ QString baseName(const QString& fileName) {
     return fileName.left(fileName.indexOf(flightEnding, 0, Qt::CaseInsensitive));
 }
 
+/// Nothing there is replaced: another "A.flt" becomes "A (2).flt". One that is there already just goes.
+void moveToBackups(Session& session, const FilePath& file) {
+    FileSystem& files = session.files;
+    const FilePath folder = session.AppPath / u"Backup\\Flights";
+    const QString name = file.fileName(), stem = name.section(u'.', 0, -2), ending = name.mid(stem.size());
+    FilePath place = folder.child(name);
+    for (int number = 2; files.exists(place); ++number) {
+        if (files.read(place) == files.read(file)) return files.remove(file);
+        place = folder.child(u"%1 (%2)%3"_s.arg(stem).arg(number).arg(ending));
+    }
+    files.makeFolder(folder);
+    files.rename(file, place);
+}
+
+/// Copies go. What none of the sources holds may have been saved right here, and is not ours to delete.
 /// Weather that has lost its flight stays as long as no flight is there.
-void removeCopies(Session& session) {
+void clearFlights(Session& session, const std::vector<FilePath>& sources) {
     const FilePath folder = flightsFolder(session);
     const QStringList flights = session.files.list(folder, flightMask);
     if (flights.isEmpty()) return;
-    for (const QString& name : flights + session.files.list(folder, u"*.wx"_s))
-        session.files.remove(folder.child(name));
+    for (const QString& name : flights + session.files.list(folder, u"*.wx"_s)) {
+        const bool isCopy = std::ranges::any_of(
+            sources, [&](const FilePath& source) { return session.files.exists(source.child(name)); });
+        if (isCopy)
+            session.files.remove(folder.child(name));
+        else
+            moveToBackups(session, folder.child(name));
+    }
 }
 
+/// Whether the folder may be cleared: it has to be ours alone and none of those that the flights come from. A
+/// pilot who chose it as the folder of the saved flights has them there and nowhere else.
+bool holdsOnlyCopies(Session& session, const std::vector<FilePath>& sources) {
+    const FilePath own = flightsFolder(session);
+    const auto isOwn = [&own](const FilePath& source) { return isSameFolder(own, source); };
+    const bool isChosen = sources.size() == 1 && isOwnFlightsFolder(session, storedFlightsFolder(session));
+    return !session.files.isLink(own) && !isChosen && std::ranges::none_of(sources, isOwn);
+}
+
+/// One that cannot be copied costs no other; the first such failure is raised at the end.
 void copyFlights(Session& session, const FilePath& source, const FilePath& target) {
+    FirstFailure failure;
     for (const QString& fileName : session.files.list(source, flightMask)) {
         const QString name = baseName(fileName);
         if (trimmedBlanks(name).isEmpty()) continue; // the list could not hold it
         for (const QString& ending : {flightEnding, weatherEnding})
-            if (session.files.exists(source.child(name + ending)))
-                replaceFile(session.files, source.child(name + ending), target.child(name + ending));
+            failure.attempt([&] {
+                if (session.files.exists(source.child(name + ending)))
+                    replaceFile(session.files, source.child(name + ending), target.child(name + ending));
+            });
     }
+    failure.raise();
 }
 
 /// Entries of an older list beyond the new total stay in the file, unread. Written at one go, as a pilot may
@@ -85,10 +124,14 @@ void loadFlightFiles(Session& session) {
     const FailureReport report{u"Morvane Error"_s, MessageKind::exlamation};
     reportFailures(session.user, report, [&] {
         session.files.makeFolder(flightsFolder(session));
-        removeCopies(session);
-        copyFlights(session, deliveredFlightsFolder(session), flightsFolder(session));
-        if (const FilePath folder = userFlightsFolder(session); !folder.isEmpty())
-            copyFlights(session, folder, flightsFolder(session));
+        std::vector<FilePath> sources{deliveredFlightsFolder(session)};
+        if (const FilePath folder = userFlightsFolder(session); !folder.isEmpty()) sources.push_back(folder);
+        if (!holdsOnlyCopies(session, sources)) return;
+        clearFlights(session, sources);
+        FirstFailure failure; // of one folder costs the other's flights nothing
+        for (const FilePath& source : sources)
+            failure.attempt([&] { copyFlights(session, source, flightsFolder(session)); });
+        failure.raise();
     });
     reportFailures(session.user, report, [&] { writeList(session); }); // of those that were copied
 }

@@ -13,13 +13,18 @@ namespace morvane {
 /// folder that is asked for when there is none. Empty when the user named none.
 FilePath userFlightsFolder(Session& session);
 
-/// Copies the delivered flights from the program's folder to the kept ones below the simulator.
+/// Copies the delivered flights from the program's folder to the kept ones below the simulator, each that can
+/// be; the first failure is raised at the end.
 void copyDeliveredFlights(Session& session);
 
 /// Gathers the copies anew: first the flights kept below the simulator ("\Flights\Morvane"), then the user's,
 /// which win over kept ones of the same name. Nothing on a WideFS client, whose flights are the server's.
 /// Asks for the user's folder when there is none of the usual name; without an answer only the kept flights
 /// are there. A failure is told; the list then names what was gathered before.
+///
+/// A flight in "\\Flights" that neither folder holds is moved to "\\Backup\\Flights". Where "\\Flights" is
+/// not the program's alone, because it is a link or one of the folders that are gathered from, it stays as it
+/// is and is only listed.
 void loadFlightFiles(Session& session);
 /// What the splash says meanwhile.
 extern const QString flightsProgressText;

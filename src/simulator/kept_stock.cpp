@@ -1,10 +1,9 @@
 #include "simulator/kept_stock.h"
 
-#include "core/error.h"
+#include "core/attempts.h"
 #include "core/text_decoding.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace morvane {
 
@@ -70,7 +69,12 @@ void KeptStock::replace(const InstallFile& file, const FilePath& part) {
         files_.rename(target, placeOf(keptPath_, file));
         kept_.insert(key);
     }
-    files_.rename(part, target);
+    try {
+        files_.rename(part, target);
+    } catch (const Error&) {
+        if (isOwn && attempt([&] { files_.rename(placeOf(keptPath_, file), target); })) kept_.remove(key);
+        throw;
+    }
 }
 
 /// What does not lie here has not been replaced, or is back already.
@@ -91,15 +95,10 @@ bool KeptStock::putBack(const Fact& fact) {
 
 int KeptStock::restore() {
     int count = 0;
-    std::optional<Error> failure;
-    for (const Fact& fact : facts_) {
-        try {
-            count += putBack(fact);
-        } catch (const Error& error) {
-            if (!failure) failure = error;
-        }
-    }
-    if (failure) throw *failure;
+    FirstFailure failure;
+    for (const Fact& fact : facts_)
+        failure.attempt([&] { count += putBack(fact); });
+    failure.raise();
     if (!isEmpty()) files_.remove(listFile_);
     forget();
     return count;

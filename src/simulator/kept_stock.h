@@ -31,7 +31,8 @@ public:
     bool isEmpty() const { return facts_.isEmpty(); }
     /// Notes the files in the list. Only now may they be replaced.
     void announce(const std::vector<InstallFile>& files);
-    /// Puts `part`, a file of the same drive, in the place of an announced file and keeps that one.
+    /// Puts `part`, a file of the same drive, in the place of an announced file and keeps that one. Where
+    /// that fails the file stands as before.
     void replace(const InstallFile& file, const FilePath& part);
     /// Puts everything back, takes away what was new, and forgets. One file that fails does not keep the
     /// others from it; the first such failure is raised at the end, with everything still kept. Returns the

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <memory>
+#include <unistd.h>
 
 namespace morvane {
 
@@ -34,6 +36,21 @@ QString usualPrefix() {
 
 bool isBelow(const QString& path, const QString& folder) {
     return folder == u"/" || path == folder || path.startsWith(folder + u'/');
+}
+
+/// On its own: it outlives us, keeps no terminal or pipe of ours open, and hears no Ctrl-C.
+void prepare(QProcess& process, const ProgramCall& call) {
+    process.setProgram(call.program);
+    process.setArguments(call.arguments);
+    process.setWorkingDirectory(call.workingFolder);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.setChildProcessModifier([] { setsid(); });
+    if (call.winePrefix.isEmpty()) return;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"WINEPREFIX"_s, call.winePrefix);
+    process.setProcessEnvironment(environment);
 }
 
 } // namespace
@@ -74,18 +91,16 @@ bool lacksRunner(const FilePath& program, const QString& runner) {
     return QProcess::splitCommand(runner).isEmpty() && isWindowsProgram(program.native());
 }
 
-void startProgram(const FilePath& program, const FilePath& document, const QString& runner) {
-    const ProgramCall call = programCall(program, document, runner);
-    QProcess process;
-    process.setProgram(call.program);
-    process.setArguments(call.arguments);
-    process.setWorkingDirectory(call.workingFolder);
-    if (!call.winePrefix.isEmpty()) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"WINEPREFIX"_s, call.winePrefix);
-        process.setProcessEnvironment(environment);
-    }
-    process.startDetached();
+bool startProgram(const FilePath& program, const FilePath& document, const QString& runner) {
+    constexpr int firstMoments = 2000; // milliseconds
+    auto process = std::make_unique<QProcess>();
+    prepare(*process, programCall(program, document, runner));
+    process->start();
+    if (!process->waitForStarted()) return false;
+    if (process->waitForFinished(firstMoments))
+        return process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+    process.release(); // the object would take the program along, so it stays as long as we do
+    return true;
 }
 
 } // namespace morvane

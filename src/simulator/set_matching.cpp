@@ -102,6 +102,8 @@ QString SetMatching::closestSet(const std::vector<ActivatedSet>& sets, ClosestSe
 void SetMatching::installMatchingSets(const QString& cover) {
     // The kind is misspelt, as that of the flights' failure: it names an icon of its own.
     reportFailures(session_.user, {u"getIcaoWxDetails Error"_s, MessageKind::exlamation}, [&] {
+        const Writing writing(session_); // for both, so that they go together
+        if (!writing) return;
         const auto grounds = activatedSets(loadedGroundSets(session_));
         const auto skies = activatedSets(loadedSkySets(session_));
         const QString ground = chooseSet({u"Ground"_s, grounds, ClosestSearch::nextWord}, cover);
@@ -127,19 +129,20 @@ bool processMetarString(Session& session, const QString& metar) {
     return false;
 }
 
-int flyNow(Session& session) {
+FlyReport flyNow(Session& session) {
     session.CoverCancelled = false;
     if (!session.CommandLineRun) selectCloudCoverMethod(session);
-    return session.CoverCancelled ? -1 : flyWithCover(session);
+    return session.CoverCancelled ? FlyReport{} : flyWithCover(session);
 }
 
-int flyWithCover(Session& session) {
+FlyReport flyWithCover(Session& session) {
     SetMatching matching(session);
-    const int copied = matching.askInstallMatchingSets() ? matching.filesCopied() : -1;
-    if (session.writing->wasRefused) return -1;
-    startSavedFlight(session);
-    if (!session.modal.FlightSelected) launchFlightSimulator(session);
-    return copied;
+    FlyReport report;
+    if (matching.askInstallMatchingSets()) report.filesCopied = matching.filesCopied();
+    if (session.writing->wasRefused) return {};
+    report.isSimulatorStarted = startSavedFlight(session);
+    if (!session.modal.FlightSelected) report.isSimulatorStarted = launchFlightSimulator(session);
+    return report;
 }
 
 } // namespace morvane

@@ -42,16 +42,20 @@ private:
     int filesCopied_ = 0;
 };
 
+/// What the road of the Fly Now button did. Which sets stand in the session's selections.
+struct FlyReport {
+    int filesCopied = -1; ///< -1 when nothing was installed
+    bool isSimulatorStarted = false;
+};
+
 /// The decoder's whole text into the session's lists: its cloud class and no strength. False, after the
 /// message that told so, for a report without a cloud group; the list then holds "0".
 bool processMetarString(Session& session, const QString& metar);
 
 /// The road of the Fly Now button: a cover is chosen, unless the run is unattended and has one, then
 /// `flyWithCover`. A cancelled choice ends it (CoverCancelled), with nothing installed and nothing started.
-/// Returns what was installed for reports: files copied, or -1 when nothing was.
-int flyNow(Session& session);
-/// The road from the chosen weather on: the question and the install, a saved flight, the simulator. Returns
-/// the same.
-int flyWithCover(Session& session);
+FlyReport flyNow(Session& session);
+/// The road from the chosen weather on: the question and the install, a saved flight, the simulator.
+FlyReport flyWithCover(Session& session);
 
 } // namespace morvane

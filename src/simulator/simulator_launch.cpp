@@ -1,8 +1,7 @@
 #include "simulator/simulator_launch.h"
 
-#include "core/registry.h"
 #include "simulator/flights.h"
-#include "simulator/program_start.h"
+#include "simulator/program_runner.h"
 
 namespace morvane {
 
@@ -17,48 +16,39 @@ void leaveTheScreenToTheSimulator(Session& session) {
     session.MinimiseForLaunch = false;
 }
 
-void startSimulator(Session& session, const FilePath& flight) {
-    const QString runner =
-        session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"SimulatorRunner"_s);
-    const FilePath simulator = session.FSPath / u"fs9.exe";
-    if (lacksRunner(simulator, runner)) {
-        session.user.showMessage(
-            {MessageKind::information, u"Flight Simulator Not Started"_s,
-             u"Flight Simulator is a Windows program and needs a runner on this system. Set the value "
-             u"\"SimulatorRunner\" of Morvane's registry.ini to its command, such as wine."_s});
-        return;
-    }
-    startProgram(simulator, flight, runner);
+bool startSimulator(Session& session, const FilePath& flight) {
+    if (!startWithRunner(session, u"Flight Simulator"_s, session.FSPath / u"fs9.exe", flight)) return false;
     leaveTheScreenToTheSimulator(session);
+    return true;
 }
 
 } // namespace
 
-void startSavedFlight(Session& session) {
+bool startSavedFlight(Session& session) {
     ModalState& modal = session.modal;
     modal.FlightSelected = false; // of an earlier flight
-    if (session.IsWideClient) return;
+    if (session.IsWideClient) return false;
     if (!session.user.ask(Question::savedFlight, u"Start Predefined Flight"_s,
                           u"Do you wish Morvane to start one of your previously saved flights?"_s))
-        return;
+        return false;
     session.user.showModal(Screen::frm_flight);
     // OK without a name starts nothing, here or later on the road: wanted.
-    if (modal.FlightSelected && !modal.SelectedFlightName.isEmpty())
-        startSimulator(session, savedFlightFile(session, modal.SelectedFlightName));
+    if (!modal.FlightSelected || modal.SelectedFlightName.isEmpty()) return false;
+    return startSimulator(session, savedFlightFile(session, modal.SelectedFlightName));
 }
 
-void launchFlightSimulator(Session& session) {
+bool launchFlightSimulator(Session& session) {
     if (session.IsWideClient) {
         session.user.showMessage(
             {MessageKind::information, u"Processing Complete"_s,
              u"Processing complete. You can now start Flight Simulator on the server."_s});
-        return;
+        return false;
     }
     if (session.user.ask(Question::launch, u"Launch Flight Simulator?"_s,
                          u"Would you like Morvane to start Flight Simulator now?"_s))
-        startSimulator(session, {});
-    else if (!session.CommandLineRun)
-        session.user.refreshScreen(Screen::frm_Main); // the sets just installed show
+        return startSimulator(session, {});
+    if (!session.CommandLineRun) session.user.refreshScreen(Screen::frm_Main); // the sets just installed show
+    return false;
 }
 
 } // namespace morvane

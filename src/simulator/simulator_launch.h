@@ -5,12 +5,13 @@
 namespace morvane {
 
 /// The question about a saved flight, its choice (frm_flight) and the start of the simulator with that
-/// flight. Nothing on a WideFS client, where the simulator runs on the server. Whether the simulator was
-/// started stands in `FlightSelected` of the session's modal state.
-void startSavedFlight(Session& session);
+/// flight. Nothing on a WideFS client, where the simulator runs on the server. Whether a flight was chosen,
+/// so that nobody is asked again, stands in `FlightSelected` of the session's modal state. True when the
+/// simulator was started; why it was not is told.
+bool startSavedFlight(Session& session);
 
 /// The question whether the simulator shall be started now, and its start. On a WideFS client only the notice
-/// that it can be started on the server.
-void launchFlightSimulator(Session& session);
+/// that it can be started on the server. True when it was started; why it was not is told.
+bool launchFlightSimulator(Session& session);
 
 } // namespace morvane

@@ -1,92 +1,52 @@
 #include "simulator/stock_import.h"
 
-#include "core/error.h"
-#include "core/failure_report.h"
+#include "core/attempts.h"
 #include "core/ordered_work.h"
 #include "core/safe_copy.h"
-#include "ground/ground_sets.h"
 #include "imaging/picture_reader.h"
 #include "imaging/pixel_buffer.h"
-#include "night/night_sets.h"
-#include "simulator/backup_files.h"
-#include "simulator/backups.h"
+#include "imaging/texture_codec.h"
 
-#include <algorithm>
+#include <QHash>
 
 namespace morvane {
 
 namespace {
 
-const QString title = u"Use My Simulator's Textures"_s;
-
-void tell(Session& session, MessageKind kind, const QString& text) {
-    session.user.hideMessage();
-    session.user.showMessage({kind, title, text});
-}
-
-template <class Sets>
-bool isSetInstalled(const Sets& sets) {
-    return std::ranges::any_of(sets, [](const auto& set) { return set->Installed; });
-}
-
-/// The newest of those that are whole; of the others when none is.
-const clsBackup* newestBackup(Session& session) {
-    if (!session.gBackups && !clsBackups::reload(session)) return nullptr;
-    const clsBackup* newest = nullptr;
-    const auto rank = [&](const clsBackup& backup) {
-        return std::pair(isBackupComplete(session, backup.BackupName), backup.BackupDateTime);
-    };
-    for (const auto& backup : *session.gBackups)
-        if (!newest || rank(*newest) < rank(*backup)) newest = backup.get();
-    return newest;
-}
-
-std::optional<StockSource> sourceFromBackup(Session& session) {
-    const clsBackup* backup = newestBackup(session);
-    if (!backup) {
-        tell(session, MessageKind::exclamation,
-             u"A Morvane texture set is installed in Flight Simulator now and there is no backup of your own "
-             "textures.  Restore them first, then try again."_s);
-        return std::nullopt;
-    }
-    const QString taken = backup->BackupDateTime.toString(u"yyyy-MM-dd hh:mm");
-    if (!session.user.ask(Question::backup, title,
-                          u"A Morvane texture set is installed in Flight Simulator now.  Would you like to "
-                          u"use the textures of your newest backup, "_s +
-                              backup->BackupName + u" of "_s + taken + u", instead?"_s))
-        return std::nullopt;
-    const FilePath folder = (session.AppPath / u"Backup").child(backup->BackupName);
-    return StockSource{folder / u"Texture", folder / u"UTEurLC"};
-}
-
-std::optional<StockSource> sourceFromSimulator(Session& session, bool isConfirmed) {
-    if (!refreshGroundSets(session) || !refreshNightSets(session)) return std::nullopt;
-    if (isSetInstalled(loadedGroundSets(session)) || isSetInstalled(loadedNightSets(session)))
-        return sourceFromBackup(session);
-    const QString question =
-        u"Would you like Morvane to make its base images from the textures of your Flight Simulator?  The "
-        "images that are there now are kept, so that you can go back to them."_s;
-    if (!isConfirmed && !session.user.ask(Question::backup, title, question)) return std::nullopt;
-    return StockSource{session.FSPath / u"Scenery\\World\\Texture",
-                       session.FSPath / u"Scenery\\UTEurLC\\Texture"};
-}
-
-/// Makes the file that is to stand in its place, beside it. Nothing for a file that is no picture: one broken
-/// texture must not cost the pilot all others.
-bool makePart(FileSystem& files, const StockFile& file, const FilePath& part) {
-    if (!file.isPicture) {
-        files.copyContents(file.source, part);
-        return true;
-    }
-    cDIBSection image;
+/// False for a file that cannot be read; raises when the part cannot be written.
+bool copyReadable(FileSystem& files, const FilePath& source, const FilePath& part) {
     try {
-        image.CreateFromPicture(loadPicture(files, file.source));
-    } catch (const Error& error) {
-        if (error.code() != ErrorCode::invalidPicture) throw;
+        files.copyContents(source, part);
+        return true;
+    } catch (const Error&) {
+        if (attempt([&] { files.read(source); })) throw;
+        return false;
     }
-    if (!image.isCreated()) return false;
-    if (!image.SavePicture(part)) throw Error(ErrorCode::diskFull, part.text());
+}
+
+/// The same for a picture; one that no texture can be made of is as good as none.
+bool convertReadable(FileSystem& files, const FilePath& source, const FilePath& part) {
+    cDIBSection image;
+    const bool isRead = attempt([&] { image.CreateFromPicture(loadPicture(files, source)); });
+    if (!isRead || !isTextureSide(image.Width()) || !isTextureSide(image.Height())) return false;
+    if (!image.SavePicture(part)) throw Error(ErrorCode::diskFull);
     return true;
+}
+
+FilePath partOf(const FilePath& target) {
+    return FilePath(target.native() + partialCopySuffix);
+}
+
+/// Makes the file that is to stand in its place, beside it. False where that cannot be had from its source:
+/// one broken texture must not cost the pilot all others. A failure names the file, as nobody knows of its
+/// part.
+bool makePart(FileSystem& files, const StockFile& file, const FilePath& target) {
+    try {
+        const auto make = file.isPicture ? convertReadable : copyReadable;
+        return make(files, file.source, partOf(target));
+    } catch (const Error& error) {
+        throw Error(error.code(), target.text());
+    }
 }
 
 class StockImport {
@@ -94,16 +54,19 @@ public:
     StockImport(Session& session, const Job& job, const StockSource& source)
         : session_(session), job_(job), plan_(planStockImport(session, source)),
           kept_(session.files, session.AppPath) {
-        session.user.showMessage({MessageKind::progress, title,
+        session.user.showMessage({MessageKind::progress, stockTitle,
                                   u"Morvane is making base images from your textures.  Please wait......."_s,
                                   false, true, true});
     }
 
     StockImportReport run() {
-        if (!plan_.files.empty()) {
+        report_.planned = static_cast<int>(plan_.files.size());
+        if (report_.planned > 0) {
+            const bool wasEmpty = kept_.isEmpty();
             announce();
-            report_.isCancelled = !bringAll();
-            clearParts();
+            bringWhatCanBeHad();
+            attempt([&] { clearParts(); });
+            if (report_.files == 0 && wasEmpty) attempt([&] { kept_.restore(); }); // no import stands
         }
         report_.categories = std::move(plan_.categories);
         return std::move(report_);
@@ -129,8 +92,17 @@ private:
             removePartialCopies(session_.files, folder);
     }
 
-    FilePath partOf(const StockFile& file) const {
-        return folders_.value(file.target.folder).exactChild(file.target.name + partialCopySuffix);
+    FilePath targetOf(const StockFile& file) const {
+        return folders_.value(file.target.folder).exactChild(file.target.name);
+    }
+
+    /// What has come stays, whatever ends the run, and can be put back.
+    void bringWhatCanBeHad() {
+        try {
+            report_.isCancelled = !bringAll();
+        } catch (const std::exception& error) {
+            report_.failure = QString::fromUtf8(error.what());
+        }
     }
 
     /// False when it was cancelled.
@@ -138,7 +110,7 @@ private:
         const std::size_t count = plan_.files.size();
         OrderedWork<bool> work(static_cast<int>(count), [&](int i) {
             const StockFile& file = plan_.files[static_cast<std::size_t>(i)];
-            return makePart(session_.files, file, partOf(file));
+            return makePart(session_.files, file, targetOf(file));
         });
         for (std::size_t i = 0; i < count; ++i) {
             session_.user.updateProgress({}, {}, 100 * static_cast<double>(i) / static_cast<double>(count));
@@ -153,7 +125,7 @@ private:
             report_.unreadable << file.source.fileName();
             return;
         }
-        kept_.replace(file.target, partOf(file));
+        kept_.replace(file.target, partOf(targetOf(file)));
         ++report_.files;
         ++plan_.categories[file.category].count;
     }
@@ -166,62 +138,10 @@ private:
     StockImportReport report_;
 };
 
-QString closingText(const StockImportReport& report) {
-    if (report.isCancelled)
-        return u"The import was cancelled after %1 files.  What stood there before is kept and can be put back."_s
-            .arg(report.files);
-    qsizetype missing = 0;
-    for (const StockCategory& category : report.categories)
-        missing += category.emptyPatterns.size();
-    QString text = u"%1 base images and annotation files were made from your textures.  "
-                   "%2 kinds of land have no texture among them and keep Morvane's own."_s.arg(report.files)
-                       .arg(missing);
-    if (!report.unreadable.isEmpty())
-        text += u"  %1 files could not be read as pictures."_s.arg(report.unreadable.size());
-    return text;
-}
-
 } // namespace
 
 StockImportReport importStock(Session& session, const Job& job, const StockSource& source) {
     return StockImport(session, job, source).run();
-}
-
-std::optional<StockImportReport> importStock(Session& session, const StockSource& source) {
-    std::optional<StockImportReport> report;
-    Job job(session);
-    if (!job) return report;
-    if (!reportFailures(session.user, {}, [&] { report = importStock(session, job, source); })) return {};
-    job.end();
-    if (report->files == 0 && !report->isCancelled)
-        tell(session, MessageKind::exclamation,
-             u"No textures of Flight Simulator were found in "_s + source.world.text());
-    else
-        tell(session, MessageKind::information, closingText(*report));
-    return report;
-}
-
-std::optional<StockImportReport> importSimulatorStock(Session& session, bool isConfirmed) {
-    std::optional<StockSource> source;
-    reportFailures(session.user, {}, [&] { source = sourceFromSimulator(session, isConfirmed); });
-    return source ? importStock(session, *source) : std::nullopt;
-}
-
-std::optional<int> restoreStock(Session& session) {
-    std::optional<int> count;
-    Job job(session);
-    if (!job) return count;
-    reportFailures(session.user, {}, [&] {
-        count = KeptStock(session.files, session.AppPath).restore();
-        job.end();
-        tell(session, MessageKind::information,
-             u"%1 base images and annotation files were put back."_s.arg(*count));
-    });
-    return count;
-}
-
-bool hasKeptStock(Session& session) {
-    return !KeptStock(session.files, session.AppPath).isEmpty();
 }
 
 } // namespace morvane

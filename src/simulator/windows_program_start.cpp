@@ -31,11 +31,14 @@ bool lacksRunner(const FilePath&, const QString&) {
     return false;
 }
 
-void startProgram(const FilePath& program, const FilePath& document, const QString&) {
+bool startProgram(const FilePath& program, const FilePath& document, const QString&) {
     const QString argument = document.isEmpty() ? QString() : argumentOf(document.text());
     const QString folder = program.parent().text();
-    ShellExecuteW(nullptr, L"Open", wide(program.text()), argument.isEmpty() ? nullptr : wide(argument),
-                  wide(folder), SW_SHOWNORMAL);
+    const HINSTANCE started =
+        ShellExecuteW(nullptr, L"Open", wide(program.text()), argument.isEmpty() ? nullptr : wide(argument),
+                      wide(folder), SW_SHOWNORMAL);
+    constexpr INT_PTR highestFailure = 32;
+    return reinterpret_cast<INT_PTR>(started) > highestFailure;
 }
 
 } // namespace morvane

@@ -9,6 +9,7 @@
 #include "night/night_installation.h"
 #include "night/screens/night_colour_screen.h"
 #include "simulator/backup_files.h"
+#include "simulator/backup_restore.h"
 #include "simulator/screens/config_screen.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"

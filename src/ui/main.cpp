@@ -11,34 +11,54 @@
 #include "ui/shell.h"
 #include "ui/single_window.h"
 #include "ui/skin.h"
+#include "ui/window_line.h"
 #include "ui/window_user.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <cstdio>
 
 using namespace morvane;
 
+namespace {
+
+constexpr int wrongUsage = 2;
+
+/// Help needs no display, so it is looked for before the application that does. What that one takes for
+/// itself, as "-platform NAME", is no slip yet.
+bool showsHelp(int argc, char** argv) {
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words << QString::fromLocal8Bit(argv[i]);
+    const QString text = readWindowLine(words).output;
+    std::fputs(qPrintable(text), stdout);
+    return !text.isEmpty();
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
     QApplication::setApplicationName(u"Morvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
+    if (showsHelp(argc, argv)) return 0;
+    QApplication application(argc, argv);
+    const WindowLine line = readWindowLine(QApplication::arguments().mid(1));
+    if (!line.slip.isEmpty()) {
+        std::fputs(qPrintable(u"morvane: "_s + line.slip + u'\n'), stderr);
+        return wrongUsage;
+    }
     // Windows come and go as pages do; only the exit flow ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     loadProgramFont();
     applyPaperStyle(application);
 
-    QStringList words = QApplication::arguments().mid(1);
-    QString home = defaultInstallFolder();
-    if (words.size() >= 2 && words[0] == u"--home") {
-        home = words[1];
-        words.remove(0, 2);
-    }
+    const QString home = line.home.isEmpty() ? defaultInstallFolder() : line.home;
     const bool isFirstStart = home == userInstallFolder() && !QFileInfo::exists(home);
     EndRequests requests;
     if (isFirstStart && !makeInstallFolder(home)) return requests.hasEnded() ? 0 : 1;
     const FilePath folder(QFileInfo(home).absoluteFilePath());
     SingleWindow window(folder);
-    if (words.isEmpty() && !window.take()) return 0;
+    if (line.coverCode.isEmpty() && !window.take()) return 0;
     NativeFileSystem files;
     SystemClock clock;
     ReseedingRandomSource random;
@@ -51,5 +71,5 @@ int main(int argc, char** argv) {
     user.setShell(&shell);
     window.serve(shell);
     requests.handTo(shell);
-    return runProgram(shell, words.join(u' '));
+    return runProgram(shell, line.coverCode);
 }

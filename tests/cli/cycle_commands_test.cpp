@@ -41,7 +41,6 @@ TEST(CycleCommands, importAFileInEachForm) {
 TEST(CycleCommands, tellWhatCannotBeHad) {
     test::ConsoleInstall install;
     EXPECT_EQ(install.run(u"metar import missing.txt"_s).status, 1);
-    EXPECT_EQ(install.run(u"metar import missing.txt taf"_s).status, 2);
     const auto run = install.run(u"metar download"_s);
     EXPECT_EQ(run.status, 1);
     EXPECT_TRUE(run.messages.contains(u"No weather server is set."_s)) << run.messages.toStdString();

@@ -49,19 +49,5 @@ TEST(DecodeCommand, answersEveryLineWhateverItsBytes) {
     }
 }
 
-TEST(WrongUsage, isToldWithTheListOfCommands) {
-    for (const QString& commandLine :
-         {QString(), u"fly"_s, u"decode more"_s, u"Decode"_s, u"recolour 0:0:0:0:0:0 in.bmp"_s,
-          u"recolour red in.bmp out.bmp"_s, u"recolour 0:0:0:0:0 in.bmp out.bmp"_s, u"ground"_s,
-          u"ground create 1 0 0 0"_s, u"ground paint x"_s, u"originals forget"_s, u"--answer maybe decode"_s,
-          u"decode --answer yes"_s, u"--home"_s}) { // options stand in front
-        const auto run = runConsole(commandLine);
-        EXPECT_EQ(run.status, 2) << commandLine.toStdString();
-        EXPECT_TRUE(run.messages.startsWith(u"usage: morvane-cli "_s)) << run.messages.toStdString();
-        EXPECT_TRUE(run.messages.contains(u"\n  originals restore\n"_s));
-        EXPECT_TRUE(run.output.isEmpty());
-    }
-}
-
 } // namespace
 } // namespace morvane

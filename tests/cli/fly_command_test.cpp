@@ -2,6 +2,7 @@
 
 #include "support/printing.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -15,6 +16,12 @@ struct FlyCommand : testing::Test {
     void SetUp() override {
         install.addSet(u"2-Storm"_s, u"Overcast"_s);
         install.addSet(u"3-Calm"_s, u"Sky Clear"_s);
+        placeSimulator("#!/bin/sh\n");
+    }
+    void placeSimulator(const QByteArray& contents) {
+        const FilePath program = install.simulator() / u"fs9.exe";
+        test::writeFile(program, contents);
+        QFile::setPermissions(program.native(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 };
 
@@ -25,8 +32,6 @@ TEST_F(FlyCommand, installsTheSetOfTheWordOrOfTheReport) {
     const std::pair<QString, QString> cases[] = {
         {u"OVC"_s, storm},
         {u"CLR"_s, calm},
-        {u"FOG"_s, standard}, // an unknown word leaves the cover open
-        {u"clr"_s, standard},
         {u"EHAM 241225Z 24015KT 9999 OVC010 18/09 Q1012"_s, storm},
         {u" EHAM 241225Z 24015KT CLR 18/09 Q1012 "_s, calm},
         {u"EHAM 241225Z 24015KT 0100 FG VV001 18/18 Q1012"_s, standard},
@@ -38,6 +43,11 @@ TEST_F(FlyCommand, installsTheSetOfTheWordOrOfTheReport) {
         EXPECT_EQ(install.sets(), sets) << text.toStdString();
         const QString question = u"to match the weather conditions obtained"_s;
         EXPECT_TRUE(run.messages.contains(question + (isReport ? u"?"_s : u" from Active Sky?"_s)));
+        const QJsonObject told = run.objects().at(0);
+        EXPECT_TRUE(sets.contains(told[u"ground"_s].toString() + u"+*"_s));
+        EXPECT_EQ(told[u"sky"_s], QJsonValue(u"Default"_s));
+        EXPECT_GT(told[u"files"_s].toInt(), 0);
+        EXPECT_EQ(told[u"start"_s], QJsonValue(u"simulator"_s));
     }
     EXPECT_EQ(test::readFile(install.home() / u"METAR\\02Z.txt"), "EHAM"); // no exit of the program
 }
@@ -51,17 +61,50 @@ TEST_F(FlyCommand, aReportWithoutCloudsOrANoInstallsNothing) {
         EXPECT_EQ(run.messages, u"Error: METAR Format Error!\n  METAR String format not recognised please "
                                 u"enter new string to process\n"_s);
     }
-    EXPECT_EQ(install.run(u"--answer no fly OVC"_s).status, 0); // a no is no failure
+    const QByteArray nothing = R"({"files":0,"ground":null,"sky":null,"start":"none"})"
+                               "\n";
+    const auto refused = install.run(u"--answer no fly OVC"_s);
+    EXPECT_EQ(refused.status, 0) << "a no is no failure";
+    EXPECT_EQ(refused.output, nothing);
+    const auto unasked = test::runConsole(u"fly OVC --home"_s, {install.home().native()});
+    EXPECT_EQ(unasked.status, 1) << "but nobody to say it is one";
+    EXPECT_EQ(unasked.output, nothing);
+    EXPECT_EQ(unasked.messages.count(u"No; use --answer yes"_s), 3) << unasked.messages.toStdString();
     EXPECT_EQ(contentsBelow(install.simulator()), before);
     EXPECT_FALSE(install.sets().contains(u'*'));
 }
 
-TEST_F(FlyCommand, theSplashOptionIsReadFirst) {
+TEST_F(FlyCommand, aStartThatFailsIsAFailure) {
+    const std::tuple<QByteArray, QString, int, QString> cases[] = {
+        {"MZ", {}, 1, u"none"_s}, // a Windows program without a runner
+        {"MZ", u"/nowhere/wine"_s, 1, u"none"_s},
+        {"MZ", u"false"_s, 1, u"none"_s},
+        {"MZ", u"true"_s, 0, u"simulator"_s},
+        {"#!/nowhere/sh\n", {}, 1, u"none"_s},
+        {"#!/bin/sh\nexit 3\n", {}, 1, u"none"_s},
+    };
+    for (const auto& [simulator, runner, status, start] : cases) {
+        placeSimulator(simulator);
+        EXPECT_EQ(install.run(u"config set runner"_s, {runner}).status, 0);
+        const auto run = install.run(u"fly OVC"_s);
+        EXPECT_EQ(run.status, status) << simulator.constData() << runner.toStdString();
+        EXPECT_EQ(run.messages.count(u"Exclamation: Flight Simulator Not Started"_s), status);
+        EXPECT_EQ(run.objects().at(0)[u"start"_s], QJsonValue(start));
+    }
+}
+
+TEST_F(FlyCommand, theSplashOptionIsReadBeforeAnyInstall) {
+    install.addSky(u"2-Grey"_s, u"Overcast"_s);
     install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"InhibitCustomSplash"_s, u"True"_s);
-    const QString commands[][2] = {{u"fly"_s, u"OVC"_s}, {u"fly --metar"_s, u"EHAM 241225Z OVC010"_s}};
-    for (const auto& [command, text] : commands) {
-        EXPECT_EQ(install.run(command, {text}).status, 0);
-        EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash");
+    const QStringList commands[] = {{u"fly"_s, u"OVC"_s},
+                                    {u"fly"_s, u"--metar"_s, u"EHAM 241225Z OVC010"_s},
+                                    {u"ground"_s, u"install"_s, u"2-Storm"_s},
+                                    {u"sky"_s, u"install"_s, u"2-Grey"_s}};
+    for (const QStringList& command : commands) {
+        const auto run = install.run({}, command);
+        EXPECT_EQ(run.status, 0) << run.messages.toStdString();
+        EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash")
+            << command.join(u' ').toStdString();
     }
 }
 

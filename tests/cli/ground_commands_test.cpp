@@ -69,16 +69,20 @@ TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
 }
 
 TEST_F(GroundCommands, wrongCountsAreToldApart) {
-    const std::pair<QString, int> cases[] = {
-        {u"one"_s, 2},  {u"-1"_s, 2},    {u"1.5"_s, 2},
-        {QString(), 2}, {u"40000"_s, 1}, {u"99999999999999999999"_s, 1}, // more than the counter holds
-        {u"0"_s, 1},
+    const std::tuple<QString, int, QString> cases[] = {
+        {u"one"_s, 2, u"N5 takes a whole number"_s},
+        {u"-1"_s, 2, u"N5 takes a whole number"_s},
+        {u"1.5"_s, 2, u"N5 takes a whole number"_s},
+        {QString(), 2, u"N5 takes a whole number"_s},
+        {u"40000"_s, 1, u"Overflow"_s}, // more than the counter holds
+        {u"99999999999999999999"_s, 1, u"Overflow"_s},
+        {u"0"_s, 1, u"Division by zero"_s},
     };
-    for (const auto& [count, status] : cases) {
+    for (const auto& [count, status, said] : cases) {
         const auto run = install.run(u"ground create 0 0 0 0"_s, {count});
         EXPECT_EQ(run.status, status) << count.toStdString() << '\n' << run.messages.toStdString();
         EXPECT_EQ(install.sets(), u"Default+"_s) << count.toStdString();
-        EXPECT_TRUE(count != u"0" || run.messages.contains(u"Division by zero"_s));
+        EXPECT_TRUE(run.messages.contains(said)) << run.messages.toStdString();
     }
 }
 
@@ -116,10 +120,14 @@ TEST_F(GroundCommands, refusalsAreToldAndChangeNothing) {
 TEST_F(GroundCommands, aNoOrNobodyToAskDeletesNothing) {
     install.addSet(u"2-Storm"_s, u"Overcast"_s);
     const QStringList arguments{u"--home"_s, install.home().native(), u"ground"_s, u"delete"_s, u"2-Storm"_s};
-    for (const QString& policy : {u"--answer no"_s, QString(), u"--answer ask"_s}) {
+    // A No is no failure, but that nobody could be asked is one.
+    for (const auto& [policy, status] :
+         {std::pair(u"--answer no"_s, 0), {QString(), 1}, {u"--answer ask"_s, 1}}) {
         const auto run = test::runConsole(policy, arguments);
-        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.status, status) << policy.toStdString();
         EXPECT_EQ(run.messages.count(u"Question: Morvane Information"_s), 1);
+        EXPECT_EQ(run.messages.contains(u"No; use --answer yes\n"_s), status == 1)
+            << run.messages.toStdString();
         EXPECT_EQ(install.sets(), u"Default+ 2-Storm+"_s);
     }
     EXPECT_EQ(test::runConsole(u"--answer ask"_s, arguments, "Yes\n").status, 0);

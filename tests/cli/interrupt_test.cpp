@@ -20,12 +20,13 @@ QStringList manyFiles(const QString& folder) {
 }
 
 /// Runs the command and interrupts it when it has said `moment`.
-test::ConsoleRun interruptedRun(ConsoleInstall& install, const QString& command, const QString& moment) {
+test::ConsoleRun interruptedRun(ConsoleInstall& install, const QString& command, const QString& moment,
+                                int status = 0) {
     Console console(install.withHome(command));
     EXPECT_TRUE(console.waitForMessage(moment));
     console.interrupt();
     const auto run = console.finish();
-    EXPECT_EQ(run.status, 0) << run.messages.toStdString();
+    EXPECT_EQ(run.status, status) << run.messages.toStdString();
     return run;
 }
 
@@ -57,10 +58,24 @@ TEST(Interrupt, letsAnInstallFinishItsList) {
     EXPECT_EQ(install.files.list(textures, u"029b2su???.bmp"_s).size(), fileCount);
 }
 
-TEST(Interrupt, atAQuestionIsANo) {
+TEST(Interrupt, inAnInstallEndsTheRoadBehindIt) {
+    ConsoleInstall install;
+    install.addSet(u"2-Storm"_s, u"Overcast"_s, true, manyFiles(u"Texture"_s));
+    const auto run =
+        interruptedRun(install, u"--answer yes fly OVC"_s, u"Processing your Ground Texture Files."_s, 1);
+    EXPECT_EQ(run.messages.count(u"Question: "_s), 2) << "the third one would be the simulator's";
+    EXPECT_TRUE(run.output.isEmpty());
+    EXPECT_EQ(install.sets(), u"Default+ 2-Storm+*"_s);
+}
+
+TEST(Interrupt, atAQuestionEndsTheRoad) {
     ConsoleInstall install;
     install.addSet(u"2-Storm"_s, u"Overcast"_s);
-    interruptedRun(install, u"--answer ask ground delete 2-Storm"_s, u"[y/N]"_s);
+    for (const QString& command : {u"ground delete 2-Storm"_s, u"fly OVC"_s}) {
+        const auto run = interruptedRun(install, u"--answer ask "_s + command, u"[y/N]"_s, 1);
+        EXPECT_EQ(run.messages.count(u"Question: "_s), 1) << run.messages.toStdString();
+        EXPECT_TRUE(run.output.isEmpty());
+    }
     EXPECT_EQ(install.sets(), u"Default+ 2-Storm+"_s);
 }
 

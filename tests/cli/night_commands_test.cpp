@@ -60,19 +60,16 @@ TEST_F(NightCommands, refusalsAreToldAndChangeNothing) {
     add(u"Default"_s, true);
     add(u"2-Red"_s, false);
     const auto before = contentsBelow(install.folder.path());
-    const std::tuple<QString, int, QString> cases[] = {
-        {u"activate Fog"_s, 1, u"There is no night texture set named 'Fog'"_s},
-        {u"install Fog"_s, 1, u"There is no night texture set named 'Fog'"_s},
-        {u"install 2-Red"_s, 1, u"The night texture set '2-Red' is not activated"_s},
-        {u"activate Default"_s, 1, u"The night texture set 'Default' is activated already"_s},
-        {u"delete Default"_s, 1, u"This is a protected texture set and no changes can be made"_s},
-        {u"favourite A 0:0:0:0:0"_s, 2, u"night favourite NAME"_s},
-        {u"favourite A 0:0:0:0:0:101"_s, 2, u"night favourite NAME"_s},
-        {u"favourite A 0:0:0:0:0:1.5"_s, 2, u"night favourite NAME"_s},
+    const std::pair<QString, QString> cases[] = {
+        {u"activate Fog"_s, u"There is no night texture set named 'Fog'"_s},
+        {u"install Fog"_s, u"There is no night texture set named 'Fog'"_s},
+        {u"install 2-Red"_s, u"The night texture set '2-Red' is not activated"_s},
+        {u"activate Default"_s, u"The night texture set 'Default' is activated already"_s},
+        {u"delete Default"_s, u"This is a protected texture set and no changes can be made"_s},
     };
-    for (const auto& [words, status, text] : cases) {
+    for (const auto& [words, text] : cases) {
         const auto run = install.run(u"night "_s + words);
-        EXPECT_EQ(run.status, status) << words.toStdString();
+        EXPECT_EQ(run.status, 1) << words.toStdString();
         EXPECT_EQ(run.messages.count(text), 1) << run.messages.toStdString();
     }
     EXPECT_EQ(contentsBelow(install.folder.path()), before);

@@ -70,16 +70,6 @@ TEST_F(SkyCommands, setsAreMadeListedShownSwitchedOffAndOnInstalledAndDeleted) {
     EXPECT_EQ(install.skies(), name + u'+') << "none is installed any more";
 }
 
-TEST_F(SkyCommands, wrongArgumentsAreUsageAndChangeNothing) {
-    const QStringList cases[] = {{u"Rainy"_s, u"1"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s},
-                                 {u"Sunny,"_s, u"1"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s},
-                                 {u"Sunny"_s, u"one"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s},
-                                 {u"Sunny"_s, u"1"_s}};
-    for (const QStringList& arguments : cases)
-        EXPECT_EQ(install.run(u"sky create"_s, arguments).status, 2) << arguments.join(u' ').toStdString();
-    EXPECT_EQ(install.skies(), QString());
-}
-
 TEST_F(SkyCommands, refusalsAreToldAndChangeNothing) {
     install.addSky(u"Default"_s, u"Partly Cloudy"_s);
     install.addSky(u"2-Störm"_s, u"Overcast"_s);

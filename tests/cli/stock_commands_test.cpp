@@ -29,7 +29,6 @@ TEST(StockCommands, bringThePilotsTexturesAndTakeThemBack) {
     EXPECT_EQ(test::readFile(image), before);
 
     EXPECT_EQ(install.run(u"stock restore"_s).status, 1) << "nothing is kept any more";
-    EXPECT_EQ(install.run(u"stock import --from"_s).status, 2);
     const FilePath nowhere = install.folder / u"nowhere";
     EXPECT_EQ(install.run(u"stock import"_s, {u"--from"_s, nowhere.native()}).status, 1);
 }

@@ -23,6 +23,8 @@ TEST(Numbers, floatsAsShortestText) {
     };
     for (const auto& [value, text] : cases)
         EXPECT_EQ(floatText(value), text);
+    EXPECT_EQ(countText(1183) + u' ' + countText(0) + u' ' + countText(1234567), "1,183 0 1,234,567");
+    EXPECT_EQ(countText(1, u"file"_s) + u' ' + countText(1183, u"file"_s), "1 file 1,183 files");
 }
 
 TEST(Numbers, textsThatAreNumbers) {

@@ -52,6 +52,11 @@ TEST_F(OptionsTest, theWideClientOptionIsTrimmedAndOtherwiseAsked) {
         EXPECT_EQ(stored(u"IsWideClient"_s), after) << held.toStdString();
     }
     EXPECT_EQ(user.told().size(), 3); // the last three were asked for
+    user.answersNothing = true;
+    store(u"IsWideClient"_s, {});
+    getSideFSVal(session);
+    EXPECT_FALSE(session.IsWideClient);
+    EXPECT_EQ(stored(u"IsWideClient"_s), QString()) << "nobody answered, so it is asked again";
     EXPECT_TRUE(
         user.told().value(0).startsWith(u"Question|For WideFS Users Only!|Please indicate if you "_s));
 }
@@ -130,6 +135,9 @@ TEST_F(OptionsTest, theFlightsFolderIsAskedForUntilItIsUsable) {
     const QString good = (install.folder / u"Flight Simulator Files").native();
     install.files.makeFolder(install.folder / u"Flight Simulator Files");
     const QString own = (install.home() / u"Flights").native();
+    const QString link = (install.folder / u"Link").native();
+    install.files.makeFolder(install.home() / u"Flights");
+    ASSERT_TRUE(QFile::link(own, link));
     const QString required =
         u"Information|Saved Flights/Flight Plans Location required|Please supply the path to your My "
         u"Documents\\Flight Simulator Files folder. Please ensure that you are not pointing to your Morvane "
@@ -147,6 +155,10 @@ TEST_F(OptionsTest, theFlightsFolderIsAskedForUntilItIsUsable) {
         {good, {}, good, {}},
         {u"  "_s + good + u' ', {}, u"  "_s + good + u' ', {}},
         {own.toUpper(), {own, own, good}, good, {required, invalid, invalid}},
+        {own + u'/',
+         {own + u'\\', own + u"/./"_s, link, link + u'/', good},
+         good,
+         {required, invalid, invalid, invalid, invalid}},
         {u"/nowhere"_s, {own, good}, good, {missing, invalid}},
         {{}, {}, {}, {required}}, // a cancelled browser asks no more
         {u"/nowhere"_s, {}, u"/nowhere"_s, {missing}},
@@ -174,6 +186,11 @@ TEST_F(OptionsTest, theFlightsFolderCanBeChosenAnew) {
     EXPECT_EQ(user.told(), QStringList{u"Information|FS9 Flight Simulator Files Path|FS9 My Documents Flight "
                                        u"Simulator Files path has been updated to: /Çhosen folder"_s});
     EXPECT_EQ(user.calls.last(), u"refresh frm_Switcher"_s);
+    user.foldersToChoose = {(install.home() / u"Flights").native() + u'/'};
+    setNonEnglishRegVal(session);
+    EXPECT_EQ(stored(u"NonEnglishPath"_s), u"/Çhosen folder"_s) << "the program's own one is refused";
+    EXPECT_EQ(user.told().last(),
+              u"Exclamation|Invalid Path|The path supplied was invalid please try again"_s);
 }
 
 } // namespace

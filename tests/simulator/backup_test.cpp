@@ -2,11 +2,15 @@
 #include "core/store.h"
 #include "ground/ground_installation.h"
 #include "simulator/backup_files.h"
+#include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/first_run.h"
+#include "simulator/simulator_copy.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
+#include <QDir>
+#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -91,12 +95,14 @@ TEST_F(BackupTest, restorePassesOverReadOnlyTargetsAndDamagedCopiesWithoutAWord)
 TEST_F(BackupTest, whatIsCutShortIsMarkedAndNothingIsOverwritten) {
     writeFile(folder / u"Texture\\old.bmp", "of a store that was lost");
     install.user.onPump = [this] { session.user.answers().cancelRequested = true; };
-    createBackup(session, true);
+    createBackup(session, false);
+    EXPECT_TRUE(install.user.told().back().contains(
+        u"cancelled.  The backup 1-Backup is marked as partial, as it lacks 6 of 6 textures."_s));
     EXPECT_FALSE(isBackupComplete(session, u"1-Backup"_s));
     EXPECT_EQ(readFile(install.home() / u"Backup\\1-Backup kept 1\\Texture\\old.bmp"),
               "of a store that was lost");
     install.user.onPump = [] {};
-    createBackup(session, true);
+    createBackup(session, false);
     EXPECT_TRUE(isBackupComplete(session, u"2-Backup"_s));
     restore(u"1-Backup"_s, false);
     ASSERT_EQ(session.modal.backups.size(), 2U);
@@ -134,12 +140,95 @@ TEST_F(BackupTest, aBackupWithoutTheAddOnTouchesNothingOfIt) {
     EXPECT_EQ(contentsBelow(scenery), before);
 }
 
-TEST_F(BackupTest, theFirstRunIsDoneOnceAndOnlyWhenAskedFor) {
-    const auto setFirstTime = [&](const QString& text) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, text);
+/// A disk that takes only so many bytes, and files that nobody could back up.
+TEST_F(BackupTest, onlyWhatHoldsEveryTextureIsComplete) {
+    const struct {
+        qint64 room;
+        QString done, lacks;
+        bool hasList;
+    } cases[] = {
+        {0, u"0 of 6 textures backed up"_s, u"6"_s, false},
+        {60, u"1 of 6 textures backed up"_s, u"5"_s, false},
+        {6000, u"5 of 6 textures backed up"_s, u"1"_s, true}, // the great one does not get there
+        {60000, u"6 textures backed up"_s, {}, true},
     };
-    writeFile(install.home() / u"Flights\\Älpler.flt", "flight");
-    writeFile(install.home() / u"Flights\\Älpler.wx", "weather");
+    writeFile(world / u"Gelände ñ.bmp", QByteArray(20000, 'o'));
+    int number = 0;
+    for (const auto& disk : cases) {
+        const QString name = u"%1-Backup"_s.arg(++number);
+        install.user.messages.clear();
+        install.files.leaveRoom(disk.room);
+        backupOnRequest(session);
+        install.files.leaveRoom(-1);
+        EXPECT_EQ(isBackupComplete(session, name), disk.lacks.isEmpty()) << disk.room;
+        EXPECT_EQ(install.files.exists(install.home() / u"Backup" / name / u"backup.lst"), disk.hasList);
+        EXPECT_EQ(install.user.calls.back(), u"done "_s + disk.done);
+        EXPECT_EQ(install.user.countOfKind(MessageKind::exclamation), disk.lacks.isEmpty() ? 0 : 1);
+        EXPECT_TRUE(disk.lacks.isEmpty() ||
+                    install.user.told().back().contains(u"lacks %1 of 6 textures."_s.arg(disk.lacks)));
+    }
+}
+
+/// What cannot be read is missing, but no reason to begin again at each start.
+TEST_F(BackupTest, whatCannotBeReadIsMissing) {
+    QFile::link(u"/nowhere"_s, (world / u"broken.bmp").native());
+#ifndef Q_OS_WIN
+    const std::string noText = world.native().toStdString() + "/no text \xff.BMP";
+    std::ofstream(noText) << "texture";
+    std::ofstream(world.native().toStdString() + "/no path : .bmp") << "texture";
+    constexpr int left = 3;
+#else
+    constexpr int left = 1;
+#endif
+    const auto report = createBackup(session, true);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->files, 6 + left);
+    EXPECT_EQ(report->saved, 6);
+    EXPECT_TRUE(report->isWritten);
+    EXPECT_FALSE(isBackupComplete(session, u"1-Backup"_s));
+    EXPECT_TRUE(install.user.told().back().contains(u"lacks %1 of %2 textures."_s.arg(left).arg(6 + left)));
+#ifndef Q_OS_WIN
+    std::remove(noText.c_str()); // no folder can be removed by Qt while it is there
+#endif
+}
+
+#ifndef Q_OS_WIN
+TEST_F(BackupTest, eachSpellingOfANameIsBackedUpAndRestoredAsItself) {
+    const FilePath first = world.resolved().exactChild(u"GELÄNDE Ñ.BMP"_s), second = world / u"Gelände ñ.bmp";
+    writeFile(first, "another");
+    createBackup(session, false);
+    for (const bool isRemoved : {false, true}) {
+        writeFile(first, "a set");
+        writeFile(second, "a set");
+        if (isRemoved) QFile::remove(first.native());
+        restore(u"1-Backup"_s);
+        EXPECT_EQ(readFile(first), "another");
+        EXPECT_EQ(readFile(second), "the pilot's own");
+        EXPECT_EQ(install.user.calls.back(), u"done 2 put back"_s);
+    }
+}
+#endif
+
+struct FirstRunTest : BackupTest {
+    void SetUp() override {
+        BackupTest::SetUp();
+        for (const QString& name : {u"Älpler"_s, u"Zürich"_s})
+            for (const QString& ending : {u".flt"_s, u".wx"_s})
+                writeFile(install.home() / u"Flights" / (name + ending), name.toUtf8());
+        setFirstTime(u"True"_s);
+    }
+    void setFirstTime(const QString& text) {
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime, text);
+    }
+    bool isDone() {
+        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime) == u"False";
+    }
+    const QString firstTime = u"FirstTime"_s;
+    FilePath keptSplash = install.home() / u"Media\\dlgsplash.bmp";
+    FilePath flights = install.simulator() / u"Flights\\Morvane";
+};
+
+TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedFor) {
     for (const QString& other : {QString(), u"true"_s, u"False"_s}) {
         setFirstTime(other);
         doFirstRun(session);
@@ -149,16 +238,96 @@ TEST_F(BackupTest, theFirstRunIsDoneOnceAndOnlyWhenAskedFor) {
     doFirstRun(session);
     doFirstRun(session);
     EXPECT_EQ(backupNames(), QStringList{u"1-Backup"_s});
-    EXPECT_EQ(readFile(install.simulator() / u"Flights\\Morvane\\Älpler.wx"), "weather");
-    EXPECT_EQ(readFile(install.home() / u"Media\\dlgsplash.bmp"), "the pilot's splash");
+    EXPECT_EQ(readFile(flights / u"Älpler.wx"), "Älpler");
+    EXPECT_EQ(readFile(keptSplash), "the pilot's splash");
     ASSERT_EQ(install.user.told().size(), 2) << "what is done, and its progress";
     EXPECT_TRUE(install.user.told()[0].startsWith(u"Information|Creating Backup|"_s));
     session.IsWideClient = true;
     setFirstTime(u"True"_s);
-    install.files.remove(install.simulator() / u"Flights\\Morvane\\Älpler.wx");
+    install.files.remove(flights / u"Älpler.wx");
     doFirstRun(session);
-    EXPECT_FALSE(install.files.exists(install.simulator() / u"Flights\\Morvane\\Älpler.wx"));
+    EXPECT_FALSE(install.files.exists(flights / u"Älpler.wx"));
     EXPECT_EQ(backupNames().size(), 2);
+}
+
+/// A folder stands where a file should go: that file alone is missed, and told of.
+TEST_F(FirstRunTest, whatFailsCostsNothingElse) {
+    for (const FilePath& place : {keptSplash, flights / u"Älpler.flt"}) {
+        QDir(flights.native()).removeRecursively();
+        QFile::remove(place.native());
+        writeFile(place / u"in the way", "");
+        setFirstTime(u"True"_s);
+        install.user.messages.clear();
+        doFirstRun(session);
+        EXPECT_TRUE(isDone());
+        EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1)
+            << install.user.told().join(u'\n').toStdString();
+        EXPECT_TRUE(install.user.told()[0].contains(place.text()));
+        EXPECT_EQ(readFile(flights / u"Älpler.wx"), "Älpler");
+        EXPECT_EQ(readFile(flights / u"Zürich.flt"), "Zürich");
+        QDir(place.native()).removeRecursively();
+    }
+    EXPECT_EQ(readFile(keptSplash), "the pilot's splash");
+}
+
+/// Sets of ours stand in the simulator: from an earlier install, or from between two starts.
+TEST_F(FirstRunTest, theKeptOriginalsAreTakenForWhatIsOurs) {
+    writeFile(keptSplash, "as delivered");
+    install.addGroundSet(u"1-Blue"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s});
+    session.ground.SelectedGroundSet = u"1-Blue"_s;
+    GroundInstallation(session).installTextureSet(true);
+    ASSERT_EQ(readFile(splashTarget(session)), "splash OVC");
+    const FilePath originals = install.home() / u"Backup\\Originals", aside = install.home() / u"aside";
+    install.files.rename(originals, aside);
+    doFirstRun(session);
+    EXPECT_EQ(readFile(keptSplash), "as delivered") << "nobody knows the pilot's";
+    install.files.rename(aside, originals);
+    setFirstTime(u"True"_s);
+    doFirstRun(session);
+    EXPECT_EQ(readFile(keptSplash), "the pilot's splash");
+    EXPECT_EQ(readFile(install.home() / u"Backup\\2-Backup\\Texture\\029H2SU6.BMP"),
+              "the pilot's GENERIC WORLD\\029h2su6.bmp");
+    EXPECT_TRUE(isBackupComplete(session, u"2-Backup"_s));
+}
+
+TEST_F(FirstRunTest, aLockedStoreLeavesItToTheNextStart) {
+    Store other;
+    other.open(install.home() / u"Morvane.mdb");
+    {
+        StoreTransaction locked(other);
+        other.execute(u"DELETE FROM MV_BACKUP"_s);
+        doFirstRun(session);
+    }
+    EXPECT_FALSE(isDone());
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+    EXPECT_TRUE(backupNames().isEmpty());
+    doFirstRun(session);
+    EXPECT_TRUE(isDone());
+    EXPECT_EQ(backupNames(), QStringList{u"1-Backup"_s});
+}
+
+/// Whatever fails, once or from then on: the next start goes on with the row and the folder of the first one.
+TEST_F(FirstRunTest, isGoneOnWithAfterEveryFailure) {
+    install.files.remove(world / u"note.txt"); // no texture
+    const auto textures = contentsBelow(world.resolved());
+    int failures = 0;
+    for (const bool forever : {true, false}) {
+        bool hasFailed = true;
+        for (int n = 1; hasFailed; ++n, ++failures) {
+            session.adoConn->execute(u"DELETE FROM MV_BACKUP"_s);
+            QDir((install.home() / u"Backup").native()).removeRecursively();
+            clsBackups::reload(session);
+            install.files.failAt(n, forever);
+            auto report = createBackup(session, true);
+            hasFailed = install.files.hasFailed();
+            install.files.failAt(0, false);
+            if (!report || !report->isWritten) report = createBackup(session, true);
+            ASSERT_TRUE(report && report->isComplete()) << n << forever;
+            ASSERT_EQ(backupNames(), QStringList{report->name}) << n << forever;
+            ASSERT_EQ(contentsBelow(install.home() / u"Backup" / report->name / u"Texture"), textures) << n;
+        }
+    }
+    EXPECT_GT(failures, 80);
 }
 
 /// Whatever fails, each file of the simulator is the old one or the new one, and a backup that says it is
@@ -176,7 +345,7 @@ TEST_F(BackupTest, everyFailingOperationLeavesSimulatorAndBackupWhole) {
         }
         EXPECT_GT(failures, 10);
     };
-    failEach([&] { createBackup(session, true); },
+    failEach([&] { createBackup(session, false); },
              [&](int n) { EXPECT_EQ(contentsBelow(install.simulator()), before) << n; });
     const QString name = backupNames().last();
     const auto backup = contentsBelow(install.home() / u"Backup" / name);

@@ -6,6 +6,7 @@
 
 #include "ground/ground_sets.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -100,6 +101,17 @@ TEST_F(BaseInstall, nothingTickedWaitsForItsOk) {
     const Message& message = install.user.messages.back();
     EXPECT_TRUE(message.kind == MessageKind::progress && message.withOk && !message.isProgress);
     EXPECT_EQ(message.text, u"No options were selected and no textures will be copied to Flight Simulator"_s);
+}
+
+/// Nor do the rows, which say what was wanted, know of it.
+TEST_F(BaseInstall, aSourceThatCannotBeReadIsLeftOut) {
+    QFile::link(u"/nowhere"_s, (install.home() / u"GENERIC WORLD\\010b2su1.bmp").native());
+    copyBaseResources(session, {globalDayConfig});
+    EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "body of GENERIC WORLD\\029h2su6.bmp");
+    EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_EQ(install.user.calls.back(), u"done 3 files installed, 1 left out"_s);
+    copyBaseResources(session, {addOnConfig});
+    EXPECT_EQ(install.user.calls.back(), u"done 1 file installed"_s);
 }
 
 /// Marks are cleared here; the installs of sets refuse the same files.

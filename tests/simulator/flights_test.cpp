@@ -4,6 +4,7 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -71,6 +72,51 @@ TEST_F(FlightsTest, aNewGatheringBeginsEmptyAndLeavesOldEntriesUnread) {
     // A total that was edited by hand ends where the names do.
     writeFile(own / u"flights.cfg", "[Flights]\r\ntotal=2000000000\r\n1=C\r\n");
     EXPECT_EQ(savedFlights(session), QStringList{u"C"_s});
+}
+
+/// However the program's own folder is named, or made one with the pilot's: what lies there stays.
+TEST_F(FlightsTest, ownFlightsAreNeverDeletedAsCopies) {
+    const FilePath link = install.folder / u"Link", documents = install.folder / u"Documents";
+    save(own, u"Only one.flt"_s, "saved right here");
+    save(own, u"Only one.wx"_s, "its weather");
+    install.files.makeFolder(documents);
+    ASSERT_TRUE(QFile::link(own.native(), link.native()));
+    ASSERT_TRUE(QFile::link(own.native(), (documents / u"Flight Simulator Files").native()));
+    const auto expectUntouched = [this](const QString& stored) {
+        loadFlightFiles(session);
+        EXPECT_EQ(copyOf(u"Only one.flt"_s), "saved right here") << stored.toStdString();
+        EXPECT_EQ(contentsBelow(own).size(), 3) << stored.toStdString();
+        EXPECT_EQ(savedFlights(session), QStringList{u"Only one"_s});
+    };
+    for (const QString& path :
+         {own.native(), own.native() + u'/', own.native() + u'\\', own.native().toUpper(),
+          own.native() + u"/../Flights"_s, link.native(), link.native() + u'/'}) {
+        storeUserFolder(path);
+        expectUntouched(path);
+    }
+    session.MyDocumentsPath = documents.native() + u'/';
+    expectUntouched(u"the usual folder"_s);
+    session.MyDocumentsPath.clear();
+    // The other way round: the own folder is a link to a place that is nobody's business.
+    const FilePath elsewhere = install.folder / u"Elsewhere";
+    install.files.rename(own, elsewhere);
+    ASSERT_TRUE(QFile::link(elsewhere.native(), own.native()));
+    save(user, u"Own.flt"_s, "flight");
+    storeUserFolder(user.native());
+    expectUntouched(u"a link"_s);
+}
+
+TEST_F(FlightsTest, whatNoFolderHoldsGoesToTheBackups) {
+    const FilePath backups = install.home() / u"Backup\\Flights";
+    save(user, u"Own.flt"_s, "flight");
+    for (const QByteArray contents : {"first", "second", "second", "first"}) {
+        save(own, u"A.b.flt"_s, contents);
+        save(own, u"Own.flt"_s, "an older copy");
+        loadFlightFiles(session);
+        EXPECT_EQ(savedFlights(session), QStringList{u"Own"_s});
+    }
+    EXPECT_EQ(contentsBelow(backups),
+              (QMap<QString, QByteArray>{{u"A.b.flt"_s, "first"}, {u"A.b (2).flt"_s, "second"}}));
 }
 
 TEST_F(FlightsTest, theFolderOfTheUsualNameComesFirst) {

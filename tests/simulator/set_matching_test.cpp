@@ -169,7 +169,7 @@ TEST_F(SetMatchingTest, aFarGroundAndAFittingSkyAreToldOfTheGroundOnly) {
     session.WxStrengthList = QStringList{QString()};
     install.user.answersToGive = {true}; // no flight, no start
     install.user.otherwise = false;
-    EXPECT_EQ(flyWithCover(session), 6) << "four of the ground's \"Default\", two of the sky";
+    EXPECT_EQ(flyWithCover(session).filesCopied, 6) << "four of the ground's \"Default\", two of the sky";
     EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
     EXPECT_EQ(install.installedSkySets(), QStringList{u"Rain"_s});
     EXPECT_EQ(install.user.countOfKind(MessageKind::information), 1);
@@ -233,7 +233,7 @@ TEST_F(SetMatchingTest, aYesInstallsWhatTheWeatherAsksFor) {
     ASSERT_TRUE(processMetarString(session, u"  EHAM 241225Z 24015KT 9999 SKC 18/09 Q1012 "_s));
     EXPECT_EQ(session.WxCloudList, QStringList{u"1"_s});
     EXPECT_EQ(session.WxStrengthList, QStringList{QString()});
-    EXPECT_EQ(flyWithCover(session), 1);
+    EXPECT_EQ(flyWithCover(session).filesCopied, 1);
     EXPECT_EQ(install.installedSets(), QStringList{u"Sun"_s});
     EXPECT_EQ(install.installedSkySets(), QStringList{u"CLR"_s});
 

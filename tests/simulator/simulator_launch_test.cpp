@@ -130,7 +130,7 @@ TEST_F(SimulatorLaunchTest, theRoadAsksForTheSetsThenAFlightThenTheSimulator) {
         return found;
     };
     install.user.answersToGive = {false, false, true};
-    EXPECT_EQ(flyWithCover(session), -1);
+    EXPECT_EQ(flyWithCover(session).filesCopied, -1);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Start Predefined Flight"_s,
                                      u"Launch Flight Simulator?"_s}));
     EXPECT_EQ(startsIn(install.simulator(), 1).size(), 1);
@@ -173,12 +173,31 @@ TEST_F(SimulatorLaunchTest, aWindowsSimulatorIsStartedByTheRunner) {
                                                QString(flight).replace(u'/', u'\\')});
 }
 
-TEST_F(SimulatorLaunchTest, aWindowsSimulatorWithoutARunnerIsToldOf) {
-    install.user.otherwise = true;
-    launchFlightSimulator(session);
-    EXPECT_EQ(install.user.told().mid(0, 1), QStringList{launchQuestion});
-    EXPECT_TRUE(install.user.told().last().contains(u"SimulatorRunner"_s));
-    EXPECT_FALSE(install.user.calls.contains(u"minimise"_s)) << "the program stays, as nothing starts";
+TEST_F(SimulatorLaunchTest, whatDoesNotStartIsToldOf) {
+    const std::tuple<QByteArray, QString, QString> cases[] = {
+        // The simulator, the runner, and what is told; nothing for a start.
+        {"MZ", {}, u"SimulatorRunner"_s},
+        {"MZ", u"/nowhere/wine"_s, u"The runner is /nowhere/wine"_s},
+        {"MZ", u"false"_s, u"The runner is false"_s},
+        {"MZ", u"true"_s, {}},
+        {"#!/nowhere/sh\n", {}, u"could not be started: "_s + program.text()},
+        {"#!/bin/sh\nexit 3\n", {}, u"could not be started: "_s + program.text()},
+        {"#!/bin/sh\nexec sleep 3\n", {}, {}}, // longer than a failure takes to show
+    };
+    for (const auto& [contents, runner, told] : cases) {
+        writeFile(program, contents);
+        QFile::setPermissions(program.native(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        setRunner(runner);
+        install.user.messages.clear();
+        install.user.calls.clear();
+        EXPECT_EQ(launchFlightSimulator(session), told.isEmpty()) << contents.constData();
+        EXPECT_EQ(install.user.told().value(0), launchQuestion);
+        EXPECT_EQ(install.user.calls.contains(u"minimise"_s), told.isEmpty())
+            << "the program stays if nothing starts";
+        const QString last = install.user.told().last();
+        EXPECT_TRUE(last.contains(told)) << last.toStdString();
+        EXPECT_EQ(last.startsWith(u"Exclamation|Flight Simulator Not Started|"_s), !told.isEmpty());
+    }
 }
 
 TEST_F(SimulatorLaunchTest, theCallDependsOnWhatTheProgramIs) {

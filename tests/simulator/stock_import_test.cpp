@@ -2,10 +2,11 @@
 #include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
 #include "simulator/backup_files.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -88,6 +89,49 @@ TEST_F(StockImportTest, everyFileThatAPatternTakesBecomesABaseImageAndComesBack)
     EXPECT_FALSE(hasKeptStock(session));
 }
 
+/// A link to nowhere among the textures and among the annotations, and sides that no texture has.
+TEST_F(StockImportTest, whatHoldsNoTextureIsNamedAndCostsNothingElse) {
+    const auto before = stock();
+    QFile::remove((world / u"002C2WI1.BMP").native());
+    for (const char16_t* name : {u"031A2SU1.BMP", u"031a2an1.agn"})
+        QFile::link(u"/nowhere"_s, (world / name).native());
+    writeFile(world / u"032A2SU1.BMP", test::smallBitmap(12, 90));
+    const auto report = importSimulatorStock(session);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->unreadable, (QStringList{u"031A2SU1.BMP"_s, u"032A2SU1.BMP"_s, u"031a2an1.agn"_s}));
+    EXPECT_EQ(report->files, 12);
+    EXPECT_TRUE(install.user.told().back().contains(report->unreadable.join(u", "_s)));
+    EXPECT_EQ(install.user.calls.back(), u"done 12 files imported, 3 left out"_s);
+    restoreStock(session);
+    EXPECT_EQ(install.user.calls.back(), u"done 5 delivered files put back"_s);
+    EXPECT_EQ(stock(), before);
+}
+
+/// A folder stands where the part of one file would be made: that ends the import there.
+TEST_F(StockImportTest, anEndInTheMiddleTellsWhatWasReplacedAndLeavesNoParts) {
+    const auto before = stock();
+    QFile::remove((world / u"002C2WI1.BMP").native());
+    const StockPlan plan = planStockImport(session, {world, addOn});
+    for (int n = 0; n < static_cast<int>(plan.files.size()); ++n) {
+        const FilePath target = install.home() / plan.files[n].target.path();
+        const FilePath obstacle(target.native() + u".morvane-part"_s);
+        install.files.makeFolder(obstacle);
+        const auto report = importSimulatorStock(session);
+        install.files.removeFolder(obstacle);
+        ASSERT_TRUE(report);
+        EXPECT_EQ(report->files, n);
+        EXPECT_TRUE(report->failure.endsWith(target.fileName())) << report->failure.toStdString();
+        const QString told = install.user.told().back();
+        EXPECT_TRUE(told.startsWith(u"Error|"_s) && told.contains(u"after %1 of 12 files."_s.arg(n)))
+            << told.toStdString();
+        for (const QString& path : contentsBelow(install.home()).keys())
+            EXPECT_FALSE(path.endsWith(u".morvane-part"_s)) << path.toStdString();
+        EXPECT_EQ(hasKeptStock(session), n > 0);
+        restoreStock(session);
+        ASSERT_EQ(stock(), before) << n;
+    }
+}
+
 TEST_F(StockImportTest, aSecondImportKeepsWhatTheFirstOneFound) {
     const auto before = stock();
     importSimulatorStock(session);
@@ -146,7 +190,11 @@ TEST_F(StockImportTest, noFailureOfAFileLosesTheStock) {
         for (int n = 1;; ++n) {
             install.files.failAt(n, forever);
             importSimulatorStock(session, true);
-            restoreStock(session);
+            if (install.files.hasFailed() && !forever) { // the old file or the new one
+                for (const QString& path : before.keys())
+                    ASSERT_TRUE(install.files.exists(install.home() / path)) << n << path.toStdString();
+            }
+            restoreStock(session, true);
             const bool failed = install.files.hasFailed();
             install.files.failAt(0, false);
             restoreStock(session);

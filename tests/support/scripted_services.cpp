@@ -41,6 +41,12 @@ FileSystem& FaultyFileSystem::act(const FilePath& path) {
     throw Error(ErrorCode::ioFailure, path.text());
 }
 
+void FaultyFileSystem::takeRoom(const FilePath& file, qint64 size) {
+    if (room_ < 0) return;
+    if (size > room_) throw Error(ErrorCode::diskFull, file.text());
+    room_ -= size;
+}
+
 void FaultyFileSystem::copyContents(const FilePath& source, const FilePath& target) {
     if (isFailing()) {
         hasFailed_ = true;
@@ -49,6 +55,7 @@ void FaultyFileSystem::copyContents(const FilePath& source, const FilePath& targ
         writeFile(target, contents.left(contents.size() / 2));
         throw Error(ErrorCode::diskFull, target.text());
     }
+    if (room_ >= 0 && real_.exists(source)) takeRoom(target, real_.size(source));
     real_.copyContents(source, target);
 }
 

@@ -33,6 +33,9 @@ class FaultyFileSystem : public FileSystem {
 public:
     /// Counted from 1 and from now; 0 means never. `forever`: all later ones fail, too.
     void failAt(int n, bool forever);
+    /// From now on so many bytes can be written; a file that needs more fails as on a full disk. Below 0, as
+    /// at first, the disk has room for everything.
+    void leaveRoom(qint64 bytes) { room_ = bytes; }
     int operations() const { return operations_; }
     /// Whether the operation that failed first was a test of existence.
     bool failedAtTest() const { return failedAtTest_; }
@@ -60,8 +63,12 @@ public:
     std::int64_t size(const FilePath& file) override { return act(file).size(file); }
     std::int64_t freeSpace(const FilePath& folder) override { return act(folder).freeSpace(folder); }
     QByteArray read(const FilePath& file) override { return act(file).read(file); }
-    void write(const FilePath& file, const QByteArray& contents) override { act(file).write(file, contents); }
+    void write(const FilePath& file, const QByteArray& contents) override {
+        takeRoom(file, contents.size());
+        act(file).write(file, contents);
+    }
     void append(const FilePath& file, const QByteArray& contents) override {
+        takeRoom(file, contents.size());
         act(file).append(file, contents);
     }
 
@@ -70,7 +77,9 @@ private:
     bool test();
     /// The real file system, unless this operation is one to fail.
     FileSystem& act(const FilePath& path);
+    void takeRoom(const FilePath& file, qint64 size);
     NativeFileSystem real_;
+    qint64 room_ = -1;
     int operations_ = 0, failing_ = 0;
     bool forever_ = false, hasFailed_ = false, failedAtTest_ = false;
 };

@@ -33,6 +33,7 @@ public:
     /// Answers of questions and system boxes, first to last; after the last one `otherwise` is given.
     std::deque<bool> answersToGive;
     bool otherwise = true;
+    bool answersNothing = false; ///< leaves questions open, as where nobody sits
     std::deque<QString> foldersToChoose;
     std::function<void(const Message&)> onMessage = [](const Message&) {}; ///< before its answer is drawn
     std::function<void(Screen)> onModal = [](Screen) {};

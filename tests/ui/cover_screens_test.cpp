@@ -96,7 +96,7 @@ TEST_F(CoverScreensTest, eachCancelGoesOneStepBackAndTheLastEndsTheRoad) {
     };
     writePlan(u"One.pln"_s, "waypoint.0=KSEA,A,,\n");
     walk(0);
-    EXPECT_EQ(flyNow(session), -1);
+    EXPECT_EQ(flyNow(session).filesCopied, -1);
     EXPECT_TRUE(session.CoverCancelled);
     EXPECT_EQ(seen.size(), 4);
     EXPECT_TRUE(program.shell.form(u"frm_Main"_s)->isVisible());

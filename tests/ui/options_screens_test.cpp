@@ -156,10 +156,21 @@ TEST_F(OptionsScreens, thePilotsOwnTexturesBecomeBaseImages) {
     for (const QString& name : program.install.files.list(world, u"*.bmp"_s))
         test::writeFile(world.child(name), own);
     program.shell.goToPage(u"frm_Config"_s);
-    const QStringList titles =
-        titlesDuring([&] { program.control<QPushButton>(u"frm_Config"_s, u"cmdUseSimulator"_s).click(); });
-    EXPECT_GE(titles.size(), 1) << "it asks";
+    const auto& caption = program.control<QLabel>(u"frm_Config"_s, u"lblStock"_s);
+    auto& useDelivered = program.control<QPushButton>(u"frm_Config"_s, u"cmdUseDelivered"_s);
+    const auto click = [&](const QString& name) {
+        return titlesDuring(
+            [&] { QTest::mouseClick(&program.control<QPushButton>(u"frm_Config"_s, name), Qt::LeftButton); });
+    };
+    EXPECT_TRUE(caption.text().endsWith(u"the delivered textures"_s));
+    EXPECT_FALSE(useDelivered.isEnabled());
+    EXPECT_GE(click(u"cmdUseSimulator"_s).size(), 1) << "it asks";
     EXPECT_EQ(QImage::fromData(test::readFile(image)), QImage::fromData(own));
+    EXPECT_TRUE(caption.text().endsWith(u"my simulator's textures"_s));
+    EXPECT_TRUE(useDelivered.isEnabled());
+    EXPECT_EQ(click(u"cmdUseDelivered"_s).size(), 1) << "it asks, too";
+    EXPECT_EQ(test::readFile(image), before);
+    EXPECT_FALSE(useDelivered.isEnabled());
 }
 
 TEST_F(OptionsScreens, aPartialBackupIsMarkedWithItsDate) {

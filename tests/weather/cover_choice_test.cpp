@@ -74,14 +74,14 @@ TEST_F(CoverChoiceTest, aCancelledWayLeadsBackToTheChoice) {
 TEST_F(CoverChoiceTest, aCancelledChoiceEndsTheRoad) {
     const auto before = test::contentsBelow(install.simulator());
     take(u"2- 4"_s);
-    EXPECT_EQ(flyNow(session), -1);
+    EXPECT_EQ(flyNow(session).filesCopied, -1);
     EXPECT_TRUE(install.user.told().isEmpty()) << "nothing is asked";
     EXPECT_EQ(test::contentsBelow(install.simulator()), before);
     take(u"2+"_s);
-    EXPECT_GT(flyNow(session), 0) << "and the next road is free again";
+    EXPECT_GT(flyNow(session).filesCopied, 0) << "and the next road is free again";
     session.CommandLineRun = true;
     shownScreens.clear();
-    EXPECT_GT(flyNow(session), 0);
+    EXPECT_GT(flyNow(session).filesCopied, 0);
     EXPECT_FALSE(shownScreens.contains(u"frm_Select_CC_Method"_s)) << "an unattended run has its cover";
 }
 

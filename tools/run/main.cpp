@@ -110,19 +110,20 @@ bool prepareFlight(Session& session, ConsoleUser& user, const QString& flight) {
     return true;
 }
 
-void fly(Session& session) {
+FlyReport fly(Session& session) {
     QElapsedTimer timer;
     timer.start();
-    const int copied = flyWithCover(session);
-    if (copied < 0) {
+    const FlyReport report = flyWithCover(session);
+    if (report.filesCopied < 0) {
         say(u"Nothing was installed."_s);
-        return;
+        return report;
     }
     say(u"Installed ground set '%1' and sky set '%2': %3 files in %4 s, into %5"_s
             .arg(session.ground.SelectedGroundSet, session.sky.SelectedSkySet)
-            .arg(copied)
+            .arg(report.filesCopied)
             .arg(timer.elapsed() / 1000.0, 0, 'f', 1)
             .arg(session.FSPath.text()));
+    return report;
 }
 
 struct RunRequest {
@@ -149,9 +150,7 @@ int run(Session& session, ConsoleUser& user, const RunRequest& request) {
     if (!prepareFlight(session, user, request.flight)) return 1;
     const QString simulator = session.FSPath.native();
     const qsizetype startsBefore = recordedStarts(simulator).size();
-    fly(session);
-    if (session.modal.FlightSelected || user.answers().flag(Question::launch))
-        showStart(simulator, startsBefore);
+    if (fly(session).isSimulatorStarted) showStart(simulator, startsBefore);
     writeContactSheet(session, request.sheet);
     say(u"Contact sheet: "_s + request.sheet);
     closeDatabase(session);
@@ -194,8 +193,14 @@ int main(int argc, char** argv) {
     std::optional<SampleEndpoint> sample;
     if (parser.isSet(u"serve-sample"_s)) say(u"Weather server: "_s + sample.emplace(*registry).address());
     Session session({user, files, clock, random, sample ? *sample : *registry}, home);
-    return run(session, user,
-               {parser.value(u"metar"_s), parser.value(u"from"_s), parser.value(u"to"_s),
-                parser.value(u"plan"_s), parser.value(u"flight"_s),
-                QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath(), sample.has_value()});
+    const RunRequest request{
+        parser.value(u"metar"_s),  parser.value(u"from"_s),
+        parser.value(u"to"_s),     parser.value(u"plan"_s),
+        parser.value(u"flight"_s), QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath(),
+        sample.has_value()};
+    try {
+        return run(session, user, request);
+    } catch (const RoadEnded&) {
+        return 1;
+    }
 }

@@ -1,9 +1,10 @@
 #include "simulator/screens/config_screen.h"
 
+#include "core/failure_report.h"
 #include "core/session.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"
-#include "simulator/stock_import.h"
+#include "simulator/stock_requests.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/picture_frame.h"
 #include "ui/controls/set_table.h"
@@ -32,14 +33,14 @@ frm_Config::frm_Config(Shell& shellOfPages)
       picPreview_(new PictureFrame(paper())) {
     lstMVMain_->setObjectName(u"lstMVMain"_s);
     lstMVMain_->setAccessibleName(u"Textures to install"_s);
-    lstMVMain_->setGeometry(14, 130, 330, 248);
+    lstMVMain_->setGeometry(14, 130, 330, 192);
     lstMVMain_->setColumns({{u"Texture Name"_s, 312}}, true);
     connect(lstMVMain_, &SetTable::rowClicked, this, &frm_Config::showRow);
     picPreview_->setObjectName(u"picPreview"_s);
     picPreview_->setAccessibleName(u"Preview"_s);
     picPreview_->placePicture({353, 131, 228, 138});
     addTexts();
-    addStockButton();
+    addStockButtons();
     addKeys();
 }
 
@@ -54,17 +55,38 @@ void frm_Config::addTexts() {
         "system and show the date that that backup occurred so you can revert to a date of your choice.  "_s,
         {14, 46, 568, 78}, TextRole::longHelp)
         ->setObjectName(u"lbl_ConfigDesc"_s);
-    lblMVDescription_ = makeLabel(paper(), {}, {352, 284, 230, 62}, TextRole::body);
+    lblMVDescription_ = makeLabel(paper(), {}, {352, 284, 230, 38}, TextRole::body);
     lblMVDescription_->setObjectName(u"lblMVDescription"_s);
 }
 
-void frm_Config::addStockButton() {
-    auto* button = new QPushButton(u"Use my simulator's textures"_s, paper());
-    button->setObjectName(u"cmdUseSimulator"_s);
-    button->setAccessibleName(button->text());
-    button->setToolTip(u"Click to make your new texture sets from the textures of your own simulator."_s);
-    button->setGeometry(352, 352, 230, 26);
-    connect(button, &QPushButton::clicked, this, [this] { importSimulatorStock(session()); });
+/// Right of them there is room for what the simulator itself gets back.
+void frm_Config::addStockButtons() {
+    makeHair(paper(), {14, 330, 568, 1});
+    lblStock_ = makeLabel(paper(), {}, {14, 335, 380, 15}, TextRole::fieldCaption);
+    lblStock_->setObjectName(u"lblStock"_s);
+    const auto add = [&](const QString& name, const QString& text, const QString& tip, const QRect& place) {
+        auto* button = new QPushButton(text, paper());
+        button->setObjectName(name);
+        button->setAccessibleName(text);
+        button->setToolTip(tip);
+        button->setGeometry(place);
+        return button;
+    };
+    auto* useSimulator =
+        add(u"cmdUseSimulator"_s, u"Use my simulator's textures"_s,
+            u"Click to make your new texture sets from the textures of your own simulator."_s,
+            {14, 352, 170, 26});
+    cmdUseDelivered_ = add(u"cmdUseDelivered"_s, u"Use the delivered base images again"_s,
+                           u"Click to make your new texture sets from the textures that came with Morvane."_s,
+                           {192, 352, 222, 26});
+    connect(useSimulator, &QPushButton::clicked, this, [this] {
+        importSimulatorStock(session());
+        showStock();
+    });
+    connect(cmdUseDelivered_, &QPushButton::clicked, this, [this] {
+        restoreStock(session());
+        showStock();
+    });
 }
 
 void frm_Config::addKeys() {
@@ -87,6 +109,15 @@ void frm_Config::format() {
     paper()->setTitle(u"icon_Config.bmp"_s, u"Main Morvane Base Install Page"_s);
     picPreview_->setPicture(skin().picture(u"MV_Day.bmp"_s).toImage());
     fillRows();
+    showStock();
+}
+
+void frm_Config::showStock() {
+    bool isImported = false;
+    reportFailures(session().user, {}, [&] { isImported = hasKeptStock(session()); });
+    lblStock_->setText(isImported ? u"New sets are made from my simulator's textures"_s
+                                  : u"New sets are made from the delivered textures"_s);
+    cmdUseDelivered_->setEnabled(isImported);
 }
 
 void frm_Config::fillRows() {

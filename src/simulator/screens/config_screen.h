@@ -2,6 +2,8 @@
 
 #include "ui/page_form.h"
 
+class QPushButton;
+
 namespace morvane {
 
 class PictureFrame;
@@ -20,15 +22,18 @@ public:
 
 private:
     void addTexts();
-    void addStockButton();
+    void addStockButtons();
     void addKeys();
     void fillRows();
+    /// What new sets are made of, and whether there is a way back from it.
+    void showStock();
     void showDescription(const QString& title);
     void showRow(const QString& title);
 
     SetTable* lstMVMain_;
     PictureFrame* picPreview_;
-    QLabel* lblMVDescription_;
+    QLabel *lblMVDescription_, *lblStock_;
+    QPushButton* cmdUseDelivered_;
 };
 
 } // namespace morvane

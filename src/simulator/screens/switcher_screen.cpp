@@ -92,18 +92,9 @@ void frm_Switcher::addOption(const Option& option) {
     box->setGeometry(left, top, 276, 18);
     makeLabel(paper(), option.text, {left, top + 18, 276, 92}, TextRole::longHelp)
         ->setObjectName(option.label);
-    if (top + rowPitch < deckTop) addRule({left, top + 110, 276, 1});
+    if (top + rowPitch < deckTop) makeHair(paper(), {left, top + 110, 276, 1});
     connect(box, &QCheckBox::toggled, this, [this, &option](bool isTicked) { takeOption(option, isTicked); });
     boxes_.push_back(box);
-}
-
-void frm_Switcher::addRule(const QRect& place) {
-    auto* rule = new QWidget(paper());
-    QPalette colours;
-    colours.setColor(QPalette::Window, QColor::fromRgb(palette::hair));
-    rule->setPalette(colours);
-    rule->setAutoFillBackground(true);
-    rule->setGeometry(place);
 }
 
 void frm_Switcher::addFlightsFolder() {

@@ -20,7 +20,6 @@ private:
     static const std::vector<Option>& options();
 
     void addOption(const Option& option);
-    void addRule(const QRect& place);
     void addFlightsFolder();
     void formatSwitcherScreen();
     /// Shows the flags and the flights' folder, without any effect and without a question.

@@ -75,6 +75,16 @@ QLabel* makeLabel(QWidget* parent, const QString& text, const QRect& place, Text
     return label;
 }
 
+QWidget* makeHair(QWidget* parent, const QRect& place) {
+    auto* hair = new QWidget(parent);
+    QPalette colours;
+    colours.setColor(QPalette::Window, QColor::fromRgb(palette::hair));
+    hair->setPalette(colours);
+    hair->setAutoFillBackground(true);
+    hair->setGeometry(place);
+    return hair;
+}
+
 void setTextColour(QLabel& label, QRgb colour) {
     QPalette colours = label.palette();
     colours.setColor(QPalette::WindowText, QColor::fromRgb(colour));

@@ -36,6 +36,8 @@ QFont fontOf(TextRole role);
 /// A label of that role in that place (logical pixels of the parent). The text is shown as it reads, never as
 /// mark-up, and lets the mouse through.
 QLabel* makeLabel(QWidget* parent, const QString& text, const QRect& place, TextRole role);
+/// A fine line that parts one field of a page from the next.
+QWidget* makeHair(QWidget* parent, const QRect& place);
 /// Paints the label's text in that colour, whatever its role says.
 void setTextColour(QLabel& label, QRgb colour);
 

@@ -1,0 +1,140 @@
+#include "cli/command_helpers.h"
+#include "cli/command_tables.h"
+#include "cli/json_output.h"
+#include "core/application.h"
+#include "core/failure_report.h"
+#include "core/options.h"
+#include "core/registry.h"
+#include "core/store.h"
+#include "weather/active_sky.h"
+
+#include <algorithm>
+
+namespace morvane {
+
+namespace {
+
+/// A text among the registry values that the console can set.
+struct Setting {
+    QString name;
+    QString key, value; ///< in the registry
+    /// Why the text cannot be taken; empty when it can.
+    QString (*problem)(Session&, const QString& text);
+    bool isFolder;
+};
+
+QString simulatorProblem(Session& session, const QString& folder) {
+    if (session.files.exists(FilePath(folder) / u"fs9.exe")) return {};
+    return u"The folder does not contain FS9.EXE: "_s + folder;
+}
+
+QString flightsProblem(Session& session, const QString& folder) {
+    if (!session.files.isFolder(FilePath(folder))) return u"Path not found: "_s + folder;
+    if (!isOwnFlightsFolder(session, folder)) return {};
+    return u"Morvane's own Flights folder cannot be the folder of your saved flights: "_s + folder;
+}
+
+QString noProblem(Session&, const QString&) {
+    return {};
+}
+
+const std::vector<Setting>& settings() {
+    static const std::vector<Setting> all{
+        {u"simulator"_s, simulatorKey, u"EXE Path"_s, simulatorProblem, true},
+        {u"flights"_s, morvaneKey, u"NonEnglishPath"_s, flightsProblem, true},
+        {u"runner"_s, morvaneKey, u"SimulatorRunner"_s, noProblem, false},
+    };
+    return all;
+}
+
+const Setting& settingOf(const CommandContext& context) {
+    return *std::ranges::find(settings(), context.arguments[0], &Setting::name);
+}
+
+QString textOf(const Session& session, const Setting& setting) {
+    return session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, setting.key, setting.value);
+}
+
+QString ownText(const Session& session, const QString& value) {
+    return session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, value);
+}
+
+void get(CommandContext& context) {
+    const Setting& setting = settingOf(context);
+    printJson(QJsonDocument(QJsonObject{{setting.name, textOf(context.session, setting)}}));
+}
+
+void set(CommandContext& context) {
+    const Setting& setting = settingOf(context);
+    Session& session = context.session;
+    const QString& typed = context.arguments[1];
+    const QString text = setting.isFolder ? pathOfArgument(typed).native() : typed;
+    if (const QString problem = setting.problem(session, text); !problem.isEmpty())
+        return fail(context, problem);
+    session.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, setting.key);
+    session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, setting.key, setting.value, text);
+    // The registry reports nothing.
+    if (textOf(session, setting) != text)
+        return fail(context, u"The setting could not be stored: "_s + setting.name);
+    get(context);
+}
+
+/// Those of a store that was never started are not known yet: null.
+QJsonObject switchesOf(Session& session) {
+    connectDatabase(session);
+    const bool isKnown = session.adoConn && session.adoConn->isOpen() &&
+                         !session.adoConn->columns(u"TEXTURE_SWITCH"_s).isEmpty();
+    if (isKnown) readSwitches(session);
+    const auto shown = [isKnown](bool value) { return isKnown ? QJsonValue(value) : QJsonValue(); };
+    return {{u"dutch"_s, shown(session.IsDutch)},
+            {u"tropical"_s, shown(session.IsTropical)},
+            {u"halo"_s, shown(session.IsHalo)},
+            {u"fastexit"_s, shown(session.IsFastExit)},
+            {u"widefs"_s, ownText(session, u"IsWideClient"_s).trimmed() == u"True"},
+            {u"inhibitsplash"_s, isCustomSplashInhibited(session)}};
+}
+
+/// Works without a simulator, too: it is what one looks at when something is not found.
+void show(CommandContext& context) {
+    Session& session = context.session;
+    QJsonObject shown{{u"home"_s, session.AppPath.native()}};
+    for (const Setting& setting : settings())
+        shown.insert(setting.name, textOf(session, setting));
+    shown.insert(u"activesky"_s,
+                 session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Install_Path"_s));
+    shown.insert(u"weather"_s, QJsonObject{{u"server"_s, ownText(session, u"WeatherServer"_s)},
+                                           {u"path"_s, ownText(session, u"WeatherPath"_s)},
+                                           {u"format"_s, ownText(session, u"WeatherFormat"_s)}});
+    shown.insert(u"switches"_s, switchesOf(session));
+    printJson(QJsonDocument(shown));
+}
+
+} // namespace
+
+std::vector<Command> configCommands() {
+    Operand setting{.name = u"SETTING"_s,
+                    .meaning = u"the simulator's folder, the saved flights' folder, or the command "
+                               "that starts Windows programs"_s};
+    for (const Setting& each : settings())
+        setting.entries << each.name;
+    return {{.words = u"config show"_s,
+             .needs = Needs::folder,
+             .run = show,
+             .meaning = u"paths, weather source and switches"_s,
+             .example = u"config show"_s},
+            {.words = u"config get"_s,
+             .operands = {setting},
+             .needs = Needs::folder,
+             .run = get,
+             .meaning = u"one of the settings"_s,
+             .example = u"config get simulator"_s},
+            {.words = u"config set"_s,
+             .operands = {setting, {u"VALUE"_s, u"a folder, or a command such as wine"_s}},
+             .needs = Needs::folder,
+             .writes = true,
+             .run = set,
+             .meaning = u"stores one of the settings"_s,
+             .example = u"config set simulator \"/games/Flight Simulator 9\""_s}};
+}
+
+} // namespace morvane

@@ -1,0 +1,98 @@
+#include "cli/command_helpers.h"
+#include "cli/command_tables.h"
+#include "core/error.h"
+#include "ground/colour_settings.h"
+#include "imaging/texture_codec.h"
+#include "sky/sky_groups.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace morvane {
+
+namespace {
+
+/// Within the ranges that `ColourValues` names.
+bool areColours(const QString& word) {
+    constexpr double ranges[] = {100, 20, 20, 20, 30, 30};
+    const QStringList fields = word.split(u':');
+    if (fields.size() != static_cast<qsizetype>(std::size(ranges))) return false;
+    for (qsizetype i = 0; i < fields.size(); ++i)
+        if (!isNumberWithin(fields[i], -ranges[i], ranges[i])) return false;
+    return true;
+}
+
+void recolour(CommandContext& context) {
+    const ColourValues colours = parseColourSettings(context.arguments[0]);
+    recolourFile(context, [&](const cDIBSection& source, cDIBSection& result) {
+        cColourise colourise(context.user);
+        colourise.saturation = colours.saturation;
+        colourise.Red = colours.red;
+        colourise.green = colours.green;
+        colourise.blue = colours.blue;
+        colourise.brightness = colours.brightness;
+        colourise.contrast = colours.contrast;
+        colourise.process(source, result);
+    });
+}
+
+/// Raises "Type mismatch" for anything but an array of ten colour texts.
+SkyGroupTable readGroups(Session& session, const FilePath& path) {
+    const QJsonArray texts = QJsonDocument::fromJson(session.files.read(path)).array();
+    if (texts.size() != skyGroupCount) throw Error(ErrorCode::typeMismatch, path.text());
+    SkyGroupTable groups;
+    for (int number = 1; number <= skyGroupCount; ++number)
+        if (const auto record = parseSkyColourString(texts[number - 1].toString()))
+            skyRecord(groups, number) = *record;
+    return groups;
+}
+
+void recolourSky(CommandContext& context) {
+    const SkyGroupTable groups = readGroups(context.session, pathOfArgument(context.arguments[0]));
+    recolourFile(context, [&](const cDIBSection& source, cDIBSection& result) {
+        cColourise colourise(context.user);
+        colourise.skyTextureGroups = groups;
+        colourise.processSkyTexture(source, result);
+    });
+}
+
+void compress(CommandContext& context) {
+    const FilePath source = pathOfArgument(context.arguments[0]);
+    const FilePath target = pathOfArgument(context.arguments[1]);
+    if (!BMPScompressBMPVB(context.session.files, source, u"1"_s, 10, -1, 0, target))
+        fail(context, u"No texture was made of "_s + source.text());
+}
+
+} // namespace
+
+std::vector<Command> pictureCommands() {
+    const Operand colours{.name = u"COLOURS"_s,
+                          .meaning = u"S:R:G:B:BR:C: saturation -100 to 100, red, green and blue -20 to 20, "
+                                     "brightness and contrast -30 to 30"_s,
+                          .takes = u"S:R:G:B:BR:C, saturation -100 to 100, red, green, blue -20 to 20, "
+                                   "brightness and contrast -30 to 30"_s,
+                          .isTaken = areColours};
+    return {{.words = u"recolour"_s,
+             .operands = {colours, inPicture, outFile},
+             .needs = Needs::nothing,
+             .run = recolour,
+             .meaning = u"recolours a picture"_s,
+             .example = u"recolour -10:2:1:-3:6:3 base.bmp out.bmp"_s},
+            {.words = u"recolour-sky"_s,
+             .operands = {{u"GROUPS"_s,
+                           u"a file with a JSON array of ten colour texts, \"0:12:0:0:0:-5:1:32:255\""_s},
+                          inPicture,
+                          outFile},
+             .needs = Needs::nothing,
+             .run = recolourSky,
+             .meaning = u"lays the ten groups of a file on a sky texture"_s,
+             .example = u"recolour-sky groups.json sky.bmp out.bmp"_s},
+            {.words = u"compress"_s,
+             .operands = {inPicture, outFile},
+             .needs = Needs::nothing,
+             .run = compress,
+             .meaning = u"makes a ground texture of a picture"_s,
+             .example = u"compress picture.bmp texture.bmp"_s}};
+}
+
+} // namespace morvane

@@ -1,0 +1,119 @@
+#include "simulator/backup_restore.h"
+
+#include "core/attempts.h"
+#include "core/failure_report.h"
+#include "core/numbers.h"
+#include "simulator/backup_list.h"
+#include "simulator/backups.h"
+#include "simulator/checked_copies.h"
+#include "simulator/simulator_copy.h"
+
+namespace morvane {
+
+namespace {
+
+/// A texture goes over the one that stands there, however that is spelt. Where the backup has two that differ
+/// in nothing but case, each stands for itself.
+void addTextures(Session& session, const BackupPlace& place, std::vector<FileCopy>& copies) {
+    const FilePath simulator = place.simulator.resolved();
+    const QStringList names = session.files.list(place.backup, u"*.bmp"_s);
+    QHash<QString, int> spellings;
+    for (const QString& name : names)
+        ++spellings[name.toCaseFolded()];
+    for (const QString& name : names) {
+        const bool isAlone = spellings.value(name.toCaseFolded()) == 1;
+        copies.push_back({place.backup.child(name),
+                          isAlone ? simulator.child(name).resolved() : simulator.exactChild(name)});
+    }
+}
+
+std::vector<FileCopy> texturesOf(Session& session, const QString& name) {
+    std::vector<FileCopy> copies;
+    const auto [world, addOn] = backupPlaces(session, name);
+    addTextures(session, world, copies);
+    if (session.files.isFolder(addOn.simulator.parent())) addTextures(session, addOn, copies);
+    return copies;
+}
+
+/// Which of the report's numbers the file counts in.
+int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const FileCopy& copy) {
+    if (attempt([&] { copier.copy(copy); })) return &RestoreReport::putBack;
+    bool isReadOnly = false;
+    attempt([&] { isReadOnly = session.files.isReadOnly(copy.target); });
+    return isReadOnly ? &RestoreReport::readOnly : &RestoreReport::failed;
+}
+
+RestoreReport copyBack(Session& session, const QString& name) {
+    const std::vector<FileCopy> copies = texturesOf(session, name);
+    const BackupList list = BackupList::readIfReadable(session, name);
+    SimulatorCopier copier(session);
+    copier.clearStrays(copies);
+    CheckAhead sources(copies);
+    RestoreReport report;
+    CopyWalk(session, copies, 1).round(nullptr, [&](const FileCopy& copy) {
+        const std::optional<CheckedFile> source = sources.next();
+        if (!source)
+            ++report.failed;
+        else if (list.isDamaged(copy.source, source->print))
+            ++report.damaged;
+        else if (source->stands)
+            ++report.standing;
+        else
+            ++(report.*putBack(session, copier, copy));
+    });
+    return report;
+}
+
+DoneLine doneLine(const RestoreReport& report) {
+    DoneLine line{countText(report.putBack) + u" put back"_s};
+    const auto add = [&](int count, const QString& what) {
+        if (count > 0) line.text += u", "_s + countText(count) + what;
+    };
+    add(report.readOnly, u" read-only left"_s);
+    add(report.damaged, u" damaged left out"_s);
+    add(report.failed, u" could not be replaced"_s);
+    line.hasLeftOut = report.readOnly + report.damaged + report.failed > 0;
+    if (report.standing > 0) line.remark = countText(report.standing) + u" were there already"_s;
+    return line;
+}
+
+/// False when there is none to choose or none was chosen.
+bool chooseBackup(Session& session) {
+    if (!session.gBackups && !clsBackups::reload(session)) return false;
+    ModalState& modal = session.modal;
+    modal.backups.clear();
+    modal.chosenBackup.clear();
+    modal.backupConfirmed = false;
+    for (const auto& backup : *session.gBackups)
+        modal.backups.push_back({backup->BackupName, backup->BackupDateTime,
+                                 BackupList::readIfReadable(session, backup->BackupName).isComplete()});
+    if (modal.backups.empty()) return false;
+    session.user.showModal(Screen::frm_BackupList);
+    return modal.backupConfirmed && !modal.chosenBackup.isEmpty();
+}
+
+} // namespace
+
+std::optional<RestoreReport> restoreBackup(Session& session, const QString& name) {
+    std::optional<RestoreReport> report;
+    const Job job(session);
+    if (!job) return report;
+    reportFailures(session.user, {}, [&] { report = copyBack(session, name); });
+    session.user.updateProgress({}, {}, 100);
+    return report;
+}
+
+void restoreBackupOnRequest(Session& session) {
+    if (!chooseBackup(session)) return;
+    const QString name = session.modal.chosenBackup;
+    // The double quote at the end belongs to the text.
+    session.user.showMessage(
+        {MessageKind::progress, u"Morvane Information"_s,
+         u"Restoring backup "_s + name + u" to Flight Simulator.  Please stand by...\""_s, false, false,
+         true});
+    const std::optional<RestoreReport> report = restoreBackup(session, name);
+    session.user.hideMessage();
+    if (report) session.user.tellDone(doneLine(*report));
+}
+
+} // namespace morvane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/session.h"
+
+#include <optional>
+
+namespace morvane {
+
+/// What became of the files of a backup.
+struct RestoreReport {
+    int putBack = 0;
+    int standing = 0; ///< were there already
+    int readOnly = 0; ///< targets that may not be written to
+    int damaged = 0;  ///< no longer what was backed up
+    int failed = 0;   ///< cannot be read or replaced
+};
+
+/// Copies the files of that backup back into the simulator, each safely as every copy of ours; the rows of
+/// installed sets stay as they are. No file is told of by itself. Nothing after the message of a failure.
+std::optional<RestoreReport> restoreBackup(Session& session, const QString& name);
+/// Offers the backups (frm_BackupList) and restores the chosen one; nothing without any.
+void restoreBackupOnRequest(Session& session);
+
+} // namespace morvane

@@ -1,0 +1,111 @@
+#include "simulator/backup_run.h"
+
+#include "core/attempts.h"
+#include "core/safe_copy.h"
+
+#include <QFile>
+#include <filesystem>
+
+namespace morvane {
+
+namespace {
+
+const QString ending = u".bmp"_s;
+
+/// Textures whose names are no text on this system: no listing has them and no path reaches them.
+int namelessTextures(const FilePath& folder) {
+    int count = 0;
+#ifndef Q_OS_WIN
+    std::error_code error;
+    const std::filesystem::directory_iterator end;
+    for (auto entry = std::filesystem::directory_iterator(folder.native().toStdU16String(), error);
+         !error && entry != end; entry.increment(error)) {
+        const QByteArray name = QByteArray::fromStdString(entry->path().filename().native());
+        const QString text = QFile::decodeName(name);
+        count += QFile::encodeName(text) != name && text.endsWith(ending, Qt::CaseInsensitive);
+    }
+#endif
+    return count;
+}
+
+} // namespace
+
+BackupRun::BackupRun(Session& session, const Job& job, const QString& name, bool isFirstRun)
+    : session_(session), job_(job), name_(name), isFirstRun_(isFirstRun) {}
+
+BackupReport BackupRun::run() {
+    planAll();
+    if (isFirstRun_) BackupList::markFirstRun(session_, name_);
+    CopyWalk walk(session_, copies_, 2);
+    BackupReport report;
+    report.name = name_;
+    report.files = static_cast<int>(copies_.size()) + missing_;
+    report.isCancelled = !copyAll(walk) || !checkAll(walk);
+    report.saved = saved_;
+    report.isWritten = !report.isCancelled && writeList();
+    return report;
+}
+
+void BackupRun::planAll() {
+    std::optional<KeptOriginals> originals;
+    if (isFirstRun_) originals.emplace(session_);
+    for (const BackupPlace& place : backupPlaces(session_, name_))
+        plan({place.simulator, place.backup.resolved()}, originals ? &*originals : nullptr);
+}
+
+void BackupRun::plan(const BackupPlace& place, const KeptOriginals* originals) {
+    attempt([&] { removePartialCopies(session_.files, place.backup); });
+    for (const QString& name : session_.files.list(place.simulator, u'*' + ending)) {
+        // A name that the system takes may be none that a path of ours can have.
+        const bool isPath = attempt([&] {
+            const FilePath own = place.simulator.child(name);
+            copies_.push_back(
+                {originals ? originals->of(own).value_or(own) : own, place.backup.exactChild(name)});
+        });
+        if (!isPath) miss(place, name);
+    }
+    for (int left = namelessTextures(place.simulator); left > 0; --left)
+        miss(place, u"?"_s);
+}
+
+void BackupRun::miss(const BackupPlace& place, const QString& name) {
+    list_.addMissing(place.backup, name);
+    ++missing_;
+}
+
+/// False when it was cancelled.
+bool BackupRun::copyAll(CopyWalk& walk) {
+    return walk.round(&job_, [&](const FileCopy& copy) { saved_ += attempt([&] { this->copy(copy); }); });
+}
+
+/// What a run that was cut short has brought stands already.
+void BackupRun::copy(const FileCopy& copy) {
+    if (!session_.files.exists(copy.target) || !checkCopy(copy).stands)
+        replaceFile(session_.files, copy.source, copy.target);
+}
+
+/// Only now is a file taken for saved, when the copy has been read again. False when it was cancelled.
+bool BackupRun::checkAll(CopyWalk& walk) {
+    CheckAhead checks(copies_);
+    int saved = 0;
+    const bool isWhole = walk.round(&job_, [&](const FileCopy& copy) {
+        const std::optional<CheckedFile> file = checks.next();
+        if (file && file->stands) {
+            list_.add(copy.target, file->print);
+            ++saved;
+        } else {
+            list_.addMissing(copy.target.parent(), copy.target.fileName());
+            unwritten_ += file.has_value();
+        }
+    });
+    if (isWhole) saved_ = saved;
+    return isWhole;
+}
+
+/// The first run has not come to its end as long as the disk refuses what could be read.
+bool BackupRun::writeList() {
+    if (isFirstRun_ && unwritten_ > 0) return false;
+    return attempt([&] { list_.write(session_, name_); }) && unwritten_ == 0;
+}
+
+} // namespace morvane

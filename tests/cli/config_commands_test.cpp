@@ -1,0 +1,125 @@
+#include "cli/console.h"
+
+#include "core/application.h"
+#include "core/store.h"
+#include "support/printing.h"
+
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::Console;
+
+struct ConfigCommands : testing::Test {
+    test::ConsoleInstall install;
+
+    QString stored(const QString& key, const QString& name) {
+        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, key, name);
+    }
+    void forget(const QString& key, const QString& name) {
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, key, name, {});
+    }
+    /// The same at a terminal, where somebody types the lines.
+    test::ConsoleRun runAtTerminal(const QString& command, const QByteArray& typed) {
+        QStringList words{QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), u"--home"_s,
+                          install.home().native()};
+        for (QString& word : words)
+            word = u'\'' + word + u'\'';
+        Console console(u"script"_s, {u"-qec"_s, words.join(u' ') + u' ' + command, u"/dev/null"_s});
+        return console.finish(typed);
+    }
+};
+
+TEST_F(ConfigCommands, theSimulatorIsNamedWithoutAQuestion) {
+    forget(simulatorKey, u"EXE Path"_s);
+    const QString simulator = install.simulator().native();
+    const auto lost = install.run(u"ground list"_s);
+    EXPECT_EQ(lost.status, 1);
+    EXPECT_TRUE(lost.messages.contains(u"config set simulator"_s)) << lost.messages.toStdString();
+    EXPECT_EQ(install.run(u"config set simulator"_s, {install.home().native()}).status, 1) << "no fs9.exe";
+    EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), QString());
+
+    const auto set = install.run(u"config set simulator"_s, {QDir::current().relativeFilePath(simulator)});
+    EXPECT_EQ(set.status, 0) << set.messages.toStdString();
+    EXPECT_EQ(set.objects().at(0), (QJsonObject{{u"simulator"_s, simulator}}));
+    EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), simulator);
+    EXPECT_EQ(install.run(u"ground list"_s).status, 0);
+}
+
+TEST_F(ConfigCommands, theSimulatorFoundAtTheTerminalIsStoredInFull) {
+    if (QStandardPaths::findExecutable(u"script"_s).isEmpty())
+        GTEST_SKIP() << "nothing to make a terminal with";
+    forget(simulatorKey, u"EXE Path"_s);
+    const QString simulator = install.simulator().native();
+    const auto run =
+        runAtTerminal(u"ground list"_s, QDir::current().relativeFilePath(simulator).toUtf8() + '\n');
+    EXPECT_EQ(run.status, 0) << "it was found, and the work was done: " << run.output.constData();
+    EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), simulator);
+    forget(simulatorKey, u"EXE Path"_s);
+    EXPECT_EQ(runAtTerminal(u"ground list"_s, "/\nn\n").status, 1);
+    EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), QString());
+}
+
+TEST_F(ConfigCommands, everythingIsShownWithoutASimulatorToo) {
+    install.run(u"config set runner"_s, {u"wine --quiet"_s});
+    install.run(u"option set halo on"_s);
+    forget(simulatorKey, u"EXE Path"_s);
+    install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"WeatherServer"_s,
+                                  u"https://weather.example"_s);
+    const auto before = test::contentsBelow(install.folder.path());
+    const auto run = install.run(u"config show"_s);
+    EXPECT_EQ(run.status, 0) << run.messages.toStdString();
+    const QJsonObject shown = run.objects().at(0);
+    EXPECT_EQ(shown.keys().join(u' '), u"activesky flights home runner simulator switches weather"_s);
+    EXPECT_EQ(shown[u"home"_s], QJsonValue(install.home().native()));
+    EXPECT_EQ(shown[u"runner"_s], QJsonValue(u"wine --quiet"_s));
+    EXPECT_EQ(shown[u"weather"_s].toObject()[u"server"_s], QJsonValue(u"https://weather.example"_s));
+    EXPECT_EQ(shown[u"switches"_s].toObject()[u"halo"_s], QJsonValue(true));
+    EXPECT_EQ(shown[u"switches"_s].toObject().size(), 6);
+    EXPECT_EQ(install.run(u"config get runner"_s).objects().at(0)[u"runner"_s],
+              QJsonValue(u"wine --quiet"_s));
+    EXPECT_EQ(test::contentsBelow(install.folder.path()), before) << "looking changes nothing";
+
+    Store store; // as one of version 2 before its upgrade
+    store.open(install.home() / u"Morvane.mdb");
+    store.execute(u"DROP TABLE TEXTURE_SWITCH"_s);
+    store.close();
+    const auto old = install.run(u"config show"_s);
+    EXPECT_EQ(old.status, 0) << old.messages.toStdString();
+    EXPECT_TRUE(old.objects().at(0)[u"switches"_s].toObject()[u"halo"_s].isNull());
+}
+
+TEST_F(ConfigCommands, ownFlightsAreNoSavedFlights) {
+    const QString own = (install.home() / u"Flights").native(), link = (install.folder / u"Link").native();
+    install.files.makeFolder(install.home() / u"Flights");
+    ASSERT_TRUE(QFile::link(own, link));
+    for (const QString& path : {own, own + u'/', own + u"/../Flights"_s, link, link + u'/',
+                                (install.folder / u"no folder").native()}) {
+        const auto run = install.run(u"config set flights"_s, {path});
+        EXPECT_EQ(run.status, 1) << path.toStdString();
+        EXPECT_EQ(stored(morvaneKey, u"NonEnglishPath"_s), QString()) << path.toStdString();
+    }
+    EXPECT_EQ(install.run(u"config set flights"_s, {install.folder.path().native() + u'/'}).status, 0);
+    EXPECT_EQ(stored(morvaneKey, u"NonEnglishPath"_s), install.folder.path().native());
+}
+
+/// Only a person can say which PC this is: a script's yes would end every later start of the simulator.
+TEST_F(ConfigCommands, nobodyMakesTheInstallAClient) {
+    forget(morvaneKey, u"IsWideClient"_s);
+    for (const QString& policy : {u"yes"_s, u"no"_s, u"ask"_s}) {
+        const auto run = install.run(u"ground list --answer "_s + policy);
+        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.messages.count(u"No; use option set widefs on, or off"_s), 1)
+            << run.messages.toStdString();
+        EXPECT_EQ(stored(morvaneKey, u"IsWideClient"_s), QString()) << policy.toStdString();
+    }
+    EXPECT_EQ(Console(install.withHome(u"ground list --answer ask"_s)).finish("y\n").status, 0);
+    EXPECT_EQ(stored(morvaneKey, u"IsWideClient"_s), u"True"_s);
+}
+
+} // namespace
+} // namespace morvane
