@@ -22,6 +22,7 @@ public:
     void setProgressFile(const QString&) override {}
     void hideMessage() override {}
     void tellDone(const DoneLine&) override {}
+    bool allowsRun(const RunSize&) override { return true; }
     bool isMessageVisible() const override { return false; }
     bool systemBox(const QString&, const QString&, SystemBoxButtons) override { return true; }
     QString browseForFolder(const QString&) override { return {}; }

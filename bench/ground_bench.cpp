@@ -27,6 +27,7 @@ public:
     void setProgressFile(const QString&) override {}
     void hideMessage() override { isVisible_ = false; }
     void tellDone(const DoneLine&) override {}
+    bool allowsRun(const RunSize&) override { return true; }
     bool isMessageVisible() const override { return isVisible_; }
     bool systemBox(const QString&, const QString&, SystemBoxButtons buttons) override {
         return buttons == SystemBoxButtons::ok;

@@ -14,8 +14,9 @@ set(morvane_window_headers ${morvane_engine_headers}
     <QAbstractButton> <QApplication> <QEvent> <QLabel> <QLineEdit> <QPainter> <QPixmap> <QWidget>)
 set(morvane_test_headers ${morvane_engine_headers} <gmock/gmock.h> <gtest/gtest.h>)
 set(morvane_window_test_headers ${morvane_window_headers} <gmock/gmock.h> <gtest/gtest.h> <QTest>)
+set(morvane_walk_test_headers ${morvane_window_test_headers}) # QTest defines the folder, so a folder has its own
 
-# morvane_precompile(TARGET GROUP): GROUP is engine, window, test or window_test. The first target of a group makes
+# morvane_precompile(TARGET GROUP): GROUP is engine, window, test, window_test or walk_test. The first target of a group makes
 # its header, so that one has no definitions of its own; the later ones use it.
 function(morvane_precompile target group)
     if(NOT MORVANE_PRECOMPILED_HEADERS)

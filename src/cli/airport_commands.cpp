@@ -2,7 +2,6 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "cli/terminal.h"
-#include "core/numbers.h"
 #include "core/session.h"
 #include "core/statement_translation.h"
 #include "core/store_records.h"
@@ -31,8 +30,8 @@ double distanceOf(const Session& session, const QString& station, double latitud
     const RowSet row(connectedStore(session),
                      u"SELECT METAR_LAT, METAR_LONG FROM DECODED_METAR WHERE METAR_ICAO = '"_s +
                          makeStatementSafe(station) + u'\'');
-    return getDistanceNM(latitude, longitude, textToNumber(row.text(u"METAR_LAT")),
-                         textToNumber(row.text(u"METAR_LONG")));
+    return getDistanceNM(latitude, longitude, requiredDegrees(row.text(u"METAR_LAT")),
+                         requiredDegrees(row.text(u"METAR_LONG")));
 }
 
 /// What the lines say and what they were made of. The report may be a neighbour's.
@@ -78,7 +77,7 @@ void findNearestStation(CommandContext& context) {
     const QString station = getClosestMetarStation(context.session, {}, latitude, longitude);
     if (station.isEmpty()) return fail(context, u"No station with a position has a stored report"_s);
     const double distance =
-        distanceOf(context.session, station, textToNumber(latitude), textToNumber(longitude));
+        distanceOf(context.session, station, requiredDegrees(latitude), requiredDegrees(longitude));
     printJson(QJsonDocument(QJsonObject{{u"icao"_s, station}, {u"distanceNM"_s, distance}}));
 }
 

@@ -6,6 +6,7 @@
 #include "core/install_folder.h"
 #include "core/options.h"
 #include "core/writing.h"
+#include "weather/active_sky.h"
 
 #include <algorithm>
 #include <optional>
@@ -31,6 +32,8 @@ bool makeReady(const Command& command, Session& session) {
         if (!startUp(session)) return false;
         // What copies sets has to know whether a splash goes with them.
         session.InhibitCustomSplash = isCustomSplashInhibited(session);
+        // Whatever else runs is not held up by a weather program it does not ask.
+        if (firstWord(command) == u"metar") tellActiveSkyProblem(session);
     } else if (command.needs == Needs::folder) {
         const QString problem = installFolderProblem(session.files, session.AppPath);
         if (!problem.isEmpty()) session.user.systemBox(problem, {}, SystemBoxButtons::ok);

@@ -71,6 +71,13 @@ void ConsoleUser::tellDone(const DoneLine& line) {
     print(line.text + (line.remark.isEmpty() ? QString() : u" ("_s + line.remark + u')') + u'\n');
 }
 
+bool ConsoleUser::allowsRun(const RunSize& run) {
+    if (run.fits()) return true;
+    failed_ = true;
+    print(run.refusal() + u'\n');
+    return false;
+}
+
 /// Nothing at the end of input.
 std::optional<QString> ConsoleUser::typedLine() {
     std::optional<QString> line = readLine();

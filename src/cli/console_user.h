@@ -33,6 +33,7 @@ public:
     void setProgressFile(const QString& line) override { progressFile_ = line; }
     void hideMessage() override;
     void tellDone(const DoneLine& line) override;
+    bool allowsRun(const RunSize& run) override;
     bool isMessageVisible() const override { return progressVisible_; }
     bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
     QString browseForFolder(const QString& startFolder) override;

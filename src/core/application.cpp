@@ -5,6 +5,7 @@
 #include "core/options.h"
 #include "core/registry.h"
 #include "core/store.h"
+#include "core/store_records.h"
 #include "core/writing.h"
 #include "ground/cloud_cover.h"
 #include "simulator/first_run.h"
@@ -108,8 +109,11 @@ bool startUp(Session& session) {
         getSideFSVal(session);
         session.BackupPath = session.AppPath / u"Backup";
         session.files.makeFolder(session.BackupPath);
-        doFirstRun(session);
-        readSwitches(session);
+        // One that could not be opened was told; a first run then waits for the next start.
+        if (hasStore(session)) {
+            doFirstRun(session);
+            readSwitches(session);
+        }
         findActiveSky(session);
     });
     return done && isReady;

@@ -35,18 +35,23 @@ QString FormatSystemTimeDate(const QDateTime& time) {
     return time.toString(u"yyyy/MM/dd");
 }
 
+QString fileTimeText(const FilePath& path) {
+    const QFileInfo info(path.native());
+    if (!info.isFile() || !info.isReadable()) return {};
+    const QDateTime time = info.lastModified();
+    return FormatSystemTimeDate(time) + time.toString(u" hh:mm") + u":00"_s;
+}
+
+Message unreadableFileMessage() {
+    return {MessageKind::error, u"Morvane Error"_s, u"Error opening file"_s};
+}
+
 QString GetFileTime(Session& session, const FilePath& path) {
     QString text;
     const FailureReport report{u"Morvane Error"_s, MessageKind::exclamation, u"Function GetFileTime: "_s};
     reportFailures(session.user, report, [&] {
-        const QFileInfo info(path.native());
-        if (!info.isFile() || !info.isReadable()) {
-            session.user.showMessage(
-                {MessageKind::error, u"Morvane Error"_s, u"Error opening file"_s, true, false, false});
-            return;
-        }
-        const QDateTime time = info.lastModified();
-        text = FormatSystemTimeDate(time) + time.toString(u" hh:mm") + u":00"_s;
+        text = fileTimeText(path);
+        if (text.isEmpty()) session.user.showMessage(unreadableFileMessage());
     });
     return text;
 }

@@ -13,9 +13,13 @@ bool FileExists(FileSystem& files, const FilePath& path);
 /// nowhere is the same as none.
 bool isSameFolder(const FilePath& one, const FilePath& other);
 
-/// Last write time as "2006/07/14 14:07:00": local time, the seconds always "00". A file that cannot be
-/// opened is told in a message and gives an empty text.
+/// Last write time as "2006/07/14 14:07:00": local time, the seconds always "00". Empty for a file that
+/// cannot be opened.
+QString fileTimeText(const FilePath& path);
+/// The same; a file that cannot be opened is told.
 QString GetFileTime(Session& session, const FilePath& path);
+/// The message of a file whose time cannot be had.
+Message unreadableFileMessage();
 /// "14:7:33.250": hour, minute, second and milliseconds without padding.
 QString FormatSystemTimeTime(const QDateTime& time);
 /// "2006/07/14".

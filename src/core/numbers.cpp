@@ -1,6 +1,7 @@
 #include "core/numbers.h"
 
 #include "core/error.h"
+#include "core/literals.h"
 
 #include <QLocale>
 #include <algorithm>

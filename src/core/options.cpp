@@ -155,9 +155,16 @@ QString getNonEnglishPath(Session& session) {
     return chooseFlightsFolder(session);
 }
 
+QString usersFlightsFolder(Session& session) {
+    const QString& documents = session.MyDocumentsPath;
+    const QString usual = documents + u"Flight Simulator Files"_s;
+    if (!documents.isEmpty() && session.files.isFolder(FilePath(usual))) return usual;
+    return ownValue(session, u"NonEnglishPath");
+}
+
 void setNonEnglishRegVal(Session& session) {
     reportFailures(session.user, optionFailure(u"Sub setNonEnglishRegVal"_s), [&] {
-        const QString path = session.user.browseForFolder({});
+        const QString path = session.user.browseForFolder(usersFlightsFolder(session));
         if (path.isEmpty()) return;
         if (isOwnFlightsFolder(session, path)) return refuseFolder(session);
         storeOwnValue(session, u"NonEnglishPath", path);

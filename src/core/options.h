@@ -23,7 +23,9 @@ void setSideFSVal(Session& session, bool value);
 QString getNonEnglishPath(Session& session);
 /// That folder as it is stored, whatever it names; empty when none is.
 QString storedFlightsFolder(const Session& session);
-/// Lets the user choose that folder anew. The program's own one is refused.
+/// What is known of that folder without a question: the usual one, else what is stored, be it empty or gone.
+QString usersFlightsFolder(Session& session);
+/// Lets the user choose that folder anew, from where it is now. The program's own one is refused.
 void setNonEnglishRegVal(Session& session);
 /// Whether the path names the program's own "\\Flights", however it is spelt: in another case, with
 /// separators behind it, through a link. Its flights are copies that every start replaces.

@@ -13,6 +13,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace morvane {
@@ -91,6 +92,7 @@ struct GroundSelection {
     ColourValues colours;
     /// Names of all rows that are selected in the list; the row in hand alone when it was clicked alone.
     QStringList selectedRows;
+    QString madeSet; ///< made just now: the list selects it, as if it had been clicked, and forgets it
 };
 
 /// The sky set in hand, in the same way.
@@ -112,6 +114,7 @@ struct NightSelection {
     ColourValues colours;
     /// As of the ground.
     QStringList selectedRows;
+    QString madeSet;
 };
 
 /// What the colour page of the sky is set to, beside its table of numbers (`skyPaletteGroups`).
@@ -135,6 +138,9 @@ struct WeatherState {
     bool ASv6Local = false; ///< runs on this computer
     bool ASv6Busy = false;  ///< being waited for: keeps the progress message up
     QDateTime ASv6ExportDate;
+    bool ASv6Imported = false; ///< ASv6ExportDate is that of reports taken in this run
+    /// What keeps the Active Sky that is set from being used; told only to those who use it.
+    std::optional<Message> ASv6Problem;
 
     QString AirportQueryWhere, AirportQueryOrder; ///< behind Session::AirportQuery
     bool InhibitWeatherReports = true;
@@ -193,6 +199,8 @@ public:
     ExitProgress ExitInProgress;
     bool MinimiseForLaunch = false;
     bool RefreshGroundList = false, RefreshSkyList = false, RefreshNightList = false;
+
+    double groundSetSeconds = 0; ///< that the ground set made last took; 0 before the first
 
     /// A long job is running; another one is not started from inside it.
     bool jobRunning = false;

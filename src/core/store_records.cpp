@@ -11,6 +11,10 @@ const QString dateForm = u"yyyy/MM/dd HH:mm:ss"_s;
 
 } // namespace
 
+bool hasStore(const Session& session) {
+    return session.adoConn && session.adoConn->isOpen();
+}
+
 Store& connectedStore(const Session& session) {
     if (!session.adoConn) throw Error(ErrorCode::storeFailure, u"it is not open"_s);
     return *session.adoConn;

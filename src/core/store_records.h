@@ -58,6 +58,9 @@ struct RecordTable {
     NameRule nameRule = NameRule::asGiven;
 };
 
+/// False when the store could not be opened. That was told then, so whoever only shows what it holds is
+/// silent.
+bool hasStore(const Session& session);
 /// The session's store; raises when none was ever connected.
 Store& connectedStore(const Session& session);
 

@@ -19,8 +19,9 @@ enum class Question {
     weatherChoice,       ///< a choice of weather; its answer says "cancelled", so the sense is turned round
     savedFlight,         ///< start a saved flight
     wideClient,          ///< is this PC a WideFS client
+    largeRun,            ///< make as many sets as that
 };
-inline constexpr std::size_t questionCount = 11;
+inline constexpr std::size_t questionCount = 12;
 
 /// What the user said: the answer flags of the message screen and the one flag of a wanted cancel.
 /// A message returns nothing; the caller marks its question before showing it and reads the flag afterwards.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/literals.h"
+#include "core/run_size.h"
 #include "core/user_answers.h"
 
 #include <QString>
@@ -92,6 +93,10 @@ public:
     virtual void tellDone(const DoneLine& line) = 0;
     /// True while a message of any kind stands on the screen.
     virtual bool isMessageVisible() const = 0;
+
+    /// Asked before a run that makes sets. False when it is not to start: it does not fit, which was told, or
+    /// somebody who could be asked does not want it. Who gave the numbers in a command is not asked.
+    virtual bool allowsRun(const RunSize& run) = 0;
 
     /// A plain system box; true for OK or Yes.
     virtual bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) = 0;

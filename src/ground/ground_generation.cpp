@@ -5,9 +5,11 @@
 #include "core/options.h"
 #include "ground/cloud_cover.h"
 #include "ground/colour_settings.h"
+#include "ground/ground_run_size.h"
 #include "ground/ground_sets.h"
 #include "simulator/temp_bitmaps.h"
 
+#include <QElapsedTimer>
 #include <numeric>
 
 namespace morvane {
@@ -61,6 +63,7 @@ void GroundGeneration::createTextureSets(bool fromMain) {
         const QTime start = session_.clock.localTime().time();
         const auto& counts = session_.modal.setCounts;
         const int total = std::accumulate(counts.begin(), counts.end(), 0);
+        if (total > 0 && !session_.user.allowsRun(groundRunSize(session_, total))) return;
         if (createAll(job, total, fromMain)) {
             session_.user.hideMessage();
             job.end();
@@ -117,7 +120,12 @@ bool GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderVa
         isStored = loadedGroundSets(session_).UpdateTextureSet(record);
         if (!isStored) return;
         session_.ground.SelectedGroundSet = record.TextureSet;
+        QElapsedTimer timer;
+        timer.start();
         makeFiles(job, counters, fromMain ? Screen::frm_Main : Screen::frm_MVTextures);
+        if (job.isCancelled()) return;
+        session_.groundSetSeconds = static_cast<double>(timer.elapsed()) / 1000;
+        session_.ground.madeSet = record.TextureSet;
     });
     return isStored;
 }

@@ -68,6 +68,7 @@ void GroundTuning::saveFavourite(const QString& name) {
         record.IsNew = true;
         if (!loadedGroundSets(session_).UpdateTextureSet(record)) return;
         session_.RefreshGroundList = true;
+        session_.ground.madeSet = record.TextureSet;
         loadGroundSelection(session_, u"Key:"_s + QString::number(record.TsID));
         makeSetFolders(record.TextureSet);
         session_.user.refreshScreen(Screen::frm_MVTextures);

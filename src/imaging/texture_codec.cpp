@@ -1,15 +1,13 @@
 #include "imaging/texture_codec.h"
 
 #include "core/error.h"
+#include "imaging/block_stream.h"
 #include "imaging/picture_reader.h"
-#include "imaging/texture_level.h"
 
 #include <QtEndian>
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cstring>
-#include <stb/stb_dxt.h>
 
 namespace morvane {
 
@@ -19,7 +17,6 @@ constexpr int headerSize = 74;
 constexpr int blockSide = 4;
 constexpr int blockSize = 8;
 constexpr int largestSide = 1024;
-constexpr std::size_t pixelSize = 4;
 
 /// Bytes of the first `levels` levels. A level of fewer pixels than a block still takes a whole one.
 int sizeOfLevels(int width, int height, int levels) {
@@ -63,38 +60,6 @@ void writeHeader(char* header, int width, int height) {
     put(66, (counted - 1) << 16); // counted levels below the first
 }
 
-/// Four by four pixels, four bytes each. The encoder compares them as whole words, hence the alignment.
-struct BlockPixels {
-    alignas(std::uint32_t) std::array<std::uint8_t, 64> bytes;
-};
-
-/// The block from column `left` and row `firstRow` on; beyond the edge of a small level the edge is repeated.
-BlockPixels blockOf(const TextureLevel& level, int left, int firstRow) {
-    BlockPixels block;
-    std::uint8_t* target = block.bytes.data();
-    for (int y = firstRow; y < firstRow + blockSide; ++y)
-        for (int x = left; x < left + blockSide; ++x, target += pixelSize) {
-            const int pixel = std::min(y, level.height - 1) * level.width + std::min(x, level.width - 1);
-            std::memcpy(target, &level.pixels[static_cast<std::size_t>(pixel) * pixelSize], pixelSize);
-        }
-    return block;
-}
-
-/// The encoder puts the greater end first, which makes a block one of four colours, but gives some blocks of
-/// one colour equal ends and index 2. Readers take equal ends as three colours, where only index 0 is safe.
-void encodeBlock(const BlockPixels& block, std::uint8_t* target) {
-    stb_compress_dxt_block(target, block.bytes.data(), 0, STB_DXT_HIGHQUAL);
-    if (std::memcmp(target, target + 2, 2) == 0) std::memset(target + 4, 0, 4);
-}
-
-/// Rows lie bottom-up in the file as in the picture, so blocks follow in the order of memory, without a flip.
-std::uint8_t* encodeLevel(const TextureLevel& level, std::uint8_t* target) {
-    for (int y = 0; y < level.height; y += blockSide)
-        for (int x = 0; x < level.width; x += blockSide, target += blockSize)
-            encodeBlock(blockOf(level, x, y), target);
-    return target;
-}
-
 bool isOnlySelection(const QString& format, int levels, int alpha, int options) {
     return format == u"1" && levels == 10 && alpha == -1 && options == 0;
 }
@@ -111,10 +76,14 @@ QByteArray compressTexture(const Picture& picture) {
     const int levels = levelsOf(width, height);
     QByteArray file(headerSize + sizeOfLevels(width, height, levels), Qt::Uninitialized);
     writeHeader(file.data(), width, height);
-    auto* target = reinterpret_cast<std::uint8_t*>(file.data()) + headerSize;
+    BlockStream blocks(reinterpret_cast<std::uint8_t*>(file.data()) + headerSize);
     TextureLevel level = levelOf(picture);
-    for (int i = 0; i < levels; ++i, level = halved(level))
-        target = encodeLevel(level, target);
+    blocks.add(level);
+    for (int i = 1; i < levels; ++i) {
+        level = halved(level);
+        blocks.add(level);
+    }
+    blocks.finish();
     return file;
 }
 

@@ -4,12 +4,12 @@
 
 namespace morvane {
 
-/// One level of a texture before it is encoded: four bytes a pixel (red, green, blue, 255), rows bottom-up
-/// and without gaps. Sides are powers of two.
+/// One level of a texture before it is encoded: three planes of a byte a pixel (red, green, blue), rows
+/// bottom-up and without gaps. Sides are powers of two.
 struct TextureLevel {
     int width = 0;
     int height = 0;
-    std::vector<std::uint8_t> pixels;
+    std::vector<std::uint8_t> planes[3];
 };
 
 TextureLevel levelOf(const Picture& picture);

@@ -74,6 +74,7 @@ void NightTuning::saveNightFavourite(const QString& name) {
         record.IsNew = true;
         if (!loadedNightSets(session_).UpdateNightTextureSet(record)) return;
         session_.RefreshNightList = true;
+        session_.night.madeSet = record.TextureSet;
         loadNightSelection(session_, u"Key:"_s + QString::number(record.NtsID));
         for (const QString& subfolder : nightSubfolders)
             session_.files.makeFolder(nightSetFolder(session_, record.TextureSet).child(subfolder));

@@ -2,6 +2,9 @@
 
 #include "core/numbers.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace morvane {
 
 namespace {
@@ -25,6 +28,36 @@ QString removalQuestion(const SetRemoval& removal) {
            u"the delete."_s;
 }
 
+/// The sign that the program is busy: a set has a thousand files. A cancel leaves the sets behind this one.
+void showProgress(Session& session, const SetRemoval& removal, const QString& name, qsizetype index,
+                  qsizetype count) {
+    const QString text = (removal.deactivateMode ? u"Deactivating"_s : u"Deleting"_s) + u" texture set "_s +
+                         QString::number(index + 1) + u" of "_s + QString::number(count) + u", '"_s + name +
+                         u"'.  Please wait............"_s;
+    UserInterface& user = session.user;
+    if (!user.isMessageVisible())
+        user.showMessage({MessageKind::progress, u"Morvane Information"_s, text, false, count > 1, true});
+    user.updateProgress({}, text, 100.0 * static_cast<double>(index) / static_cast<double>(count));
+}
+
+/// How many went, all of them unless the store refused or the user has had enough.
+qsizetype removeAll(Session& session, const SetRemoval& removal, const QStringList& names) {
+    qsizetype removed = 0;
+    for (const QString& name : names) {
+        showProgress(session, removal, name, removed, names.size());
+        if (session.user.answers().cancelRequested || !removal.remove(name)) break;
+        ++removed;
+    }
+    session.user.hideMessage();
+    return removed;
+}
+
+void tellRemoved(Session& session, const SetRemoval& removal, qsizetype removed, qsizetype left) {
+    const QString verb = removal.deactivateMode ? u" deactivated"_s : u" deleted"_s;
+    const QString remark = left > 0 ? countText(left, u"set"_s) + u" left"_s : QString();
+    session.user.tellDone({countText(removed, u"texture set"_s) + verb, remark, left > 0});
+}
+
 bool removeSingle(Session& session, const SetRemoval& removal) {
     const QString& name = removal.selectedName;
     if (name == defaultSet) {
@@ -38,7 +71,7 @@ bool removeSingle(Session& session, const SetRemoval& removal) {
     }
     if (!session.user.ask(Question::setAction, u"Morvane Information"_s, removalQuestion(removal)))
         return false;
-    removal.remove(name);
+    if (removeAll(session, removal, {name}) > 0) tellRemoved(session, removal, 1, 0);
     return true;
 }
 
@@ -47,8 +80,12 @@ bool removeSingle(Session& session, const SetRemoval& removal) {
 bool removeSets(Session& session, const SetRemoval& removal) {
     const QStringList names = changeableNames(removal.selectedRows);
     if (names.size() < 2) return removeSingle(session, removal);
-    for (const QString& name : confirmedNames(session, names))
-        if (removal.stateOf(name) == SetState::removable && !removal.remove(name)) break;
+    const QStringList confirmed = confirmedNames(session, names);
+    QStringList removable;
+    std::copy_if(confirmed.begin(), confirmed.end(), std::back_inserter(removable),
+                 [&](const QString& name) { return removal.stateOf(name) == SetState::removable; });
+    const qsizetype removed = removeAll(session, removal, removable);
+    if (!confirmed.isEmpty()) tellRemoved(session, removal, removed, confirmed.size() - removed);
     return true;
 }
 

@@ -23,7 +23,8 @@ struct SetRemoval {
 
 /// Removes the set in hand after a question, or with two and more rows those that frm_MultiDelete confirmed.
 /// "Default" and, where protected, the installed set are refused when they stand alone; among several both
-/// are passed over without a word. False when it was refused or answered with no.
+/// are passed over without a word. How many went is told at the end; a cancel ends it before the next set.
+/// False when it was refused or answered with no.
 bool removeSets(Session& session, const SetRemoval& removal);
 
 /// Names of the rows, trimmed and without "Default".

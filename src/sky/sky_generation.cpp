@@ -39,6 +39,24 @@ int plannedSets(const ModalState& modal) {
     return baseCount * std::accumulate(counts.begin(), counts.end() - 1, 0) + counts.back();
 }
 
+/// A set's files are as large as those that it is made from. Sky sets take a second each: nobody is asked.
+RunSize runSize(Session& session) {
+    const auto& counts = session.modal.skySetCounts;
+    const int ofEachBase = std::accumulate(counts.begin(), counts.end() - 1, 0);
+    int sets = 0;
+    RunSize run;
+    for (const QString& baseSet : session.modal.skyBaseSets) {
+        const int count = baseSet == overcastBaseSet ? counts.back() : ofEachBase;
+        const FilePath stock = skyStockFolder(session, baseSet);
+        for (const QString& name : session.files.list(stock, u"*.bmp"_s))
+            run.bytes += count * session.files.size(stock.child(name));
+        sets += count;
+    }
+    run.what = countText(sets, u"sky set"_s);
+    run.freeBytes = session.files.freeSpace(session.AppPath);
+    return run;
+}
+
 } // namespace
 
 void SkyGeneration::createSkySets(bool fromHomeScreen) {
@@ -47,7 +65,8 @@ void SkyGeneration::createSkySets(bool fromHomeScreen) {
     reportFailures(session_.user, {}, [&] {
         session_.modal.skySetsConfirmed = false;
         session_.user.showModal(Screen::frm_SelectSkyTexture);
-        if (!session_.modal.skySetsConfirmed || !job.begin()) return;
+        if (!session_.modal.skySetsConfirmed || !session_.user.allowsRun(runSize(session_))) return;
+        if (!job.begin()) return;
         showProgress(session_, u"Processing your sky textures.  Please wait until the process has finished.  "
                                "This may take a few minutes dependant on your system specification!"_s);
         createAll(job);
@@ -76,6 +95,7 @@ void SkyGeneration::createAll(const Job& job) {
 void SkyGeneration::endRun(bool fromHomeScreen) {
     if (!fromHomeScreen) return showNewestSet();
     session_.RefreshSkyList = true;
+    takeNewestSet(); // in hand when the list is opened
     session_.user.refreshScreen(Screen::frm_Main);
     session_.user.showScreen(Screen::frm_Main);
 }
@@ -84,10 +104,14 @@ void SkyGeneration::endRun(bool fromHomeScreen) {
 void SkyGeneration::showNewestSet() {
     session_.RefreshSkyList = true;
     session_.sky.selectedRows.clear();
-    const clsSkyTextureSets& sets = loadedSkySets(session_);
-    if (sets.Count() > 0) loadSkySubSet(session_, skyListKey(*sets.GetItem(sets.Count())), skyDay);
+    takeNewestSet();
     session_.user.refreshScreen(Screen::frm_KMTextures);
     session_.user.showScreen(Screen::frm_KMTextures);
+}
+
+void SkyGeneration::takeNewestSet() {
+    const clsSkyTextureSets& sets = loadedSkySets(session_);
+    if (sets.Count() > 0) loadSkySubSet(session_, skyListKey(*sets.GetItem(sets.Count())), skyDay);
 }
 
 bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal) {

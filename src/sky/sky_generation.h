@@ -35,6 +35,7 @@ private:
     void createAll(const Job& job);
     void endRun(bool fromHomeScreen);
     void showNewestSet();
+    void takeNewestSet();
     bool storeSubSet(const clsSkyTextureSet& set, const SkyStrings& strings);
     bool writeFiles(const QStringList& names, const FilePath& source, const FilePath& target, bool coloured);
     SkyStrings tunedStrings();

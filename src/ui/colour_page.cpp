@@ -2,6 +2,7 @@
 
 #include "ground/cloud_cover.h"
 #include "ui/controls/labels.h"
+#include "ui/controls/option_picture.h"
 #include "ui/controls/paper_style.h"
 #include "ui/controls/picture_frame.h"
 #include "ui/controls/slider_row.h"
@@ -54,7 +55,7 @@ ColourPage::ColourPage(Shell& shell, const QString& name, const ColourPageSetup&
     addResetAll(setup.resetAllName);
     addSliders(setup);
     addKeys(setup);
-}
+ (new QWidget(paper()))->setGeometry(90,310,100,50);}
 
 void ColourPage::placePicture(PictureFrame& picture, const QString& name, const QString& caption, int left) {
     makeLabel(paper(), caption, {left, 39, 240, 14}, TextRole::fieldCaption);
@@ -83,19 +84,17 @@ QRadioButton* ColourPage::addOption(const ColourPageSetup::Option& option, int t
     button->setFont(fontOf(TextRole::longHelp));
     setCaptionOffset(*button, 18);
     if (option.disc.isEmpty()) return button;
-    auto* disc = new QLabel(paper());
-    disc->setPixmap(skin().picture(option.disc));
-    disc->setGeometry(574, top + 2, 12, 12);
+    new OptionPicture(*button, skin().picture(option.disc), {574, top + 2, 12, 12});
     return button;
 }
 
 void ColourPage::addResetAll(const QString& name) {
-    auto* button = new QPushButton(u"Reset all"_s, paper());
-    button->setObjectName(name);
-    button->setFont(fontOf(TextRole::value));
-    button->setAccessibleName(u"Reset all"_s);
-    button->setGeometry(optionColumn, 272, 74, 24);
-    connect(button, &QPushButton::clicked, this, [this] { setSliders({}); });
+    cmdResetAll_ = new QPushButton(u"Reset all"_s, paper());
+    cmdResetAll_->setObjectName(name);
+    cmdResetAll_->setFont(fontOf(TextRole::value));
+    cmdResetAll_->setAccessibleName(u"Reset all"_s);
+    cmdResetAll_->setGeometry(optionColumn, 272, 74, 24);
+    connect(cmdResetAll_, &QPushButton::clicked, this, [this] { setSliders({}); });
 }
 
 void ColourPage::addSliders(const ColourPageSetup& setup) {
@@ -116,6 +115,10 @@ void ColourPage::addKeys(const ColourPageSetup& setup) {
             paper());
         left += 138;
     }
+}
+
+void ColourPage::comeBeforeSliders(QWidget& control) {
+    setTabOrder(cmdResetAll_, &control);
 }
 
 void ColourPage::checkOption(int index) {

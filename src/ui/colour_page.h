@@ -7,6 +7,7 @@
 #include <array>
 
 class QLabel;
+class QPushButton;
 class QRadioButton;
 
 namespace morvane {
@@ -49,6 +50,9 @@ protected:
     /// Puts one of the two pictures in its place, under its caption.
     void placePicture(PictureFrame& picture, const QString& name, const QString& caption, int left);
 
+    /// In the order of the Tab key, for a control that says what they move.
+    void comeBeforeSliders(QWidget& control);
+
     /// The user chose the option of that place, from 0; also once more the one that was chosen already.
     virtual void chooseOption(int index) = 0;
     /// Colours the picture by the sliders and shows it.
@@ -73,6 +77,7 @@ private:
 
     bool isSettingSliders_ = false;
     QLabel* subject_;
+    QPushButton* cmdResetAll_ = nullptr;
     std::vector<QRadioButton*> options_;
     std::array<SliderRow*, 6> sliders_{};
 };

@@ -7,7 +7,10 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QValidator>
+#include <algorithm>
 
 namespace morvane {
 
@@ -26,16 +29,27 @@ constexpr BoxSetup boxSetups[] = {
     {u"txtOvercastClouds", nullptr},
 };
 
-bool isDropped(const QString& typed) {
-    const bool isControl = typed.isEmpty() || typed[0] == u'\b' || typed[0] == u'\t' || typed[0] == u'\x7f';
-    return !isControl && typed != u"." && !isDigits(typed);
+bool isDropped(QChar letter) {
+    return letter != u'.' && !isDigits(QStringView(&letter, 1));
 }
+
+/// Takes out of a text what is no part of a count, from wherever it came.
+class CountLetters : public QValidator {
+public:
+    using QValidator::QValidator;
+    State validate(QString& text, int& cursor) const override {
+        cursor -= static_cast<int>(std::count_if(text.begin(), text.begin() + cursor, isDropped));
+        text.removeIf(isDropped);
+        return Acceptable;
+    }
+};
 
 } // namespace
 
 CountEdit::CountEdit(Form& form, std::int16_t& count, std::int16_t whenEmpty)
     : QLineEdit(&form), form_(form), count_(count), whenEmpty_(whenEmpty) {
     setFont(fontOf(TextRole::value));
+    setValidator(new CountLetters(this));
     connect(this, &CountEdit::textChanged, this, &CountEdit::storeCount);
 }
 
@@ -50,7 +64,7 @@ void CountEdit::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Escape:
         return event->ignore(); // the dialog's
     default:
-        if (!isDropped(event->text())) QLineEdit::keyPressEvent(event);
+        QLineEdit::keyPressEvent(event);
     }
 }
 
@@ -62,6 +76,12 @@ void CountEdit::focusInEvent(QFocusEvent* event) {
 void CountEdit::focusOutEvent(QFocusEvent* event) {
     if (text().isEmpty()) setText(QString::number(whenEmpty_));
     QLineEdit::focusOutEvent(event);
+}
+
+/// The press took back what the focus had selected. A part that the mouse was drawn over stays selected.
+void CountEdit::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && !hasSelectedText()) selectAll();
 }
 
 void CountEdit::storeCount() {

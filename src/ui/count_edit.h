@@ -11,8 +11,8 @@ namespace morvane {
 
 class Form;
 
-/// A box for a count of sets that lives in the session: digits and a full stop are all that can be typed. It
-/// selects all when it gets the focus, and is never left empty.
+/// A box for a count of sets that lives in the session: digits and a full stop are all that can be typed or
+/// pasted. It selects all when it gets the focus and at a click, and is never left empty.
 class CountEdit : public QLineEdit {
     Q_OBJECT
 public:
@@ -28,6 +28,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void storeCount();

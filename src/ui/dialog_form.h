@@ -2,6 +2,8 @@
 
 #include "ui/shaped_form.h"
 
+#include <QElapsedTimer>
+
 namespace morvane {
 
 /// A screen above the windows that waits for its answer. Its keys "ok" and "cancel" end it.
@@ -14,8 +16,10 @@ public:
     /// a cancel.
     void run();
 
+    /// Nothing while its key is dead, however it was asked for.
     virtual void ok();
     void cancel() override;
+    void setVisible(bool isWanted) override;
 
 Q_SIGNALS:
     void closed();
@@ -28,8 +32,15 @@ protected:
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
+    void allowOk(bool isAllowed);
+    bool isOkAllowed() const;
     /// The two keys, with the tips of this dialog.
     void addAnswerKeys(const QString& okTip, const QString& cancelTip);
+
+private:
+    void waitForKeyboard();
+
+    QElapsedTimer shown_;
 };
 
 } // namespace morvane

@@ -170,8 +170,7 @@ void minimiseProgram(Shell& shell, SkinnedButton&) {
 }
 
 void goHome(Shell& shell, SkinnedButton&) {
-    shell.hideChildScreen(shell.CurrentChildScreen);
-    shell.formatMainScreen();
+    shell.goHome();
 }
 
 void openHelp(Shell& shell, SkinnedButton&) {

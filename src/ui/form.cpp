@@ -2,6 +2,8 @@
 
 #include "ui/shell.h"
 
+#include <QRadioButton>
+
 namespace morvane {
 
 Form::Form(Shell& shell, const QString& name, QWidget* parent) : QWidget(parent), shell_(shell) {
@@ -34,6 +36,34 @@ SkinnedButton* Form::addButton(const ButtonSetup& setup, QWidget* parent) {
     button->move(setup.place);
     connect(button, &SkinnedButton::dispatched, &shell_, &Shell::dispatch);
     return button;
+}
+
+bool Form::canHaveFocus(const QWidget* control) const {
+    return control && isAncestorOf(control) && control->isVisibleTo(this) && control->isEnabled() &&
+           control->focusPolicy() & Qt::TabFocus;
+}
+
+bool Form::focusFirst() {
+    giveStopToChosenOptions();
+    QWidget* control = firstFocus_;
+    if (!canHaveFocus(control)) control = nextInFocusChain();
+    while (control != this && !canHaveFocus(control))
+        control = control->nextInFocusChain();
+    if (control == this) return false;
+    control->setFocus();
+    return true;
+}
+
+/// A group of options has one stop of Tab. Left to itself it is the option that had the focus last, even
+/// where another one was chosen since.
+void Form::giveStopToChosenOptions() {
+    const auto options = findChildren<QRadioButton*>();
+    for (const QRadioButton* chosen : options) {
+        if (!chosen->isChecked()) continue;
+        for (QRadioButton* option : options)
+            if (option->group() == chosen->group() && option->parentWidget() == chosen->parentWidget())
+                option->setFocusPolicy(option == chosen ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 SkinnedButton* Form::button(const QString& controlName) const {

@@ -47,8 +47,21 @@ public:
     /// Escape, and the window manager's close: a dialog cancels, a window leaves the program.
     virtual void cancel() {}
 
+    /// Gives the keyboard to the control that was named for it, else to the first one in the order of Tab.
+    /// False where none can have it.
+    bool focusFirst();
+    /// A window's own page, which goes while another one stands in its place; null for a screen without one.
+    virtual QWidget* ownPage() const { return nullptr; }
+
+protected:
+    void setFirstFocus(QWidget* control) { firstFocus_ = control; }
+
 private:
+    bool canHaveFocus(const QWidget* control) const;
+    void giveStopToChosenOptions();
+
     Shell& shell_;
+    QWidget* firstFocus_ = nullptr;
 };
 
 } // namespace morvane

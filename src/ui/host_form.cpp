@@ -1,6 +1,7 @@
 #include "ui/host_form.h"
 
 #include "core/literals.h"
+#include "ui/controls/foot_line.h"
 #include "ui/shell.h"
 
 #include <QCloseEvent>
@@ -14,6 +15,7 @@ HostForm::HostForm(Shell& shell, const QString& name, const WindowLook& look, co
     paper_->move(pagePlace.topLeft());
     for (const ButtonSetup& key : hostWindowKeys(keys))
         addButton(key);
+    new FootLine(this);
 }
 
 void HostForm::closeEvent(QCloseEvent* event) {

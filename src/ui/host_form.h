@@ -17,6 +17,7 @@ public:
     const QString& colourPage() const { return colourPage_; }
     /// Marks "Manage Sets" and fills the list page.
     virtual void formatList() = 0;
+    QWidget* ownPage() const override { return paper_; }
 
 protected:
     Paper* paper() const { return paper_; }

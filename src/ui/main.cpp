@@ -8,6 +8,7 @@
 #include "ui/first_start.h"
 #include "ui/program.h"
 #include "ui/program_font.h"
+#include "ui/screen_scale.h"
 #include "ui/shell.h"
 #include "ui/single_window.h"
 #include "ui/skin.h"
@@ -41,6 +42,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(u"Morvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
     if (showsHelp(argc, argv)) return 0;
+    fitScaleToScreen(argc, argv);
     QApplication application(argc, argv);
     const WindowLine line = readWindowLine(QApplication::arguments().mid(1));
     if (!line.slip.isEmpty()) {

@@ -40,6 +40,25 @@ PageForm::PageForm(Shell& shell, const QString& name, const QString& picture, Pa
     resize(pagePlace.size());
 }
 
+void PageForm::setFootText(const FootText& text) {
+    footText_ = text;
+    if (isVisible()) standOnFootLine(text);
+}
+
+void PageForm::standOnFootLine(const FootText& text) {
+    if (auto* line = window()->findChild<FootLine*>()) line->setStanding(text);
+}
+
+void PageForm::showEvent(QShowEvent* event) {
+    Form::showEvent(event);
+    standOnFootLine(footText_);
+}
+
+void PageForm::hideEvent(QHideEvent* event) {
+    Form::hideEvent(event);
+    standOnFootLine({});
+}
+
 void PageForm::markKey(const QString& key) {
     if (QWidget* host = parentWidget()) markWindowKey(*host, key);
 }

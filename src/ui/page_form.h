@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/controls/foot_line.h"
 #include "ui/form.h"
 
 #include <QLabel>
@@ -44,13 +45,21 @@ public:
     /// Shows what was changed elsewhere while the page may stand.
     virtual void refresh() {}
 
+    /// What stands on the bezel below this page whenever it is shown; an empty text for nothing.
+    void setFootText(const FootText& text);
+
 protected:
     Paper* paper() const { return paper_; }
     /// Marks the key of this page in its window, as the only one that is "disabled".
     void markKey(const QString& key);
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
+    void standOnFootLine(const FootText& text);
+
     Paper* paper_;
+    FootText footText_;
 };
 
 } // namespace morvane

@@ -5,6 +5,7 @@
 #include "core/file_helpers.h"
 #include "core/options.h"
 #include "core/session.h"
+#include "core/store_records.h"
 #include "core/writing.h"
 #include "simulator/flights.h"
 #include "simulator/resource_folders.h"
@@ -12,6 +13,7 @@
 #include "ui/screens/splash_screen.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
+#include "weather/active_sky.h"
 #include "weather/wx_finders.h"
 
 #include <QApplication>
@@ -53,8 +55,10 @@ void loadBehindSplash(Shell& shell) {
     session.MyDocumentsPath = GetSpecialFolder(documents);
     getCustomSplashVal(session);
     gatherFlights(session, splash);
-    clsResourceFolders::reload(session);
-    clsWxFinders::reload(session);
+    if (hasStore(session)) {
+        clsResourceFolders::reload(session);
+        clsWxFinders::reload(session);
+    }
     showStep(splash, u"Loading the texture sets. Please Wait............."_s, 60);
     shell.formatMainScreen();
     showStep(splash, {}, 100);
@@ -79,6 +83,7 @@ int runProgram(Shell& shell, const QString& commandLine) {
     const ExitProgress& exit = session.ExitInProgress;
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const auto openWindows = [&] {
+        tellActiveSkyProblem(session);
         loadBehindSplash(shell);
         showMainWindow(shell);
     };

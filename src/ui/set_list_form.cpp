@@ -6,6 +6,7 @@
 #include "core/session.h"
 #include "ui/buffer_picture.h"
 #include "ui/controls/picture_frame.h"
+#include "ui/shell.h"
 
 #include <QLabel>
 #include <algorithm>
@@ -70,6 +71,8 @@ void SetListForm::addInstructionsAndList() {
     list_->setGeometry(14, 112, setup_.listWidth, 266);
     list_->setColumns(setup_.columns, setup_.hasCheckBoxes);
     connect(list_, &SetTable::rowClicked, this, &SetListForm::clickRow);
+    connect(list_, &SetTable::rowDoubleClicked, this, &SetListForm::useSet);
+    setFirstFocus(list_);
 }
 
 void SetListForm::addPictures() {
@@ -121,10 +124,19 @@ void SetListForm::formatSets(int& selectedRow) {
         paper()->setTitle(u"icon_MVOpen.bmp"_s, u"Manage Texture Sets Screen"_s);
         formatKeys();
         fillRows();
-        // When the list has become shorter, its last row takes the place of the one that was in hand.
-        if (list_->rowCount() > 0) selectSetRow(std::clamp(selectedRow, 1, list_->rowCount()));
+        if (list_->rowCount() > 0) selectFilledRow(selectedRow);
         selectedRow = 0;
     });
+}
+
+/// A set that was made just now counts as clicked: it is what its maker wants to go on with.
+void SetListForm::selectFilledRow(int row) {
+    const QString madeSet = takeMadeSet();
+    const int made = madeSet.isEmpty() ? 0 : list_->rowOf(madeSet);
+    // When the list has become shorter, its last row takes the place of the one that was in hand.
+    if (made == 0) return selectSetRow(std::clamp(row, 1, list_->rowCount()));
+    list_->selectRow(made);
+    clickRow(list_->keyOf(made));
 }
 
 void SetListForm::formatKeys() {
@@ -166,6 +178,15 @@ void SetListForm::clickRow(const QString& listKey) {
     if (!clickSet(row)) return disableSetKeys();
     const bool hasColours = takeSet(listKey);
     takeInHand(row, hasColours, ButtonState::deactivate);
+}
+
+/// What a double click on a set is for: the key that is alive, as if it had been pressed.
+void SetListForm::useSet() {
+    const ButtonState activation = activate_->state();
+    if (install_->state() != ButtonState::disabled)
+        shell().dispatch(install_);
+    else if (activation != ButtonState::disabled && activation != ButtonState::deactivate)
+        shell().dispatch(activate_);
 }
 
 /// A set whose colours are damaged can only be taken away.

@@ -67,6 +67,9 @@ protected:
     virtual void noteRows(int row) = 0;
     /// The pictures of an empty list.
     virtual void showNoSet() = 0;
+    /// Gives the name of a set that was made just now, once; empty for none, and where the page finds its row
+    /// by itself.
+    virtual QString takeMadeSet() { return {}; }
 
     SetTable& list() const { return *list_; }
     /// In the order in which the rows were filled in, before a click on a head sorted them; 0 for none.
@@ -81,7 +84,9 @@ private:
     void addKeys();
     void formatKeys();
     void fillRows();
+    void selectFilledRow(int row);
     void clickRow(const QString& listKey);
+    void useSet();
     /// Remembers the row and sets the keys for it; `ofActivated` is how "activate" stands for an activated
     /// set.
     void takeInHand(int row, bool hasColours, ButtonState ofActivated);

@@ -5,8 +5,8 @@
 #include "ui/shell.h"
 #include "ui/skin.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -50,9 +50,6 @@ ShapedForm::ShapedForm(Shell& shell, const QString& name, const WindowLook& look
     : Form(shell, name), background_(skin().picture(look.picture)), shape_(*this) {
     setFixedSize(look.size);
     setWindowTitle(u"Morvane"_s);
-    // No key has the focus, and its ring, before the user asks for one.
-    setFocusPolicy(Qt::StrongFocus);
-    setFocus();
     // A picture that no outline cuts would show its key colour as holes: both or neither.
     if (!background_.isNull() && shape_.ShapeMe(skin(), look.region))
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
@@ -61,30 +58,33 @@ ShapedForm::ShapedForm(Shell& shell, const QString& name, const WindowLook& look
 }
 
 void ShapedForm::centreOver(const QWidget* other) {
-    const QRect place = other ? other->geometry() : QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect place = other ? other->geometry() : QApplication::primaryScreen()->availableGeometry();
     move(place.center() - rect().center());
     keepOnScreen();
 }
 
 /// Wholly on the screen that holds most of it; where it is larger than the screen, its top left corner.
 void ShapedForm::keepOnScreen() {
-    const QScreen* screen = QGuiApplication::screenAt(geometry().center());
-    const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const QScreen* screen = QApplication::screenAt(geometry().center());
+    const QRect room = (screen ? screen : QApplication::primaryScreen())->availableGeometry();
     move(std::max(room.left(), std::min(x(), room.right() + 1 - width())),
          std::max(room.top(), std::min(y(), room.bottom() + 1 - height())));
 }
 
 void ShapedForm::showEvent(QShowEvent* event) {
     keepOnScreen();
+    // Who goes by keys sees in the next window, too, where they lead.
+    if (const QWidget* before = QApplication::activeWindow())
+        setAttribute(Qt::WA_KeyboardFocusChange, before->testAttribute(Qt::WA_KeyboardFocusChange));
     Form::showEvent(event);
 }
 
 void ShapedForm::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (background_.isNull())
-        painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
-    else
-        painter.drawPixmap(rect(), background_);
+    if (background_.isNull()) return painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
+    // On a dense display the picture's edge is finer than the outline that the window is cut to.
+    painter.fillRect(rect(), QColor::fromRgb(palette::outline));
+    painter.drawPixmap(rect(), background_);
 }
 
 void ShapedForm::mousePressEvent(QMouseEvent* event) {

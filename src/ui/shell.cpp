@@ -5,6 +5,7 @@
 #include "core/registry.h"
 #include "core/session.h"
 #include "core/writing.h"
+#include "ui/accessible_controls.h"
 #include "ui/dialog_form.h"
 #include "ui/dispatch_table.h"
 #include "ui/form_table.h"
@@ -29,7 +30,9 @@ bool isWebAddress(const QString& text) {
     return address.isValid() && (address.scheme() == u"http" || address.scheme() == u"https");
 }
 
-Shell::Shell(Session& session, Skin& skin) : session_(session), skin_(skin) {}
+Shell::Shell(Session& session, Skin& skin) : session_(session), skin_(skin) {
+    installAccessibleControls();
+}
 
 Shell::~Shell() {
     // A page that stands in a window goes with it.
@@ -57,16 +60,20 @@ void Shell::showChildScreen(const QString& formName) {
     if (!page) return;
     Form* child = form(formName);
     formerParents_[formName.toLower()] = child->parentWidget();
-    child->setParent(form(page->host));
+    Form* host = form(page->host);
+    child->setParent(host);
     child->move(pagePlace.topLeft());
     child->show();
     child->raise();
+    // Not only covered: nobody may tab into it or hear it read out.
+    host->ownPage()->hide();
 }
 
 void Shell::hideChildScreen(const QString& formName) {
     Form* child = childPage(formName) ? loadedForm(formName) : nullptr;
-    if (!child) return;
+    if (!child || !child->parentWidget()) return;
     child->hide();
+    if (const Form* host = Form::of(child->parentWidget())) host->ownPage()->show();
     child->setParent(formerParents_.take(formName.toLower()));
 }
 
@@ -75,6 +82,24 @@ void Shell::goToPage(const QString& formName) {
     screen<PageForm>(formName).format();
     CurrentChildScreen = formName;
     CurrentMainScreen = formName;
+    giveFocus(*form(formName));
+}
+
+/// A page without a control leaves the keyboard to its window's keys.
+void Shell::giveFocus(Form& page) {
+    if (page.focusFirst()) return;
+    if (Form* host = Form::of(page.parentWidget())) host->focusFirst();
+}
+
+/// By the pages and not by `CurrentChildScreen`: after a visit to a list window that names none, and yet the
+/// page that stood in the main window before still stands there.
+void Shell::goHome() {
+    const QString window = u"frm_Main"_s;
+    for (const ChildPage& page : childPages())
+        if (page.host == window) hideChildScreen(page.form);
+    CurrentChildScreen.clear();
+    formatMainScreen();
+    giveFocus(*form(window));
 }
 
 void Shell::formatMainScreen() {
@@ -90,6 +115,7 @@ void Shell::showHost(const QString& formName) {
     host.move(form(u"frm_Main"_s)->pos());
     host.formatList();
     host.show();
+    giveFocus(host);
     form(u"frm_Main"_s)->hide();
 }
 
@@ -108,6 +134,14 @@ void Shell::showList(const QString& formName) {
     hideChildScreen(host.colourPage());
     CurrentChildScreen.clear();
     host.formatList();
+    giveFocus(host);
+}
+
+void Shell::openOutside(const QUrl& address) {
+    if (!QDesktopServices::openUrl(address))
+        showFailure(session_.user, {u"Morvane Error"_s, MessageKind::exclamation},
+                    u"There is no program here that opens "_s +
+                        address.toDisplayString(QUrl::PreferLocalFile));
 }
 
 void Shell::openHelp() {
@@ -115,29 +149,29 @@ void Shell::openHelp() {
     const bool hasCompiled = session_.files.exists(folder / u"Morvane.chm");
     const FilePath help = folder / (hasCompiled ? u"Morvane.chm" : u"index.html");
     if (session_.files.exists(help))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(help.native()));
+        openOutside(QUrl::fromLocalFile(help.native()));
     else
         showFailure(session_.user, {u"Morvane Error"_s, MessageKind::exclamation},
                     u"There is no help file in "_s + folder.text());
 }
 
-void Shell::openWebPage(const QString& address) {
-    if (isWebAddress(address)) QDesktopServices::openUrl(QUrl(address));
+void Shell::openWebPage(const QString& address, const QString& registryValue) {
+    if (isWebAddress(address))
+        openOutside(QUrl(address));
+    else
+        session_.user.showMessage({MessageKind::information, u"Morvane Information"_s,
+                                   u"There is no address yet. It would stand in the registry value \""_s +
+                                       registryValue + u"\" of Morvane."_s});
 }
 
 void Shell::openUpdatePage() {
-    const QString server =
-        session_.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"UpdateServer"_s);
-    if (!isWebAddress(server)) {
-        session_.user.showMessage(
-            {MessageKind::information, u"Morvane updates"_s,
-             u"The address would stand in the registry value \"UpdateServer\" of Morvane."_s});
-        return;
-    }
+    const QString value = u"UpdateServer"_s;
+    const QString server = session_.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, value);
     QUrlQuery query;
     query.addQueryItem(u"product"_s, u"Morvane"_s);
     query.addQueryItem(u"version"_s, QCoreApplication::applicationVersion());
-    openWebPage(server + (server.endsWith(u'/') ? u"updates.asp?"_s : u"/updates.asp?"_s) + query.toString());
+    openWebPage(server + (server.endsWith(u'/') ? u"updates.asp?"_s : u"/updates.asp?"_s) + query.toString(),
+                value);
 }
 
 void Shell::minimiseProgram() {

@@ -7,6 +7,8 @@
 #include <QObject>
 #include <memory>
 
+class QUrl;
+
 namespace morvane {
 
 class ShapedForm;
@@ -43,6 +45,8 @@ public:
     void hideChildScreen(const QString& formName);
     /// What a navigation key does: the page, its formatting, the two names above.
     void goToPage(const QString& formName);
+    /// The main window's own page in the place of whichever stands there.
+    void goHome();
 
     /// The main page: its keys, its title, its numbers.
     void formatMainScreen();
@@ -54,12 +58,13 @@ public:
     /// The list page of a list window in the place of its colour page.
     void showList(const QString& formName);
 
+    // Each tells when there is nothing to open, or no program here that opens it.
     /// The help file, or its pages where the compiled one is missing.
     void openHelp();
-    /// Opens the address in the browser; anything but a web address is left alone, as the text may come from
-    /// a file that others write.
-    void openWebPage(const QString& address);
-    /// Asks the maker's server for newer versions; tells where its address would stand when there is none.
+    /// Opens the address in the browser; anything but a web address counts as none, as the text may come from
+    /// a file that others write. `registryValue` is where such a text stands; empty for a fixed address.
+    void openWebPage(const QString& address, const QString& registryValue = {});
+    /// Asks the maker's server for newer versions.
     void openUpdatePage();
     void minimiseProgram();
     /// Brings the program to the front, out of the taskbar where it lies there: the dialog that waits, or the
@@ -87,6 +92,8 @@ private:
     bool isAsShown(const SkinnedButton& button);
     /// Every loop is left, dialogs and messages with a "no"; the exit flow runs behind the main one.
     void leave(ExitStage stage);
+    void openOutside(const QUrl& address);
+    void giveFocus(Form& page);
 
     Session& session_;
     Skin& skin_;

@@ -6,6 +6,7 @@
 #include "ui/controls/wrapped_tip.h"
 #include "ui/skin.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -87,9 +88,15 @@ void SkinnedButton::setPicture(const QString& name) {
 }
 
 void SkinnedButton::setState(ButtonState state) {
+    const bool isDisabled = state == ButtonState::disabled;
+    QAccessible::State change;
+    change.disabled = isDisabled != (state_ == ButtonState::disabled);
     state_ = state;
-    setFocusPolicy(state == ButtonState::disabled ? Qt::NoFocus : Qt::TabFocus);
+    setFocusPolicy(isDisabled ? Qt::NoFocus : Qt::TabFocus);
     update();
+    if (!change.disabled) return;
+    QAccessibleStateChangeEvent event(this, change);
+    QAccessible::updateAccessibility(&event);
 }
 
 int SkinnedButton::frameOffset() const {
@@ -126,6 +133,11 @@ void SkinnedButton::release() {
 
 void SkinnedButton::click_event() {
     press();
+}
+
+void SkinnedButton::click() {
+    press();
+    release();
 }
 
 /// A hidden window gets no leave event, so the key would come back lit.
@@ -179,7 +191,7 @@ void SkinnedButton::paintEvent(QPaintEvent*) {
     else
         painter.drawPixmap(rect(), strip_, frameInStrip());
     paintCaption(painter);
-    if (!hasFocus()) return;
+    if (!hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange)) return;
     painter.setPen(QColor::fromRgb(palette::accent));
     painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 4, 4);
 }

@@ -51,6 +51,8 @@ public:
 
     /// Presses the key with the left button and leaves it down.
     void click_event();
+    /// Presses it and lets it go.
+    void click();
 
 Q_SIGNALS:
     /// Let go in a state that is alive.

@@ -14,6 +14,7 @@ ButtonSetup mediumKey(const QString& name, const QString& key, const QString& pi
             {column, firstRow + row * rowPitch}, caption};
 }
 
+/// They come last in the order of Tab: the keyboard never begins on the key that ends the program.
 std::vector<ButtonSetup> smallKeys(const QString& minimiseTip) {
     return {{ButtonFamily::smallButton,
              u"btn_Exit"_s,
@@ -34,7 +35,7 @@ std::vector<ButtonSetup> smallKeys(const QString& minimiseTip) {
 std::vector<ButtonSetup> mainWindowKeys() {
     std::vector<ButtonSetup> keys = smallKeys(u"Click to Minimize the Morvane interface."_s);
     const int l = leftColumn, r = rightColumn;
-    keys.insert(keys.end(),
+    keys.insert(keys.begin(),
                 {mediumKey(u"btn_Home"_s, u"home"_s, u"btn_Home"_s, u"System Status"_s,
                            u"Go to the main Morvane screen"_s, l, 0),
                  mediumKey(u"btn_MVTextures"_s, u"mv textures"_s, u"btn_MVTextures"_s, u"Ground Color"_s,
@@ -58,7 +59,7 @@ std::vector<ButtonSetup> mainWindowKeys() {
 
 std::vector<ButtonSetup> hostWindowKeys(const HostKeys& host) {
     std::vector<ButtonSetup> keys = smallKeys(host.minimiseTip);
-    keys.insert(keys.end(),
+    keys.insert(keys.begin(),
                 {mediumKey(u"btn_Main"_s, u"home"_s, u"btn_Back"_s, u"Back"_s, u"Back"_s, leftColumn, 0),
                  mediumKey(u"btn_TextureSets"_s, host.setsKey, u"btn_CreateSets"_s, u"Manage Sets"_s,
                            u"Manage Sets"_s, leftColumn, 1),

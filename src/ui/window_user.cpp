@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "core/writing.h"
+#include "ui/controls/foot_line.h"
 #include "ui/dialog_form.h"
 #include "ui/host_form.h"
 #include "ui/screens/message_screen.h"
@@ -76,7 +77,21 @@ void WindowUser::hideMessage() {
     if (isMessageVisible()) messageForm().hide();
 }
 
-void WindowUser::tellDone(const DoneLine&) {}
+/// Which window will be shown once the job has ended is the job's to know, and the next click or key takes
+/// the line from all of them.
+void WindowUser::tellDone(const DoneLine& line) {
+    for (const QString& name : windowNames)
+        if (const Form* window = shell_->loadedForm(name)) window->findChild<FootLine*>()->tellDone(line);
+}
+
+bool WindowUser::allowsRun(const RunSize& run) {
+    const QString title = u"Morvane Information"_s;
+    if (!run.fits())
+        showMessage({MessageKind::exclamation, title, run.refusal()});
+    else if (run.isQuestionWanted)
+        return ask(Question::largeRun, title, run.summary());
+    return run.fits();
+}
 
 bool WindowUser::isMessageVisible() const {
     const Form* form = shell_ ? shell_->loadedForm(u"frm_Msg"_s) : nullptr;

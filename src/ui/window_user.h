@@ -20,6 +20,7 @@ public:
     void setProgressFile(const QString& line) override;
     void hideMessage() override;
     void tellDone(const DoneLine& line) override;
+    bool allowsRun(const RunSize& run) override;
     bool isMessageVisible() const override;
     bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
     QString browseForFolder(const QString& startFolder) override;

@@ -19,24 +19,34 @@ QDateTime timeOf(const QString& text) {
     return QDateTime::fromString(text, u"yyyy/MM/dd hh:mm:ss"_s);
 }
 
-/// False after the message of what is missing.
-bool hasProgram(Session& session, QString& path) {
-    const auto tell = [&](const QString& title, const QString& text) {
-        session.user.showMessage({MessageKind::exclamation, title, text});
-        return false;
+/// What is missing of the program; nothing when it is there.
+std::optional<Message> programProblem(Session& session, QString& path) {
+    const auto problem = [](const QString& title, const QString& text) {
+        return Message{MessageKind::exclamation, title, text};
     };
     if (!FolderExists(session.files, path))
-        return tell(
+        return problem(
             u"Path not found"_s,
             u"ASv6.exe could not be detected at the path found in your registry setting. Please check "
             "that the computer where ASv6 is installed is switched on or that the path "_s +
                 path + u" actually exists"_s);
     if (!FileExists(session.files, FilePath(path) / u"ASv6.exe"))
-        return tell(
+        return problem(
             u"ASv6.exe not found"_s,
             u"ASv6.exe could not be detected at the path found in your registry setting, please check "
             "the path is correct or reinstall ASv6"_s);
-    return true;
+    return std::nullopt;
+}
+
+void findExportFile(Session& session) {
+    WeatherState& weather = session.weather;
+    // So any real cycle counts as newer than none.
+    weather.ASv6ExportDate = QDateTime(QDate(1900, 1, 1), QTime(1, 1, 1));
+    const FilePath file = exportCycleFile(session);
+    if (!FileExists(session.files, file)) return;
+    weather.ASv6ExportDate = timeOf(fileTimeText(file));
+    weather.ASv6Present = weather.ASv6ExportDate.isValid();
+    if (!weather.ASv6Present) weather.ASv6Problem = unreadableFileMessage();
 }
 
 /// Nobody knows how long it takes, so there is no bar, and its Cancel needs no question: nothing is lost.
@@ -54,21 +64,22 @@ Message waitMessage(const QString& title) {
 void findActiveSky(Session& session) {
     WeatherState& weather = session.weather;
     weather.ASv6VersionOK = false;
+    weather.ASv6Problem.reset();
     QString path = StripBackslash(
         session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Install_Path"_s));
     weather.ASv6Present = !path.isEmpty();
     if (!weather.ASv6Present) return;
     weather.ASv6Local = session.registry.RegValueIsDword(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Local"_s);
-    weather.ASv6Present = hasProgram(session, path);
+    weather.ASv6Problem = programProblem(session, path);
+    weather.ASv6Present = !weather.ASv6Problem;
     weather.ASv6Path = FilePath(path);
     if (!weather.ASv6Present) return;
     weather.ASv6VersionOK = isSupported(getFileVersionText(session.files, weather.ASv6Path / u"ASv6.exe"));
-    if (!weather.ASv6VersionOK) return;
-    // So any real cycle counts as newer than none.
-    weather.ASv6ExportDate = QDateTime(QDate(1900, 1, 1), QTime(1, 1, 1));
-    if (!FileExists(session.files, exportCycleFile(session))) return;
-    weather.ASv6ExportDate = exportCycleTime(session, exportCycleFile(session));
-    weather.ASv6Present = weather.ASv6ExportDate.isValid();
+    if (weather.ASv6VersionOK) findExportFile(session);
+}
+
+void tellActiveSkyProblem(Session& session) {
+    if (session.weather.ASv6Problem) session.user.showMessage(*session.weather.ASv6Problem);
 }
 
 FilePath exportCycleFile(const Session& session) {

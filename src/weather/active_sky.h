@@ -12,7 +12,7 @@ inline const QString activeSkyKey = u"Software\\HiFi\\Asv6"_s;
 class ActiveSkyPlatform {
 public:
     virtual ~ActiveSkyPlatform() = default;
-    /// A window of exactly that title is open.
+    /// A window of exactly that title is open; where windows cannot be seen, the program of that name runs.
     virtual bool isWindowOpen(const QString& title) = 0;
     /// Starts ASv6.exe and does not wait for it. False after the message that it cannot be started here.
     virtual bool startASv6(Session& session) = 0;
@@ -24,8 +24,11 @@ public:
 ActiveSkyPlatform& systemActiveSky();
 
 /// The step of a start: sets ASv6Path, ASv6Present, ASv6Local, ASv6VersionOK and ASv6ExportDate from the
-/// registry and the folder named there. A folder or a program that is missing is told.
+/// registry and the folder named there. What is missing is kept in ASv6Problem and not told: most commands of
+/// the console have nothing to do with the weather, and an unattended run waits for nobody.
 void findActiveSky(Session& session);
+/// Shows ASv6Problem where there is one.
+void tellActiveSkyProblem(Session& session);
 
 FilePath exportCycleFile(const Session& session);
 /// The file's own time, to the minute; invalid after the message that it cannot be read.

@@ -23,7 +23,7 @@ private:
 /// One airport as the directory spells it; texts are empty where it has none.
 struct Airport {
     QString icao, name, city, state, country;
-    QString latitude, longitude; ///< signed decimal degrees with "."
+    QString latitude, longitude; ///< signed decimal degrees, see storedDegrees
 };
 
 /// The airport of that code; nothing when the directory has none.

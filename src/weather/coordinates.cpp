@@ -19,6 +19,18 @@ double squaredSineOfHalf(double angle) {
 
 } // namespace
 
+std::optional<double> storedDegrees(const QString& text) {
+    bool isNumber = false;
+    const double degrees = trimmedBlanks(text).replace(u',', u'.').toDouble(&isNumber);
+    return isNumber && std::isfinite(degrees) ? std::optional(degrees) : std::nullopt;
+}
+
+double requiredDegrees(const QString& text) {
+    const auto degrees = storedDegrees(text);
+    if (!degrees) throw Error(ErrorCode::typeMismatch);
+    return *degrees;
+}
+
 void parseLatLong(QString& text) {
     const QStringList parts = text.split(u' ');
     if (parts.size() < 2 || parts[0].isEmpty()) throw Error(ErrorCode::subscript);

@@ -1,10 +1,17 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace morvane {
 
-// Numbers in coordinates are written with "." whatever the user's separator is.
+// Numbers in coordinates are written with "." whatever the user's separator is. Tables that other hands
+// filled have "," at times.
+
+/// A stored position, signed decimal degrees with "." or ","; nothing for a text that is no number.
+std::optional<double> storedDegrees(const QString& text);
+/// The same; raises "Type mismatch" for a text that is no number.
+double requiredDegrees(const QString& text);
 
 /// Turns a coordinate of a flight plan, "W122* 18.62'", into signed decimal degrees of up to seven digits,
 /// "-122.3103": hemisphere, degrees and a mark of one character, a blank, minutes and a mark. Raises

@@ -1,6 +1,7 @@
 #include "weather/cycle_download.h"
 
 #include "core/error.h"
+#include "weather/gzip_reader.h"
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>
@@ -24,18 +25,34 @@ QNetworkRequest requestOf(const QUrl& url) {
     return request;
 }
 
-/// What is wrong with an answer that came to its end; empty for a file.
-QString problemOf(const QNetworkReply& reply, const QByteArray& bytes) {
+[[noreturn]] void refuse(const QString& reason) {
+    throw Error::withDescription(ErrorCode::ioFailure, reason);
+}
+
+/// Raises for an answer that came to its end and yet is no whole file.
+void requireWhole(const QNetworkReply& reply, const QByteArray& bytes) {
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (reply.error() != QNetworkReply::NoError) return reply.errorString();
-    if (status < 200 || status > 299) return u"the server answers with status %1"_s.arg(status);
+    if (reply.error() != QNetworkReply::NoError) refuse(reply.errorString());
+    if (status < 200 || status > 299) refuse(u"the server answers with status %1"_s.arg(status));
     const QString type = reply.header(QNetworkRequest::ContentTypeHeader).toString();
-    if (type.startsWith(u"text/html", Qt::CaseInsensitive) || bytes.startsWith('<'))
-        return u"the server sends a page instead of reports"_s;
+    if (type.startsWith(u"text/html", Qt::CaseInsensitive))
+        refuse(u"the server sends a page instead of reports"_s);
     if (const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
         announced.isValid() && bytes.size() < announced.toLongLong())
-        return u"the server sends %1 bytes of %2"_s.arg(bytes.size()).arg(announced.toLongLong());
-    return {};
+        refuse(u"the server sends %1 bytes of %2"_s.arg(bytes.size()).arg(announced.toLongLong()));
+}
+
+/// Some servers and proxies pack a body although they were asked not to; of their forms gzip alone is read.
+QByteArray contentsOf(const QNetworkReply& reply, const QByteArray& bytes, std::int64_t largestSize) {
+    requireWhole(reply, bytes);
+    const QByteArray encoding = reply.rawHeader("Content-Encoding").trimmed().toLower();
+    const bool isPlain = encoding.isEmpty() || encoding == "identity";
+    const bool isPacked = (encoding == "gzip" || encoding == "x-gzip") && isGzip(bytes);
+    if (!isPlain && !isPacked)
+        refuse(u"the server sends it packed as \"%1\""_s.arg(QString::fromLatin1(encoding)));
+    const QByteArray contents = cycleContents(bytes, largestSize);
+    if (isBlank(contents)) refuse(u"the server sends an empty file"_s);
+    return contents;
 }
 
 /// One transfer from its start to its end, whichever that is.
@@ -60,11 +77,11 @@ public:
         if (!reply_->isFinished()) loop_.exec();
         if (isCancelled_ || !reply_->isFinished()) return false;
         take();
-        if (problem_.isEmpty()) problem_ = problemOf(*reply_, bytes_);
+        if (problem_.isEmpty()) judge();
         return true;
     }
     const QString& problem() const { return problem_; }
-    const QByteArray& bytes() const { return bytes_; }
+    const QByteArray& contents() const { return contents_; }
 
 private:
     void listenOn() { silence_.start(limits_.silenceMilliseconds); }
@@ -76,6 +93,13 @@ private:
         listenOn();
         if (reply_->isOpen()) bytes_ += reply_->readAll();
         if (bytes_.size() > limits_.largestSize) stop(u"the file is far too large for a cycle"_s);
+    }
+    void judge() {
+        try {
+            contents_ = contentsOf(*reply_, bytes_, limits_.largestSize);
+        } catch (const Error& error) {
+            problem_ = error.description();
+        }
     }
     void lookForCancel() {
         if (isCancelled_ || !download_.isCancelled()) return;
@@ -89,7 +113,7 @@ private:
     QTimer silence_, look_;
     QNetworkAccessManager manager_;
     std::unique_ptr<QNetworkReply> reply_;
-    QByteArray bytes_;
+    QByteArray bytes_, contents_;
     QString problem_;
     bool isCancelled_ = false;
 };
@@ -102,7 +126,7 @@ bool CycleDownload::fetch(const QUrl& url, const FilePath& target) {
     if (!transfer.problem().isEmpty())
         throw Error::withDescription(ErrorCode::ioFailure,
                                      url.toString() + u" could not be downloaded: "_s + transfer.problem());
-    files_.write(target, transfer.bytes());
+    files_.write(target, transfer.contents());
     return true;
 }
 

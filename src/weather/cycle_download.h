@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/file_system.h"
+#include "weather/cycle_contents.h"
 
 #include <QUrl>
 #include <functional>
@@ -11,8 +12,8 @@ namespace morvane {
 class CycleDownload {
 public:
     struct Limits {
-        int silenceMilliseconds = 10'000; ///< without a byte; then the server counts as gone
-        std::int64_t largestSize = 64 << 20;
+        int silenceMilliseconds = 10'000;        ///< without a byte; then the server counts as gone
+        std::int64_t largestSize = largestCycle; ///< as it comes and, where it is packed, as it is unpacked
     };
 
     explicit CycleDownload(FileSystem& files) : CycleDownload(files, Limits()) {}
@@ -25,8 +26,9 @@ public:
     std::function<bool()> isCancelled = [] { return false; };
 
     /// Fetches the file afresh, past any cache, and follows redirects. True when it is there whole under its
-    /// name, which no part of it ever has; false after a cancel. Raises for everything else: no answer, a
-    /// status other than 2xx, a page in place of a text, fewer bytes than were announced.
+    /// name, which no part of it ever has, and unpacked where it came as gzip; false after a cancel. Raises
+    /// for everything else: no answer, a status other than 2xx, a page in place of a text, nothing at all,
+    /// fewer bytes than were announced, bytes packed in any other way.
     bool fetch(const QUrl& url, const FilePath& target);
 
 private:

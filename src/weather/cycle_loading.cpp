@@ -5,13 +5,17 @@
 #include "core/store_records.h"
 #include "core/text_decoding.h"
 #include "weather/active_sky.h"
+#include "weather/cycle_contents.h"
 #include "weather/cycle_download.h"
 #include "weather/cycle_progress.h"
 #include "weather/decoded_report.h"
+#include "weather/report_age.h"
 #include "weather/weather_endpoint.h"
 #include "weather/wx_finders.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace morvane {
 
@@ -19,25 +23,46 @@ namespace {
 
 const FailureReport loadFailure{u"File Download Error!"_s, MessageKind::exclamation};
 
+/// The store itself waits a quarter of a second at each: two seconds in all.
+constexpr int triesToWrite = 8;
+
 /// The last hour's cycle, "00" to "23".
 QString cycleNameAt(const QDateTime& utc) {
     return u"%1"_s.arg((utc.time().hour() + 23) % 24, 2, 10, QChar(u'0'));
 }
 
 /// Wanted: the day is not stepped back at midnight, when the cycle is yesterday's "23".
-void setServerCycle(WeatherState& weather, const QDateTime& utc) {
-    weather.MetarCycleDay = toInteger(utc.date().day());
-    weather.MetarCycleMonth = toInteger(utc.date().month());
-    weather.MetarCycleYear = toInteger(utc.date().year());
-    weather.MetarCycleHour = cycleNameAt(utc).toShort();
+CycleMoment serverCycle(const QDateTime& utc) {
+    return {utc.date(), cycleNameAt(utc).toShort(), {}}; // wanted: the rows of a server's cycle have no year
 }
 
-void setExportCycle(WeatherState& weather, const QDateTime& time) {
-    weather.ASv6ExportDate = time;
-    weather.MetarCycleHour = toInteger(time.time().hour());
-    weather.MetarCycleDay = toInteger(time.date().day());
-    weather.MetarCycleMonth = toInteger(time.date().month());
-    weather.MetarCycleYear = toInteger(time.date().year());
+void takeCycle(WeatherState& weather, const CycleMoment& cycle) {
+    weather.MetarCycleHour = cycle.hour;
+    weather.MetarCycleDay = toInteger(cycle.day.day());
+    weather.MetarCycleMonth = toInteger(cycle.day.month());
+    weather.MetarCycleYear = toInteger(cycle.day.year());
+}
+
+/// The lines of a cycle file, packed or not.
+QStringList cycleLines(FileSystem& files, const FilePath& file) {
+    const QByteArray bytes = files.read(file);
+    try {
+        return splitLines(decodeText(cycleContents(bytes)));
+    } catch (const Error& error) {
+        throw Error::withDescription(error.code(), file.text() + u": "_s + error.description());
+    }
+}
+
+/// Another program may be writing the store just now.
+std::optional<StoreTransaction> transactionOfLoad(Session& session) {
+    for (int triesLeft = triesToWrite;; --triesLeft) {
+        try {
+            return std::optional<StoreTransaction>(std::in_place, connectedStore(session));
+        } catch (const Error& error) {
+            if (error.code() != ErrorCode::permissionDenied || triesLeft == 1) throw;
+        }
+        session.user.pumpMessages();
+    }
 }
 
 } // namespace
@@ -67,8 +92,7 @@ bool clsWxFinderData::GetWeatherFromNOAA() {
         const QString name = cycleNameAt(session_.clock.utcTime()) + u"Z.txt"_s;
         const FilePath file = session_.AppPath / u"METAR" / name;
         if (!downloadCycle(*endpoint, file)) return session_.user.hideMessage();
-        loadCycleFile(file, endpoint->form);
-        isLoaded = true;
+        isLoaded = loadCycleFile(file, endpoint->form);
     });
     return isLoaded;
 }
@@ -93,56 +117,76 @@ bool clsWxFinderData::GetWeatherFromASv6() {
 }
 
 bool clsWxFinderData::importCycleFile(const FilePath& file, CycleForm form) {
-    return reportFailures(session_.user, loadFailure, [&] { loadCycleFile(file, form); });
+    bool isLoaded = false;
+    reportFailures(session_.user, loadFailure, [&] { isLoaded = loadCycleFile(file, form); });
+    return isLoaded;
 }
 
 bool clsWxFinderData::importExportFile(const FilePath& file) {
     const Job job(session_);
-    return job && reportFailures(session_.user, loadFailure, [&] { loadExportFile(file); });
+    bool isLoaded = false;
+    if (job) reportFailures(session_.user, loadFailure, [&] { isLoaded = loadExportFile(file); });
+    return isLoaded;
 }
 
-void clsWxFinderData::loadCycleFile(const FilePath& file, CycleForm form) {
-    QStringList lines = splitLines(decodeText(session_.files.read(file)));
+bool clsWxFinderData::loadCycleFile(const FilePath& file, CycleForm form) {
+    QStringList lines = cycleLines(session_.files, file);
     if (form == CycleForm::noaa) lines = newestReports(lines);
-    session_.gWxFinders = std::make_unique<clsWxFinders>(session_);
-    setServerCycle(session_.weather, session_.clock.utcTime());
     showProgress(u"Decoding Orrinsoft Metars.  Please wait until the process has finished........."_s);
-    const double step = 100.0 / static_cast<double>(lines.size() + 1);
+    const double step = 100.0 / std::max(1.0, static_cast<double>(lines.size()));
     // Wanted: the last line is never read. It is empty in a whole file and cut off in any other.
     if (!lines.isEmpty()) lines.removeLast();
-    storeReports(lines, {}, step); // wanted: the rows of a server's cycle have no year
+    return takeReports(lines, serverCycle(session_.clock.utcTime()), step);
 }
 
-void clsWxFinderData::loadExportFile(const FilePath& file) {
-    QStringList lines = splitLines(decodeText(session_.files.read(file)));
-    session_.gWxFinders = std::make_unique<clsWxFinders>(session_);
-    setExportCycle(session_.weather, exportCycleTime(session_, file));
+bool clsWxFinderData::loadExportFile(const FilePath& file) {
+    QStringList lines = cycleLines(session_.files, file);
+    const QDateTime time = exportCycleTime(session_, file);
     showProgress(u"Decoding Active Sky Metars.  Please wait until the process has finished........."_s);
     const double step = 100.0 / static_cast<double>(lines.size() + 1);
     if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
-    storeReports(lines, QString::number(session_.clock.localTime().date().year()), step);
+    const QString year = QString::number(session_.clock.localTime().date().year());
+    const bool isLoaded = takeReports(lines, {time.date(), toInteger(time.time().hour()), year}, step);
+    if (!isLoaded) return false;
+    session_.weather.ASv6ExportDate = time;
+    session_.weather.ASv6Imported = true;
+    return true;
+}
+
+/// Until all of them are in the table, the collection and the cycle in memory stay as they were.
+bool clsWxFinderData::takeReports(const QStringList& lines, const CycleMoment& cycle, double step) {
+    storeReports(lines, cycle, step);
+    takeCycle(session_.weather, cycle);
+    auto before = std::exchange(session_.gWxFinders, std::make_unique<clsWxFinders>(session_));
+    if (!GetWeatherFromDb()) {
+        session_.gWxFinders = std::move(before);
+        return false;
+    }
+    session_.user.updateProgress({}, {}, 100);
+    session_.user.hideMessage();
+    if (session_.gWxFinders->Count() > 0)
+        session_.user.tellDone({reportAgeText(session_), reportSourceText(session_)});
+    return true;
 }
 
 /// One transaction, as a flush of the disk a row would take minutes. Rows of stations that the lines do not
 /// name stay, however old they are: wanted, nothing is aged out.
-void clsWxFinderData::storeReports(const QStringList& lines, const QString& year, double step) {
-    const QString cycle = QString::number(session_.weather.MetarCycleHour);
+void clsWxFinderData::storeReports(const QStringList& lines, const CycleMoment& cycle, double step) {
     // Wanted: the month is today's, even where a report's day belongs to the last one.
     const QString month = clsDecodeMetar::getMonthName(session_.clock.localTime().date().month());
     CycleProgress progress(session_.user, {}, step);
-    StoreTransaction transaction(connectedStore(session_));
+    auto transaction = transactionOfLoad(session_);
     for (const QString& line : lines) {
         clsDecodeMetar decoded(session_.user);
         decoded.decodeMetarString(line);
         DecodedMetarRow row{toWxFinder(decoded, line)};
-        row.report.WxFinderCycle = cycle;
+        row.report.WxFinderCycle = QString::number(cycle.hour);
         row.report.WxFinderMonth = month;
-        row.report.WxFinderYear = year;
+        row.report.WxFinderYear = cycle.year;
         storeReport(row);
         progress.advance();
     }
-    transaction.commit();
-    GetWeatherFromDb();
+    transaction->commit();
 }
 
 } // namespace morvane

@@ -14,10 +14,9 @@ StationIndex::StationIndex(const Session& session) {
          !rows.atEnd(); rows.next()) {
         const QString icao = trimmedBlanks(rows.text(u"METAR_ICAO"));
         cloudClasses_.insert(icao.toUpper(), rows.text(u"METAR_MAX_CLOUD").toShort());
-        bool hasLatitude = false, hasLongitude = false;
-        const double latitude = rows.text(u"METAR_LAT").toDouble(&hasLatitude);
-        const double longitude = rows.text(u"METAR_LONG").toDouble(&hasLongitude);
-        if (hasLatitude && hasLongitude) places_.push_back({icao, latitude, longitude});
+        const auto latitude = storedDegrees(rows.text(u"METAR_LAT"));
+        const auto longitude = storedDegrees(rows.text(u"METAR_LONG"));
+        if (latitude && longitude) places_.push_back({icao, *latitude, *longitude});
     }
 }
 
@@ -41,7 +40,7 @@ std::optional<std::int16_t> StationIndex::cloudClassOf(const QString& icao) cons
 
 QString getClosestMetarStation(Session& session, const QString&, const QString& latitude,
                                const QString& longitude) {
-    const double north = textToNumber(latitude), east = textToNumber(longitude);
+    const double north = requiredDegrees(latitude), east = requiredDegrees(longitude);
     return StationIndex(session).closestTo(north, east);
 }
 

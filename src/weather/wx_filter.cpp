@@ -83,14 +83,7 @@ void openWxFilter(Session& session) {
     for (QString* entry : {&session.wxFilter.precipitation, &session.wxFilter.intensity,
                            &session.wxFilter.obscuration, &session.wxFilter.cloudCover})
         *entry = any;
-    chooseFlightEnd(session, true);
-}
-
-void chooseFlightEnd(Session& session, bool isDeparture) {
-    session.wxFilter.WxFinderIsDeparture = isDeparture;
-    session.weather.optDepAirport = isDeparture;
-    session.weather.optDestAirport = !isDeparture;
-    session.user.refreshScreen(Screen::frm_WxControl);
+    session.wxFilter.WxFinderIsDeparture = session.weather.optDepAirport;
 }
 
 std::vector<clsWxFinders::Pointer> filterMetars(Session& session) {
@@ -112,6 +105,10 @@ void showWxFinder(Session& session) {
 
 void selectWxAirport(Session& session) {
     const FailureReport report{u"METAR Error!"_s, MessageKind::exclamation};
+    // The page goes along with the end that was chosen, so that name and report of an end never part.
+    session.weather.optDepAirport = session.wxFilter.WxFinderIsDeparture;
+    session.weather.optDestAirport = !session.wxFilter.WxFinderIsDeparture;
+    session.user.refreshScreen(Screen::frm_WxControl);
     reportFailures(session.user, report, [&] {
         if (const auto airport = findAirport(session, session.wxFilter.WxSelectedIcao))
             chooseAirport(session, *airport);

@@ -17,14 +17,11 @@ const QStringList& cloudCoverEntries();
 
 inline constexpr std::int16_t usualMaxResults = 25;
 
-/// The session's filter as the finder opens with it: any weather, departure. The most results stay as they
-/// were chosen.
+/// The session's filter as the finder opens with it: any weather, the end of the flight that the weather page
+/// shows. The most results stay as they were chosen.
 void openWxFilter(Session& session);
 /// True when there is a precipitation to ask an intensity of.
 bool hasIntensity(const WxFilter& filter);
-/// Which end of the flight the finder, and with it the weather page, chooses: so name and report of an end
-/// never part.
-void chooseFlightEnd(Session& session, bool isDeparture);
 /// The stored reports that have the weather of the session's filter, in order of their codes, at most
 /// `WxMaxResults` of them; 0 means all, since the count passes it at once. Loads the reports when nobody has
 /// yet.
@@ -32,8 +29,8 @@ std::vector<clsWxFinders::Pointer> filterMetars(Session& session);
 
 /// Opens the weather finder in the place of the main window.
 void showWxFinder(Session& session);
-/// Makes the airport of `WxSelectedIcao` an end of the flight, as a click on the weather page does; a station
-/// that is no airport is told.
+/// Makes the airport of `WxSelectedIcao` the end of the flight that `WxFinderIsDeparture` says, and the
+/// page's choice with it; a station that is no airport is told.
 void selectWxAirport(Session& session);
 
 } // namespace morvane

@@ -147,10 +147,9 @@ bool clsWxFinderData::GetWeatherFromDb() {
         const QString presentYear = QString::number(session_.clock.localTime().date().year());
         RowSet rows(connectedStore(session_), u"SELECT * FROM DECODED_METAR ORDER BY METAR_ICAO"_s);
         // While the program starts the bar is the splash's, which stays silent about an empty table.
-        const QString text = session_.StartingUp
-                                 ? u"Loading Metars from Database. Please Wait.............."_s
-                                 : u"Morvane is loading the Metar cycle from from the "
-                                   "database.  Please wait....."_s;
+        const QString text = session_.StartingUp ? u"Loading Metars from Database. Please Wait............."_s
+                                                 : u"Morvane is loading the Metar cycle from from the "
+                                                   "database.  Please wait....."_s;
         if (!session_.StartingUp) showProgress(text);
         CycleProgress progress(session_.user, text, 100.0 / (rows.count() + 2));
         if (!rows.atEnd()) session_.weather.MetarDataLoaded = true;
@@ -194,11 +193,13 @@ void clsWxFinderData::writeRow(const DecodedMetarRow& decoded) {
         overwriteRow(store, *key, written, latitude, longitude);
     else
         addRow(store, written, latitude, longitude);
-    session_.weather.MetarDataLoaded = true;
 }
 
 bool clsWxFinderData::insertDecodedMetar(const DecodedMetarRow& decoded) {
-    return reportFailures(session_.user, insertFailure, [&] { writeRow(decoded); });
+    return reportFailures(session_.user, insertFailure, [&] {
+        writeRow(decoded);
+        session_.weather.MetarDataLoaded = true;
+    });
 }
 
 void clsWxFinderData::storeReport(const DecodedMetarRow& decoded) {

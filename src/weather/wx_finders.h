@@ -3,6 +3,8 @@
 #include "core/keyed_collection.h"
 #include "weather/cycle_lines.h"
 
+#include <QDate>
+
 namespace morvane {
 
 class FilePath;
@@ -74,6 +76,13 @@ private:
     Session& session_;
 };
 
+/// Date and hour of a cycle, and the year that its rows get.
+struct CycleMoment {
+    QDate day;
+    std::int16_t hour;
+    QString year;
+};
+
 /// Runs the statements and the loads; it fills the session's collection, whichever one asked.
 class clsWxFinderData {
 public:
@@ -83,8 +92,9 @@ public:
     /// Adds every row of the table to the collection; a session that knows no cycle yet takes its fields from
     /// the row of KSEA.
     bool GetWeatherFromDb();
-    /// Fetches the last hour's cycle file into "\\METAR", stores its reports and reloads the collection. The
-    /// old one stays until the file is there.
+    // A load ends with the line that tells number and age of the reports. One that fails leaves the
+    // collection in memory as it was; a store that another program writes is waited for, two seconds.
+    /// Fetches the last hour's cycle file into "\\METAR", stores its reports and reloads the collection.
     bool GetWeatherFromNOAA();
     /// Stores the reports of Active Sky's export file and reloads the collection.
     bool GetWeatherFromASv6();
@@ -116,9 +126,10 @@ public:
 
 private:
     bool downloadCycle(const WeatherEndpoint& endpoint, const FilePath& file);
-    void loadCycleFile(const FilePath& file, CycleForm form);
-    void loadExportFile(const FilePath& file);
-    void storeReports(const QStringList& lines, const QString& year, double step);
+    bool loadCycleFile(const FilePath& file, CycleForm form);
+    bool loadExportFile(const FilePath& file);
+    bool takeReports(const QStringList& lines, const CycleMoment& cycle, double step);
+    void storeReports(const QStringList& lines, const CycleMoment& cycle, double step);
     void storeReport(const DecodedMetarRow& decoded);
     void writeRow(const DecodedMetarRow& decoded);
     void showProgress(const QString& text, bool withCancel = false) const;

@@ -1,6 +1,7 @@
 #include "cli/console.h"
 
 #include "support/printing.h"
+#include "weather/active_sky.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -45,6 +46,20 @@ TEST(CycleCommands, tellWhatCannotBeHad) {
     EXPECT_EQ(run.status, 1);
     EXPECT_TRUE(run.messages.contains(u"No weather server is set."_s)) << run.messages.toStdString();
     EXPECT_EQ(install.run(u"metar rows"_s).output, "");
+}
+
+TEST(CycleCommands, anActiveSkyOutOfReachFailsThemAlone) {
+    test::ConsoleInstall install;
+    install.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey);
+    install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Install_Path"_s,
+                                  u"\\\\Wx\\ASv6"_s);
+    const std::pair<QString, int> cases[] = {
+        {u"metar rows"_s, 1}, {u"ground list"_s, 0}, {u"airport find K"_s, 0}, {u"option get halo"_s, 0}};
+    for (const auto& [command, status] : cases) {
+        const auto run = install.run(command);
+        EXPECT_EQ(run.status, status) << command.toStdString();
+        EXPECT_EQ(run.messages.count(u"Exclamation: Path not found"_s), status) << run.messages.toStdString();
+    }
 }
 
 } // namespace

@@ -85,6 +85,39 @@ TEST_F(GroundActions, severalAtOncePassOverDefaultAndTheInstalledOne) {
     deleteSelected(false);
     EXPECT_EQ(activationOf("2-A") + activationOf("3-B") + activationOf("4-C"), "goneTrueTrue");
     EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_EQ(install.user.calls.filter("done "), QStringList({"done 1 texture set deleted"}));
+    EXPECT_EQ(install.user.doneRemark, "1 set left");
+}
+
+TEST_F(GroundActions, aRemovalShowsThatItIsBusyAndCanBeEnded) {
+    struct Case {
+        bool keepsColours;
+        int cancelAt; ///< the set before which the user cancels
+        const char *activations, *verb, *done;
+    };
+    const Case cases[] = {
+        {true, 0, "FalseFalse", "Deactivating", "done 2 texture sets deactivated"},
+        {false, 2, "goneFalse", "Deleting", "done 1 texture set deleted"},
+    };
+    for (const char* name : {"2-A", "3-B"})
+        install.addGroundSet(name, "Overcast", true, threeFiles);
+    install.user.onModal = [&](Screen) { session.modal.multiConfirmed = session.modal.multiNames; };
+    for (const Case& example : cases) {
+        session.ground.selectedRows = QStringList{"2-A", "3-B"};
+        install.user.calls.clear();
+        install.user.onPump = [&] {
+            if (install.user.calls.filter("progress").size() == example.cancelAt)
+                install.user.answers().cancelRequested = true;
+        };
+        deleteSelected(example.keepsColours);
+        const QString text = u"%1 %2 texture set %3 of 2, '%4'.  Please wait............"_s;
+        EXPECT_EQ(
+            install.user.calls.mid(1, 5),
+            QStringList({"message Progress Morvane Information",
+                         text.arg("progress 0", example.verb, "1", "2-A"),
+                         text.arg("progress 50", example.verb, "2", "3-B"), "hide message", example.done}));
+        EXPECT_EQ(activationOf("2-A") + activationOf("3-B"), example.activations);
+    }
 }
 
 TEST_F(GroundActions, cancelledActivationLeavesTheSetDeactivated) {

@@ -11,6 +11,7 @@
 namespace morvane {
 namespace {
 
+using test::contentsBelow;
 using test::SmallInstall;
 
 /// Makes as many sets of each cover as said, out of the base images.
@@ -80,6 +81,37 @@ TEST(GroundGeneration, allSetsOfACoverComeBeforeTheNext) {
                                             "Partly Cloudy", "Mostly Cloudy", "Overcast"}));
     EXPECT_EQ(setFolders(install).size(), 6); // the same second, told apart by their keys
     EXPECT_TRUE(install.session.RefreshGroundList);
+}
+
+/// The textures of all sets, and one set's bitmaps where no run before has left them.
+TEST(GroundGeneration, tellsWhatItTakesBeforeItStarts) {
+    SmallInstall install;
+    install.user.allowsRuns = false;
+    create(install, {10, 0, 0, 0, 11});
+    EXPECT_EQ(setFolders(install), QStringList());
+    install.user.allowsRuns = true;
+    create(install, {0, 0, 0, 0, 1});
+    create(install, {0, 0, 0, 0, 20});
+    const auto sizeBelow = [&](const char16_t* folder) {
+        std::int64_t size = 0;
+        for (const QByteArray& contents : contentsBelow(install.home() / folder))
+            size += contents.size();
+        return size;
+    };
+    const double textures = static_cast<double>(sizeBelow(u"Texture Sets")) / 21, bitmaps = 5 * 16 * 16 * 3;
+    ASSERT_EQ(install.user.runs.size(), 3);
+    const std::tuple<QString, double, bool> expected[] = {{"21 ground sets", 21 * textures + bitmaps, true},
+                                                          {"1 ground set", textures + bitmaps, false},
+                                                          {"20 ground sets", 20 * textures, false}};
+    for (std::size_t i = 0; i < 3; ++i) {
+        const RunSize& run = install.user.runs[i];
+        const auto& [what, bytes, isQuestionWanted] = expected[i];
+        EXPECT_EQ(run.what, what);
+        EXPECT_NEAR(static_cast<double>(run.bytes), bytes, bytes / 50) << i;
+        EXPECT_EQ(run.isQuestionWanted, isQuestionWanted);
+        EXPECT_GT(run.freeBytes, run.bytes);
+        EXPECT_GT(run.seconds, 0);
+    }
 }
 
 TEST(GroundGeneration, reportsItsDuration) {

@@ -63,8 +63,9 @@ std::vector<Picture> levelsOf(const QByteArray& texture, int width, int height) 
 /// Likeness in decibels; equal pictures give infinity.
 double likeness(const TextureLevel& a, const TextureLevel& b) {
     double squares = 0;
-    for (std::size_t i = 0; i < a.pixels.size(); ++i)
-        squares += std::pow(a.pixels[i] - b.pixels[i], 2);
+    for (std::size_t plane = 0; plane < 3; ++plane)
+        for (std::size_t i = 0; i < a.planes[plane].size(); ++i)
+            squares += std::pow(a.planes[plane][i] - b.planes[plane][i], 2);
     return 10 * std::log10(255.0 * 255.0 * 3 * a.width * a.height / squares);
 }
 
@@ -125,13 +126,11 @@ TEST(TextureCodec, averagesAreRoundedToNearestAndASideOfOneStays) {
         {1, 1, {18}, {18}},
     };
     for (const auto& [width, height, levels, averages] : cases) {
-        TextureLevel level{width, height, {}};
-        for (const std::uint8_t red : levels)
-            level.pixels.insert(level.pixels.end(), {red, 10, 20, 255});
-        const TextureLevel half = halved(level);
-        ASSERT_EQ(half.pixels.size(), 4 * averages.size());
-        for (std::size_t i = 0; i < half.pixels.size(); ++i)
-            EXPECT_EQ(half.pixels[i], (std::array<int, 4>{averages[i / 4], 10, 20, 255}[i % 4])) << i;
+        const std::vector<std::uint8_t> green(levels.size(), 10), blue(levels.size(), 20);
+        const TextureLevel half = halved({width, height, {levels, green, blue}});
+        EXPECT_EQ(half.planes[0], averages);
+        EXPECT_EQ(half.planes[1], std::vector<std::uint8_t>(averages.size(), 10));
+        EXPECT_EQ(half.planes[2], std::vector<std::uint8_t>(averages.size(), 20));
     }
 }
 

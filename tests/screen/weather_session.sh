@@ -10,19 +10,18 @@ here=$(dirname "$0")
 
 # Places in the windows -----------------------------------------------------------------------------------
 
-readonly smallSize=400x360
 readonly weatherKey="71 479"
 readonly icaoBox="182 167" firstAirport="240 262" destinationOption="435 367" inhibitBox="581 367"
 readonly flyKey="232 513" finderKey="508 513" refreshKey="646 513"
 readonly reportFilter="475 173" firstReport="240 228"
 readonly overcastOption="300 152"
-readonly wideOk="604 464" wideCancel="659 464" smallOk="304 323"
+readonly wideOk="604 464" wideCancel="659 464" messageOk="304 266"
 readonly finder="Select weather phenomena you require" decoded="Fully Decoded METAR"
 readonly choice="Select Method of obtaining Cloud Cover"
 
 # The four ways to a cover, in the order of the choice: window and size.
 readonly ways=("Import Flight Simulator Flight Plan|$wideSize" "Values from Wx Control Screen|$wideSize"
-    "Select Average Cloud Cover|$messageSize" "Enter full METAR String for processing|$smallSize")
+    "Select Average Cloud Cover|$messageSize" "Enter full METAR String for processing|$messageSize")
 readonly plan=0 airports=1 option=2 report=3
 
 # Steps ---------------------------------------------------------------------------------------------------
@@ -185,7 +184,7 @@ flyInEachWay() {
     xdotool type --window "$way" "EGLL 241220Z 24015KT 9999 SCT030 18/09 Q1012"
     press "$way" Return
     takePicture 4-report
-    click "$way" $smallOk
+    click "$way" $messageOk
     expectInstall "Partly Cloudy" Escape
 }
 

@@ -129,6 +129,20 @@ TEST_F(SkyGenerationTest, overcastSetsHaveTheirOwnBase) {
     EXPECT_EQ(stored(), QStringList(3, u"Overcast of Overcast"_s));
 }
 
+TEST_F(SkyGenerationTest, tellsWhatItTakesBeforeItStarts) {
+    for (const bool isAllowed : {false, true}) {
+        install.user.allowsRuns = isAllowed;
+        create({u"Tropical"_s, u"Overcast"_s, u"Sunny"_s}, {2, 0, 1, 0, 4});
+        EXPECT_EQ(stored().size(), isAllowed ? 10 : 0);
+    }
+    std::int64_t bytes = 0;
+    for (const QByteArray& contents : test::contentsBelow(sets()))
+        bytes += contents.size();
+    EXPECT_EQ(install.user.runs[0].what, "10 sky sets");
+    EXPECT_NEAR(static_cast<double>(install.user.runs[0].bytes), static_cast<double>(bytes), 200);
+    EXPECT_FALSE(install.user.runs[0].isQuestionWanted);
+}
+
 TEST_F(SkyGenerationTest, withoutOkOrATickNothingIsMade) {
     SkyGeneration(session).createSkySets(true);
     EXPECT_TRUE(install.user.messages.empty());

@@ -16,7 +16,14 @@ public:
     void updateProgress(const QString& title, const QString& text, double value) override;
     void setProgressFile(const QString& line) override { calls << u"file "_s + line; }
     void hideMessage() override;
-    void tellDone(const DoneLine& line) override { calls << u"done "_s + line.text; }
+    void tellDone(const DoneLine& line) override {
+        calls << u"done "_s + line.text;
+        doneRemark = line.remark;
+    }
+    bool allowsRun(const RunSize& run) override {
+        runs.push_back(run);
+        return run.fits() && allowsRuns;
+    }
     bool isMessageVisible() const override { return messageVisible_; }
     bool systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) override;
     QString browseForFolder(const QString& startFolder) override;
@@ -34,6 +41,7 @@ public:
     std::deque<bool> answersToGive;
     bool otherwise = true;
     bool answersNothing = false; ///< leaves questions open, as where nobody sits
+    bool allowsRuns = true;
     std::deque<QString> foldersToChoose;
     std::function<void(const Message&)> onMessage = [](const Message&) {}; ///< before its answer is drawn
     std::function<void(Screen)> onModal = [](Screen) {};
@@ -43,6 +51,8 @@ public:
     /// What was shown, in order. Calls are lines such as "hide frm_Main", "progress 50", "file Processing
     /// ...".
     std::vector<Message> messages;
+    std::vector<RunSize> runs; ///< those that were to start
+    QString doneRemark;        ///< of the job that was done last
     QStringList calls;
 
     /// The messages that ask for attention: every kind but Progress, as "Kind|title|text".

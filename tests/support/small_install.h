@@ -13,7 +13,8 @@ struct SmallInstallOptions {
     QStringList baseImages{u"GENERIC WORLD\\029h2su6.bmp"_s, u"GENERIC WORLD\\029b2su6.bmp"_s,
                            u"GENERIC WORLD\\002c2wi1.bmp"_s, u"UTIND\\034b2su4.bmp"_s,
                            u"DUTCH\\005a2su2.bmp"_s};
-    int side = 16; ///< of each base image
+    int side = 16;      ///< of each base image
+    FilePath skin = {}; ///< a finished skin's folder, for tests that show windows; empty for none
 };
 
 /// A working install with a few small base images, its store, and a simulator with textures of its own, both

@@ -17,15 +17,16 @@
 
 namespace morvane::test {
 
-/// The window program on a small install, as a start leaves it behind the splash. The install has no skin:
-/// its windows and keys are the plain ones. Its own session and scripted user stay beside this one; sets are
-/// added through it.
+/// The window program on a small install, as a start leaves it behind the splash. Where the install has no
+/// skin, its windows and keys are the plain ones. Its own session and scripted user stay beside this one;
+/// sets are added through it.
 class WindowProgram {
 public:
     explicit WindowProgram(const SmallInstallOptions& options = {})
         : install(options),
           session({user, install.files, install.clock, install.random, install.registry}, install.home()),
-          skin(install.files, install.home() / u"Media"), shell(session, skin) {
+          skin(install.files, options.skin.isEmpty() ? install.home() / u"Media" : options.skin),
+          shell(session, skin) {
         addSkyStock();
         addNightStock(install);
         user.setShell(&shell);
@@ -33,6 +34,7 @@ public:
         session.RefreshGroundList = session.RefreshSkyList = session.RefreshNightList = true;
         shell.formatMainScreen();
         shell.form(u"frm_Main"_s)->show();
+        if (!options.skin.isEmpty()) return;
         confirmNext(u"frm_Msg"_s); // the skin that is not there is told of once
         shell.reportMissingSkin();
     }

@@ -8,8 +8,10 @@
 #include "ui/controls/skinned_progress_bar.h"
 #include "ui/controls/wrapped_tip.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,6 +27,31 @@ namespace {
 
 QImage picture(QWidget& widget) {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+TEST(PaperStyle, aRowsPictureKeepsClearOfItsText) {
+    const QStyle& style = *QApplication::style();
+    QStyleOptionViewItem row;
+    row.rect = {0, 0, 200, 20};
+    row.text = u"Flights"_s;
+    row.decorationSize = {16, 16};
+    row.features = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration;
+    const QRect picture = style.subElementRect(QStyle::SE_ItemViewItemDecoration, &row);
+    EXPECT_GT(style.subElementRect(QStyle::SE_ItemViewItemText, &row).left(), picture.right());
+    EXPECT_GE(picture.width(), 16);
+}
+
+TEST(PaperStyle, aListOfThousandsIsFourteenRowsHigh) {
+    QWidget page;
+    auto* choice = new QComboBox(&page);
+    for (int i = 0; i < 5000; ++i)
+        choice->addItem(u"CITY"_s);
+    page.show();
+    choice->showPopup();
+    const QAbstractItemView& list = *choice->view();
+    EXPECT_LE(list.viewport()->height(), 14 * list.sizeHintForRow(0));
+    EXPECT_GE(list.viewport()->height(), 10 * list.sizeHintForRow(0));
+    choice->hidePopup();
 }
 
 TEST(Labels, longTextsFitTheirPlaces) {

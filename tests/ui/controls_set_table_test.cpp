@@ -69,9 +69,22 @@ TEST_F(SetTableTest, onlyTheUserTellsOfARow) {
     QTest::keyClick(&table, Qt::Key_Down);
     QTest::keyClick(&table, Qt::Key_Down); // already on the last row
     QTest::keyClick(&table, Qt::Key_Home);
-    EXPECT_EQ(takeClicked(), (QStringList{u"Key:2"_s, u"Key:3"_s, u"Key:1"_s}));
+    QTest::keyClick(&table, Qt::Key_Shift);
+    EXPECT_EQ(takeClicked(), (QStringList{u"Key:2"_s, u"Key:3"_s, u"Key:3"_s, u"Key:1"_s}));
     click(1);
     EXPECT_EQ(takeClicked(), QStringList{u"Key:1"_s}) << "a click on the selected row counts, too";
+}
+
+TEST_F(SetTableTest, aDragOverRowsTellsOfTheOneItEndsOn) {
+    table.show();
+    const auto placeOf = [this](int row) {
+        return table.visualItemRect(table.topLevelItem(row - 1)).center();
+    };
+    QTest::mousePress(table.viewport(), Qt::LeftButton, {}, placeOf(1));
+    QTest::mouseMove(table.viewport(), placeOf(3));
+    QTest::mouseRelease(table.viewport(), Qt::LeftButton, {}, placeOf(3));
+    EXPECT_EQ(table.selectedNames().size(), 3);
+    EXPECT_EQ(takeClicked(), QStringList{u"Key:3"_s});
 }
 
 TEST_F(SetTableTest, severalRowsAreSelectedWithControlAndShift) {
@@ -96,6 +109,31 @@ TEST_F(SetTableTest, everyClickOnAHeadTurnsTheOrderRound) {
     }
     EXPECT_EQ(table.keyOf(3), u"Key:2"_s) << "rows are numbered as shown";
     EXPECT_EQ(takeClicked(), QStringList());
+}
+
+/// With a key held rows are being picked, and on a box each click ticks.
+TEST_F(SetTableTest, aDoubleClickTellsOfARowAndNotOfItsBox) {
+    int told = 0;
+    QObject::connect(&table, &SetTable::rowDoubleClicked, [&] { ++told; });
+    struct Case {
+        QPoint place;
+        Qt::KeyboardModifier key;
+        int told;
+    };
+    const QPoint row = cell(2).topLeft();
+    const Case cases[] = {{row + QPoint(60, 10), Qt::NoModifier, 1},
+                          {cell(2, 1).center(), Qt::NoModifier, 1},
+                          {row + QPoint(12, 10), Qt::NoModifier, 0},
+                          {row + QPoint(60, 10), Qt::ControlModifier, 0},
+                          {QPoint(60, 200), Qt::NoModifier, 0}};
+    for (const Case& example : cases) {
+        told = 0;
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, example.key, example.place);
+        QTest::mouseDClick(table.viewport(), Qt::LeftButton, example.key, example.place);
+        EXPECT_EQ(told, 0) << "the button is still down";
+        QTest::mouseRelease(table.viewport(), Qt::LeftButton, example.key, example.place);
+        EXPECT_EQ(told, example.told) << example.place.x() << ' ' << example.key;
+    }
 }
 
 TEST_F(SetTableTest, boxesAreCheckedByTheMouseAndTheSpaceKey) {

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QTest>
+#include <QWheelEvent>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -115,6 +116,21 @@ TEST_F(SliderTest, refusesWhatLeavesNoRangeOrLiesOutside) {
     EXPECT_EQ(slider.max(), 100);
     EXPECT_EQ(slider.value(), 5);
     EXPECT_EQ(takeEvents(), QStringList());
+}
+
+TEST_F(SliderTest, theWheelMovesItByOneStepANotch) {
+    const auto turn = [this](int eighths) {
+        const QPointF place(50, 10);
+        QWheelEvent event(place, slider.mapToGlobal(place), {}, {0, eighths}, {}, {}, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(&slider, &event);
+        return slider.value();
+    };
+    const std::pair<int, int> turns[] = {{120, 1}, {240, 3}, {-120, 2}, {60, 2}, {60, 3}, {-360, 0}};
+    for (const auto& [eighths, value] : turns)
+        EXPECT_EQ(turn(eighths), value) << eighths;
+    slider.setValue(99);
+    EXPECT_EQ(turn(600), 100) << "and no further";
 }
 
 TEST_F(SliderTest, clickOnTheRailCentresTheThumbAndMovesTheValueAtOnce) {

@@ -174,7 +174,7 @@ TEST_F(CoverScreensTest, aFlightPlan) {
     writePlan(u"c xml.pln"_s, "<?xml version=\"1.0\"?>\nwaypoint.0=KSEA,A,,\n");
     EXPECT_EQ(coverBy(0, u"frm_FlightPlan"_s,
                       [this](DialogForm& dialog) {
-                          EXPECT_FALSE(isOkAlive(dialog));
+                          EXPECT_TRUE(isOkAlive(dialog)) << "the first plan is chosen from the start";
                           openPlan(dialog, 2);
                           EXPECT_EQ(textOf(dialog, u"lblDepVal"_s), "London");
                           EXPECT_TRUE(dialog.findChild<QLabel*>(u"lblNoWaypoints"_s)->isVisible());
@@ -194,6 +194,22 @@ TEST_F(CoverScreensTest, aFlightPlan) {
                           EXPECT_EQ(textOf(dialog, u"lblCloudCover"_s), "Broken Clouds");
                       }),
               "4");
+    // OK takes the plan that is selected, be it read already or not.
+    EXPECT_EQ(coverBy(0, u"frm_FlightPlan"_s, [](DialogForm&) {}), "4");
+    const auto lastPlan = [&](DialogForm& dialog) {
+        auto& list = *dialog.findChild<SetTable*>(u"lvwFPList"_s);
+        EXPECT_TRUE(list.hasFocus());
+        QTest::keyClick(&list, Qt::Key_Return);
+        EXPECT_EQ(textOf(dialog, u"lblDepVal"_s), "Seattle");
+        QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Return);
+        EXPECT_EQ(textOf(dialog, u"lblDepVal"_s), "London");
+        QTest::keyClick(&list, Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible()) << "no way on from a plan without waypoints";
+        QTest::keyClick(&list, Qt::Key_Up);
+        EXPECT_TRUE(isOkAlive(dialog));
+    };
+    EXPECT_EQ(coverBy(0, u"frm_FlightPlan"_s, lastPlan), "4");
 }
 
 TEST_F(CoverScreensTest, noFlightPlansAtAll) {

@@ -4,8 +4,10 @@
 
 #include "core/store.h"
 #include "ground/ground_sets.h"
+#include "ui/controls/set_table.h"
 
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -81,6 +83,51 @@ TEST_F(CreateRun, makesTheSetAndShowsItInTheList) {
     EXPECT_TRUE(program.shell.form(u"frm_MVTextures"_s)->isVisible());
     EXPECT_FALSE(program.user.isMessageVisible());
     EXPECT_FALSE(filesBelow(u"Texture Sets").isEmpty());
+    const QStringList made{setNames().last()};
+    EXPECT_EQ(program.control<SetTable>(u"frm_MVTextures"_s, u"lstTextureSets"_s).selectedNames(), made);
+    EXPECT_EQ(program.session.ground.SelectedGroundCover, u"Overcast"_s) << "as if it had been clicked";
+    EXPECT_EQ(program.control<SkinnedButton>(u"frm_MVTextures"_s, u"btn_TextureActivate"_s).state(),
+              ButtonState::deactivate);
+    program.user.refreshScreen(Screen::frm_MVTextures);
+    EXPECT_EQ(program.control<SkinnedButton>(u"frm_MVTextures"_s, u"btn_TextureActivate"_s).state(),
+              ButtonState::disabled)
+        << "and once only: from then on the page selected it";
+}
+
+TEST_F(CreateRun, asksBeforeMoreThanTwentySets) {
+    const auto create = [this](const QString& count) {
+        program.whenShown(u"frm_TsRequired"_s, [this, count](DialogForm& dialog) {
+            program.control<QLineEdit>(u"frm_TsRequired"_s, u"txtOvercastClouds"_s).setText(count);
+            dialog.ok();
+        });
+        program.press(u"frm_Main"_s, u"btn_GroundInstall"_s);
+    };
+    QString question;
+    program.whenShown(u"frm_Msg"_s, [&](DialogForm& message) {
+        question = program.control<QLabel>(u"frm_Msg"_s, u"lbl_Message"_s).text();
+        message.cancel();
+    });
+    create(u"21"_s);
+    EXPECT_TRUE(question.startsWith(u"21 ground sets: less than a minute, 1 MB of "_s))
+        << question.toStdString();
+    EXPECT_TRUE(question.endsWith(u" free"_s));
+    EXPECT_EQ(setNames(), QStringList{u"Default"_s});
+    confirmReport();
+    create(u"20"_s);
+    EXPECT_EQ(setNames().size(), 21) << "without a question";
+}
+
+TEST_F(CreateRun, refusesWhatTheFreeSpaceCannotHold) {
+    QStringList told;
+    for (const bool isLarge : {false, true}) {
+        program.whenShown(u"frm_Msg"_s, [&](DialogForm& message) {
+            told << program.control<QLabel>(u"frm_Msg"_s, u"lbl_Message"_s).text();
+            message.ok();
+        });
+        EXPECT_FALSE(
+            program.user.allowsRun({u"105 ground sets"_s, 240, 5'200'000'000, 1'100'000'000, isLarge}));
+    }
+    EXPECT_EQ(told, QStringList(2, u"105 ground sets: 5.2 GB needed, 1.1 GB free"_s));
 }
 
 TEST_F(CreateRun, leavesNothingOfASetThatIsCancelled) {

@@ -2,14 +2,20 @@
 
 #include "support/window_program.h"
 
+#include "ui/controls/picture_frame.h"
+#include "ui/controls/skinned_progress_bar.h"
+#include "ui/controls/slider.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QTreeView>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -59,6 +65,80 @@ TEST_F(EveryScreen, namesEachControlForThoseWhoCannotSeeIt) {
         EXPECT_FALSE(widget.accessibleName().isEmpty() && (!button || button->text().isEmpty())) << name;
     });
     EXPECT_GT(controls, 100);
+}
+
+/// What a screen reader is to call it; nothing for what is no control and no window.
+QAccessible::Role roleOf(const QWidget& widget) {
+    if (qobject_cast<const QCheckBox*>(&widget)) return QAccessible::CheckBox;
+    if (qobject_cast<const QRadioButton*>(&widget)) return QAccessible::RadioButton;
+    if (qobject_cast<const SkinnedButton*>(&widget) || qobject_cast<const QAbstractButton*>(&widget))
+        return QAccessible::Button;
+    if (qobject_cast<const ucSlider*>(&widget)) return QAccessible::Slider;
+    if (qobject_cast<const SkinnedProgressBar*>(&widget)) return QAccessible::ProgressBar;
+    if (qobject_cast<const QComboBox*>(&widget)) return QAccessible::ComboBox;
+    if (qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget))
+        return QAccessible::EditableText;
+    if (qobject_cast<const QTreeView*>(&widget)) return QAccessible::Tree;
+    if (qobject_cast<const PictureFrame*>(&widget)) return QAccessible::Graphic;
+    return QAccessible::NoRole;
+}
+
+TEST_F(EveryScreen, tellsWhatEachControlIsAndWhatCanBeDoneWithIt) {
+    QMap<QAccessible::Role, int> met;
+    forEachWidget([&](QWidget& widget, const std::string& name) {
+        const QAccessible::Role role = roleOf(widget);
+        if (role == QAccessible::NoRole) return;
+        ++met[role];
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&widget);
+        EXPECT_EQ(told->role(), role) << name;
+        EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << name;
+        const auto* key = qobject_cast<const SkinnedButton*>(&widget);
+        const bool isDead = key && key->state() == ButtonState::disabled;
+        EXPECT_EQ(told->state().disabled, isDead || !widget.isEnabled()) << name;
+        if (role == QAccessible::Button && !told->state().disabled) {
+            EXPECT_TRUE(
+                told->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()))
+                << name;
+        }
+        if (const auto* toggle = qobject_cast<const QAbstractButton*>(&widget);
+            toggle && toggle->isCheckable()) {
+            EXPECT_EQ(told->state().checked, toggle->isChecked()) << name;
+        }
+        if (role == QAccessible::Slider || role == QAccessible::ProgressBar) {
+            ASSERT_NE(told->valueInterface(), nullptr) << name;
+            EXPECT_LT(told->valueInterface()->minimumValue().toDouble(),
+                      told->valueInterface()->maximumValue().toDouble());
+        }
+    });
+    EXPECT_EQ(met.size(), 9) << "a kind of control that no screen has";
+}
+
+TEST_F(EveryScreen, isAWindowADialogOrAPage) {
+    for (const QString& name : formNames()) {
+        const Form* form = program.shell.form(name);
+        const QAccessible::Role role = qobject_cast<const DialogForm*>(form) ? QAccessible::Dialog
+                                       : childPage(name)                     ? QAccessible::Pane
+                                                                             : QAccessible::Window;
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(program.shell.form(name));
+        EXPECT_EQ(told->role(), role) << name.toStdString();
+        EXPECT_EQ(told->state().modal, role == QAccessible::Dialog) << name.toStdString();
+    }
+}
+
+/// As assistive programs do it.
+TEST_F(EveryScreen, actsOnWhatIsAskedOfItsControls) {
+    auto* key = QAccessible::queryAccessibleInterface(
+        &program.control<SkinnedButton>(u"frm_Main"_s, u"btn_MainLinks"_s));
+    key->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(program.shell.form(u"frm_Links"_s)->isVisible());
+    EXPECT_TRUE(key->state().disabled) << "the page one is on";
+    auto& slider = program.control<ucSlider>(u"frm_GroundColorize"_s, u"vcRed"_s);
+    auto* told = QAccessible::queryAccessibleInterface(&slider);
+    told->valueInterface()->setCurrentValue(-500);
+    EXPECT_EQ(slider.value(), -100);
+    told->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    EXPECT_EQ(told->valueInterface()->currentValue().toInt(), -99);
 }
 
 TEST_F(EveryScreen, hasRoomForEachText) {

@@ -36,7 +36,7 @@ TEST_F(FlightScreenTest, listsTheFlightsInTheirColour) {
         ASSERT_EQ(list.rowCount(), 3);
         EXPECT_EQ(list.textOf(2, 0), u"Late Rain"_s);
         EXPECT_EQ(list.storedColour(1), qRgb(0, 101, 161));
-        EXPECT_EQ(list.selectedNames(), QStringList());
+        EXPECT_EQ(list.selectedNames(), QStringList{u"Evening"_s});
         dialog.cancel();
     });
     EXPECT_FALSE(modal.FlightSelected);
@@ -64,6 +64,15 @@ TEST_F(FlightScreenTest, aClickChoosesAndOnlyOkOrADoubleClickConfirms) {
     EXPECT_EQ(modal.SelectedFlightName, u"Ünten"_s);
 }
 
+TEST_F(FlightScreenTest, theFirstFlightIsChosenFromTheStart) {
+    show([](DialogForm&, SetTable& list) {
+        EXPECT_TRUE(list.hasFocus());
+        QTest::keyClick(&list, Qt::Key_Return);
+    });
+    EXPECT_TRUE(modal.FlightSelected);
+    EXPECT_EQ(modal.SelectedFlightName, u"Evening"_s);
+}
+
 TEST_F(FlightScreenTest, aMissingListIsToldAndNothingIsListed) {
     program.install.files.remove(program.install.home() / u"Flights\\flights.cfg");
     QString title;
@@ -73,6 +82,8 @@ TEST_F(FlightScreenTest, aMissingListIsToldAndNothingIsListed) {
     });
     show([](DialogForm& dialog, SetTable& list) {
         EXPECT_EQ(list.rowCount(), 0);
+        dialog.ok();
+        EXPECT_TRUE(dialog.isVisible()) << "there is nothing to start";
         dialog.cancel();
     });
     EXPECT_EQ(title, u"Morvane Fatal Error"_s);

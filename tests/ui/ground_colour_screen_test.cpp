@@ -3,6 +3,7 @@
 #include "ground/slider_steps.h"
 #include "support/printing.h"
 #include "support/window_program.h"
+#include "ui/controls/option_picture.h"
 #include "ui/controls/picture_frame.h"
 #include "ui/controls/set_table.h"
 #include "ui/controls/slider.h"
@@ -163,6 +164,19 @@ TEST_F(GroundColourScreenTest, aFavouriteIsNamedByKeysAndListed) {
     EXPECT_EQ(set->ColorSettings, u"0:10:0:0:0:0"_s);
     EXPECT_EQ(set->CloudCover, u"Mostly Clear"_s);
     EXPECT_EQ(set->Actvated, u"False"_s);
+    const GroundSelection& selection = program.session.ground;
+    EXPECT_EQ(list.selectedNames(), QStringList{set->TextureSet}) << "as if it had been clicked";
+    EXPECT_EQ(selection.SelectedGroundSet + u'|' + selection.SelectedGroundCover,
+              set->TextureSet + u"|Mostly Clear"_s);
+    EXPECT_EQ(program.control<SkinnedButton>(u"frm_MVTextures"_s, u"btn_TextureActivate"_s).state(),
+              ButtonState::enabled);
+}
+
+TEST_F(GroundColourScreenTest, aClickOnItsDiscChoosesACover) {
+    for (auto* disc : page.findChildren<OptionPicture*>())
+        QTest::mouseClick(disc, Qt::LeftButton);
+    EXPECT_TRUE(program.control<QRadioButton>(pageName, u"optCloudCover4"_s).isChecked());
+    EXPECT_EQ(page.findChildren<OptionPicture*>().size(), 5);
 }
 
 } // namespace

@@ -91,6 +91,27 @@ TEST_F(GroundSetsScreenTest, onlyAClickOffersDeactivation) {
     EXPECT_EQ(selection.SelectedGroundSet, u"2-Storm"_s);
 }
 
+TEST_F(GroundSetsScreenTest, aDoubleClickInstallsWhatHasFilesAndActivatesWhatHasNone) {
+    open();
+    const auto doubleClick = [&](int row) {
+        const QPoint place = list->visualItemRect(list->topLevelItem(row - 1)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, place);
+    };
+    QTimer declining; // the matching sky, the start of the simulator, and that folders are missing
+    QObject::connect(&declining, &QTimer::timeout, [this] {
+        Form* message = program.shell.loadedForm(u"frm_Msg"_s);
+        if (message && message->button(u"btn_Ok"_s)->isVisible()) message->cancel();
+    });
+    declining.start(0);
+    doubleClick(2);
+    EXPECT_EQ(list->storedColour(2), red) << "it is installed";
+    doubleClick(3);
+    EXPECT_EQ(list->textOf(3, 1), u"True"_s);
+    EXPECT_EQ(list->selectedNames(), QStringList{u"3-Haze"_s});
+}
+
 TEST_F(GroundSetsScreenTest, clicksTakeRowsInHand) {
     open();
     clickRow(3);

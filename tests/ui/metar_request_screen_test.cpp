@@ -59,7 +59,7 @@ TEST_F(MetarRequestTest, aStartShowsTheTableOnTheSplash) {
     row.report.WxFinderIcao = u"KSEA"_s;
     clsWxFinderData(session).insertDecodedMetar(row);
     EXPECT_TRUE(clsWxFinders::reload(session));
-    EXPECT_EQ(text.text(), u"Loading Metars from Database. Please Wait.............."_s);
+    EXPECT_EQ(text.text(), u"Loading Metars from Database. Please Wait............."_s);
     EXPECT_FALSE(program.user.isMessageVisible());
 }
 

@@ -167,6 +167,9 @@ TEST_F(NightScreensTest, aFavouriteIsNamedAndListed) {
     ASSERT_EQ(list->rowCount(), 4);
     EXPECT_EQ(list->textOf(4, 0) + list->textOf(4, 1), u"4-ColdFalse"_s);
     EXPECT_EQ(findNightSet(program.session, u"4-Cold"_s)->ColorSettings, u"0:-6:-6:16:0:0"_s);
+    EXPECT_EQ(list->selectedNames(), QStringList{u"4-Cold"_s}) << "as if it had been clicked";
+    EXPECT_EQ(program.session.night.SelectedNightSet, u"4-Cold"_s);
+    EXPECT_EQ(program.session.night.selectedRows, QStringList{u"4-Cold"_s});
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "ui/controls/set_table.h"
 
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <gtest/gtest.h>
@@ -130,22 +131,36 @@ TEST_F(OptionsScreens, aBackupIsMadeChosenAndRestored) {
     EXPECT_EQ(titlesDuring([&] { program.press(u"frm_Config"_s, u"btn_backup"_s); }).value(0),
               u"Create New Backup?"_s);
     test::writeFile(texture, "a set");
-    const auto choose = [&](bool isChosen) {
-        program.whenShown(u"frm_BackupList"_s, [isChosen](DialogForm& dialog) {
+    const auto restoreBy = [&](const std::function<void(DialogForm&, SetTable&)>& choose) {
+        test::writeFile(texture, "a set");
+        program.whenShown(u"frm_BackupList"_s, [choose](DialogForm& dialog) {
             auto* list = dialog.findChild<SetTable*>(u"lstBackupList"_s);
             EXPECT_EQ(list->textOf(1, 0), u"1-Backup"_s);
             EXPECT_FALSE(list->textOf(1, 1).contains(u"partial"_s));
-            if (isChosen)
-                QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                                  list->visualItemRect(list->topLevelItem(0)).center());
+            EXPECT_EQ(list->selectedNames(), QStringList{u"1-Backup"_s});
+            EXPECT_TRUE(list->hasFocus());
             dialog.ok();
+            EXPECT_TRUE(dialog.isVisible()) << "OK without a choice";
+            choose(dialog, *list);
         });
         program.press(u"frm_Config"_s, u"btn_Restore_Backup"_s);
+        return test::readFile(texture);
     };
-    choose(false);
-    EXPECT_EQ(test::readFile(texture), "a set") << "OK without a choice";
-    choose(true);
-    EXPECT_EQ(test::readFile(texture), own);
+    EXPECT_EQ(restoreBy([](DialogForm& dialog, SetTable&) { dialog.cancel(); }), "a set");
+    EXPECT_EQ(restoreBy([](DialogForm& dialog, SetTable& list) {
+                  QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                                    list.visualItemRect(list.topLevelItem(0)).center());
+                  dialog.ok();
+              }),
+              own);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Space, Qt::Key_Return})
+        EXPECT_EQ(restoreBy([key](DialogForm& dialog, SetTable& list) {
+                      QTest::keyClick(&list, key);
+                      EXPECT_TRUE(dialog.isVisible()) << "the first key only chooses";
+                      QTest::keyClick(&list, Qt::Key_Return);
+                  }),
+                  own)
+            << key;
 }
 
 TEST_F(OptionsScreens, thePilotsOwnTexturesBecomeBaseImages) {
@@ -174,15 +189,35 @@ TEST_F(OptionsScreens, thePilotsOwnTexturesBecomeBaseImages) {
 }
 
 TEST_F(OptionsScreens, aPartialBackupIsMarkedWithItsDate) {
-    session.modal.backups = {{u"3-Backup"_s, QDateTime(QDate(2026, 7, 14), QTime(14, 7)), false}};
+    session.modal.backups = {{u"3-Backup"_s, QDateTime(QDate(2026, 7, 14), QTime(14, 7)), false},
+                             {u"4-Backup"_s, QDateTime(QDate(2026, 7, 15), QTime(14, 7)), true}};
     program.whenShown(u"frm_BackupList"_s, [](DialogForm& dialog) {
         const auto* list = dialog.findChild<SetTable*>(u"lstBackupList"_s);
         EXPECT_EQ(list->textOf(1, 0) + u'|' + list->textOf(1, 1),
                   u"3-Backup|2026/07/14 14:07:00 (partial)"_s);
+        EXPECT_EQ(list->selectedNames(), QStringList{u"4-Backup"_s}) << "the newest";
         dialog.cancel();
     });
     program.user.showModal(Screen::frm_BackupList);
     EXPECT_FALSE(session.modal.backupConfirmed);
+}
+
+TEST_F(OptionsScreens, theFolderBrowserOpensInTheFolderShown) {
+    const QString shown = program.install.home().native();
+    session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s, shown);
+    program.shell.goToPage(u"frm_Switcher"_s);
+    ASSERT_EQ(program.control<QLabel>(u"frm_Switcher"_s, u"lblFSFilesPathVal"_s).accessibleName(), shown);
+    QTimer timer;
+    QString opened;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        auto* browser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!browser) return;
+        opened = browser->directory().path();
+        browser->reject();
+    });
+    timer.start(0);
+    program.press(u"frm_Switcher"_s, u"btn_RegOK"_s);
+    EXPECT_EQ(opened, shown);
 }
 
 } // namespace

@@ -5,13 +5,19 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
 #include "ground/screens/ground_sets_screen.h"
+#include "imaging/window_region.h"
+#include "ui/controls/foot_line.h"
+#include "ui/controls/palette.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
 
+#include <QDesktopServices>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QTimer>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -49,6 +55,62 @@ TEST_F(ShellTest, swapsPagesWithOneChildAWindow) {
     program.press(u"frm_Main"_s, u"btn_Home"_s);
     EXPECT_EQ(links->parentWidget(), nullptr);
     EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
+}
+
+/// A page in front of another one hides it: nothing of it can be reached or read.
+TEST_F(ShellTest, showsOnePageOfAWindowAtATime) {
+    const auto& ownKey = program.control<SkinnedButton>(u"frm_Main"_s, u"btn_GroundInstall"_s);
+    EXPECT_TRUE(ownKey.isVisible());
+    for (const QString& key : {u"btn_About"_s, u"btn_Switcher"_s}) {
+        program.press(u"frm_Main"_s, key);
+        EXPECT_FALSE(ownKey.isVisible()) << key.toStdString();
+    }
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_TRUE(ownKey.isVisible());
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    const auto& listKey = program.control<SkinnedButton>(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+    EXPECT_TRUE(listKey.isVisible());
+    program.press(u"frm_MVTextures"_s, u"btn_Ground"_s);
+    EXPECT_FALSE(listKey.isVisible());
+    program.press(u"frm_MVTextures"_s, u"btn_TextureSets"_s);
+    EXPECT_TRUE(listKey.isVisible());
+}
+
+TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
+    program.press(u"frm_Main"_s, u"btn_FlightConfig"_s);
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    program.press(u"frm_MVTextures"_s, u"btn_Main"_s);
+    const Form* weather = shell.loadedForm(u"frm_WxControl"_s);
+    EXPECT_TRUE(weather->isVisible());
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"flight config"_s});
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_FALSE(weather->isVisible());
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
+    EXPECT_TRUE(program.control<SkinnedButton>(u"frm_Main"_s, u"btn_GroundInstall"_s).isVisible());
+}
+
+/// The keyboard is on the page and not on the key that led to it, and no window is a stop of its own.
+TEST_F(ShellTest, givesEachPageAFirstFocus) {
+    const std::pair<QString, QString> pages[] = {{u"frm_WxControl"_s, u"txtICAO"_s},
+                                                 {u"frm_Switcher"_s, u"chkWideFS"_s},
+                                                 {u"frm_Config"_s, u"lstMVMain"_s},
+                                                 {u"frm_About"_s, u"btn_Home"_s},
+                                                 {u"frm_MVTextures"_s, u"lstTextureSets"_s},
+                                                 {u"frm_GroundColorize"_s, u"optCloudCover0"_s},
+                                                 {u"frm_KMTextures"_s, u"lstSkyTextureSets"_s},
+                                                 {u"frm_NightTextures"_s, u"lstTextureSets"_s}};
+    for (const auto& [page, control] : pages) {
+        if (childPage(page))
+            shell.goToPage(page);
+        else
+            shell.showHost(page);
+        const QWidget* window = shell.form(page)->window();
+        ASSERT_NE(window->focusWidget(), nullptr) << page.toStdString();
+        EXPECT_EQ(window->focusWidget()->objectName(), control) << page.toStdString();
+        EXPECT_EQ(window->focusPolicy(), Qt::NoFocus);
+    }
+    shell.goHome();
+    EXPECT_EQ(shell.form(u"frm_Main"_s)->focusWidget()->objectName(), u"btn_GroundInstall"_s);
 }
 
 TEST_F(ShellTest, attachesAPageAnewThatStandsThere) {
@@ -124,6 +186,46 @@ TEST_F(ShellTest, startsWithoutASkinAndSaysSoOnce) {
     EXPECT_TRUE(shell.form(u"frm_Main"_s)->mask().isEmpty()) << "a plain window";
     EXPECT_FALSE(shell.form(u"frm_Main"_s)->windowFlags() & Qt::FramelessWindowHint);
     shell.reportMissingSkin(); // would wait for an answer that never comes
+}
+
+/// A picture of twice the size has a finer edge than the outline; what shows between them must not be white.
+TEST_F(ShellTest, isDarkUpToItsOutline) {
+    QImage picture(880, 580, QImage::Format_RGB888);
+    picture.fill(qRgb(255, 0, 255));
+    QPainter(&picture).fillRect(picture.rect().adjusted(2, 2, -2, -2), QColor::fromRgb(palette::bezel));
+    const FilePath media = program.install.home() / u"Media";
+    ASSERT_TRUE(picture.save((media / u"MVSkyInterface.bmp").native()));
+    WindowRegion whole{picture.rect(), {picture.rect()}};
+    test::writeFile(media / u"MainRegion.dat", writeWindowRegion(whole));
+    const QImage shown = shell.form(u"frm_KMTextures"_s)->grab().toImage();
+    EXPECT_EQ(shown.pixel(0, 0), palette::outline);
+    EXPECT_EQ(shown.pixel(shown.width() / 2, shown.height() - 8), palette::bezel);
+}
+
+/// A page's own text goes and comes with the page; what a job said is on whichever window is shown next.
+TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
+    const auto lineOf = [this](const QString& window) {
+        return shell.form(window)->findChild<FootLine*>()->shown().text;
+    };
+    shell.goToPage(u"frm_About"_s);
+    shell.screen<PageForm>(u"frm_About"_s).setFootText({u"a text of its own"_s});
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
+    shell.goToPage(u"frm_Links"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
+    shell.goToPage(u"frm_About"_s);
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
+    shell.goToPage(u"frm_About"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
+
+    for (const QString& window : windowNames)
+        shell.form(window);
+    program.user.tellDone({u"2 texture sets deleted"_s});
+    for (const QString& window : windowNames)
+        EXPECT_EQ(lineOf(window), u"2 texture sets deleted"_s);
+    QTest::mouseClick(shell.form(u"frm_Main"_s), Qt::RightButton);
+    EXPECT_EQ(lineOf(u"frm_MVTextures"_s), QString());
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
 }
 
 TEST_F(ShellTest, saysOnItsKeyThatALinkHasNoAddress) {
@@ -245,5 +347,55 @@ TEST_F(ShellTest, aKeyWaitsForASecondClickWhenItsListHasChanged) {
     EXPECT_TRUE(program.install.installedSets().isEmpty());
 }
 
+/// Stands for the program that opens addresses.
+struct Browser : QObject {
+    Q_OBJECT
+public:
+    Q_SLOT void open(const QUrl& address) { opened << address.toString(); }
+    QStringList opened;
+};
+
+TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
+    const QString help = (program.install.home() / u"MV Help\\index.html").native();
+    test::writeFile(program.install.home() / u"MV Help\\index.html", "help");
+    program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"UpdateServer"_s,
+                                          u"http://updates.example.org"_s);
+    QCoreApplication::setApplicationVersion(u"2.1.0"_s);
+    const QString update = u"http://updates.example.org/updates.asp?product=Morvane&version=2.1.0"_s;
+    const QString noProgram = u"There is no program here that opens "_s;
+    struct Case {
+        std::function<void()> open;
+        QString address, said; ///< what a browser gets, and what is said where there is none
+    };
+    const Case cases[] = {
+        {[&] { shell.openHelp(); }, u"file://"_s + help, noProgram + help},
+        {[&] { shell.openWebPage(u"https://example.org/"_s); }, u"https://example.org/"_s,
+         noProgram + u"https://example.org/"_s},
+        {[&] { shell.openUpdatePage(); }, update, noProgram + update},
+        {[&] { shell.openWebPage(u"file:///etc/passwd"_s, u"HomePage"_s); },
+         {},
+         u"There is no address yet. It would stand in the registry value \"HomePage\" of Morvane."_s},
+    };
+    Browser browser;
+    for (const Case& each : cases) {
+        QString said;
+        program.whenShown(u"frm_Msg"_s, [&](DialogForm& form) {
+            said = form.findChild<QLabel*>(u"lbl_Message"_s)->text();
+            form.ok();
+        });
+        each.open();
+        EXPECT_EQ(said, each.said);
+        if (each.address.isEmpty()) continue;
+        for (const QString& scheme : {u"http"_s, u"https"_s, u"file"_s})
+            QDesktopServices::setUrlHandler(scheme, &browser, "open");
+        each.open();
+        EXPECT_EQ(browser.opened.takeLast(), each.address);
+        for (const QString& scheme : {u"http"_s, u"https"_s, u"file"_s})
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+}
+
 } // namespace
 } // namespace morvane
+
+#include "shell_test.moc" // of the browser

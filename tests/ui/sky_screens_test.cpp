@@ -213,6 +213,7 @@ TEST_F(SkySetsScreenTest, createsSetsFromTheHomeScreenAndFromTheList) {
     open();
     EXPECT_EQ(column(3).mid(3), QStringList(2, u"Sunny"_s));
     EXPECT_EQ(column(2).mid(3), QStringList(2, u"Mostly Clear"_s));
+    EXPECT_EQ(list->selectedNames(), QStringList{list->textOf(5, 0)}) << "the last one made";
     program.confirmNext(u"frm_SelectSkyTexture"_s); // what was entered stands
     program.press(hostName, u"btn_SkytextureCreate"_s);
     ASSERT_EQ(list->rowCount(), 7);
@@ -283,6 +284,18 @@ TEST_F(SkyColourScreenTest, theArrowKeysGoFromGroupToGroup) {
     }
     QTest::keyClick(palette, Qt::Key_Left);
     EXPECT_EQ(palette->accessibleDescription(), skyGroup(9).text);
+}
+
+TEST_F(SkyColourScreenTest, theTabKeyComesToThePaletteBeforeTheSliders) {
+    open();
+    QApplication::setActiveWindow(program.shell.form(hostName));
+    program.control<QPushButton>(pageName, u"cmdSkyResetAll"_s).setFocus();
+    QStringList visited;
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(program.shell.form(hostName)->focusWidget(), Qt::Key_Tab);
+        visited << program.shell.form(hostName)->focusWidget()->objectName();
+    }
+    EXPECT_EQ(visited.join(u' '), u"picSkySource vcSkySat cmdSkySatMinus"_s);
 }
 
 TEST_F(SkyColourScreenTest, theTipTellsWhatLiesUnderThePointer) {
@@ -439,6 +452,16 @@ TEST(SkySetCounts, theBoxesOfTheBaseSetsEnableTheirCounts) {
             box->click();
         }
         dialog.findChild<QCheckBox*>(u"chkStsGroup3"_s)->click();
+        dialog.findChild<QCheckBox*>(u"chkStsGroup6"_s)->click();
+        dialog.findChild<QCheckBox*>(u"chkStsGroup6"_s)->setFocus();
+        QStringList visited;
+        for (int i = 0; i < 6; ++i) {
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            visited << dialog.focusWidget()->objectName();
+        }
+        EXPECT_EQ(visited.join(u' '), u"txtNoClouds txtLightClouds txtMediumClouds txtLightOvcClouds "
+                                      "txtOvercastClouds btn_Ok"_s);
+        dialog.findChild<QCheckBox*>(u"chkStsGroup6"_s)->click();
         auto* overcast = dialog.findChild<QLineEdit*>(u"txtOvercastClouds"_s);
         overcast->setFocus();
         QTest::keyClicks(overcast, u"12a"_s);

@@ -1,5 +1,6 @@
 #include "support/printing.h"
 #include "support/window_program.h"
+#include "ui/controls/foot_line.h"
 #include "ui/dispatch_table.h"
 #include "weather/directory_rows.h"
 #include "weather/screens/airport_list.h"
@@ -26,7 +27,7 @@ struct WeatherScreenTest : testing::Test {
             session,
             {{u"kbfi"_s, u"Boeing Field"_s, u"Seattle"_s, u"Washington"_s, u"United States"_s, u"47.53"_s,
               u"-122.30"_s},
-             {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41.98"_s,
+             {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41,98"_s,
               u"-87.9"_s},
              {u"DIAP"_s, u"Abidjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
         test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
@@ -99,6 +100,10 @@ TEST_F(WeatherScreenTest, eachLetterSearchesAndAnEmptiedBoxDoesNot) {
     EXPECT_EQ(codes(), u"KBFI"_s);
     type(u"txtAirportName"_s, u"o'h"_s);
     EXPECT_EQ(codes(), u"KORD"_s);
+    EXPECT_EQ(on<QLineEdit>(u"txtICAO"_s).text() + on<QLineEdit>(u"txtCity"_s).text(), QString());
+    type(u"txtICAO"_s, u"di"_s);
+    EXPECT_EQ(on<QLineEdit>(u"txtAirportName"_s).text(), QString()) << "nothing is found by it any more";
+    EXPECT_EQ(codes(), u"DIAP"_s);
     type(u"txtCity"_s, u"nowhere"_s);
     EXPECT_EQ(label(u"lblAirportCount"_s), u"No Airports Found"_s);
 }
@@ -166,6 +171,9 @@ TEST_F(WeatherScreenTest, whatIsChangedElsewhereIsShown) {
     EXPECT_EQ(support.text(), u"Click here for ASv6 Information"_s);
     EXPECT_TRUE(support.isEnabled());
     program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_EQ(label(u"lblASv6FileTime"_s), QString()) << "nothing was imported yet";
+    weather.ASv6Imported = true;
+    program.user.refreshScreen(Screen::frm_WxControl);
     EXPECT_TRUE(on<QRadioButton>(u"optDestAirport"_s).isChecked());
     EXPECT_EQ(label(u"lblDestMetar"_s), u"KSEA"_s);
     EXPECT_EQ(on<SkinnedButton>(u"btn_FlyNow"_s).state(), ButtonState::disabled);
@@ -177,6 +185,32 @@ TEST_F(WeatherScreenTest, whatIsChangedElsewhereIsShown) {
     EXPECT_EQ(support.text(), u"ASv6 Detected, update required, click to update ASv6"_s);
     EXPECT_TRUE(support.isEnabled());
     EXPECT_EQ(on<SkinnedButton>(u"btn_FlyNow"_s).state(), ButtonState::enabled);
+}
+
+TEST_F(WeatherScreenTest, theAgeOfTheReportsStandsBelowThePage) {
+    const FootLine& line = *program.shell.form(u"frm_Main"_s)->findChild<FootLine*>();
+    EXPECT_EQ(line.shown().text, u"No reports yet"_s) << "the two of the table were never loaded";
+    session.adoConn->execute(
+        u"UPDATE DECODED_METAR SET METAR_DATE = '30', METAR_TIME = '2010' WHERE METAR_ICAO = 'KSEA'"_s);
+    clsWxFinders::reload(session);
+    program.install.clock.now = QDateTime(QDate(2007, 5, 30), QTime(21, 14), Qt::UTC);
+    program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_EQ(line.shown().text, u"2 reports, the youngest of 20:10Z 30 May, 64 minutes old"_s);
+    EXPECT_EQ(line.shown().remark, u"Source: no weather server is set"_s);
+    program.press(u"frm_Main"_s, u"btn_About"_s);
+    EXPECT_EQ(line.shown().text, QString());
+}
+
+TEST_F(WeatherScreenTest, aLinkWithoutAnAddressSaysWhereItWouldStand) {
+    QString said;
+    program.whenShown(u"frm_Msg"_s, [&](DialogForm& form) {
+        said = form.findChild<QLabel*>(u"lbl_Message"_s)->text();
+        form.ok();
+    });
+    QTest::mouseClick(&on<LinkLabel>(u"lblASv6Support"_s), Qt::LeftButton);
+    EXPECT_EQ(
+        said,
+        u"There is no address yet. It would stand in the registry value \"ActiveSkyPage\" of Morvane."_s);
 }
 
 TEST_F(WeatherScreenTest, everyKeyOfThePageDoesSomething) {

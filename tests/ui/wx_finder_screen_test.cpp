@@ -89,9 +89,15 @@ TEST_F(WxFinderScreenTest, everyChangeFiltersAnew) {
 TEST_F(WxFinderScreenTest, theReportChosenBecomesAnEndOfTheFlight) {
     open([this](DialogForm& dialog) {
         const SkinnedButton& ok = *dialog.button(u"btn_Ok"_s);
-        EXPECT_EQ(ok.state(), ButtonState::disabled);
+        EXPECT_EQ(session.wxFilter.WxSelectedIcao, "K000") << "the first is chosen from the start";
+        EXPECT_TRUE(list->hasFocus());
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txtFilter"_s), u"X"_s);
+        EXPECT_EQ(ok.state(), ButtonState::disabled) << "nothing found, nothing to choose";
         QTest::keyClick(&dialog, Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible());
+        dialog.findChild<QLineEdit*>(u"txtFilter"_s)->clear();
+        QTest::keyClick(list, Qt::Key_Down);
+        EXPECT_EQ(session.wxFilter.WxSelectedIcao, "K001");
         click(7);
         EXPECT_EQ(session.wxFilter.WxSelectedIcao, "K007");
         QTest::mouseClick(dialog.button(u"btn_Ok"_s), Qt::LeftButton);
@@ -100,13 +106,21 @@ TEST_F(WxFinderScreenTest, theReportChosenBecomesAnEndOfTheFlight) {
     EXPECT_EQ(session.weather.DepAirportName, "Own Field");
     EXPECT_TRUE(session.weather.DepMetar.startsWith(u"K007 "));
     EXPECT_EQ(session.weather.DestMetar, "");
-    open([this](DialogForm& dialog) {
-        QTest::mouseClick(dialog.findChild<QRadioButton*>(u"optAirport1"_s), Qt::LeftButton);
-        click(7, true);
-        EXPECT_FALSE(dialog.isVisible());
-    });
+    for (const bool isTaken : {false, true})
+        open([&](DialogForm& dialog) {
+            EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport0"_s)->isChecked());
+            QTest::mouseClick(dialog.findChild<QRadioButton*>(u"optAirport1"_s), Qt::LeftButton);
+            EXPECT_TRUE(session.weather.optDepAirport) << "the page's choice waits for OK";
+            isTaken ? click(7, true) : dialog.cancel();
+            EXPECT_FALSE(dialog.isVisible());
+        });
     EXPECT_TRUE(session.weather.optDestAirport && !session.weather.optDepAirport);
     EXPECT_EQ(session.weather.DestCity, "Home");
+    open([](DialogForm& dialog) {
+        EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport1"_s)->isChecked()) << "as on the page";
+        dialog.cancel();
+    });
+    session.weather.optDepAirport = true;
     int told = 0;
     program.whenShown(u"frm_Msg"_s, [&](DialogForm& message) {
         ++told;

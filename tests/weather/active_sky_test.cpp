@@ -6,7 +6,9 @@
 #include "weather/weather_refresh.h"
 #include "weather/wx_finders.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -67,6 +69,8 @@ protected:
     QString found() {
         user.messages.clear();
         findActiveSky(session);
+        EXPECT_TRUE(user.messages.empty()) << "it is told to those who use it";
+        tellActiveSkyProblem(session);
         const WeatherState& weather = session.weather;
         return QString(weather.ASv6Present ? u"present "_s : u"absent "_s) +
                (weather.ASv6VersionOK ? u"supported"_s : u"refused"_s);
@@ -110,12 +114,17 @@ TEST_F(ActiveSkyTest, isFoundStepByStep) {
     makeLocal();
     EXPECT_EQ(found(), u"present supported"_s);
     EXPECT_TRUE(session.weather.ASv6Local && user.told().isEmpty());
+    install.files.remove(exported);
+    install.files.makeFolder(exported);
+    EXPECT_EQ(found(), u"absent supported"_s);
+    EXPECT_EQ(user.told(), QStringList{u"Error|Morvane Error|Error opening file"_s});
     setValue(u"Install_Path"_s, u" "_s);
     EXPECT_EQ(found(), u"absent refused"_s);
 }
 
 TEST_F(ActiveSkyTest, itsFileGivesAllItsLinesAndTheCycleItsOwnTime) {
     makeSupported();
+    EXPECT_FALSE(session.weather.ASv6Imported);
     const std::pair<QByteArray, int> cases[] = {{"EHAM 1\r\nKSEA 141353Z\r\n", 2}, {"EGLL 3\r\nLFPG 4", 4}};
     for (const auto& [text, count] : cases) {
         writeExport(text, {14, 7});
@@ -127,6 +136,10 @@ TEST_F(ActiveSkyTest, itsFileGivesAllItsLinesAndTheCycleItsOwnTime) {
     EXPECT_EQ(ksea->WxFinderCycle + ksea->WxFinderMonth + ksea->WxFinderYear, u"14May2007"_s)
         << "the file's hour, the clock's month and year";
     EXPECT_EQ(session.weather.MetarCycleDay, 14);
+    EXPECT_TRUE(session.weather.ASv6Imported);
+    EXPECT_EQ(user.calls.filter(u"done "_s),
+              (QStringList{u"done 2 reports, the youngest of 13:53Z 14 May, 16 days old"_s,
+                           u"done 4 reports, the youngest of 13:53Z 14 May, 16 days old"_s}));
     install.files.remove(exported);
     const auto* before = session.gWxFinders.get();
     EXPECT_FALSE(session.gWxFinders->getMetarsFromASv6());
@@ -161,6 +174,22 @@ TEST_F(ActiveSkyTest, isStartedOnlyHereAndOnlyWhenItDoesNotRun) {
                                   u"......ASv6 Writing File......|"_s}));
     EXPECT_FALSE(session.weather.ASv6Busy || user.isMessageVisible());
 }
+
+#ifndef Q_OS_WIN
+TEST_F(ActiveSkyTest, whatARunnerRunsIsKnownByItsName) {
+    const QString title = u"AS %1"_s.arg(QCoreApplication::applicationPid());
+    EXPECT_FALSE(systemActiveSky().isWindowOpen(title));
+    QProcess runner;
+    runner.start(u"sh"_s,
+                 {u"-c"_s, u"read line; true"_s, u"Z:\\Program Files\\"_s + title.toLower() + u".EXE"_s});
+    ASSERT_TRUE(runner.waitForStarted());
+    EXPECT_TRUE(systemActiveSky().isWindowOpen(title));
+    EXPECT_FALSE(systemActiveSky().isWindowOpen(title.mid(1))) << "no part of a name";
+    runner.closeWriteChannel();
+    ASSERT_TRUE(runner.waitForFinished());
+    EXPECT_FALSE(systemActiveSky().isWindowOpen(title));
+}
+#endif
 
 TEST_F(ActiveSkyTest, aMissingFileIsWaitedForFromNowOn) {
     makeSupported();

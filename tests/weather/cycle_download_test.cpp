@@ -38,7 +38,7 @@ protected:
     test::TemporaryFolder folder;
     test::FaultyFileSystem files;
     FilePath target = folder / u"09Z.txt";
-    CycleDownload::Limits limits{5'000, 4 << 20};
+    CycleDownload::Limits limits{5'000, 300 << 10};
     std::function<bool()> isCancelled = [] { return false; };
     std::pair<std::int64_t, std::int64_t> progress;
 };
@@ -47,8 +47,7 @@ TEST_F(CycleDownloadTest, keepsTheBytesAsTheyAre) {
     const std::pair<const char*, QByteArray> cases[] = {
         {"reports", "KSEA 230053Z\nEHAM 230055Z\n"},
         {"NULs and bytes above 127", QByteArray("KSEA\0\xFF\xE9\n", 8)},
-        {"a megabyte line", QByteArray(1 << 20, 'A')},
-        {"nothing at all", ""},
+        {"a line of a quarter megabyte", QByteArray(1 << 18, 'A')},
     };
     for (const auto& [what, bytes] : cases) {
         EXPECT_EQ(fetchFrom([sent = bytes](const QByteArray&) { return LoopbackServer::textReply(sent); }),
@@ -56,6 +55,45 @@ TEST_F(CycleDownloadTest, keepsTheBytesAsTheyAre) {
             << what;
         EXPECT_EQ(test::readFile(target), bytes) << what;
         EXPECT_EQ(progress, std::pair(std::int64_t{bytes.size()}, std::int64_t{bytes.size()})) << what;
+    }
+}
+
+/// A kept sample of packed bytes.
+QByteArray sample(const QString& name) {
+    return test::readFile(FilePath(QStringLiteral(MORVANE_GZIP_SAMPLES_DIR)) / name);
+}
+
+Reply packedReply(const QByteArray& encoding, const QByteArray& body) {
+    const QByteArray head = encoding.isEmpty() ? "" : "Content-Encoding: " + encoding + "\r\n";
+    return {"HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: " + QByteArray::number(body.size()) +
+            "\r\n" + head + "\r\n" + body};
+}
+
+TEST_F(CycleDownloadTest, aPackedBodyIsUnpackedOrRefusedWithItsReason) {
+    const QString damaged = u"the file is compressed, and damaged or cut off"_s,
+                  page = u"the file is a page instead of reports"_s;
+    const std::tuple<QByteArray, QByteArray, QString> cases[] = {
+        {"gzip", sample(u"reports.gz"_s), u"done"_s},
+        {"X-GZip", sample(u"named.gz"_s), u"done"_s},
+        {"", sample(u"two_members_padded.gz"_s), u"done"_s},
+        {"identity", sample(u"reports.gz"_s), u"done"_s},
+        {"gzip", sample(u"cut_off.gz"_s), damaged},
+        {"", sample(u"wrong_sum.gz"_s), damaged},
+        {"", "\x1F\x8B", damaged},
+        {"gzip", sample(u"far_too_large.gz"_s), u"the file is far too large when unpacked"_s},
+        {"gzip", sample(u"twice.gz"_s), u"the file is compressed more than once"_s},
+        {"gzip", sample(u"page.gz"_s), page},
+        {"gzip", "EHAM 230055Z\n", u"the server sends it packed as \"gzip\""_s},
+        {"br", "EHAM 230055Z\n", u"the server sends it packed as \"br\""_s},
+    };
+    test::writeFile(target, "of before");
+    for (const auto& [encoding, body, end] : cases) {
+        const Reply reply = packedReply(encoding, body);
+        const bool isTaken = end == u"done";
+        EXPECT_EQ(fetchFrom([&](const QByteArray&) { return reply; }), end) << encoding.toStdString();
+        EXPECT_EQ(test::readFile(target).left(4), isTaken ? "KSEA" : "of b") << end.toStdString();
+        EXPECT_EQ(test::readFile(target).count('\n'), isTaken ? 2 : 0);
+        test::writeFile(target, "of before");
     }
 }
 
@@ -88,8 +126,14 @@ TEST_F(CycleDownloadTest, aFailureLeavesTheFileOfBefore) {
         {"nothing of a body", headed("Content-Length: 400\r\n", ""), {}},
         {"a page by its type", headed("Content-Type: text/HTML; charset=utf-8\r\n", "EHAM"), u"page"_s},
         {"a page by its text", headed("Content-Type: text/plain\r\n", "<!doctype html>"), u"page"_s},
+        {"a page behind a mark and blanks", headed("", "\xEF\xBB\xBF \r\n\t<html>"), u"page"_s},
+        {"a page in wide letters", headed("", QByteArray("\xFE\xFF\0\n\0<\0h", 8)), u"page"_s},
+        {"an object", headed("", "\n{\"error\": 1}"), u"page"_s},
+        {"a list", headed("", " []"), u"page"_s},
+        {"nothing at all", headed("Content-Length: 0\r\n", ""), u"an empty file"_s},
+        {"nothing but blanks", headed("", "\xEF\xBB\xBF \r\n\n"), u"an empty file"_s},
         {"no head", {"EHAM 230055Z\r\n"}, {}},
-        {"a file without end", headed("", QByteArray(5 << 20, 'A')), u"too large"_s},
+        {"a file without end", headed("", QByteArray(1 << 19, 'A')), u"too large"_s},
     };
     test::writeFile(target, "of before");
     for (const Case& testCase : cases) {

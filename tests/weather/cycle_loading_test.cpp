@@ -155,6 +155,57 @@ TEST_F(CycleLoading, aStoreThatCannotBeWrittenEndsTheLoadWithOneMessage) {
     closeDatabase(session); // before its disk goes
 }
 
+TEST_F(CycleLoading, aStoreThatIsLockedIsWaitedForAndLeavesMemoryAsItWas) {
+    importLines("KSEA 010153Z\n");
+    const clsWxFinders* const before = session.gWxFinders.get();
+    install.clock.now = install.clock.now.addSecs(3600);
+    Store other;
+    other.open(install.home() / u"Morvane.mdb");
+    std::optional<StoreTransaction> lock(std::in_place, other);
+    int looks = 0;
+    user.onPump = [&] { ++looks; };
+    EXPECT_FALSE(importLines("EHAM 010255Z\n"));
+    EXPECT_EQ(looks, 1 + 7) << "the bar's, and between eight tries of a quarter second";
+    ASSERT_EQ(user.told().size(), 1);
+    EXPECT_TRUE(user.told()[0].contains(u"the database is locked"_s));
+    EXPECT_EQ(session.gWxFinders.get(), before);
+    EXPECT_EQ(session.gWxFinders->Count(), 1);
+    EXPECT_EQ(cycle(), u"2007/6/1 9"_s);
+    user.onPump = [&] { lock.reset(); };
+    EXPECT_TRUE(importLines("EHAM 010255Z\n"));
+    EXPECT_EQ(session.gWxFinders->Count(), 2);
+    EXPECT_EQ(cycle(), u"2007/6/1 10"_s);
+    EXPECT_EQ(user.told().size(), 1);
+}
+
+TEST_F(CycleLoading, aPackedFileIsReadAndAPageIsNot) {
+    const FilePath samples(QStringLiteral(MORVANE_GZIP_SAMPLES_DIR));
+    EXPECT_TRUE(clsWxFinderData(session).importCycleFile(samples / u"reports.gz", CycleForm::plain));
+    EXPECT_EQ(rows(u"ICAO"_s), u"KSEA/EHAM"_s);
+    const FilePath page = samples / u"page.gz";
+    EXPECT_FALSE(clsWxFinderData(session).importCycleFile(page, CycleForm::plain));
+    EXPECT_EQ(user.told(), QStringList{u"Exclamation|File Download Error!|"_s + page.text() +
+                                       u": the file is a page instead of reports"_s});
+    EXPECT_EQ(rows(u"ICAO"_s), u"KSEA/EHAM"_s);
+}
+
+TEST_F(CycleLoading, aLoadMovesItsBarByItsLinesAndEndsWithTheAge) {
+    QByteArray text;
+    for (int station = 10; station < 19; ++station)
+        text += "XX" + QByteArray::number(station) + " 010853Z\n";
+    importLines(text);
+    // Ten lines, the empty last one with them, and it is never read.
+    const QStringList steps{u"progress 2"_s,  u"progress 12"_s, u"progress 22"_s, u"progress 32"_s,
+                            u"progress 42"_s, u"progress 52"_s, u"progress 62"_s, u"progress 72"_s,
+                            u"progress 82"_s, u"progress 92"_s};
+    EXPECT_EQ(user.calls.filter(u"progress"_s).first(10), steps);
+    EXPECT_EQ(user.calls.last(3), (QStringList{u"progress 100"_s, u"hide message"_s,
+                                               u"done 9 reports, the youngest of 08:53Z 1 Jun, "
+                                               "79 minutes old"_s}));
+    importLines({}, CycleForm::noaa);
+    EXPECT_EQ(user.calls.count(u"done 9 reports, the youngest of 08:53Z 1 Jun, 79 minutes old"_s), 2);
+}
+
 TEST_F(CycleLoading, refreshingFetchesTheHoursFile) {
     QByteArrayList paths;
     const LoopbackServer server([&](const QByteArray& path) {
@@ -186,10 +237,12 @@ TEST_F(CycleLoading, aRefreshThatFailsLeavesEverythingAndSaysWhy) {
     const clsWxFinders* const before = session.gWxFinders.get();
     const LoopbackServer server(
         [](const QByteArray&) { return LoopbackServer::statusReply("404 Not Found"); });
+    const LoopbackServer empty([](const QByteArray&) { return LoopbackServer::textReply(""); });
     const std::pair<QString, QString> cases[] = {{{}, u"No weather server is set."_s},
                                                  {u"ftp://127.0.0.1"_s, u"Type mismatch"_s},
                                                  {u"http://127.0.0.1:1"_s, u"could not be downloaded"_s},
-                                                 {server.address(), u"Not Found"_s}};
+                                                 {server.address(), u"Not Found"_s},
+                                                 {empty.address(), u"an empty file"_s}};
     for (const auto& [address, reason] : cases) {
         user.messages.clear();
         setValue(u"WeatherServer"_s, address);
@@ -213,10 +266,11 @@ TEST_F(CycleLoading, aCancelEndsTheDownloadWithoutAWord) {
 }
 
 TEST_F(CycleLoading, anEmptyCycleForAnEmptyTableEndsFlyNow) {
-    const LoopbackServer server([](const QByteArray&) { return LoopbackServer::textReply(""); });
+    const LoopbackServer server([](const QByteArray&) { return LoopbackServer::textReply("KSEA cut off"); });
     setValue(u"WeatherServer"_s, server.address());
     refreshWeather(session);
     EXPECT_EQ(user.told(), QStringList{noData});
+    EXPECT_TRUE(user.calls.filter(u"done"_s).isEmpty()) << "there is no age to tell";
     EXPECT_TRUE(session.weather.FlyNowDisabled);
     EXPECT_TRUE(user.calls.endsWith(u"refresh frm_WxControl"_s));
 }

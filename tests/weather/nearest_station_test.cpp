@@ -111,8 +111,13 @@ TEST(NearestStation, whichRowsCount) {
     session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = 'x' WHERE METAR_ICAO = 'TWIN'"_s);
     EXPECT_EQ(nearest(u"10"_s, u"10"_s), "ALSO");
     EXPECT_THROW(nearest(u""_s, u"10"_s), Error);
-    session.DecimalSep = u","_s;
-    EXPECT_EQ(nearest(u"9.9"_s, u"10.1"_s), "ALSO");
+    session.adoConn->execute(
+        u"UPDATE DECODED_METAR SET METAR_LAT = '10,4', METAR_LONG = ' 9,75 ' WHERE METAR_ICAO = 'TWIN'"_s);
+    for (const QString& separator : {u","_s, u"."_s}) {
+        session.DecimalSep = separator;
+        EXPECT_EQ(nearest(u"9.9"_s, u"10.1"_s), "ALSO");
+        EXPECT_EQ(nearest(u"10,3"_s, u"9,7"_s), "TWIN") << "another hand filled these tables with \",\"";
+    }
 }
 
 } // namespace

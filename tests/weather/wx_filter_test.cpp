@@ -97,7 +97,10 @@ TEST_F(WxFilterTest, theChosenStationBecomesThatEndOfTheFlight) {
     session.adoConn->execute(u"DELETE FROM AIRPORTDATA"_s);
     session.adoConn->execute(
         u"INSERT INTO AIRPORTDATA(ICAO, AIRPORT_NAME, CITY) VALUES ('KSEA', 'Tacoma', 'Seattle')"_s);
-    chooseFlightEnd(session, false);
+    session.weather.optDepAirport = false;
+    openWxFilter(session);
+    EXPECT_FALSE(filter.WxFinderIsDeparture) << "the end that the page shows";
+    session.weather.optDepAirport = true;
     filter.WxSelectedIcao = u"KSEA"_s;
     selectWxAirport(session);
     EXPECT_EQ(session.weather.DestAirportName, "Tacoma");

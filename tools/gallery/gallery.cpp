@@ -273,6 +273,18 @@ void Gallery::saveProgress() {
     user.hideMessage();
 }
 
+/// The last of all, as nobody clicks the line away.
+void Gallery::saveFootLine() {
+    Form& window = *shell_.form(u"frm_Main"_s);
+    window.show();
+    shell_.goToPage(u"frm_Config"_s);
+    UserInterface& user = shell_.session().user;
+    user.tellDone({u"1,183 textures backed up"_s, u"Backup 2, 21 Nov 2026, 23:47"_s});
+    save(u"job-done"_s, window);
+    user.tellDone({u"1,183 put back, 4 read-only left"_s, {}, true});
+    save(u"job-done-left-out"_s, window);
+}
+
 void Gallery::saveAll() {
     saveSplash();
     saveMainWindow();
@@ -286,6 +298,7 @@ void Gallery::saveAll() {
     saveDialogs();
     saveMessages();
     saveProgress();
+    saveFootLine();
 }
 
 } // namespace morvane

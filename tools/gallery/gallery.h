@@ -37,6 +37,7 @@ private:
     void saveDialogs();
     void saveMessages();
     void saveProgress();
+    void saveFootLine();
 
     Shell& shell_;
     QDir folder_;

@@ -13,6 +13,7 @@
 #include "ui/program_font.h"
 #include "ui/skin.h"
 #include "ui/window_user.h"
+#include "weather/wx_finders.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -37,6 +38,7 @@ int run(const FilePath& home, const QString& folder) {
     user.setShell(&shell);
     if (!startUp(session)) return 1;
     clsResourceFolders::reload(session);
+    clsWxFinders::reload(session);
     loadFlightFiles(session);
     Gallery gallery(shell, folder);
     gallery.saveAll();

@@ -57,7 +57,7 @@ void frm_AddFav::prepare() {
     txtFavName_->clear();
     txtFavDesc_->clear();
     storeDescription();
-    txtFavName_->setFocus();
+    setFirstFocus(txtFavName_);
 }
 
 void frm_AddFav::confirm() {

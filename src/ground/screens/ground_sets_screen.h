@@ -3,6 +3,8 @@
 #include "ground/texture_sample.h"
 #include "ui/set_list_form.h"
 
+#include <utility>
+
 namespace morvane {
 
 /// The window of the ground: its list page shows every ground set, and the selected one on a sample.
@@ -29,6 +31,7 @@ private:
     bool clickSet(int row) override;
     bool takeSet(const QString& listKey) override { return loadGroundSelection(listKey); }
     void noteRows(int) override;
+    QString takeMadeSet() override { return std::exchange(session().ground.madeSet, {}); }
     void showNoSet() override { openDefaultSample(); }
     void openDefaultSample();
 

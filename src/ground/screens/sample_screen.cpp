@@ -41,7 +41,7 @@ void frm_SelectTexture::prepare() {
     checkSample(*seasons_, sampleSeasons(), session().modal.selectedSeason);
     // The page begins with a city, and so does the dialog.
     checkSample(*types_, sampleTextureTypes(), session().modal.selectedTextureType);
-    seasons_->checkedButton()->setFocus();
+    setFirstFocus(seasons_->checkedButton());
 }
 
 void frm_SelectTexture::confirm() {

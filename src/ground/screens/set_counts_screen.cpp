@@ -15,7 +15,7 @@ frm_TsRequired::frm_TsRequired(Shell& shell)
 void frm_TsRequired::prepare() {
     for (CountEdit* box : boxes_)
         box->showCount();
-    boxes_[0]->setFocus();
+    setFirstFocus(boxes_[0]);
 }
 
 void frm_TsRequired::confirm() {

@@ -31,7 +31,7 @@ frm_SelectNightTexture::frm_SelectNightTexture(Shell& shell)
 
 void frm_SelectNightTexture::prepare() {
     checkSample(*samples_, nightSamples(), session().modal.selectedNightTexture);
-    samples_->checkedButton()->setFocus();
+    setFirstFocus(samples_->checkedButton());
 }
 
 void frm_SelectNightTexture::confirm() {

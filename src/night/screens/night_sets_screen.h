@@ -3,6 +3,8 @@
 #include "ground/texture_sample.h"
 #include "ui/set_list_form.h"
 
+#include <utility>
+
 namespace morvane {
 
 /// The window of the night: its list page shows every night set, and the selected one on a sample. Sets are
@@ -28,6 +30,7 @@ private:
     bool clickSet(int row) override;
     bool takeSet(const QString& listKey) override;
     void noteRows(int row) override;
+    QString takeMadeSet() override { return std::exchange(session().night.madeSet, {}); }
     void showNoSet() override { openFirstSample(); }
     void openFirstSample();
 

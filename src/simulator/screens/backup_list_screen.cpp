@@ -3,6 +3,8 @@
 #include "core/session.h"
 #include "ui/controls/set_table.h"
 
+#include <QKeyEvent>
+
 namespace morvane {
 
 frm_BackupList::frm_BackupList(Shell& shell)
@@ -13,8 +15,7 @@ frm_BackupList::frm_BackupList(Shell& shell)
     lstBackupList_->setGeometry(26, 88, 348, 190);
     lstBackupList_->setColumns({{u"Name"_s, 130}, {u"Date"_s, 200}});
     lstBackupList_->setSelectionMode(QAbstractItemView::SingleSelection);
-    connect(lstBackupList_, &SetTable::rowClicked, this,
-            [this](const QString& name) { session().modal.chosenBackup = name; });
+    connect(lstBackupList_, &SetTable::rowClicked, this, &frm_BackupList::choose);
     connect(lstBackupList_, &SetTable::itemDoubleClicked, this, &frm_BackupList::ok);
     addAnswerKeys(u"Click to restore selected backups."_s, u"Click to cancel the restore."_s);
 }
@@ -27,11 +28,26 @@ void frm_BackupList::popBackupList() {
         if (!backup.isComplete) date += u" (partial)"_s;
         lstBackupList_->addRow({backup.name, {backup.name, date}, {backup.name, date}});
     }
-    lstBackupList_->setFocus();
+    lstBackupList_->selectRow(lstBackupList_->rowCount());
+    allowOk(false);
+    setFirstFocus(lstBackupList_);
+}
+
+void frm_BackupList::choose(const QString& name) {
+    session().modal.chosenBackup = name;
+    allowOk(true);
 }
 
 void frm_BackupList::confirm() {
     session().modal.backupConfirmed = true;
+}
+
+void frm_BackupList::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && lstBackupList_->hasFocus() && !isOkAllowed())
+        choose(lstBackupList_->keyOf(lstBackupList_->currentIndex().row() + 1));
+    else
+        DialogForm::keyPressEvent(event);
 }
 
 } // namespace morvane

@@ -19,14 +19,17 @@ frm_flight::frm_flight(Shell& shell)
     addAnswerKeys(u"Click to start the selected flight."_s, u"Click to cancel."_s);
 }
 
-/// The flight chosen last stands selected, so that OK starts what is seen.
+/// The flight chosen last stands selected, else the first, so that OK starts what is seen.
 void frm_flight::prepare() {
     lstFlights_->clearRows();
     const QStringList names = savedFlights(session());
     for (const QString& name : names)
         lstFlights_->addRow({name, {name}, {name}, palette::textBlue});
-    lstFlights_->selectRow(static_cast<int>(names.indexOf(session().modal.SelectedFlightName)) + 1);
-    lstFlights_->setFocus();
+    QString& chosen = session().modal.SelectedFlightName;
+    if (!names.contains(chosen)) chosen = names.value(0);
+    lstFlights_->selectRow(static_cast<int>(names.indexOf(chosen)) + 1);
+    allowOk(!names.isEmpty());
+    setFirstFocus(lstFlights_);
 }
 
 void frm_flight::confirm() {

@@ -2,7 +2,6 @@
 
 #include "core/failure_report.h"
 #include "core/options.h"
-#include "core/registry.h"
 #include "core/session.h"
 #include "simulator/texture_switches.h"
 #include "ui/controls/labels.h"
@@ -128,18 +127,10 @@ void frm_Switcher::loadSwitcherValues() {
     lblFSFilesPath_->setVisible(!isWideClient);
     lblFSFilesPathVal_->setVisible(!isWideClient);
     button(u"btn_RegOK"_s)->setState(isWideClient ? ButtonState::disabled : ButtonState::enabled);
-    const QString path = isWideClient ? QString() : flightsFolder();
+    const QString path = isWideClient ? QString() : usersFlightsFolder(session());
     lblFSFilesPathVal_->setAccessibleName(path);
     lblFSFilesPathVal_->setText(
         lblFSFilesPathVal_->fontMetrics().elidedText(path, Qt::ElideMiddle, pathWidth));
-}
-
-/// What is stored is shown as it is, also when it is empty or gone: opening a page never asks.
-QString frm_Switcher::flightsFolder() const {
-    const QString& documents = session().MyDocumentsPath;
-    const QString usual = documents + u"Flight Simulator Files"_s;
-    if (!documents.isEmpty() && session().files.isFolder(FilePath(usual))) return usual;
-    return session().registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s);
 }
 
 /// After a failure, and when another program writes, the boxes say what is in force.

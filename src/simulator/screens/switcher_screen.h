@@ -26,7 +26,6 @@ private:
     void loadSwitcherValues();
     void takeOption(const Option& option, bool isTicked);
     void clearBox(const Option& option);
-    QString flightsFolder() const;
 
     bool SwitcherPopulating = false; ///< the boxes are filled: their clicks do nothing
     std::vector<QCheckBox*> boxes_;  ///< as `options()`

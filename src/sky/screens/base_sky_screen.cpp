@@ -32,7 +32,7 @@ void frm_SelectBaseSky::prepare() {
     if (index < 0) return;
     QRadioButton* option = optBaseSky_[static_cast<std::size_t>(index)];
     option->setChecked(true);
-    option->setFocus();
+    setFirstFocus(option);
 }
 
 void frm_SelectBaseSky::confirm() {

@@ -38,6 +38,7 @@ frm_SkyColorize::frm_SkyColorize(Shell& shell)
     placePicture(*picSkySource_, u"picSkySource"_s, u"Base sky texture"_s, sourceLeft);
     placePicture(*picSkyResult_, u"picSkyResult"_s, u"With these settings"_s, resultLeft);
     picSkyResult_->setSmooth(false);
+    comeBeforeSliders(*picSkySource_);
     connect(picSkySource_, &PalettePicture::clicked, this, &frm_SkyColorize::clickPalette);
 }
 

@@ -43,7 +43,11 @@ void frm_SelectSkyTexture::addBaseSets() {
         chkStsGroup_[index] = box;
     }
     // The boxes were made after the counts and come before them.
-    QWidget::setTabOrder(chkStsGroup_.back(), boxes_.front());
+    QWidget* before = chkStsGroup_.back();
+    for (CountEdit* box : boxes_) {
+        setTabOrder(before, box);
+        before = box;
+    }
 }
 
 void frm_SelectSkyTexture::prepare() {
@@ -52,7 +56,7 @@ void frm_SelectSkyTexture::prepare() {
     for (CountEdit* box : boxes_)
         box->showCount();
     enableCounts();
-    chkStsGroup_[0]->setFocus();
+    setFirstFocus(chkStsGroup_[0]);
 }
 
 void frm_SelectSkyTexture::confirm() {

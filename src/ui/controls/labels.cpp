@@ -39,6 +39,7 @@ constexpr RoleStyle roleStyles[] = {
     {TextRole::darkTitle, 13, QFont::Medium, palette::textBright},
     {TextRole::darkBody, 12, QFont::Normal, palette::textQuiet, atTop, true},
     {TextRole::darkCaption, 12, QFont::Medium, palette::textBright},
+    {TextRole::darkRemark, 11, QFont::Normal, palette::textQuiet, atRight},
     {TextRole::progressText, 12, QFont::Normal, palette::textBright, Qt::AlignLeft | Qt::AlignBottom, true},
     {TextRole::valueTip, 12, QFont::Medium, palette::textBright, Qt::AlignCenter},
 };

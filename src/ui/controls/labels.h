@@ -28,6 +28,7 @@ enum class TextRole {
     darkTitle, ///< from here on texts on bezel and deck
     darkBody,  ///< wraps
     darkCaption,
+    darkRemark,   ///< at the right of its box
     progressText, ///< wraps, at the foot of its box
     valueTip,
 };

@@ -52,8 +52,13 @@ QRgb markOf(const QStyleOption& option) {
     return has(option, QStyle::State_Enabled) ? palette::textBlue : palette::markLine;
 }
 
+/// A button's ring is for those who go by keys: it shows once Tab was pressed in the window.
+bool showsFocus(const QStyleOption& option) {
+    return has(option, QStyle::State_HasFocus) && has(option, QStyle::State_KeyboardFocusChange);
+}
+
 PaperBox markBox(const QStyleOption& option, QRgb ground, double radius) {
-    const bool isLit = has(option, QStyle::State_MouseOver) || has(option, QStyle::State_HasFocus);
+    const bool isLit = has(option, QStyle::State_MouseOver) || showsFocus(option);
     return {ground, ground, isLit ? palette::accentOnPaper : palette::markLine, radius};
 }
 
@@ -82,7 +87,7 @@ void drawPlainButton(QPainter& painter, const QStyleOption& option) {
                  {isPressed ? palette::buttonFoot : palette::field,
                   isPressed ? palette::field : palette::buttonFoot,
                   isHovered ? palette::accentOnPaper : palette::fieldLine, radius});
-    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, option.rect, radius);
+    if (showsFocus(option)) drawFocusRing(painter, option.rect, radius);
 }
 
 void drawDarkButton(QPainter& painter, const QStyleOption& option) {
@@ -98,7 +103,7 @@ void drawDarkButton(QPainter& painter, const QStyleOption& option) {
     const QRect inner = option.rect.adjusted(4, 1, -4, -1);
     drawLine(painter, {inner.left(), inner.top(), inner.width(), 1}, qRgba(255, 255, 255, 41));
     drawLine(painter, {inner.left(), inner.bottom(), inner.width(), 1}, qRgba(0, 0, 0, 56));
-    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, option.rect, radius);
+    if (showsFocus(option)) drawFocusRing(painter, option.rect, radius);
 }
 
 void drawCheckBox(QPainter& painter, const QStyleOption& option) {
@@ -107,7 +112,7 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     PaperBox box = markBox(option, isSet ? markOf(option) : palette::field, 3);
     if (isSet) box.border = markOf(option);
     drawPaperBox(painter, place, box);
-    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, place, 3);
+    if (showsFocus(option)) drawFocusRing(painter, place, 3);
     if (!isSet) return;
     const Smooth smooth(painter);
     painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -119,7 +124,7 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
 void drawOptionBox(QPainter& painter, const QStyleOption& option) {
     const double round = option.rect.width() / 2.0;
     drawPaperBox(painter, option.rect, markBox(option, palette::field, round));
-    if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, option.rect, round);
+    if (showsFocus(option)) drawFocusRing(painter, option.rect, round);
     if (!has(option, QStyle::State_On)) return;
     const Smooth smooth(painter);
     painter.setPen(Qt::NoPen);

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QPainter>
 #include <QStyleOption>
 #include <QToolTip>
@@ -17,7 +18,7 @@ namespace morvane {
 
 namespace {
 
-constexpr int headMargin = 6;
+constexpr int headMargin = 6, mostRowsOfChoice = 14;
 constexpr int boxSize = 15, tipDelay = 250, tipTime = 10'000, shortestHandle = 24;
 constexpr char onDarkName[] = "onDark", captionOffsetName[] = "captionOffset";
 
@@ -39,9 +40,9 @@ QRect cellBoxPlace(const QRect& cell) {
     return {cell.left() + cellBoxInset, cell.top() + (cell.height() - boxSize) / 2, boxSize, boxSize};
 }
 
-bool hasCheckBox(const QStyleOption* option) {
+bool hasFeature(const QStyleOption* option, QStyleOptionViewItem::ViewItemFeature feature) {
     const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
-    return item && item->features.testFlag(QStyleOptionViewItem::HasCheckIndicator);
+    return item && item->features.testFlag(feature);
 }
 
 QPalette paperPalette() {
@@ -99,6 +100,7 @@ void PaperStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     if (widget->toolTipDuration() < 0) widget->setToolTipDuration(tipTime);
     if (qobject_cast<QAbstractButton*>(widget)) widget->setAttribute(Qt::WA_Hover);
+    if (auto* choice = qobject_cast<QComboBox*>(widget)) choice->setMaxVisibleItems(mostRowsOfChoice);
 }
 
 int PaperStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -108,6 +110,7 @@ int PaperStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
         return tipDelay;
     case SH_ToolTipLabel_Opacity:
         return 255;
+    case SH_ComboBox_Popup: // the list of all cities would be as high as the screen
     case SH_ScrollBar_LeftClickAbsolutePosition:
     case SH_EtchDisabledText:
     case SH_ItemView_ActivateItemOnSingleClick:
@@ -155,10 +158,15 @@ QRect PaperStyle::subElementRect(SubElement element, const QStyleOption* option,
     case SE_ItemViewItemCheckIndicator:
         return cellBoxPlace(option->rect);
     case SE_ItemViewItemText:
-        return option->rect.adjusted(hasCheckBox(option) ? cellBoxRoom : 0, 0, cellTextInset, 0);
+        // A row with a picture is none of ours but the folder browser's, and its layout Qt's.
+        if (hasFeature(option, QStyleOptionViewItem::HasDecoration)) break;
+        return option->rect.adjusted(hasFeature(option, QStyleOptionViewItem::HasCheckIndicator) ? cellBoxRoom
+                                                                                                 : 0,
+                                     0, cellTextInset, 0);
     default:
-        return QProxyStyle::subElementRect(element, option, widget);
+        break;
     }
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 QRect PaperStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,

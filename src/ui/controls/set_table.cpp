@@ -4,6 +4,10 @@
 #include "ui/controls/table_look.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <algorithm>
+#include <utility>
 
 namespace morvane {
 
@@ -29,6 +33,12 @@ QStringList namesWhere(const QTreeWidget& table, Predicate isWanted) {
     return names;
 }
 
+bool isListKey(const QKeyEvent& event) {
+    constexpr int keys[] = {Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Home, Qt::Key_End,
+                            Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space};
+    return std::ranges::find(keys, event.key()) != std::end(keys) || event.matches(QKeySequence::SelectAll);
+}
+
 } // namespace
 
 QRgb paintedColour(QRgb stored) {
@@ -44,8 +54,12 @@ SetTable::SetTable(QWidget* parent) : QTreeWidget(parent) {
     connect(header(), &QHeaderView::sectionClicked, this, &SetTable::sortBy);
     // A click on a row's check box checks it and goes nowhere, so it tells nothing of that row.
     connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
-        if (item == currentItem()) Q_EMIT rowClicked(item->data(0, keyRole).toString());
+        if (item == currentItem()) tellOfCurrent();
     });
+}
+
+void SetTable::tellOfCurrent() {
+    Q_EMIT rowClicked(currentItem()->data(0, keyRole).toString());
 }
 
 void SetTable::setColumns(const std::vector<SetColumn>& columns, bool hasCheckBoxes) {
@@ -85,6 +99,12 @@ QString SetTable::textOf(int row, int column) const {
     return item ? item->text(column) : QString();
 }
 
+int SetTable::rowOf(const QString& name) const {
+    for (int row = 1; row <= rowCount(); ++row)
+        if (textOf(row, 0) == name) return row;
+    return 0;
+}
+
 QRgb SetTable::storedColour(int row) const {
     const QTreeWidgetItem* item = topLevelItem(row - 1);
     return item ? item->data(0, colourRole).toUInt() : palette::textBlue;
@@ -98,8 +118,7 @@ void SetTable::selectRow(int row) {
 }
 
 void SetTable::selectName(const QString& name) {
-    for (int index = 0; index < rowCount(); ++index)
-        if (topLevelItem(index)->text(0) == name) return topLevelItem(index)->setSelected(true);
+    if (const int row = rowOf(name)) topLevelItem(row - 1)->setSelected(true);
 }
 
 QStringList SetTable::selectedNames() const {
@@ -116,11 +135,44 @@ void SetTable::sortBy(int column) {
     sortItems(column, order_);
 }
 
+bool SetTable::isOnCheckBox(const QPoint& place) const {
+    const QModelIndex index = indexAt(place);
+    if (!hasCheckBoxes_ || index.column() != 0) return false;
+    QStyleOptionViewItem cell;
+    initViewItemOption(&cell);
+    cell.features |= QStyleOptionViewItem::HasCheckIndicator;
+    cell.rect = visualRect(index);
+    return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, this).contains(place);
+}
+
+/// With a key held several rows are being picked.
+void SetTable::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    isDoubleClick_ = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
+                     itemAt(place) && !isOnCheckBox(place);
+    QTreeWidget::mouseDoubleClickEvent(event);
+}
+
+/// A key of the list that leads nowhere, as on its only row, is a choice of the row it stays on.
 void SetTable::keyPressEvent(QKeyEvent* event) {
     const QTreeWidgetItem* before = currentItem();
     QTreeWidget::keyPressEvent(event);
-    const QTreeWidgetItem* now = currentItem();
-    if (now && now != before) Q_EMIT rowClicked(now->data(0, keyRole).toString());
+    if (currentItem() && (currentItem() != before || isListKey(*event))) tellOfCurrent();
+}
+
+void SetTable::mousePressEvent(QMouseEvent* event) {
+    pressed_ = itemAt(event->position().toPoint());
+    QTreeWidget::mousePressEvent(event);
+}
+
+/// A drag over rows selects them without a click. What follows a double click may open a window, which would
+/// keep the release from the list.
+void SetTable::mouseReleaseEvent(QMouseEvent* event) {
+    const bool isDrag = pressed_ && itemAt(event->position().toPoint()) != pressed_;
+    QTreeWidget::mouseReleaseEvent(event);
+    if (isDrag && currentItem() && currentItem() != pressed_) tellOfCurrent();
+    pressed_ = nullptr;
+    if (std::exchange(isDoubleClick_, false)) Q_EMIT rowDoubleClicked();
 }
 
 } // namespace morvane

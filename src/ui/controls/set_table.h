@@ -44,6 +44,8 @@ public:
     /// Empty for a row that is not there, as is the text.
     QString keyOf(int row) const;
     QString textOf(int row, int column) const;
+    /// The first row of that name; 0 without one.
+    int rowOf(const QString& name) const;
     /// The colour as it was given.
     QRgb storedColour(int row) const;
 
@@ -56,16 +58,26 @@ public:
     QStringList checkedNames() const;
 
 Q_SIGNALS:
-    /// The user clicked this row or went to it by the keys; never told for a selection from code.
+    /// The user clicked this row, dragged the selection to it, or went to it or stayed on it by a key of the
+    /// list; never told for a selection from code.
     void rowClicked(const QString& key);
+    /// The second click of two on a row was let go, and neither was on its check box.
+    void rowDoubleClicked();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void sortBy(int column);
+    void tellOfCurrent();
+    bool isOnCheckBox(const QPoint& place) const;
 
     bool hasCheckBoxes_ = false;
+    bool isDoubleClick_ = false;
+    const QTreeWidgetItem* pressed_ = nullptr;  ///< the row on which the mouse went down
     Qt::SortOrder order_ = Qt::DescendingOrder; ///< of the last sort; the first one is ascending
 };
 

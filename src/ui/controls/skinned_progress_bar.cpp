@@ -3,6 +3,7 @@
 #include "core/literals.h"
 #include "ui/controls/paper_drawing.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <algorithm>
 
@@ -17,6 +18,8 @@ void SkinnedProgressBar::setValue(double value) {
     if (held == value_) return;
     value_ = held;
     update();
+    QAccessibleValueChangeEvent event(this, held);
+    QAccessible::updateAccessibility(&event);
 }
 
 void SkinnedProgressBar::paintEvent(QPaintEvent*) {

@@ -2,9 +2,11 @@
 
 #include "ui/controls/slider_tip.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -117,6 +119,8 @@ void ucSlider::setValue(int value) {
     if (value == value_) return;
     value_ = value;
     update();
+    QAccessibleValueChangeEvent event(this, value);
+    QAccessible::updateAccessibility(&event);
     Q_EMIT Change();
     if (value_ == max_) Q_EMIT ArrivedLast();
     if (value_ == min_) Q_EMIT ArrivedFirst();
@@ -212,7 +216,19 @@ void ucSlider::changeEvent(QEvent* event) {
 void ucSlider::keyPressEvent(QKeyEvent* event) {
     const auto wanted = movedByKey(event->key(), *this);
     if (!wanted) return QWidget::keyPressEvent(event);
-    setValue(static_cast<int>(std::clamp<std::int64_t>(*wanted, min_, max_)));
+    moveTo(*wanted);
+}
+
+void ucSlider::moveTo(std::int64_t wanted) {
+    setValue(static_cast<int>(std::clamp<std::int64_t>(wanted, min_, max_)));
+}
+
+/// A wheel without notches, and a touch pad, tell of small parts of one.
+void ucSlider::wheelEvent(QWheelEvent* event) {
+    constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
+    turned_ += event->angleDelta().y();
+    moveTo(std::int64_t(value_) + turned_ / notch * arrowStep);
+    turned_ %= notch;
 }
 
 void ucSlider::showTip() {

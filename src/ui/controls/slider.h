@@ -20,7 +20,8 @@ public:
 };
 
 /// A rail and a thumb that stand for one whole number. The thumb is dragged, put by a click on the rail or
-/// moved by the keys (arrows 1, page keys 5, Home, End) and always lies exactly at its value.
+/// moved by the wheel (1) and the keys (arrows 1, page keys 5, Home, End) and always lies exactly at its
+/// value.
 class ucSlider : public QWidget {
     Q_OBJECT
 public:
@@ -79,6 +80,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -89,6 +91,7 @@ private:
     QSizeF thumbSize() const;
     SliderScale scale() const;
     void dragTo(const QPointF& mouse);
+    void moveTo(std::int64_t wanted);
     void endDrag();
     void showTip();
     void refreshCursor();
@@ -101,7 +104,8 @@ private:
     SliderRail railStyle_ = SliderRail::sunken;
     bool showValueTip_ = true, isDragging_ = false;
     int min_ = 0, max_ = 10, value_ = 0;
-    QPointF grab_; ///< of the mouse from the thumb's corner
+    int turned_ = 0; ///< of the wheel towards its next notch, in eighths of a degree
+    QPointF grab_;   ///< of the mouse from the thumb's corner
     ucSliderTip* tip_ = nullptr;
 };
 

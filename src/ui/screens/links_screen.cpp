@@ -36,9 +36,12 @@ frm_Links::frm_Links(Shell& shellOfPages) : PageForm(shellOfPages, u"frm_Links"_
         makeLabel(paper(), title, {14, top, 440, 17}, TextRole::optionCaption);
         makeLabel(paper(), QString::fromUtf16(link.text), {14, top + 19, 440, 18}, TextRole::body);
         auto* open = new QPushButton(paper());
+        open->setObjectName(u"cmdOpen%1"_s.arg(buttons_.size()));
         open->setAccessibleName(u"Open "_s + title);
         open->setGeometry(492, top + 4, 90, 26);
-        connect(open, &QPushButton::clicked, this, [this, &link] { shell().openWebPage(addressOf(link)); });
+        connect(open, &QPushButton::clicked, this, [this, &link] {
+            shell().openWebPage(addressOf(link), QString::fromUtf16(link.registryValue));
+        });
         buttons_ << open;
         top += 54;
     }

@@ -1,6 +1,7 @@
 #include "ui/screens/main_screen.h"
 
 #include "core/literals.h"
+#include "ui/controls/foot_line.h"
 #include "ui/shell.h"
 #include "ui/window_keys.h"
 
@@ -46,6 +47,9 @@ frm_Main::frm_Main(Shell& shell)
         addButton(key);
     for (const ButtonSetup& key : pageKeys())
         addButton(key, status_);
+    new FootLine(this);
+    setFirstFocus(button(pageKeys().front().name));
+    focusFirst();
 }
 
 void frm_Main::formatMainScreen() {

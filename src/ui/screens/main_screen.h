@@ -14,6 +14,7 @@ public:
     /// Marks the "home" key, fills the page, and sets its three large keys anew.
     void formatMainScreen();
     void refreshMainStatus() { status_->refreshMainStatus(); }
+    QWidget* ownPage() const override { return status_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;

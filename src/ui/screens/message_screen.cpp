@@ -77,7 +77,10 @@ void frm_Msg::showMessage(const Message& message) {
     fill(message);
     layOut(message);
     if (!message.isProgress) return run();
-    if (!goesOn) centreOver(shell().messageAnchor());
+    if (!goesOn) {
+        focusFirst();
+        centreOver(shell().messageAnchor());
+    }
     show();
 }
 

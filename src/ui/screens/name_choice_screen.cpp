@@ -18,7 +18,8 @@ void frm_MultiDelete::popMultiDeleteList() {
     list_->clearRows();
     for (const QString& name : session().modal.multiNames)
         list_->addRow({name, {name}, {name}, palette::textBlue, true});
-    list_->setFocus();
+    list_->selectRow(1);
+    setFirstFocus(list_);
 }
 
 void frm_MultiDelete::confirm() {

@@ -3,6 +3,7 @@
 #include "core/failure_report.h"
 #include "core/options.h"
 #include "core/session.h"
+#include "core/store_records.h"
 #include "ground/cloud_cover.h"
 #include "ground/ground_sets.h"
 #include "night/night_texture_sets.h"
@@ -133,7 +134,10 @@ void StatusPanel::addBaseRows() {
 
 void StatusPanel::refreshMainStatus() {
     const FailureReport report{};
-    UserInterface& user = form_.session().user;
+    Session& session = form_.session();
+    lblWideFS_->setVisible(session.IsWideClient);
+    if (!hasStore(session)) return;
+    UserInterface& user = session.user;
     reportFailures(user, report, [this] { refreshInstalledItems(); });
     reportFailures(user, report, [this] { refreshGround(); });
     reportFailures(user, report, [this] { refreshSky(); });
@@ -153,7 +157,6 @@ void StatusPanel::refreshInstalledItems() {
     lblBackupValue_->setText(
         count == 0 ? u"No backups created yet"_s
                    : session.gBackups->Item(count)->BackupDateTime.toString(u"yyyy/MM/dd hh:mm:ss"_s));
-    lblWideFS_->setVisible(session.IsWideClient);
 }
 
 void StatusPanel::fill(const SetLabels& labels, const SetSummary& summary) {

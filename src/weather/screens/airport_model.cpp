@@ -1,6 +1,7 @@
 #include "weather/screens/airport_model.h"
 
 #include "core/literals.h"
+#include "weather/coordinates.h"
 
 #include <algorithm>
 #include <numeric>
@@ -25,7 +26,7 @@ constexpr Column columns[] = {{u"ICAO", &Airport::icao},
 
 bool isBefore(const Airport& left, const Airport& right, const Column& column) {
     const QString &leftText = left.*column.text, &rightText = right.*column.text;
-    if (column.isNumber) return leftText.toDouble() < rightText.toDouble();
+    if (column.isNumber) return storedDegrees(leftText).value_or(0) < storedDegrees(rightText).value_or(0);
     return leftText.compare(rightText, Qt::CaseInsensitive) < 0;
 }
 

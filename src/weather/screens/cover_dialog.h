@@ -15,12 +15,8 @@ class CoverDialog : public DialogForm {
 public:
     using DialogForm::DialogForm;
 
-    /// Nothing while its key is dead, however it was asked for.
-    void ok() override;
-
 protected:
     void confirm() override;
-    void allowOk(bool isAllowed);
 };
 
 } // namespace morvane

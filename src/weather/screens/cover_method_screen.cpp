@@ -34,7 +34,7 @@ frm_Select_CC_Method::frm_Select_CC_Method(Shell& shell)
 /// The option of the last time still stands.
 void frm_Select_CC_Method::prepare() {
     session().modal.coverMethod = static_cast<std::int16_t>(methods_->checkedId());
-    methods_->checkedButton()->setFocus();
+    setFirstFocus(methods_->checkedButton());
 }
 
 void frm_Select_CC_Method::cancel() {

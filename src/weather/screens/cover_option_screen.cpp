@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "ui/controls/labels.h"
+#include "ui/controls/option_picture.h"
 #include "ui/skin.h"
 #include "weather/cover_choice.h"
 #include "weather/screens/cover_label.h"
@@ -27,14 +28,13 @@ frm_CC_From_Option::frm_CC_From_Option(Shell& shell)
       optCloudCover_(new QButtonGroup(this)) {
     for (int index = 0;
          const QString& caption : {u"Skies Clear"_s, u"Few "_s, u"Scattered"_s, u"Broken"_s, u"Overcast"_s}) {
-        auto* picture = new QLabel(this);
-        picture->setPixmap(skin().picture(coverDisplay(index + 1).picture));
-        picture->setGeometry({placeOf(index), QSize(CoverLabel::side, CoverLabel::side)});
         auto* option = new QRadioButton(caption, this);
         option->setObjectName(u"optCloudCover%1"_s.arg(index));
         option->setAccessibleName(caption);
         option->setFont(fontOf(TextRole::body));
         option->setGeometry(placeOf(index).x() + CoverLabel::side + 10, placeOf(index).y() + 10, 110, 24);
+        new OptionPicture(*option, skin().picture(coverDisplay(index + 1).picture),
+                          {placeOf(index), QSize(CoverLabel::side, CoverLabel::side)});
         optCloudCover_->addButton(option, index++);
     }
     connect(optCloudCover_, &QButtonGroup::idToggled, this, [this](int index, bool isSet) {
@@ -45,7 +45,7 @@ frm_CC_From_Option::frm_CC_From_Option(Shell& shell)
 
 void frm_CC_From_Option::prepare() {
     optCloudCover_->button(scattered)->setChecked(true);
-    optCloudCover_->button(scattered)->setFocus();
+    setFirstFocus(optCloudCover_->button(scattered));
     setCover(session(), scattered + 1);
 }
 

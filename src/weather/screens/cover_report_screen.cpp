@@ -12,19 +12,21 @@ namespace morvane {
 
 namespace {
 
-constexpr int left = 26, paperWidth = 348;
+constexpr int left = 26, paperWidth = 348, coverLeft = left + 100, coverTop = 182;
 
 } // namespace
 
 frm_CC_From_Metar_String::frm_CC_From_Metar_String(Shell& shell)
-    : CoverDialog(shell, u"frm_CC_From_Metar_String"_s, smallDialogLook,
+    : CoverDialog(shell, u"frm_CC_From_Metar_String"_s, messageLook,
                   u"Enter full METAR String for processing"_s),
       txtMetarString_(new DescriptionEdit(this)),
-      caption_(makeLabel(this, u"Average Cloud:"_s, {left, 212, paperWidth, 16}, TextRole::fieldCaption)),
-      cover_(*this, {u"picCloudCover"_s, u"lblCloudCover"_s}, {left, 234}, paperWidth - 54) {
+      caption_(makeLabel(this, u"Average Cloud:"_s, {left, coverTop, coverLeft - left, CoverLabel::side},
+                         TextRole::fieldCaption)),
+      cover_(*this, {u"picCloudCover"_s, u"lblCloudCover"_s}, {coverLeft, coverTop},
+             left + paperWidth - coverLeft - CoverLabel::side - 10) {
     txtMetarString_->setObjectName(u"txtMetarString"_s);
     txtMetarString_->setAccessibleName(u"METAR"_s);
-    txtMetarString_->setGeometry(left, 88, paperWidth, 110);
+    txtMetarString_->setGeometry(left, 86, paperWidth, 88);
     connect(txtMetarString_, &QPlainTextEdit::textChanged, this,
             [this] { session().weather.MetarStringInput = trimmedBlanks(txtMetarString_->toPlainText()); });
     addButton({ButtonFamily::LargeButton,
@@ -41,7 +43,7 @@ void frm_CC_From_Metar_String::prepare() {
     txtMetarString_->clear();
     caption_->hide();
     cover_.clear();
-    txtMetarString_->setFocus();
+    setFirstFocus(txtMetarString_);
 }
 
 void frm_CC_From_Metar_String::processMetarString() {

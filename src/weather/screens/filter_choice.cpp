@@ -35,7 +35,6 @@ FilterChoice::FilterChoice(QWidget* parent) : QComboBox(parent) {
     list->setUniformItemSizes(true);
     setView(list);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon); // else it measures every text
-    setMaxVisibleItems(14);
     setValues({});
 }
 

@@ -53,6 +53,9 @@ void frm_FlightPlan::addPlans() {
     lvwFPList_->setGeometry(plansPlace);
     lvwFPList_->setColumns({{u"FlightPlan"_s, plansPlace.width() - 14}});
     lvwFPList_->setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(lvwFPList_, &SetTable::rowClicked, this, [this](const QString& name) {
+        if (name != openPlan_) allowOk(true);
+    });
     connect(lvwFPList_, &SetTable::itemDoubleClicked, this, &frm_FlightPlan::openPlan);
     lblNoFlightPlans_ = makeLabel(this, {}, plansPlace, TextRole::body);
     lblNoFlightPlans_->setObjectName(u"lblNoFlightPlans"_s);
@@ -98,7 +101,8 @@ void frm_FlightPlan::prepare() {
                                                  "flight plans (.pln) to use this functionality."_s
                                                : QString());
     lvwFPList_->selectRow(1);
-    lvwFPList_->setFocus();
+    setFirstFocus(lvwFPList_);
+    allowOk(!names.isEmpty());
 }
 
 void frm_FlightPlan::clearPlan() {
@@ -110,15 +114,21 @@ void frm_FlightPlan::clearPlan() {
                             static_cast<QWidget*>(pbFlightPlan_)})
         hidden->hide();
     cover_.clear();
+    openPlan_.clear();
     allowOk(false);
 }
 
+QString frm_FlightPlan::selectedPlan() const {
+    return lvwFPList_->selectedNames().value(0);
+}
+
 void frm_FlightPlan::openPlan() {
-    const QStringList selected = lvwFPList_->selectedNames();
+    const QString selected = selectedPlan();
     if (selected.isEmpty()) return;
     clearPlan();
+    openPlan_ = selected;
     setEnabled(false); // a click meanwhile would open a plan inside this one
-    reportFailures(session().user, {}, [&] { readFlightPlan(selected.front()); });
+    reportFailures(session().user, {}, [&] { readFlightPlan(selected); });
     setEnabled(true);
     lvwFPList_->setFocus();
     allowOk(lvwFlightPlan_->rowCount() > 0);
@@ -158,9 +168,14 @@ void frm_FlightPlan::addWaypoint(const Waypoint& waypoint) {
     item->setData(cloudColumn, Qt::AccessibleTextRole, cloud);
 }
 
+void frm_FlightPlan::ok() {
+    if (isOkAllowed() && openPlan_ != selectedPlan()) openPlan();
+    CoverDialog::ok();
+}
+
 void frm_FlightPlan::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && lvwFPList_->hasFocus())
+    if (isEnter && lvwFPList_->hasFocus() && openPlan_ != selectedPlan())
         openPlan();
     else
         CoverDialog::keyPressEvent(event);

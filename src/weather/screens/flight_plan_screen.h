@@ -17,9 +17,12 @@ class frm_FlightPlan : public CoverDialog {
 public:
     explicit frm_FlightPlan(Shell& shell);
 
+    /// Takes the cover of the plan that is selected, which is read first where it is not open yet.
+    void ok() override;
+
 protected:
     void prepare() override;
-    /// Enter on a plan opens it.
+    /// Enter on a plan opens it; on the one that is open it says OK.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -27,6 +30,7 @@ private:
     void addWaypoints();
     QLabel* addHeading(const QString& caption, const QString& name, int row);
     void clearPlan();
+    QString selectedPlan() const;
     /// Reads the plan that is selected, shows it and its weather.
     void openPlan();
     void readFlightPlan(const QString& name);
@@ -34,6 +38,7 @@ private:
     void addWaypoint(const Waypoint& waypoint);
 
     FilePath folder_;
+    QString openPlan_; ///< the name of the plan that is shown; empty for none
     SetTable *lvwFPList_, *lvwFlightPlan_;
     QLabel *lblNoFlightPlans_, *lblNoWaypoints_, *lblDepVal_, *lblDestVal_, *lblAltVal_, *lblProgress_;
     SkinnedProgressBar* pbFlightPlan_;

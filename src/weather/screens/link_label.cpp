@@ -21,7 +21,8 @@ void LinkLabel::paintEvent(QPaintEvent*) {
     painter.setPen(QColor::fromRgb(palette::textBlue));
     painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, text());
     constexpr double radius = 3;
-    if (hasFocus()) drawFocusRing(painter, rect(), radius);
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        drawFocusRing(painter, rect(), radius);
 }
 
 } // namespace morvane

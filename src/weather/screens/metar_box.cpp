@@ -1,5 +1,6 @@
 #include "weather/screens/metar_box.h"
 
+#include "core/literals.h"
 #include "ui/controls/labels.h"
 
 #include <QLabel>
@@ -7,18 +8,18 @@
 namespace morvane {
 
 MetarBox::MetarBox(const QString& labelName, const QString& caption, const QRect& place, QWidget* parent)
-    : QFrame(parent) {
+    : QFrame(parent), caption_(caption) {
     setFrameShape(StyledPanel);
     setGeometry(place);
     label_ = makeLabel(this, {}, QRect({9, 5}, place.size() - QSize(18, 8)), TextRole::value);
     label_->setObjectName(labelName);
-    label_->setAccessibleName(caption);
     label_->setWordWrap(true);
     label_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
 
 void MetarBox::setReport(const QString& report) {
     label_->setText(report);
+    label_->setAccessibleName(caption_ + u": "_s + report);
     setToolTip(report);
 }
 

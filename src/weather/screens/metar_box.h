@@ -16,6 +16,7 @@ public:
     void setReport(const QString& report);
 
 private:
+    QString caption_;
     QLabel* label_;
 };
 

@@ -51,17 +51,16 @@ ReportList::ReportList(QWidget* parent) : QTreeView(parent), model_(new ReportMo
     setFont(fontOf(TextRole::longHelp));
     setModel(model_);
     header()->setSectionsClickable(false);
-    connect(this, &QTreeView::clicked, this, &ReportList::choose);
 }
 
-void ReportList::choose(const QModelIndex& index) {
-    if (index.isValid()) Q_EMIT stationChosen(index.data(icaoRole).toString());
+void ReportList::setReports(std::vector<clsWxFinders::Pointer> reports) {
+    model_->setReports(std::move(reports));
+    setCurrentIndex(model_->index(0, 0));
 }
 
-void ReportList::keyPressEvent(QKeyEvent* event) {
-    const QModelIndex before = currentIndex();
-    QTreeView::keyPressEvent(event);
-    if (currentIndex() != before) choose(currentIndex());
+void ReportList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTreeView::currentChanged(current, previous);
+    if (current.isValid()) Q_EMIT stationChosen(current.data(icaoRole).toString());
 }
 
 } // namespace morvane

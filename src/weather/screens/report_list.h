@@ -24,24 +24,23 @@ private:
     std::vector<clsWxFinders::Pointer> reports_;
 };
 
-/// The reports found.
+/// The reports found; one of them is always chosen where there are any.
 class ReportList : public QTreeView {
     Q_OBJECT
 public:
     explicit ReportList(QWidget* parent);
 
-    void setReports(std::vector<clsWxFinders::Pointer> reports) { model_->setReports(std::move(reports)); }
+    /// Shows these and chooses the first.
+    void setReports(std::vector<clsWxFinders::Pointer> reports);
 
 Q_SIGNALS:
-    /// The user clicked the report of that station or went to it by the keys.
+    /// The report of that station is the one that stands selected now.
     void stationChosen(const QString& icao);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
-    void choose(const QModelIndex& index);
-
     ReportModel* model_;
 };
 

@@ -6,6 +6,7 @@
 #include "ui/controls/labels.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
+#include "weather/report_age.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/filter_choice.h"
 #include "weather/screens/link_label.h"
@@ -16,12 +17,16 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSignalBlocker>
+#include <QTimer>
 #include <QUrl>
 
 namespace morvane {
 
 namespace {
 
+/// The age counts in minutes.
+constexpr std::chrono::seconds showAgeEvery{20};
 constexpr int fieldHeight = 22, captionRise = 15, keyRow = 397, optionRow = 262;
 
 /// A field's caption stands over it and is its name.
@@ -55,6 +60,9 @@ frm_WxControl::frm_WxControl(Shell& shellOfPages)
     addOptions();
     addReports();
     addKeys();
+    auto* age = new QTimer(this);
+    connect(age, &QTimer::timeout, this, &frm_WxControl::showAge);
+    age->start(showAgeEvery);
 }
 
 void frm_WxControl::addActiveSky() {
@@ -76,9 +84,11 @@ void frm_WxControl::addActiveSky() {
 void frm_WxControl::addSearchBoxes() {
     const auto add = [this](const QString& name, const QString& caption, SearchBox box, int left, int width) {
         auto* edit = addField<QLineEdit>(paper(), name, caption, {left, 62}, width);
-        connect(edit, &QLineEdit::textChanged, this, [this, box](const QString& text) { search(box, text); });
+        connect(edit, &QLineEdit::textChanged, this, [this, box, edit] { search(box, *edit); });
+        searchBoxes_ << edit;
+        return edit;
     };
-    add(u"txtICAO"_s, u"ICAO"_s, SearchBox::icao, 14, 92);
+    setFirstFocus(add(u"txtICAO"_s, u"ICAO"_s, SearchBox::icao, 14, 92));
     add(u"txtAirportName"_s, u"Airport name"_s, SearchBox::airportName, 116, 190);
     add(u"txtCity"_s, u"City"_s, SearchBox::city, 316, 206);
 }
@@ -174,13 +184,22 @@ void frm_WxControl::refresh() {
     destination_->setReport(weather.DestMetar);
     button(u"btn_FlyNow"_s)->setState(weather.FlyNowDisabled ? ButtonState::disabled : ButtonState::enabled);
     showActiveSky();
+    showAge();
+}
+
+void frm_WxControl::showAge() {
+    setFootText({reportAgeText(session()), reportSourceText(session())});
 }
 
 // Searching ----------------------------------------------------------------------------------------------
 
-/// A box that was emptied leaves the list as it is.
-void frm_WxControl::search(SearchBox box, const QString& text) {
-    if (searchAirports(session().weather, box, text)) ClearFilter();
+/// A box that was emptied leaves the list as it is. The others lose their texts: nothing is found by them any
+/// more.
+void frm_WxControl::search(SearchBox box, const QLineEdit& edit) {
+    if (!searchAirports(session().weather, box, edit.text())) return;
+    for (QLineEdit* other : searchBoxes_)
+        if (const QSignalBlocker quiet(other); other != &edit) other->clear();
+    ClearFilter();
 }
 
 void frm_WxControl::ClearFilter() {
@@ -237,18 +256,18 @@ void frm_WxControl::showActiveSky() {
     lblASv6Support_->setText(text);
     lblASv6Support_->setEnabled(!weather.ASv6Present || !weather.ASv6VersionOK);
     picASv6_->setPixmap(weather.ASv6Present ? skin().picture(u"ASv6.jpg"_s) : QPixmap());
-    lblASv6FileTime_->setText(weather.ASv6ExportDate.isValid()
+    lblASv6FileTime_->setText(weather.ASv6Imported && weather.ASv6ExportDate.isValid()
                                   ? u"ASv6 File Updated "_s +
                                         weather.ASv6ExportDate.toString(u"yyyy/MM/dd HH:mm:ss"_s)
                                   : QString());
 }
 
-/// The vendor's host is a registry value; without it nothing opens.
+/// The vendor's host is a registry value.
 void frm_WxControl::openActiveSkyPage() {
     const QUrl vendor(
         session().registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"ActiveSkyPage"_s));
     const QUrl page(session().weather.ASv6Present ? u"/ASV6/downloads.htm"_s : u"/ASv6/"_s);
-    shell().openWebPage(vendor.resolved(page).toString());
+    shell().openWebPage(vendor.resolved(page).toString(), u"ActiveSkyPage"_s);
 }
 
 } // namespace morvane

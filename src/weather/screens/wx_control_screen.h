@@ -5,6 +5,7 @@
 
 class QCheckBox;
 class QLabel;
+class QLineEdit;
 class QRadioButton;
 
 namespace morvane {
@@ -37,15 +38,17 @@ private:
     void addActiveSky();
     void addKeys();
 
-    void search(SearchBox box, const QString& text);
+    void search(SearchBox box, const QLineEdit& edit);
     void applyFilter(FilterList list);
     void fill(FilterChoice& list, const FilterValues& found);
     void fillLists(const QString& where);
     void fillAirports(const AirportFilter& filter);
     void showActiveSky();
+    void showAge();
     void openActiveSkyPage();
 
     bool isLoaded_ = false;
+    QList<QLineEdit*> searchBoxes_;
     FilterChoice *cboCountry_, *cboState_, *cboCity_;
     AirportList* lvwAirports_;
     QLabel *lblAirportCount_, *lblASv6FileTime_, *picASv6_;

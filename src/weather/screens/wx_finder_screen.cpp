@@ -108,12 +108,12 @@ void frm_WxFinder::addFlightEnds() {
         option->setFont(fontOf(TextRole::body));
         option->setGeometry(left + pitch * static_cast<int>(index), lastRow, pitch - 10, 22);
         connect(option, &QRadioButton::clicked, this,
-                [this, isDeparture] { chooseFlightEnd(session(), isDeparture); });
+                [this, isDeparture] { session().wxFilter.WxFinderIsDeparture = isDeparture; });
         optAirport_[index] = option;
     }
 }
 
-/// Each opening begins with any weather and the departure.
+/// Each opening begins with any weather and the end of the flight that the weather page shows.
 void frm_WxFinder::prepare() {
     openWxFilter(session());
     session().wxFilter.WxFinderLoading = true;
@@ -123,11 +123,11 @@ void frm_WxFinder::prepare() {
         box->setChecked(false);
     txtFilter_->clear();
     txtWxMaxResults_->showCount();
-    optAirport_[0]->setChecked(true);
+    optAirport_[session().wxFilter.WxFinderIsDeparture ? 0 : 1]->setChecked(true);
     allowIntensity();
     session().wxFilter.WxFinderLoading = false;
     filterMetars();
-    cboPrecipitation_->setFocus();
+    setFirstFocus(lstMetar_);
 }
 
 void frm_WxFinder::allowIntensity() {
@@ -138,18 +138,15 @@ void frm_WxFinder::allowIntensity() {
 
 void frm_WxFinder::choose(const QString& icao) {
     session().wxFilter.WxSelectedIcao = icao;
-    button(u"btn_Ok"_s)->setState(ButtonState::enabled);
+    allowOk(true);
 }
 
-/// What is found anew is not chosen yet.
+/// The first of what is found is chosen at once.
 void frm_WxFinder::filterMetars() {
     if (session().wxFilter.WxFinderLoading) return;
+    session().wxFilter.WxSelectedIcao.clear();
+    allowOk(false);
     lstMetar_->setReports(morvane::filterMetars(session()));
-    button(u"btn_Ok"_s)->setState(ButtonState::disabled);
-}
-
-void frm_WxFinder::ok() {
-    if (button(u"btn_Ok"_s)->state() != ButtonState::disabled) DialogForm::ok();
 }
 
 void frm_WxFinder::confirm() {

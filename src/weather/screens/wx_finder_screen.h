@@ -21,9 +21,6 @@ class frm_WxFinder : public DialogForm {
 public:
     explicit frm_WxFinder(Shell& shell);
 
-    /// Nothing before a report was chosen, however it was asked for.
-    void ok() override;
-
 protected:
     void prepare() override;
     void confirm() override;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLabel>
+
+class QAbstractButton;
+
+namespace morvane {
+
+/// The picture of an option, such as the disc of a cloud cover. A click on it is a click on the option, which
+/// is all that it says to those who cannot see it.
+class OptionPicture : public QLabel {
+    Q_OBJECT
+public:
+    /// Lies on the option's parent, at `place` of that.
+    OptionPicture(QAbstractButton& option, const QPixmap& picture, const QRect& place);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    QAbstractButton& option_;
+};
+
+} // namespace morvane

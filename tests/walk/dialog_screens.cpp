@@ -1,0 +1,78 @@
+#include "walk/walk_tables.h"
+
+namespace morvane::test {
+
+namespace {
+
+bool isSampleTaken(Session& session) {
+    return session.modal.sampleConfirmed;
+}
+
+bool isBackupTaken(Session& session) {
+    return session.modal.backupConfirmed;
+}
+
+Effect chosenBackup() {
+    return becomes([](Session& session) { return session.modal.chosenBackup; });
+}
+
+void giveBackups(Session& session) {
+    const QDateTime first(QDate(2026, 7, 14), QTime(14, 7));
+    session.modal.backups = {{u"1-Backup"_s, first, true}, {u"2-Backup"_s, first.addDays(9), false}};
+}
+
+void giveNames(Session& session) {
+    session.modal.multiNames = QStringList{u"2-Fair"_s, u"4-Calm"_s, u"3-Grey"_s};
+}
+
+/// All boxes have something to count.
+void giveBaseSets(Session& session) {
+    session.modal.skyBaseSets = QStringList{u"Sunny"_s, overcastBaseSet};
+}
+
+std::vector<WalkRow> countRows() {
+    return {{u"txt*"_s, itself(), 5}};
+}
+
+} // namespace
+
+std::vector<WalkScreen> setDialogs() {
+    return {
+        {"ground_counts", u"frm_TsRequired"_s, dialog(Screen::frm_TsRequired), true,
+         answerRows([](Session& session) { return session.modal.setCountsConfirmed; }) + countRows()},
+        {"sky_counts", u"frm_SelectSkyTexture"_s, dialog(Screen::frm_SelectSkyTexture, giveBaseSets), true,
+         answerRows([](Session& session) { return session.modal.skySetsConfirmed; }) + countRows() +
+             std::vector<WalkRow>{{u"chkStsGroup*"_s, itself(), 7}}},
+        {"base_sky", u"frm_SelectBaseSky"_s, dialog(Screen::frm_SelectBaseSky), true,
+         answerRows([](Session& session) { return session.modal.baseSkyConfirmed; }) +
+             std::vector<WalkRow>{{u"optBaseSky*"_s, itself(), 7}}},
+        {"sample", u"frm_SelectTexture"_s, dialog(Screen::frm_SelectTexture), true,
+         answerRows(isSampleTaken) +
+             std::vector<WalkRow>{{u"optSeason_*"_s, itself(), 4}, {u"optTexture_*"_s, itself(), 12}}},
+        {"night_sample", u"frm_SelectNightTexture"_s, dialog(Screen::frm_SelectNightTexture), true,
+         answerRows(isSampleTaken) + std::vector<WalkRow>{{u"optNightTexture_*"_s, itself(), 5}}},
+        {"favourite", u"frm_AddFav"_s, dialog(Screen::frm_AddFav), true,
+         answerRows([](Session& session) { return session.modal.favConfirmed; }) +
+             std::vector<WalkRow>{
+                 {u"txtFavName"_s, becomes([](Session& session) { return session.modal.favName; }, u"7"_s)},
+                 {u"txtFavDesc"_s, label(u"lblLength"_s, u"1"_s)}}},
+        {"names", u"frm_MultiDelete"_s, dialog(Screen::frm_MultiDelete, giveNames), true,
+         answerRows([](Session& session) { return session.modal.multiConfirmed.size() == 3; }) +
+             std::vector<WalkRow>{
+                 {u"lstNames"_s, itself()}, {u"lstNames|tick"_s, itself()}, {u"lstNames|head"_s, itself()}}},
+        {"backups",
+         u"frm_BackupList"_s,
+         dialog(Screen::frm_BackupList, giveBackups),
+         true,
+         {{u"btn_Cancel"_s, closes(isBackupTaken, false)},
+          {u"lstBackupList"_s, chosenBackup()},
+          {u"lstBackupList|head"_s, itself()},
+          {u"lstBackupList|twice"_s, closes(isBackupTaken, true)},
+          {u"(Enter)"_s, chosenBackup()},
+          {u"(Down)"_s, chosenBackup()},
+          {u"(Escape)"_s, closes(isBackupTaken, false)},
+          {u"(close)"_s, closes(isBackupTaken, false)}}},
+    };
+}
+
+} // namespace morvane::test

@@ -1,0 +1,110 @@
+#include "walk/furnished_program.h"
+
+#include "core/registry.h"
+#include "core/row_set.h"
+#include "core/store.h"
+#include "ground/ground_sets.h"
+#include "simulator/texture_switches.h"
+#include "sky/sky_sets.h"
+#include "weather/directory_rows.h"
+#include "weather/stored_reports.h"
+
+namespace morvane::test {
+
+namespace {
+
+void addSets(WindowProgram& program) {
+    program.install.addGroundSet(u"2-Fair"_s, u"Sky Clear"_s, true, {u"Texture\\029b2su6.bmp"_s});
+    program.install.addGroundSet(u"3-Grey"_s, u"Overcast"_s, false);
+    program.install.addSkySet(u"2-Calm"_s, u"Sky Clear"_s, true, {u"sky_afternoon_3.bmp"_s}, u"Sunny"_s);
+    program.install.addSkySet(u"3-Storm"_s, u"Overcast"_s, false);
+    addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\029b2lm1.bmp"_s});
+    addNightSet(program.install, u"3-Blue"_s, false);
+    refreshGroundSets(program.session);
+    program.session.gTextureSets->markInstalled(u"2-Fair"_s);
+}
+
+void addBaseTextures(Session& session) {
+    RowSet rows(*session.adoConn, u"SELECT * FROM MV_CONFIG"_s);
+    for (const QString& title : {u"Global Coverage - Day"_s, u"Golf"_s}) {
+        rows.addNew();
+        rows.setText(u"TITLE", title);
+        rows.setText(u"MV_FOLDER", u"GENERIC WORLD"_s);
+        rows.setText(u"MV_IMAGE", u"MV_Day.bmp"_s);
+        rows.setText(u"FS_FOLDER", u"Scenery\\World\\texture"_s);
+        rows.setText(u"DESCRIPTION", u"About "_s + title);
+        rows.setFlag(u"INSTALLED", false);
+        rows.update();
+    }
+}
+
+/// What the options replace, which they only do where it is.
+void addOptionFiles(WindowProgram& program) {
+    Session& session = program.session;
+    for (const bool isOn : {false, true})
+        for (const auto& copies : {dutchCopies(session, isOn, u"2-Fair"_s, u"2-Red"_s),
+                                   tropicalCopies(session, isOn, u"2-Fair"_s)})
+            for (const FileCopy& copy : copies)
+                writeFile(copy.target, "the pilot's");
+    for (const char16_t* name : {u"Media\\halo.bmp", u"Media\\halodefault.bmp"})
+        writeFile(program.install.home() / name, "a halo");
+}
+
+void addBackups(WindowProgram& program) {
+    RowSet rows(*program.session.adoConn, u"SELECT * FROM MV_BACKUP"_s);
+    for (const QString& name : {u"1-Backup"_s, u"2-Backup"_s}) {
+        rows.addNew();
+        rows.setText(u"BACKUP_NAME", name);
+        rows.setText(u"BACKUP_DATE_TIME", u"2007/05/30 21:14:09"_s);
+        rows.update();
+        writeFile(program.install.home() / u"Backup" / name / u"Texture\\029h2su6.bmp", name.toUtf8());
+    }
+}
+
+void addFlights(WindowProgram& program) {
+    writeFile(program.install.home() / u"Flights\\flights.cfg",
+              "[Flights]\r\ntotal=2\r\n1=Evening\r\n2=Late Rain\r\n");
+    program.session.MyDocumentsPath = (program.install.folder / u"Dokümente").native() + u'/';
+    for (const QString& name : {u"north.pln"_s, u"south.pln"_s})
+        writeFile(program.install.folder / u"Dokümente\\Flight Simulator Files" / name,
+                  "departure_name=" + name.toUtf8() +
+                      "\r\nwaypoint.0=KSEA, A, N47* 27.0', W122* 18.6', 0,\r\n"
+                      "waypoint.1=KPDX, A, N45* 35.0', W122* 36.0', 0,\r\n");
+}
+
+void addWeather(Session& session) {
+    addAirports(
+        session,
+        {{u"KSEA"_s, u"Tacoma"_s, u"Seattle"_s, u"Washington"_s, u"United States"_s, u"47.45"_s,
+          u"-122.31"_s},
+         {u"KPDX"_s, u"Portland"_s, u"Portland"_s, u"Oregon"_s, u"United States"_s, u"45.59"_s, u"-122.60"_s},
+         {u"DIAP"_s, u"Abidjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
+    addStation(session, u"KPDX"_s, 5, 45.59, -122.60);
+    addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
+    session.adoConn->execute(
+        u"UPDATE DECODED_METAR SET METAR_WEATHER = 'Rain', METAR_FOG = 'Mist', METAR_CLOUD_COVER = "
+        "'Overcast: Cumulus observed' WHERE METAR_ICAO = 'KPDX'"_s);
+    clsWxFinders::reload(session);
+}
+
+void addAddresses(Registry& registry) {
+    for (const char16_t* value : {u"HomePage", u"UpdateServer", u"ActiveSkyPage"})
+        registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, QString::fromUtf16(value),
+                              u"https://%1.example/"_s.arg(QString::fromUtf16(value).toLower()));
+}
+
+} // namespace
+
+void furnish(WindowProgram& program) {
+    addSets(program);
+    addBaseTextures(program.session);
+    addOptionFiles(program);
+    addBackups(program);
+    addFlights(program);
+    addWeather(program.session);
+    addAddresses(program.install.registry);
+    writeFile(program.install.home() / u"MV Help\\index.html", "<p>help</p>");
+    program.shell.formatMainScreen();
+}
+
+} // namespace morvane::test
