@@ -1,7 +1,7 @@
 # A display and a window manager of our own, the program's windows on it, and a mouse and a keyboard for them.
 # Sourced. Needs $root, a folder that goes with the run. Window positions are pixels from the window's corner.
 
-readonly patience=${MORVANE_PATIENCE:-120} # seconds that anything may take; far more than it needs, for machines with much to do
+readonly patience=120 # seconds that anything may take; far more than it needs, for machines with much to do
 programId=
 
 say() {

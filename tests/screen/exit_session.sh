@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# exit_session.sh PROGRAMS: every road out of the window program, from outside: whatever stands on the screen and
+# exit_session.sh PROGRAMS calm|busy: every road out of the window program, from outside: whatever stands on the screen and
 # however it is left, the process ends with status 0, its store is closed and its locks are gone. And the roads in that
-# have a process of their own: a cover word, the first start, a second window.
+# have a process of their own: a cover word, the first start, a second window. In two parts of half a minute.
 # MORVANE_SCREENSHOTS=FOLDER keeps pictures. Exit status 77: a tool is missing here.
 set -uo pipefail
-programs=$1
+programs=$1 part=$2
 here=$(dirname "$0")
 . "$here/session.sh"
 
@@ -52,10 +52,12 @@ atMessage() {
     inFront "Create New Backup?"
 }
 
-# Sets by the dozen: it runs as long as this needs.
+# So many sets that they are asked about: it runs as long as this needs.
 atJob() {
     atDialog
     press "$front" 9 9 Tab Tab Tab Tab Tab Return
+    inFront "Morvane Information"
+    press "$front" Return
     inFront "$make"
 }
 
@@ -101,6 +103,7 @@ launch() {
 # How it is left ------------------------------------------------------------------------------------------
 
 byMouse() { click "$front" $exitKey; }
+bySpace() { press "$front" shift+Tab shift+Tab space; } # the exit key is the last but one
 byManager() { press "$front" alt+F4; }
 byMainWindow() { "$programs/close_window" "$mainWindow"; }
 byHostWindow() { "$programs/close_window" "$hostWindow"; }
@@ -163,12 +166,14 @@ expectEnd() {
 
 # situation, way, whether the question about the sets comes: its answer's key, "-" when it must not come
 readonly patient=30 session=3
-table=(
-    "atMain byMouse Escape"      "atMain byManager Escape"
+calm=(
+    "atMain byMouse Escape"      "atMain bySpace Escape"      "atMain byManager Escape"
     "atGround byMouse Escape"    "atSky byMouse Escape"       "atNight byMouse Escape"     "atSky byManager Escape"
     "atMain byTerm -"            "atGround byHangUp -"        "atMain byInterrupt -"
     "atMessage byMainWindow Escape" "atMessage byTerm -"
     "atDialog byHostWindow Escape"  "atDialog byTerm -"
+)
+busy=(
     "atJob byManagerAndQuestion Escape" "atJob byTerm -"
     "atWait byMainWindow Escape" "atWait byManagerAndQuestion Escape" "atWait byTerm -"
     "atReset byManager -"        "atReset byTerm -"
@@ -184,15 +189,15 @@ makeExits() {
     printf 'MZ\xbd\x04\xef\xfe\0\0\1\0\0\0\6\0\0\0\x01\x14' >"$root/ASv6/ASv6.exe"
     printf '[HKEY_LOCAL_MACHINE\\Software\\HiFi\\Asv6]\r\nInstall_Path="%s"\r\nLocal=dword:00000001\r\n' "$root/ASv6" \
         >>"$home/registry.ini"
-    sed -i 's|^IsWideClient=.*|&\r\nSimulatorRunner="true"|' "$home/registry.ini"
+    sed -i 's|^IsWideClient=|SimulatorRunner="true"\r\n&|' "$home/registry.ini"
     "$programs/morvane-cli" --home "$home" ground create 0 0 0 0 1 2>/dev/null || fail "no ground set"
     weatherSet=$(setNames)
     "$programs/morvane-cli" --home "$home" --answer no ground install "$weatherSet" 2>/dev/null || fail "no install"
 }
 
-walkTable() {
+walkRows() {
     local row answer limit
-    for row in "${table[@]}"; do
+    for row in "$@"; do
         read -r situation way answer <<<"$row"
         say "$situation $way"
         $situation
@@ -220,10 +225,14 @@ cancelWait() {
     press "$front" Escape
     waitFor "the end of the wait" hasNoWindow "$wait"
     expect "nothing else is asked" hasNoWindow "$leave"
+    way=byTerm
+    byTerm
+    expectEnd $session "$weatherSet"
 }
 
 secondWindow() {
     say "A second window brings the first to the front and ends"
+    atMain
     xdotool windowminimize "$mainWindow"
     waitFor "the window to be away" isHidden "$mainWindow"
     MORVANE_HOME="$home" QT_QPA_PLATFORM=xcb "$programs/morvane" || fail "the second window ends with $?"
@@ -264,12 +273,20 @@ firstStart() {
     expectEnd $patient Default
 }
 
+calmPart() {
+    walkRows "${calm[@]}"
+    secondWindow
+    leaveByYes
+    firstStart
+    endFirstStart
+}
+
+busyPart() {
+    walkRows "${busy[@]}"
+    cancelWait
+}
+
 makeExits
 startDisplay
-walkTable
-cancelWait
-secondWindow
-leaveByYes
-firstStart
-endFirstStart
+"${part}Part"
 say "Done"
