@@ -234,12 +234,15 @@ void Shell::dispatch(SkinnedButton* button) {
 }
 
 /// Another program may have written since the page was filled. A key that acts on what the page shows then
-/// waits for a click on what is really there. The keys of a dialog answer what was asked.
+/// waits for a click on what is really there; new sets are made whatever it shows. The keys of a dialog
+/// answer what was asked.
 bool Shell::isAsShown(const SkinnedButton& button) {
     Form* form = Form::of(button.parentWidget());
     if (!form || qobject_cast<DialogForm*>(form)) return true;
     reloadChangedRows(session_);
-    if (!form->showForeignChanges() || button.family() != ButtonFamily::LargeButton) return true;
+    const bool isForSelection =
+        button.family() == ButtonFamily::LargeButton && !button.button_type().startsWith(u"create ");
+    if (!form->showForeignChanges() || !isForSelection) return true;
     session_.user.showMessage({MessageKind::information, u"Sets Have Changed"_s,
                                u"Another program has changed the texture sets.  The list shows them as they "
                                u"are now.  Please look at it and "

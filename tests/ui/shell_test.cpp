@@ -345,6 +345,14 @@ TEST_F(ShellTest, aKeyWaitsForASecondClickWhenItsListHasChanged) {
     program.press(u"frm_MVTextures"_s, u"btn_TextureInstall"_s);
     EXPECT_EQ(program.session.ground.SelectedGroundSet, u"Default"_s);
     EXPECT_TRUE(program.install.installedSets().isEmpty());
+    program.install.addGroundSet("3-Calm", "Mostly Clear", true);
+    bool isAsked = false;
+    program.whenShown(u"frm_TsRequired"_s, [&](DialogForm& dialog) {
+        isAsked = true;
+        dialog.cancel();
+    });
+    program.press(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+    EXPECT_TRUE(isAsked) << "new sets are made whatever the list shows";
 }
 
 /// Stands for the program that opens addresses.
