@@ -295,6 +295,8 @@ TEST_F(ExitTest, aRunningJobIsLeftBehindAQuestionAndNothingMoreIsAsked) {
         program.user.hideMessage();
         EXPECT_FALSE(program.user.ask(Question::launch, u"t"_s, u"nobody answers this"_s));
         EXPECT_FALSE(program.user.systemBox(u"nor this"_s, {}, SystemBoxButtons::yesNo));
+        program.user.showMessage({MessageKind::exclamation, u"t"_s, u"nor is this read"_s});
+        EXPECT_FALSE(program.user.isMessageVisible());
         program.user.showModal(Screen::frm_TsRequired);
         EXPECT_FALSE(program.session.modal.setCountsConfirmed);
     });
