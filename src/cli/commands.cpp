@@ -5,9 +5,11 @@
 #include "core/failure_report.h"
 #include "core/install_folder.h"
 #include "core/options.h"
+#include "core/writing.h"
 #include "weather/active_sky.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace morvane {
 
@@ -59,7 +61,9 @@ const std::vector<Command>& commandTable() {
 int runCommand(const Command& command, CommandContext context) {
     bool isReady = false;
     try {
-        isReady = makeReady(command, context.session);
+        std::optional<Writing> writing; // before the first look at what will be changed
+        if (command.writes) writing.emplace(context.session);
+        isReady = (!writing || *writing) && makeReady(command, context.session);
         if (isReady) reportFailures(context.user, {}, [&] { command.run(context); });
     } catch (const RoadEnded&) {
         isReady = false;

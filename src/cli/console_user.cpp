@@ -114,6 +114,8 @@ std::optional<bool> ConsoleUser::answerOfPending() {
 }
 
 void ConsoleUser::answerPending() {
+    pumpMessages();
+    if (isInterrupted_) throw RoadEnded{};
     const std::optional<bool> answer = answerOfPending();
     const bool isPersonal = answers().isPending(Question::wideClient);
     if (!answer) {
@@ -149,7 +151,9 @@ QString ConsoleUser::browseForFolder(const QString&) {
 }
 
 void ConsoleUser::pumpMessages() {
-    if (wasInterrupted()) answers().cancelRequested = true;
+    if (!wasInterrupted()) return;
+    isInterrupted_ = true;
+    answers().cancelRequested = true;
 }
 
 } // namespace morvane

@@ -13,8 +13,8 @@ namespace morvane {
 /// how to say Yes.
 enum class AnswerPolicy { yes, no, ask, nobody };
 
-/// Raised out of a question that Ctrl-C ended: nothing more is done. It is no std::exception, as a routine's
-/// boundary for failures is not to take it for one of its own.
+/// Raised out of a question that Ctrl-C ended, or that comes behind one: nothing more is done. It is no
+/// std::exception, as a routine's boundary for failures is not to take it for one of its own.
 struct RoadEnded {};
 
 /// The seam's console: messages and progress on stderr, answers from the keyboard or from a policy.
@@ -64,6 +64,7 @@ private:
     Settings settings_;
     bool failed_ = false, failedBefore_ = false; ///< now, and before the last failure
     bool wasLeftOpen_ = false;
+    bool isInterrupted_ = false; ///< what was cancelled has ended by then, and may have forgotten it
     bool progressVisible_ = false;
     bool progressLineOpen_ = false;
     bool canChooseFolder_;

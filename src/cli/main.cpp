@@ -2,6 +2,7 @@
 #include "cli/terminal.h"
 #include "core/install_folder.h"
 #include "core/registry.h"
+#include "core/writing.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -17,15 +18,21 @@ AnswerPolicy policyOf(const QString& word) {
     return word == u"ask" || isTerminal() ? AnswerPolicy::ask : AnswerPolicy::nobody;
 }
 
+bool isAnsweredBeforehand(AnswerPolicy policy) {
+    return policy == AnswerPolicy::yes || policy == AnswerPolicy::no;
+}
+
 int run(const CommandLine& line) {
     NativeFileSystem files;
     SystemClock clock;
     ReseedingRandomSource random;
-    ConsoleUser user({policyOf(line.options.value(u"--answer"_s)), false});
+    const AnswerPolicy policy = policyOf(line.options.value(u"--answer"_s));
+    ConsoleUser user({policy, false});
     const QString home = line.options.value(u"--home"_s, defaultInstallFolder());
     const FilePath folder(QFileInfo(home).absoluteFilePath());
     const auto registry = openRegistry(files, folder);
     Session session({user, files, clock, random, *registry}, folder);
+    if (isAnsweredBeforehand(policy)) session.writing->beUnattended();
     return runCommand(*line.command, {session, user, line.operands, line.options});
 }
 

@@ -6,6 +6,7 @@
 #include "core/registry.h"
 #include "core/store.h"
 #include "core/store_records.h"
+#include "core/writing.h"
 #include "ground/cloud_cover.h"
 #include "simulator/first_run.h"
 #include "simulator/set_matching.h"
@@ -56,14 +57,20 @@ bool findSimulator(Session& session) {
     return true;
 }
 
-/// The files of a new version, laid over an old install, ask for its upgrade.
-void openStore(Session& session) {
+/// The files of a new version, laid over an old install, ask for its upgrade. False when another program is
+/// at it and does not come to its end.
+bool openStore(Session& session) {
     if (session.files.exists(airportFile(session))) {
-        updateToV21(session);
-    } else {
-        connectDatabase(session);
-        session.DecimalSep = getDecimalSeparator();
+        const Writing writing(session);
+        if (!writing) return false;
+        if (session.files.exists(airportFile(session))) { // nobody has done it meanwhile
+            updateToV21(session);
+            return true;
+        }
     }
+    connectDatabase(session);
+    session.DecimalSep = getDecimalSeparator();
+    return true;
 }
 
 } // namespace
@@ -93,12 +100,11 @@ bool startUp(Session& session) {
         session.user.systemBox(problem, {}, SystemBoxButtons::ok);
         return false;
     }
-    bool found = false;
+    bool isReady = false;
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const bool done = reportFailures(session.user, report, [&] {
-        found = findSimulator(session);
-        if (!found) return;
-        openStore(session);
+        isReady = findSimulator(session) && openStore(session);
+        if (!isReady) return;
         session.AirportQuery = u"SELECT * FROM AIRPORTDATA"_s;
         getSideFSVal(session);
         session.BackupPath = session.AppPath / u"Backup";
@@ -110,7 +116,7 @@ bool startUp(Session& session) {
         }
         findActiveSky(session);
     });
-    return done && found;
+    return done && isReady;
 }
 
 void runCommandLine(Session& session, const QString& argument) {

@@ -20,6 +20,8 @@ QString tableText(ErrorCode code) {
         return u"Type mismatch"_s;
     case ErrorCode::cannotOpenForWriting:
         return u"Can't open file for writing"_s;
+    case ErrorCode::interrupted:
+        return u"User interrupt occurred"_s;
     case ErrorCode::fileNotFound:
         return u"File not found"_s;
     case ErrorCode::ioFailure:

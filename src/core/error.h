@@ -16,6 +16,7 @@ enum class ErrorCode {
     divisionByZero = 11,
     typeMismatch = 13,
     cannotOpenForWriting = 17,
+    interrupted = 18, ///< what was begun is left, and the user knows why: nothing is told
     fileNotFound = 53,
     ioFailure = 57,
     diskFull = 61,

@@ -1,6 +1,7 @@
 #include "core/application.h"
 #include "core/failure_report.h"
 #include "core/store.h"
+#include "core/store_records.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
 #include "night/night_texture_sets.h"
@@ -62,7 +63,7 @@ void releaseCollections(Session& session) {
 } // namespace
 
 void checkResetTextures(Session& session) {
-    if (session.IsFastExit) return;
+    if (session.IsFastExit || !hasStore(session)) return; // which was told at the start
     if (!refreshGroundSets(session) || !refreshSkySets(session)) return;
     const QString ground = installedCover(*session.gTextureSets, &clsTextureSet::TextureSet);
     const QString sky = installedCover(*session.gSkyTextureSets, &clsSkyTextureSet::SkyTextureSet);
@@ -83,8 +84,9 @@ void checkResetTextures(Session& session) {
 
 void exitProgram(Session& session) {
     if (!session.MinimiseForLaunch && !session.CommandLineRun) {
-        session.ExitInProgress = true;
-        reportFailures(session.user, {}, [&] { checkResetTextures(session); });
+        session.ExitInProgress.moveTo(ExitStage::inFlow);
+        if (!session.ExitInProgress.isSilent())
+            reportFailures(session.user, {}, [&] { checkResetTextures(session); });
     }
     releaseCollections(session);
     reportFailures(session.user, {}, [&] { clearDownloadedCycles(session); });

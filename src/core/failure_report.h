@@ -17,7 +17,8 @@ struct FailureReport {
 
 void showFailure(UserInterface& user, const FailureReport& report, const QString& description);
 
-/// The boundary of a routine: runs it, and turns an exception into the one message of the report.
+/// The boundary of a routine: runs it, and turns an exception into the one message of the report, but for
+/// `interrupted`, which ends the routine without a word.
 /// True when the routine came to its end. A failure is told once and never crosses this line, so the caller
 /// goes on with what it has.
 template <class Routine>
@@ -26,7 +27,7 @@ bool reportFailures(UserInterface& user, const FailureReport& report, Routine&& 
         routine();
         return true;
     } catch (const Error& error) {
-        showFailure(user, report, error.description());
+        if (error.code() != ErrorCode::interrupted) showFailure(user, report, error.description());
     } catch (const std::bad_alloc&) {
         showFailure(user, report, Error(ErrorCode::outOfMemory).description());
     } catch (const std::exception& error) {

@@ -1,34 +1,55 @@
 #pragma once
 
 #include "core/session.h"
+#include "core/writing.h"
+
+#include <optional>
 
 namespace morvane {
 
 /// A long run with a progress message: generation, activation, installation. Events are served while it runs,
-/// so a click could start the same job inside itself; the guard refuses that. A cancel belongs to one job:
-/// the flag is cleared when the job begins and when it ends.
+/// so a click could start the same job inside itself; the guard refuses that. It is this session's turn to
+/// write: what the job reads of the install, it reads inside it. A cancel belongs to one job: the flag is
+/// cleared when the job begins and when it ends.
 class Job {
 public:
-    explicit Job(Session& session) : session_(session), started_(!session.jobRunning) {
-        if (started_) begin(true);
+    enum class Start { atOnce, behindQuestions };
+
+    /// `behindQuestions`: other programs may write as long as the user has not answered; `begin` comes behind
+    /// that.
+    explicit Job(Session& session, Start start = Start::atOnce)
+        : session_(session), started_(!session.jobRunning) {
+        if (!started_) return;
+        setRunning(true);
+        if (start == Start::atOnce) started_ = begin();
+        if (!started_) setRunning(false);
     }
     ~Job() {
-        if (started_) begin(false);
+        if (started_) setRunning(false);
     }
     Job(const Job&) = delete;
     Job& operator=(const Job&) = delete;
 
-    /// False when another job is running: leave without a word.
+    /// False when another job is running, or another program writes: leave without a word.
     explicit operator bool() const { return started_; }
-    bool isCancelled() const { return session_.user.answers().cancelRequested; }
+    /// False when another program writes; the user was told.
+    bool begin() {
+        if (!writing_) writing_.emplace(session_);
+        return static_cast<bool>(*writing_);
+    }
+    /// Nothing more is written: other programs may, while the user reads what the job has to tell.
+    void end() { writing_.reset(); }
+    /// By the user, or by the end of the program.
+    bool isCancelled() const { return isWorkCancelled(session_); }
 
 private:
-    void begin(bool running) {
+    void setRunning(bool running) {
         session_.jobRunning = running;
         session_.user.answers().cancelRequested = false;
     }
     Session& session_;
     bool started_;
+    std::optional<Writing> writing_;
 };
 
 } // namespace morvane

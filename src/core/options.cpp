@@ -2,6 +2,7 @@
 
 #include "core/failure_report.h"
 #include "core/file_helpers.h"
+#include "core/job.h"
 #include "core/numbers.h"
 #include "core/registry.h"
 #include "simulator/configs.h"
@@ -79,10 +80,13 @@ void getCustomSplashVal(Session& session) {
 
 void setCustomSplashVal(Session& session, bool value) {
     reportFailures(session.user, optionFailure(u"Sub setCustomSplashVal"_s), [&] {
+        Job job(session);
+        if (!job) return;
         storeOwnValue(session, u"InhibitCustomSplash", flagText(value));
         session.InhibitCustomSplash = value;
         if (value)
             copyIntoSimulator(session, session.AppPath / u"Media\\dlgsplash.bmp", splashTarget(session));
+        job.end();
         const QString copied = u"The default FS splash screen has been copied to Flight Similator. "_s;
         inform(
             session, u"FS9 Splash Screen Status"_s,
@@ -102,7 +106,8 @@ void getSideFSVal(Session& session) {
             u"Please indicate if you are using Morvane on a WideClient PC.  Click the checkmark for 'Yes' or "
             u"the "
             "crossmark for 'No'  If you are not using WideFS please select the crossmark to continue."_s);
-        if (session.user.answers().isAnswered(Question::wideClient))
+        // The end of the program is no answer either.
+        if (session.user.answers().isAnswered(Question::wideClient) && !session.ExitInProgress.isSilent())
             storeOwnValue(session, u"IsWideClient", flagText(session.IsWideClient));
     });
 }

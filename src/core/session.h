@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/clock.h"
+#include "core/exit_progress.h"
 #include "core/file_path.h"
 #include "core/file_system.h"
 #include "core/user_interface.h"
@@ -27,6 +28,7 @@ class clsSkyTextureSets;
 class clsSkyTextureSubSets;
 class clsTextureSets;
 class clsWxFinders;
+struct WritingLock;
 
 /// Whose favourite frm_AddFav names.
 enum class FavouriteKind { ground, sky, night };
@@ -194,7 +196,7 @@ public:
     bool IsDutch = false, IsTropical = false, IsHalo = false, IsFastExit = false;
     bool CommandLineRun = false;
     bool StartingUp = false;
-    bool ExitInProgress = false;
+    ExitProgress ExitInProgress;
     bool MinimiseForLaunch = false;
     bool RefreshGroundList = false, RefreshSkyList = false, RefreshNightList = false;
 
@@ -202,6 +204,7 @@ public:
 
     /// A long job is running; another one is not started from inside it.
     bool jobRunning = false;
+    std::unique_ptr<WritingLock> writing; ///< always there; jobs and commands take it (see writing.h)
 
     QStringList WxCloudList, WxStrengthList; ///< the weather of a flight, one element a point
     bool CoverCancelled = false;
@@ -229,5 +232,10 @@ public:
     std::unique_ptr<clsSkyTextureSubSets> gSkyTextureSubSets;
     std::unique_ptr<clsWxFinders> gWxFinders;
 };
+
+/// By the user, or because the program ends.
+inline bool isWorkCancelled(const Session& session) {
+    return session.user.answers().cancelRequested || session.ExitInProgress.endsWork();
+}
 
 } // namespace morvane

@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <sqlite3.h>
+#include <utility>
 
 namespace morvane {
 
@@ -73,10 +74,21 @@ void Store::connect(const FilePath& file, int flags) {
         run(u"PRAGMA journal_mode = WAL"_s);
         run(u"PRAGMA synchronous = NORMAL"_s);
         run(u"PRAGMA wal_autocheckpoint = 4000"_s); // pages; each time costs two waits for the disk
+        dataVersion_ = dataVersion();
     } catch (const Error&) {
         close();
         throw;
     }
+}
+
+std::int64_t Store::dataVersion() {
+    StoreStatement statement(*this, u"PRAGMA data_version"_s);
+    return statement.step() ? statement.number(0) : 0;
+}
+
+bool Store::wasChangedByOthers() {
+    const std::int64_t known = std::exchange(dataVersion_, dataVersion());
+    return dataVersion_ != known;
 }
 
 void Store::close() {

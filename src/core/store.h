@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QStringList>
+#include <cstdint>
 #include <memory>
 
 struct sqlite3;
@@ -40,6 +41,9 @@ public:
     /// Runs a statement that returns no rows. One that changes the schema runs whole or not at all.
     void execute(const QString& statement);
 
+    /// True when another connection has changed the store since the last call, or since it was opened.
+    bool wasChangedByOthers();
+
     /// Names as they were created, sorted. An unknown table has no columns. The tests do not regard case.
     QStringList tables();
     QStringList columns(const QString& table);
@@ -59,6 +63,7 @@ private:
     using Prepared = std::shared_ptr<sqlite3_stmt>;
 
     void connect(const FilePath& file, int flags);
+    std::int64_t dataVersion();
     Prepared prepared(const QString& statement);
     void run(const QString& statement, const QStringList& texts = {});
     void runSchemaChange(const TranslatedStatement& change);
@@ -68,6 +73,7 @@ private:
     std::unique_ptr<sqlite3, Closer> connection_;
     QHash<QString, Prepared> prepared_;
     int openTransactions_ = 0;
+    std::int64_t dataVersion_ = 0; ///< changes with every write of another connection
 };
 
 /// Several statements as one: all of them are done at `commit`, none when the object goes before it.

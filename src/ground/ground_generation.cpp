@@ -54,18 +54,19 @@ FilePath groundSetFolder(const Session& session, const QString& name) {
 GroundGeneration::GroundGeneration(Session& session) : SetGeneration(session, groundKind) {}
 
 void GroundGeneration::createTextureSets(bool fromMain) {
-    Job job(session_);
+    Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
         session_.modal.setCountsConfirmed = false;
         session_.user.showModal(Screen::frm_TsRequired);
-        if (!session_.modal.setCountsConfirmed) return;
+        if (!session_.modal.setCountsConfirmed || !job.begin()) return;
         const QTime start = session_.clock.localTime().time();
         const auto& counts = session_.modal.setCounts;
         const int total = std::accumulate(counts.begin(), counts.end(), 0);
         if (total > 0 && !session_.user.allowsRun(groundRunSize(session_, total))) return;
         if (createAll(job, total, fromMain)) {
             session_.user.hideMessage();
+            job.end();
             reportDuration(start, session_.clock.localTime().time(), total);
         }
         endRun(fromMain);

@@ -33,7 +33,7 @@ bool GroundInstallation::installSelectedSet() {
     return session_.ground.SelectedGroundSet == defaultSet ? installDefaultSet() : installGeneratedSet();
 }
 
-bool GroundInstallation::installMatch(const Job& job) {
+bool GroundInstallation::installMatch(Job& job) {
     const clsSkyTextureSets& skies = loadedSkySets(session_);
     // Without any sky set no sky is touched; a sky that asks for its ground has no such way out. Wanted.
     if (skies.Count() == 0) return true;

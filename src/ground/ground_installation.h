@@ -14,7 +14,7 @@ public:
 
 private:
     qsizetype selectedRowCount() const override { return session_.ground.selectedRows.size(); }
-    bool installMatch(const Job& job) override;
+    bool installMatch(Job& job) override;
     bool installSelectedSet() override;
 
     std::vector<FileCopy> copyListOfSet();

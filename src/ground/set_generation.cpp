@@ -19,13 +19,13 @@ void SetGeneration::makeFiles(const Job& job, Counters counters, Screen hiddenSc
 }
 
 void SetGeneration::activateInHand() {
-    Job job(session_);
+    Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
         if (!refresh()) return;
         if (const QStringList names = changeableNames(inHand().selectedRows); names.size() > 1)
             activateSeveral(job, names);
-        else if (const auto set = find(inHand().name))
+        else if (const auto set = job.begin() ? find(inHand().name) : std::nullopt)
             activate(job, *set, {1, 1});
         session_.user.hideMessage();
     });
@@ -34,8 +34,9 @@ void SetGeneration::activateInHand() {
     session_.user.showScreen(kind_.listScreen);
 }
 
-void SetGeneration::activateSeveral(const Job& job, const QStringList& names) {
+void SetGeneration::activateSeveral(Job& job, const QStringList& names) {
     const QStringList confirmed = confirmedNames(session_, names);
+    if (!job.begin()) return;
     int position = 0;
     for (const QString& name : confirmed) {
         const auto set = find(name);
@@ -67,7 +68,7 @@ bool SetGeneration::activate(const Job& job, const StoredSet& set, Counters coun
 }
 
 void SetGeneration::deleteInHand(bool deactivateMode) {
-    Job job(session_);
+    Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
         if (!refresh()) return;
@@ -76,9 +77,10 @@ void SetGeneration::deleteInHand(bool deactivateMode) {
             if (!set) return SetState::missing;
             return set->installed ? SetState::installed : SetState::removable;
         };
-        removeSets(session_, {deactivateMode, inHand().name, inHand().selectedRows, u"\n"_s, stateOf,
-                              [&](const QString& name) { return removeSetFiles(name, deactivateMode); },
-                              kind_.protectsInstalled});
+        removeSets(session_,
+                   {deactivateMode, inHand().name, inHand().selectedRows, u"\n"_s, stateOf,
+                    [&](const QString& name) { return job.begin() && removeSetFiles(name, deactivateMode); },
+                    kind_.protectsInstalled});
         session_.*kind_.refreshList = true;
         session_.user.refreshScreen(kind_.listScreen);
     });

@@ -69,7 +69,7 @@ protected:
     Session& session_;
 
 private:
-    void activateSeveral(const Job& job, const QStringList& names);
+    void activateSeveral(Job& job, const QStringList& names);
     bool takeInHand(const StoredSet& set);
     bool activate(const Job& job, const StoredSet& set, Counters counters);
 

@@ -71,9 +71,10 @@ int copyEach(Session& session, const std::vector<FileCopy>& copies) {
     SimulatorCopier copier(session);
     copier.prepare(copies);
     int count = 0;
-    CopyWalk(session, copies, 1).round(nullptr, [&](const FileCopy& copy) {
+    const bool isWhole = CopyWalk(session, copies, 1).round(nullptr, [&](const FileCopy& copy) {
         count += attempt([&] { copier.copyOverReadOnly(copy); });
     });
+    if (!isWhole) throw Error(ErrorCode::interrupted);
     copier.finish();
     return count;
 }

@@ -42,11 +42,13 @@ public:
         : session_(session), copies_(copies),
           share_(100.0 / static_cast<double>(copies.size() * static_cast<std::size_t>(rounds) + 1)) {}
 
-    /// Takes the step for each copy. With a job it is asked before each whether to go on: false when not.
+    /// Takes the step for each copy. With a job it is asked before each whether to go on: false when not, and
+    /// at the end of the desktop's session with any list.
     template <class Step>
     bool round(const Job* cancellable, Step step) {
         for (const FileCopy& copy : copies_) {
-            if (cancellable && cancellable->isCancelled()) return false;
+            if (session_.ExitInProgress.endsCopies() || (cancellable && cancellable->isCancelled()))
+                return false;
             step(copy);
             session_.user.updateProgress({}, {}, position_ += share_);
         }

@@ -3,6 +3,7 @@
 #include "core/failure_report.h"
 #include "core/registry.h"
 #include "core/safe_copy.h"
+#include "core/writing.h"
 #include "ground/cloud_cover.h"
 #include "simulator/backup_files.h"
 #include "simulator/flights.h"
@@ -39,7 +40,13 @@ void keepSimulatorSplash(Session& session) {
 
 void doFirstRun(Session& session) {
     const QString firstTime = u"FirstTime"_s;
-    if (session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime) != u"True") return;
+    const auto isFirstTime = [&] {
+        return session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime) == u"True";
+    };
+    if (!isFirstTime()) return;
+    // Two programs that are started at once make one first backup. Who comes second need not wait for it.
+    const Writing writing(session, Writing::Waiting::none);
+    if (!writing || !isFirstTime()) return;
     // Each is told for itself, costs none of the others, and is no reason not to start.
     reportFailures(session.user, {}, [&] { keepSimulatorSplash(session); });
     if (!session.IsWideClient) reportFailures(session.user, {}, [&] { copyDeliveredFlights(session); });

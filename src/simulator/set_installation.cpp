@@ -8,18 +8,23 @@ namespace morvane {
 
 void SetInstallation::install(bool automatic) {
     if (session_.jobRunning) return;
-    const Outcome outcome = run(Job(session_), automatic);
+    Outcome outcome{};
+    {
+        Job job(session_, Job::Start::behindQuestions);
+        outcome = run(job, automatic);
+    }
     const bool offersStart = !automatic && !session_.CommandLineRun && !kind_.matchQuestion.isEmpty();
     if (outcome != Outcome::installed || !offersStart) return;
     // The job has ended by now: what the user does before the answer is no part of it.
     reportFailures(session_.user, {}, [this] { launchFlightSimulator(session_); });
 }
 
-SetInstallation::Outcome SetInstallation::run(const Job& job, bool automatic) {
+SetInstallation::Outcome SetInstallation::run(Job& job, bool automatic) {
     filesCopied_ = 0;
     Outcome outcome = Outcome::failed;
     reportFailures(session_.user, {}, [&] {
         if (!automatic && !prepareByHand(job)) return;
+        if (!job.begin()) return;
         outcome = installSelectedSet() ? Outcome::installed : Outcome::storeRefused;
     });
     if (outcome != Outcome::installed || session_.CommandLineRun) return outcome;
@@ -30,7 +35,7 @@ SetInstallation::Outcome SetInstallation::run(const Job& job, bool automatic) {
     return outcome;
 }
 
-bool SetInstallation::prepareByHand(const Job& job) {
+bool SetInstallation::prepareByHand(Job& job) {
     if (selectedRowCount() > 1) {
         // The title is misspelt: the message's own word.
         session_.user.showMessage({MessageKind::exclamation, u"Multiple Selection Detetected!"_s,

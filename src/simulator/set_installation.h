@@ -32,7 +32,7 @@ public:
     void install(bool automatic);
     /// The automatic install as a part of a job that is running already. False when the store refused to
     /// record it: the job then ends, too.
-    bool installInside(const Job& job) { return run(job, true) != Outcome::storeRefused; }
+    bool installInside(Job& job) { return run(job, true) != Outcome::storeRefused; }
 
     /// Files copied by the last install, the splash left out.
     int filesCopied() const { return filesCopied_; }
@@ -41,7 +41,7 @@ protected:
     virtual qsizetype selectedRowCount() const = 0;
     /// The user wants the set of the other kind, too. Never called without a question. False when the store
     /// refused.
-    virtual bool installMatch(const Job&) { return true; }
+    virtual bool installMatch(Job&) { return true; }
     /// False when the store refused: nothing was copied then.
     virtual bool installSelectedSet() = 0;
 
@@ -62,9 +62,9 @@ protected:
 
 private:
     enum class Outcome { installed, failed, storeRefused };
-    Outcome run(const Job& job, bool automatic);
+    Outcome run(Job& job, bool automatic);
     /// False when the install was refused, by the store or for its several rows.
-    bool prepareByHand(const Job& job);
+    bool prepareByHand(Job& job);
 
     const InstallationKind& kind_;
     int filesCopied_ = 0;

@@ -3,6 +3,7 @@
 #include "core/error.h"
 #include "core/failure_report.h"
 #include "core/numbers.h"
+#include "core/writing.h"
 #include "ground/cloud_cover.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
@@ -101,6 +102,8 @@ QString SetMatching::closestSet(const std::vector<ActivatedSet>& sets, ClosestSe
 void SetMatching::installMatchingSets(const QString& cover) {
     // The kind is misspelt, as that of the flights' failure: it names an icon of its own.
     reportFailures(session_.user, {u"getIcaoWxDetails Error"_s, MessageKind::exlamation}, [&] {
+        const Writing writing(session_); // for both, so that they go together
+        if (!writing) return;
         const auto grounds = activatedSets(loadedGroundSets(session_));
         const auto skies = activatedSets(loadedSkySets(session_));
         const QString ground = chooseSet({u"Ground"_s, grounds, ClosestSearch::nextWord}, cover);
@@ -136,6 +139,7 @@ FlyReport flyWithCover(Session& session) {
     SetMatching matching(session);
     FlyReport report;
     if (matching.askInstallMatchingSets()) report.filesCopied = matching.filesCopied();
+    if (session.writing->wasRefused) return {};
     report.isSimulatorStarted = startSavedFlight(session);
     if (!session.modal.FlightSelected) report.isSimulatorStarted = launchFlightSimulator(session);
     return report;

@@ -1,5 +1,6 @@
 #include "simulator/simulator_copy.h"
 
+#include "core/error.h"
 #include "core/safe_copy.h"
 
 #include <QSet>
@@ -10,6 +11,10 @@ Originals originalsOf(const Session& session) {
     return {session.files, session.FSPath, session.AppPath, session.clock.localTime().date()};
 }
 
+void endWithSession(const Session& session) {
+    if (session.ExitInProgress.endsCopies()) throw Error(ErrorCode::interrupted);
+}
+
 SimulatorCopier::SimulatorCopier(Session& session) : session_(session), originals_(originalsOf(session)) {}
 
 void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
@@ -17,6 +22,7 @@ void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
     // Outside a job a click could begin something else in the middle.
     originals_.prepare(copies, [this] {
         if (session_.jobRunning) session_.user.pumpMessages();
+        endWithSession(session_);
     });
 }
 
@@ -31,10 +37,12 @@ void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
 }
 
 void SimulatorCopier::copy(const FileCopy& copy) {
+    endWithSession(session_);
     put(copy, originals_.place(copy));
 }
 
 void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {
+    endWithSession(session_);
     const FilePath place = originals_.place(copy);
     originals_.takeReadOnlyMark(place);
     put(copy, place);

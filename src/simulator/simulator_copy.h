@@ -16,6 +16,7 @@ public:
 
     /// Takes the whole list before the first copy: clears what a killed run left beside the targets, keeps
     /// the pilot's files and notes what will be put where. The failure of one file is raised by its copy.
+    /// This and the copies raise `interrupted` once the desktop's session ends: the rest of the list stays.
     void prepare(const std::vector<FileCopy>& copies);
     /// The first half alone, where the files are the pilot's own.
     void clearStrays(const std::vector<FileCopy>& copies);
@@ -36,6 +37,9 @@ private:
     Session& session_;
     Originals originals_;
 };
+
+/// Raises `interrupted` once the desktop's session ends.
+void endWithSession(const Session& session);
 
 /// One file, with everything that SimulatorCopier does for a list.
 void copyIntoSimulator(Session& session, const FilePath& source, const FilePath& target);

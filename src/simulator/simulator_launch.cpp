@@ -1,8 +1,7 @@
 #include "simulator/simulator_launch.h"
 
-#include "core/registry.h"
 #include "simulator/flights.h"
-#include "simulator/program_start.h"
+#include "simulator/program_runner.h"
 
 namespace morvane {
 
@@ -17,27 +16,10 @@ void leaveTheScreenToTheSimulator(Session& session) {
     session.MinimiseForLaunch = false;
 }
 
-void tellNotStarted(Session& session, const QString& why) {
-    session.user.showMessage({MessageKind::exclamation, u"Flight Simulator Not Started"_s, why});
-}
-
 bool startSimulator(Session& session, const FilePath& flight) {
-    const QString runner =
-        session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"SimulatorRunner"_s);
-    const FilePath simulator = session.FSPath / u"fs9.exe";
-    const bool isPossible = !lacksRunner(simulator, runner);
-    const bool isStarted = isPossible && startProgram(simulator, flight, runner);
-    if (!isPossible)
-        tellNotStarted(session,
-                       u"Flight Simulator is a Windows program and needs a runner on this system. "
-                       u"Set the value \"SimulatorRunner\" of Morvane's registry.ini to its command, "
-                       u"such as wine."_s);
-    else if (!isStarted)
-        tellNotStarted(session, u"Flight Simulator could not be started: "_s + simulator.text() +
-                                    (runner.isEmpty() ? QString() : u"\nThe runner is "_s + runner));
-    else
-        leaveTheScreenToTheSimulator(session);
-    return isStarted;
+    if (!startWithRunner(session, u"Flight Simulator"_s, session.FSPath / u"fs9.exe", flight)) return false;
+    leaveTheScreenToTheSimulator(session);
+    return true;
 }
 
 } // namespace

@@ -77,8 +77,10 @@ std::optional<OriginalsReport> restoreOriginals(Session& session) {
         session.user.showMessage({MessageKind::progress, title,
                                   u"Morvane is putting your own files back.  Please wait......."_s, false,
                                   false, true});
-        report = originalsOf(session).restore(
-            [&](double part) { session.user.updateProgress({}, {}, 100 * part); });
+        report = originalsOf(session).restore([&](double part) {
+            session.user.updateProgress({}, {}, 100 * part);
+            endWithSession(session);
+        });
         // The rows come last: a kill before them leaves what the next restore finishes.
         const bool isUntouched = report->failure && report->putBack + report->takenAway == 0;
         if (!isUntouched) forgetInstalled(session);

@@ -1,6 +1,7 @@
 #include "simulator/texture_switches.h"
 
 #include "core/failure_report.h"
+#include "core/job.h"
 #include "ground/ground_sets.h"
 #include "ground/tropical_files.h"
 #include "night/night_sets.h"
@@ -144,6 +145,8 @@ void tropicalTextures(Session& session, bool isOn, const QString& groundName) {
 }
 
 bool switchDutch(Session& session, bool isOn) {
+    Job job(session);
+    if (!job) throw Error(ErrorCode::interrupted);
     if (!hasGroundSets(session)) return session.IsDutch = false;
     session.IsDutch = isOn;
     const auto copyTextures = isOn ? dutchTexturesOn : dutchTexturesOff;
@@ -153,6 +156,8 @@ bool switchDutch(Session& session, bool isOn) {
 }
 
 bool switchTropical(Session& session, bool isOn) {
+    Job job(session);
+    if (!job) throw Error(ErrorCode::interrupted);
     if (!hasGroundSets(session)) return session.IsTropical = false;
     tropicalTextures(session, isOn, installedName(*session.gTextureSets));
     session.IsTropical = isOn;
@@ -161,10 +166,13 @@ bool switchTropical(Session& session, bool isOn) {
 }
 
 void switchHalo(Session& session, bool isOn) {
+    Job job(session);
+    if (!job) throw Error(ErrorCode::interrupted);
     session.IsHalo = isOn;
     clsConfigs(session).UpdateHalo(isOn);
     copyIntoSimulator(session, session.AppPath / (isOn ? u"Media\\halo.bmp" : u"Media\\halodefault.bmp"),
                       session.FSPath / u"Texture\\halo.bmp");
+    job.end();
     inform(session, u"File Copied"_s,
            isOn ? u"The custom halo file has been copied to flight simulator"_s
                 : u"The default halo file has been copied to flight simulator"_s);

@@ -6,7 +6,8 @@
 namespace morvane {
 
 /// Options that change files of the simulator at once, without an install: each of these sets the session's
-/// flag and stores it.
+/// flag and stores it. While another job runs or another program writes they raise `interrupted`, and nothing
+/// changes.
 
 /// Rural textures of Dutch style on the installed ground and night set, or their generic ones again. False
 /// after the message that there is no ground set; the flag is off then and nothing is stored.

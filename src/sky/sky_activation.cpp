@@ -22,7 +22,7 @@ SetState stateOf(Session& session, const QString& name) {
 } // namespace
 
 void SkyActivation::activateSkySet() {
-    const Job job(session_);
+    Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
         if (!refreshSkySets(session_)) return;
@@ -31,14 +31,15 @@ void SkyActivation::activateSkySet() {
         // wanted. Nothing protects "Default" here, unlike in a removal.
         if (names.size() > 1)
             activateSeveral(job, names);
-        else if (const auto set = findSkySet(session_, session_.sky.SelectedSkySet))
+        else if (const auto set = job.begin() ? findSkySet(session_, session_.sky.SelectedSkySet) : nullptr)
             activate(job, *set, skyTimesOfDay, {1, 1});
         rebuildList(session_.sky.SelectedSkySet);
     });
 }
 
-void SkyActivation::activateSeveral(const Job& job, const QStringList& names) {
+void SkyActivation::activateSeveral(Job& job, const QStringList& names) {
     const QStringList confirmed = confirmedNames(session_, names);
+    if (!job.begin()) return;
     int number = 0;
     for (const QString& name : confirmed) {
         const auto set = findSkySet(session_, name);
@@ -82,16 +83,17 @@ bool SkyActivation::storeActivation(const clsSkyTextureSet& set, bool activated)
 }
 
 void SkyActivation::deleteSkySet(bool deactivateMode) {
-    const Job job(session_);
+    Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
         if (!refreshSkySets(session_)) return;
-        const SetRemoval removal{deactivateMode,
-                                 session_.sky.SelectedSkySet,
-                                 session_.sky.selectedRows,
-                                 u"\n\n"_s,
-                                 [this](const QString& name) { return stateOf(session_, name); },
-                                 [&](const QString& name) { return removeSet(name, deactivateMode); }};
+        const SetRemoval removal{
+            deactivateMode,
+            session_.sky.SelectedSkySet,
+            session_.sky.selectedRows,
+            u"\n\n"_s,
+            [this](const QString& name) { return stateOf(session_, name); },
+            [&](const QString& name) { return job.begin() && removeSet(name, deactivateMode); }};
         if (!removeSets(session_, removal)) return;
         cleanTempBitmaps(session_);
         const auto& sets = loadedSkySets(session_);

@@ -28,7 +28,7 @@ private:
     };
     bool activate(const Job& job, const clsSkyTextureSet& set, const QStringList& timesOfDay,
                   Counters counters);
-    void activateSeveral(const Job& job, const QStringList& names);
+    void activateSeveral(Job& job, const QStringList& names);
     bool storeActivation(const clsSkyTextureSet& set, bool activated);
     bool removeSet(const QString& name, bool keepRecord);
     void rebuildList(const QString& nameInHand);

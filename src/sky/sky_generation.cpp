@@ -60,12 +60,13 @@ RunSize runSize(Session& session) {
 } // namespace
 
 void SkyGeneration::createSkySets(bool fromHomeScreen) {
-    Job job(session_);
+    Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
         session_.modal.skySetsConfirmed = false;
         session_.user.showModal(Screen::frm_SelectSkyTexture);
         if (!session_.modal.skySetsConfirmed || !session_.user.allowsRun(runSize(session_))) return;
+        if (!job.begin()) return;
         showProgress(session_, u"Processing your sky textures.  Please wait until the process has finished.  "
                                "This may take a few minutes dependant on your system specification!"_s);
         createAll(job);
@@ -185,7 +186,7 @@ bool SkyGeneration::writeFiles(const QStringList& names, const FilePath& source,
     const double step = 100.0 / static_cast<double>(names.size() + 2);
     for (qsizetype i = 0; i < names.size(); ++i) {
         session_.user.pumpMessages();
-        if (session_.user.answers().cancelRequested) return false;
+        if (isWorkCancelled(session_)) return false;
         session_.user.updateProgress({}, {}, step * static_cast<double>(i + 1));
         session_.user.setProgressFile(u"Coloring "_s + names[i] + u" which is file "_s +
                                       QString::number(i + 1) + u" of "_s + QString::number(names.size()));

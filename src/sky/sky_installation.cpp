@@ -22,7 +22,7 @@ const InstallationKind skyKind{
 
 SkyInstallation::SkyInstallation(Session& session) : SetInstallation(session, skyKind) {}
 
-bool SkyInstallation::installMatch(const Job& job) {
+bool SkyInstallation::installMatch(Job& job) {
     const QStringList names =
         namesForCover(activatedSets(loadedGroundSets(session_)), session_.sky.SelectedSkyCover);
     // The last of the grounds is never drawn, though the last of the skies is for a ground. Wanted.

@@ -15,7 +15,7 @@ public:
 
 private:
     qsizetype selectedRowCount() const override { return session_.sky.selectedRows.size(); }
-    bool installMatch(const Job& job) override;
+    bool installMatch(Job& job) override;
     bool installSelectedSet() override;
 };
 

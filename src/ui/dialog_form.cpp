@@ -1,6 +1,7 @@
 #include "ui/dialog_form.h"
 
 #include "core/literals.h"
+#include "core/session.h"
 #include "ui/controls/labels.h"
 #include "ui/shell.h"
 
@@ -53,12 +54,15 @@ void DialogForm::addAnswerKeys(const QString& okTip, const QString& cancelTip) {
 
 void DialogForm::run() {
     prepare();
+    const ExitProgress& exit = session().ExitInProgress;
+    if (exit.isSilent()) return cancel();
     focusFirst();
     centreOver(shell().messageAnchor());
     QEventLoop loop;
     connect(this, &DialogForm::closed, &loop, &QEventLoop::quit);
     show();
     loop.exec();
+    if (exit.isSilent() && isVisible()) cancel();
 }
 
 void DialogForm::setVisible(bool isWanted) {

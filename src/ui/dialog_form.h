@@ -12,7 +12,8 @@ class DialogForm : public ShapedForm {
 public:
     DialogForm(Shell& shell, const QString& name, const WindowLook& look, const QString& title);
 
-    /// Prepares, shows, waits; the answer stands in the session.
+    /// Prepares, shows, waits; the answer stands in the session. On the way out of the program it is that of
+    /// a cancel.
     void run();
 
     /// Nothing while its key is dead, however it was asked for.

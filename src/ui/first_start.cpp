@@ -15,7 +15,7 @@ namespace morvane {
 
 namespace {
 
-/// Runs the tool to its end or to the user's cancel, by which it is killed.
+/// Runs the tool to its end, or to the user's cancel or the end of the session, by which it is killed.
 bool runTool(QProcess& tool, QProgressDialog& progress) {
     QEventLoop loop;
     QObject::connect(&tool, &QProcess::readyReadStandardOutput, &progress, [&] {
@@ -28,6 +28,7 @@ bool runTool(QProcess& tool, QProgressDialog& progress) {
     QObject::connect(&progress, &QProgressDialog::canceled, &tool, &QProcess::kill);
     if (progress.wasCanceled()) tool.kill(); // before anybody listened
     if (tool.state() != QProcess::NotRunning) loop.exec();
+    if (tool.state() != QProcess::NotRunning) progress.cancel(); // the loop was left before its end
     return tool.error() == QProcess::UnknownError && tool.exitStatus() == QProcess::NormalExit &&
            tool.exitCode() == 0;
 }

@@ -41,6 +41,9 @@ public:
     SkinnedButton* addButton(const ButtonSetup& setup, QWidget* parent = nullptr);
     SkinnedButton* button(const QString& controlName) const;
 
+    /// Shows anew what another program has changed of what is shown; true when there was something.
+    virtual bool showForeignChanges() { return false; }
+
     /// Escape, and the window manager's close: a dialog cancels, a window leaves the program.
     virtual void cancel() {}
 

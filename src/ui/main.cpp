@@ -4,11 +4,13 @@
 #include "core/registry.h"
 #include "core/session.h"
 #include "ui/controls/paper_style.h"
+#include "ui/end_requests.h"
 #include "ui/first_start.h"
 #include "ui/program.h"
 #include "ui/program_font.h"
 #include "ui/screen_scale.h"
 #include "ui/shell.h"
+#include "ui/single_window.h"
 #include "ui/skin.h"
 #include "ui/window_line.h"
 #include "ui/window_user.h"
@@ -54,17 +56,22 @@ int main(int argc, char** argv) {
 
     const QString home = line.home.isEmpty() ? defaultInstallFolder() : line.home;
     const bool isFirstStart = home == userInstallFolder() && !QFileInfo::exists(home);
-    if (isFirstStart && !makeInstallFolder(home)) return 1;
+    EndRequests requests;
+    if (isFirstStart && !makeInstallFolder(home)) return requests.hasEnded() ? 0 : 1;
+    const FilePath folder(QFileInfo(home).absoluteFilePath());
+    SingleWindow window(folder);
+    if (line.coverCode.isEmpty() && !window.take()) return 0;
     NativeFileSystem files;
     SystemClock clock;
     ReseedingRandomSource random;
     WindowUser user;
-    const FilePath folder(QFileInfo(home).absoluteFilePath());
     const auto registry = openRegistry(files, folder);
     Session session({user, files, clock, random, *registry}, folder);
     Skin skin(files, folder / u"Media");
     QApplication::setWindowIcon(skin.picture(u"morvane.png"_s));
     Shell shell(session, skin);
     user.setShell(&shell);
+    window.serve(shell);
+    requests.handTo(shell);
     return runProgram(shell, line.coverCode);
 }

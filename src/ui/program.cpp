@@ -6,6 +6,7 @@
 #include "core/options.h"
 #include "core/session.h"
 #include "core/store_records.h"
+#include "core/writing.h"
 #include "simulator/flights.h"
 #include "simulator/resource_folders.h"
 #include "ui/screens/main_screen.h"
@@ -21,16 +22,25 @@ namespace morvane {
 
 namespace {
 
-void runUnattended(Session& session, const QString& commandLine) {
+int runUnattended(Session& session, const QString& commandLine) {
     session.CommandLineRun = true;
     getCustomSplashVal(session);
     runCommandLine(session, commandLine);
     exitProgram(session);
+    return session.writing->wasRefused ? 1 : 0;
 }
 
 void showStep(frm_Splash& splash, const QString& text, double value) {
     splash.showStep(text, value);
     QCoreApplication::processEvents();
+}
+
+/// Where another program writes, those of the last time serve as well: a start waits for nobody.
+void gatherFlights(Session& session, frm_Splash& splash) {
+    const Writing writing(session, Writing::Waiting::none);
+    if (!writing) return;
+    if (!session.IsWideClient) showStep(splash, flightsProgressText, 40);
+    loadFlightFiles(session);
 }
 
 /// Between the splash and the main window long loads report on the splash.
@@ -44,8 +54,7 @@ void loadBehindSplash(Shell& shell) {
     constexpr int documents = 5;
     session.MyDocumentsPath = GetSpecialFolder(documents);
     getCustomSplashVal(session);
-    if (!session.IsWideClient) showStep(splash, flightsProgressText, 40);
-    loadFlightFiles(session);
+    gatherFlights(session, splash);
     if (hasStore(session)) {
         clsResourceFolders::reload(session);
         clsWxFinders::reload(session);
@@ -71,18 +80,22 @@ void showMainWindow(Shell& shell) {
 
 int runProgram(Shell& shell, const QString& commandLine) {
     Session& session = shell.session();
-    if (!startUp(session)) return 1;
-    if (!commandLine.isEmpty()) {
-        runUnattended(session, commandLine);
-        return 0;
-    }
-    tellActiveSkyProblem(session);
+    const ExitProgress& exit = session.ExitInProgress;
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
-    const bool isStarted = reportFailures(session.user, report, [&] {
+    const auto openWindows = [&] {
+        tellActiveSkyProblem(session);
         loadBehindSplash(shell);
         showMainWindow(shell);
-    });
-    return isStarted ? QApplication::exec() : 1;
+    };
+    if (!commandLine.isEmpty()) session.writing->beUnattended();
+    const bool isReady = startUp(session);
+    if (isReady && !commandLine.isEmpty()) return runUnattended(session, commandLine);
+    const bool isStarted = isReady && (exit.endsWork() || reportFailures(session.user, report, openWindows));
+    if (!isStarted && !exit.endsWork()) return 1;
+    if (!exit.endsWork()) QApplication::exec();
+    // Every road out leads here, where no job, wait or dialog is left on the stack.
+    exitProgram(session);
+    return 0;
 }
 
 } // namespace morvane

@@ -148,16 +148,20 @@ void SetListForm::formatKeys() {
 
 void SetListForm::fillRows() {
     list_->clearRows();
-    filledKeys_.clear();
-    for (const SetRow& row : setRows()) {
+    filledRows_ = setRows();
+    for (const SetRow& row : filledRows_)
         list_->addRow(row);
-        filledKeys_ << row.key;
-    }
     if (list_->rowCount() > 0) return;
     rowInHand_ = 0;
     disableSetKeys();
     description_->clear();
     showNoSet();
+}
+
+bool SetListForm::showForeignChanges() {
+    if (setRows() == filledRows_) return false;
+    formatList();
+    return true;
 }
 
 void SetListForm::selectSetRow(int row) {
@@ -188,7 +192,8 @@ void SetListForm::useSet() {
 /// A set whose colours are damaged can only be taken away.
 void SetListForm::takeInHand(int row, bool hasColours, ButtonState ofActivated) {
     const ButtonState ofWhole = hasColours ? ButtonState::enabled : ButtonState::disabled;
-    rowInHand_ = static_cast<int>(filledKeys_.indexOf(list_->keyOf(row))) + 1;
+    const auto filled = std::ranges::find(filledRows_, list_->keyOf(row), &SetRow::key);
+    rowInHand_ = filled == filledRows_.end() ? 0 : static_cast<int>(filled - filledRows_.begin()) + 1;
     noteRows(row);
     const bool isActivated = list_->textOf(row, activatedColumn) == flagText(true);
     install_->setState(isActivated ? ofWhole : ButtonState::disabled);

@@ -50,6 +50,7 @@ public:
     void formatSets(int& selectedRow);
     /// Selects a row from code; nothing for a number below 1.
     void selectSetRow(int row);
+    bool showForeignChanges() override;
 
 protected:
     SetListForm(Shell& shell, const QString& name, const WindowLook& look, const HostKeys& keys,
@@ -93,7 +94,7 @@ private:
     void setActivateState(ButtonState state);
 
     const SetListSetup setup_;
-    QStringList filledKeys_;
+    std::vector<SetRow> filledRows_;
     int rowInHand_ = 0;
     SetTable* list_;
     PictureFrame *source_, *result_;

@@ -1,10 +1,12 @@
 #include "ui/shell.h"
 
-#include "core/application.h"
+#include "core/changed_rows.h"
 #include "core/failure_report.h"
 #include "core/registry.h"
 #include "core/session.h"
+#include "core/writing.h"
 #include "ui/accessible_controls.h"
+#include "ui/dialog_form.h"
 #include "ui/dispatch_table.h"
 #include "ui/form_table.h"
 #include "ui/host_form.h"
@@ -177,13 +179,40 @@ void Shell::minimiseProgram() {
         if (Form* window = loadedForm(name); window && window->isVisible()) return window->showMinimized();
 }
 
+void Shell::bringToFront() {
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* front = modal ? modal->window() : messageAnchor();
+    if (!front || !front->isVisible()) return; // the program is just starting
+    if (front->isMinimized()) front->showNormal();
+    front->raise();
+    front->activateWindow();
+}
+
 void Shell::exitProgram() {
-    // The question on exit lets clicks through to nothing else, but a second close may reach us from outside,
-    // and a running job still works on what would be released here.
-    if (isExiting_ || session_.jobRunning) return;
-    isExiting_ = true;
-    morvane::exitProgram(session_);
-    QCoreApplication::exit(0); // TEMPORARY-FOR-WALK
+    // A close may also come from outside, through whatever covers the window.
+    if (session_.writing->holders > 0)
+        exitAfterQuestion(u"Morvane is still working. Do you wish to end its work and exit Morvane?"_s);
+    else if (session_.ExitInProgress.stage() == ExitStage::running)
+        leave(ExitStage::leaving);
+}
+
+void Shell::exitAfterQuestion(const QString& question) {
+    ExitProgress& exit = session_.ExitInProgress;
+    if (exit.stage() != ExitStage::running) return;
+    exit.moveTo(ExitStage::asking);
+    const bool isWanted = session_.user.systemBox(question, u"Exit Morvane?"_s, SystemBoxButtons::okCancel);
+    exit.moveTo(ExitStage::running);
+    if (isWanted) leave(ExitStage::leaving);
+}
+
+void Shell::endWithSession() {
+    leave(ExitStage::sessionEnd);
+}
+
+void Shell::leave(ExitStage stage) {
+    session_.ExitInProgress.moveTo(stage);
+    // `quit` would be given up, as no window takes its close.
+    QCoreApplication::exit(0);
 }
 
 QWidget* Shell::messageAnchor() const {
@@ -198,12 +227,31 @@ void Shell::dispatch(SkinnedButton* button) {
         actionOf(button->family(), form ? form->formName() : QString(), button->button_type());
     if (!action) return;
     // An exception must not cross the toolkit's event loop.
-    reportFailures(session_.user, {}, [&] { action(*this, *button); });
+    reportFailures(session_.user, {}, [&] {
+        if (isAsShown(*button)) action(*this, *button);
+    });
     reportMissingSkin();
 }
 
+/// Another program may have written since the page was filled. A key that acts on what the page shows then
+/// waits for a click on what is really there; new sets are made whatever it shows. The keys of a dialog
+/// answer what was asked.
+bool Shell::isAsShown(const SkinnedButton& button) {
+    Form* form = Form::of(button.parentWidget());
+    if (!form || qobject_cast<DialogForm*>(form)) return true;
+    reloadChangedRows(session_);
+    const bool isForSelection =
+        button.family() == ButtonFamily::LargeButton && !button.button_type().startsWith(u"create ");
+    if (!form->showForeignChanges() || !isForSelection) return true;
+    session_.user.showMessage({MessageKind::information, u"Sets Have Changed"_s,
+                               u"Another program has changed the texture sets.  The list shows them as they "
+                               u"are now.  Please look at it and "
+                               "choose again."_s});
+    return false;
+}
+
 void Shell::reportMissingSkin() {
-    if (hasReportedSkin_ || skin_.missing().isEmpty() || isExiting_) return;
+    if (hasReportedSkin_ || skin_.missing().isEmpty() || session_.ExitInProgress.isSilent()) return;
     hasReportedSkin_ = true;
     constexpr int namesShown = 5;
     const QStringList& missing = skin_.missing();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/exit_progress.h"
 #include "ui/form.h"
 
 #include <QHash>
@@ -66,7 +67,17 @@ public:
     /// Asks the maker's server for newer versions.
     void openUpdatePage();
     void minimiseProgram();
+    /// Brings the program to the front, out of the taskbar where it lies there: the dialog that waits, or the
+    /// window.
+    void bringToFront();
+
+    /// The exit key and every close of a window: the program ends behind what runs. Where something is being
+    /// written the user is asked first.
     void exitProgram();
+    /// The same, behind a question in any case.
+    void exitAfterQuestion(const QString& question);
+    /// The desktop's session ends: no questions, and copies end at the next whole file.
+    void endWithSession();
 
     /// Says once which files of the skin could not be had.
     void reportMissingSkin();
@@ -78,6 +89,9 @@ public Q_SLOTS:
     void dispatch(SkinnedButton* button);
 
 private:
+    bool isAsShown(const SkinnedButton& button);
+    /// Every loop is left, dialogs and messages with a "no"; the exit flow runs behind the main one.
+    void leave(ExitStage stage);
     void openOutside(const QUrl& address);
     void giveFocus(Form& page);
 
@@ -85,7 +99,6 @@ private:
     Skin& skin_;
     QHash<QString, Form*> forms_; ///< by lower-cased name
     QHash<QString, QPointer<QWidget>> formerParents_;
-    bool isExiting_ = false;
     bool hasReportedSkin_ = false;
 };
 

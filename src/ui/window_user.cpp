@@ -1,6 +1,7 @@
 #include "ui/window_user.h"
 
 #include "core/session.h"
+#include "core/writing.h"
 #include "ui/controls/foot_line.h"
 #include "ui/dialog_form.h"
 #include "ui/host_form.h"
@@ -11,6 +12,8 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+
+#include <cstdio>
 
 namespace morvane {
 
@@ -28,6 +31,12 @@ QMessageBox::StandardButtons boxButtons(SystemBoxButtons buttons) {
     return QMessageBox::Ok;
 }
 
+/// Who starts an unattended run may read there how it went.
+void writeOnStandardError(const Message& message) {
+    if (message.kind == MessageKind::progress || message.kind == MessageKind::question) return;
+    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(message.title), qUtf8Printable(message.text));
+}
+
 } // namespace
 
 frm_Msg& WindowUser::messageForm() const {
@@ -39,8 +48,16 @@ QWidget* WindowUser::boxParent() const {
     return isMessageVisible() ? shell_->loadedForm(u"frm_Msg"_s) : shell_->messageAnchor();
 }
 
+bool WindowUser::isSilent() const {
+    return shell_ && shell_->session().ExitInProgress.isSilent();
+}
+
 void WindowUser::showMessage(const Message& message) {
-    messageForm().showMessage(message);
+    if (shell_->session().writing->isUnattended) writeOnStandardError(message);
+    if (!isSilent())
+        messageForm().showMessage(message);
+    else if (!message.isProgress)
+        answers().answer(false);
 }
 
 /// While the program starts the splash has the bar.
@@ -82,6 +99,7 @@ bool WindowUser::isMessageVisible() const {
 }
 
 bool WindowUser::systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) {
+    if (isSilent()) return false;
     QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? u"Morvane"_s : title, text, boxButtons(buttons),
                     boxParent());
     const int answer = box.exec();
@@ -89,6 +107,7 @@ bool WindowUser::systemBox(const QString& text, const QString& title, SystemBoxB
 }
 
 QString WindowUser::browseForFolder(const QString& startFolder) {
+    if (isSilent()) return {};
     return QFileDialog::getExistingDirectory(boxParent(), u"Please select a folder..."_s, startFolder);
 }
 

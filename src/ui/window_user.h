@@ -33,6 +33,8 @@ public:
 
 private:
     frm_Msg& messageForm() const;
+    /// On the way out of the program nobody is asked any more: every answer is "no".
+    bool isSilent() const;
     QWidget* boxParent() const;
 
     Shell* shell_ = nullptr;

@@ -49,6 +49,16 @@ void findExportFile(Session& session) {
     if (!weather.ASv6Present) weather.ASv6Problem = unreadableFileMessage();
 }
 
+/// Nobody knows how long it takes, so there is no bar, and its Cancel needs no question: nothing is lost.
+Message waitMessage(const QString& title) {
+    return {MessageKind::progress,
+            title,
+            u"Active Sky is processing your weather data. Please wait..........."_s,
+            false,
+            true,
+            true};
+}
+
 } // namespace
 
 void findActiveSky(Session& session) {
@@ -85,9 +95,7 @@ bool ActiveSky::refresh() {
         const QDateTime baseTime = FileExists(session_.files, exportCycleFile(session_))
                                        ? getExportCycleTime()
                                        : session_.clock.localTime();
-        platform_.startASv6(session_);
-        waitForExportCycle(baseTime);
-        if (session_.ExitInProgress) return false;
+        if (!platform_.startASv6(session_) || !waitForExportCycle(baseTime)) return false;
     }
     return clsWxFinderData(session_, u"ASv6.jpg"_s).GetWeatherFromASv6();
 }
@@ -100,36 +108,40 @@ QDateTime ActiveSky::getExportCycleTime() {
     return exportCycleTime(session_, exportCycleFile(session_));
 }
 
-void ActiveSky::waitForExportCycle(const QDateTime& baseTime) {
+bool ActiveSky::waitForExportCycle(const QDateTime& baseTime) {
     session_.weather.ASv6Busy = true;
-    Message message{MessageKind::progress,
-                    u"ASv6 Processing Wx Data"_s,
-                    u"Active Sky is processing your weather data. Please wait..........."_s,
-                    false,
-                    false,
-                    true};
+    session_.user.answers().cancelRequested = false;
+    const bool hasCome = waitForNewTime(baseTime) && giveTimeToWrite();
+    session_.weather.ASv6Busy = false;
+    session_.user.answers().cancelRequested = false;
+    if (!hasCome) session_.user.hideMessage();
+    return hasCome;
+}
+
+bool ActiveSky::waitForNewTime(const QDateTime& baseTime) {
+    Message message = waitMessage(u"ASv6 Processing Wx Data"_s);
     message.picture = u"ASv6Process.gif"_s;
     session_.user.showMessage(message);
-    while (!session_.ExitInProgress && !isExportCycleUpdated(baseTime)) {
-        session_.user.pumpMessages();
-        platform_.rest();
-    }
-    message.title = u"......ASv6 Writing File......"_s;
-    message.hasQuietTitle = true;
-    message.picture.clear();
-    if (!session_.ExitInProgress) session_.user.showMessage(message);
-    session_.weather.ASv6Busy = false;
-    giveTimeToWrite();
+    return waitUntil([&] { return isExportCycleUpdated(baseTime); });
 }
 
 /// A new time means that Active Sky has begun to write. The message loop runs on meanwhile, with every window
 /// but the message's blocked by it.
-void ActiveSky::giveTimeToWrite() {
+bool ActiveSky::giveTimeToWrite() {
+    Message message = waitMessage(u"......ASv6 Writing File......"_s);
+    message.hasQuietTitle = true;
+    session_.user.showMessage(message);
     const QDateTime end = session_.clock.utcTime().addSecs(writingSeconds);
-    while (!session_.ExitInProgress && session_.clock.utcTime() < end) {
+    return waitUntil([&] { return session_.clock.utcTime() >= end; });
+}
+
+bool ActiveSky::waitUntil(const std::function<bool()>& isOver) {
+    while (!isWorkCancelled(session_)) {
+        if (isOver()) return true;
         session_.user.pumpMessages();
         platform_.rest();
     }
+    return false;
 }
 
 } // namespace morvane

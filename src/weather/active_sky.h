@@ -2,6 +2,8 @@
 
 #include "core/session.h"
 
+#include <functional>
+
 namespace morvane {
 
 inline const QString activeSkyKey = u"Software\\HiFi\\Asv6"_s;
@@ -12,8 +14,8 @@ public:
     virtual ~ActiveSkyPlatform() = default;
     /// A window of exactly that title is open; where windows cannot be seen, the program of that name runs.
     virtual bool isWindowOpen(const QString& title) = 0;
-    /// Starts ASv6.exe and does not wait for it; one that does not start starts nothing.
-    virtual void startASv6(Session& session) = 0;
+    /// Starts ASv6.exe and does not wait for it. False after the message that it cannot be started here.
+    virtual bool startASv6(Session& session) = 0;
     /// Lets a moment pass between two looks at the file.
     virtual void rest() = 0;
 };
@@ -38,17 +40,20 @@ public:
     ActiveSky(Session& session, ActiveSkyPlatform& platform) : session_(session), platform_(platform) {}
 
     /// Loads the export file; where Active Sky runs on this computer and is not running yet, starts it and
-    /// waits for a new one first. False after the message of a failure and when the program ends meanwhile.
+    /// waits for a new one first. False after the message of a failure and when the wait was left.
     bool refresh();
 
     bool isExportCycleUpdated(const QDateTime& baseTime);
     QDateTime getExportCycleTime();
     /// Waits for a file time other than `baseTime`, earlier ones included, and then 15 seconds more. There is
-    /// no time-out, but the end of the program ends it.
-    void waitForExportCycle(const QDateTime& baseTime);
+    /// no time-out; false when it was cancelled or the program ends.
+    bool waitForExportCycle(const QDateTime& baseTime);
 
 private:
-    void giveTimeToWrite();
+    bool waitForNewTime(const QDateTime& baseTime);
+    bool giveTimeToWrite();
+    /// Until `isOver` says so; false when it is left before.
+    bool waitUntil(const std::function<bool()>& isOver);
 
     Session& session_;
     ActiveSkyPlatform& platform_;

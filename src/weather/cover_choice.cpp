@@ -67,8 +67,8 @@ void selectCloudCoverMethod(Session& session) {
     session.user.hideScreen(Screen::frm_Main);
     // A program that ends closes each screen at once, which must not bring up the next one.
     while (!chooseCover(session))
-        if (session.ExitInProgress) break;
-    session.CoverCancelled |= session.ExitInProgress;
+        if (session.ExitInProgress.endsWork()) break;
+    session.CoverCancelled |= session.ExitInProgress.endsWork();
     session.user.showScreen(Screen::frm_Main);
 }
 

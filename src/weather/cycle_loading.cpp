@@ -105,7 +105,7 @@ bool clsWxFinderData::downloadCycle(const WeatherEndpoint& endpoint, const FileP
     };
     download.isCancelled = [this] {
         session_.user.pumpMessages();
-        return session_.user.answers().cancelRequested || session_.ExitInProgress;
+        return isWorkCancelled(session_);
     };
     session_.files.makeFolder(file.parent());
     // The server knows the file by an ending in capitals.

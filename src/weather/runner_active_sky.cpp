@@ -1,6 +1,5 @@
 #include "core/numbers.h"
-#include "core/registry.h"
-#include "simulator/program_start.h"
+#include "simulator/program_runner.h"
 #include "weather/active_sky.h"
 
 #include <QDir>
@@ -32,10 +31,8 @@ public:
     /// Nobody here knows the windows of the runner's programs; the program of that name stands for its
     /// window.
     bool isWindowOpen(const QString& title) override { return isProgramRunning(title + u".exe"_s); }
-    void startASv6(Session& session) override {
-        const QString runner =
-            session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"SimulatorRunner"_s);
-        startProgram(session.weather.ASv6Path / u"ASv6.exe", {}, runner);
+    bool startASv6(Session& session) override {
+        return startWithRunner(session, u"Active Sky"_s, session.weather.ASv6Path / u"ASv6.exe");
     }
     void rest() override { QThread::msleep(restMilliseconds); }
 };

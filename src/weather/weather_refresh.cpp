@@ -18,13 +18,13 @@ bool isWanted(Session& session) {
 
 /// The first cycle of a table comes without a question, a picture or a wait.
 bool loadFirstCycle(Session& session) {
-    clsWxFinders& finders = *session.gWxFinders;
-    return session.weather.ASv6VersionOK ? finders.getMetarsFromASv6() : finders.getMetarsFromNOAA();
+    clsWxFinderData data(session);
+    return session.weather.ASv6VersionOK ? data.GetWeatherFromASv6() : data.GetWeatherFromNOAA();
 }
 
 bool loadNewCycle(Session& session, ActiveSkyPlatform& platform) {
     if (session.weather.ASv6VersionOK) return ActiveSky(session, platform).refresh();
-    return session.gWxFinders->getMetarsFromNOAA(u"orrinsoft.jpg"_s);
+    return clsWxFinderData(session, u"orrinsoft.jpg"_s).GetWeatherFromNOAA();
 }
 
 } // namespace
@@ -32,7 +32,6 @@ bool loadNewCycle(Session& session, ActiveSkyPlatform& platform) {
 void refreshWeather(Session& session, ActiveSkyPlatform& platform) {
     const bool hasData = session.weather.MetarDataLoaded;
     if (hasData && !isWanted(session)) return;
-    if (!session.gWxFinders) session.gWxFinders = std::make_unique<clsWxFinders>(session);
     if (!(hasData ? loadNewCycle(session, platform) : loadFirstCycle(session))) return;
     session.weather.FlyNowDisabled = session.gWxFinders->Count() == 0;
     if (session.weather.FlyNowDisabled)

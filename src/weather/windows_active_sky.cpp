@@ -1,3 +1,4 @@
+#include "simulator/program_runner.h"
 #include "weather/active_sky.h"
 
 #include <windows.h>
@@ -17,9 +18,15 @@ const wchar_t* wide(const QString& text) {
 class WindowsActiveSky : public ActiveSkyPlatform {
 public:
     bool isWindowOpen(const QString& title) override { return FindWindowW(nullptr, wide(title)) != nullptr; }
-    void startASv6(Session& session) override {
+    bool startASv6(Session& session) override {
         const QString program = (session.weather.ASv6Path / u"ASv6.exe").text();
-        ShellExecuteW(nullptr, L"Open", wide(program), L"Hide", nullptr, SW_SHOWNORMAL);
+        constexpr INT_PTR lastFailure = 32;
+        const HINSTANCE answer =
+            ShellExecuteW(nullptr, L"Open", wide(program), L"Hide", nullptr, SW_SHOWNORMAL);
+        const bool isStarted = reinterpret_cast<INT_PTR>(answer) > lastFailure;
+        if (!isStarted)
+            tellNotStarted(session, u"Active Sky"_s, u"Active Sky could not be started: "_s + program);
+        return isStarted;
     }
     void rest() override { Sleep(restMilliseconds); }
 };

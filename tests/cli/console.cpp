@@ -79,6 +79,11 @@ void Console::interrupt() {
     ::kill(id, SIGINT); // to 0 it would go to the test and all its kin
 }
 
+void Console::kill() {
+    process_.kill();
+    process_.waitForFinished(watchdogMilliseconds);
+}
+
 bool Console::waitUntilInterruptsAre(bool caught) {
     const QDeadlineTimer watchdog(watchdogMilliseconds);
     while (catchesInterrupts(process_.processId()) != caught)

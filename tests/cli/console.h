@@ -31,6 +31,8 @@ public:
     /// Waits until stderr holds the text; false when the program ended before.
     bool waitForMessage(const QString& text);
     void interrupt();
+    /// At once, as a power cut would.
+    void kill();
     /// Waits until the program catches interrupts, or until it does no longer.
     bool waitUntilInterruptsAre(bool caught);
     ConsoleRun finish(const QByteArray& input = {});

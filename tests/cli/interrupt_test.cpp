@@ -58,6 +58,16 @@ TEST(Interrupt, letsAnInstallFinishItsList) {
     EXPECT_EQ(install.files.list(textures, u"029b2su???.bmp"_s).size(), fileCount);
 }
 
+TEST(Interrupt, inAnInstallEndsTheRoadBehindIt) {
+    ConsoleInstall install;
+    install.addSet(u"2-Storm"_s, u"Overcast"_s, true, manyFiles(u"Texture"_s));
+    const auto run =
+        interruptedRun(install, u"--answer yes fly OVC"_s, u"Processing your Ground Texture Files."_s, 1);
+    EXPECT_EQ(run.messages.count(u"Question: "_s), 2) << "the third one would be the simulator's";
+    EXPECT_TRUE(run.output.isEmpty());
+    EXPECT_EQ(install.sets(), u"Default+ 2-Storm+*"_s);
+}
+
 TEST(Interrupt, atAQuestionEndsTheRoad) {
     ConsoleInstall install;
     install.addSet(u"2-Storm"_s, u"Overcast"_s);

@@ -9,9 +9,16 @@ say() {
 }
 
 fail() {
-    echo "FAILED: $*" >&2
+    echo "FAILED: $*; windows: $(windowNames)" >&2
     takePicture failed
     exit 1
+}
+
+windowNames() {
+    local id
+    for id in $(visibleWindows); do
+        echo -n "'$(xdotool getwindowname "$id" 2>/dev/null)' "
+    done
 }
 
 hasEnded() {

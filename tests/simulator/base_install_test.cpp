@@ -114,6 +114,19 @@ TEST_F(BaseInstall, aSourceThatCannotBeReadIsLeftOut) {
     EXPECT_EQ(install.user.calls.back(), u"done 1 file installed"_s);
 }
 
+TEST_F(BaseInstall, theEndOfTheSessionEndsItAtTheNextFileAndTellsNothingDone) {
+    const auto before = contentsBelow(world);
+    install.user.onPump = [this] { session.ExitInProgress.moveTo(ExitStage::sessionEnd); };
+    copyBaseResources(session, {globalDayConfig});
+    const auto after = contentsBelow(world);
+    int changed = 0;
+    for (auto file = after.cbegin(); file != after.cend(); ++file)
+        changed += before.value(file.key()) != file.value();
+    EXPECT_EQ(changed, 1) << "of 3";
+    EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_FALSE(install.user.calls.back().startsWith(u"done "_s));
+}
+
 /// Marks are cleared here; the installs of sets refuse the same files.
 TEST_F(BaseInstall, readOnlyTargetsAreReplacedAndLoseTheMark) {
     const FilePath texture = world / u"029H2SU6.BMP";

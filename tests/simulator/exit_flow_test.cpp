@@ -72,6 +72,23 @@ TEST_F(ExitQuestion, aNoKeepsTheSet) {
     EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
 }
 
+TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndResetsNothing) {
+    const QStringList files{"Texture\\a.bmp", "Texture\\b.bmp", "Texture\\c.bmp", "Texture\\d.bmp"};
+    install.addGroundSet("2-Storm", "Overcast", true, files);
+    session.InhibitCustomSplash = true;
+    install.user.onPump = [this, files = 0]() mutable {
+        if (++files == 2) session.ExitInProgress.moveTo(ExitStage::sessionEnd);
+    };
+    put("2-Storm");
+    const FilePath textures = session.FSPath / u"Scenery\\World\\texture";
+    EXPECT_EQ(session.files.list(textures, u"?.bmp"_s), QStringList({"a.bmp", "b.bmp"}));
+    exitProgram(session);
+    EXPECT_EQ(install.user.told(), QStringList{});
+    EXPECT_EQ(session.adoConn, nullptr);
+    connectDatabase(session);
+    EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
+}
+
 TEST_F(ExitQuestion, isNotAskedWithoutNeed) {
     checkResetTextures(session); // nothing installed
     put("Default");

@@ -156,7 +156,6 @@ TEST_F(MessageScreenTest, cannotBeCancelledWhereNothingSaysSo) {
     progress.withCancel = false;
     program.user.showMessage(progress);
     QTest::keyClick(&form(), Qt::Key_Escape);
-    form().close();
     EXPECT_TRUE(form().isVisible());
     EXPECT_FALSE(program.user.answers().cancelRequested);
     program.user.hideMessage();
@@ -182,13 +181,17 @@ TEST_F(MessageScreenTest, showsAPictureOrAnAnimationBelowTheIcon) {
     program.user.hideMessage();
 }
 
-TEST_F(MessageScreenTest, hasNoBarWhileActiveSkyWorks) {
+TEST_F(MessageScreenTest, hasNoBarWhileActiveSkyWorksAndIsCancelledWithoutAQuestion) {
     const auto& bar = control<SkinnedProgressBar>({});
-    for (const bool isBusy : {true, false}) {
+    for (const bool isBusy : {false, true}) {
         program.session.weather.ASv6Busy = isBusy;
         program.user.showMessage(progress);
         EXPECT_EQ(bar.isHidden(), isBusy);
+        EXPECT_EQ(control<QPushButton>(u"cmdCancel"_s).text(),
+                  isBusy ? u"Cancel"_s : u"Cancel the process"_s);
     }
+    QTest::keyClick(&form(), Qt::Key_Escape);
+    EXPECT_TRUE(program.user.answers().cancelRequested);
     program.user.hideMessage();
 }
 

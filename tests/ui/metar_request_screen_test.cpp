@@ -6,9 +6,6 @@
 #include "weather/wx_finders.h"
 
 #include <QLabel>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -64,24 +61,6 @@ TEST_F(MetarRequestTest, aStartShowsTheTableOnTheSplash) {
     EXPECT_TRUE(clsWxFinders::reload(session));
     EXPECT_EQ(text.text(), u"Loading Metars from Database. Please Wait............."_s);
     EXPECT_FALSE(program.user.isMessageVisible());
-}
-
-TEST_F(MetarRequestTest, closingTheWaitForActiveSkyEndsTheProgramWhenConfirmed) {
-    session.weather.ASv6Busy = true;
-    session.user.showMessage(
-        {MessageKind::progress, u"ASv6 Processing Wx Data"_s, u"wait"_s, false, false, true});
-    Form& message = *program.shell.form(u"frm_Msg"_s);
-    for (const QMessageBox::StandardButton button : {QMessageBox::Cancel, QMessageBox::Ok}) {
-        EXPECT_FALSE(session.ExitInProgress);
-        QTimer timer;
-        timer.callOnTimeout([&] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-                box->button(button)->click();
-        });
-        timer.start(0);
-        message.close();
-    }
-    EXPECT_TRUE(session.ExitInProgress);
 }
 
 } // namespace

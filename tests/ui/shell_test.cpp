@@ -1,6 +1,10 @@
 #include "support/window_program.h"
 
+#include "core/job.h"
+#include "core/store.h"
+#include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
+#include "ground/screens/ground_sets_screen.h"
 #include "imaging/window_region.h"
 #include "ui/controls/foot_line.h"
 #include "ui/controls/palette.h"
@@ -9,8 +13,10 @@
 
 #include <QDesktopServices>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
+#include <QTimer>
 #include <QUrl>
 #include <gtest/gtest.h>
 
@@ -232,6 +238,125 @@ TEST_F(ShellTest, saysOnItsKeyThatALinkHasNoAddress) {
         EXPECT_FALSE(isWebAddress(address));
 }
 
+/// What a process does, from its main loop on. A box that comes is answered with that button.
+class ExitTest : public ShellTest {
+protected:
+    void leave(const std::function<void()>& action) {
+        QTimer::singleShot(0, &shell, action);
+        QApplication::exec();
+        exitProgram(program.session);
+    }
+    void answerBox(QMessageBox::StandardButton answer) {
+        auto* timer = new QTimer(&shell);
+        QObject::connect(timer, &QTimer::timeout, timer, [this, timer, answer] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            timer->deleteLater();
+            boxes << box->windowTitle();
+            box->button(answer)->click();
+        });
+        timer->start(0);
+    }
+    void closeMain() { shell.form(u"frm_Main"_s)->close(); }
+
+    QStringList boxes;
+};
+
+TEST_F(ExitTest, everyRoadOutLeavesTheMainLoopAndClosesTheStore) {
+    SkinnedButton& key = program.control<SkinnedButton>(u"frm_Main"_s, u"btn_Exit"_s);
+    const std::function<void()> roads[] = {
+        [&] { QTest::mouseClick(&key, Qt::LeftButton); },
+        [&] { QTest::keyClick(&key, Qt::Key_Space); },
+        [&] { closeMain(); },
+        [&] {
+            program.press(u"frm_Main"_s, u"btn_NightTextures"_s);
+            program.press(u"frm_NightTextures"_s, u"btn_Exit"_s);
+        },
+        [&] { shell.endWithSession(); }, // the last, as nothing leads back from it
+    };
+    for (const auto& road : roads) {
+        program.session.ExitInProgress.moveTo(ExitStage::running);
+        if (!program.session.adoConn) connectDatabase(program.session);
+        leave(road);
+        EXPECT_EQ(program.session.adoConn, nullptr);
+    }
+}
+
+TEST_F(ExitTest, aRunningJobIsLeftBehindAQuestionAndNothingMoreIsAsked) {
+    leave([&] {
+        const Job job(program.session);
+        program.user.showMessage({MessageKind::progress, u"Working"_s, u"x"_s, false, true, true});
+        answerBox(QMessageBox::Cancel);
+        shell.form(u"frm_Msg"_s)->close();
+        EXPECT_FALSE(job.isCancelled());
+        answerBox(QMessageBox::Ok);
+        closeMain();
+        EXPECT_TRUE(job.isCancelled());
+        program.user.hideMessage();
+        EXPECT_FALSE(program.user.ask(Question::launch, u"t"_s, u"nobody answers this"_s));
+        EXPECT_FALSE(program.user.systemBox(u"nor this"_s, {}, SystemBoxButtons::yesNo));
+        program.user.showMessage({MessageKind::exclamation, u"t"_s, u"nor is this read"_s});
+        EXPECT_FALSE(program.user.isMessageVisible());
+        program.user.showModal(Screen::frm_TsRequired);
+        EXPECT_FALSE(program.session.modal.setCountsConfirmed);
+    });
+    EXPECT_EQ(boxes, QStringList(2, u"Exit Morvane?"_s));
+}
+
+/// Dialogs and messages stand on each other, each in a loop of its own; the wait for Active Sky below.
+TEST_F(ExitTest, whatWaitsForAnAnswerGetsANo) {
+    bool isConfirmed = true, hasAnswered = false;
+    leave([&] {
+        program.whenShown(u"frm_TsRequired"_s, [&](DialogForm&) {
+            program.whenShown(u"frm_Msg"_s, [&](DialogForm&) { shell.exitProgram(); });
+            isConfirmed = program.user.ask(Question::backup, u"t"_s, u"x"_s);
+            hasAnswered = true;
+        });
+        GroundGeneration(program.session).createTextureSets(true);
+        EXPECT_TRUE(hasAnswered);
+    });
+    EXPECT_FALSE(isConfirmed || program.session.modal.setCountsConfirmed);
+    EXPECT_EQ(program.session.adoConn, nullptr);
+}
+
+TEST_F(ExitTest, theWaitForActiveSkyIsLeftByItsMainWindowAndBehindAQuestionByItsMessage) {
+    for (const bool byMessage : {true, false}) {
+        program.session.ExitInProgress.moveTo(ExitStage::running);
+        if (!program.session.adoConn) connectDatabase(program.session);
+        leave([&] {
+            program.session.weather.ASv6Busy = true;
+            program.user.showMessage({MessageKind::progress, u"Waiting"_s, u"x"_s, false, true, true});
+            if (byMessage) answerBox(QMessageBox::Ok);
+            shell.form(byMessage ? u"frm_Msg"_s : u"frm_Main"_s)->close();
+            program.session.weather.ASv6Busy = false;
+            program.user.hideMessage();
+        });
+        EXPECT_EQ(boxes, QStringList{u"Exit Morvane?"_s});
+    }
+}
+
+/// Two programs, as two sessions on one store: the other one is the install's own.
+TEST_F(ShellTest, aKeyWaitsForASecondClickWhenItsListHasChanged) {
+    const int storm = program.install.addGroundSet("2-Storm", "Overcast", true);
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    program.shell.screen<frm_MVTextures>(u"frm_MVTextures"_s).selectSetRow(2);
+    EXPECT_EQ(program.session.ground.SelectedGroundSet, u"2-Storm"_s);
+    program.install.session.adoConn->execute(u"DELETE FROM TEXTURE_SETS WHERE ID = "_s +
+                                             QString::number(storm));
+    program.confirmNext(u"frm_Msg"_s);
+    program.press(u"frm_MVTextures"_s, u"btn_TextureInstall"_s);
+    EXPECT_EQ(program.session.ground.SelectedGroundSet, u"Default"_s);
+    EXPECT_TRUE(program.install.installedSets().isEmpty());
+    program.install.addGroundSet("3-Calm", "Mostly Clear", true);
+    bool isAsked = false;
+    program.whenShown(u"frm_TsRequired"_s, [&](DialogForm& dialog) {
+        isAsked = true;
+        dialog.cancel();
+    });
+    program.press(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+    EXPECT_TRUE(isAsked) << "new sets are made whatever the list shows";
+}
+
 /// Stands for the program that opens addresses.
 struct Browser : QObject {
     Q_OBJECT
@@ -278,15 +403,6 @@ TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
         for (const QString& scheme : {u"http"_s, u"https"_s, u"file"_s})
             QDesktopServices::unsetUrlHandler(scheme);
     }
-}
-
-TEST_F(ShellTest, refusesToLeaveWhileAJobRuns) {
-    program.session.jobRunning = true;
-    program.press(u"frm_Main"_s, u"btn_Exit"_s);
-    EXPECT_NE(program.session.adoConn, nullptr);
-    program.session.jobRunning = false;
-    shell.form(u"frm_Main"_s)->close();
-    EXPECT_EQ(program.session.adoConn, nullptr) << "the exit flow has run";
 }
 
 } // namespace

@@ -21,7 +21,7 @@ class ScriptedPlatform : public ActiveSkyPlatform {
 public:
     explicit ScriptedPlatform(test::ScriptedClock& clock) : clock_(clock) {}
     bool isWindowOpen(const QString& title) override { return isRunning && title == u"ASv6"; }
-    void startASv6(Session&) override { ++starts; }
+    bool startASv6(Session&) override { return ++starts > 0; }
     void rest() override {
         clock_.now = clock_.now.addSecs(1);
         ++rests;
@@ -195,7 +195,7 @@ TEST_F(ActiveSkyTest, aMissingFileIsWaitedForFromNowOn) {
     makeSupported();
     session.weather.ASv6Local = true;
     platform.onRest = [this] {
-        EXPECT_EQ(session.weather.ASv6Busy, platform.rests <= 5);
+        EXPECT_TRUE(session.weather.ASv6Busy);
         if (platform.rests == 5) writeExport("EHAM 1\n", {14, 7});
     };
     refreshWeather(session, platform);
@@ -203,22 +203,41 @@ TEST_F(ActiveSkyTest, aMissingFileIsWaitedForFromNowOn) {
     EXPECT_EQ(session.gWxFinders->Count(), 1);
 }
 
-TEST_F(ActiveSkyTest, theEndOfTheProgramEndsTheWait) {
+TEST_F(ActiveSkyTest, theWaitIsLeftByACancelAndByTheEndOfTheProgram) {
     makeSupported();
     session.weather.ASv6Local = true;
-    for (const int closedAt : {3, 40}) {
-        session.ExitInProgress = false;
+    const auto cancel = [this] { user.answers().cancelRequested = true; };
+    const auto leave = [this] { session.ExitInProgress.moveTo(ExitStage::leaving); };
+    const std::pair<int, std::function<void()>> cases[] = {
+        {3, cancel}, {40, cancel}, {3, leave}, {40, leave}};
+    for (const auto& [leftAt, action] : cases) {
+        session.ExitInProgress.moveTo(ExitStage::running);
         session.gWxFinders.reset();
         platform.rests = 0;
-        platform.onRest = [&] {
+        platform.onRest = [&, at = leftAt, act = action] {
+            EXPECT_TRUE(user.messages.back().withCancel);
             if (platform.rests == 30) writeExport("EHAM 1\n", {14, 7});
-            if (platform.rests == closedAt) session.ExitInProgress = true;
+            if (platform.rests == at) act();
         };
         refreshWeather(session, platform);
-        EXPECT_EQ(platform.rests, closedAt);
-        EXPECT_EQ(session.gWxFinders->Count(), 0) << "nothing is read on the way out";
+        EXPECT_EQ(platform.rests, leftAt);
+        EXPECT_EQ(session.gWxFinders, nullptr) << "nothing is read on the way out";
+        EXPECT_FALSE(user.isMessageVisible() || session.weather.ASv6Busy || user.answers().cancelRequested);
     }
 }
+
+#ifndef Q_OS_WIN
+TEST_F(ActiveSkyTest, withoutARunnerNothingIsStartedOrWaitedFor) {
+    makeSupported();
+    session.weather.ASv6Local = true;
+    session.user.answers().cancelRequested = false;
+    user.onPump = [this] { user.answers().cancelRequested = true; }; // not to hang
+    refreshWeather(session, systemActiveSky());
+    ASSERT_EQ(user.told().size(), 1);
+    EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|Active Sky Not Started|"_s));
+    EXPECT_FALSE(user.calls.contains(u"message Progress ASv6 Processing Wx Data"_s));
+}
+#endif
 
 } // namespace
 } // namespace morvane

@@ -133,16 +133,16 @@ void frm_Switcher::loadSwitcherValues() {
         lblFSFilesPathVal_->fontMetrics().elidedText(path, Qt::ElideMiddle, pathWidth));
 }
 
-/// After a failure the boxes say what is in force.
+/// After a failure, and when another program writes, the boxes say what is in force.
 void frm_Switcher::takeOption(const Option& option, bool isTicked) {
     if (SwitcherPopulating) return;
     bool isTaken = false;
     const bool isDone =
         reportFailures(session().user, {}, [&] { isTaken = option.take(session(), isTicked); });
-    if (!isDone)
-        loadSwitcherValues();
-    else if (!isTaken)
+    if (isDone && !isTaken)
         clearBox(option);
+    else if (session().*option.flag != isTicked)
+        loadSwitcherValues();
 }
 
 /// Clearing a box is a click like any other to its handler, so that its refusal is told twice: wanted.

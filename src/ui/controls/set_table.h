@@ -19,6 +19,8 @@ struct SetRow {
     QStringList texts, tips;
     QRgb colour = palette::textBlue; ///< as it is stored; see `paintedColour`
     bool isChecked = false;          ///< where the list has check boxes
+
+    bool operator==(const SetRow&) const = default;
 };
 
 /// The colour in which a stored one is painted. The pure red of an installed set and the pure blue of the sky

@@ -12,6 +12,7 @@
 #include "ui/skin.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QLabel>
 #include <QMovie>
 #include <QPushButton>
@@ -86,6 +87,7 @@ void frm_Msg::showMessage(const Message& message) {
 void frm_Msg::fill(const Message& message) {
     msgType_ = kindWord(message.kind);
     isProgress_ = message.isProgress;
+    isWaiting_ = message.isProgress && session().weather.ASv6Busy;
     pic_Icon_->setPixmap(skin().picture(u"icon_"_s + msgType_ + u".bmp"_s));
     pic_Icon_->setAccessibleName(msgType_);
     setWindowTitle(message.title);
@@ -116,8 +118,6 @@ void frm_Msg::showPicture(const QString& fileName) {
 
 void frm_Msg::layOut(const Message& message) {
     const bool isQuestion = !message.isProgress;
-    // Nobody knows how much of Active Sky's work is done.
-    const bool isWaiting = session().weather.ASv6Busy;
     const auto place = [](SkinnedButton* button, bool isThere, const QPoint& at) {
         button->setState(isThere ? ButtonState::enabled : ButtonState::disabled);
         button->setVisible(isThere);
@@ -125,7 +125,8 @@ void frm_Msg::layOut(const Message& message) {
     };
     place(btn_Ok_, isQuestion && message.withOk, message.withCancel ? besideCancel : alone);
     place(btn_Cancel_, isQuestion && message.withCancel, alone);
-    pbMessage_->setVisible(message.isProgress && !isWaiting);
+    pbMessage_->setVisible(message.isProgress && !isWaiting_);
+    cmdCancel_->setText(isWaiting_ ? u"Cancel"_s : u"Cancel the process"_s);
     cmdCancel_->setVisible(message.isProgress && message.withCancel);
     lbl_Message_->resize(294, message.isProgress ? 70 : 136);
     chkFastExit_->setChecked(false);
@@ -156,32 +157,31 @@ void frm_Msg::answer(bool ok) {
 }
 
 void frm_Msg::cancel() {
-    if (session().weather.ASv6Busy)
-        askForExit();
-    else if (isProgress_)
+    if (isProgress_)
         askForCancel();
     else
         answer(btn_Cancel_->isHidden());
 }
 
+void frm_Msg::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (!isProgress_)
+        cancel();
+    else if (isWaiting_)
+        shell().exitAfterQuestion(u"Active Sky is still working. Do you wish to exit Morvane?"_s);
+    else
+        shell().exitProgram();
+}
+
+/// A wait is left without a question: nothing is lost.
 void frm_Msg::askForCancel() {
     if (cmdCancel_->isHidden() || isAsking_) return;
     isAsking_ = true;
-    const bool wanted = session().user.systemBox(u"Do you wish cancel the current operation?"_s,
-                                                 u"Cancel Operation?"_s, SystemBoxButtons::okCancel);
+    const bool wanted =
+        isWaiting_ || session().user.systemBox(u"Do you wish cancel the current operation?"_s,
+                                               u"Cancel Operation?"_s, SystemBoxButtons::okCancel);
     isAsking_ = false;
     session().user.answers().cancelRequested = wanted;
-}
-
-/// Active Sky is waited for as long as it takes: the program's end is the only other way out.
-void frm_Msg::askForExit() {
-    if (isAsking_) return;
-    isAsking_ = true;
-    const bool wanted =
-        session().user.systemBox(u"Active Sky is still working. Do you wish to exit Morvane?"_s,
-                                 u"Exit Morvane?"_s, SystemBoxButtons::okCancel);
-    isAsking_ = false;
-    if (wanted && session().weather.ASv6Busy) shell().exitProgram();
 }
 
 void frm_Msg::storeFastExit(bool isTicked) {

@@ -31,20 +31,21 @@ public:
     void setProgressFile(const QString& line);
 
     void ok() override { answer(true); }
-    /// Escape and close: no, or OK where only OK shows. While progress shows they ask for a cancel, and while
-    /// Active Sky is waited for whether to end the program.
+    /// Escape: no, or OK where only OK shows. While progress shows it is the cancel key.
     void cancel() override;
 
 protected:
     void prepare() override {}
     void confirm() override {}
+    /// While progress shows the message stands for the program, whose windows are blocked or away: closing it
+    /// leaves the program.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     QLabel* addText(const QString& name, const QRect& place, TextRole role);
     void makeControls();
     void answer(bool ok);
     void askForCancel();
-    void askForExit();
     void fill(const Message& message);
     void showPicture(const QString& fileName);
     void layOut(const Message& message);
@@ -61,6 +62,7 @@ private:
     QString processFile_;
     QElapsedTimer lastPaint_;
     bool isProgress_ = false;
+    bool isWaiting_ = false; ///< for Active Sky: nobody knows how much of its work is done
     bool isAsking_ = false;
 };
 

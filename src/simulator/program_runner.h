@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/session.h"
+
+namespace morvane {
+
+/// `startProgram` with the runner that the registry names. Where a program of Windows has none nothing is
+/// started. False after the message of why it does not run. `name` is what the user calls the program.
+bool startWithRunner(Session& session, const QString& name, const FilePath& program,
+                     const FilePath& document = {});
+
+void tellNotStarted(Session& session, const QString& name, const QString& why);
+
+} // namespace morvane

@@ -1,0 +1,81 @@
+#include "cli/console.h"
+
+#include "simulator/originals.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::Console;
+using test::ConsoleInstall;
+
+QStringList manyFiles(const QString& folder, int count) {
+    QStringList names;
+    for (int number = 0; number < count; ++number)
+        names << folder + u"\\029b2su%1.bmp"_s.arg(number, 3, 10, QChar(u'0'));
+    return names;
+}
+
+/// The first one is known to write when the second one starts.
+std::pair<test::ConsoleRun, test::ConsoleRun> runTwo(ConsoleInstall& install, const QString& firstCommand,
+                                                     const QString& moment, const QString& secondCommand) {
+    Console first(install.withHome(firstCommand));
+    EXPECT_TRUE(first.waitForMessage(moment));
+    const auto second = install.run(secondCommand);
+    return {first.finish(), second};
+}
+
+TEST(TwoPrograms, setsOfTwoRunsAreAllWhole) {
+    constexpr int fileCount = 60;
+    ConsoleInstall install({manyFiles(u"GENERIC WORLD"_s, fileCount), 32});
+    const auto [first, second] =
+        runTwo(install, u"ground create 0 0 0 0 3"_s, u"Process 1 of 2"_s, u"ground create 3 0 0 0 0"_s);
+    EXPECT_EQ(first.status, 0) << first.messages.toStdString();
+    EXPECT_EQ(second.status, 0) << second.messages.toStdString();
+    EXPECT_TRUE(second.messages.contains(u"morvane-cli (process "_s)) << "who was waited for";
+    EXPECT_EQ(install.setFolders().size(), 6);
+    for (const QString& name : install.setFolders()) {
+        const FilePath textures = (install.home() / u"Texture Sets").child(name) / u"Texture";
+        EXPECT_EQ(install.files.list(textures, u"*.bmp"_s).size(), fileCount) << name.toStdString();
+        EXPECT_TRUE(install.sets().contains(name + u'+'));
+    }
+    EXPECT_FALSE(install.files.exists(install.home() / u"Writing.lock"));
+}
+
+TEST(TwoPrograms, noOriginalOfTwoInstallsIsLost) {
+    ConsoleInstall install;
+    // Long enough for the other one to note its files in the middle of it.
+    const QStringList names = manyFiles(u"Texture"_s, 200), skyNames{u"day.bmp"_s, u"dawn.bmp"_s};
+    for (const QString& name : names)
+        test::writeFile(install.simulator() / u"Scenery\\World" / name, "the pilot's " + name.toUtf8());
+    for (const QString& name : skyNames)
+        test::writeFile(install.simulator() / u"Texture" / name, "the pilot's " + name.toUtf8());
+    const auto before = test::contentsBelow(install.simulator());
+    install.addSet(u"2-Storm"_s, u"Overcast"_s, true, names);
+    install.addSky(u"3-Grey"_s, u"Overcast"_s, true, skyNames);
+    const auto [first, second] =
+        runTwo(install, u"ground install 2-Storm"_s, u"Processing your Ground"_s, u"sky install 3-Grey"_s);
+    EXPECT_EQ(first.status + second.status, 0) << second.messages.toStdString();
+    EXPECT_NE(test::contentsBelow(install.simulator()), before);
+    EXPECT_EQ(install.run(u"originals restore"_s).status, 0);
+    const auto after = test::contentsBelow(install.simulator());
+    for (auto file = before.cbegin(); file != before.cend(); ++file)
+        EXPECT_EQ(after.value(file.key()), file.value()) << file.key().toStdString();
+}
+
+TEST(TwoPrograms, readersRunBesideAWriterAndAKilledOnesLockIsTakenOver) {
+    ConsoleInstall install({manyFiles(u"GENERIC WORLD"_s, 60), 64});
+    Console writer(install.withHome(u"ground create 0 0 0 0 200"_s));
+    ASSERT_TRUE(writer.waitForMessage(u"Process 1 of 2"_s));
+    for (const QString& command : {u"ground list"_s, u"originals list"_s, u"option get halo"_s})
+        EXPECT_EQ(install.run(command).status, 0) << command.toStdString();
+    EXPECT_TRUE(install.files.exists(install.home() / u"Writing.lock"));
+    writer.kill();
+    const auto next = install.run(u"option set halo off"_s);
+    EXPECT_FALSE(next.messages.contains(u"Another Program Is Writing"_s)) << next.messages.toStdString();
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,96 @@
+#include "core/writing.h"
+
+#include "core/application.h"
+#include "core/changed_rows.h"
+#include "core/job.h"
+#include "core/store.h"
+#include "ground/ground_sets.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <QCoreApplication>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+/// Two programs on one install, as two sessions of one process. The first one writes at the beginning.
+struct WritingTest : testing::Test {
+    test::SmallInstall install;
+    test::ScriptedUser user;
+    Session second{{user, install.files, install.clock, install.random, install.registry}, install.home()};
+    std::optional<Writing> first{install.session};
+
+    void SetUp() override {
+        ASSERT_TRUE(startUp(second)) << "a start needs no lock";
+        user.calls.clear();
+        second.writing->patience = {};
+    }
+};
+
+TEST_F(WritingTest, aSecondWriterIsToldWhoTheFirstIsAndBeginsNothing) {
+    for (const bool isUnattended : {false, true}) {
+        if (isUnattended) second.writing->beUnattended();
+        second.writing->patience = {};
+        second.writing->wasRefused = false;
+        user.messages.clear();
+        EXPECT_FALSE(Job(second));
+        ASSERT_EQ(user.told().size(), 1);
+        EXPECT_TRUE(user.told()[0].contains(u" (process "_s +
+                                            QString::number(QCoreApplication::applicationPid()) + u')'))
+            << user.told()[0].toStdString();
+        EXPECT_EQ(user.messages.back().isProgress, isUnattended) << "which waits for no click";
+        EXPECT_FALSE(second.jobRunning);
+        EXPECT_TRUE(second.writing->wasRefused);
+    }
+    first.reset();
+    EXPECT_FALSE(Job(second)) << "an unattended run that was refused once is over";
+}
+
+TEST_F(WritingTest, aSecondWriterWaitsForTheEndOfTheFirst) {
+    second.writing->patience = std::chrono::minutes(1);
+    user.onPump = [this] { first.reset(); };
+    const Job job(second);
+    EXPECT_TRUE(job);
+    EXPECT_FALSE(Writing(install.session, Writing::Waiting::none)) << "now the first one would have to wait";
+    EXPECT_TRUE(Writing(second)) << "inside itself it is free";
+    EXPECT_TRUE(user.told().isEmpty());
+}
+
+TEST_F(WritingTest, theWaitIsLeftByACancelAndByTheEndOfTheProgramWithoutAWord) {
+    second.writing->patience = std::chrono::minutes(1);
+    user.onPump = [this] { user.answers().cancelRequested = true; };
+    EXPECT_FALSE(Job(second));
+    user.onPump = [this] { second.ExitInProgress.moveTo(ExitStage::sessionEnd); };
+    EXPECT_FALSE(Job(second));
+    EXPECT_TRUE(user.told().isEmpty());
+    EXPECT_FALSE(user.isMessageVisible() || user.answers().cancelRequested);
+}
+
+TEST_F(WritingTest, aJobWithQuestionsWritesBehindThemAndReportsWithoutTheLock) {
+    Job job(second, Job::Start::behindQuestions);
+    EXPECT_TRUE(job) << "it may ask while the other one writes";
+    EXPECT_FALSE(job.begin());
+    first.reset();
+    Job other(install.session);
+    EXPECT_TRUE(other);
+    other.end();
+    EXPECT_TRUE(Writing(second));
+}
+
+TEST_F(WritingTest, rowsThatAnotherProgramChangedAreReadAnew) {
+    EXPECT_EQ(loadedGroundSets(second).Count(), 1);
+    EXPECT_FALSE(reloadChangedRows(second));
+    install.addGroundSet("2-Storm", "Overcast", true);
+    install.session.adoConn->execute(u"UPDATE TEXTURE_SWITCH SET ISHALO = TRUE"_s);
+    first.reset();
+    const Job job(second);
+    EXPECT_EQ(second.gTextureSets->Count(), 2);
+    EXPECT_TRUE(second.IsHalo && second.RefreshGroundList);
+    EXPECT_FALSE(reloadChangedRows(second)) << "once";
+    second.adoConn->execute(u"UPDATE TEXTURE_SWITCH SET ISHALO = FALSE"_s);
+    EXPECT_FALSE(reloadChangedRows(second)) << "its own writes are known to it";
+}
+
+} // namespace
+} // namespace morvane
