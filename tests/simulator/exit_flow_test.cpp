@@ -76,12 +76,14 @@ TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndReset
     const QStringList files{"Texture\\a.bmp", "Texture\\b.bmp", "Texture\\c.bmp", "Texture\\d.bmp"};
     install.addGroundSet("2-Storm", "Overcast", true, files);
     session.InhibitCustomSplash = true;
-    install.user.onPump = [this, files = 0]() mutable {
-        if (++files == 2) session.ExitInProgress.moveTo(ExitStage::sessionEnd);
+    const auto placed = [this] {
+        return session.files.list(session.FSPath / u"Scenery\\World\\texture", u"?.bmp"_s);
+    };
+    install.user.onPump = [&] {
+        if (placed().size() == 2) session.ExitInProgress.moveTo(ExitStage::sessionEnd);
     };
     put("2-Storm");
-    const FilePath textures = session.FSPath / u"Scenery\\World\\texture";
-    EXPECT_EQ(session.files.list(textures, u"?.bmp"_s), QStringList({"a.bmp", "b.bmp"}));
+    EXPECT_EQ(placed(), QStringList({"a.bmp", "b.bmp"}));
     exitProgram(session);
     EXPECT_EQ(install.user.told(), QStringList{});
     EXPECT_EQ(session.adoConn, nullptr);

@@ -1,3 +1,4 @@
+#include "core/job.h"
 #include "walk/walk_tables.h"
 
 namespace morvane::test {
@@ -26,6 +27,7 @@ void openInformation(Walk& walk) {
 
 void openProgress(Walk& walk) {
     openHome(walk);
+    const Job job(walk.session());
     UserInterface& user = walk.session().user;
     user.showMessage({MessageKind::progress, u"Working"_s, u"Please wait..."_s, false, true, true});
     while (user.isMessageVisible())
@@ -64,7 +66,7 @@ std::vector<WalkScreen> messageScreens() {
          true,
          {{u"cmdCancel"_s, shows(u"box Cancel Operation?"_s)},
           {u"(Escape)"_s, shows(u"box Cancel Operation?"_s)},
-          {u"(close)"_s, shows(u"box Cancel Operation?"_s)},
+          {u"(close)"_s, shows(u"box Exit Morvane?"_s)},
           {u"(Enter)"_s, nothing("a key too many must not end an hour's work")}}},
         {"box",
          {},

@@ -88,6 +88,13 @@ void clickPart(QTreeView& list, const QString& part) {
     clickRow(list, otherRow(list), besideBox);
 }
 
+/// What stands there already, from another way of using it, would change nothing.
+void typeInto(QWidget& control, const QString& typed) {
+    const QString text = stateOf(control) == typed ? typed + u'0' : typed;
+    for (const QChar letter : text)
+        QTest::keyClick(&nativeWindow(control), letter.toLatin1());
+}
+
 void useMouse(QWidget& control, const QString& part, const QString& typed) {
     if (auto* list = qobject_cast<QTreeView*>(&control)) {
         clickPart(*list, part);
@@ -101,9 +108,7 @@ void useMouse(QWidget& control, const QString& part, const QString& typed) {
     QPoint place = livePoint(control);
     if (qobject_cast<ucSlider*>(&control)) place.setX(control.width() * 3 / 4);
     click(control, place);
-    if (!isEdit(control)) return;
-    for (const QChar letter : typed)
-        QTest::keyClick(&nativeWindow(control), letter.toLatin1());
+    if (isEdit(control)) typeInto(control, typed);
 }
 
 void useArrows(QWidget& control) {
@@ -139,8 +144,7 @@ void use(QWidget& control, const QString& part, Way way, const QString& typed) {
     if (way == Way::arrows) return useArrows(control);
     if (way == Way::space) return pressKey(control, Qt::Key_Space);
     if (way == Way::enter) return pressKey(control, Qt::Key_Return);
-    for (const QChar letter : typed)
-        QTest::keyClick(&nativeWindow(control), letter.toLatin1());
+    typeInto(control, typed);
 }
 
 void click(QWidget& control, const QPoint& place) {
