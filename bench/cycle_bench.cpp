@@ -85,7 +85,7 @@ void loadCycle(benchmark::State& state, CycleForm form, bool isFirst) {
         }
         data.importCycleFile(install.cycle, form);
     }
-    state.counters["stations"] = install.session.gWxFinders->Count();
+    state.counters["stations"] = install.session.rows<clsWxFinders>()->Count();
     state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * reports);
 }
 BENCHMARK_CAPTURE(loadCycle, noaaIntoAnEmptyTable, CycleForm::noaa, true)
@@ -120,7 +120,7 @@ void reload(benchmark::State& state) {
     for ([[maybe_unused]] auto unused : state)
         clsWxFinders::reload(install.session);
     state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) *
-                            install.session.gWxFinders->Count());
+                            install.session.rows<clsWxFinders>()->Count());
 }
 BENCHMARK(reload)->Unit(benchmark::kMillisecond)->UseRealTime();
 

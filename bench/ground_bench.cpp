@@ -1,7 +1,9 @@
-#include "core/application.h"
+#include "app/start_up.h"
 #include "core/registry.h"
+#include "core/store_connection.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
 
 #include <QDirIterator>
 #include <QFileInfo>
@@ -73,8 +75,8 @@ public:
         for (const QString& name : {u"Texture"_s, u"UTEurLC"_s, u"Dutch"_s})
             files_.makeFolder(home_ / u"TempBitmaps" / name);
         user_.onModal = [this](Screen) {
-            session_.modal.setCounts = {0, 0, 1, 0, 0};
-            session_.modal.setCountsConfirmed = true;
+            session_.state<GroundSetCounts>().setCounts = {0, 0, 1, 0, 0};
+            session_.state<GroundSetCounts>().setCountsConfirmed = true;
         };
         isStarted_ = startUp(session_);
         modelSimulator_ = session_.FSPath;
@@ -100,7 +102,7 @@ public:
     /// files some file systems are slow to make new ones.
     void makeSet() {
         GroundGeneration(session_).createTextureSets(true);
-        setNames_ << session_.ground.SelectedGroundSet;
+        setNames_ << session_.state<GroundSelection>().SelectedGroundSet;
     }
 
     /// A simulator as the pilot had it, of which no original is kept yet.
@@ -112,7 +114,7 @@ public:
     }
     /// Puts the set into the simulator and returns the number of its files.
     int installSet() {
-        session_.ground.SelectedGroundSet = setNames_.last();
+        session_.state<GroundSelection>().SelectedGroundSet = setNames_.last();
         GroundInstallation installation(session_);
         installation.installTextureSet(true);
         return installation.filesCopied();

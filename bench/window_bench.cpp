@@ -2,23 +2,24 @@
 // of its own code to a painted main window, how live it stays while a set is made, and how soon a search
 // shows what it found. The install is worked on: name a sample.
 
-#include "core/application.h"
+#include "app/start_up.h"
 #include "core/registry.h"
 #include "core/session.h"
 #include "core/store.h"
 #include "core/store_statement.h"
 #include "ground/ground_generation.h"
-#include "simulator/resource_folders.h"
+#include "ground/ground_selection.h"
+#include "imaging/program_font.h"
+#include "sets/resource_folders.h"
 #include "sky/sky_generation.h"
 #include "sky/sky_sets.h"
 #include "ui/controls/paper_style.h"
 #include "ui/controls/slider.h"
-#include "ui/program_font.h"
-#include "ui/screens/message_screen.h"
-#include "ui/shell.h"
 #include "ui/skin.h"
-#include "ui/window_user.h"
 #include "weather/wx_finders.h"
+#include "window/message_screen.h"
+#include "window/window_shell.h"
+#include "window/window_user.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -90,7 +91,7 @@ private:
     Skin skin_;
 
 public:
-    Shell shell;
+    WindowShell shell;
     bool isStarted = false;
 };
 
@@ -107,7 +108,7 @@ void startingToAPaintedWindow(benchmark::State& state) {
 BENCHMARK(startingToAPaintedWindow)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 /// Wants one overcast set and says OK to the report.
-void answerByItself(Shell& shell, QTimer& timer) {
+void answerByItself(WindowShell& shell, QTimer& timer) {
     timer.callOnTimeout([&shell] {
         auto* counts = qobject_cast<DialogForm*>(shell.loadedForm(u"frm_TsRequired"_s));
         auto* message = qobject_cast<DialogForm*>(shell.loadedForm(u"frm_Msg"_s));
@@ -155,7 +156,7 @@ void stayingLiveWhileASetIsMade(benchmark::State& state) {
         generation.createTextureSets(true);
         state.counters["paints_a_second"] = liveliness.paints * 1000.0 / static_cast<double>(clock.elapsed());
         state.counters["longest_wait_ms"] = static_cast<double>(liveliness.longestWait) / 1e6;
-        generation.removeSetFiles(program.session.ground.SelectedGroundSet, false);
+        generation.removeSetFiles(program.session.state<GroundSelection>().SelectedGroundSet, false);
     }
 }
 BENCHMARK(stayingLiveWhileASetIsMade)->Unit(benchmark::kMillisecond)->Iterations(1);
@@ -242,7 +243,7 @@ void startingWithAFullCycle(benchmark::State& state) {
     for (auto round : state) {
         const Program program(benchHome());
         if (!program.isStarted) state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
-        state.counters["reports"] = program.session.gWxFinders->Count();
+        state.counters["reports"] = program.session.rows<clsWxFinders>()->Count();
     }
 }
 BENCHMARK(startingWithAFullCycle)->Unit(benchmark::kMillisecond)->Iterations(5);

@@ -22,14 +22,14 @@ endfunction()
 # morvane_bench(NAME FILES...): one Google Benchmark program.
 function(morvane_bench name)
     add_executable(${name} ${ARGN})
-    target_link_libraries(${name} PRIVATE morvane_engine benchmark::benchmark_main)
+    target_link_libraries(${name} PRIVATE morvane_app benchmark::benchmark_main)
     morvane_precompile(${name} engine)
 endfunction()
 
 # morvane_ui_test(NAME FILES...): the same for tests that show widgets, on a platform without a display.
 function(morvane_ui_test name)
     add_executable(${name} ${ARGN} ${CMAKE_SOURCE_DIR}/tests/support/ui_main.cpp)
-    target_link_libraries(${name} PRIVATE morvane_ui morvane_font morvane_test_support Qt6::Test)
+    target_link_libraries(${name} PRIVATE morvane_window morvane_font morvane_test_support Qt6::Test)
     morvane_test_target(${name} window_test)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
 endfunction()

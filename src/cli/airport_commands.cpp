@@ -5,11 +5,13 @@
 #include "core/session.h"
 #include "core/statement_translation.h"
 #include "core/store_records.h"
+#include "weather/airport_report.h"
 #include "weather/airport_search.h"
 #include "weather/coordinates.h"
+#include "weather/decoded_lines.h"
 #include "weather/metar_decoder.h"
 #include "weather/nearest_station.h"
-#include "weather/weather_control.h"
+#include "weather/weather_state.h"
 
 #include <QJsonArray>
 
@@ -43,7 +45,8 @@ QJsonObject toJson(CommandContext& context, const Airport& airport, const QStrin
             {u"city"_s, airport.city},
             {u"metar"_s, metar},
             {u"decoded"_s, toJson(report)},
-            {u"lines"_s, QJsonArray::fromStringList(context.session.modal.decodedMetarLines)}};
+            {u"lines"_s,
+             QJsonArray::fromStringList(context.session.state<DecodedReportLines>().decodedMetarLines)}};
 }
 
 /// The decoded report of a station or an airport, line by line.
@@ -51,19 +54,19 @@ void showReport(CommandContext& context) {
     Session& session = context.session;
     const QString& icao = context.arguments[0];
     const Airport airport = findAirport(session, icao).value_or(Airport{});
-    session.weather.InhibitWeatherReports = false;
+    session.state<WeatherState>().InhibitWeatherReports = false;
     QString metar;
     if (!getMetar(session, icao.toUpper(), airport.latitude, airport.longitude, airport.city, airport.name,
                   metar))
         return;
     if (context.options.contains(jsonOption.name))
         return printJson(QJsonDocument(toJson(context, airport, metar)));
-    for (const QString& line : session.modal.decodedMetarLines)
+    for (const QString& line : session.state<DecodedReportLines>().decodedMetarLines)
         writeStandardOutput(line + u'\n');
 }
 
 void findAirports(CommandContext& context) {
-    searchAirports(context.session.weather, SearchBox::icao, context.arguments[0]);
+    searchAirports(context.session.state<WeatherState>(), SearchBox::icao, context.arguments[0]);
     QJsonArray found;
     for (const Airport& airport : popAirports(context.session, {}).airports) {
         if (found.size() == mostAirports) break;

@@ -1,11 +1,13 @@
 #include "cli/commands.h"
 
+#include "app/start_up.h"
 #include "cli/command_tables.h"
-#include "core/application.h"
 #include "core/failure_report.h"
 #include "core/install_folder.h"
-#include "core/options.h"
+#include "core/store_connection.h"
 #include "core/writing.h"
+#include "sets/options_in_force.h"
+#include "simulator/options.h"
 #include "weather/active_sky.h"
 
 #include <algorithm>
@@ -31,7 +33,7 @@ bool makeReady(const Command& command, Session& session) {
     if (command.needs == Needs::simulator) {
         if (!startUp(session)) return false;
         // What copies sets has to know whether a splash goes with them.
-        session.InhibitCustomSplash = isCustomSplashInhibited(session);
+        session.state<OptionsInForce>().InhibitCustomSplash = isCustomSplashInhibited(session);
         // Whatever else runs is not held up by a weather program it does not ask.
         if (firstWord(command) == u"metar") tellActiveSkyProblem(session);
     } else if (command.needs == Needs::folder) {

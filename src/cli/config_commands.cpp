@@ -1,11 +1,13 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
-#include "core/application.h"
 #include "core/failure_report.h"
-#include "core/options.h"
+#include "core/flights_folder.h"
 #include "core/registry.h"
 #include "core/store.h"
+#include "core/store_connection.h"
+#include "sets/options_in_force.h"
+#include "simulator/options.h"
 #include "weather/active_sky.h"
 
 #include <algorithm>
@@ -86,10 +88,10 @@ QJsonObject switchesOf(Session& session) {
                          !session.adoConn->columns(u"TEXTURE_SWITCH"_s).isEmpty();
     if (isKnown) readSwitches(session);
     const auto shown = [isKnown](bool value) { return isKnown ? QJsonValue(value) : QJsonValue(); };
-    return {{u"dutch"_s, shown(session.IsDutch)},
-            {u"tropical"_s, shown(session.IsTropical)},
-            {u"halo"_s, shown(session.IsHalo)},
-            {u"fastexit"_s, shown(session.IsFastExit)},
+    return {{u"dutch"_s, shown(session.state<OptionsInForce>().IsDutch)},
+            {u"tropical"_s, shown(session.state<OptionsInForce>().IsTropical)},
+            {u"halo"_s, shown(session.state<OptionsInForce>().IsHalo)},
+            {u"fastexit"_s, shown(session.state<OptionsInForce>().IsFastExit)},
             {u"widefs"_s, ownText(session, u"IsWideClient"_s).trimmed() == u"True"},
             {u"inhibitsplash"_s, isCustomSplashInhibited(session)}};
 }

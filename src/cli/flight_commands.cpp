@@ -1,9 +1,13 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "core/file_helpers.h"
-#include "ground/cloud_cover.h"
+#include "ground/ground_selection.h"
+#include "sets/cloud_cover.h"
+#include "sets/options_in_force.h"
 #include "simulator/flights.h"
 #include "simulator/set_matching.h"
+#include "simulator/simulator_launch.h"
+#include "sky/sky_selection.h"
 #include "weather/cover_choice.h"
 
 #include <QJsonArray>
@@ -25,9 +29,9 @@ void loadFlights(CommandContext& context) {
 }
 
 QString startOf(const Session& session, const FlyReport& report) {
-    if (session.IsWideClient) return u"on the server"_s;
+    if (session.state<OptionsInForce>().IsWideClient) return u"on the server"_s;
     if (!report.isSimulatorStarted) return u"none"_s;
-    return session.modal.FlightSelected ? u"saved flight"_s : u"simulator"_s;
+    return session.state<FlightChoice>().FlightSelected ? u"saved flight"_s : u"simulator"_s;
 }
 
 QJsonObject toJson(const Session& session, const FlyReport& report) {
@@ -35,8 +39,8 @@ QJsonObject toJson(const Session& session, const FlyReport& report) {
     const auto nameOf = [isInstalled](const QString& set) {
         return isInstalled ? QJsonValue(set) : QJsonValue(); // null
     };
-    return {{u"ground"_s, nameOf(session.ground.SelectedGroundSet)},
-            {u"sky"_s, nameOf(session.sky.SelectedSkySet)},
+    return {{u"ground"_s, nameOf(session.state<GroundSelection>().SelectedGroundSet)},
+            {u"sky"_s, nameOf(session.state<SkySelection>().SelectedSkySet)},
             {u"files"_s, std::max(report.filesCopied, 0)},
             {u"start"_s, startOf(session, report)}};
 }

@@ -3,6 +3,7 @@
 #include "cli/json_output.h"
 #include "cli/set_commands.h"
 #include "cli/set_kinds.h"
+#include "ground/ground_generation.h"
 #include "ground/texture_catalogue.h"
 
 namespace morvane {
@@ -18,8 +19,8 @@ void create(CommandContext& context) {
     const auto counts = countsOfArguments(context.arguments, 0);
     context.user.onModal = [&](Screen screen) {
         if (screen != Screen::frm_TsRequired) return;
-        context.session.modal.setCounts = counts;
-        context.session.modal.setCountsConfirmed = true;
+        context.session.state<GroundSetCounts>().setCounts = counts;
+        context.session.state<GroundSetCounts>().setCountsConfirmed = true;
     };
     GroundGeneration(context.session).createTextureSets(true);
 }

@@ -1,9 +1,9 @@
 #include "cli/json_output.h"
 
 #include "cli/terminal.h"
-#include "ground/texture_catalogue.h"
 #include "ground/texture_sets.h"
 #include "night/night_texture_sets.h"
+#include "sets/catalogue_file.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
 #include "weather/metar_decoder.h"

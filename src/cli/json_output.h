@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sets/catalogue_file.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 

@@ -2,8 +2,10 @@
 #include "cli/command_tables.h"
 #include "cli/set_commands.h"
 #include "cli/set_kinds.h"
-#include "ground/slider_steps.h"
+#include "imaging/slider_steps.h"
 #include "night/night_tuning.h"
+#include "sets/favourite_name.h"
+#include "sets/slider_values.h"
 
 #include <algorithm>
 
@@ -26,8 +28,8 @@ std::optional<SliderValues> slidersOf(const QString& argument) {
 void addFavourite(CommandContext& context) {
     context.user.onModal = [&](Screen screen) {
         if (screen != Screen::frm_AddFav) return;
-        context.session.modal.favName = context.arguments[0];
-        context.session.modal.favConfirmed = true;
+        context.session.state<FavouriteAnswer>().favName = context.arguments[0];
+        context.session.state<FavouriteAnswer>().favConfirmed = true;
     };
     NightTuning tuning(context.session);
     tuning.showColourPreview(slidersOf(context.arguments[1]).value());

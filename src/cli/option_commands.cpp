@@ -1,13 +1,14 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
-#include "core/options.h"
-#include "core/set_collections.h"
+#include "sets/options_in_force.h"
+#include "sets/set_collections.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"
+#include "simulator/options.h"
 #include "simulator/texture_switches.h"
 
 #include <QJsonArray>
@@ -19,7 +20,7 @@ namespace {
 
 struct SimulatorOption {
     QString name;
-    bool Session::*flag;
+    bool OptionsInForce::*flag;
     bool (*set)(Session&, bool); ///< false after the message of a refusal
 };
 
@@ -31,12 +32,12 @@ bool always(Session& session, bool value) {
 
 const std::vector<SimulatorOption>& simulatorOptions() {
     static const std::vector<SimulatorOption> options{
-        {u"dutch"_s, &Session::IsDutch, switchDutch},
-        {u"tropical"_s, &Session::IsTropical, switchTropical},
-        {u"halo"_s, &Session::IsHalo, always<switchHalo>},
-        {u"fastexit"_s, &Session::IsFastExit, always<switchFastExit>},
-        {u"widefs"_s, &Session::IsWideClient, always<setSideFSVal>},
-        {u"inhibitsplash"_s, &Session::InhibitCustomSplash, always<setCustomSplashVal>},
+        {u"dutch"_s, &OptionsInForce::IsDutch, switchDutch},
+        {u"tropical"_s, &OptionsInForce::IsTropical, switchTropical},
+        {u"halo"_s, &OptionsInForce::IsHalo, always<switchHalo>},
+        {u"fastexit"_s, &OptionsInForce::IsFastExit, always<switchFastExit>},
+        {u"widefs"_s, &OptionsInForce::IsWideClient, always<setSideFSVal>},
+        {u"inhibitsplash"_s, &OptionsInForce::InhibitCustomSplash, always<setCustomSplashVal>},
     };
     return options;
 }
@@ -64,13 +65,13 @@ bool hasName(CommandContext& context, const KeyedCollection<Record>& records, co
 
 void listBases(CommandContext& context) {
     QJsonArray list;
-    for (const auto& config : loadedCollection(context.session, context.session.gConfigs))
+    for (const auto& config : loadedCollection(context.session, context.session.rows<clsConfigs>()))
         list << toJson(*config);
     printJson(QJsonDocument(list));
 }
 
 void installBases(CommandContext& context) {
-    const clsConfigs& configs = loadedCollection(context.session, context.session.gConfigs);
+    const clsConfigs& configs = loadedCollection(context.session, context.session.rows<clsConfigs>());
     const auto isKnown = [&](const QString& title) {
         return hasName(context, configs, u"base install"_s, title);
     };
@@ -84,7 +85,7 @@ void createBackupOfAll(CommandContext& context) {
 
 void listBackups(CommandContext& context) {
     QJsonArray list;
-    for (const auto& backup : loadedCollection(context.session, context.session.gBackups))
+    for (const auto& backup : loadedCollection(context.session, context.session.rows<clsBackups>()))
         list << QJsonObject{{u"BackupID"_s, backup->BackupID},
                             {u"BackupName"_s, backup->BackupName},
                             {u"BackupDateTime"_s, backup->BackupDateTime.toString(Qt::ISODate)},
@@ -94,19 +95,20 @@ void listBackups(CommandContext& context) {
 
 void restoreBackupOf(CommandContext& context) {
     const QString& name = context.arguments[0];
-    const clsBackups& backups = loadedCollection(context.session, context.session.gBackups);
+    const clsBackups& backups = loadedCollection(context.session, context.session.rows<clsBackups>());
     if (!hasName(context, backups, u"backup"_s, name)) return;
     context.user.onModal = [&](Screen screen) {
         if (screen != Screen::frm_BackupList) return;
-        context.session.modal.chosenBackup = name;
-        context.session.modal.backupConfirmed = true;
+        context.session.state<BackupChoice>().chosenBackup = name;
+        context.session.state<BackupChoice>().backupConfirmed = true;
     };
     restoreBackupOnRequest(context.session);
 }
 
 void getOption(CommandContext& context) {
     const SimulatorOption& option = optionOf(context);
-    printJson(QJsonDocument(QJsonObject{{option.name, context.session.*option.flag}}));
+    printJson(
+        QJsonDocument(QJsonObject{{option.name, context.session.state<OptionsInForce>().*option.flag}}));
 }
 
 void setOption(CommandContext& context) {

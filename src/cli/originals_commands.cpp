@@ -1,7 +1,7 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
-#include "simulator/simulator_copy.h"
+#include "sets/simulator_copy.h"
 #include "simulator/simulator_restore.h"
 
 #include <QJsonArray>

@@ -1,8 +1,8 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "core/error.h"
-#include "ground/colour_settings.h"
 #include "imaging/texture_codec.h"
+#include "sets/colour_settings.h"
 #include "sky/sky_groups.h"
 
 #include <QJsonArray>

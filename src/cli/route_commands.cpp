@@ -89,7 +89,7 @@ QJsonObject toJson(const FlightPlan& plan, const PlanWeather& weather) {
 /// The reports found as one array, in order of their codes.
 void findReports(CommandContext& context) {
     openWxFilter(context.session);
-    applyOptions(context.options, context.session.wxFilter);
+    applyOptions(context.options, context.session.state<WxFilter>());
     QJsonArray reports;
     for (const auto& finder : filterMetars(context.session))
         reports << QJsonObject{{u"WxFinderIcao"_s, finder->WxFinderIcao},

@@ -2,7 +2,7 @@
 
 #include "cli/command_helpers.h"
 #include "cli/json_output.h"
-#include "core/options.h"
+#include "core/flag_text.h"
 
 #include <QJsonArray>
 

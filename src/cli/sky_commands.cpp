@@ -31,9 +31,9 @@ void create(CommandContext& context) {
     const auto counts = countsOfArguments(context.arguments, 1);
     context.user.onModal = [&](Screen screen) {
         if (screen != Screen::frm_SelectSkyTexture) return;
-        context.session.modal.skyBaseSets = baseSets;
-        context.session.modal.skySetCounts = counts;
-        context.session.modal.skySetsConfirmed = true;
+        context.session.state<SkySetCounts>().skyBaseSets = baseSets;
+        context.session.state<SkySetCounts>().skySetCounts = counts;
+        context.session.state<SkySetCounts>().skySetsConfirmed = true;
     };
     SkyGeneration(context.session).createSkySets(true);
 }
@@ -43,7 +43,7 @@ void show(CommandContext& context) {
     const auto set = SetCommands<SkyKind>::clickedSet(context);
     if (!set || !clsSkyTextureSubSets::reload(context.session, set->StsID)) return;
     QJsonValue dayColours; // null for a set without colours
-    for (const auto& subSet : *context.session.gSkyTextureSubSets)
+    for (const auto& subSet : *context.session.rows<clsSkyTextureSubSets>())
         if (subSet->timeOfDay == skyDay) dayColours = toJson(*subSet);
     printJson(QJsonDocument(QJsonObject{{u"set"_s, toJson(*set)}, {u"subSet"_s, dayColours}}));
 }

@@ -35,6 +35,11 @@ public:
     virtual bool CreateRegKey(int root, const QString& key) = 0;
 };
 
+/// A text of the program's own key.
+QString ownValue(const Registry& registry, const QString& name);
+/// Writes one, and makes the key where it is missing.
+void storeOwnValue(Registry& registry, const QString& name, const QString& text);
+
 /// The system's own registry on Windows; elsewhere `registry.ini` in the install folder.
 std::unique_ptr<Registry> openRegistry(FileSystem& files, const FilePath& installFolder);
 

@@ -2,14 +2,6 @@
 
 #include "core/store.h"
 #include "core/writing.h"
-#include "ground/texture_sets.h"
-#include "night/night_texture_sets.h"
-#include "simulator/backups.h"
-#include "simulator/configs.h"
-#include "simulator/resource_folders.h"
-#include "sky/sky_texture_sets.h"
-#include "sky/sky_texture_sub_sets.h"
-#include "weather/wx_finders.h"
 
 namespace morvane {
 

@@ -1,6 +1,5 @@
 #include "core/store_records.h"
 
-#include "core/set_names.h"
 #include "core/store_schema.h"
 
 namespace morvane {
@@ -30,12 +29,8 @@ bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine
     }
 }
 
-QString nameWithKey(NameRule rule, std::int16_t key, const QString& name) {
-    return rule == NameRule::fitForFolder ? newSetName(key, name) : QString::number(key) + u'-' + name;
-}
-
-QString nameWithoutKey(NameRule rule, const QString& name) {
-    return rule == NameRule::fitForFolder ? name.left(longestSetName) : name;
+QString nameBehindKey(std::int16_t key, const QString& name) {
+    return QString::number(key) + u'-' + name;
 }
 
 std::int16_t readNewestKey(Store& store, const NewestKey& newestKey) {

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "core/failure_report.h"
 #include "core/keyed_collection.h"
 #include "core/row_set.h"
 #include "core/session.h"
-#include "core/set_collections.h"
 #include "core/store.h"
 
 #include <QDateTime>
@@ -39,10 +37,13 @@ struct NewestKey {
     QString field;
 };
 
-/// What a new row's name becomes beside getting its key put in front.
-enum class NameRule {
-    asGiven,
-    fitForFolder, ///< see newSetName
+/// The name of a new row: key, "-" and the name that it was given.
+QString nameBehindKey(std::int16_t key, const QString& name);
+
+/// What a new row's name becomes.
+struct NameRule {
+    QString (*withKey)(std::int16_t key, const QString& name) = nameBehindKey;
+    qsizetype longest = -1; ///< letters that the column takes until the key is known; below 0 all
 };
 
 /// What the data object of one table works with. Every record has a key and, but for the user never to see, a
@@ -55,7 +56,7 @@ struct RecordTable {
     std::int16_t Record::*key;
     QString Record::*name;
     RecordColumns<Record> columns; ///< in the order in which they are written, without the key
-    NameRule nameRule = NameRule::asGiven;
+    NameRule nameRule = {};
 };
 
 /// False when the store could not be opened. That was told then, so whoever only shows what it holds is
@@ -81,11 +82,6 @@ bool reloadCollection(Session& session, std::unique_ptr<Collection>& global,
 
 /// Runs the routine; a failure is told in a plain system box without title, as the oldest loaders do.
 bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine);
-
-/// The name of a new row: key, "-" and the name that it was given.
-QString nameWithKey(NameRule rule, std::int16_t key, const QString& name);
-/// What stands in its place until the key is known: cut so that the column takes it.
-QString nameWithoutKey(NameRule rule, const QString& name);
 
 /// Raises "Overflow" for a key beyond 16 bits.
 std::int16_t readNewestKey(Store& store, const NewestKey& newestKey);
@@ -151,7 +147,7 @@ void writeNewRow(Store& store, RowSet& row, const RecordTable<Record>& table, Re
     row.update();
     record.*table.key = readNewestKey(store, table.newestKey);
     if (table.nameColumn.isEmpty()) return;
-    record.*table.name = nameWithKey(table.nameRule, record.*table.key, record.*table.name);
+    record.*table.name = table.nameRule.withKey(record.*table.key, record.*table.name);
     row.setText(table.nameColumn, record.*table.name);
     row.update();
 }
@@ -162,7 +158,7 @@ template <class Record>
 void writeRecord(const Session& session, const RecordTable<Record>& table, Record& record) {
     Store& store = connectedStore(session);
     Record first = record, written = record;
-    if (record.IsNew) first.*table.name = nameWithoutKey(table.nameRule, record.*table.name);
+    if (record.IsNew) first.*table.name = (record.*table.name).left(table.nameRule.longest);
     StoreTransaction transaction(store);
     RowSet row(store, table.selectRow + QString::number(record.*table.key));
     if (record.IsNew) row.addNew();
@@ -184,24 +180,6 @@ void saveRecord(const Session& session, const RecordTable<Record>& table, Record
     const bool isNew = record.IsNew;
     writeRecord(session, table, record);
     if (isNew) collection.AddItem(record);
-}
-
-/// Writes every set of the collection back, the one of that name as installed and all others as not: at most
-/// one is at any time, the first where two rows were given one name. All rows or none; false after the one
-/// message of a failure.
-template <class Record>
-bool writeInstalledSet(Session& session, const RecordTable<Record>& table,
-                       const KeyedCollection<Record>& collection, const QString& name) {
-    return reportFailures(session.user, {}, [&] {
-        const auto installed = findTrimmedName(collection, name);
-        StoreTransaction transaction(connectedStore(session));
-        for (const auto& kept : collection) {
-            Record record = *kept;
-            record.Installed = kept == installed;
-            writeRecord(session, table, record);
-        }
-        transaction.commit();
-    });
 }
 
 } // namespace morvane

@@ -104,8 +104,8 @@ public:
     /// spells it.
     virtual QString browseForFolder(const QString& startFolder) = 0;
 
-    /// Shows a modal screen and returns when it is closed. What it shows and what was chosen stands in the
-    /// session (see session.h, ModalState).
+    /// Shows a modal screen and returns when it is closed. What it shows and what was chosen is a struct that
+    /// its room declares, in the session's state.
     virtual void showModal(Screen screen) = 0;
     virtual void showScreen(Screen screen) = 0;
     virtual void hideScreen(Screen screen) = 0;

@@ -1,13 +1,19 @@
 #include "ground/ground_generation.h"
 
 #include "core/failure_report.h"
+#include "core/flag_text.h"
 #include "core/numbers.h"
-#include "core/options.h"
-#include "ground/cloud_cover.h"
-#include "ground/colour_settings.h"
+#include "ground/ground_randomiser.h"
 #include "ground/ground_run_size.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
-#include "simulator/temp_bitmaps.h"
+#include "ground/texture_catalogue.h"
+#include "ground/texture_sets.h"
+#include "sets/catalogue_file.h"
+#include "sets/cloud_cover.h"
+#include "sets/colour_settings.h"
+#include "sets/slider_values.h"
+#include "sets/temp_bitmaps.h"
 
 #include <QElapsedTimer>
 #include <numeric>
@@ -19,13 +25,14 @@ namespace {
 const QString setNameFormat = u"MM-dd-yyyy HH-mm-ss"_s;
 
 // An activation hides the main window, from wherever it was started.
-const GenerationKind groundKind{u"Creating Ground Texture Sets"_s,
-                                u"Be aware that this may take 20 - 30 minutes per set dependant on your "_s,
-                                groundSubfolders,
-                                Screen::frm_Main,
-                                Screen::frm_MVTextures,
-                                &Session::RefreshGroundList,
-                                true};
+const GenerationKind groundKind{
+    u"Creating Ground Texture Sets"_s,
+    u"Be aware that this may take 20 - 30 minutes per set dependant on your "_s,
+    groundSubfolders,
+    Screen::frm_Main,
+    Screen::frm_MVTextures,
+    [](Session& session) -> bool& { return session.state<GroundSelection>().RefreshGroundList; },
+    true};
 
 QString durationReport(int minutes, int total) {
     if (total == 0) throw Error(ErrorCode::divisionByZero);
@@ -57,11 +64,11 @@ void GroundGeneration::createTextureSets(bool fromMain) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
-        session_.modal.setCountsConfirmed = false;
+        session_.state<GroundSetCounts>().setCountsConfirmed = false;
         session_.user.showModal(Screen::frm_TsRequired);
-        if (!session_.modal.setCountsConfirmed || !job.begin()) return;
+        if (!session_.state<GroundSetCounts>().setCountsConfirmed || !job.begin()) return;
         const QTime start = session_.clock.localTime().time();
-        const auto& counts = session_.modal.setCounts;
+        const auto& counts = session_.state<GroundSetCounts>().setCounts;
         const int total = std::accumulate(counts.begin(), counts.end(), 0);
         if (total > 0 && !session_.user.allowsRun(groundRunSize(session_, total))) return;
         if (createAll(job, total, fromMain)) {
@@ -77,7 +84,8 @@ void GroundGeneration::createTextureSets(bool fromMain) {
 bool GroundGeneration::createAll(const Job& job, int total, bool fromMain) {
     int setsDone = 0;
     for (int cloudNumber = 1; cloudNumber <= cloudCoverCount; ++cloudNumber) {
-        const int count = session_.modal.setCounts[static_cast<std::size_t>(cloudNumber - 1)];
+        const int count =
+            session_.state<GroundSetCounts>().setCounts[static_cast<std::size_t>(cloudNumber - 1)];
         for (int i = 0; i < count; ++i) {
             const bool isStored = createRandomSet(job, cloudNumber, {++setsDone, total}, fromMain);
             if (isStored && !job.isCancelled()) continue;
@@ -90,14 +98,14 @@ bool GroundGeneration::createAll(const Job& job, int total, bool fromMain) {
 }
 
 void GroundGeneration::dropUnfinishedSet() {
-    if (!session_.ground.SelectedGroundSet.isEmpty())
-        removeSetFiles(session_.ground.SelectedGroundSet, false);
+    if (!session_.state<GroundSelection>().SelectedGroundSet.isEmpty())
+        removeSetFiles(session_.state<GroundSelection>().SelectedGroundSet, false);
     cleanTempBitmaps(session_);
 }
 
 bool GroundGeneration::createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain) {
     // A run that fails before its set has a row must not leave an earlier set's name behind for the cancel.
-    session_.ground.SelectedGroundSet.clear();
+    session_.state<GroundSelection>().SelectedGroundSet.clear();
     SliderValues sliders{};
     getRandomGroundValues(session_, cloudNumber, sliders);
     return createSet(job, cloudNumber, sliders, counters, fromMain);
@@ -108,9 +116,9 @@ bool GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderVa
                                  Counters counters, bool fromMain) {
     bool isStored = false;
     reportFailures(session_.user, {}, [&] {
-        session_.ground.colours = effectiveColours(sliders);
+        session_.state<GroundSelection>().colours = effectiveColours(sliders);
         clsTextureSet record;
-        record.ColorSettings = colourSettingsText(session_.ground.colours);
+        record.ColorSettings = colourSettingsText(session_.state<GroundSelection>().colours);
         record.TextureSet = session_.clock.localTime().toString(setNameFormat);
         record.Actvated = flagText(true);
         record.Description = u"Morvane autogenerated texture set"_s;
@@ -119,13 +127,13 @@ bool GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderVa
         record.IsNew = true;
         isStored = loadedGroundSets(session_).UpdateTextureSet(record);
         if (!isStored) return;
-        session_.ground.SelectedGroundSet = record.TextureSet;
+        session_.state<GroundSelection>().SelectedGroundSet = record.TextureSet;
         QElapsedTimer timer;
         timer.start();
         makeFiles(job, counters, fromMain ? Screen::frm_Main : Screen::frm_MVTextures);
         if (job.isCancelled()) return;
-        session_.groundSetSeconds = static_cast<double>(timer.elapsed()) / 1000;
-        session_.ground.madeSet = record.TextureSet;
+        session_.state<GroundPace>().groundSetSeconds = static_cast<double>(timer.elapsed()) / 1000;
+        session_.state<GroundSelection>().madeSet = record.TextureSet;
     });
     return isStored;
 }
@@ -137,13 +145,14 @@ void GroundGeneration::reportDuration(const QTime& start, const QTime& end, int 
 
 void GroundGeneration::endRun(bool fromMain) {
     const Screen screen = fromMain ? Screen::frm_Main : Screen::frm_MVTextures;
-    if (!fromMain) session_.RefreshGroundList = true;
+    if (!fromMain) session_.state<GroundSelection>().RefreshGroundList = true;
     session_.user.refreshScreen(screen);
     session_.user.showScreen(screen);
 }
 
 SetsInHand GroundGeneration::inHand() {
-    return {session_.ground.SelectedGroundSet, session_.ground.colours, session_.ground.selectedRows};
+    return {session_.state<GroundSelection>().SelectedGroundSet, session_.state<GroundSelection>().colours,
+            session_.state<GroundSelection>().selectedRows};
 }
 
 bool GroundGeneration::refresh() {
@@ -160,12 +169,12 @@ bool GroundGeneration::storeActivation(const QString& name, bool activated) {
     clsTextureSet changed = *findGroundSet(session_, name);
     changed.Actvated = flagText(activated);
     changed.IsNew = false;
-    return session_.gTextureSets->UpdateTextureSet(changed);
+    return session_.rows<clsTextureSets>()->UpdateTextureSet(changed);
 }
 
 bool GroundGeneration::removeRecord(const QString& name) {
     const std::int16_t key = findGroundSet(session_, name)->TsID;
-    return session_.gTextureSets->RemoveItem(QString::number(key), key);
+    return session_.rows<clsTextureSets>()->RemoveItem(QString::number(key), key);
 }
 
 FilePath GroundGeneration::folderOf(const QString& name) {

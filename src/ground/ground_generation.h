@@ -1,9 +1,19 @@
 #pragma once
 
-#include "ground/ground_randomiser.h"
-#include "ground/set_generation.h"
+#include "ground/ground_selection.h"
+#include "sets/catalogue_file.h"
+#include "sets/set_generation.h"
+#include "sets/slider_values.h"
+
+#include <array>
 
 namespace morvane {
+
+/// frm_TsRequired: sets wanted for the cloud covers 1 to 5, and whether OK was pressed.
+struct GroundSetCounts {
+    std::array<std::int16_t, 5> setCounts{};
+    bool setCountsConfirmed = false;
+};
 
 /// Makes, rebuilds and removes ground sets. A set's row is written first and its files after it, set by set;
 /// a cancel ends the whole run and takes the unfinished set with it.
@@ -14,7 +24,8 @@ public:
     /// Asks for the quantities (frm_TsRequired) and makes the sets, all of one cloud cover before the next.
     /// `fromMain` tells which screen started the run and comes back at its end.
     void createTextureSets(bool fromMain);
-    /// Rebuilds the files of the set in hand (session.ground), or of several after frm_MultiDelete.
+    /// Rebuilds the files of the set in hand (session.state<GroundSelection>()), or of several after
+    /// frm_MultiDelete.
     void activateTextureSet() { activateInHand(); }
     /// Deletes the set in hand or several; with `deactivateMode` only the files go and the colours stay.
     void deleteTextureSet(bool deactivateMode) { deleteInHand(deactivateMode); }

@@ -1,12 +1,11 @@
 #include "ground/ground_installation.h"
 
-#include "ground/cloud_cover.h"
 #include "ground/ground_generation.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/tropical_files.h"
-#include "simulator/set_choice.h"
-#include "sky/sky_installation.h"
-#include "sky/sky_sets.h"
+#include "sets/cloud_cover.h"
+#include "sets/options_in_force.h"
 
 namespace morvane {
 
@@ -21,41 +20,58 @@ const InstallationKind groundKind{
     "set to be installed at any one time.  Please check your selection and try again!."_s,
     u"Would you like Morvane to install a matching Sky Texture set?"_s,
     Screen::frm_MVTextures,
-    &Session::RefreshGroundList,
+    [](Session& session) -> bool& { return session.state<GroundSelection>().RefreshGroundList; },
     2};
 
+class GroundKindOfWeather : public WeatherKind {
+    std::int32_t count(Session& session) const override { return loadedGroundSets(session).Count(); }
+    std::vector<ActivatedSet> activated(Session& session) const override {
+        return activatedSets(loadedGroundSets(session));
+    }
+    bool installInside(Session& session, Job& job, const QString& name) const override {
+        session.state<GroundSelection>().SelectedGroundSet = name;
+        return GroundInstallation(session).installInside(job);
+    }
+};
+
 } // namespace
+
+const WeatherKind& groundKindOfWeather() {
+    static const GroundKindOfWeather kind;
+    return kind;
+}
 
 GroundInstallation::GroundInstallation(Session& session) : SetInstallation(session, groundKind) {}
 
 bool GroundInstallation::installSelectedSet() {
     if (!refreshGroundSets(session_)) return false;
-    return session_.ground.SelectedGroundSet == defaultSet ? installDefaultSet() : installGeneratedSet();
+    return session_.state<GroundSelection>().SelectedGroundSet == defaultSet ? installDefaultSet()
+                                                                             : installGeneratedSet();
 }
 
 bool GroundInstallation::installMatch(Job& job) {
-    const clsSkyTextureSets& skies = loadedSkySets(session_);
+    const WeatherKind& skies = *session_.state<WeatherKinds>().sky;
     // Without any sky set no sky is touched; a sky that asks for its ground has no such way out. Wanted.
-    if (skies.Count() == 0) return true;
-    const QStringList names = namesForCover(activatedSets(skies), session_.ground.SelectedGroundCover);
+    if (skies.count(session_) == 0) return true;
+    const QStringList names =
+        namesForCover(skies.activated(session_), session_.state<GroundSelection>().SelectedGroundCover);
     // This draw reaches the last of the skies; a sky's draw of its ground stops short of the last. Wanted.
-    session_.sky.SelectedSkySet = drawName(session_, names, names.size());
-    return SkyInstallation(session_).installInside(job);
+    return skies.installInside(session_, job, drawName(session_, names, names.size()));
 }
 
 std::vector<FileCopy> GroundInstallation::copyListOfSet() {
-    const FilePath setFolder = groundSetFolder(session_, session_.ground.SelectedGroundSet);
+    const FilePath setFolder = groundSetFolder(session_, session_.state<GroundSelection>().SelectedGroundSet);
     std::vector<FileCopy> copies;
     addFolderFiles(session_, setFolder / u"Texture", u"*.bmp"_s, worldTexture(), copies);
     // Annotation files are no part of a set: every install brings the same ones.
     addFolderFiles(session_, session_.AppPath / u"GENERIC WORLD", u"*.agn"_s, worldTexture(), copies);
     if (session_.files.isFolder(utEurLcTexture()))
         addFolderFiles(session_, setFolder / u"UTEurLC", u"*.bmp"_s, utEurLcTexture(), copies);
-    if (session_.IsDutch) {
+    if (session_.state<OptionsInForce>().IsDutch) {
         addFolderFiles(session_, setFolder / u"Dutch", u"*.bmp"_s, worldTexture(), copies);
         addFolderFiles(session_, session_.AppPath / u"DUTCH", u"*.agn"_s, worldTexture(), copies);
     }
-    if (session_.IsTropical) addTropicalFiles(copies);
+    if (session_.state<OptionsInForce>().IsTropical) addTropicalFiles(copies);
     return copies;
 }
 
@@ -68,21 +84,22 @@ std::vector<FileCopy> GroundInstallation::copyListOfDefault() {
     // A generated set asks for the add-on's texture folder, "Default" only for the folder above it. Wanted.
     if (session_.files.isFolder(session_.FSPath / u"Scenery\\UTEurLC"))
         addFolderFiles(session_, app / u"UTIND", u"*.bmp"_s, utEurLcTexture(), copies);
-    if (session_.IsDutch) {
+    if (session_.state<OptionsInForce>().IsDutch) {
         addFolderFiles(session_, app / u"DUTCH", u"*.bmp"_s, worldTexture(), copies);
         addFolderFiles(session_, app / u"DUTCH", u"*.agn"_s, worldTexture(), copies);
     }
-    if (session_.IsTropical) addTropicalFiles(copies);
+    if (session_.state<OptionsInForce>().IsTropical) addTropicalFiles(copies);
     return copies;
 }
 
 void GroundInstallation::addTropicalFiles(std::vector<FileCopy>& copies) {
-    for (const FilePath& file : tropicalFiles(session_, TropicalForm::b, session_.ground.SelectedGroundSet))
+    for (const FilePath& file :
+         tropicalFiles(session_, TropicalForm::b, session_.state<GroundSelection>().SelectedGroundSet))
         copies.push_back({file, worldTexture().child(tropicalName(file.fileName()))});
 }
 
 bool GroundInstallation::installGeneratedSet() {
-    const QString name = session_.ground.SelectedGroundSet;
+    const QString name = session_.state<GroundSelection>().SelectedGroundSet;
     const std::vector<FileCopy> copies = copyListOfSet();
     // The store says "installed" before the first file is copied, also when the copying then fails.
     if (!loadedGroundSets(session_).markInstalled(name)) return false;
@@ -100,7 +117,7 @@ bool GroundInstallation::installDefaultSet() {
 
     SimulatorCopier copier(session_);
     prepare(copier, copies, &nominal);
-    if (!session_.InhibitCustomSplash) copier.copy(splashCopy(nominal));
+    if (!session_.state<OptionsInForce>().InhibitCustomSplash) copier.copy(splashCopy(nominal));
     copyAll(copier, copies);
     // Once more, whatever the option says: "Default" always shows the nominal splash. Wanted.
     copier.copy(splashCopy(nominal));

@@ -1,19 +1,23 @@
 #pragma once
 
-#include "simulator/set_installation.h"
+#include "ground/ground_selection.h"
+#include "sets/set_installation.h"
+#include "sets/weather_kinds.h"
 
 namespace morvane {
 
-/// The install of the ground set in hand (session.ground.SelectedGroundSet).
+/// The install of the ground set in hand (session.state<GroundSelection>().SelectedGroundSet).
 class GroundInstallation : public SetInstallation {
 public:
     explicit GroundInstallation(Session& session);
 
     /// As SetInstallation::install.
-    void installTextureSet(bool automatic) { install(automatic); }
+    bool installTextureSet(bool automatic) { return install(automatic); }
 
 private:
-    qsizetype selectedRowCount() const override { return session_.ground.selectedRows.size(); }
+    qsizetype selectedRowCount() const override {
+        return session_.state<GroundSelection>().selectedRows.size();
+    }
     bool installMatch(Job& job) override;
     bool installSelectedSet() override;
 
@@ -26,5 +30,8 @@ private:
     FilePath worldTexture() const { return session_.FSPath / u"Scenery\\WORLD\\Texture"; }
     FilePath utEurLcTexture() const { return session_.FSPath / u"Scenery\\UTEurLC\\Texture"; }
 };
+
+/// What a sky set asks of the ground's.
+const WeatherKind& groundKindOfWeather();
 
 } // namespace morvane

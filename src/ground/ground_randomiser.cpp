@@ -1,7 +1,5 @@
 #include "ground/ground_randomiser.h"
 
-#include "ground/no_repeat.h"
-
 namespace morvane {
 
 namespace {
@@ -24,11 +22,6 @@ constexpr Range ranges[] = {
 };
 
 } // namespace
-
-void drawOne(Session& session, int low, int high, int& field) {
-    clsNoRepeat draws(session.user, session.random);
-    if (const auto numbers = draws.Non_Repeating_Numbers(1, high, low)) field = numbers->front();
-}
 
 void getRandomGroundValues(Session& session, int cloudNumber, SliderValues& values) {
     values.fill(0);

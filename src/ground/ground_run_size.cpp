@@ -4,9 +4,10 @@
 #include "core/numbers.h"
 #include "core/session.h"
 #include "ground/texture_catalogue.h"
-#include "ground/texture_image.h"
 #include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
+#include "sets/catalogue_file.h"
+#include "sets/texture_image.h"
 
 #include <QElapsedTimer>
 #include <QSet>
@@ -115,7 +116,9 @@ RunSize groundRunSize(Session& session, int sets) {
     run.bytes = static_cast<std::int64_t>(sets * file.textureShare * static_cast<double>(stock.all) +
                                           file.bitmapShare * static_cast<double>(stock.withoutBitmap));
     const double measured = file.seconds * static_cast<double>(catalogue.size());
-    run.seconds = sets * (session.groundSetSeconds > 0 ? session.groundSetSeconds : measured);
+    run.seconds = sets * (session.state<GroundPace>().groundSetSeconds > 0
+                              ? session.state<GroundPace>().groundSetSeconds
+                              : measured);
     return run;
 }
 

@@ -1,10 +1,10 @@
 #include "ground/ground_selection.h"
 
 #include "core/failure_report.h"
-#include "core/options.h"
-#include "core/set_collections.h"
-#include "ground/colour_settings.h"
+#include "core/flag_text.h"
 #include "ground/ground_sets.h"
+#include "sets/colour_settings.h"
+#include "sets/set_collections.h"
 
 namespace morvane {
 
@@ -26,16 +26,17 @@ void takeInHand(GroundSelection& selection, const clsTextureSet& set) {
 bool loadGroundSelection(Session& session, const QString& listKey) {
     return reportFailures(session.user, {}, [&] {
         const auto record = findListKey(loadedGroundSets(session), listKey);
-        takeInHand(session.ground, *record);
-        session.ground.colours = parseColourSettings(record->ColorSettings, session.DecimalSep);
+        takeInHand(session.state<GroundSelection>(), *record);
+        session.state<GroundSelection>().colours =
+            parseColourSettings(record->ColorSettings, session.DecimalSep);
     });
 }
 
 bool clickGroundRow(Session& session, const QString& name) {
     const auto record = findGroundSet(session, name);
     if (!record) return false;
-    takeInHand(session.ground, *record);
-    session.ground.selectedRows = QStringList{record->TextureSet};
+    takeInHand(session.state<GroundSelection>(), *record);
+    session.state<GroundSelection>().selectedRows = QStringList{record->TextureSet};
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "ground/texture_sets.h"
+#include "sets/set_choice.h"
 
 namespace morvane {
 
@@ -15,5 +16,8 @@ bool refreshGroundSets(Session& session);
 
 /// The record of the set of that name, both trimmed; nothing when there is none.
 std::shared_ptr<const clsTextureSet> findGroundSet(Session& session, const QString& name);
+
+/// Those whose activation is exactly "True", in the order of the collection.
+std::vector<ActivatedSet> activatedSets(const clsTextureSets& sets);
 
 } // namespace morvane

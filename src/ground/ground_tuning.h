@@ -1,8 +1,7 @@
 #pragma once
 
-#include "ground/ground_randomiser.h"
-#include "ground/sample_textures.h"
-#include "ground/texture_sample.h"
+#include "sets/slider_values.h"
+#include "sets/texture_sample.h"
 
 #include <cstdint>
 

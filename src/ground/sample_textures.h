@@ -1,15 +1,15 @@
 #pragma once
 
-#include "core/session.h"
-
-#include <vector>
+#include "core/file_path.h"
+#include "core/literals.h"
+#include "sets/sample_choice.h"
 
 namespace morvane {
 
-/// An entry of the sample dialog: what is stored of the choice and what the user reads.
-struct SampleChoice {
-    QString key;
-    QString caption;
+/// frm_SelectTexture: the keys of the choice, and whether OK was pressed.
+struct GroundSampleChoice {
+    QString selectedTextureType, selectedSeason;
+    bool sampleConfirmed = false;
 };
 
 /// The key behind the sample that a page shows before the user chose one. The dialog does not offer it.

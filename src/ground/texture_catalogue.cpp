@@ -1,6 +1,6 @@
 #include "ground/texture_catalogue.h"
 
-#include "simulator/resource_folders.h"
+#include "sets/resource_folders.h"
 
 #include <algorithm>
 
@@ -30,8 +30,8 @@ std::vector<CatalogueFile> TextureCatalogue::popTextureList(int seasonCount, int
 
 TextureCatalogue::Folders TextureCatalogue::foldersOf(const CatalogueCategory& category, bool forSet,
                                                       const QString& setName) {
-    if (!session_.gResources) clsResourceFolders::reload(session_);
-    for (const auto& row : *session_.gResources) {
+    if (!session_.rows<clsResourceFolders>()) clsResourceFolders::reload(session_);
+    for (const auto& row : *session_.rows<clsResourceFolders>()) {
         if (row->ResourceName != QStringView(category.resourceName)) continue;
         const FilePath set = session_.AppPath / u"Texture Sets";
         return {session_.AppPath / u"Resources" / row->ResourceMVFolder,

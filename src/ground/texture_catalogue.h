@@ -1,20 +1,13 @@
 #pragma once
 
 #include "core/session.h"
+#include "sets/catalogue_file.h"
 
 #include <QHash>
 #include <array>
 #include <vector>
 
 namespace morvane {
-
-/// One base file of a set: where it is, where its intermediate bitmap goes and where the finished file.
-struct CatalogueFile {
-    QString fileName;
-    FilePath sourceFolder;
-    FilePath targetFolder;
-    FilePath tempFolder;
-};
 
 /// What the catalogue walks. The numbers of the categories are 1 to 15, index 0 to 14; 15 is the upgrade's.
 struct CatalogueFlags {

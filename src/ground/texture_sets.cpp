@@ -1,6 +1,8 @@
 #include "ground/texture_sets.h"
 
 #include "core/store_records.h"
+#include "sets/set_collections.h"
+#include "sets/set_names.h"
 
 namespace morvane {
 
@@ -19,13 +21,13 @@ const RecordTable<clsTextureSet> table = {
      {u"TEXTURE_SET"_s, &clsTextureSet::TextureSet},
      {u"DUTCH"_s, &clsTextureSet::IsDutch},
      {u"INSTALLED"_s, &clsTextureSet::Installed}},
-    NameRule::fitForFolder,
+    folderNames,
 };
 
 } // namespace
 
 bool clsTextureSets::reload(Session& session) {
-    return reloadCollection(session, session.gTextureSets, &clsTextureSets::getTextureSets);
+    return reloadCollection(session, session.rows<clsTextureSets>(), &clsTextureSets::getTextureSets);
 }
 
 bool clsTextureSets::getTextureSets() {
@@ -47,7 +49,8 @@ bool clsTextureSets::markInstalled(const QString& name) {
 
 bool clsTextureSetData::getTextureSetData() {
     return reportFailures(session_.user, {}, [&] {
-        loadRecords(session_, u"SELECT * FROM TEXTURE_SETS"_s, table, required(session_.gTextureSets));
+        loadRecords(session_, u"SELECT * FROM TEXTURE_SETS"_s, table,
+                    required(session_.rows<clsTextureSets>()));
     });
 }
 
@@ -58,8 +61,9 @@ bool clsTextureSetData::deleteTexture(std::int16_t id) {
 }
 
 bool clsTextureSetData::Save(clsTextureSet& record) {
-    return reportFailures(session_.user, {},
-                          [&] { saveRecord(session_, table, record, required(session_.gTextureSets)); });
+    return reportFailures(session_.user, {}, [&] {
+        saveRecord(session_, table, record, required(session_.rows<clsTextureSets>()));
+    });
 }
 
 } // namespace morvane

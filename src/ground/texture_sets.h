@@ -31,7 +31,7 @@ inline const QString& nameOf(const clsTextureSet& record) {
 class clsTextureSets : public KeyedCollection<clsTextureSet> {
 public:
     explicit clsTextureSets(Session& session) : session_(session) {}
-    /// A fresh, loaded collection in `gTextureSets`.
+    /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
     const KeyedCollection<clsTextureSet>& GetTextureSet() const { return *this; }

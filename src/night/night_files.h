@@ -1,6 +1,9 @@
 #pragma once
 
-#include "ground/texture_catalogue.h"
+#include "core/session.h"
+#include "sets/catalogue_file.h"
+
+#include <vector>
 
 namespace morvane {
 

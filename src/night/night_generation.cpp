@@ -1,8 +1,11 @@
 #include "night/night_generation.h"
 
-#include "core/options.h"
+#include "core/flag_text.h"
 #include "night/night_files.h"
+#include "night/night_selection.h"
 #include "night/night_sets.h"
+#include "night/night_texture_sets.h"
+#include "sets/catalogue_file.h"
 
 namespace morvane {
 
@@ -11,7 +14,8 @@ namespace {
 const GenerationKind nightKind{
     u"Creating Night Texture Sets"_s,
     u"Be aware that this may take 3 - 5 minutes per set dependant on your "_s, nightSubfolders,
-    Screen::frm_NightTextures, Screen::frm_NightTextures, &Session::RefreshNightList,
+    Screen::frm_NightTextures, Screen::frm_NightTextures,
+    [](Session& session) -> bool& { return session.state<NightSelection>().RefreshNightList; },
     // Unlike on the ground the installed set may go when it stands alone, and not among several. Wanted.
     false};
 
@@ -20,7 +24,8 @@ const GenerationKind nightKind{
 NightGeneration::NightGeneration(Session& session) : SetGeneration(session, nightKind) {}
 
 SetsInHand NightGeneration::inHand() {
-    return {session_.night.SelectedNightSet, session_.night.colours, session_.night.selectedRows};
+    return {session_.state<NightSelection>().SelectedNightSet, session_.state<NightSelection>().colours,
+            session_.state<NightSelection>().selectedRows};
 }
 
 bool NightGeneration::refresh() {
@@ -37,12 +42,12 @@ bool NightGeneration::storeActivation(const QString& name, bool activated) {
     clsNightTextureSet changed = *findNightSet(session_, name);
     changed.Actvated = flagText(activated);
     changed.IsNew = false;
-    return session_.gNightTextureSets->UpdateNightTextureSet(changed);
+    return session_.rows<clsNightTextureSets>()->UpdateNightTextureSet(changed);
 }
 
 bool NightGeneration::removeRecord(const QString& name) {
     const std::int16_t key = findNightSet(session_, name)->NtsID;
-    return session_.gNightTextureSets->RemoveItem(QString::number(key), key);
+    return session_.rows<clsNightTextureSets>()->RemoveItem(QString::number(key), key);
 }
 
 FilePath NightGeneration::folderOf(const QString& name) {

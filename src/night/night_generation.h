@@ -1,6 +1,8 @@
 #pragma once
 
-#include "ground/set_generation.h"
+#include "night/night_selection.h"
+#include "sets/catalogue_file.h"
+#include "sets/set_generation.h"
 
 namespace morvane {
 
@@ -9,7 +11,8 @@ class NightGeneration : public SetGeneration {
 public:
     explicit NightGeneration(Session& session);
 
-    /// Makes the files of the set in hand (session.night), or of several after frm_MultiDelete.
+    /// Makes the files of the set in hand (session.state<NightSelection>()), or of several after
+    /// frm_MultiDelete.
     void activateNightTextureSet() { activateInHand(); }
     /// Deletes the set in hand or several; with `deactivateMode` only the files go and the colours stay. The
     /// installed set may go when it stands alone.

@@ -1,6 +1,8 @@
 #include "night/night_installation.h"
 
+#include "night/night_selection.h"
 #include "night/night_sets.h"
+#include "sets/options_in_force.h"
 
 namespace morvane {
 
@@ -13,7 +15,7 @@ const InstallationKind nightKind{
     "set to be installed at any one time.  Please check your selection and try again!."_s,
     {},
     Screen::frm_NightTextures,
-    &Session::RefreshNightList,
+    [](Session& session) -> bool& { return session.state<NightSelection>().RefreshNightList; },
     2};
 
 FilePath worldTexture(const Session& session) {
@@ -25,11 +27,11 @@ FilePath worldTexture(const Session& session) {
 NightInstallation::NightInstallation(Session& session) : SetInstallation(session, nightKind) {}
 
 std::vector<FileCopy> NightInstallation::copyListOfSet() {
-    const FilePath set = nightSetFolder(session_, session_.night.SelectedNightSet);
+    const FilePath set = nightSetFolder(session_, session_.state<NightSelection>().SelectedNightSet);
     const FilePath target = worldTexture(session_);
     std::vector<FileCopy> copies;
     addFolderFiles(session_, set / u"Texture", u"*.bmp"_s, target, copies);
-    if (!session_.IsDutch) return copies;
+    if (!session_.state<OptionsInForce>().IsDutch) return copies;
     addFolderFiles(session_, set / u"Dutch", u"*.bmp"_s, target, copies);
     // The Dutch annotation files are those of the day, and the only ones that a night brings. Wanted.
     addFolderFiles(session_, session_.AppPath / u"DUTCH", u"*.agn"_s, target, copies);
@@ -41,7 +43,7 @@ std::vector<FileCopy> NightInstallation::copyListOfDefault() {
     const FilePath target = worldTexture(session_);
     std::vector<FileCopy> copies;
     addFolderFiles(session_, session_.AppPath / u"GENERIC WORLD NIGHT", u"*.*"_s, target, copies);
-    if (session_.IsDutch)
+    if (session_.state<OptionsInForce>().IsDutch)
         addFolderFiles(session_, session_.AppPath / u"DUTCH NIGHT", u"*.*"_s, target, copies);
     return copies;
 }
@@ -49,7 +51,7 @@ std::vector<FileCopy> NightInstallation::copyListOfDefault() {
 /// The message comes before the record here; the record still comes before the first file.
 bool NightInstallation::installSelectedSet() {
     if (!refreshNightSets(session_)) return false;
-    const QString name = session_.night.SelectedNightSet;
+    const QString name = session_.state<NightSelection>().SelectedNightSet;
     const std::vector<FileCopy> copies = name == u"Default" ? copyListOfDefault() : copyListOfSet();
     showProgress();
     SimulatorCopier copier(session_);

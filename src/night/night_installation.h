@@ -1,11 +1,12 @@
 #pragma once
 
-#include "simulator/set_installation.h"
+#include "night/night_selection.h"
+#include "sets/set_installation.h"
 
 namespace morvane {
 
-/// The install of the night set in hand (session.night.SelectedNightSet). The weather chooses no night, so
-/// there is no automatic install, nothing is asked and no splash is changed.
+/// The install of the night set in hand (session.state<NightSelection>().SelectedNightSet). The weather
+/// chooses no night, so there is no automatic install, nothing is asked and no splash is changed.
 class NightInstallation : public SetInstallation {
 public:
     explicit NightInstallation(Session& session);
@@ -14,7 +15,9 @@ public:
     void installNightTextureSet() { install(false); }
 
 private:
-    qsizetype selectedRowCount() const override { return session_.night.selectedRows.size(); }
+    qsizetype selectedRowCount() const override {
+        return session_.state<NightSelection>().selectedRows.size();
+    }
     bool installSelectedSet() override;
     std::vector<FileCopy> copyListOfSet();
     std::vector<FileCopy> copyListOfDefault();

@@ -1,8 +1,16 @@
 #pragma once
 
-#include "ground/sample_textures.h"
+#include "core/file_path.h"
+#include "core/literals.h"
+#include "sets/sample_choice.h"
 
 namespace morvane {
+
+/// frm_SelectNightTexture: the key of the choice, and whether OK was pressed.
+struct NightSampleChoice {
+    QString selectedNightTexture;
+    bool sampleConfirmed = false;
+};
 
 /// The samples of the night in the dialog's order. They have no seasons.
 const std::vector<SampleChoice>& nightSamples();

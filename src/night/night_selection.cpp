@@ -1,9 +1,9 @@
 #include "night/night_selection.h"
 
 #include "core/failure_report.h"
-#include "core/set_collections.h"
-#include "ground/colour_settings.h"
 #include "night/night_sets.h"
+#include "sets/colour_settings.h"
+#include "sets/set_collections.h"
 
 namespace morvane {
 
@@ -20,16 +20,17 @@ void takeInHand(NightSelection& selection, const clsNightTextureSet& set) {
 bool loadNightSelection(Session& session, const QString& listKey) {
     return reportFailures(session.user, {}, [&] {
         const auto record = findListKey(loadedNightSets(session), listKey);
-        takeInHand(session.night, *record);
-        session.night.colours = parseColourSettings(record->ColorSettings, session.DecimalSep);
+        takeInHand(session.state<NightSelection>(), *record);
+        session.state<NightSelection>().colours =
+            parseColourSettings(record->ColorSettings, session.DecimalSep);
     });
 }
 
 bool clickNightRow(Session& session, const QString& name) {
     const auto record = findNightSet(session, name);
     if (!record) return false;
-    takeInHand(session.night, *record);
-    session.night.selectedRows = QStringList{record->TextureSet};
+    takeInHand(session.state<NightSelection>(), *record);
+    session.state<NightSelection>().selectedRows = QStringList{record->TextureSet};
     return true;
 }
 

@@ -1,8 +1,22 @@
 #pragma once
 
 #include "core/session.h"
+#include "imaging/colour_values.h"
+
+#include <QStringList>
 
 namespace morvane {
+
+/// The night set in hand, as that of the ground.
+struct NightSelection {
+    bool RefreshNightList = false; ///< the list is to be filled anew when it is shown
+    QString SelectedNightSet;
+    QString SelectedNightDescription;
+    ColourValues colours;
+    /// Names of all rows that are selected in the list; the row in hand alone when it was clicked alone.
+    QStringList selectedRows;
+    QString madeSet; ///< made just now: the list selects it, as if it had been clicked, and forgets it
+};
 
 /// Takes the set behind a list key ("Key:" and the NtsID) into the session's selection: name, description,
 /// colours. A screen repaints its sample afterwards. False after a failure was told; a set whose colours are

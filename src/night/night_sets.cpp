@@ -1,11 +1,11 @@
 #include "night/night_sets.h"
 
-#include "core/set_collections.h"
+#include "sets/set_collections.h"
 
 namespace morvane {
 
 clsNightTextureSets& loadedNightSets(Session& session) {
-    return loadedCollection(session, session.gNightTextureSets);
+    return loadedCollection(session, session.rows<clsNightTextureSets>());
 }
 
 bool refreshNightSets(Session& session) {

@@ -1,6 +1,8 @@
 #include "night/night_texture_sets.h"
 
 #include "core/store_records.h"
+#include "sets/set_collections.h"
+#include "sets/set_names.h"
 
 namespace morvane {
 
@@ -17,13 +19,14 @@ const RecordTable<clsNightTextureSet> table = {
      {u"DESCRIPTION"_s, &clsNightTextureSet::Description},
      {u"TEXTURE_SET"_s, &clsNightTextureSet::TextureSet},
      {u"INSTALLED"_s, &clsNightTextureSet::Installed}},
-    NameRule::fitForFolder,
+    folderNames,
 };
 
 } // namespace
 
 bool clsNightTextureSets::reload(Session& session) {
-    return reloadCollection(session, session.gNightTextureSets, &clsNightTextureSets::getNightTextureSets);
+    return reloadCollection(session, session.rows<clsNightTextureSets>(),
+                            &clsNightTextureSets::getNightTextureSets);
 }
 
 bool clsNightTextureSets::getNightTextureSets() {
@@ -46,7 +49,7 @@ bool clsNightTextureSets::markInstalled(const QString& name) {
 bool clsNightTextureSetData::getNightTextureSetData() {
     return reportFailures(session_.user, {}, [&] {
         loadRecords(session_, u"SELECT * FROM NIGHT_TEXTURE_SETS"_s, table,
-                    required(session_.gNightTextureSets));
+                    required(session_.rows<clsNightTextureSets>()));
     });
 }
 
@@ -58,8 +61,9 @@ bool clsNightTextureSetData::deleteNightTexture(std::int16_t id) {
 }
 
 bool clsNightTextureSetData::Save(clsNightTextureSet& record) {
-    return reportFailures(session_.user, {},
-                          [&] { saveRecord(session_, table, record, required(session_.gNightTextureSets)); });
+    return reportFailures(session_.user, {}, [&] {
+        saveRecord(session_, table, record, required(session_.rows<clsNightTextureSets>()));
+    });
 }
 
 } // namespace morvane

@@ -30,7 +30,7 @@ inline const QString& nameOf(const clsNightTextureSet& record) {
 class clsNightTextureSets : public KeyedCollection<clsNightTextureSet> {
 public:
     explicit clsNightTextureSets(Session& session) : session_(session) {}
-    /// A fresh, loaded collection in `gNightTextureSets`.
+    /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
     const KeyedCollection<clsNightTextureSet>& GetNightTextureSet() const { return *this; }

@@ -1,13 +1,13 @@
 #include "night/night_tuning.h"
 
 #include "core/failure_report.h"
-#include "core/favourite_name.h"
+#include "core/flag_text.h"
 #include "core/numbers.h"
-#include "core/options.h"
-#include "ground/colour_settings.h"
 #include "night/night_samples.h"
 #include "night/night_selection.h"
 #include "night/night_sets.h"
+#include "sets/colour_settings.h"
+#include "sets/favourite_name.h"
 
 namespace morvane {
 
@@ -38,43 +38,45 @@ void getRandomNightValues(Session& session, SliderValues& values) {
         drawOne(session, ranges[field].low, ranges[field].high, values[field]);
 }
 
-NightTuning::NightTuning(Session& session) : session_(session), colourise_(session, session.night.colours) {}
+NightTuning::NightTuning(Session& session)
+    : session_(session), colourise_(session, session.state<NightSelection>().colours) {}
 
 bool NightTuning::openDefaultSample() {
-    session_.modal.selectedNightTexture = firstNightSample;
+    session_.state<NightSampleChoice>().selectedNightTexture = firstNightSample;
     return colourise_.openTexImage(nightSampleTexture(session_.AppPath, firstNightSample));
 }
 
 bool NightTuning::openSample() {
-    ModalState& modal = session_.modal;
-    modal.sampleConfirmed = false;
+    NightSampleChoice& choice = session_.state<NightSampleChoice>();
+    choice.sampleConfirmed = false;
     session_.user.showModal(Screen::frm_SelectNightTexture);
-    if (!modal.sampleConfirmed) return false;
-    const FilePath sample = nightSampleTexture(session_.AppPath, modal.selectedNightTexture);
+    if (!choice.sampleConfirmed) return false;
+    const FilePath sample = nightSampleTexture(session_.AppPath, choice.selectedNightTexture);
     return !sample.isEmpty() && colourise_.openTexImage(sample);
 }
 
 void NightTuning::showColourPreview(const SliderValues& sliders) {
-    session_.night.colours = effectiveColours(sliders);
+    session_.state<NightSelection>().colours = effectiveColours(sliders);
     colourise_.TsProcess();
 }
 
 void NightTuning::newFavNightTexture() {
-    if (askFavouriteName(session_, FavouriteKind::night)) saveNightFavourite(session_.modal.favName);
+    if (askFavouriteName(session_, FavouriteKind::night))
+        saveNightFavourite(session_.state<FavouriteAnswer>().favName);
 }
 
 /// The row is written before the folders: when they cannot be made it stands.
 void NightTuning::saveNightFavourite(const QString& name) {
     reportFailures(session_.user, {}, [&] {
         clsNightTextureSet record;
-        record.ColorSettings = colourSettingsText(session_.night.colours);
+        record.ColorSettings = colourSettingsText(session_.state<NightSelection>().colours);
         record.TextureSet = trimmedBlanks(name);
         record.Actvated = flagText(false); // it gets its files by activation only
-        record.Description = trimmedBlanks(session_.modal.favDescription);
+        record.Description = trimmedBlanks(session_.state<FavouriteAnswer>().favDescription);
         record.IsNew = true;
         if (!loadedNightSets(session_).UpdateNightTextureSet(record)) return;
-        session_.RefreshNightList = true;
-        session_.night.madeSet = record.TextureSet;
+        session_.state<NightSelection>().RefreshNightList = true;
+        session_.state<NightSelection>().madeSet = record.TextureSet;
         loadNightSelection(session_, u"Key:"_s + QString::number(record.NtsID));
         for (const QString& subfolder : nightSubfolders)
             session_.files.makeFolder(nightSetFolder(session_, record.TextureSet).child(subfolder));

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ground/ground_randomiser.h"
-#include "ground/texture_sample.h"
+#include "sets/slider_values.h"
+#include "sets/texture_sample.h"
 
 namespace morvane {
 

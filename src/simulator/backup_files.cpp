@@ -42,7 +42,7 @@ bool holdsNoTexture(Session& session, const QString& name) {
 /// The row of a first run that did not come to its end: its list says so, or it did not come to a list.
 /// Raises when that cannot be seen: a second backup is not begun then.
 std::optional<clsBackup> unfinishedFirstBackup(Session& session) {
-    for (const auto& backup : *session.gBackups) {
+    for (const auto& backup : *session.rows<clsBackups>()) {
         const QString& name = backup->BackupName;
         if (!FilePath::isChildName(name)) continue; // a damaged row has no folder
         const BackupList list = BackupList::read(session, name);
@@ -65,13 +65,13 @@ void clearTheWay(Session& session, const QString& name) {
 /// A new row; nothing after the message of a failure.
 std::optional<clsBackup> addBackup(Session& session) {
     clsBackup backup{u"Backup"_s, 0, session.clock.localTime(), true};
-    if (!session.gBackups->UpdateBackups(backup)) return std::nullopt;
+    if (!session.rows<clsBackups>()->UpdateBackups(backup)) return std::nullopt;
     clearTheWay(session, backup.BackupName);
     return backup;
 }
 
 std::optional<BackupReport> runInRow(Session& session, const Job& job, bool isFirstRun) {
-    if (!session.gBackups && !clsBackups::reload(session)) return std::nullopt;
+    if (!session.rows<clsBackups>() && !clsBackups::reload(session)) return std::nullopt;
     std::optional<clsBackup> backup;
     if (isFirstRun) backup = unfinishedFirstBackup(session);
     if (!backup) backup = addBackup(session);

@@ -3,10 +3,10 @@
 #include "core/attempts.h"
 #include "core/failure_report.h"
 #include "core/numbers.h"
+#include "sets/simulator_copy.h"
 #include "simulator/backup_list.h"
 #include "simulator/backups.h"
 #include "simulator/checked_copies.h"
-#include "simulator/simulator_copy.h"
 
 namespace morvane {
 
@@ -84,17 +84,17 @@ DoneLine doneLine(const RestoreReport& report) {
 
 /// False when there is none to choose or none was chosen.
 bool chooseBackup(Session& session) {
-    if (!session.gBackups && !clsBackups::reload(session)) return false;
-    ModalState& modal = session.modal;
-    modal.backups.clear();
-    modal.chosenBackup.clear();
-    modal.backupConfirmed = false;
-    for (const auto& backup : *session.gBackups)
-        modal.backups.push_back({backup->BackupName, backup->BackupDateTime,
-                                 BackupList::readIfReadable(session, backup->BackupName).isComplete()});
-    if (modal.backups.empty()) return false;
+    if (!session.rows<clsBackups>() && !clsBackups::reload(session)) return false;
+    BackupChoice& choice = session.state<BackupChoice>();
+    choice.backups.clear();
+    choice.chosenBackup.clear();
+    choice.backupConfirmed = false;
+    for (const auto& backup : *session.rows<clsBackups>())
+        choice.backups.push_back({backup->BackupName, backup->BackupDateTime,
+                                  BackupList::readIfReadable(session, backup->BackupName).isComplete()});
+    if (choice.backups.empty()) return false;
     session.user.showModal(Screen::frm_BackupList);
-    return modal.backupConfirmed && !modal.chosenBackup.isEmpty();
+    return choice.backupConfirmed && !choice.chosenBackup.isEmpty();
 }
 
 } // namespace
@@ -110,7 +110,7 @@ std::optional<RestoreReport> restoreBackup(Session& session, const QString& name
 
 void restoreBackupOnRequest(Session& session) {
     if (!chooseBackup(session)) return;
-    const QString name = session.modal.chosenBackup;
+    const QString name = session.state<BackupChoice>().chosenBackup;
     // The double quote at the end belongs to the text.
     session.user.showMessage(
         {MessageKind::progress, u"Morvane Information"_s,

@@ -2,9 +2,24 @@
 
 #include "core/session.h"
 
+#include <QDateTime>
+#include <QString>
 #include <optional>
+#include <vector>
 
 namespace morvane {
+
+/// frm_BackupList: the backups offered, the name of the row clicked last, and whether OK was pressed.
+struct BackupChoice {
+    struct Backup {
+        QString name;
+        QDateTime takenAt;
+        bool isComplete;
+    };
+    std::vector<Backup> backups;
+    QString chosenBackup;
+    bool backupConfirmed = false;
+};
 
 /// What became of the files of a backup.
 struct RestoreReport {

@@ -2,7 +2,7 @@
 
 #include "core/attempts.h"
 #include "core/safe_copy.h"
-#include "simulator/simulator_copy.h"
+#include "sets/simulator_copy.h"
 
 #include <QFile>
 #include <filesystem>

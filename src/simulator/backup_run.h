@@ -1,8 +1,8 @@
 #pragma once
 
+#include "sets/originals.h"
 #include "simulator/backup_list.h"
 #include "simulator/checked_copies.h"
-#include "simulator/originals.h"
 
 #include <QDateTime>
 

@@ -1,5 +1,6 @@
 #include "simulator/backups.h"
 
+#include "core/failure_report.h"
 #include "core/store_records.h"
 
 namespace morvane {
@@ -18,7 +19,7 @@ const RecordTable<clsBackup> table = {
 } // namespace
 
 bool clsBackups::reload(Session& session) {
-    return reloadCollection(session, session.gBackups, &clsBackups::getBackups);
+    return reloadCollection(session, session.rows<clsBackups>(), &clsBackups::getBackups);
 }
 
 bool clsBackups::getBackups() {
@@ -36,7 +37,7 @@ bool clsBackups::UpdateBackups(clsBackup& record) {
 
 bool clsBackupData::getBackupData() {
     return reportInSystemBox(session_.user, [&] {
-        loadRecords(session_, u"SELECT * FROM MV_BACKUP"_s, table, required(session_.gBackups));
+        loadRecords(session_, u"SELECT * FROM MV_BACKUP"_s, table, required(session_.rows<clsBackups>()));
     });
 }
 
@@ -47,8 +48,9 @@ bool clsBackupData::deleteBackup(std::int16_t id) {
 }
 
 bool clsBackupData::Save(clsBackup& record) {
-    return reportFailures(session_.user, {},
-                          [&] { saveRecord(session_, table, record, required(session_.gBackups)); });
+    return reportFailures(session_.user, {}, [&] {
+        saveRecord(session_, table, record, required(session_.rows<clsBackups>()));
+    });
 }
 
 std::int16_t clsBackupData::getNextID() {

@@ -27,7 +27,7 @@ inline const QString& nameOf(const clsBackup& record) {
 class clsBackups : public KeyedCollection<clsBackup> {
 public:
     explicit clsBackups(Session& session) : session_(session) {}
-    /// A fresh, loaded collection in `gBackups`.
+    /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
     const KeyedCollection<clsBackup>& GetBackup() const { return *this; }

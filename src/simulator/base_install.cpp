@@ -2,14 +2,18 @@
 
 #include "core/attempts.h"
 #include "core/failure_report.h"
+#include "core/flag_text.h"
 #include "core/numbers.h"
-#include "core/options.h"
-#include "core/set_collections.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
+#include "night/night_selection.h"
 #include "night/night_sets.h"
+#include "night/night_texture_sets.h"
+#include "sets/set_collections.h"
+#include "sets/simulator_copy.h"
 #include "simulator/checked_copies.h"
 #include "simulator/configs.h"
-#include "simulator/simulator_copy.h"
 
 namespace morvane {
 
@@ -33,10 +37,10 @@ void installDefaultGround(Session& session) {
     set.Actvated = flagText(true);
     set.ColorSettings = unchangedColours;
     set.Installed = true;
-    if (session.gTextureSets->UpdateTextureSet(set) && refreshGroundSets(session))
-        session.gTextureSets->markInstalled(defaultSet);
+    if (session.rows<clsTextureSets>()->UpdateTextureSet(set) && refreshGroundSets(session))
+        session.rows<clsTextureSets>()->markInstalled(defaultSet);
     refreshGroundSets(session);
-    session.RefreshGroundList = true;
+    session.state<GroundSelection>().RefreshGroundList = true;
 }
 
 void installDefaultNight(Session& session) {
@@ -48,10 +52,10 @@ void installDefaultNight(Session& session) {
     set.Actvated = flagText(true);
     set.ColorSettings = unchangedColours;
     set.Installed = true;
-    if (session.gNightTextureSets->UpdateNightTextureSet(set) && refreshNightSets(session))
-        session.gNightTextureSets->markInstalled(defaultSet);
+    if (session.rows<clsNightTextureSets>()->UpdateNightTextureSet(set) && refreshNightSets(session))
+        session.rows<clsNightTextureSets>()->markInstalled(defaultSet);
     refreshNightSets(session);
-    session.RefreshNightList = true;
+    session.state<NightSelection>().RefreshNightList = true;
 }
 
 /// The row says "installed" before the first file is copied, also when there is none to copy.
@@ -63,7 +67,7 @@ void collectConfig(Session& session, clsConfig config, std::vector<FileCopy>& co
     collectFolderFiles(session, session.AppPath / config.ConfigMVFolder,
                        session.FSPath / config.ConfigFSFolder, copies);
     config.ConfigInstalled = true;
-    session.gConfigs->UpdateConfig(config);
+    session.rows<clsConfigs>()->UpdateConfig(config);
 }
 
 /// Returns how many came; a source or a target in use is passed over and costs no other.
@@ -82,7 +86,7 @@ int copyEach(Session& session, const std::vector<FileCopy>& copies) {
 /// Nothing when nothing was ticked.
 std::optional<std::vector<FileCopy>> collectTicked(Session& session, const QStringList& tickedTitles) {
     std::optional<std::vector<FileCopy>> copies;
-    const clsConfigs& configs = loadedCollection(session, session.gConfigs);
+    const clsConfigs& configs = loadedCollection(session, session.rows<clsConfigs>());
     for (const auto& config : configs) {
         if (!tickedTitles.contains(config->ConfigName)) continue;
         if (!copies) copies.emplace();

@@ -3,7 +3,7 @@
 #include "core/file_fingerprint.h"
 #include "core/job.h"
 #include "core/ordered_work.h"
-#include "simulator/originals.h"
+#include "sets/originals.h"
 
 #include <deque>
 #include <optional>

@@ -1,5 +1,6 @@
 #include "simulator/configs.h"
 
+#include "core/failure_report.h"
 #include "core/statement_translation.h"
 #include "core/store_records.h"
 
@@ -26,7 +27,7 @@ const QString switchRow = u"SELECT * FROM TEXTURE_SWITCH WHERE ID = 1"_s;
 } // namespace
 
 bool clsConfigs::reload(Session& session) {
-    return reloadCollection(session, session.gConfigs, &clsConfigs::getConfigs);
+    return reloadCollection(session, session.rows<clsConfigs>(), &clsConfigs::getConfigs);
 }
 
 bool clsConfigs::getConfigs() {
@@ -71,7 +72,7 @@ bool clsConfigs::GetFastExitVal() {
 
 bool clsConfigData::getConfigData() {
     return reportFailures(session_.user, {}, [&] {
-        loadRecords(session_, u"SELECT * FROM MV_CONFIG"_s, table, required(session_.gConfigs));
+        loadRecords(session_, u"SELECT * FROM MV_CONFIG"_s, table, required(session_.rows<clsConfigs>()));
     });
 }
 

@@ -29,7 +29,7 @@ inline const QString& nameOf(const clsConfig& record) {
 class clsConfigs : public KeyedCollection<clsConfig> {
 public:
     explicit clsConfigs(Session& session) : session_(session) {}
-    /// A fresh, loaded collection in `gConfigs`.
+    /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
     const KeyedCollection<clsConfig>& GetConfig() const { return *this; }

@@ -3,11 +3,12 @@
 #include "core/attempts.h"
 #include "core/failure_report.h"
 #include "core/file_helpers.h"
+#include "core/flights_folder.h"
 #include "core/ini_file.h"
 #include "core/numbers.h"
-#include "core/options.h"
 #include "core/safe_copy.h"
-#include "simulator/simulator_copy.h"
+#include "sets/options_in_force.h"
+#include "sets/simulator_copy.h"
 
 #include <algorithm>
 
@@ -112,14 +113,6 @@ void writeList(Session& session) {
 
 } // namespace
 
-FilePath userFlightsFolder(Session& session) {
-    if (!session.MyDocumentsPath.isEmpty()) {
-        const FilePath usual = FilePath(session.MyDocumentsPath) / u"Flight Simulator Files";
-        if (session.files.isFolder(usual)) return usual;
-    }
-    return FilePath(getNonEnglishPath(session));
-}
-
 void copyDeliveredFlights(Session& session) {
     const FilePath folder = deliveredFlightsFolder(session);
     const std::vector<FileCopy> flights = flightCopies(session, flightsFolder(session), folder);
@@ -131,7 +124,7 @@ void copyDeliveredFlights(Session& session) {
 }
 
 void loadFlightFiles(Session& session) {
-    if (session.IsWideClient) return;
+    if (session.state<OptionsInForce>().IsWideClient) return;
     // The kind is misspelt, as that of one failure of the weather's road: it names an icon of its own.
     const FailureReport report{u"Morvane Error"_s, MessageKind::exlamation};
     reportFailures(session.user, report, [&] {

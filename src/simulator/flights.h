@@ -9,10 +9,6 @@ namespace morvane {
 /// A saved flight is a pair of files, "<name>.flt" and "<name>.wx"; its name is known without the ending. The
 /// program works on copies in its own folder "\Flights", listed in "flights.cfg" there.
 
-/// Where the user keeps saved flights and flight plans: "Flight Simulator Files" below the documents, or the
-/// folder that is asked for when there is none. Empty when the user named none.
-FilePath userFlightsFolder(Session& session);
-
 /// Copies the delivered flights from the program's folder to the kept ones below the simulator, each that can
 /// be; the first failure is raised at the end.
 void copyDeliveredFlights(Session& session);

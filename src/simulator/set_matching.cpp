@@ -4,14 +4,15 @@
 #include "core/failure_report.h"
 #include "core/numbers.h"
 #include "core/writing.h"
-#include "ground/cloud_cover.h"
 #include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "sets/cloud_cover.h"
 #include "simulator/simulator_launch.h"
 #include "sky/sky_installation.h"
+#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "weather/cover_choice.h"
-#include "weather/metar_decoder.h"
 
 #include <algorithm>
 
@@ -41,12 +42,14 @@ std::int16_t SetMatching::getAverageCloudCover() {
     std::int16_t average = 0;
     reportFailures(session_.user, {u"getIcaoWxDetails Error"_s, MessageKind::exclamation}, [&] {
         int sum = 0;
-        for (const QString& element : session_.WxCloudList)
+        for (const QString& element : session_.state<FlightWeather>().WxCloudList)
             sum += cloudValue(element);
-        for (const QString& element : session_.WxStrengthList)
+        for (const QString& element : session_.state<FlightWeather>().WxStrengthList)
             sum += strengthValue(element);
-        if (session_.WxCloudList.isEmpty()) return; // an unknown word on the command line: no error, class 0
-        average = roundToInteger(static_cast<double>(sum) / static_cast<double>(session_.WxCloudList.size()));
+        if (session_.state<FlightWeather>().WxCloudList.isEmpty())
+            return; // an unknown word on the command line: no error, class 0
+        average = roundToInteger(static_cast<double>(sum) /
+                                 static_cast<double>(session_.state<FlightWeather>().WxCloudList.size()));
     });
     return average;
 }
@@ -108,31 +111,20 @@ void SetMatching::installMatchingSets(const QString& cover) {
         const auto skies = activatedSets(loadedSkySets(session_));
         const QString ground = chooseSet({u"Ground"_s, grounds, ClosestSearch::nextWord}, cover);
         const QString sky = chooseSet({u"Sky"_s, skies, ClosestSearch::currentWord}, cover);
-        session_.ground.SelectedGroundSet = ground;
+        session_.state<GroundSelection>().SelectedGroundSet = ground;
         GroundInstallation groundInstallation(session_);
         groundInstallation.installTextureSet(true);
-        session_.sky.SelectedSkySet = sky;
+        session_.state<SkySelection>().SelectedSkySet = sky;
         SkyInstallation skyInstallation(session_);
         skyInstallation.installSkySet(true);
         filesCopied_ = groundInstallation.filesCopied() + skyInstallation.filesCopied();
     });
 }
 
-bool processMetarString(Session& session, const QString& metar) {
-    clsDecodeMetar report(session.user);
-    report.decodeMetarString(trimmedBlanks(metar));
-    setCover(session, report.MetarMaxCloud);
-    if (report.MetarMaxCloud != 0) return true;
-    session.user.showMessage({MessageKind::error, u"METAR Format Error!"_s,
-                              u"METAR String format not recognised please enter new string to process"_s,
-                              true, false, false});
-    return false;
-}
-
 FlyReport flyNow(Session& session) {
-    session.CoverCancelled = false;
+    session.state<FlightWeather>().CoverCancelled = false;
     if (!session.CommandLineRun) selectCloudCoverMethod(session);
-    return session.CoverCancelled ? FlyReport{} : flyWithCover(session);
+    return session.state<FlightWeather>().CoverCancelled ? FlyReport{} : flyWithCover(session);
 }
 
 FlyReport flyWithCover(Session& session) {
@@ -141,7 +133,8 @@ FlyReport flyWithCover(Session& session) {
     if (matching.askInstallMatchingSets()) report.filesCopied = matching.filesCopied();
     if (session.writing->wasRefused) return {};
     report.isSimulatorStarted = startSavedFlight(session);
-    if (!session.modal.FlightSelected) report.isSimulatorStarted = launchFlightSimulator(session);
+    if (!session.state<FlightChoice>().FlightSelected)
+        report.isSimulatorStarted = launchFlightSimulator(session);
     return report;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/set_choice.h"
+#include "sets/set_choice.h"
 
 namespace morvane {
 
@@ -47,10 +47,6 @@ struct FlyReport {
     int filesCopied = -1; ///< -1 when nothing was installed
     bool isSimulatorStarted = false;
 };
-
-/// The decoder's whole text into the session's lists: its cloud class and no strength. False, after the
-/// message that told so, for a report without a cloud group; the list then holds "0".
-bool processMetarString(Session& session, const QString& metar);
 
 /// The road of the Fly Now button: a cover is chosen, unless the run is unattended and has one, then
 /// `flyWithCover`. A cancelled choice ends it (CoverCancelled), with nothing installed and nothing started.

@@ -1,7 +1,9 @@
 #include "simulator/simulator_launch.h"
 
+#include "core/failure_report.h"
+#include "core/program_runner.h"
+#include "sets/options_in_force.h"
 #include "simulator/flights.h"
-#include "simulator/program_runner.h"
 
 namespace morvane {
 
@@ -25,20 +27,20 @@ bool startSimulator(Session& session, const FilePath& flight) {
 } // namespace
 
 bool startSavedFlight(Session& session) {
-    ModalState& modal = session.modal;
-    modal.FlightSelected = false; // of an earlier flight
-    if (session.IsWideClient) return false;
+    FlightChoice& choice = session.state<FlightChoice>();
+    choice.FlightSelected = false; // of an earlier flight
+    if (session.state<OptionsInForce>().IsWideClient) return false;
     if (!session.user.ask(Question::savedFlight, u"Start Predefined Flight"_s,
                           u"Do you wish Morvane to start one of your previously saved flights?"_s))
         return false;
     session.user.showModal(Screen::frm_flight);
     // OK without a name starts nothing, here or later on the road: wanted.
-    if (!modal.FlightSelected || modal.SelectedFlightName.isEmpty()) return false;
-    return startSimulator(session, savedFlightFile(session, modal.SelectedFlightName));
+    if (!choice.FlightSelected || choice.SelectedFlightName.isEmpty()) return false;
+    return startSimulator(session, savedFlightFile(session, choice.SelectedFlightName));
 }
 
 bool launchFlightSimulator(Session& session) {
-    if (session.IsWideClient) {
+    if (session.state<OptionsInForce>().IsWideClient) {
         session.user.showMessage(
             {MessageKind::information, u"Processing Complete"_s,
              u"Processing complete. You can now start Flight Simulator on the server."_s});
@@ -49,6 +51,10 @@ bool launchFlightSimulator(Session& session) {
         return startSimulator(session, {});
     if (!session.CommandLineRun) session.user.refreshScreen(Screen::frm_Main); // the sets just installed show
     return false;
+}
+
+void offerSimulatorStart(Session& session) {
+    reportFailures(session.user, {}, [&session] { launchFlightSimulator(session); });
 }
 
 } // namespace morvane

@@ -4,14 +4,23 @@
 
 namespace morvane {
 
+/// frm_flight: the name of the flight clicked last, and whether OK was pressed.
+struct FlightChoice {
+    QString SelectedFlightName;
+    bool FlightSelected = false;
+};
+
 /// The question about a saved flight, its choice (frm_flight) and the start of the simulator with that
 /// flight. Nothing on a WideFS client, where the simulator runs on the server. Whether a flight was chosen,
-/// so that nobody is asked again, stands in `FlightSelected` of the session's modal state. True when the
+/// so that nobody is asked again, stands in `FlightChoice`. True when the
 /// simulator was started; why it was not is told.
 bool startSavedFlight(Session& session);
 
 /// The question whether the simulator shall be started now, and its start. On a WideFS client only the notice
 /// that it can be started on the server. True when it was started; why it was not is told.
 bool launchFlightSimulator(Session& session);
+
+/// The same behind an install by hand, where nobody needs to know; a failure is told.
+void offerSimulatorStart(Session& session);
 
 } // namespace morvane

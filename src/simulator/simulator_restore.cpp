@@ -3,11 +3,18 @@
 #include "core/failure_report.h"
 #include "core/job.h"
 #include "core/numbers.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
+#include "night/night_selection.h"
 #include "night/night_sets.h"
+#include "night/night_texture_sets.h"
+#include "sets/options_in_force.h"
+#include "sets/simulator_copy.h"
 #include "simulator/configs.h"
-#include "simulator/simulator_copy.h"
+#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
+#include "sky/sky_texture_sets.h"
 
 namespace morvane {
 
@@ -17,24 +24,27 @@ const QString title = u"Put My Own Files Back"_s;
 
 bool forgetBodies(Session& session) {
     if (!clsConfigs::reload(session)) return false;
-    for (const auto& body : *session.gConfigs) {
+    for (const auto& body : *session.rows<clsConfigs>()) {
         if (!body->ConfigInstalled) continue;
         clsConfig changed = *body;
         changed.ConfigInstalled = false;
-        if (!session.gConfigs->UpdateConfig(changed)) return false;
+        if (!session.rows<clsConfigs>()->UpdateConfig(changed)) return false;
     }
     return clsConfigs::reload(session);
 }
 
 /// Each step shows its own failure and ends the row of them, so that a lost store is told once.
 void forgetInstalled(Session& session) {
-    session.IsHalo = session.IsDutch = session.IsTropical = false;
+    session.state<OptionsInForce>().IsHalo = session.state<OptionsInForce>().IsDutch =
+        session.state<OptionsInForce>().IsTropical = false;
     clsConfigs switches(session);
-    refreshGroundSets(session) && session.gTextureSets->markInstalled({}) && refreshSkySets(session) &&
-        session.gSkyTextureSets->markInstalled({}) && refreshNightSets(session) &&
-        session.gNightTextureSets->markInstalled({}) && forgetBodies(session) && switches.UpdateHalo(false) &&
-        switches.UpdateDutch(false) && switches.UpdateTropical(false);
-    session.RefreshGroundList = session.RefreshSkyList = session.RefreshNightList = true;
+    refreshGroundSets(session) && session.rows<clsTextureSets>()->markInstalled({}) &&
+        refreshSkySets(session) && session.rows<clsSkyTextureSets>()->markInstalled({}) &&
+        refreshNightSets(session) && session.rows<clsNightTextureSets>()->markInstalled({}) &&
+        forgetBodies(session) && switches.UpdateHalo(false) && switches.UpdateDutch(false) &&
+        switches.UpdateTropical(false);
+    session.state<GroundSelection>().RefreshGroundList = session.state<SkySelection>().RefreshSkyList =
+        session.state<NightSelection>().RefreshNightList = true;
     session.user.refreshScreen(Screen::frm_Main);
 }
 

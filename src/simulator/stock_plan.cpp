@@ -2,7 +2,7 @@
 
 #include "core/numbers.h"
 #include "ground/texture_catalogue.h"
-#include "simulator/resource_folders.h"
+#include "sets/resource_folders.h"
 
 #include <QHash>
 
@@ -53,7 +53,7 @@ public:
           world_(worldNames_), addOn_(session.files.list(source.addOn, u"*.*"_s)) {}
 
     StockPlan plan() {
-        if (!session_.gResources) clsResourceFolders::reload(session_);
+        if (!session_.rows<clsResourceFolders>()) clsResourceFolders::reload(session_);
         for (const CatalogueCategory& category : catalogueTable())
             if (category.number <= lastCategory) planCategory(category);
         planWhere(isNightName, true, u"Resources\\GENERIC WORLD NIGHT"_s, u"Resources\\DUTCH NIGHT"_s);
@@ -65,7 +65,7 @@ public:
 
 private:
     QString resourceFolder(const QString& name) const {
-        for (const auto& row : *session_.gResources)
+        for (const auto& row : *session_.rows<clsResourceFolders>())
             if (row->ResourceName == name) return row->ResourceMVFolder;
         return {};
     }

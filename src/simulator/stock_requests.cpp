@@ -26,12 +26,12 @@ bool isSetInstalled(const Sets& sets) {
 
 /// The newest of those that are whole; of the others when none is.
 const clsBackup* newestBackup(Session& session) {
-    if (!session.gBackups && !clsBackups::reload(session)) return nullptr;
+    if (!session.rows<clsBackups>() && !clsBackups::reload(session)) return nullptr;
     const clsBackup* newest = nullptr;
     const auto rank = [&](const clsBackup& backup) {
         return std::pair(isBackupComplete(session, backup.BackupName), backup.BackupDateTime);
     };
-    for (const auto& backup : *session.gBackups)
+    for (const auto& backup : *session.rows<clsBackups>())
         if (!newest || rank(*newest) < rank(*backup)) newest = backup.get();
     return newest;
 }

@@ -3,10 +3,13 @@
 #include "core/failure_report.h"
 #include "core/job.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
 #include "ground/tropical_files.h"
 #include "night/night_sets.h"
+#include "night/night_texture_sets.h"
+#include "sets/options_in_force.h"
+#include "sets/simulator_copy.h"
 #include "simulator/configs.h"
-#include "simulator/simulator_copy.h"
 
 namespace morvane {
 
@@ -34,13 +37,13 @@ QString installedName(const KeyedCollection<Record>& sets) {
 }
 
 QString installedNight(Session& session) {
-    return refreshNightSets(session) ? installedName(*session.gNightTextureSets) : QString();
+    return refreshNightSets(session) ? installedName(*session.rows<clsNightTextureSets>()) : QString();
 }
 
 /// Reads them anew on the way: what is installed may have changed since they were loaded.
 bool hasGroundSets(Session& session) {
     if (!refreshGroundSets(session)) return false;
-    if (session.gTextureSets->Count() > 0) return true;
+    if (session.rows<clsTextureSets>()->Count() > 0) return true;
     session.user.showMessage({MessageKind::exclamation, u"No Texture Sets Installed"_s,
                               u"There are no texture sets installed.  You must have at least one texture set "
                               "installed to use this function."_s});
@@ -147,10 +150,10 @@ void tropicalTextures(Session& session, bool isOn, const QString& groundName) {
 bool switchDutch(Session& session, bool isOn) {
     Job job(session);
     if (!job) throw Error(ErrorCode::interrupted);
-    if (!hasGroundSets(session)) return session.IsDutch = false;
-    session.IsDutch = isOn;
+    if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsDutch = false;
+    session.state<OptionsInForce>().IsDutch = isOn;
     const auto copyTextures = isOn ? dutchTexturesOn : dutchTexturesOff;
-    copyTextures(session, installedName(*session.gTextureSets), installedNight(session));
+    copyTextures(session, installedName(*session.rows<clsTextureSets>()), installedNight(session));
     clsConfigs(session).UpdateDutch(isOn);
     return true;
 }
@@ -158,9 +161,9 @@ bool switchDutch(Session& session, bool isOn) {
 bool switchTropical(Session& session, bool isOn) {
     Job job(session);
     if (!job) throw Error(ErrorCode::interrupted);
-    if (!hasGroundSets(session)) return session.IsTropical = false;
-    tropicalTextures(session, isOn, installedName(*session.gTextureSets));
-    session.IsTropical = isOn;
+    if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsTropical = false;
+    tropicalTextures(session, isOn, installedName(*session.rows<clsTextureSets>()));
+    session.state<OptionsInForce>().IsTropical = isOn;
     clsConfigs(session).UpdateTropical(isOn);
     return true;
 }
@@ -168,7 +171,7 @@ bool switchTropical(Session& session, bool isOn) {
 void switchHalo(Session& session, bool isOn) {
     Job job(session);
     if (!job) throw Error(ErrorCode::interrupted);
-    session.IsHalo = isOn;
+    session.state<OptionsInForce>().IsHalo = isOn;
     clsConfigs(session).UpdateHalo(isOn);
     copyIntoSimulator(session, session.AppPath / (isOn ? u"Media\\halo.bmp" : u"Media\\halodefault.bmp"),
                       session.FSPath / u"Texture\\halo.bmp");
@@ -179,7 +182,7 @@ void switchHalo(Session& session, bool isOn) {
 }
 
 void switchFastExit(Session& session, bool isOn) {
-    session.IsFastExit = isOn;
+    session.state<OptionsInForce>().IsFastExit = isOn;
     clsConfigs(session).UpdateFastExit(isOn);
     inform(session, u"Morvane FastExit Status"_s,
            isOn ? u"Fast Exit enabled therefore the screen to request default texture installation on exit "

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/session.h"
-#include "simulator/originals.h"
+#include "sets/originals.h"
 
 namespace morvane {
 

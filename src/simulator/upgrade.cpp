@@ -1,10 +1,10 @@
 #include "simulator/upgrade.h"
 
-#include "core/application.h"
 #include "core/failure_report.h"
 #include "core/safe_copy.h"
 #include "core/store_backup.h"
-#include "simulator/simulator_copy.h"
+#include "core/store_connection.h"
+#include "sets/simulator_copy.h"
 #include "simulator/upgrade_dutch.h"
 #include "simulator/upgrade_tables.h"
 

@@ -1,10 +1,13 @@
 #include "simulator/upgrade_dutch.h"
 
 #include "core/failure_report.h"
-#include "ground/colour_settings.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
-#include "ground/texture_passes.h"
+#include "ground/texture_catalogue.h"
+#include "ground/texture_sets.h"
+#include "sets/catalogue_file.h"
+#include "sets/colour_settings.h"
+#include "sets/texture_passes.h"
 
 namespace morvane {
 
@@ -51,7 +54,7 @@ bool createDutchForSet(Session& session, const Job& job, clsTextureSet set, int 
         passes.colourFiles(files, colours);
         passes.convertFiles(files);
         set.IsDutch = true;
-        isRefused = !session.gTextureSets->UpdateTextureSet(set);
+        isRefused = !session.rows<clsTextureSets>()->UpdateTextureSet(set);
     });
     return !isRefused;
 }
@@ -67,13 +70,13 @@ void createDutchForAllSets(Session& session) {
     const Job job(session);
     if (!job || !clsTextureSets::reload(session)) return;
     std::vector<clsTextureSet> sets;
-    for (const auto& set : *session.gTextureSets)
+    for (const auto& set : *session.rows<clsTextureSets>())
         sets.push_back(*set);
     int number = 0;
     const int total = static_cast<int>(sets.size()) - 1; // "Default" is taken to be one of them
     for (const clsTextureSet& set : sets)
         if (set.TextureSet != u"Default" && !createDutchForSet(session, job, set, ++number, total)) break;
-    session.gTextureSets.reset(); // its records still say what was before
+    session.rows<clsTextureSets>().reset(); // its records still say what was before
     session.user.hideMessage();
 }
 

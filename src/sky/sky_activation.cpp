@@ -1,9 +1,9 @@
 #include "sky/sky_activation.h"
 
 #include "core/failure_report.h"
-#include "core/options.h"
-#include "simulator/set_removal.h"
-#include "simulator/temp_bitmaps.h"
+#include "core/flag_text.h"
+#include "sets/set_removal.h"
+#include "sets/temp_bitmaps.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_generation.h"
 #include "sky/sky_selection.h"
@@ -26,14 +26,16 @@ void SkyActivation::activateSkySet() {
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
         if (!refreshSkySets(session_)) return;
-        const QStringList names = changeableNames(session_.sky.selectedRows);
+        const QStringList names = changeableNames(session_.state<SkySelection>().selectedRows);
         // One set gets all three families of files, several get the day's alone, as a generated set does:
         // wanted. Nothing protects "Default" here, unlike in a removal.
         if (names.size() > 1)
             activateSeveral(job, names);
-        else if (const auto set = job.begin() ? findSkySet(session_, session_.sky.SelectedSkySet) : nullptr)
+        else if (const auto set = job.begin()
+                                      ? findSkySet(session_, session_.state<SkySelection>().SelectedSkySet)
+                                      : nullptr)
             activate(job, *set, skyTimesOfDay, {1, 1});
-        rebuildList(session_.sky.SelectedSkySet);
+        rebuildList(session_.state<SkySelection>().SelectedSkySet);
     });
 }
 
@@ -62,7 +64,7 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
     });
     if (!isWhole) return true;
     if (!hasColours || !storeActivation(set, true)) return false;
-    session_.sky.SelectedSkySet = set.SkyTextureSet;
+    session_.state<SkySelection>().SelectedSkySet = set.SkyTextureSet;
     session_.files.makeFolder(folder);
     SkyGeneration generation(session_);
     for (const QString& timeOfDay : timesOfDay) {
@@ -89,8 +91,8 @@ void SkyActivation::deleteSkySet(bool deactivateMode) {
         if (!refreshSkySets(session_)) return;
         const SetRemoval removal{
             deactivateMode,
-            session_.sky.SelectedSkySet,
-            session_.sky.selectedRows,
+            session_.state<SkySelection>().SelectedSkySet,
+            session_.state<SkySelection>().selectedRows,
             u"\n\n"_s,
             [this](const QString& name) { return stateOf(session_, name); },
             [&](const QString& name) { return job.begin() && removeSet(name, deactivateMode); }};
@@ -119,9 +121,9 @@ bool SkyActivation::removeSet(const QString& name, bool keepRecord) {
 
 void SkyActivation::rebuildList(const QString& nameInHand) {
     if (!refreshSkySets(session_)) return;
-    session_.sky.selectedRows.clear();
+    session_.state<SkySelection>().selectedRows.clear();
     clickSkyRow(session_, nameInHand);
-    session_.RefreshSkyList = true;
+    session_.state<SkySelection>().RefreshSkyList = true;
     session_.user.refreshScreen(Screen::frm_KMTextures);
 }
 

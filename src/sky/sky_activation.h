@@ -1,16 +1,18 @@
 #pragma once
 
 #include "core/job.h"
+#include "sky/sky_selection.h"
 
 namespace morvane {
 
 struct clsSkyTextureSet;
 
-/// Gives stored sky sets their files and takes them away again. Acts on the set in hand (session.sky), or on
-/// the ticked rows when two or more of them are not "Default".
+/// Gives stored sky sets their files and takes them away again. Acts on the set in hand
+/// (session.state<SkySelection>()), or on the ticked rows when two or more of them are not "Default".
 ///
 /// Afterwards the ticks are gone, as the list is to be built anew, and another row is in hand
-/// (session.sky.SelectedSkySet): the one that was activated last, or after a removal the last of all.
+/// (session.state<SkySelection>().SelectedSkySet): the one that was activated last, or after a removal the
+/// last of all.
 class SkyActivation {
 public:
     explicit SkyActivation(Session& session) : session_(session) {}

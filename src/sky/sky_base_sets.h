@@ -6,6 +6,11 @@
 
 namespace morvane {
 
+/// frm_SelectBaseSky: whether OK was pressed. The choice itself is in force at its click (SkyTuningState).
+struct BaseSkyAnswer {
+    bool baseSkyConfirmed = false;
+};
+
 /// How the generator and the randomiser treat a base set. "Overcast" is in neither family, and so is any name
 /// that is unknown.
 enum class SkyFamily { a, b, neither };

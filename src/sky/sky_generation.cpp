@@ -1,12 +1,12 @@
 #include "sky/sky_generation.h"
 
 #include "core/failure_report.h"
-#include "core/favourite_name.h"
+#include "core/flag_text.h"
 #include "core/job.h"
 #include "core/numbers.h"
-#include "core/options.h"
-#include "ground/cloud_cover.h"
-#include "simulator/temp_bitmaps.h"
+#include "sets/cloud_cover.h"
+#include "sets/favourite_name.h"
+#include "sets/temp_bitmaps.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_selection.h"
@@ -31,9 +31,9 @@ void showProgress(Session& session, const QString& text) {
 
 /// The count of overcast sets is in it whether their box is ticked or not: wanted, the texts then speak of
 /// more sets than the run makes.
-int plannedSets(const ModalState& modal) {
-    const auto& counts = modal.skySetCounts;
-    const auto isTicked = [&modal](const QString& name) { return modal.skyBaseSets.contains(name); };
+int plannedSets(const SkySetCounts& choice) {
+    const auto& counts = choice.skySetCounts;
+    const auto isTicked = [&choice](const QString& name) { return choice.skyBaseSets.contains(name); };
     const auto& bases = skyBaseSetsInRun();
     const auto baseCount = static_cast<int>(std::count_if(bases.begin(), bases.end(), isTicked));
     return baseCount * std::accumulate(counts.begin(), counts.end() - 1, 0) + counts.back();
@@ -41,11 +41,11 @@ int plannedSets(const ModalState& modal) {
 
 /// A set's files are as large as those that it is made from. Sky sets take a second each: nobody is asked.
 RunSize runSize(Session& session) {
-    const auto& counts = session.modal.skySetCounts;
+    const auto& counts = session.state<SkySetCounts>().skySetCounts;
     const int ofEachBase = std::accumulate(counts.begin(), counts.end() - 1, 0);
     int sets = 0;
     RunSize run;
-    for (const QString& baseSet : session.modal.skyBaseSets) {
+    for (const QString& baseSet : session.state<SkySetCounts>().skyBaseSets) {
         const int count = baseSet == overcastBaseSet ? counts.back() : ofEachBase;
         const FilePath stock = skyStockFolder(session, baseSet);
         for (const QString& name : session.files.list(stock, u"*.bmp"_s))
@@ -63,9 +63,10 @@ void SkyGeneration::createSkySets(bool fromHomeScreen) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, {}, [&] {
-        session_.modal.skySetsConfirmed = false;
+        session_.state<SkySetCounts>().skySetsConfirmed = false;
         session_.user.showModal(Screen::frm_SelectSkyTexture);
-        if (!session_.modal.skySetsConfirmed || !session_.user.allowsRun(runSize(session_))) return;
+        if (!session_.state<SkySetCounts>().skySetsConfirmed || !session_.user.allowsRun(runSize(session_)))
+            return;
         if (!job.begin()) return;
         showProgress(session_, u"Processing your sky textures.  Please wait until the process has finished.  "
                                "This may take a few minutes dependant on your system specification!"_s);
@@ -76,9 +77,9 @@ void SkyGeneration::createSkySets(bool fromHomeScreen) {
 }
 
 void SkyGeneration::createAll(const Job& job) {
-    const QStringList ticked = session_.modal.skyBaseSets;
-    const auto counts = session_.modal.skySetCounts;
-    const int total = plannedSets(session_.modal);
+    const QStringList ticked = session_.state<SkySetCounts>().skyBaseSets;
+    const auto counts = session_.state<SkySetCounts>().skySetCounts;
+    const int total = plannedSets(session_.state<SkySetCounts>());
     int setNumber = 0;
     bool isStored = true;
     const auto createSeveral = [&](const QString& baseSet, int cloudIndex) {
@@ -94,7 +95,7 @@ void SkyGeneration::createAll(const Job& job) {
 
 void SkyGeneration::endRun(bool fromHomeScreen) {
     if (!fromHomeScreen) return showNewestSet();
-    session_.RefreshSkyList = true;
+    session_.state<SkySelection>().RefreshSkyList = true;
     takeNewestSet(); // in hand when the list is opened
     session_.user.refreshScreen(Screen::frm_Main);
     session_.user.showScreen(Screen::frm_Main);
@@ -102,8 +103,8 @@ void SkyGeneration::endRun(bool fromHomeScreen) {
 
 /// Brings up the list, rebuilt and so without ticks, with the newest set in hand.
 void SkyGeneration::showNewestSet() {
-    session_.RefreshSkyList = true;
-    session_.sky.selectedRows.clear();
+    session_.state<SkySelection>().RefreshSkyList = true;
+    session_.state<SkySelection>().selectedRows.clear();
     takeNewestSet();
     session_.user.refreshScreen(Screen::frm_KMTextures);
     session_.user.showScreen(Screen::frm_KMTextures);
@@ -148,9 +149,9 @@ bool SkyGeneration::storeSubSet(const clsSkyTextureSet& set, const SkyStrings& s
     subSet.IsNew = true;
     for (const SkyGroupConstants& group : skyGroups())
         subSet.*group.property = strings[static_cast<std::size_t>(group.number - 1)];
-    if (!session_.gSkyTextureSubSets)
-        session_.gSkyTextureSubSets = std::make_unique<clsSkyTextureSubSets>(session_);
-    return session_.gSkyTextureSubSets->UpdateSkyTextureSubSet(subSet);
+    if (!session_.rows<clsSkyTextureSubSets>())
+        session_.rows<clsSkyTextureSubSets>() = std::make_unique<clsSkyTextureSubSets>(session_);
+    return session_.rows<clsSkyTextureSubSets>()->UpdateSkyTextureSubSet(subSet);
 }
 
 bool SkyGeneration::colourSkySetFiles(const QString& setName, const QString& baseSet,
@@ -200,23 +201,24 @@ bool SkyGeneration::writeFiles(const QStringList& names, const FilePath& source,
 }
 
 void SkyGeneration::newFavSky() {
-    if (askFavouriteName(session_, FavouriteKind::sky)) saveSkySetFromTuning(session_.modal.favName);
+    if (askFavouriteName(session_, FavouriteKind::sky))
+        saveSkySetFromTuning(session_.state<FavouriteAnswer>().favName);
 }
 
 /// The rows are written before the folder: when it cannot be made they stand.
 void SkyGeneration::saveSkySetFromTuning(const QString& name) {
     reportFailures(session_.user, {}, [&] {
         loadSkyTuning(session_);
-        const SkyTuningState& tuning = session_.skyTuning;
+        const SkyTuningState& tuning = session_.state<SkyTuningState>();
         clsSkyTextureSet set;
         set.TextureSetGroup = trimmedBlanks(tuning.baseSet);
         set.SkyTextureSet = trimmedBlanks(name);
-        set.Description = trimmedBlanks(session_.modal.favDescription);
+        set.Description = trimmedBlanks(session_.state<FavouriteAnswer>().favDescription);
         set.CloudCover = trimmedBlanks(tuning.cloudCover);
         set.Activated = flagText(false); // it gets its files by activation only
         set.IsNew = true;
         if (!loadedSkySets(session_).UpdateSkyTextureSet(set)) return;
-        session_.RefreshSkyList = true;
+        session_.state<SkySelection>().RefreshSkyList = true;
         if (!storeSubSet(set, tunedStrings())) return;
         session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
         showNewestSet();
@@ -227,7 +229,7 @@ void SkyGeneration::saveSkySetFromTuning(const QString& name) {
 SkyStrings SkyGeneration::tunedStrings() {
     SkyStrings strings;
     for (const SkyGroupConstants& group : skyGroups()) {
-        SkyGroup& record = skyRecord(session_.skyPaletteGroups, group.number);
+        SkyGroup& record = skyRecord(session_.state<SkyColourTables>().skyPaletteGroups, group.number);
         setRegion(record, group);
         strings[static_cast<std::size_t>(group.number - 1)] = skyColourString(record, group);
     }

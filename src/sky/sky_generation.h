@@ -4,9 +4,20 @@
 #include "sky/sky_sample.h"
 #include "sky/sky_strings.h"
 
+#include <QStringList>
+#include <array>
+
 namespace morvane {
 
 struct clsSkyTextureSet;
+
+/// frm_SelectSkyTexture: the base sets ticked, by name, sets wanted for the cloud covers 1 to 5, and whether
+/// OK was pressed.
+struct SkySetCounts {
+    QStringList skyBaseSets;
+    std::array<std::int16_t, 5> skySetCounts{};
+    bool skySetsConfirmed = false;
+};
 
 /// Makes sky sets, in bulk or one by hand, and writes the files of a set.
 class SkyGeneration {

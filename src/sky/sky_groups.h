@@ -11,6 +11,12 @@ namespace morvane {
 /// The two tables of ten records that the colouriser reads; group 1 stands at index 0.
 using SkyGroupTable = SkyGroups;
 
+/// Two tables, so that looking at stored sets does not disturb what is being tuned.
+struct SkyColourTables {
+    SkyGroups skyTextureGroups; ///< of the set that is shown or written
+    SkyGroups skyPaletteGroups; ///< of the colour page
+};
+
 /// What the program knows of a pixel group of the sky textures. A region never moves: it is written into
 /// every colour text and into the settings file from here, whatever a table holds.
 struct SkyGroupConstants {

@@ -1,22 +1,27 @@
 #pragma once
 
-#include "simulator/set_installation.h"
+#include "sets/set_installation.h"
+#include "sets/weather_kinds.h"
+#include "sky/sky_selection.h"
 
 namespace morvane {
 
-/// The install of the sky set in hand (session.sky.SelectedSkySet): every bitmap of its folder goes into the
-/// simulator's "\Texture". An empty folder copies nothing and is installed all the same.
+/// The install of the sky set in hand (session.state<SkySelection>().SelectedSkySet): every bitmap of its
+/// folder goes into the simulator's "\Texture". An empty folder copies nothing and is installed all the same.
 class SkyInstallation : public SetInstallation {
 public:
     explicit SkyInstallation(Session& session);
 
     /// As SetInstallation::install.
-    void installSkySet(bool automatic) { install(automatic); }
+    bool installSkySet(bool automatic) { return install(automatic); }
 
 private:
-    qsizetype selectedRowCount() const override { return session_.sky.selectedRows.size(); }
+    qsizetype selectedRowCount() const override { return session_.state<SkySelection>().selectedRows.size(); }
     bool installMatch(Job& job) override;
     bool installSelectedSet() override;
 };
+
+/// What a ground set asks of the sky's.
+const WeatherKind& skyKindOfWeather();
 
 } // namespace morvane

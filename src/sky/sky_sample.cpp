@@ -1,6 +1,7 @@
 #include "sky/sky_sample.h"
 
 #include "core/failure_report.h"
+#include "sky/sky_groups.h"
 
 namespace morvane {
 
@@ -22,10 +23,10 @@ bool SkySample::openImage(const FilePath& path) {
 void SkySample::process() {
     if (!pictures_.result.isCreated()) return;
     if (table_ == SkyTable::texture) {
-        colourise_.skyTextureGroups = session_.skyTextureGroups;
+        colourise_.skyTextureGroups = session_.state<SkyColourTables>().skyTextureGroups;
         colourise_.processSkyTexture(pictures_.source, pictures_.result);
     } else {
-        colourise_.skyPaletteGroups = session_.skyPaletteGroups;
+        colourise_.skyPaletteGroups = session_.state<SkyColourTables>().skyPaletteGroups;
         colourise_.processSky(pictures_.source, pictures_.result);
     }
 }

@@ -2,9 +2,24 @@
 
 #include "core/session.h"
 
+#include <QStringList>
+
 namespace morvane {
 
 struct clsSkyTextureSet;
+
+/// The sky set in hand: written by a selection in the list, read by the actions.
+struct SkySelection {
+    bool RefreshSkyList = false; ///< the list is to be filled anew when it is shown
+    QString SelectedSkyKey;      ///< "Key:" and the StsID
+    QString SelectedSkySet;
+    bool SelectedSkyActivated = false;
+    QString SelectedSkyCover;
+    QString SelectedSkyDescription;
+    QString SelectedSkyGroup; ///< the base set that it was made from
+    /// Names of all rows that are ticked in the list.
+    QStringList selectedRows;
+};
 
 /// The set's key in lists: "Key:" and the StsID.
 QString skyListKey(const clsSkyTextureSet& set);
@@ -16,7 +31,7 @@ QString skyListKey(const clsSkyTextureSet& set);
 bool loadSkySubSet(Session& session, const QString& listKey, const QString& timeOfDay);
 
 /// Fills `skyTextureGroups` from the set's sub set for that time of day, as above. The set's sub sets become
-/// `gSkyTextureSubSets`. False after the message that they cannot be read; a colour text that is none raises.
+/// the session's rows. False after the message that they cannot be read; a colour text that is none raises.
 bool loadSkyTextureGroups(Session& session, std::int16_t setKey, const QString& timeOfDay);
 
 /// Takes the set of that name in hand; its colours are left alone, as are the ticks of the rows. False when

@@ -1,11 +1,11 @@
 #include "sky/sky_sets.h"
 
-#include "core/set_collections.h"
+#include "sets/set_collections.h"
 
 namespace morvane {
 
 clsSkyTextureSets& loadedSkySets(Session& session) {
-    return loadedCollection(session, session.gSkyTextureSets);
+    return loadedCollection(session, session.rows<clsSkyTextureSets>());
 }
 
 bool refreshSkySets(Session& session) {
@@ -14,6 +14,10 @@ bool refreshSkySets(Session& session) {
 
 std::shared_ptr<const clsSkyTextureSet> findSkySet(Session& session, const QString& name) {
     return findTrimmedName(loadedSkySets(session), name);
+}
+
+std::vector<ActivatedSet> activatedSets(const clsSkyTextureSets& sets) {
+    return activatedSets(sets, &clsSkyTextureSet::Activated);
 }
 
 FilePath skySetFolder(const Session& session, const QString& name) {

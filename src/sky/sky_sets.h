@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session.h"
+#include "sets/set_choice.h"
 #include "sky/sky_texture_sets.h"
 
 namespace morvane {
@@ -15,6 +16,9 @@ bool refreshSkySets(Session& session);
 
 /// The record of the set of that name, both trimmed; nothing when there is none.
 std::shared_ptr<const clsSkyTextureSet> findSkySet(Session& session, const QString& name);
+
+/// Those whose activation is exactly "True", in the order of the collection.
+std::vector<ActivatedSet> activatedSets(const clsSkyTextureSets& sets);
 
 /// The folder of the named sky set. Raises "Path not found" for a name that is no single folder name.
 FilePath skySetFolder(const Session& session, const QString& name);

@@ -1,6 +1,7 @@
 #include "sky/sky_strings.h"
 
 #include "core/error.h"
+#include "sets/slider_values.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_randomiser.h"
@@ -98,7 +99,7 @@ SkyStrings drawSkyStrings(Session& session, int cloudIndex, const QString& baseS
         SkyGroup record;
         if (rule) record = recordOf(rule->source == Source::fixed ? rule->numbers : drawn);
         setRegion(record, group);
-        session.skyTextureGroups[index] = record;
+        session.state<SkyColourTables>().skyTextureGroups[index] = record;
         strings[index] = rule ? skyColourString(record, group) : skyRegionSuffix(group);
     }
     return strings;

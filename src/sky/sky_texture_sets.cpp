@@ -1,6 +1,8 @@
 #include "sky/sky_texture_sets.h"
 
 #include "core/store_records.h"
+#include "sets/set_collections.h"
+#include "sets/set_names.h"
 
 namespace morvane {
 
@@ -18,13 +20,14 @@ const RecordTable<clsSkyTextureSet> table = {
      {u"DESCRIPTION"_s, &clsSkyTextureSet::Description},
      {u"TEXTURE_SET_GROUP"_s, &clsSkyTextureSet::TextureSetGroup},
      {u"INSTALLED"_s, &clsSkyTextureSet::Installed}},
-    NameRule::fitForFolder,
+    folderNames,
 };
 
 } // namespace
 
 bool clsSkyTextureSets::reload(Session& session) {
-    return reloadCollection(session, session.gSkyTextureSets, &clsSkyTextureSets::getSkyTextureSets);
+    return reloadCollection(session, session.rows<clsSkyTextureSets>(),
+                            &clsSkyTextureSets::getSkyTextureSets);
 }
 
 bool clsSkyTextureSets::getSkyTextureSets() {
@@ -47,7 +50,8 @@ bool clsSkyTextureSets::markInstalled(const QString& name) {
 
 bool clsSkyTextureSetData::getSkyTextureSetData() {
     return reportFailures(session_.user, {}, [&] {
-        loadRecords(session_, u"SELECT * FROM SKY_TEXTURE_SETS"_s, table, required(session_.gSkyTextureSets));
+        loadRecords(session_, u"SELECT * FROM SKY_TEXTURE_SETS"_s, table,
+                    required(session_.rows<clsSkyTextureSets>()));
     });
 }
 
@@ -62,8 +66,9 @@ bool clsSkyTextureSetData::deleteSkyTexture(std::int16_t id) {
 }
 
 bool clsSkyTextureSetData::Save(clsSkyTextureSet& record) {
-    return reportFailures(session_.user, {},
-                          [&] { saveRecord(session_, table, record, required(session_.gSkyTextureSets)); });
+    return reportFailures(session_.user, {}, [&] {
+        saveRecord(session_, table, record, required(session_.rows<clsSkyTextureSets>()));
+    });
 }
 
 std::int16_t clsSkyTextureSetData::getNextID() {

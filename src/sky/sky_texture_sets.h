@@ -30,7 +30,7 @@ inline const QString& nameOf(const clsSkyTextureSet& record) {
 class clsSkyTextureSets : public KeyedCollection<clsSkyTextureSet> {
 public:
     explicit clsSkyTextureSets(Session& session) : session_(session) {}
-    /// A fresh, loaded collection in `gSkyTextureSets`.
+    /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
     const KeyedCollection<clsSkyTextureSet>& GetSkyTextureSet() const { return *this; }

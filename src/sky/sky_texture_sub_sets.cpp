@@ -1,5 +1,6 @@
 #include "sky/sky_texture_sub_sets.h"
 
+#include "core/failure_report.h"
 #include "core/store_records.h"
 
 namespace morvane {
@@ -30,8 +31,8 @@ const RecordTable<clsSkyTextureSubSet> table = {
 } // namespace
 
 bool clsSkyTextureSubSets::reload(Session& session, std::int16_t stsID) {
-    return reloadCollection(session, session.gSkyTextureSubSets, &clsSkyTextureSubSets::getSkyTextureSubSets,
-                            stsID);
+    return reloadCollection(session, session.rows<clsSkyTextureSubSets>(),
+                            &clsSkyTextureSubSets::getSkyTextureSubSets, stsID);
 }
 
 bool clsSkyTextureSubSets::getSkyTextureSubSets(std::int16_t stsID) {
@@ -46,13 +47,13 @@ bool clsSkyTextureSubSetData::getSkyTextureSubSetData(std::int16_t stsID) {
     return reportFailures(session_.user, {}, [&] {
         loadRecords(session_,
                     u"SELECT * FROM SKY_TEXTURE_SUB_SETS WHERE TEXTURE_SET_ID = "_s + QString::number(stsID),
-                    table, required(session_.gSkyTextureSubSets));
+                    table, required(session_.rows<clsSkyTextureSubSets>()));
     });
 }
 
 bool clsSkyTextureSubSetData::Save(clsSkyTextureSubSet& record) {
     return reportFailures(session_.user, {}, [&] {
-        saveRecord(session_, table, record, required(session_.gSkyTextureSubSets));
+        saveRecord(session_, table, record, required(session_.rows<clsSkyTextureSubSets>()));
     });
 }
 

@@ -40,7 +40,7 @@ inline const QString& nameOf(const clsSkyTextureSubSet& record) {
 class clsSkyTextureSubSets : public KeyedCollection<clsSkyTextureSubSet> {
 public:
     explicit clsSkyTextureSubSets(Session& session) : session_(session) {}
-    /// A fresh collection with the sub sets of that sky set in `gSkyTextureSubSets`.
+    /// A fresh collection with the sub sets of that sky set in the session's rows.
     static bool reload(Session& session, std::int16_t stsID);
 
     const KeyedCollection<clsSkyTextureSubSet>& GetSkyTextureSubSet() const { return *this; }

@@ -2,9 +2,12 @@
 
 #include "core/failure_report.h"
 #include "core/numbers.h"
-#include "ground/slider_steps.h"
+#include "imaging/slider_steps.h"
+#include "sky/sky_base_sets.h"
+#include "sky/sky_groups.h"
 #include "sky/sky_palette_map.h"
 #include "sky/sky_randomiser.h"
+#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_tuning_state.h"
 
@@ -21,11 +24,11 @@ constexpr auto lowest = static_cast<float>(sliderLowest), highest = static_cast<
 
 SliderValues SkyTuning::open() {
     reportFailures(session_.user, {}, [&] {
-        const bool isFirst = !session_.skyTuning.isLoaded;
+        const bool isFirst = !session_.state<SkyTuningState>().isLoaded;
         loadSkyTuning(session_);
         if (isFirst || !sample_.sourceDib().isCreated()) openSelectedBaseSky();
         // The flag stays: the list page has yet to rebuild its rows.
-        if (isFirst && session_.RefreshSkyList) refreshSkySets(session_);
+        if (isFirst && session_.state<SkySelection>().RefreshSkyList) refreshSkySets(session_);
     });
     return sliders();
 }
@@ -37,30 +40,33 @@ bool SkyTuning::openSkyImage(const FilePath& path) {
 }
 
 bool SkyTuning::openSelectedBaseSky() {
-    return openSkyImage(skySampleFile(session_, trimmedBlanks(session_.skyTuning.baseSet)));
+    return openSkyImage(skySampleFile(session_, trimmedBlanks(session_.state<SkyTuningState>().baseSet)));
 }
 
 void SkyTuning::openBaseSkyImage() {
     reportFailures(session_.user, {}, [&] {
-        session_.modal.baseSkyConfirmed = false;
+        session_.state<BaseSkyAnswer>().baseSkyConfirmed = false;
         session_.user.showModal(Screen::frm_SelectBaseSky);
         // For some base sets the sample is loaded whatever the answer, as their choice is in force at its
         // click; "Average" has no option on the dialog.
         static const QStringList loadedAnyway{u"Sunny"_s, u"Average"_s, u"Tropical"_s, u"Overcast"_s};
-        const QString& baseSet = session_.skyTuning.baseSet;
-        if (session_.modal.baseSkyConfirmed || loadedAnyway.contains(baseSet)) openSelectedBaseSky();
+        const QString& baseSet = session_.state<SkyTuningState>().baseSet;
+        if (session_.state<BaseSkyAnswer>().baseSkyConfirmed || loadedAnyway.contains(baseSet))
+            openSelectedBaseSky();
     });
 }
 
 void SkyTuning::SkyProcess(const SliderValues& sliders) {
-    SkyGroup& record = skyRecord(session_.skyPaletteGroups, session_.skyTuning.selectedGroup);
+    SkyGroup& record = skyRecord(session_.state<SkyColourTables>().skyPaletteGroups,
+                                 session_.state<SkyTuningState>().selectedGroup);
     for (std::size_t i = 0; i < skyColourCount; ++i)
         record.*skyFields()[i].value = static_cast<float>(sliders[i]);
     sample_.process();
 }
 
 SliderValues SkyTuning::sliders() const {
-    const SkyGroup& record = skyRecord(session_.skyPaletteGroups, session_.skyTuning.selectedGroup);
+    const SkyGroup& record = skyRecord(session_.state<SkyColourTables>().skyPaletteGroups,
+                                       session_.state<SkyTuningState>().selectedGroup);
     SliderValues values{};
     for (std::size_t i = 0; i < skyColourCount; ++i)
         values[i] = static_cast<int>(std::clamp(record.*skyFields()[i].value, lowest, highest));
@@ -69,8 +75,8 @@ SliderValues SkyTuning::sliders() const {
 
 SliderValues SkyTuning::clickPalette(float x, float y) {
     if (const SkyGroupConstants* group = skyGroupAt(x, y)) {
-        session_.skyTuning.selectedGroup = toInteger(group->number);
-        setRegion(skyRecord(session_.skyPaletteGroups, group->number), *group);
+        session_.state<SkyTuningState>().selectedGroup = toInteger(group->number);
+        setRegion(skyRecord(session_.state<SkyColourTables>().skyPaletteGroups, group->number), *group);
     }
     const SliderValues values = sliders();
     SkyProcess(values);
@@ -78,7 +84,7 @@ SliderValues SkyTuning::clickPalette(float x, float y) {
 }
 
 SliderValues SkyTuning::randomizeSky() {
-    const SkyTuningState& tuning = session_.skyTuning;
+    const SkyTuningState& tuning = session_.state<SkyTuningState>();
     SliderValues values{};
     randomizeSkyValues(session_, tuning.cloudIndex, values, tuning.baseSet, tuning.selectedGroup);
     SkyProcess(values);
@@ -86,7 +92,7 @@ SliderValues SkyTuning::randomizeSky() {
 }
 
 const QString& SkyTuning::selectedText() const {
-    return skyGroup(session_.skyTuning.selectedGroup).text;
+    return skyGroup(session_.state<SkyTuningState>().selectedGroup).text;
 }
 
 std::optional<QString> SkyTuning::tipAt(float x, float y) {

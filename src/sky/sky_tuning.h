@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ground/ground_randomiser.h"
+#include "sets/slider_values.h"
 #include "sky/sky_sample.h"
 
 #include <optional>

@@ -3,7 +3,7 @@
 #include "core/error.h"
 #include "core/ini_file.h"
 #include "core/numbers.h"
-#include "ground/cloud_cover.h"
+#include "sets/cloud_cover.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_groups.h"
 
@@ -22,14 +22,14 @@ FilePath settingsFile(const Session& session) {
 
 void startAnew(Session& session) {
     tuneCloudCover(session, 1);
-    session.skyTuning.baseSet = u"Default"_s;
-    session.skyPaletteGroups = {};
+    session.state<SkyTuningState>().baseSet = u"Default"_s;
+    session.state<SkyColourTables>().skyPaletteGroups = {};
 }
 
 /// Numbers are read as whole ones: a fraction is cut off, what is missing or unreadable is 0.
 void readTable(Session& session, const FilePath& file) {
     for (const SkyGroupConstants& group : skyGroups()) {
-        SkyGroup& record = skyRecord(session.skyPaletteGroups, group.number);
+        SkyGroup& record = skyRecord(session.state<SkyColourTables>().skyPaletteGroups, group.number);
         for (const SkyField& field : skyFields())
             record.*field.value =
                 static_cast<float>(GetIniInt(session.files, field.name, QString::number(group.number), file));
@@ -37,7 +37,7 @@ void readTable(Session& session, const FilePath& file) {
 }
 
 void readSettings(Session& session, const FilePath& file, const QString& coverWord) {
-    SkyTuningState& tuning = session.skyTuning;
+    SkyTuningState& tuning = session.state<SkyTuningState>();
     tuning.cloudCover = coverWord.left(longestWord);
     if (const CloudCover* cover = cloudCover(coverWord)) tuning.cloudIndex = toInteger(cover->number);
     tuning.baseSet = GetIniString(session.files, baseSection, onlyKey, file).left(longestWord);
@@ -49,31 +49,31 @@ void readSettings(Session& session, const FilePath& file, const QString& coverWo
 void tuneCloudCover(Session& session, int cloudIndex) {
     const CloudCover* cover = cloudCover(cloudIndex);
     if (!cover) throw Error(ErrorCode::subscript);
-    session.skyTuning.cloudIndex = toInteger(cover->number);
-    session.skyTuning.cloudCover = cover->word;
+    session.state<SkyTuningState>().cloudIndex = toInteger(cover->number);
+    session.state<SkyTuningState>().cloudCover = cover->word;
 }
 
 void loadSkyTuning(Session& session) {
-    if (session.skyTuning.isLoaded) return;
+    if (session.state<SkyTuningState>().isLoaded) return;
     const FilePath file = settingsFile(session);
     const QString coverWord = GetIniString(session.files, coverSection, onlyKey, file);
     if (coverWord.isEmpty())
         startAnew(session);
     else
         readSettings(session, file, coverWord);
-    session.skyTuning.selectedGroup = 1;
-    session.skyTuning.isLoaded = true;
+    session.state<SkyTuningState>().selectedGroup = 1;
+    session.state<SkyTuningState>().isLoaded = true;
 }
 
 void saveLastSkySettings(Session& session) {
-    if (!session.skyTuning.isLoaded) return;
+    if (!session.state<SkyTuningState>().isLoaded) return;
     const FilePath path = settingsFile(session);
     IniFile settings;
     if (session.files.exists(path)) settings = IniFile::parse(session.files.read(path));
-    settings.setRawValue(coverSection, onlyKey, trimmedBlanks(session.skyTuning.cloudCover));
-    settings.setRawValue(baseSection, onlyKey, trimmedBlanks(session.skyTuning.baseSet));
+    settings.setRawValue(coverSection, onlyKey, trimmedBlanks(session.state<SkyTuningState>().cloudCover));
+    settings.setRawValue(baseSection, onlyKey, trimmedBlanks(session.state<SkyTuningState>().baseSet));
     for (const SkyGroupConstants& group : skyGroups()) {
-        SkyGroup record = skyRecord(session.skyPaletteGroups, group.number);
+        SkyGroup record = skyRecord(session.state<SkyColourTables>().skyPaletteGroups, group.number);
         setRegion(record, group);
         for (const SkyField& field : skyFields())
             settings.setRawValue(field.name, QString::number(group.number), floatText(record.*field.value));

@@ -4,6 +4,15 @@
 
 namespace morvane {
 
+/// What the colour page of the sky is set to, beside its table of numbers (`skyPaletteGroups`).
+struct SkyTuningState {
+    bool isLoaded = false;          ///< once in a run, from the settings file or as for a first run
+    std::int16_t selectedGroup = 1; ///< 1 to 10
+    QString cloudCover;             ///< at most 15 characters, as the base set
+    std::int16_t cloudIndex = 1;    ///< 1 to 5
+    QString baseSet;
+};
+
 /// Loads what the colour page is set to, once in a run: from "LastSkySettings.cfg", or, when there is none or
 /// it names no cloud cover, as for a first run (a clear sky over "Default", all numbers and regions zero). A
 /// cloud cover that is none of the five is kept as text and leaves the index as it was.

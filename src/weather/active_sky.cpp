@@ -2,6 +2,7 @@
 
 #include "core/file_helpers.h"
 #include "core/registry.h"
+#include "weather/weather_state.h"
 #include "weather/wx_finders.h"
 
 namespace morvane {
@@ -39,7 +40,7 @@ std::optional<Message> programProblem(Session& session, QString& path) {
 }
 
 void findExportFile(Session& session) {
-    WeatherState& weather = session.weather;
+    WeatherState& weather = session.state<WeatherState>();
     // So any real cycle counts as newer than none.
     weather.ASv6ExportDate = QDateTime(QDate(1900, 1, 1), QTime(1, 1, 1));
     const FilePath file = exportCycleFile(session);
@@ -62,7 +63,7 @@ Message waitMessage(const QString& title) {
 } // namespace
 
 void findActiveSky(Session& session) {
-    WeatherState& weather = session.weather;
+    WeatherState& weather = session.state<WeatherState>();
     weather.ASv6VersionOK = false;
     weather.ASv6Problem.reset();
     QString path = StripBackslash(
@@ -79,11 +80,12 @@ void findActiveSky(Session& session) {
 }
 
 void tellActiveSkyProblem(Session& session) {
-    if (session.weather.ASv6Problem) session.user.showMessage(*session.weather.ASv6Problem);
+    if (session.state<WeatherState>().ASv6Problem)
+        session.user.showMessage(*session.state<WeatherState>().ASv6Problem);
 }
 
 FilePath exportCycleFile(const Session& session) {
-    return session.weather.ASv6Path / u"Export_Cycle.dat";
+    return session.state<WeatherState>().ASv6Path / u"Export_Cycle.dat";
 }
 
 QDateTime exportCycleTime(Session& session, const FilePath& file) {
@@ -91,7 +93,7 @@ QDateTime exportCycleTime(Session& session, const FilePath& file) {
 }
 
 bool ActiveSky::refresh() {
-    if (session_.weather.ASv6Local && !platform_.isWindowOpen(u"ASv6"_s)) {
+    if (session_.state<WeatherState>().ASv6Local && !platform_.isWindowOpen(u"ASv6"_s)) {
         const QDateTime baseTime = FileExists(session_.files, exportCycleFile(session_))
                                        ? getExportCycleTime()
                                        : session_.clock.localTime();
@@ -109,10 +111,10 @@ QDateTime ActiveSky::getExportCycleTime() {
 }
 
 bool ActiveSky::waitForExportCycle(const QDateTime& baseTime) {
-    session_.weather.ASv6Busy = true;
+    session_.state<WeatherState>().ASv6Busy = true;
     session_.user.answers().cancelRequested = false;
     const bool hasCome = waitForNewTime(baseTime) && giveTimeToWrite();
-    session_.weather.ASv6Busy = false;
+    session_.state<WeatherState>().ASv6Busy = false;
     session_.user.answers().cancelRequested = false;
     if (!hasCome) session_.user.hideMessage();
     return hasCome;

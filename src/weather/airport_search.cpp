@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "core/session.h"
 #include "core/statement_translation.h"
+#include "weather/weather_state.h"
 
 namespace morvane {
 
@@ -75,10 +76,11 @@ FilterValues popCities(const Session& session, const QString& where) {
 }
 
 FoundAirports popAirports(const Session& session, const AirportFilter& filter) {
-    const WeatherState& weather = session.weather;
+    const WeatherState& weather = session.state<WeatherState>();
     std::optional<RowSet> rows;
-    clsAirportData(session).getAirportData(
-        session.AirportQuery + narrowedWhere(weather, filter) + weather.AirportQueryOrder, rows);
+    clsAirportData(session).getAirportData(session.state<WeatherState>().AirportQuery +
+                                               narrowedWhere(weather, filter) + weather.AirportQueryOrder,
+                                           rows);
     FoundAirports found;
     if (!rows || rows->atEnd()) return {{}, u"No Airports Found"_s};
     found.airports.reserve(static_cast<std::size_t>(rows->count()));

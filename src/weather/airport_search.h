@@ -1,6 +1,7 @@
 #pragma once
 
 #include "weather/airport_data.h"
+#include "weather/weather_state.h"
 
 #include <QStringList>
 #include <vector>

@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "core/session.h"
 #include "weather/metar_decoder.h"
+#include "weather/weather_state.h"
 
 namespace morvane {
 
@@ -20,12 +21,12 @@ std::int16_t cloudClassOf(Session& session, const QString& report) {
 /// False when the way that was chosen was cancelled.
 bool chooseCover(Session& session) {
     session.user.showModal(Screen::frm_Select_CC_Method);
-    const auto method = static_cast<CoverMethod>(session.modal.coverMethod);
-    session.CoverCancelled = method == CoverMethod::cancelled;
-    if (session.CoverCancelled) return true;
-    session.modal.coverConfirmed = false;
-    session.user.showModal(methodScreens[session.modal.coverMethod]);
-    return session.modal.coverConfirmed;
+    const auto method = static_cast<CoverMethod>(session.state<CoverChoice>().coverMethod);
+    session.state<FlightWeather>().CoverCancelled = method == CoverMethod::cancelled;
+    if (session.state<FlightWeather>().CoverCancelled) return true;
+    session.state<CoverChoice>().coverConfirmed = false;
+    session.user.showModal(methodScreens[session.state<CoverChoice>().coverMethod]);
+    return session.state<CoverChoice>().coverConfirmed;
 }
 
 } // namespace
@@ -52,15 +53,27 @@ std::int16_t computeAverageCover(std::int16_t departure, std::int16_t destinatio
 }
 
 void setCover(Session& session, std::int16_t cloudClass) {
-    session.WxCloudList = QStringList{QString::number(cloudClass)};
-    session.WxStrengthList = QStringList{QString()};
+    session.state<FlightWeather>().WxCloudList = QStringList{QString::number(cloudClass)};
+    session.state<FlightWeather>().WxStrengthList = QStringList{QString()};
 }
 
 std::int16_t takeCoverOfAirports(Session& session) {
-    const std::int16_t average = computeAverageCover(cloudClassOf(session, session.weather.DepMetar),
-                                                     cloudClassOf(session, session.weather.DestMetar));
+    const std::int16_t average =
+        computeAverageCover(cloudClassOf(session, session.state<WeatherState>().DepMetar),
+                            cloudClassOf(session, session.state<WeatherState>().DestMetar));
     if (average > 0) setCover(session, average);
     return average;
+}
+
+bool processMetarString(Session& session, const QString& metar) {
+    clsDecodeMetar report(session.user);
+    report.decodeMetarString(trimmedBlanks(metar));
+    setCover(session, report.MetarMaxCloud);
+    if (report.MetarMaxCloud != 0) return true;
+    session.user.showMessage({MessageKind::error, u"METAR Format Error!"_s,
+                              u"METAR String format not recognised please enter new string to process"_s,
+                              true, false, false});
+    return false;
 }
 
 void selectCloudCoverMethod(Session& session) {
@@ -68,7 +81,7 @@ void selectCloudCoverMethod(Session& session) {
     // A program that ends closes each screen at once, which must not bring up the next one.
     while (!chooseCover(session))
         if (session.ExitInProgress.endsWork()) break;
-    session.CoverCancelled |= session.ExitInProgress.endsWork();
+    session.state<FlightWeather>().CoverCancelled |= session.ExitInProgress.endsWork();
     session.user.showScreen(Screen::frm_Main);
 }
 

@@ -1,11 +1,24 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <cstdint>
 
 namespace morvane {
 
 class Session;
+
+/// The weather of the flight that is to be matched.
+struct FlightWeather {
+    QStringList WxCloudList, WxStrengthList; ///< one element a point
+    bool CoverCancelled = false;
+};
+
+/// What the choice of a cover gives back; the cover itself stands in FlightWeather.
+struct CoverChoice {
+    std::int16_t coverMethod = 0; ///< frm_Select_CC_Method: the option in force (see CoverMethod)
+    bool coverConfirmed = false;  ///< frm_FlightPlan, frm_FromDepDestVal, frm_CC_From_Option,
+                                  ///< frm_CC_From_Metar_String: whether OK was pressed
+};
 
 /// How a cloud class is shown.
 struct CoverDisplay {
@@ -28,7 +41,11 @@ void setCover(Session& session, std::int16_t cloudClass);
 /// cover as it was, when neither has clouds.
 std::int16_t takeCoverOfAirports(Session& session);
 
-/// Ways to a cover, as ModalState::coverMethod has them.
+/// The decoder's whole text into the session's lists: its cloud class and no strength. False, after the
+/// message that told so, for a report without a cloud group; the list then holds "0".
+bool processMetarString(Session& session, const QString& metar);
+
+/// Ways to a cover, as CoverChoice::coverMethod has them.
 enum class CoverMethod : std::int16_t { flightPlan, airports, option, report, cancelled };
 
 /// Asks for the way and then for the cover, over and over until one is confirmed, as a cancelled way leads

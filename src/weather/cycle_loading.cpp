@@ -1,5 +1,6 @@
 // Where a cycle's lines come from, and how they reach the table.
 
+#include "core/failure_report.h"
 #include "core/file_helpers.h"
 #include "core/job.h"
 #include "core/store_records.h"
@@ -11,6 +12,7 @@
 #include "weather/decoded_report.h"
 #include "weather/report_age.h"
 #include "weather/weather_endpoint.h"
+#include "weather/weather_state.h"
 #include "weather/wx_finders.h"
 
 #include <algorithm>
@@ -148,23 +150,23 @@ bool clsWxFinderData::loadExportFile(const FilePath& file) {
     const QString year = QString::number(session_.clock.localTime().date().year());
     const bool isLoaded = takeReports(lines, {time.date(), toInteger(time.time().hour()), year}, step);
     if (!isLoaded) return false;
-    session_.weather.ASv6ExportDate = time;
-    session_.weather.ASv6Imported = true;
+    session_.state<WeatherState>().ASv6ExportDate = time;
+    session_.state<WeatherState>().ASv6Imported = true;
     return true;
 }
 
 /// Until all of them are in the table, the collection and the cycle in memory stay as they were.
 bool clsWxFinderData::takeReports(const QStringList& lines, const CycleMoment& cycle, double step) {
     storeReports(lines, cycle, step);
-    takeCycle(session_.weather, cycle);
-    auto before = std::exchange(session_.gWxFinders, std::make_unique<clsWxFinders>(session_));
+    takeCycle(session_.state<WeatherState>(), cycle);
+    auto before = std::exchange(session_.rows<clsWxFinders>(), std::make_unique<clsWxFinders>(session_));
     if (!GetWeatherFromDb()) {
-        session_.gWxFinders = std::move(before);
+        session_.rows<clsWxFinders>() = std::move(before);
         return false;
     }
     session_.user.updateProgress({}, {}, 100);
     session_.user.hideMessage();
-    if (session_.gWxFinders->Count() > 0)
+    if (session_.rows<clsWxFinders>()->Count() > 0)
         session_.user.tellDone({reportAgeText(session_), reportSourceText(session_)});
     return true;
 }

@@ -7,6 +7,11 @@
 
 namespace morvane {
 
+/// frm_metar: the lines of the decoded report, in order.
+struct DecodedReportLines {
+    QStringList decodedMetarLines;
+};
+
 /// The decoded report of the row of `DECODED_METAR` at hand, line by line: heading, date, wind, visibility,
 /// precipitation, obscuration, sky, temperature, dewpoint, pressure, the report itself. `today` stands in for
 /// a month or a year that the row does not have.

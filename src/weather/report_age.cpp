@@ -4,6 +4,7 @@
 #include "core/numbers.h"
 #include "core/session.h"
 #include "weather/weather_endpoint.h"
+#include "weather/weather_state.h"
 #include "weather/wx_finders.h"
 
 #include <QLocale>
@@ -54,17 +55,18 @@ QDateTime observationTime(const QString& day, const QString& time, const QDateTi
 }
 
 QString reportAgeText(const Session& session) {
-    const int count = session.gWxFinders ? session.gWxFinders->Count() : 0;
+    const auto& finders = session.state<std::unique_ptr<clsWxFinders>>();
+    const int count = finders ? finders->Count() : 0;
     if (count == 0) return u"No reports yet"_s;
     const QString reports = countText(count, u"report"_s);
-    const QDateTime utc = session.clock.utcTime(), youngest = youngestOf(*session.gWxFinders, utc);
+    const QDateTime utc = session.clock.utcTime(), youngest = youngestOf(*finders, utc);
     if (!youngest.isValid()) return reports + u", none with a time"_s;
     return reports + u", the youngest of "_s + QLocale::c().toString(youngest, u"hh:mm'Z' d MMM") + u", "_s +
            ageText(youngest.secsTo(utc) / 60);
 }
 
 QString reportSourceText(const Session& session) {
-    if (session.weather.ASv6VersionOK) return u"Source: Active Sky"_s;
+    if (session.state<WeatherState>().ASv6VersionOK) return u"Source: Active Sky"_s;
     try {
         const auto endpoint = weatherEndpoint(session.registry);
         return u"Source: "_s + (endpoint ? endpoint->server.host() : u"no weather server is set"_s);

@@ -1,6 +1,7 @@
 #include "core/numbers.h"
-#include "simulator/program_runner.h"
+#include "core/program_runner.h"
 #include "weather/active_sky.h"
+#include "weather/weather_state.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,7 +33,8 @@ public:
     /// window.
     bool isWindowOpen(const QString& title) override { return isProgramRunning(title + u".exe"_s); }
     bool startASv6(Session& session) override {
-        return startWithRunner(session, u"Active Sky"_s, session.weather.ASv6Path / u"ASv6.exe");
+        return startWithRunner(session, u"Active Sky"_s,
+                               session.state<WeatherState>().ASv6Path / u"ASv6.exe");
     }
     void rest() override { QThread::msleep(restMilliseconds); }
 };

@@ -1,8 +1,17 @@
 #pragma once
 
 #include "weather/active_sky.h"
+#include "weather/weather_state.h"
+
+#include <QString>
 
 namespace morvane {
+
+/// frm_metar_request: the question, and whether it was answered with Yes.
+struct MetarRequest {
+    QString metarRequestText;
+    bool metarRequested = false;
+};
 
 /// Gets the newest cycle, from a supported Active Sky or from the weather server, after a question where the
 /// table holds rows already (frm_metar_request). Without any report afterwards Fly Now is no longer offered

@@ -1,5 +1,6 @@
-#include "simulator/program_runner.h"
+#include "core/program_runner.h"
 #include "weather/active_sky.h"
+#include "weather/weather_state.h"
 
 #include <windows.h>
 
@@ -19,7 +20,7 @@ class WindowsActiveSky : public ActiveSkyPlatform {
 public:
     bool isWindowOpen(const QString& title) override { return FindWindowW(nullptr, wide(title)) != nullptr; }
     bool startASv6(Session& session) override {
-        const QString program = (session.weather.ASv6Path / u"ASv6.exe").text();
+        const QString program = (session.state<WeatherState>().ASv6Path / u"ASv6.exe").text();
         constexpr INT_PTR lastFailure = 32;
         const HINSTANCE answer =
             ShellExecuteW(nullptr, L"Open", wide(program), L"Hide", nullptr, SW_SHOWNORMAL);

@@ -2,7 +2,8 @@
 
 #include "core/failure_report.h"
 #include "core/session.h"
-#include "weather/weather_control.h"
+#include "weather/airport_report.h"
+#include "weather/weather_state.h"
 
 namespace morvane {
 
@@ -77,22 +78,22 @@ const QStringList& cloudCoverEntries() {
 }
 
 void openWxFilter(Session& session) {
-    const std::int16_t maxResults = session.wxFilter.WxMaxResults;
-    session.wxFilter = {};
-    session.wxFilter.WxMaxResults = maxResults;
-    for (QString* entry : {&session.wxFilter.precipitation, &session.wxFilter.intensity,
-                           &session.wxFilter.obscuration, &session.wxFilter.cloudCover})
+    const std::int16_t maxResults = session.state<WxFilter>().WxMaxResults;
+    session.state<WxFilter>() = {};
+    session.state<WxFilter>().WxMaxResults = maxResults;
+    for (QString* entry : {&session.state<WxFilter>().precipitation, &session.state<WxFilter>().intensity,
+                           &session.state<WxFilter>().obscuration, &session.state<WxFilter>().cloudCover})
         *entry = any;
-    session.wxFilter.WxFinderIsDeparture = session.weather.optDepAirport;
+    session.state<WxFilter>().WxFinderIsDeparture = session.state<WeatherState>().optDepAirport;
 }
 
 std::vector<clsWxFinders::Pointer> filterMetars(Session& session) {
-    if (!session.gWxFinders) clsWxFinders::reload(session);
+    if (!session.rows<clsWxFinders>()) clsWxFinders::reload(session);
     std::vector<clsWxFinders::Pointer> found;
-    for (int count = 1; const auto& finder : *session.gWxFinders) {
-        if (!passes(session.wxFilter, *finder)) continue;
+    for (int count = 1; const auto& finder : *session.rows<clsWxFinders>()) {
+        if (!passes(session.state<WxFilter>(), *finder)) continue;
         found.push_back(finder);
-        if (count++ == session.wxFilter.WxMaxResults) break;
+        if (count++ == session.state<WxFilter>().WxMaxResults) break;
     }
     return found;
 }
@@ -106,11 +107,11 @@ void showWxFinder(Session& session) {
 void selectWxAirport(Session& session) {
     const FailureReport report{u"METAR Error!"_s, MessageKind::exclamation};
     // The page goes along with the end that was chosen, so that name and report of an end never part.
-    session.weather.optDepAirport = session.wxFilter.WxFinderIsDeparture;
-    session.weather.optDestAirport = !session.wxFilter.WxFinderIsDeparture;
+    session.state<WeatherState>().optDepAirport = session.state<WxFilter>().WxFinderIsDeparture;
+    session.state<WeatherState>().optDestAirport = !session.state<WxFilter>().WxFinderIsDeparture;
     session.user.refreshScreen(Screen::frm_WxControl);
     reportFailures(session.user, report, [&] {
-        if (const auto airport = findAirport(session, session.wxFilter.WxSelectedIcao))
+        if (const auto airport = findAirport(session, session.state<WxFilter>().WxSelectedIcao))
             chooseAirport(session, *airport);
         else
             session.user.showMessage({report.kind, report.title,

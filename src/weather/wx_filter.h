@@ -7,7 +7,17 @@
 namespace morvane {
 
 class Session;
-struct WxFilter;
+
+/// What the weather finder asks for.
+struct WxFilter {
+    QString precipitation, intensity, obscuration, cloudCover; ///< entries of the lists
+    bool towering = false, cumulonimbus = false, cumulus = false;
+    QString WxFilterText; ///< beginning of a station code
+    std::int16_t WxMaxResults = 25;
+    bool WxFinderIsDeparture = true;
+    QString WxSelectedIcao;
+    bool WxFinderLoading = false; ///< the screen opens: nothing is filtered yet
+};
 
 // What the lists of the weather finder offer, "Any" first.
 const QStringList& precipitationEntries();

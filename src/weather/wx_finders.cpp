@@ -1,10 +1,12 @@
 #include "weather/wx_finders.h"
 
+#include "core/failure_report.h"
 #include "core/statement_translation.h"
 #include "core/store_records.h"
 #include "core/store_statement.h"
 #include "weather/cycle_progress.h"
 #include "weather/metar_decoder.h"
+#include "weather/weather_state.h"
 
 namespace morvane {
 
@@ -125,7 +127,7 @@ void overwriteRow(Store& store, std::int64_t key, const clsWxFinder& finder, Sto
 } // namespace
 
 bool clsWxFinders::reload(Session& session) {
-    return reloadCollection(session, session.gWxFinders, &clsWxFinders::getMetarsFromDB);
+    return reloadCollection(session, session.rows<clsWxFinders>(), &clsWxFinders::getMetarsFromDB);
 }
 
 bool clsWxFinders::getMetarsFromDB() {
@@ -143,7 +145,7 @@ bool clsWxFinders::getMetarsFromASv6(const QString& picture) {
 bool clsWxFinderData::GetWeatherFromDb() {
     const FailureReport report{u"Metar Database Error!"_s, MessageKind::exclamation};
     return reportFailures(session_.user, report, [&] {
-        clsWxFinders& finders = required(session_.gWxFinders);
+        clsWxFinders& finders = required(session_.rows<clsWxFinders>());
         const QString presentYear = QString::number(session_.clock.localTime().date().year());
         RowSet rows(connectedStore(session_), u"SELECT * FROM DECODED_METAR ORDER BY METAR_ICAO"_s);
         // While the program starts the bar is the splash's, which stays silent about an empty table.
@@ -152,7 +154,7 @@ bool clsWxFinderData::GetWeatherFromDb() {
                                                    "database.  Please wait....."_s;
         if (!session_.StartingUp) showProgress(text);
         CycleProgress progress(session_.user, text, 100.0 / (rows.count() + 2));
-        if (!rows.atEnd()) session_.weather.MetarDataLoaded = true;
+        if (!rows.atEnd()) session_.state<WeatherState>().MetarDataLoaded = true;
         for (; !rows.atEnd(); rows.next(), progress.advance()) {
             clsWxFinder finder;
             readFields(rows, columns, session_.DecimalSep, finder);
@@ -168,7 +170,7 @@ bool clsWxFinderData::GetWeatherFromDb() {
 /// Wanted: one fixed station tells a session that was started from the stored table which cycle it holds,
 /// and without its row there is none.
 void clsWxFinderData::takeCycleOf(const clsWxFinder& reference) {
-    WeatherState& weather = session_.weather;
+    WeatherState& weather = session_.state<WeatherState>();
     if (weather.MetarCycleDay != 0) return;
     // A report without a date leaves the cycle unknown.
     weather.MetarCycleDay = trimmedBlanks(reference.WxFinderDate).toShort();
@@ -198,7 +200,7 @@ void clsWxFinderData::writeRow(const DecodedMetarRow& decoded) {
 bool clsWxFinderData::insertDecodedMetar(const DecodedMetarRow& decoded) {
     return reportFailures(session_.user, insertFailure, [&] {
         writeRow(decoded);
-        session_.weather.MetarDataLoaded = true;
+        session_.state<WeatherState>().MetarDataLoaded = true;
     });
 }
 

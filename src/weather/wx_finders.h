@@ -60,15 +60,15 @@ struct DecodedMetarRow {
 class clsWxFinders : public KeyedCollection<clsWxFinder> {
 public:
     explicit clsWxFinders(Session& session) : session_(session) {}
-    /// A fresh, loaded collection in `gWxFinders`.
+    /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
     const KeyedCollection<clsWxFinder>& GetWxFinder() const { return *this; }
     std::int16_t findIndex(const QString& icao) const { return findName(icao); }
     /// False after the message of a failure; the collection then holds what was read so far.
     bool getMetarsFromDB();
-    // These two put a fresh collection into `gWxFinders`: the one that was asked may be gone afterwards.
-    // False after a cancel or the message of a failure. For `picture` see Message.
+    // These two put a fresh collection into the session's rows: the one that was asked may be gone
+    // afterwards. False after a cancel or the message of a failure. For `picture` see Message.
     bool getMetarsFromNOAA(const QString& picture = {});
     bool getMetarsFromASv6(const QString& picture = {});
 

@@ -1,6 +1,5 @@
 #include "cli/console.h"
 
-#include "core/application.h"
 #include "core/store.h"
 #include "support/printing.h"
 

@@ -1,8 +1,10 @@
 #include "cli/console.h"
 
-#include "core/application.h"
+#include "core/store_connection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
 #include "sky/sky_sets.h"
+#include "sky/sky_texture_sets.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -131,7 +133,7 @@ void ConsoleInstall::addSet(const QString& name, const QString& cover, bool acti
 QString ConsoleInstall::sets() {
     connectDatabase(session);
     reload();
-    const QString names = statesOf(*session.gTextureSets, &clsTextureSet::Actvated);
+    const QString names = statesOf(*session.rows<clsTextureSets>(), &clsTextureSet::Actvated);
     closeDatabase(session);
     return names;
 }
@@ -146,7 +148,7 @@ void ConsoleInstall::addSky(const QString& name, const QString& cover, bool acti
 QString ConsoleInstall::skies() {
     connectDatabase(session);
     reload();
-    const QString names = statesOf(*session.gSkyTextureSets, &clsSkyTextureSet::Activated);
+    const QString names = statesOf(*session.rows<clsSkyTextureSets>(), &clsSkyTextureSet::Activated);
     closeDatabase(session);
     return names;
 }

@@ -1,6 +1,5 @@
 #include "cli/console.h"
 
-#include "core/options.h"
 #include "support/printing.h"
 
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
 #include "cli/console.h"
+#include "core/store_connection.h"
 
-#include "core/application.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 

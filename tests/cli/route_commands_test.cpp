@@ -1,5 +1,5 @@
 #include "cli/console.h"
-#include "core/application.h"
+#include "core/store_connection.h"
 #include "weather/stored_reports.h"
 
 #include "support/printing.h"

@@ -1,6 +1,6 @@
 #include "cli/console.h"
 
-#include "simulator/originals.h"
+#include "sets/originals.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>

@@ -3,9 +3,9 @@
 #include "core/store_fixture.h"
 #include "ground/texture_sets.h"
 #include "night/night_texture_sets.h"
+#include "sets/resource_folders.h"
 #include "simulator/backups.h"
 #include "simulator/configs.h"
-#include "simulator/resource_folders.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
 #include "weather/wx_finders.h"
@@ -69,30 +69,34 @@ TEST_F(RecordsTest, everyKindOfRecordSurvivesAReload) {
     const QString colours = u"0:1,4:0:-1:3:-1,5"_s;
     const QString name = u"Storm på Ålborg's 1.5"_s;
     saveAndLoad(clsTextureSet{false, true, 0, colours, name, u"True"_s, u"a, b"_s, u"Overcast"_s, true},
-                session.gTextureSets, clsTextureSets::reload, &clsTextureSets::UpdateTextureSet,
+                session.rows<clsTextureSets>(), clsTextureSets::reload, &clsTextureSets::UpdateTextureSet,
                 u"TEXTURE_SETS"_s, u"12|0:1.4:0:-1:3:-1.5|12-Storm på Ålborg's 1.5|Overcast|True|a, b|1|0"_s);
-    EXPECT_EQ(session.gTextureSets->GetItem(1)->ColorSettings, colours);
+    EXPECT_EQ(session.rows<clsTextureSets>()->GetItem(1)->ColorSettings, colours);
     saveAndLoad(clsNightTextureSet{true, true, 0, colours, name, u"False"_s, u"warm"_s},
-                session.gNightTextureSets, clsNightTextureSets::reload,
+                session.rows<clsNightTextureSets>(), clsNightTextureSets::reload,
                 &clsNightTextureSets::UpdateNightTextureSet, u"NIGHT_TEXTURE_SETS"_s,
                 u"12|0:1.4:0:-1:3:-1.5|12-Storm på Ålborg's 1.5|False|warm|1"_s);
     saveAndLoad(clsSkyTextureSet{u"Pro Sky"_s, u"d"_s, u"True"_s, u"Overcast"_s, true, true, 0, name},
-                session.gSkyTextureSets, clsSkyTextureSets::reload, &clsSkyTextureSets::UpdateSkyTextureSet,
-                u"SKY_TEXTURE_SETS"_s, u"12|12-Storm på Ålborg's 1.5|Overcast|True|d|Pro Sky|1"_s);
-    saveAndLoad(clsBackup{u"Backup"_s, 0, clock.now, true}, session.gBackups, clsBackups::reload,
+                session.rows<clsSkyTextureSets>(), clsSkyTextureSets::reload,
+                &clsSkyTextureSets::UpdateSkyTextureSet, u"SKY_TEXTURE_SETS"_s,
+                u"12|12-Storm på Ålborg's 1.5|Overcast|True|d|Pro Sky|1"_s);
+    saveAndLoad(clsBackup{u"Backup"_s, 0, clock.now, true}, session.rows<clsBackups>(), clsBackups::reload,
                 &clsBackups::UpdateBackups, u"MV_BACKUP"_s, u"12|12-Backup|2007/05/30 21:14:09"_s);
     // A category's name gets no key.
     saveAndLoad(clsResourceFolder{true, 0, u"DUTCH"_s, u"source"_s, u"Scenery\\World"_s, u"Dutch"_s},
-                session.gResources, clsResourceFolders::reload, &clsResourceFolders::UpdateResources,
-                u"RESOURCE_FOLDERS"_s, u"12|DUTCH|source|Dutch|Scenery\\World"_s);
+                session.rows<clsResourceFolders>(), clsResourceFolders::reload,
+                &clsResourceFolders::UpdateResources, u"RESOURCE_FOLDERS"_s,
+                u"12|DUTCH|source|Dutch|Scenery\\World"_s);
     const clsSkyTextureSubSet sky{u"Day"_s, true,    3,       0,       u"Day:3-Storm"_s,
                                   u"gd"_s,  u"gl"_s, u"cd"_s, u"cl"_s, u"wd"_s,
                                   u"2,5"_s, u"wl"_s, u"s"_s,  u"hl"_s, u"hh"_s};
     saveAndLoad(
-        sky, session.gSkyTextureSubSets, +[](Session& s) { return clsSkyTextureSubSets::reload(s, 3); },
+        sky, session.rows<clsSkyTextureSubSets>(),
+        +[](Session& s) { return clsSkyTextureSubSets::reload(s, 3); },
         &clsSkyTextureSubSets::UpdateSkyTextureSubSet, u"SKY_TEXTURE_SUB_SETS"_s,
         u"12|3|12-Day:3-Storm|gd|gl|cd|cl|hh|hl|s|wl|2.5|wd|Day"_s);
-    EXPECT_EQ(session.gSkyTextureSubSets->GetItem(1)->WaterMain, "2.5"); // the sky's are read as stored
+    EXPECT_EQ(session.rows<clsSkyTextureSubSets>()->GetItem(1)->WaterMain,
+              "2.5"); // the sky's are read as stored
     EXPECT_TRUE(user.calls.isEmpty());
 }
 
@@ -100,16 +104,16 @@ TEST_F(RecordsTest, aSkySetGoesWithItsColours) {
     execute(u"INSERT INTO SKY_TEXTURE_SETS(ID) VALUES (12)"_s);
     execute(u"INSERT INTO SKY_TEXTURE_SUB_SETS(TEXTURE_SET_ID) VALUES (3), (12), (12)"_s);
     clsSkyTextureSubSets::reload(session, 12);
-    EXPECT_EQ(session.gSkyTextureSubSets->Count(), 2);
+    EXPECT_EQ(session.rows<clsSkyTextureSubSets>()->Count(), 2);
     clsSkyTextureSets::reload(session);
-    EXPECT_TRUE(session.gSkyTextureSets->RemoveItem(u"12"_s));
+    EXPECT_TRUE(session.rows<clsSkyTextureSets>()->RemoveItem(u"12"_s));
     EXPECT_EQ(rowsOf(u"SKY_TEXTURE_SETS"_s), QStringList());
     EXPECT_EQ(column(u"TEXTURE_SET_ID"_s, u"SKY_TEXTURE_SUB_SETS"_s), QStringList{u"3"_s});
 }
 
 TEST_F(RecordsTest, keysEndAtSixteenBits) {
     setNextKey(u"TEXTURE_SETS"_s, 32768);
-    EXPECT_FALSE(session.gTextureSets->UpdateTextureSet(storm));
+    EXPECT_FALSE(session.rows<clsTextureSets>()->UpdateTextureSet(storm));
     EXPECT_EQ(storm.TextureSet, "Storm");
     EXPECT_EQ(groundSets(), QStringList());
     EXPECT_EQ(user.told(), QStringList{u"Error|Morvane Error|Overflow"_s});
@@ -119,14 +123,14 @@ TEST_F(RecordsTest, aDamagedRowIsToldAndHidesNoOther) {
     execute(u"INSERT INTO TEXTURE_SETS(ID, INSTALLED) VALUES (7, 0), (8, 'much'), (9, 'more'), (10, 0), "
             "(40000, 0)"_s);
     EXPECT_FALSE(clsTextureSets::reload(session));
-    EXPECT_EQ(session.gTextureSets->Count(), 2);
+    EXPECT_EQ(session.rows<clsTextureSets>()->Count(), 2);
     EXPECT_EQ(user.told(), QStringList{u"Error|Morvane Error|Type mismatch"_s});
     execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('1-Backup', 'yesterday'), "
             "(NULL, NULL), ('3-Backup', '2007/05/30 21:14:09')"_s);
     EXPECT_TRUE(clsBackups::reload(session)); // a backup without a date can be put back, too
-    ASSERT_EQ(session.gBackups->Count(), 3);
-    EXPECT_FALSE(session.gBackups->GetItem(1)->BackupDateTime.isValid());
-    EXPECT_EQ(session.gBackups->GetItem(3)->BackupDateTime, clock.now);
+    ASSERT_EQ(session.rows<clsBackups>()->Count(), 3);
+    EXPECT_FALSE(session.rows<clsBackups>()->GetItem(1)->BackupDateTime.isValid());
+    EXPECT_EQ(session.rows<clsBackups>()->GetItem(3)->BackupDateTime, clock.now);
 }
 
 /// The narrowest column, the nights', takes the name in its final form alone.
@@ -137,9 +141,9 @@ TEST_F(RecordsTest, aLongNameIsCutBeforeItsFirstWrite) {
     clsNightTextureSet night{false, true, 0, {}, title, {}, {}};
     clsSkyTextureSet sky{{}, {}, {}, {}, true, false, 0, title};
     storm.TextureSet = title;
-    EXPECT_TRUE(session.gTextureSets->UpdateTextureSet(storm));
-    EXPECT_TRUE(session.gNightTextureSets->UpdateNightTextureSet(night));
-    EXPECT_TRUE(session.gSkyTextureSets->UpdateSkyTextureSet(sky));
+    EXPECT_TRUE(session.rows<clsTextureSets>()->UpdateTextureSet(storm));
+    EXPECT_TRUE(session.rows<clsNightTextureSets>()->UpdateNightTextureSet(night));
+    EXPECT_TRUE(session.rows<clsSkyTextureSets>()->UpdateSkyTextureSet(sky));
     EXPECT_EQ(groundSets(), QStringList{name});
     EXPECT_EQ(column(u"TEXTURE_SET"_s, u"NIGHT_TEXTURE_SETS"_s), QStringList{name});
     EXPECT_EQ(column(u"SKY_TEXTURE_SET"_s, u"SKY_TEXTURE_SETS"_s), QStringList{name});
@@ -165,18 +169,18 @@ TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
 
 TEST_F(RecordsTest, savingAChangeLeavesTheRecordInMemory) {
     addGroundSets({u"Default"_s, u"Storm"_s});
-    const auto kept = session.gTextureSets->GetKey(u"2"_s);
+    const auto kept = session.rows<clsTextureSets>()->GetKey(u"2"_s);
     clsTextureSet changed = *kept;
     changed.Description = u"wet"_s;
-    ASSERT_TRUE(session.gTextureSets->UpdateTextureSet(changed));
-    EXPECT_EQ(session.gTextureSets->GetKey(u"2"_s), kept);
+    ASSERT_TRUE(session.rows<clsTextureSets>()->UpdateTextureSet(changed));
+    EXPECT_EQ(session.rows<clsTextureSets>()->GetKey(u"2"_s), kept);
     EXPECT_EQ(kept->Description, "");
     EXPECT_EQ(column(u"DESCRIPTION"_s, u"TEXTURE_SETS"_s), (QStringList{QString(), u"wet"_s}));
 }
 
 TEST_F(RecordsTest, positionsAndKeys) {
     addGroundSets({u"a"_s, u"b"_s, u"c"_s});
-    clsTextureSets& sets = *session.gTextureSets;
+    clsTextureSets& sets = *session.rows<clsTextureSets>();
     EXPECT_THROW(sets.Item(0), Error);
     EXPECT_THROW(sets.Item(4), Error);
     EXPECT_THROW(sets.RemoveItem(u"4"_s, 1), Error); // an unknown key touches no row
@@ -188,19 +192,19 @@ TEST_F(RecordsTest, positionsAndKeys) {
 TEST_F(RecordsTest, aKeyInMemoryAlreadyFailsAfterTheRowIsThere) {
     clsTextureSet stale;
     stale.TsID = 1;
-    session.gTextureSets->AddItem(stale);
-    EXPECT_FALSE(session.gTextureSets->UpdateTextureSet(storm));
+    session.rows<clsTextureSets>()->AddItem(stale);
+    EXPECT_FALSE(session.rows<clsTextureSets>()->UpdateTextureSet(storm));
     EXPECT_EQ(groundSets(), QStringList{u"1-Storm"_s});
 }
 
 TEST_F(RecordsTest, namesAreFoundAsTextOrAsNumbers) {
     addGroundSets({u"Storm"_s, u"storm"_s});
-    EXPECT_EQ(session.gTextureSets->findIndex(u"storm"_s), 2); // exactly, with regard to case
-    EXPECT_EQ(session.gTextureSets->findIndex(u"calm"_s), 0);
+    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex(u"storm"_s), 2); // exactly, with regard to case
+    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex(u"calm"_s), 0);
     addBackups({u"12.0"_s, u"2-Backup"_s});
     clsBackups::reload(session);
-    EXPECT_EQ(session.gBackups->findIndex(12), 1);
-    EXPECT_THROW(session.gBackups->findIndex(2), Error);
+    EXPECT_EQ(session.rows<clsBackups>()->findIndex(12), 1);
+    EXPECT_THROW(session.rows<clsBackups>()->findIndex(2), Error);
 }
 
 TEST_F(RecordsTest, aLoadFillsTheSessionsCollection) {
@@ -208,29 +212,29 @@ TEST_F(RecordsTest, aLoadFillsTheSessionsCollection) {
     clsTextureSets second(session);
     EXPECT_TRUE(second.getTextureSets());
     EXPECT_EQ(second.Count(), 0);
-    EXPECT_EQ(session.gTextureSets->Count(), 1);
+    EXPECT_EQ(session.rows<clsTextureSets>()->Count(), 1);
 }
 
 TEST_F(RecordsTest, oneSetIsInstalled) {
     addGroundSets({u"Default"_s, u"Storm"_s, u"Calm"_s, u"Storm"_s}); // two of one name, by hand
     const auto installed = [&] { return column(u"INSTALLED"_s, u"TEXTURE_SETS"_s).join(u' '); };
     execute(u"UPDATE TEXTURE_SETS SET INSTALLED = True WHERE ID < 3"_s); // more than ever should be
-    EXPECT_TRUE(session.gTextureSets->markInstalled(u"Storm"_s));
+    EXPECT_TRUE(session.rows<clsTextureSets>()->markInstalled(u"Storm"_s));
     EXPECT_EQ(installed(), "0 1 0 0");
     execute(u"CREATE TRIGGER T BEFORE UPDATE ON TEXTURE_SETS WHEN OLD.TEXTURE_SET = 'Storm' "
             "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
-    EXPECT_FALSE(session.gTextureSets->markInstalled(u"Default"_s));
+    EXPECT_FALSE(session.rows<clsTextureSets>()->markInstalled(u"Default"_s));
     EXPECT_EQ(installed(), "0 1 0 0"); // not two, not none
 }
 
 TEST_F(RecordsTest, configurationsAreFoundByTheirTitle) {
     execute(u"INSERT INTO MV_CONFIG(TITLE, MV_IMAGE) VALUES ('Golf''s', 'a.bmp'), ('Other', 'b.bmp')"_s);
     clsConfigs::reload(session);
-    clsConfig config = *session.gConfigs->GetItem(1);
+    clsConfig config = *session.rows<clsConfigs>()->GetItem(1);
     config.ConfigInstalled = true;
-    EXPECT_TRUE(session.gConfigs->UpdateConfig(config));
+    EXPECT_TRUE(session.rows<clsConfigs>()->UpdateConfig(config));
     config.ConfigName = u"No such title"_s;
-    EXPECT_FALSE(session.gConfigs->UpdateConfig(config)); // no row is made
+    EXPECT_FALSE(session.rows<clsConfigs>()->UpdateConfig(config)); // no row is made
     EXPECT_EQ(rowsOf(u"MV_CONFIG"_s).join(u'/'), "1|Golf's||a.bmp|||1/2|Other||b.bmp|||0");
 }
 
@@ -262,9 +266,9 @@ TEST_F(RecordsTest, oneReportAStation) {
     report(u"ksea"_s, u""_s, u""_s); // takes the row's place; its latitude stays
     EXPECT_EQ(column(u"METAR_LAT"_s, u"DECODED_METAR"_s), (QStringList{u"47.45"_s, QString()}));
     EXPECT_TRUE(clsWxFinders::reload(session));
-    EXPECT_EQ(session.gWxFinders->GetItem(1)->WxFinderYear, "1999"); // by code, not by row
-    EXPECT_EQ(session.gWxFinders->findIndex(u"ksea"_s), 2);
-    EXPECT_EQ(session.gWxFinders->GetKey(u"KSEA"_s)->WxFinderYear, "2007"); // none: the present one
+    EXPECT_EQ(session.rows<clsWxFinders>()->GetItem(1)->WxFinderYear, "1999"); // by code, not by row
+    EXPECT_EQ(session.rows<clsWxFinders>()->findIndex(u"ksea"_s), 2);
+    EXPECT_EQ(session.rows<clsWxFinders>()->GetKey(u"KSEA"_s)->WxFinderYear, "2007"); // none: the present one
 }
 
 /// Each write of a save fails in its turn: one message, and neither half a row nor a record without one.
@@ -274,8 +278,9 @@ TEST_F(RecordsTest, aFailedSaveLeavesNothing) {
     int failures = 0;
     for (;; ++failures) {
         disk.failAt(failures + 1, false);
-        if (session.gTextureSets->UpdateTextureSet(storm)) break;
-        ASSERT_TRUE(storm.IsNew && session.gTextureSets->Count() == 0 && groundSets().isEmpty()) << failures;
+        if (session.rows<clsTextureSets>()->UpdateTextureSet(storm)) break;
+        ASSERT_TRUE(storm.IsNew && session.rows<clsTextureSets>()->Count() == 0 && groundSets().isEmpty())
+            << failures;
         EXPECT_EQ(user.told().size(), failures + 1);
     }
     EXPECT_GE(failures, 2);

@@ -1,6 +1,6 @@
 #include "core/writing.h"
 
-#include "core/application.h"
+#include "app/start_up.h"
 #include "core/changed_rows.h"
 #include "core/job.h"
 #include "core/store.h"
@@ -85,7 +85,7 @@ TEST_F(WritingTest, rowsThatAnotherProgramChangedAreReadAnew) {
     install.session.adoConn->execute(u"UPDATE TEXTURE_SWITCH SET ISHALO = TRUE"_s);
     first.reset();
     const Job job(second);
-    EXPECT_EQ(second.gTextureSets->Count(), 2);
+    EXPECT_EQ(second.rows<clsTextureSets>()->Count(), 2);
     EXPECT_TRUE(second.IsHalo && second.RefreshGroundList);
     EXPECT_FALSE(reloadChangedRows(second)) << "once";
     second.adoConn->execute(u"UPDATE TEXTURE_SWITCH SET ISHALO = FALSE"_s);

@@ -2,6 +2,8 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
+#include "sets/set_removal.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -54,7 +56,7 @@ TEST_F(GroundActions, deactivatingKeepsTheRowAndEmptyFolders) {
 
 TEST_F(GroundActions, defaultAndTheInstalledSetAreProtected) {
     addStorm();
-    session.gTextureSets->markInstalled("2-Storm");
+    session.rows<clsTextureSets>()->markInstalled("2-Storm");
     const std::pair<QString, QString> sets[] = {{"Default", "the Default"},
                                                 {"2-Storm", "the currently installed"}};
     for (const auto& [name, words] : sets) {
@@ -74,13 +76,13 @@ TEST_F(GroundActions, defaultAndTheInstalledSetAreProtected) {
 TEST_F(GroundActions, severalAtOncePassOverDefaultAndTheInstalledOne) {
     for (const char* name : {"2-A", "3-B", "4-C"})
         install.addGroundSet(name, "Overcast", true, threeFiles);
-    session.gTextureSets->markInstalled("3-B");
+    session.rows<clsTextureSets>()->markInstalled("3-B");
     clickGroundRow(session, "2-A");
-    session.ground.selectedRows = QStringList{"Default", "2-A", "3-B", "4-C"};
+    session.state<GroundSelection>().selectedRows = QStringList{"Default", "2-A", "3-B", "4-C"};
     install.user.onModal = [&](Screen screen) {
         ASSERT_EQ(screen, Screen::frm_MultiDelete);
-        EXPECT_EQ(session.modal.multiNames, QStringList({"2-A", "3-B", "4-C"}));
-        session.modal.multiConfirmed = QStringList{"2-A", "3-B"};
+        EXPECT_EQ(session.state<MultiChoice>().multiNames, QStringList({"2-A", "3-B", "4-C"}));
+        session.state<MultiChoice>().multiConfirmed = QStringList{"2-A", "3-B"};
     };
     deleteSelected(false);
     EXPECT_EQ(activationOf("2-A") + activationOf("3-B") + activationOf("4-C"), "goneTrueTrue");
@@ -101,9 +103,11 @@ TEST_F(GroundActions, aRemovalShowsThatItIsBusyAndCanBeEnded) {
     };
     for (const char* name : {"2-A", "3-B"})
         install.addGroundSet(name, "Overcast", true, threeFiles);
-    install.user.onModal = [&](Screen) { session.modal.multiConfirmed = session.modal.multiNames; };
+    install.user.onModal = [&](Screen) {
+        session.state<MultiChoice>().multiConfirmed = session.state<MultiChoice>().multiNames;
+    };
     for (const Case& example : cases) {
-        session.ground.selectedRows = QStringList{"2-A", "3-B"};
+        session.state<GroundSelection>().selectedRows = QStringList{"2-A", "3-B"};
         install.user.calls.clear();
         install.user.onPump = [&] {
             if (install.user.calls.filter("progress").size() == example.cancelAt)
@@ -137,8 +141,8 @@ TEST_F(GroundActions, aLockedStoreEndsARunWithOneMessageBeforeItMakesAnyFile) {
     StoreTransaction lock(other);
     other.execute("DELETE FROM MV_BACKUP WHERE ID = 0"); // takes the write lock
     install.user.onModal = [&](Screen) {
-        session.modal.setCounts = {2, 0, 1, 0, 0};
-        session.modal.setCountsConfirmed = true;
+        session.state<GroundSetCounts>().setCounts = {2, 0, 1, 0, 0};
+        session.state<GroundSetCounts>().setCountsConfirmed = true;
     };
     GroundGeneration(session).createTextureSets(true);
     EXPECT_EQ(install.user.told().size(), 1) << "and no report of how long it took";
@@ -150,12 +154,12 @@ TEST_F(GroundActions, aLockedStoreEndsARunWithOneMessageBeforeItMakesAnyFile) {
 TEST_F(GroundActions, selectionTakesRowColoursAndDescription) {
     const QString key = u"Key:%1"_s.arg(install.addGroundSet("2-Storm", "Overcast", true));
     ASSERT_TRUE(loadGroundSelection(session, key));
-    EXPECT_EQ(session.ground.SelectedGroundKey, key);
-    EXPECT_EQ(session.ground.SelectedGroundSet, "2-Storm");
-    EXPECT_EQ(session.ground.SelectedGroundCover, "Overcast");
-    EXPECT_TRUE(session.ground.SelectedGroundActivated);
-    EXPECT_EQ(session.ground.colours, (ColourValues{0, 1.4f, 0, -1, 3, -1.5f}));
-    EXPECT_EQ(session.ground.SelectedGroundDescription, "A set of a test");
+    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundKey, key);
+    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundSet, "2-Storm");
+    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundCover, "Overcast");
+    EXPECT_TRUE(session.state<GroundSelection>().SelectedGroundActivated);
+    EXPECT_EQ(session.state<GroundSelection>().colours, (ColourValues{0, 1.4f, 0, -1, 3, -1.5f}));
+    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundDescription, "A set of a test");
     EXPECT_FALSE(loadGroundSelection(session, "Key:999"));
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
 }

@@ -1,8 +1,9 @@
-#include "ground/colour_settings.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
 #include "imaging/picture_reader.h"
+#include "sets/colour_settings.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -18,8 +19,8 @@ using test::SmallInstall;
 void create(SmallInstall& install, const std::array<std::int16_t, 5>& counts, bool fromMain = true) {
     install.user.onModal = [&install, counts](Screen screen) {
         ASSERT_EQ(screen, Screen::frm_TsRequired);
-        install.session.modal.setCounts = counts;
-        install.session.modal.setCountsConfirmed = true;
+        install.session.state<GroundSetCounts>().setCounts = counts;
+        install.session.state<GroundSetCounts>().setCountsConfirmed = true;
     };
     GroundGeneration(install.session).createTextureSets(fromMain);
 }
@@ -27,7 +28,7 @@ void create(SmallInstall& install, const std::array<std::int16_t, 5>& counts, bo
 QStringList covers(SmallInstall& install) {
     QStringList words;
     install.reload();
-    for (const auto& set : *install.session.gTextureSets)
+    for (const auto& set : *install.session.rows<clsTextureSets>())
         words << set->CloudCover;
     return words;
 }
@@ -42,7 +43,7 @@ TEST(GroundGeneration, makesARowAndAFileForEachBaseImage) {
     create(install, {0, 0, 0, 0, 1});
 
     install.reload();
-    const auto set = install.session.gTextureSets->GetItem(2);
+    const auto set = install.session.rows<clsTextureSets>()->GetItem(2);
     EXPECT_EQ(set->TextureSet, "2-05-30-2007 21-14-09");
     EXPECT_EQ(set->ColorSettings, "0:-4.4:0:4:-3:-3");
     EXPECT_EQ(set->CloudCover, "Overcast");
@@ -80,7 +81,7 @@ TEST(GroundGeneration, allSetsOfACoverComeBeforeTheNext) {
     EXPECT_EQ(covers(install), QStringList({"Partly Cloudy", "Sky Clear", "Mostly Clear", "Mostly Clear",
                                             "Partly Cloudy", "Mostly Cloudy", "Overcast"}));
     EXPECT_EQ(setFolders(install).size(), 6); // the same second, told apart by their keys
-    EXPECT_TRUE(install.session.RefreshGroundList);
+    EXPECT_TRUE(install.session.state<GroundSelection>().RefreshGroundList);
 }
 
 /// The textures of all sets, and one set's bitmaps where no run before has left them.
@@ -154,7 +155,8 @@ TEST(GroundGeneration, aBaseFileThatFailsGetsThePictureBefore) {
     create(install, {1, 0, 0, 0, 0});
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
     const FilePath textures =
-        groundSetFolder(install.session, install.session.ground.SelectedGroundSet) / u"Texture";
+        groundSetFolder(install.session, install.session.state<GroundSelection>().SelectedGroundSet) /
+        u"Texture";
     EXPECT_EQ(test::readFile(textures / u"030a2su1.bmp"), test::readFile(textures / u"029a2su1.bmp"));
     EXPECT_NE(test::readFile(textures / u"031a2su1.bmp"), test::readFile(textures / u"029a2su1.bmp"));
 }

@@ -1,7 +1,9 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
 #include "ground/tropical_files.h"
+#include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -25,7 +27,7 @@ struct GroundInstall : testing::Test {
                               "UTEurLC\\034b2su4.bmp", "Dutch\\029h2su6.bmp"});
     }
     void installSet(const QString& name) {
-        session.ground.SelectedGroundSet = name;
+        session.state<GroundSelection>().SelectedGroundSet = name;
         GroundInstallation(session).installTextureSet(true);
     }
     QByteArray world(const char16_t* name) {
@@ -62,11 +64,11 @@ TEST_F(GroundInstall, storeThenSplashThenFiles) {
 }
 
 TEST_F(GroundInstall, dutchAndTropicalFollowTheirSwitches) {
-    session.IsDutch = true;
+    session.state<OptionsInForce>().IsDutch = true;
     installSet("2-Storm");
     EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Dutch\\029h2su6.bmp"); // behind the generic one, so it stays
-    session.IsDutch = false;
-    session.IsTropical = true;
+    session.state<OptionsInForce>().IsDutch = false;
+    session.state<OptionsInForce>().IsTropical = true;
     installSet("2-Storm");
     EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Texture\\029B2SU6.BMP"); // the "b" picture in the "h" file
     EXPECT_EQ(tropicalName("029B2su6b.bmp"), "029h2su6b.bmp");
@@ -86,7 +88,7 @@ TEST_F(GroundInstall, theAddOnsFolderDecidesDifferentlyForDefault) {
 
 TEST_F(GroundInstall, defaultBringsTheBodiesAndItsSplashWhateverTheOption) {
     installSet("2-Storm");
-    session.InhibitCustomSplash = true;
+    session.state<OptionsInForce>().InhibitCustomSplash = true;
     writeFile(install.simulator() / u"Uires\\dlgsplash.bmp", "the pilot's second splash");
     installSet("2-Storm");
     EXPECT_EQ(splash(), "the pilot's second splash");
@@ -119,7 +121,7 @@ TEST_F(GroundInstall, readOnlyTargetsRaiseAndLinksAreReplaced) {
 
 TEST_F(GroundInstall, severalSelectedRowsAreRefused) {
     clickGroundRow(session, "2-Storm");
-    session.ground.selectedRows = QStringList{"2-Storm", "Default"};
+    session.state<GroundSelection>().selectedRows = QStringList{"2-Storm", "Default"};
     GroundInstallation(session).installTextureSet(false);
     EXPECT_TRUE(install.installedSets().isEmpty());
     EXPECT_EQ(install.user.told().value(0),
@@ -132,7 +134,7 @@ TEST_F(GroundInstall, aStaleCollectionOverwritesNoOtherSet) {
     install.addGroundSet("3-Calm", "Sky Clear", true);
     clsTextureSet changed = *findGroundSet(session, "3-Calm");
     changed.Actvated = "False";
-    ASSERT_TRUE(session.gTextureSets->UpdateTextureSet(changed)); // in memory it still says "True"
+    ASSERT_TRUE(session.rows<clsTextureSets>()->UpdateTextureSet(changed)); // in memory it still says "True"
     installSet("2-Storm");
     install.reload();
     EXPECT_EQ(findGroundSet(session, "3-Calm")->Actvated, "False");

@@ -1,6 +1,9 @@
 #include "core/store.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/ground_tuning.h"
+#include "ground/sample_textures.h"
+#include "sets/favourite_name.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -14,11 +17,13 @@ struct GroundTuningTest : testing::Test {
     void nameFavourite(const QString& name, const QString& description) {
         install.user.onModal = [=, this](Screen screen) {
             ASSERT_EQ(screen, Screen::frm_AddFav);
-            EXPECT_EQ(session.modal.favKind, FavouriteKind::ground);
-            EXPECT_EQ(session.modal.favName + session.modal.favDescription, u""_s); // not those of last time
-            session.modal.favName = name;
-            session.modal.favDescription = description;
-            session.modal.favConfirmed = true;
+            EXPECT_EQ(session.state<FavouriteAnswer>().favKind, FavouriteKind::ground);
+            EXPECT_EQ(session.state<FavouriteAnswer>().favName +
+                          session.state<FavouriteAnswer>().favDescription,
+                      u""_s); // not those of last time
+            session.state<FavouriteAnswer>().favName = name;
+            session.state<FavouriteAnswer>().favDescription = description;
+            session.state<FavouriteAnswer>().favConfirmed = true;
         };
         tuning.newFavTexture();
     }
@@ -46,8 +51,8 @@ TEST_F(GroundTuningTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
     tuning.showColourPreview({0, 0, 0, 0, 100, 0}); // with no sample yet: nothing to tell
     QString type = u"utind"_s;
     install.user.onModal = [&](Screen) {
-        session.modal.selectedTextureType = type;
-        session.modal.sampleConfirmed = true;
+        session.state<GroundSampleChoice>().selectedTextureType = type;
+        session.state<GroundSampleChoice>().sampleConfirmed = true;
     };
     tuning.openSample();
     const QByteArray bright = pixels(tuning.tuningResultDib());
@@ -60,11 +65,11 @@ TEST_F(GroundTuningTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
 }
 
 TEST_F(GroundTuningTest, aSampleThatCannotBeReadIsStillRecoloured) {
-    TextureSample sample(session, session.ground.colours);
+    TextureSample sample(session, session.state<GroundSelection>().colours);
     const FilePath file = sampleTexture(session.AppPath, defaultSample, u"summer"_s, false);
     ASSERT_TRUE(sample.openTexImage(file));
     const QByteArray plain = pixels(sample.resultDib());
-    session.ground.colours.red = 20;
+    session.state<GroundSelection>().colours.red = 20;
     test::writeFile(file, "no picture");
     EXPECT_FALSE(sample.openTexImage(file));
     EXPECT_NE(pixels(sample.resultDib()), plain); // else the set in hand would show the one before
@@ -76,9 +81,9 @@ TEST_F(GroundTuningTest, aFavouriteIsARowAndEmptyFolders) {
     tuning.showColourPreview({5, 0, -7, 0, 0, 10});
     nameFavourite(u"  Pilot's storm "_s, u" wet & windy "_s);
     const QString name = u"2-Pilot's storm"_s;
-    EXPECT_EQ(session.ground.SelectedGroundSet, name);
-    EXPECT_EQ(session.ground.SelectedGroundDescription, "wet & windy");
-    EXPECT_TRUE(session.RefreshGroundList);
+    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundSet, name);
+    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundDescription, "wet & windy");
+    EXPECT_TRUE(session.state<GroundSelection>().RefreshGroundList);
     EXPECT_EQ(install.user.calls.mid(install.user.calls.size() - 2),
               QStringList({"refresh frm_MVTextures", "show frm_MVTextures"}));
     EXPECT_EQ(storedSet(name), QStringList({"5:0:-1.4:0:0:3", "False", "wet & windy", "Mostly Cloudy"}));
@@ -87,7 +92,7 @@ TEST_F(GroundTuningTest, aFavouriteIsARowAndEmptyFolders) {
     EXPECT_TRUE(test::contentsBelow(sets()).isEmpty());
     EXPECT_TRUE(install.user.told().isEmpty());
 
-    session.modal.favConfirmed = true; // an OK of last time is none of this time's
+    session.state<FavouriteAnswer>().favConfirmed = true; // an OK of last time is none of this time's
     install.user.onModal = [](Screen) {};
     tuning.newFavTexture();
     EXPECT_EQ(loadedGroundSets(session).Count(), 2);
@@ -111,13 +116,13 @@ TEST_F(GroundTuningTest, noTitleLeadsOutOfTheSetsFolder) {
 /// Were the list's last record taken for the one just saved, another set would stand as the selected one.
 TEST_F(GroundTuningTest, aRefusedSaveChangesNothing) {
     install.addGroundSet(u"2-Storm"_s, u"Overcast"_s, true);
-    session.ground.SelectedGroundSet = u"Default"_s;
+    session.state<GroundSelection>().SelectedGroundSet = u"Default"_s;
     session.adoConn->execute(u"CREATE TRIGGER T BEFORE INSERT ON TEXTURE_SETS "
                              "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
     nameFavourite(u"Calm"_s, {});
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-    EXPECT_EQ(session.ground.SelectedGroundSet, "Default");
-    EXPECT_FALSE(session.RefreshGroundList);
+    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundSet, "Default");
+    EXPECT_FALSE(session.state<GroundSelection>().RefreshGroundList);
     EXPECT_TRUE(install.files.listFolders(sets()).isEmpty());
     EXPECT_FALSE(install.user.calls.contains(u"show frm_MVTextures"_s));
 }
@@ -126,7 +131,7 @@ TEST_F(GroundTuningTest, theRowStandsWhenItsFoldersCannotBeMade) {
     test::writeFile(sets() / u"2-Calm", "in the way");
     nameFavourite(u"Calm"_s, {});
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-    EXPECT_TRUE(session.RefreshGroundList);
+    EXPECT_TRUE(session.state<GroundSelection>().RefreshGroundList);
     EXPECT_EQ(storedSet(u"2-Calm"_s).value(1), "False");
 }
 

@@ -1,4 +1,5 @@
 #include "ground/sample_textures.h"
+#include "sets/sample_choice.h"
 
 #include "support/printing.h"
 

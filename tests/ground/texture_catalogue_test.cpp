@@ -1,4 +1,5 @@
 #include "ground/texture_catalogue.h"
+#include "sets/catalogue_file.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 

@@ -1,8 +1,11 @@
-#include "ground/texture_catalogue.h"
 #include "imaging/picture_reader.h"
 #include "night/night_files.h"
 #include "night/night_generation.h"
 #include "night/night_selection.h"
+#include "night/night_texture_sets.h"
+#include "sets/catalogue_file.h"
+#include "sets/options_in_force.h"
+#include "sets/set_removal.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -29,7 +32,7 @@ struct NightActions : testing::Test {
     void confirm(const QStringList& names) {
         install.user.onModal = [=, this](Screen screen) {
             ASSERT_EQ(screen, Screen::frm_MultiDelete);
-            session.modal.multiConfirmed = names;
+            session.state<MultiChoice>().multiConfirmed = names;
         };
     }
 
@@ -53,7 +56,7 @@ TEST_F(NightActions, theListTakesEveryBitmapWhateverTheDutchSwitch) {
                               u"045b2lm1.bmp GENERIC WORLD NIGHT */Texture TempBitmaps/Texture"_s};
     const QStringList dutch{u"005a2lm2.bmp DUTCH NIGHT */Dutch TempBitmaps/Dutch"_s,
                             u"008b2lm1.bmp DUTCH NIGHT */Dutch TempBitmaps/Dutch"_s};
-    EXPECT_FALSE(session.IsDutch);
+    EXPECT_FALSE(session.state<OptionsInForce>().IsDutch);
     EXPECT_EQ(list(), generic + dutch);
     for (const QString& name : {u"005a2lm2.bmp"_s, u"008b2lm1.bmp"_s})
         install.files.remove(install.home() / u"Resources\\DUTCH NIGHT" / name);
@@ -83,16 +86,16 @@ TEST_F(NightActions, activationMakesEveryFileInTheColoursOfTheSet) {
     EXPECT_TRUE(texts.last().contains(u"Converting texture set 1 of 1 texture sets.  Process 2 of 2 "_s));
     EXPECT_TRUE(install.user.calls.contains(u"hide frm_NightTextures"_s));
     EXPECT_EQ(install.user.calls.last(), u"show frm_NightTextures"_s);
-    EXPECT_TRUE(session.RefreshNightList);
+    EXPECT_TRUE(session.state<NightSelection>().RefreshNightList);
 }
 
 TEST_F(NightActions, severalAreActivatedAfterAConfirmation) {
     for (const QString& name : {u"2-A"_s, u"3-B"_s, u"4-C"_s})
         addNightSet(install, name, false);
-    session.night.selectedRows = QStringList{u"Default"_s, u"2-A"_s, u"3-B"_s, u"4-C"_s};
+    session.state<NightSelection>().selectedRows = QStringList{u"Default"_s, u"2-A"_s, u"3-B"_s, u"4-C"_s};
     confirm({u"2-A"_s, u"4-C"_s});
     activate();
-    EXPECT_EQ(session.modal.multiNames, QStringList({u"2-A"_s, u"3-B"_s, u"4-C"_s}));
+    EXPECT_EQ(session.state<MultiChoice>().multiNames, QStringList({u"2-A"_s, u"3-B"_s, u"4-C"_s}));
     EXPECT_EQ(nightSets(session), u"Default+ 2-A+ 3-B 4-C+"_s);
     EXPECT_EQ(install.files.listFolders(sets()), QStringList({u"2-A"_s, u"4-C"_s}));
 }
@@ -129,8 +132,8 @@ TEST_F(NightActions, deletingTakesRowAndFolderAndDeactivatingTheFilesAlone) {
 TEST_F(NightActions, theInstalledSetGoesAloneAndNotAmongSeveral) {
     for (const QString& name : {u"2-A"_s, u"3-B"_s})
         addNightSet(install, name, true, twoFiles);
-    session.gNightTextureSets->markInstalled(u"2-A"_s);
-    session.night.selectedRows = QStringList{u"2-A"_s, u"3-B"_s};
+    session.rows<clsNightTextureSets>()->markInstalled(u"2-A"_s);
+    session.state<NightSelection>().selectedRows = QStringList{u"2-A"_s, u"3-B"_s};
     confirm({u"2-A"_s, u"3-B"_s});
     deleteInHand(false);
     EXPECT_EQ(nightSets(session), u"Default+ 2-A+*"_s);

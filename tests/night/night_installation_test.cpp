@@ -1,5 +1,6 @@
 #include "night/night_installation.h"
 #include "night/night_selection.h"
+#include "sets/options_in_force.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -76,7 +77,7 @@ TEST_F(NightInstall, goldenCopyLists) {
     for (const auto& road : cases) {
         for (const QString& name : install.files.list(world(), u"*.*"_s))
             install.files.remove(world().child(name));
-        session.IsDutch = road.isDutch;
+        session.state<OptionsInForce>().IsDutch = road.isDutch;
         before = test::contentsBelow(install.simulator());
         installSet(road.set);
         QStringList expected = road.copied;
@@ -99,7 +100,7 @@ TEST_F(NightInstall, showsOneMessageAsksNothingAndStartsNothing) {
               QStringList({u"progress 25"_s, u"progress 50"_s, u"progress 100"_s}))
         << "two files";
     EXPECT_TRUE(install.user.calls.contains(u"refresh frm_NightTextures"_s));
-    EXPECT_TRUE(session.RefreshNightList);
+    EXPECT_TRUE(session.state<NightSelection>().RefreshNightList);
     EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash");
 }
 
@@ -113,7 +114,7 @@ TEST_F(NightInstall, theStoreNamesTheSetBeforeTheFirstFile) {
 
 TEST_F(NightInstall, severalSelectedRowsAreRefused) {
     clickNightRow(session, u"2-Red"_s);
-    session.night.selectedRows = QStringList{u"2-Red"_s, u"Default"_s};
+    session.state<NightSelection>().selectedRows = QStringList{u"2-Red"_s, u"Default"_s};
     NightInstallation(session).installNightTextureSet();
     EXPECT_EQ(install.user.told(),
               QStringList({u"Exclamation|Multiple Selection Detetected!|Morvane has detected more than one "

@@ -1,6 +1,10 @@
-#include "ground/slider_steps.h"
+#include "imaging/slider_steps.h"
 #include "night/night_samples.h"
+#include "night/night_selection.h"
+#include "night/night_texture_sets.h"
 #include "night/night_tuning.h"
+#include "sets/favourite_name.h"
+#include "sets/slider_values.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -15,10 +19,10 @@ struct NightTuningTest : testing::Test {
     void nameFavourite(const QString& name, const QString& description) {
         install.user.onModal = [=, this](Screen screen) {
             ASSERT_EQ(screen, Screen::frm_AddFav);
-            EXPECT_EQ(session.modal.favKind, FavouriteKind::night);
-            session.modal.favName = name;
-            session.modal.favDescription = description;
-            session.modal.favConfirmed = true;
+            EXPECT_EQ(session.state<FavouriteAnswer>().favKind, FavouriteKind::night);
+            session.state<FavouriteAnswer>().favName = name;
+            session.state<FavouriteAnswer>().favDescription = description;
+            session.state<FavouriteAnswer>().favConfirmed = true;
         };
         tuning.newFavNightTexture();
     }
@@ -75,25 +79,25 @@ TEST_F(NightTuningTest, aFavouriteIsARowAndEmptyFolders) {
     const auto set = findNightSet(session, u"1-Cold_ lights"_s);
     EXPECT_EQ(set->ColorSettings, u"0:-6:-6:16:0:0"_s);
     EXPECT_EQ(set->Actvated + set->Description, u"Falseblue"_s);
-    EXPECT_EQ(session.night.SelectedNightSet, set->TextureSet);
-    EXPECT_TRUE(session.RefreshNightList);
+    EXPECT_EQ(session.state<NightSelection>().SelectedNightSet, set->TextureSet);
+    EXPECT_TRUE(session.state<NightSelection>().RefreshNightList);
     EXPECT_EQ(install.user.calls.last(), u"show frm_NightTextures"_s);
     EXPECT_EQ(install.files.listFolders(sets() / set->TextureSet), QStringList({u"Dutch"_s, u"Texture"_s}));
 
     install.user.onModal = [](Screen) {}; // cancelled
     tuning.newFavNightTexture();
-    EXPECT_EQ(session.gNightTextureSets->Count(), 1);
+    EXPECT_EQ(session.rows<clsNightTextureSets>()->Count(), 1);
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
 TEST_F(NightTuningTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
     tuning.openDefaultSample();
-    EXPECT_EQ(session.modal.selectedNightTexture, firstNightSample);
+    EXPECT_EQ(session.state<NightSampleChoice>().selectedNightTexture, firstNightSample);
     tuning.showColourPreview({0, 0, 0, 0, 100, 0});
     install.user.onModal = [&](Screen screen) {
         ASSERT_EQ(screen, Screen::frm_SelectNightTexture);
-        session.modal.selectedNightTexture = u"rural"_s;
-        session.modal.sampleConfirmed = true;
+        session.state<NightSampleChoice>().selectedNightTexture = u"rural"_s;
+        session.state<NightSampleChoice>().sampleConfirmed = true;
     };
     const int before = tuning.sourceDib().DIBSectionBitsPtr()[3];
     EXPECT_TRUE(tuning.openSample());

@@ -1,11 +1,13 @@
+#include "app/first_run.h"
 #include "core/registry.h"
 #include "core/store.h"
 #include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
+#include "sets/options_in_force.h"
+#include "sets/simulator_copy.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"
-#include "simulator/first_run.h"
-#include "simulator/simulator_copy.h"
 #include "simulator/simulator_restore.h"
 #include "support/printing.h"
 #include "support/small_install.h"
@@ -37,15 +39,15 @@ struct BackupTest : testing::Test {
     }
     void restore(const QString& name, bool isConfirmed = true) {
         install.user.onModal = [this, name, isConfirmed](Screen) {
-            session.modal.chosenBackup = name;
-            session.modal.backupConfirmed = isConfirmed;
+            session.state<BackupChoice>().chosenBackup = name;
+            session.state<BackupChoice>().backupConfirmed = isConfirmed;
         };
         restoreBackupOnRequest(session);
     }
     QStringList backupNames() {
         clsBackups::reload(session);
         QStringList names;
-        for (const auto& backup : *session.gBackups)
+        for (const auto& backup : *session.rows<clsBackups>())
             names << backup->BackupName;
         return names;
     }
@@ -64,7 +66,7 @@ TEST_F(BackupTest, restoreIsTheIdentityForWhatWasBackedUp) {
             name, u"Sunny"_s, true,
             {u"Texture\\029h2su6.bmp"_s, u"Texture\\Gelände ñ.bmp"_s, u"UTEurLC\\034b2su4.bmp"_s});
         install.reload();
-        session.ground.SelectedGroundSet = name;
+        session.state<GroundSelection>().SelectedGroundSet = name;
         GroundInstallation(session).installTextureSet(true);
         EXPECT_NE(readFile(addOn / u"034B2SU4.BMP"), before[u"Scenery/UTEurLC/Texture/034B2SU4.BMP"_s]);
     }
@@ -84,7 +86,7 @@ TEST_F(BackupTest, whatWasOursInABackupIsOursAgain) {
     const auto before = contentsBelow(install.simulator());
     install.addGroundSet(u"1-Blue"_s, u"Sunny"_s, true,
                          {u"Texture\\029h2su6.bmp"_s, u"Texture\\added.bmp"_s});
-    session.ground.SelectedGroundSet = u"1-Blue"_s;
+    session.state<GroundSelection>().SelectedGroundSet = u"1-Blue"_s;
     GroundInstallation(session).installTextureSet(true);
     backupOnRequest(session);
     for (const bool isTakenAway : {true, false}) {
@@ -126,8 +128,8 @@ TEST_F(BackupTest, whatIsCutShortIsMarkedAndNothingIsOverwritten) {
     createBackup(session, false);
     EXPECT_TRUE(isBackupComplete(session, u"2-Backup"_s));
     restore(u"1-Backup"_s, false);
-    ASSERT_EQ(session.modal.backups.size(), 2U);
-    EXPECT_FALSE(session.modal.backups[0].isComplete);
+    ASSERT_EQ(session.state<BackupChoice>().backups.size(), 2U);
+    EXPECT_FALSE(session.state<BackupChoice>().backups[0].isComplete);
     EXPECT_FALSE(install.user.calls.contains(restoring)) << "the list was left with Cancel";
 }
 
@@ -136,8 +138,8 @@ TEST_F(BackupTest, aDamagedRowHidesNoOther) {
         u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('..', 'yesterday'), (NULL, NULL)"_s);
     createBackup(session, true);
     restore(u"3-Backup"_s);
-    EXPECT_EQ(session.modal.backups.size(), 3U);
-    EXPECT_TRUE(session.modal.backups.at(2).isComplete);
+    EXPECT_EQ(session.state<BackupChoice>().backups.size(), 3U);
+    EXPECT_TRUE(session.state<BackupChoice>().backups.at(2).isComplete);
     EXPECT_TRUE(install.user.calls.filter(u"box "_s).isEmpty());
 }
 
@@ -263,7 +265,7 @@ TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedFor) {
     EXPECT_EQ(readFile(keptSplash), "the pilot's splash");
     ASSERT_EQ(install.user.told().size(), 2) << "what is done, and its progress";
     EXPECT_TRUE(install.user.told()[0].startsWith(u"Information|Creating Backup|"_s));
-    session.IsWideClient = true;
+    session.state<OptionsInForce>().IsWideClient = true;
     setFirstTime(u"True"_s);
     install.files.remove(flights / u"Älpler.wx");
     doFirstRun(session);
@@ -307,7 +309,7 @@ TEST_F(FirstRunTest, theKeptOriginalsAreTakenForWhatIsOurs) {
     writeFile(keptSplash, "as delivered");
     install.addGroundSet(u"1-Blue"_s, u"Overcast"_s, true,
                          {u"Texture\\029h2su6.bmp"_s, u"Texture\\029b2su6.bmp"_s});
-    session.ground.SelectedGroundSet = u"1-Blue"_s;
+    session.state<GroundSelection>().SelectedGroundSet = u"1-Blue"_s;
     GroundInstallation(session).installTextureSet(true);
     ASSERT_EQ(readFile(splashTarget(session)), "splash OVC");
     writeFile(world / u"029B2SU6.BMP", "another's"); // changed since ours

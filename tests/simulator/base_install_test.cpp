@@ -1,10 +1,14 @@
 #include "core/row_set.h"
+#include "ground/texture_sets.h"
+#include "night/night_texture_sets.h"
 #include "simulator/base_install.h"
 #include "simulator/configs.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "night/night_selection.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
@@ -44,7 +48,7 @@ struct BaseInstall : testing::Test {
     QStringList installedTitles() {
         clsConfigs::reload(session);
         QStringList titles;
-        for (const auto& config : *session.gConfigs)
+        for (const auto& config : *session.rows<clsConfigs>())
             if (config->ConfigInstalled) titles << config->ConfigName;
         return titles;
     }
@@ -140,20 +144,21 @@ TEST_F(BaseInstall, readOnlyTargetsAreReplacedAndLoseTheMark) {
 }
 
 TEST_F(BaseInstall, theGlobalTitlesLeaveDefaultAsTheOneInstalledSet) {
-    session.gTextureSets->markInstalled(u"2-Storm"_s);
-    session.gNightTextureSets->markInstalled(u"2-Red"_s);
+    session.rows<clsTextureSets>()->markInstalled(u"2-Storm"_s);
+    session.rows<clsNightTextureSets>()->markInstalled(u"2-Red"_s);
     install.reload();
     clsTextureSet changed = *findGroundSet(session, u"Default"_s);
     changed.CloudCover = u"Overcast"_s;
     changed.ColorSettings = u"1:2:3:4:5:6"_s;
-    session.gTextureSets->UpdateTextureSet(changed);
+    session.rows<clsTextureSets>()->UpdateTextureSet(changed);
     copyBaseResources(session, {globalDayConfig, globalNightConfig});
     EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
     EXPECT_EQ(test::nightSets(session), u"Default+* 2-Red+"_s);
     const auto set = findGroundSet(session, u"Default"_s);
     EXPECT_EQ(set->CloudCover + u'|' + set->ColorSettings + u'|' + set->Description,
               u"Partly Cloudy|0:0:0:0:0:0|Default Morvane Texture Set with no extra settings"_s);
-    EXPECT_TRUE(session.RefreshGroundList && session.RefreshNightList);
+    EXPECT_TRUE(session.state<GroundSelection>().RefreshGroundList &&
+                session.state<NightSelection>().RefreshNightList);
     EXPECT_EQ(readFile(world / u"045B2LM1.BMP"), "body of GENERIC WORLD NIGHT\\045b2lm1.bmp");
 }
 

@@ -2,11 +2,15 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
 #include "night/night_generation.h"
 #include "night/night_selection.h"
+#include "night/night_texture_sets.h"
+#include "sets/set_removal.h"
 #include "sky/sky_activation.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
+#include "sky/sky_texture_sets.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -41,7 +45,10 @@ const Kind kinds[] = {
      [](test::SmallInstall& install, const QString& name, const QStringList& files) {
          install.addGroundSet(name, u"Overcast"_s, true, files);
      },
-     clickGroundRow, [](Session& session, const QStringList& names) { session.ground.selectedRows = names; },
+     clickGroundRow,
+     [](Session& session, const QStringList& names) {
+         session.state<GroundSelection>().selectedRows = names;
+     },
      [](Session& session) { GroundGeneration(session).activateTextureSet(); },
      [](Session& session, bool keepsColours) { GroundGeneration(session).deleteTextureSet(keepsColours); }},
     {u"Night Texture Sets"_s, u"NIGHT_TEXTURE_SETS"_s, u"TEXTURE_SET"_s,
@@ -50,14 +57,15 @@ const Kind kinds[] = {
          test::addNightStock(install);
          test::addNightSet(install, name, true, files);
      },
-     clickNightRow, [](Session& session, const QStringList& names) { session.night.selectedRows = names; },
+     clickNightRow,
+     [](Session& session, const QStringList& names) { session.state<NightSelection>().selectedRows = names; },
      [](Session& session) { NightGeneration(session).activateNightTextureSet(); },
      [](Session& session, bool keepsColours) {
          NightGeneration(session).deleteNightTextureSet(keepsColours);
      }},
     {u"Sky Texture Sets"_s, u"SKY_TEXTURE_SETS"_s, u"SKY_TEXTURE_SET"_s,
      u"UPDATE SKY_TEXTURE_SUB_SETS SET MAIN_SKY = '%1'"_s, QStringList{u"day.bmp"_s}, addSky, clickSkyRow,
-     [](Session& session, const QStringList& names) { session.sky.selectedRows = names; },
+     [](Session& session, const QStringList& names) { session.state<SkySelection>().selectedRows = names; },
      [](Session& session) { SkyActivation(session).activateSkySet(); },
      [](Session& session, bool keepsColours) { SkyActivation(session).deleteSkySet(keepsColours); }},
 };
@@ -68,9 +76,9 @@ struct OddSet {
 
     void execute(const QString& statement) {
         session.adoConn->execute(statement);
-        session.gTextureSets.reset();
-        session.gNightTextureSets.reset();
-        session.gSkyTextureSets.reset();
+        session.rows<clsTextureSets>().reset();
+        session.rows<clsNightTextureSets>().reset();
+        session.rows<clsSkyTextureSets>().reset();
     }
     void put(const QString& column, const QString& text) {
         execute(
@@ -91,7 +99,9 @@ struct OddSet {
         kind.activate(session);
     }
     void activateSeveral(const QStringList& names) {
-        install.user.onModal = [this](Screen) { session.modal.multiConfirmed = session.modal.multiNames; };
+        install.user.onModal = [this](Screen) {
+            session.state<MultiChoice>().multiConfirmed = session.state<MultiChoice>().multiNames;
+        };
         kind.select(session, names);
         kind.activate(session);
     }

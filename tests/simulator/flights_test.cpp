@@ -1,6 +1,7 @@
 #include "simulator/flights.h"
 
 #include "core/error.h"
+#include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -141,7 +142,7 @@ TEST_F(FlightsTest, cancellingTheFoldersChoiceLeavesTheUsersFlightsAlone) {
 TEST_F(FlightsTest, aWideClientHasNoFlightsOfItsOwn) {
     save(own, u"Left.flt"_s, "flight");
     save(user, u"Own.flt"_s, "flight");
-    session.IsWideClient = true;
+    session.state<OptionsInForce>().IsWideClient = true;
     loadFlightFiles(session);
     EXPECT_EQ(contentsBelow(own).keys(), QStringList{u"Left.flt"_s});
 }

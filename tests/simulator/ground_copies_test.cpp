@@ -1,6 +1,8 @@
 // Which file an install of a ground set puts where, for every combination of what it depends on.
 
 #include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
+#include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -104,10 +106,10 @@ TEST_F(GroundCopies, everyCombinationCopiesItsRows) {
         const Combination combination = combinationOf(number);
         const auto holds = [&](char16_t letter) { return combination.letters.contains(QChar(letter)); };
         emptySimulator(holds(u'a'));
-        session.IsTropical = holds(u't');
-        session.IsDutch = holds(u'd');
-        session.InhibitCustomSplash = !holds(u's');
-        session.ground.SelectedGroundSet = holds(u'G') ? u"2-Storm"_s : u"Default"_s;
+        session.state<OptionsInForce>().IsTropical = holds(u't');
+        session.state<OptionsInForce>().IsDutch = holds(u'd');
+        session.state<OptionsInForce>().InhibitCustomSplash = !holds(u's');
+        session.state<GroundSelection>().SelectedGroundSet = holds(u'G') ? u"2-Storm"_s : u"Default"_s;
         GroundInstallation installation(session);
         installation.installTextureSet(true);
         EXPECT_EQ(installed(), combination.expected) << combination.letters.toStdString();

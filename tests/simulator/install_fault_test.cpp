@@ -1,5 +1,6 @@
-#include "core/application.h"
+#include "core/store_connection.h"
 #include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "support/faulty_store.h"
 #include "support/printing.h"
@@ -54,7 +55,7 @@ protected:
     }
 
     void put(const QString& name) {
-        install.session.ground.SelectedGroundSet = name;
+        install.session.state<GroundSelection>().SelectedGroundSet = name;
         GroundInstallation(install.session).installTextureSet(true);
     }
 
@@ -127,7 +128,7 @@ TEST_F(InstallFaults, firstInstallKeepsThePilotsFilesWhateverFails) {
             test::SmallInstallOptions{{u"GENERIC WORLD\\029h2su6.bmp"_s, u"UTIND\\034b2su4.bmp"_s}, 16});
         fresh.addGroundSet(u"2-Á"_s, u"Overcast"_s, true, dozenFiles);
         const Contents own = contentsBelow(fresh.simulator());
-        fresh.session.ground.SelectedGroundSet = u"2-Á"_s;
+        fresh.session.state<GroundSelection>().SelectedGroundSet = u"2-Á"_s;
         fresh.files.failAt(n, forever);
         GroundInstallation(fresh.session).installTextureSet(true);
         const bool failed = fresh.files.hasFailed();

@@ -1,6 +1,6 @@
-#include "core/application.h"
+#include "core/store_connection.h"
 #include "ground/ground_installation.h"
-#include "simulator/originals.h"
+#include "sets/originals.h"
 #include "support/faulty_store.h"
 #include "support/printing.h"
 #include "support/small_install.h"

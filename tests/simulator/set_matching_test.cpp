@@ -1,8 +1,11 @@
+#include "ground/ground_selection.h"
 #include "simulator/set_matching.h"
+#include "sky/sky_selection.h"
+#include "weather/cover_choice.h"
 
 #include "core/error.h"
 #include "core/store.h"
-#include "ground/cloud_cover.h"
+#include "sets/cloud_cover.h"
 #include "sky/sky_sets.h"
 #include "support/printing.h"
 #include "support/small_install.h"
@@ -38,13 +41,15 @@ struct SetMatchingTest : testing::Test {
     QString matchedSky(const QString& cover) {
         SetMatching(session).installMatchingSets(cover);
         const QStringList installed = install.installedSkySets();
-        EXPECT_EQ(installed, QStringList{session.sky.SelectedSkySet}) << cover.toStdString();
+        EXPECT_EQ(installed, QStringList{session.state<SkySelection>().SelectedSkySet})
+            << cover.toStdString();
         return installed.value(0);
     }
     QString matched(const QString& cover) {
         SetMatching(session).installMatchingSets(cover);
         const QStringList installed = install.installedSets();
-        EXPECT_EQ(installed, QStringList{session.ground.SelectedGroundSet}) << cover.toStdString();
+        EXPECT_EQ(installed, QStringList{session.state<GroundSelection>().SelectedGroundSet})
+            << cover.toStdString();
         return installed.value(0);
     }
 };
@@ -123,11 +128,11 @@ TEST_F(SetMatchingTest, theAverageCountsCloudsAndStrengths) {
           u"1|Moderate|2"_s, u"3|Heavy|5"_s, u"3|heavy|3"_s, u"5|Heavy|7"_s, u"1,2|,|2"_s, u"2,3|,|2"_s,
           u"4,5|,|4"_s, u"4,5|,Heavy|6"_s, u"1,1,|,,|2"_s}) {
         const QStringList parts = line.split(u'|');
-        session.WxCloudList = parts[0].split(u',');
-        session.WxStrengthList = parts[1].split(u',');
+        session.state<FlightWeather>().WxCloudList = parts[0].split(u',');
+        session.state<FlightWeather>().WxStrengthList = parts[1].split(u',');
         EXPECT_EQ(SetMatching(session).getAverageCloudCover(), parts[2].toInt()) << line.toStdString();
     }
-    session.WxCloudList.clear();
+    session.state<FlightWeather>().WxCloudList.clear();
     EXPECT_EQ(SetMatching(session).getAverageCloudCover(), 0);
     EXPECT_TRUE(install.user.told().isEmpty());
 }
@@ -165,8 +170,8 @@ TEST_F(SetMatchingTest, aSkyIsSearchedForWhereTheGroundIsFound) {
 
 TEST_F(SetMatchingTest, aFarGroundAndAFittingSkyAreToldOfTheGroundOnly) {
     install.addSkySet(u"Rain"_s, u"Overcast"_s, true, {u"cloud.bmp"_s, u"sky.bmp"_s});
-    session.WxCloudList = QStringList{u"5"_s};
-    session.WxStrengthList = QStringList{QString()};
+    session.state<FlightWeather>().WxCloudList = QStringList{u"5"_s};
+    session.state<FlightWeather>().WxStrengthList = QStringList{QString()};
     install.user.answersToGive = {true}; // no flight, no start
     install.user.otherwise = false;
     EXPECT_EQ(flyWithCover(session).filesCopied, 6) << "four of the ground's \"Default\", two of the sky";
@@ -217,8 +222,8 @@ TEST_F(SetMatchingTest, theQuestionNamesItsSourceAndNoInstallsNothing) {
                           u"Sky Textures to match the weather conditions obtained"_s;
     const auto before = test::contentsBelow(install.simulator());
     install.user.otherwise = false;
-    session.WxCloudList = QStringList{u"5"_s};
-    session.WxStrengthList = QStringList{QString()};
+    session.state<FlightWeather>().WxCloudList = QStringList{u"5"_s};
+    session.state<FlightWeather>().WxStrengthList = QStringList{QString()};
     EXPECT_FALSE(SetMatching(session).askInstallMatchingSets());
     session.CommandLineRun = true;
     EXPECT_FALSE(SetMatching(session).askInstallMatchingSets());
@@ -231,15 +236,15 @@ TEST_F(SetMatchingTest, aYesInstallsWhatTheWeatherAsksFor) {
     addSkies();
     addSets({{u"Rain"_s, u"Overcast"_s}, {u"Sun"_s, u"Sky Clear"_s}});
     ASSERT_TRUE(processMetarString(session, u"  EHAM 241225Z 24015KT 9999 SKC 18/09 Q1012 "_s));
-    EXPECT_EQ(session.WxCloudList, QStringList{u"1"_s});
-    EXPECT_EQ(session.WxStrengthList, QStringList{QString()});
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"1"_s});
+    EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList{QString()});
     EXPECT_EQ(flyWithCover(session).filesCopied, 1);
     EXPECT_EQ(install.installedSets(), QStringList{u"Sun"_s});
     EXPECT_EQ(install.installedSkySets(), QStringList{u"CLR"_s});
 
     // An obscured sky keeps its 6 in the list and then counts as "Partly Cloudy".
     ASSERT_TRUE(processMetarString(session, u"EHAM 241225Z 24015KT 0100 FG VV001 18/18 Q1012"_s));
-    EXPECT_EQ(session.WxCloudList, QStringList{u"6"_s});
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"6"_s});
     flyWithCover(session);
     EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
     EXPECT_EQ(install.installedSkySets(), QStringList{u"SCT"_s});
@@ -247,9 +252,9 @@ TEST_F(SetMatchingTest, aYesInstallsWhatTheWeatherAsksFor) {
 
 TEST_F(SetMatchingTest, aReportWithoutCloudsIsRefusedAndLeavesZeroInTheList) {
     for (const QString& metar : {u"EHAM 241225Z 24015KT 9999 18/09 Q1012"_s, u"  "_s, QString()}) {
-        session.WxCloudList = QStringList{u"5"_s, u"5"_s};
+        session.state<FlightWeather>().WxCloudList = QStringList{u"5"_s, u"5"_s};
         EXPECT_FALSE(processMetarString(session, metar)) << metar.toStdString();
-        EXPECT_EQ(session.WxCloudList, QStringList{u"0"_s});
+        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"0"_s});
     }
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 3);
 }

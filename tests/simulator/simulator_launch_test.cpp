@@ -1,7 +1,8 @@
 #include "simulator/simulator_launch.h"
+#include "weather/cover_choice.h"
 
-#include "simulator/flights.h"
-#include "simulator/program_start.h"
+#include "core/program_start.h"
+#include "sets/options_in_force.h"
 #include "simulator/set_matching.h"
 #include "start_record.h"
 #include "support/printing.h"
@@ -23,7 +24,7 @@ using test::writeFile;
 struct SimulatorLaunchTest : testing::Test {
     test::SmallInstall install;
     Session& session = install.session;
-    ModalState& modal = session.modal;
+    FlightChoice& modal = session.state<FlightChoice>();
     FilePath program = install.simulator() / u"fs9.exe";
 
     void placeStandIn(const FilePath& file) {
@@ -121,7 +122,7 @@ TEST_F(SimulatorLaunchTest, theLaunchQuestionStartsWithoutAFlight) {
 TEST_F(SimulatorLaunchTest, theRoadAsksForTheSetsThenAFlightThenTheSimulator) {
     writeFile(install.home() / u"Flights\\Evening.flt", "flight");
     placeStandIn(program);
-    session.WxCloudList = QStringList{u"3"_s};
+    session.state<FlightWeather>().WxCloudList = QStringList{u"3"_s};
     const auto titles = [&] {
         QStringList found;
         for (const QString& line : install.user.told())
@@ -139,14 +140,14 @@ TEST_F(SimulatorLaunchTest, theRoadAsksForTheSetsThenAFlightThenTheSimulator) {
     flyWithCover(session);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Start Predefined Flight"_s}));
     EXPECT_EQ(startsIn(install.simulator(), 2).size(), 2);
-    session.IsWideClient = true;
+    session.state<OptionsInForce>().IsWideClient = true;
     install.user.answersToGive = {false};
     flyWithCover(session);
     EXPECT_EQ(titles(), (QStringList{u"Install Textures?"_s, u"Processing Complete"_s}));
 }
 
 TEST_F(SimulatorLaunchTest, aWideClientStartsNothing) {
-    session.IsWideClient = true;
+    session.state<OptionsInForce>().IsWideClient = true;
     modal.FlightSelected = true;
     startSavedFlight(session);
     EXPECT_FALSE(modal.FlightSelected);

@@ -1,8 +1,12 @@
-#include "core/options.h"
 #include "core/store.h"
 #include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
+#include "night/night_texture_sets.h"
+#include "sets/options_in_force.h"
 #include "simulator/configs.h"
+#include "simulator/options.h"
 #include "simulator/simulator_restore.h"
 #include "simulator/texture_switches.h"
 #include "support/night_install.h"
@@ -45,8 +49,8 @@ struct TextureSwitches : testing::Test {
                               u"Dutch\\005a2su2.bmp"_s});
     }
     void installDefaults() {
-        session.gTextureSets->markInstalled(u"Default"_s);
-        session.gNightTextureSets->markInstalled(u"Default"_s);
+        session.rows<clsTextureSets>()->markInstalled(u"Default"_s);
+        session.rows<clsNightTextureSets>()->markInstalled(u"Default"_s);
     }
     static QStringList lines(const std::vector<FileCopy>& copies) {
         QStringList list;
@@ -122,11 +126,11 @@ TEST_F(TextureSwitches, dutchReachesReadOnlyFilesAndTheStore) {
     EXPECT_TRUE(switchDutch(session, true));
     EXPECT_EQ(readFile(world / u"005A2SU2.BMP"), "body of DUTCH\\005a2su2.bmp");
     EXPECT_FALSE(install.files.isReadOnly(world / u"005A2SU2.BMP"));
-    EXPECT_TRUE(session.IsDutch && clsConfigs(session).GetDutchVal());
+    EXPECT_TRUE(session.state<OptionsInForce>().IsDutch && clsConfigs(session).GetDutchVal());
     EXPECT_EQ(install.user.messages.back().title, u"File Copy"_s);
     EXPECT_TRUE(switchDutch(session, false));
     EXPECT_EQ(readFile(world / u"005A2SU2.BMP"), "body of GENERIC WORLD\\005a2su2.bmp");
-    EXPECT_FALSE(session.IsDutch || clsConfigs(session).GetDutchVal());
+    EXPECT_FALSE(session.state<OptionsInForce>().IsDutch || clsConfigs(session).GetDutchVal());
 }
 
 /// A target that is not there ends the list. The Dutch switch tells and is stored all the same; the tropical
@@ -138,21 +142,21 @@ TEST_F(TextureSwitches, aMissingTargetEndsTheList) {
     ASSERT_EQ(install.user.countOfKind(MessageKind::error), 1);
     EXPECT_TRUE(install.user.messages.back().text.startsWith(u"File not found: "_s));
     EXPECT_EQ(readFile(world / u"005A2LM2.BMP"), "the pilot's DUTCH NIGHT\\005a2lm2.bmp");
-    EXPECT_TRUE(session.IsDutch && clsConfigs(session).GetDutchVal());
+    EXPECT_TRUE(session.state<OptionsInForce>().IsDutch && clsConfigs(session).GetDutchVal());
     install.files.remove(world / u"029H2WI1.BMP");
     EXPECT_THROW(switchTropical(session, true), Error);
     EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "body of GENERIC WORLD\\029b2su6.bmp");
-    EXPECT_FALSE(session.IsTropical || clsConfigs(session).GetTropicalVal());
+    EXPECT_FALSE(session.state<OptionsInForce>().IsTropical || clsConfigs(session).GetTropicalVal());
 }
 
 TEST_F(TextureSwitches, tropicalGoesOnAndOff) {
     installDefaults();
     EXPECT_TRUE(switchTropical(session, true));
     EXPECT_EQ(readFile(world / u"045H2SP1.BMP"), "body of GENERIC WORLD\\045B2sp1.bmp");
-    EXPECT_TRUE(session.IsTropical && clsConfigs(session).GetTropicalVal());
+    EXPECT_TRUE(session.state<OptionsInForce>().IsTropical && clsConfigs(session).GetTropicalVal());
     EXPECT_TRUE(switchTropical(session, false));
     EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "body of GENERIC WORLD\\029h2su6.bmp");
-    EXPECT_FALSE(session.IsTropical || clsConfigs(session).GetTropicalVal());
+    EXPECT_FALSE(session.state<OptionsInForce>().IsTropical || clsConfigs(session).GetTropicalVal());
 }
 
 TEST_F(TextureSwitches, withoutGroundSetsNothingIsStored) {
@@ -164,7 +168,8 @@ TEST_F(TextureSwitches, withoutGroundSetsNothingIsStored) {
                   QStringList{u"Exclamation|No Texture Sets Installed|There are no texture sets installed.  "
                               "You must have at least one texture set installed to use this function."_s});
     }
-    EXPECT_FALSE(session.IsDutch || session.IsTropical || clsConfigs(session).GetDutchVal());
+    EXPECT_FALSE(session.state<OptionsInForce>().IsDutch || session.state<OptionsInForce>().IsTropical ||
+                 clsConfigs(session).GetDutchVal());
 }
 
 TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
@@ -178,7 +183,8 @@ TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
         EXPECT_EQ(readFile(halo), isOn ? "ours" : "default");
         EXPECT_EQ(clsConfigs(session).GetHaloVal(), isOn);
         EXPECT_EQ(clsConfigs(session).GetFastExitVal(), isOn);
-        EXPECT_TRUE(session.IsHalo == isOn && session.IsFastExit == isOn);
+        EXPECT_TRUE(session.state<OptionsInForce>().IsHalo == isOn &&
+                    session.state<OptionsInForce>().IsFastExit == isOn);
         const QStringList told = install.user.told();
         ASSERT_EQ(told.size(), 2);
         EXPECT_EQ(told[0], isOn ? u"Information|File Copied|The custom halo file has been copied to flight "
@@ -203,7 +209,7 @@ TEST_F(TextureSwitches, thePilotsFileComesBackAlsoWhereOurFirstCopyEqualsIt) {
     switchHalo(session, true);
     setCustomSplashVal(session, true);
     setCustomSplashVal(session, false);
-    session.ground.SelectedGroundSet = u"2-Storm"_s;
+    session.state<GroundSelection>().SelectedGroundSet = u"2-Storm"_s;
     GroundInstallation(session).installTextureSet(true);
     switchDutch(session, true);
     switchTropical(session, true);
@@ -215,7 +221,8 @@ TEST_F(TextureSwitches, thePilotsFileComesBackAlsoWhereOurFirstCopyEqualsIt) {
     EXPECT_TRUE(install.user.calls.last().startsWith(u"done "_s));
     EXPECT_TRUE(install.installedSets().isEmpty());
     clsConfigs switches(session);
-    EXPECT_FALSE(session.IsHalo || session.IsDutch || session.IsTropical);
+    EXPECT_FALSE(session.state<OptionsInForce>().IsHalo || session.state<OptionsInForce>().IsDutch ||
+                 session.state<OptionsInForce>().IsTropical);
     EXPECT_FALSE(switches.GetHaloVal() || switches.GetDutchVal() || switches.GetTropicalVal());
 }
 

@@ -1,6 +1,7 @@
+#include "core/store_connection.h"
 #include "simulator/upgrade.h"
 
-#include "core/application.h"
+#include "app/start_up.h"
 #include "core/row_set.h"
 #include "core/store.h"
 #include "ground/ground_sets.h"

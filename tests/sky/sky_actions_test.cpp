@@ -1,7 +1,10 @@
 #include "sky/sky_activation.h"
+#include "sky/sky_groups.h"
+#include "sky/sky_texture_sets.h"
 
 #include "core/numbers.h"
 #include "core/store.h"
+#include "sets/set_removal.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
@@ -35,7 +38,7 @@ struct SkyActions : testing::Test {
     }
     void click(const QString& name, const QStringList& ticked = {}) {
         EXPECT_TRUE(clickSkyRow(session, name));
-        session.sky.selectedRows = ticked;
+        session.state<SkySelection>().selectedRows = ticked;
     }
     QString activationOf(const QString& name) {
         install.reload();
@@ -47,8 +50,8 @@ struct SkyActions : testing::Test {
     void confirmAllButTheLast() {
         install.user.onModal = [this](Screen screen) {
             ASSERT_EQ(screen, Screen::frm_MultiDelete);
-            session.modal.multiConfirmed =
-                session.modal.multiNames.first(session.modal.multiNames.size() - 1);
+            session.state<MultiChoice>().multiConfirmed = session.state<MultiChoice>().multiNames.first(
+                session.state<MultiChoice>().multiNames.size() - 1);
         };
     }
 };
@@ -56,12 +59,12 @@ struct SkyActions : testing::Test {
 TEST_F(SkyActions, aClickTakesTheRowInHand) {
     const int key = install.addSkySet("1-Storm", "Overcast", true, {}, "Sunny");
     ASSERT_TRUE(clickSkyRow(session, "1-Storm"));
-    EXPECT_EQ(session.sky.SelectedSkyKey, u"Key:%1"_s.arg(key));
-    EXPECT_EQ(session.sky.SelectedSkySet, "1-Storm");
-    EXPECT_TRUE(session.sky.SelectedSkyActivated);
-    EXPECT_EQ(session.sky.SelectedSkyCover, "Overcast");
-    EXPECT_EQ(session.sky.SelectedSkyGroup, "Sunny");
-    EXPECT_EQ(session.sky.SelectedSkyDescription, "A sky of a test");
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyKey, u"Key:%1"_s.arg(key));
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "1-Storm");
+    EXPECT_TRUE(session.state<SkySelection>().SelectedSkyActivated);
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyCover, "Overcast");
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyGroup, "Sunny");
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyDescription, "A sky of a test");
     EXPECT_FALSE(clickSkyRow(session, "1-Fog"));
 }
 
@@ -78,10 +81,10 @@ TEST_F(SkyActions, oneSetGetsThreeFamiliesOfFiles) {
     const QImage base((stock / u"Sunny\\sunny.bmp").native()), day((sets / u"1-Storm\\sunny.bmp").native());
     EXPECT_GT(qRed(day.pixel(20, 10)), qRed(base.pixel(20, 10)));
     EXPECT_EQ(day.pixel(0, 31), base.pixel(0, 31));
-    EXPECT_EQ(session.sky.SelectedSkySet, "1-Storm");
-    EXPECT_TRUE(session.sky.SelectedSkyActivated);
-    EXPECT_TRUE(session.sky.selectedRows.isEmpty());
-    EXPECT_TRUE(session.RefreshSkyList);
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "1-Storm");
+    EXPECT_TRUE(session.state<SkySelection>().SelectedSkyActivated);
+    EXPECT_TRUE(session.state<SkySelection>().selectedRows.isEmpty());
+    EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
     EXPECT_TRUE(install.user.calls.contains("refresh frm_KMTextures"));
     EXPECT_TRUE(install.user.told().isEmpty());
 }
@@ -107,7 +110,7 @@ TEST_F(SkyActions, severalSetsGetTheDayOnly) {
     EXPECT_TRUE(filesOf("4-D").isEmpty()) << "it was not confirmed";
     EXPECT_EQ(activationOf("2-B"), "True");
     EXPECT_EQ(activationOf("4-D"), "False");
-    EXPECT_EQ(session.sky.SelectedSkySet, "2-B") << "the last one that was made";
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "2-B") << "the last one that was made";
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
@@ -143,14 +146,14 @@ TEST_F(SkyActions, deactivatingKeepsRowColoursAndFolder) {
     EXPECT_TRUE(install.files.isFolder(sets / u"1-Storm"));
     EXPECT_TRUE(filesOf("1-Storm").isEmpty());
     EXPECT_FALSE(install.files.exists(install.home() / u"TempBitmaps\\left.bmp"));
-    EXPECT_EQ(session.sky.SelectedSkySet, "2-Calm") << "the last row is in hand";
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "2-Calm") << "the last row is in hand";
     EXPECT_EQ(install.user.told(),
               QStringList{"Question|Morvane Information|Do you wish to deactivate this the texture set: "
                           "'1-Storm'?\n\nSelect Ok, to deactivate the set or select Cancel to cancel the "
                           "deactivate."});
     click("1-Storm");
-    ASSERT_TRUE(loadSkySubSet(session, session.sky.SelectedSkyKey, skyDay));
-    EXPECT_EQ(session.skyTextureGroups[9].red, 50);
+    ASSERT_TRUE(loadSkySubSet(session, session.state<SkySelection>().SelectedSkyKey, skyDay));
+    EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].red, 50);
 }
 
 TEST_F(SkyActions, deletingTakesRowsAndFolder) {
@@ -159,12 +162,12 @@ TEST_F(SkyActions, deletingTakesRowsAndFolder) {
     install.user.answersToGive = {false, true};
     SkyActivation(session).deleteSkySet(false);
     EXPECT_EQ(activationOf("1-Störm"), "True");
-    EXPECT_FALSE(session.RefreshSkyList);
+    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
     SkyActivation(session).deleteSkySet(false);
     EXPECT_EQ(activationOf("1-Störm"), "gone");
     EXPECT_FALSE(install.files.exists(sets / u"1-Störm"));
     ASSERT_TRUE(clsSkyTextureSubSets::reload(session, toInteger(key)));
-    EXPECT_EQ(session.gSkyTextureSubSets->Count(), 0);
+    EXPECT_EQ(session.rows<clsSkyTextureSubSets>()->Count(), 0);
     EXPECT_EQ(install.user.told().last(),
               "Question|Morvane Information|Do you wish to delete the texture set: '1-Störm'?  This action "
               "cannot be reversed\n\nSelect Ok, to delete the file or select Cancel to cancel the delete.");
@@ -173,7 +176,7 @@ TEST_F(SkyActions, deletingTakesRowsAndFolder) {
 TEST_F(SkyActions, aloneDefaultAndTheInstalledSetAreRefused) {
     install.addSkySet("Default", "Partly Cloudy", true, {"day.bmp"});
     install.addSkySet("1-Storm", "Overcast", true, {"day.bmp"});
-    session.gSkyTextureSets->markInstalled("1-Storm");
+    session.rows<clsSkyTextureSets>()->markInstalled("1-Storm");
     const auto before = contentsBelow(sets);
     const std::pair<QString, QString> cases[] = {{"Default", "Default"}, {"1-Storm", "currently installed"}};
     for (const auto& [name, word] : cases) {
@@ -187,17 +190,17 @@ TEST_F(SkyActions, aloneDefaultAndTheInstalledSetAreRefused) {
         EXPECT_EQ(install.user.told(), QStringList({said, said}));
     }
     EXPECT_EQ(contentsBelow(sets), before);
-    EXPECT_FALSE(session.RefreshSkyList);
+    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
 }
 
 TEST_F(SkyActions, amongSeveralTheInstalledSetStaysWithoutAWord) {
     for (const char* name : {"1-A", "2-B", "3-C"})
         install.addSkySet(name, "Overcast", true, {"day.bmp"});
-    session.gSkyTextureSets->markInstalled("2-B");
+    session.rows<clsSkyTextureSets>()->markInstalled("2-B");
     click("1-A", {"Default", "1-A", "2-B", "3-C"});
     confirmAllButTheLast();
     SkyActivation(session).deleteSkySet(false);
-    EXPECT_EQ(session.modal.multiNames, QStringList({"1-A", "2-B", "3-C"}));
+    EXPECT_EQ(session.state<MultiChoice>().multiNames, QStringList({"1-A", "2-B", "3-C"}));
     EXPECT_EQ(activationOf("1-A"), "gone");
     EXPECT_EQ(activationOf("2-B"), "True");
     EXPECT_EQ(activationOf("3-C"), "True");

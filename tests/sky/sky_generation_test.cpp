@@ -1,7 +1,9 @@
 #include "sky/sky_generation.h"
+#include "sky/sky_texture_sub_sets.h"
 
 #include "core/store.h"
 #include "imaging/picture_reader.h"
+#include "sets/favourite_name.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_install.h"
 #include "sky/sky_selection.h"
@@ -17,10 +19,10 @@ struct SkyGenerationTest : testing::Test {
     void create(const QStringList& bases, const std::array<std::int16_t, 5>& counts, bool fromHome = true) {
         install.user.onModal = [=, this](Screen screen) {
             ASSERT_EQ(screen, Screen::frm_SelectSkyTexture);
-            EXPECT_FALSE(session.modal.skySetsConfirmed);
-            session.modal.skyBaseSets = bases;
-            session.modal.skySetCounts = counts;
-            session.modal.skySetsConfirmed = true;
+            EXPECT_FALSE(session.state<SkySetCounts>().skySetsConfirmed);
+            session.state<SkySetCounts>().skyBaseSets = bases;
+            session.state<SkySetCounts>().skySetCounts = counts;
+            session.state<SkySetCounts>().skySetsConfirmed = true;
         };
         SkyGeneration(session).createSkySets(fromHome);
     }
@@ -58,8 +60,8 @@ TEST_F(SkyGenerationTest, storesASetAndColoursEveryFileOfItsBase) {
     EXPECT_FALSE(set->Installed);
 
     ASSERT_TRUE(clsSkyTextureSubSets::reload(session, set->StsID));
-    ASSERT_EQ(session.gSkyTextureSubSets->Count(), 1);
-    const auto subSet = session.gSkyTextureSubSets->GetItem(1);
+    ASSERT_EQ(session.rows<clsSkyTextureSubSets>()->Count(), 1);
+    const auto subSet = session.rows<clsSkyTextureSubSets>()->GetItem(1);
     EXPECT_EQ(subSet->SkyTextureSubSet, u"1-Day:"_s + first);
     EXPECT_EQ(subSet->timeOfDay, "Day");
     EXPECT_EQ(subSet->WaterDark, "0:0:0:0:0:0:5:5:32");
@@ -98,19 +100,19 @@ TEST_F(SkyGenerationTest, tellsHowFarItIs) {
 }
 
 TEST_F(SkyGenerationTest, allSetsOfABaseComeBeforeTheNext) {
-    session.sky.selectedRows = QStringList{u"a row that was ticked"_s};
+    session.state<SkySelection>().selectedRows = QStringList{u"a row that was ticked"_s};
     create({u"Sunny"_s, u"Default"_s}, {2, 1, 0, 0, 3}, false);
-    EXPECT_TRUE(session.sky.selectedRows.isEmpty());
+    EXPECT_TRUE(session.state<SkySelection>().selectedRows.isEmpty());
     EXPECT_EQ(stored(),
               QStringList({"Sky Clear of Default", "Sky Clear of Default", "Mostly Clear of Default",
                            "Sky Clear of Sunny", "Sky Clear of Sunny", "Mostly Clear of Sunny"}));
     EXPECT_EQ(setFolders().size(), 6); // the same second, told apart by their keys
     // The overcast sets are counted although none is made.
     EXPECT_EQ(install.user.calls.filter(u"Processing Sky Texture Set 6 of 9."_s).size(), 1);
-    EXPECT_EQ(session.sky.SelectedSkySet, u"6"_s + first.mid(1));
-    EXPECT_EQ(session.sky.SelectedSkyKey, "Key:6");
-    EXPECT_TRUE(session.sky.SelectedSkyActivated);
-    EXPECT_TRUE(session.RefreshSkyList);
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, u"6"_s + first.mid(1));
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyKey, "Key:6");
+    EXPECT_TRUE(session.state<SkySelection>().SelectedSkyActivated);
+    EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
     EXPECT_EQ(install.user.calls.last(), "show frm_KMTextures");
 }
 
@@ -210,7 +212,8 @@ TEST_F(SkyGenerationTest, aRefusedRowEndsTheRunWithOneMessageAndMakesNoFile) {
 }
 
 TEST_F(SkyGenerationTest, sunriseAndSunsetAreCopiedAsTheyAre) {
-    session.skyTextureGroups[9] = {.PixelXLow = 1, .PixelXHigh = 32, .PixelY = 255, .red = 100};
+    session.state<SkyColourTables>().skyTextureGroups[9] = {
+        .PixelXLow = 1, .PixelXHigh = 32, .PixelY = 255, .red = 100};
     install.files.makeFolder(sets() / u"1-Storm");
     SkyGeneration generation(session);
     for (const QString& time : skyTimesOfDay)
@@ -232,11 +235,13 @@ struct TunedSky : SkyGenerationTest {
     void nameFavourite(const QString& name, const QString& description, bool confirmed = true) {
         install.user.onModal = [=, this](Screen screen) {
             ASSERT_EQ(screen, Screen::frm_AddFav);
-            EXPECT_EQ(session.modal.favKind, FavouriteKind::sky);
-            EXPECT_EQ(session.modal.favName + session.modal.favDescription, u""_s); // not those of last time
-            session.modal.favName = name;
-            session.modal.favDescription = description;
-            session.modal.favConfirmed = confirmed;
+            EXPECT_EQ(session.state<FavouriteAnswer>().favKind, FavouriteKind::sky);
+            EXPECT_EQ(session.state<FavouriteAnswer>().favName +
+                          session.state<FavouriteAnswer>().favDescription,
+                      u""_s); // not those of last time
+            session.state<FavouriteAnswer>().favName = name;
+            session.state<FavouriteAnswer>().favDescription = description;
+            session.state<FavouriteAnswer>().favConfirmed = confirmed;
         };
         SkyGeneration(session).newFavSky();
     }
@@ -245,9 +250,9 @@ struct TunedSky : SkyGenerationTest {
 TEST_F(TunedSky, isStoredWithoutFiles) {
     loadSkyTuning(session);
     tuneCloudCover(session, 4);
-    session.skyTuning.baseSet = u"Pro Sky"_s;
-    session.skyPaletteGroups[5].saturation = 7; // never clicked: no region yet
-    session.skyPaletteGroups[8].contrast = -5;
+    session.state<SkyTuningState>().baseSet = u"Pro Sky"_s;
+    session.state<SkyColourTables>().skyPaletteGroups[5].saturation = 7; // never clicked: no region yet
+    session.state<SkyColourTables>().skyPaletteGroups[8].contrast = -5;
     nameFavourite(u"  Pilot's storm "_s, u" wet & windy "_s);
 
     const auto set = install.reloadedSkySets().GetItem(1);
@@ -257,19 +262,19 @@ TEST_F(TunedSky, isStoredWithoutFiles) {
     EXPECT_EQ(set->TextureSetGroup, "Pro Sky");
     EXPECT_EQ(set->Activated, "False");
     ASSERT_TRUE(clsSkyTextureSubSets::reload(session, set->StsID));
-    const auto subSet = session.gSkyTextureSubSets->GetItem(1);
+    const auto subSet = session.rows<clsSkyTextureSubSets>()->GetItem(1);
     EXPECT_EQ(subSet->SkyTextureSubSet, "1-Day:1-Pilot's storm");
     EXPECT_EQ(subSet->WaterMain, "7:0:0:0:0:0:6:31:32");
     EXPECT_EQ(subSet->HorizonLow, "0:0:0:0:0:-5:1:32:1");
     EXPECT_EQ(subSet->SkyMain, "0:0:0:0:0:0:1:32:255");
-    EXPECT_EQ(session.skyPaletteGroups[5].PixelXHigh, 31);
+    EXPECT_EQ(session.state<SkyColourTables>().skyPaletteGroups[5].PixelXHigh, 31);
 
     EXPECT_EQ(setFolders(), QStringList{"1-Pilot's storm"});
     EXPECT_TRUE(filesOf(u"1-Pilot's storm"_s).isEmpty());
-    EXPECT_EQ(session.sky.SelectedSkySet, "1-Pilot's storm");
-    EXPECT_FALSE(session.sky.SelectedSkyActivated);
-    EXPECT_EQ(session.skyTextureGroups[5].saturation, 7); // its preview
-    EXPECT_TRUE(session.RefreshSkyList);
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "1-Pilot's storm");
+    EXPECT_FALSE(session.state<SkySelection>().SelectedSkyActivated);
+    EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[5].saturation, 7); // its preview
+    EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
     EXPECT_EQ(install.user.calls.mid(install.user.calls.size() - 2),
               QStringList({"refresh frm_KMTextures", "show frm_KMTextures"}));
 }
@@ -292,17 +297,19 @@ struct StoredSky : SkyGenerationTest {
     void put(const QString& column, const QString& text) {
         session.adoConn->execute(u"UPDATE SKY_TEXTURE_SUB_SETS SET %1 = '%2'"_s.arg(column, text));
     }
-    SkyGroup group(int number) { return skyRecord(session.skyTextureGroups, number); }
+    SkyGroup group(int number) {
+        return skyRecord(session.state<SkyColourTables>().skyTextureGroups, number);
+    }
 };
 
 TEST_F(StoredSky, isLoadedIntoTheTableAndTheSelection) {
     create({u"Default"_s, u"Sunny"_s}, {1, 0, 0, 0, 0});
     const SkyGroup sunny = group(10);
     ASSERT_TRUE(loadSkySubSet(session, u"Key:1"_s, u"Day"_s));
-    EXPECT_EQ(session.sky.SelectedSkySet, first);
-    EXPECT_EQ(session.sky.SelectedSkyGroup, "Default");
-    EXPECT_EQ(session.sky.SelectedSkyCover, "Sky Clear");
-    EXPECT_EQ(session.sky.SelectedSkyDescription, "Morvane AutoGenerated Sky Texture Set");
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, first);
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyGroup, "Default");
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyCover, "Sky Clear");
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyDescription, "Morvane AutoGenerated Sky Texture Set");
     EXPECT_EQ(group(1).brightness, 100);
     EXPECT_EQ(group(6).PixelXLow, 6);
     EXPECT_NE(group(10).red, sunny.red);

@@ -2,6 +2,7 @@
 
 #include "sky/sky_base_sets.h"
 #include "sky/sky_sets.h"
+#include "sky/sky_texture_sets.h"
 #include "support/small_install.h"
 
 #include <random>
@@ -23,7 +24,7 @@ struct SkyInstall : SmallInstall {
 
     FilePath stock(const QString& name) const { return home() / u"Resources\\Sky" / name; }
     clsSkyTextureSets& reloadedSkySets() {
-        session.gSkyTextureSets.reset();
+        session.rows<clsSkyTextureSets>().reset();
         return loadedSkySets(session);
     }
 

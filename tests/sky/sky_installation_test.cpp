@@ -2,8 +2,11 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "sets/options_in_force.h"
 #include "sky/sky_installation.h"
+#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
+#include "sky/sky_texture_sets.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -31,8 +34,9 @@ struct SkyInstall : testing::Test {
         writeFile(install.simulator() / u"Texture\\sky_2.bmp", "the pilot's second sky");
     }
     void installSky(const QString& name, bool automatic = true) {
-        session.sky.SelectedSkySet = name;
-        if (const auto record = findSkySet(session, name)) session.sky.SelectedSkyCover = record->CloudCover;
+        session.state<SkySelection>().SelectedSkySet = name;
+        if (const auto record = findSkySet(session, name))
+            session.state<SkySelection>().SelectedSkyCover = record->CloudCover;
         SkyInstallation(session).installSkySet(automatic);
     }
     QByteArray texture(const char16_t* name) { return readFile(install.simulator() / u"Texture" / name); }
@@ -49,7 +53,7 @@ TEST_F(SkyInstall, aSetWithNothingToCopyIsNoError) {
 
 TEST_F(SkyInstall, copiesTheBitmapsAndRecordsTheSet) {
     install.addSkySet("2-Calm", "Sky Clear", true);
-    session.gSkyTextureSets->markInstalled("2-Calm");
+    session.rows<clsSkyTextureSets>()->markInstalled("2-Calm");
     installSky(" 1-Storm ");
     EXPECT_EQ(texture(u"sky_1.bmp"), "1-Storm SKY_1.BMP");
     EXPECT_EQ(texture(u"sky_2.bmp"), "the pilot's second sky"); // what the set lacks stays in place
@@ -81,7 +85,7 @@ TEST_F(SkyInstall, anEmptyFolderChangesRowsAndSplashOnly) {
 
 TEST_F(SkyInstall, defaultIsASetLikeAnyOther) {
     install.addSkySet("Default", "Partly Cloudy", true, {"sky_1.bmp"});
-    session.InhibitCustomSplash = true;
+    session.state<OptionsInForce>().InhibitCustomSplash = true;
     installSky("Default");
     EXPECT_EQ(texture(u"sky_1.bmp"), "Default sky_1.bmp");
     EXPECT_EQ(splash(), "the pilot's splash"); // the ground's "Default" would replace it
@@ -99,14 +103,14 @@ TEST_F(SkyInstall, aReadOnlyTargetEndsItHalfWayWithTheRowsChanged) {
 }
 
 TEST_F(SkyInstall, severalTickedRowsAreRefused) {
-    session.sky.selectedRows = QStringList{"1-Storm", "Default"}; // "Default" counts, too
+    session.state<SkySelection>().selectedRows = QStringList{"1-Storm", "Default"}; // "Default" counts, too
     installSky("1-Storm", false);
     EXPECT_TRUE(install.installedSkySets().isEmpty());
     EXPECT_EQ(install.user.told(),
               QStringList{"Exclamation|Multiple Selection Detetected!|Morvane has detected more than one "
                           "selection for installation.  You can only select one texture set to be installed "
                           "at any one time.  Please check your selection and try again!."});
-    EXPECT_FALSE(session.RefreshSkyList);
+    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
 }
 
 TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
@@ -119,15 +123,15 @@ TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
                      launchQuestion}));
     EXPECT_TRUE(install.installedSets().isEmpty());
     EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
-    EXPECT_TRUE(session.RefreshSkyList);
+    EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
     EXPECT_TRUE(install.user.calls.contains("refresh frm_KMTextures"));
 
     session.CommandLineRun = true;
-    session.RefreshSkyList = false;
+    session.state<SkySelection>().RefreshSkyList = false;
     install.user.calls.clear();
     install.user.messages.clear();
     installSky("1-Storm", false);
-    EXPECT_FALSE(session.RefreshSkyList);
+    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
     EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1) << "no start of the simulator is offered";
     EXPECT_FALSE(install.user.calls.contains("refresh frm_Main"));
 }
@@ -204,9 +208,9 @@ TEST_F(MatchingSky, isDefaultWithoutOneOfTheCoverAndNoneWithoutAny) {
     clsSkyTextureSetData(session).deleteSkyTexture(findSkySet(session, "Default")->StsID);
     clsSkyTextureSetData(session).deleteSkyTexture(findSkySet(session, "1-Storm")->StsID);
     install.reload();
-    session.sky.SelectedSkySet = "untouched";
+    session.state<SkySelection>().SelectedSkySet = "untouched";
     EXPECT_TRUE(installGround(0).isEmpty());
-    EXPECT_EQ(session.sky.SelectedSkySet, "untouched");
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "untouched");
     EXPECT_EQ(install.user.calls.filter("sky textures").size(), 0);
 }
 

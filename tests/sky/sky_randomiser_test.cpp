@@ -1,3 +1,4 @@
+#include "sets/slider_values.h"
 #include "sky/sky_randomiser.h"
 
 #include "sky/sky_install.h"

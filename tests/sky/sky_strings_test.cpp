@@ -1,3 +1,4 @@
+#include "sets/slider_values.h"
 #include "sky/sky_strings.h"
 
 #include "core/error.h"
@@ -119,7 +120,8 @@ TEST_F(StringsTest, textsAndTableSayTheSame) {
         for (const SkyGroupConstants& group : skyGroups()) {
             const QString& text = strings[static_cast<std::size_t>(group.number - 1)];
             const auto read = parseSkyColourString(text);
-            const SkyGroup& record = skyRecord(session.skyTextureGroups, group.number);
+            const SkyGroup& record =
+                skyRecord(session.state<SkyColourTables>().skyTextureGroups, group.number);
             EXPECT_TRUE(text.endsWith(u':' + skyRegionSuffix(group))) << text.toStdString();
             for (const SkyField& field : skyFields())
                 EXPECT_EQ(record.*field.value, (*read).*field.value) << text.toStdString();
@@ -146,23 +148,23 @@ TEST_F(StringsTest, fixedNumbersDifferFromTheRandomButtons) {
 }
 
 TEST_F(StringsTest, aBaseSetWithoutRulesGetsItsRegionsAlone) {
-    session.skyTextureGroups[9].red = 50;
+    session.state<SkyColourTables>().skyTextureGroups[9].red = 50;
     for (int cloudIndex = 1; cloudIndex <= 4; ++cloudIndex) {
         const SkyStrings strings = drawSkyStrings(session, cloudIndex, u"Overcast"_s);
         EXPECT_EQ(strings[5], "6:31:32");
         EXPECT_EQ(strings[9], "1:32:255");
-        EXPECT_EQ(session.skyTextureGroups[9].red, 0);
-        EXPECT_EQ(session.skyTextureGroups[9].PixelY, 255);
+        EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].red, 0);
+        EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].PixelY, 255);
     }
     EXPECT_THROW(drawSkyStrings(session, 0, u"Default"_s), Error);
     EXPECT_THROW(drawSkyStrings(session, 6, u"Default"_s), Error);
 }
 
 TEST_F(StringsTest, onlyADayHasColours) {
-    session.skyTextureGroups[9].red = 50;
+    session.state<SkyColourTables>().skyTextureGroups[9].red = 50;
     for (const QString& text : skyStringsFor(session, u"Sunset"_s, 3, u"Default"_s))
         EXPECT_EQ(text, "0:0:0:0:0:0:0:0:0");
-    EXPECT_EQ(session.skyTextureGroups[9].red, 50);
+    EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].red, 50);
     EXPECT_EQ(skyStringsFor(session, u"Day"_s, 3, u"Default"_s)[4], "0:0:0:0:0:0:5:5:32");
 }
 

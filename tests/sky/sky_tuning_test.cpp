@@ -1,8 +1,10 @@
+#include "app/exit_flow.h"
+#include "sets/slider_values.h"
 #include "sky/sky_tuning.h"
 
-#include "core/application.h"
 #include "core/ini_file.h"
 #include "imaging/pixel_patterns.h"
+#include "sky/sky_base_sets.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_install.h"
 #include "sky/sky_tuning_state.h"
@@ -19,12 +21,14 @@ struct SkyTuningTest : testing::Test {
                           picture.BytesPerScanLine() * picture.Height());
     }
     bool isColoured() { return pixels(tuning.resultDib()) != pixels(tuning.sourceDib()); }
-    SkyGroup& group(int number) { return skyRecord(session.skyPaletteGroups, number); }
+    SkyGroup& group(int number) {
+        return skyRecord(session.state<SkyColourTables>().skyPaletteGroups, number);
+    }
     void chooseBase(const QString& name, bool confirmed) {
         install.user.onModal = [=, this](Screen screen) {
             ASSERT_EQ(screen, Screen::frm_SelectBaseSky);
-            session.skyTuning.baseSet = name; // in force at its click
-            session.modal.baseSkyConfirmed = confirmed;
+            session.state<SkyTuningState>().baseSet = name; // in force at its click
+            session.state<BaseSkyAnswer>().baseSkyConfirmed = confirmed;
         };
         tuning.openBaseSkyImage();
     }
@@ -46,8 +50,8 @@ constexpr float shadow = 3, water = 100, gap = 7.55f;
 
 TEST_F(SkyTuningTest, firstRunAppliesNoRegionUntilItIsClicked) {
     EXPECT_EQ(tuning.open(), SliderValues{});
-    EXPECT_EQ(session.skyTuning.cloudCover, "Sky Clear");
-    EXPECT_EQ(session.skyTuning.baseSet, "Default");
+    EXPECT_EQ(session.state<SkyTuningState>().cloudCover, "Sky Clear");
+    EXPECT_EQ(session.state<SkyTuningState>().baseSet, "Default");
     EXPECT_EQ(tuning.selectedText(), "The aircraft/ground dark shadowing pixel is currently selected");
     ASSERT_EQ(tuning.sourceDib().Width(), 32);
     EXPECT_TRUE(shows(u"Default"_s));
@@ -95,16 +99,16 @@ TEST_F(SkyTuningTest, aClickBetweenColumnsChangesNothing) {
     tuning.SkyProcess({0, 80, 0, 0, 0, 0});
     const QByteArray before = pixels(tuning.resultDib());
     EXPECT_EQ(tuning.clickPalette(gap, topRow), (SliderValues{0, 80, 0, 0, 0, 0}));
-    EXPECT_EQ(session.skyTuning.selectedGroup, 6);
+    EXPECT_EQ(session.state<SkyTuningState>().selectedGroup, 6);
     EXPECT_EQ(pixels(tuning.resultDib()), before);
     tuning.clickPalette(water, gap); // between two rows is the sky
-    EXPECT_EQ(session.skyTuning.selectedGroup, 10);
+    EXPECT_EQ(session.state<SkyTuningState>().selectedGroup, 10);
 }
 
 TEST_F(SkyTuningTest, randomNumbersGoToTheGroupInHand) {
     tuning.open();
     tuning.optCloudCover(4);
-    EXPECT_EQ(session.skyTuning.cloudCover, "Overcast");
+    EXPECT_EQ(session.state<SkyTuningState>().cloudCover, "Overcast");
     install.random.numbers = {0};
     tuning.clickPalette(water, skyRow);
     EXPECT_EQ(tuning.randomizeSky(), (SliderValues{-30, -30, -30, -30, -30, -30}));
@@ -147,7 +151,7 @@ TEST_F(SkyTuningTest, laterVisitsKeepTheState) {
 TEST_F(SkyTuningTest, settingsComeBackWithTheMapsRegions) {
     tuning.open();
     tuning.optCloudCover(2);
-    session.skyTuning.baseSet = u"Default Softer"_s;
+    session.state<SkyTuningState>().baseSet = u"Default Softer"_s;
     tuning.clickPalette(water, topRow);
     tuning.SkyProcess({-1, 2, -3, 4, -5, 6});
     group(3).red = 12.75f;
@@ -155,13 +159,13 @@ TEST_F(SkyTuningTest, settingsComeBackWithTheMapsRegions) {
     group(10).PixelXLow = 17; // the file gets the map's
     saveLastSkySettings(session);
 
-    session.skyTuning = {};
-    session.skyPaletteGroups = {};
+    session.state<SkyTuningState>() = {};
+    session.state<SkyColourTables>().skyPaletteGroups = {};
     EXPECT_EQ(tuning.open(), SliderValues{});
-    EXPECT_EQ(session.skyTuning.cloudCover, "Partly Cloudy");
-    EXPECT_EQ(session.skyTuning.cloudIndex, 3);
-    EXPECT_EQ(session.skyTuning.baseSet, "Default Softer");
-    EXPECT_EQ(session.skyTuning.selectedGroup, 1);
+    EXPECT_EQ(session.state<SkyTuningState>().cloudCover, "Partly Cloudy");
+    EXPECT_EQ(session.state<SkyTuningState>().cloudIndex, 3);
+    EXPECT_EQ(session.state<SkyTuningState>().baseSet, "Default Softer");
+    EXPECT_EQ(session.state<SkyTuningState>().selectedGroup, 1);
     EXPECT_EQ(skyColourString(group(6), skyGroup(6)), "-1:2:-3:4:-5:6:6:31:32");
     EXPECT_EQ(group(3).red, 12); // cut, not rounded
     EXPECT_EQ(group(4).blue, 0);
@@ -180,8 +184,8 @@ TEST_F(SkyTuningTest, settingsOfAnotherHandAreTakenAsTheyAre) {
                     "[Red]\r\n1=250\r\n2=x\r\n10=-7.9\r\n[PixelY]\r\n1=99999999999\r\n"
                     "[Kept]\r\nas=it is\r\n");
     EXPECT_EQ(tuning.open()[1], 100); // what a slider can show
-    EXPECT_EQ(session.skyTuning.cloudCover, "A very foggy mo");
-    EXPECT_EQ(session.skyTuning.cloudIndex, 1);
+    EXPECT_EQ(session.state<SkyTuningState>().cloudCover, "A very foggy mo");
+    EXPECT_EQ(session.state<SkyTuningState>().cloudIndex, 1);
     EXPECT_TRUE(shows(u"Sunny"_s));
     EXPECT_EQ(group(2).red, 0);
     EXPECT_EQ(group(10).red, -7);
@@ -195,14 +199,14 @@ TEST_F(SkyTuningTest, settingsOfAnotherHandAreTakenAsTheyAre) {
 TEST_F(SkyTuningTest, settingsWithoutACoverAreAFirstRun) {
     test::writeFile(settings, "[Cloud Cover]\r\n1=  \r\n[Texture Set Group]\r\n1=Sunny\r\n[Red]\r\n1=5\r\n");
     EXPECT_EQ(tuning.open(), SliderValues{});
-    EXPECT_EQ(session.skyTuning.baseSet, "Default");
-    EXPECT_EQ(session.skyTuning.cloudCover, "Sky Clear");
+    EXPECT_EQ(session.state<SkyTuningState>().baseSet, "Default");
+    EXPECT_EQ(session.state<SkyTuningState>().cloudCover, "Sky Clear");
 }
 
 TEST_F(SkyTuningTest, settingsWithoutABaseShowNoSample) {
     test::writeFile(settings, "[Cloud Cover]\r\n1=Overcast\r\n[Red]\r\n1=5\r\n");
     EXPECT_EQ(tuning.open(), (SliderValues{0, 5, 0, 0, 0, 0}));
-    EXPECT_EQ(session.skyTuning.cloudIndex, 5);
+    EXPECT_EQ(session.state<SkyTuningState>().cloudIndex, 5);
     EXPECT_EQ(install.user.told().size(), 1);
     EXPECT_FALSE(tuning.sourceDib().isCreated());
 }

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "core/options.h"
+#include "core/flag_text.h"
 #include "core/row_set.h"
 #include "night/night_sets.h"
+#include "night/night_texture_sets.h"
 #include "support/small_install.h"
 
 namespace morvane::test {
@@ -42,7 +43,7 @@ inline void addNightSet(SmallInstall& install, const QString& name, bool activat
 inline QString nightSets(Session& session) {
     refreshNightSets(session);
     QStringList names;
-    for (const auto& set : *session.gNightTextureSets)
+    for (const auto& set : *session.rows<clsNightTextureSets>())
         names << set->TextureSet + (set->Actvated == flagText(true) ? u"+"_s : QString()) +
                      (set->Installed ? u"*"_s : QString());
     return names.join(u' ');

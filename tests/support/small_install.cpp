@@ -1,11 +1,13 @@
 #include "support/small_install.h"
 
-#include "core/application.h"
+#include "app/start_up.h"
 #include "core/row_set.h"
 #include "core/store.h"
 #include "core/store_schema.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
 #include "sky/sky_sets.h"
+#include "sky/sky_texture_sets.h"
 
 #include <QBuffer>
 #include <QDirIterator>
@@ -195,9 +197,9 @@ QStringList SmallInstall::installedSkySets() {
 }
 
 void SmallInstall::reload() {
-    session.gTextureSets.reset();
+    session.rows<clsTextureSets>().reset();
     loadedGroundSets(session);
-    session.gSkyTextureSets.reset();
+    session.rows<clsSkyTextureSets>().reset();
     loadedSkySets(session);
 }
 

@@ -1,5 +1,5 @@
+#include "imaging/program_font.h"
 #include "ui/controls/paper_style.h"
-#include "ui/program_font.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #include "support/version_two_install.h"
 
-#include "core/application.h"
 #include "core/row_set.h"
 #include "core/store.h"
+#include "core/store_connection.h"
 #include "ground/texture_sets.h"
-#include "simulator/resource_folders.h"
+#include "sets/resource_folders.h"
 
 namespace morvane::test {
 
@@ -42,8 +42,8 @@ void makeVersionTwo(SmallInstall& install) {
           "INSERT INTO DECODED_METAR(METAR_ICAO) VALUES('OLD1')"})
         store.execute(QString::fromLatin1(statement));
     closeDatabase(install.session);
-    install.session.gTextureSets.reset();
-    install.session.gResources.reset();
+    install.session.rows<clsTextureSets>().reset();
+    install.session.rows<clsResourceFolders>().reset();
     writeFile(install.home() / u"AIRPORTDATA.txt", airportLines());
     writeFile(install.home() / u"DECODED_METAR.txt",
               "heading\r\n" + reportLine("KAA1", "True", "5") + reportLine("KAA2", "", "") +

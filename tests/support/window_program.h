@@ -1,12 +1,15 @@
 #pragma once
 
-#include "core/application.h"
+#include "app/start_up.h"
+#include "ground/ground_selection.h"
+#include "night/night_selection.h"
 #include "sky/sky_base_sets.h"
+#include "sky/sky_selection.h"
 #include "support/night_install.h"
 #include "ui/dialog_form.h"
-#include "ui/shell.h"
 #include "ui/skin.h"
-#include "ui/window_user.h"
+#include "window/window_shell.h"
+#include "window/window_user.h"
 
 #include <QApplication>
 #include <QTest>
@@ -31,7 +34,8 @@ public:
         addNightStock(install);
         user.setShell(&shell);
         if (!startUp(session)) throw std::runtime_error("the window program does not start");
-        session.RefreshGroundList = session.RefreshSkyList = session.RefreshNightList = true;
+        session.state<GroundSelection>().RefreshGroundList = session.state<SkySelection>().RefreshSkyList =
+            session.state<NightSelection>().RefreshNightList = true;
         shell.formatMainScreen();
         shell.form(u"frm_Main"_s)->show();
         if (!options.skin.isEmpty()) return;
@@ -83,7 +87,7 @@ public:
     WindowUser user;
     Session session;
     Skin skin;
-    Shell shell;
+    WindowShell shell;
 };
 
 } // namespace morvane::test

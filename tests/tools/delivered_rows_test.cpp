@@ -3,6 +3,7 @@
 #include "core/row_set.h"
 #include "core/store.h"
 #include "core/text_decoding.h"
+#include "sets/options_in_force.h"
 #include "support/printing.h"
 
 #include <QRegularExpression>
@@ -17,8 +18,9 @@ TEST_F(DeliveredRows, letTheProgramDoItsFirstRunWithoutAQuestion) {
     EXPECT_TRUE(hasStarted);
     EXPECT_EQ(user.countOfKind(MessageKind::question), 0);
     EXPECT_EQ(session.FSPath.native(), simulator().native());
-    EXPECT_FALSE(session.IsWideClient || session.IsDutch || session.IsTropical || session.IsHalo ||
-                 session.IsFastExit);
+    EXPECT_FALSE(session.state<OptionsInForce>().IsWideClient || session.state<OptionsInForce>().IsDutch ||
+                 session.state<OptionsInForce>().IsTropical || session.state<OptionsInForce>().IsHalo ||
+                 session.state<OptionsInForce>().IsFastExit);
     EXPECT_EQ(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s), u"False");
     EXPECT_EQ(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s), u"False");
 }

@@ -1,6 +1,7 @@
 #include "made_install.h"
+#include "core/store_connection.h"
 
-#include "core/application.h"
+#include "app/start_up.h"
 
 #include <QProcess>
 #include <stdexcept>

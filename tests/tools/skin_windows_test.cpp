@@ -1,9 +1,9 @@
 #include "skin_windows.h"
 
 #include "core/error.h"
+#include "imaging/program_font.h"
 #include "imaging/window_region.h"
 #include "skin_palette.h"
-#include "ui/program_font.h"
 
 #include <gtest/gtest.h>
 

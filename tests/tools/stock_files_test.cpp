@@ -1,4 +1,6 @@
 #include "made_install.h"
+#include "sets/catalogue_file.h"
+#include "sets/sample_choice.h"
 
 #include "ground/texture_catalogue.h"
 #include "ground/tropical_files.h"

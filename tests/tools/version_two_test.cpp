@@ -1,6 +1,8 @@
+#include "core/store_connection.h"
+#include "ground/texture_sets.h"
 #include "version_two.h"
 
-#include "core/application.h"
+#include "app/start_up.h"
 #include "core/row_set.h"
 #include "core/store.h"
 #include "ground/ground_sets.h"
@@ -35,7 +37,7 @@ TEST(VersionTwo, isOfTheOldFormAndItsNextStartBringsEverythingBack) {
     EXPECT_FALSE(files.list(set / u"Texture", u"*.bmp"_s).isEmpty());
     EXPECT_FALSE(files.isFolder(set / u"Dutch"));
 
-    session.gTextureSets.reset();
+    session.rows<clsTextureSets>().reset();
     ASSERT_TRUE(startUp(session));
     EXPECT_EQ(RowSet(*session.adoConn, u"SELECT * FROM AIRPORTDATA"_s).text(u"STATE"), "Zürich, Uri");
     EXPECT_TRUE(findGroundSet(session, u"3-Grey day"_s)->IsDutch);

@@ -1,6 +1,6 @@
 #include "support/temporary_folder.h"
-#include "ui/screen_scale.h"
 #include "ui/skin.h"
+#include "window/screen_scale.h"
 
 #include "core/literals.h"
 

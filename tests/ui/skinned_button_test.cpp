@@ -1,7 +1,7 @@
 #include "support/temporary_folder.h"
-#include "ui/dispatch_table.h"
 #include "ui/skin.h"
 #include "ui/skinned_button.h"
+#include "window/dispatch_table.h"
 
 #include "core/literals.h"
 

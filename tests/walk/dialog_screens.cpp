@@ -1,3 +1,11 @@
+#include "ground/ground_generation.h"
+#include "ground/sample_textures.h"
+#include "night/night_samples.h"
+#include "sets/favourite_name.h"
+#include "sets/set_removal.h"
+#include "simulator/backup_restore.h"
+#include "sky/sky_base_sets.h"
+#include "sky/sky_generation.h"
 #include "walk/walk_tables.h"
 
 namespace morvane::test {
@@ -5,29 +13,34 @@ namespace morvane::test {
 namespace {
 
 bool isSampleTaken(Session& session) {
-    return session.modal.sampleConfirmed;
+    return session.state<GroundSampleChoice>().sampleConfirmed;
+}
+
+bool isNightSampleTaken(Session& session) {
+    return session.state<NightSampleChoice>().sampleConfirmed;
 }
 
 bool isBackupTaken(Session& session) {
-    return session.modal.backupConfirmed;
+    return session.state<BackupChoice>().backupConfirmed;
 }
 
 Effect chosenBackup() {
-    return becomes([](Session& session) { return session.modal.chosenBackup; });
+    return becomes([](Session& session) { return session.state<BackupChoice>().chosenBackup; });
 }
 
 void giveBackups(Session& session) {
     const QDateTime first(QDate(2026, 7, 14), QTime(14, 7));
-    session.modal.backups = {{u"1-Backup"_s, first, true}, {u"2-Backup"_s, first.addDays(9), false}};
+    session.state<BackupChoice>().backups = {{u"1-Backup"_s, first, true},
+                                             {u"2-Backup"_s, first.addDays(9), false}};
 }
 
 void giveNames(Session& session) {
-    session.modal.multiNames = QStringList{u"2-Fair"_s, u"4-Calm"_s, u"3-Grey"_s};
+    session.state<MultiChoice>().multiNames = QStringList{u"2-Fair"_s, u"4-Calm"_s, u"3-Grey"_s};
 }
 
 /// All boxes have something to count.
 void giveBaseSets(Session& session) {
-    session.modal.skyBaseSets = QStringList{u"Sunny"_s, overcastBaseSet};
+    session.state<SkySetCounts>().skyBaseSets = QStringList{u"Sunny"_s, overcastBaseSet};
 }
 
 std::vector<WalkRow> countRows() {
@@ -39,27 +52,31 @@ std::vector<WalkRow> countRows() {
 std::vector<WalkScreen> setDialogs() {
     return {
         {"ground_counts", u"frm_TsRequired"_s, dialog(Screen::frm_TsRequired), true,
-         answerRows([](Session& session) { return session.modal.setCountsConfirmed; }) + countRows()},
+         answerRows([](Session& session) { return session.state<GroundSetCounts>().setCountsConfirmed; }) +
+             countRows()},
         {"sky_counts", u"frm_SelectSkyTexture"_s, dialog(Screen::frm_SelectSkyTexture, giveBaseSets), true,
-         answerRows([](Session& session) { return session.modal.skySetsConfirmed; }) + countRows() +
-             std::vector<WalkRow>{{u"chkStsGroup*"_s, itself(), 7}}},
+         answerRows([](Session& session) { return session.state<SkySetCounts>().skySetsConfirmed; }) +
+             countRows() + std::vector<WalkRow>{{u"chkStsGroup*"_s, itself(), 7}}},
         {"base_sky", u"frm_SelectBaseSky"_s, dialog(Screen::frm_SelectBaseSky), true,
-         answerRows([](Session& session) { return session.modal.baseSkyConfirmed; }) +
+         answerRows([](Session& session) { return session.state<BaseSkyAnswer>().baseSkyConfirmed; }) +
              std::vector<WalkRow>{{u"optBaseSky*"_s, itself(), 7}}},
         {"sample", u"frm_SelectTexture"_s, dialog(Screen::frm_SelectTexture), true,
          answerRows(isSampleTaken) +
              std::vector<WalkRow>{{u"optSeason_*"_s, itself(), 4}, {u"optTexture_*"_s, itself(), 12}}},
         {"night_sample", u"frm_SelectNightTexture"_s, dialog(Screen::frm_SelectNightTexture), true,
-         answerRows(isSampleTaken) + std::vector<WalkRow>{{u"optNightTexture_*"_s, itself(), 5}}},
+         answerRows(isNightSampleTaken) + std::vector<WalkRow>{{u"optNightTexture_*"_s, itself(), 5}}},
         {"favourite", u"frm_AddFav"_s, dialog(Screen::frm_AddFav), true,
-         answerRows([](Session& session) { return session.modal.favConfirmed; }) +
+         answerRows([](Session& session) { return session.state<FavouriteAnswer>().favConfirmed; }) +
              std::vector<WalkRow>{
-                 {u"txtFavName"_s, becomes([](Session& session) { return session.modal.favName; }, u"7"_s)},
+                 {u"txtFavName"_s,
+                  becomes([](Session& session) { return session.state<FavouriteAnswer>().favName; }, u"7"_s)},
                  {u"txtFavDesc"_s, label(u"lblLength"_s, u"1"_s)}}},
         {"names", u"frm_MultiDelete"_s, dialog(Screen::frm_MultiDelete, giveNames), true,
-         answerRows([](Session& session) { return session.modal.multiConfirmed.size() == 3; }) +
-             std::vector<WalkRow>{
-                 {u"lstNames"_s, itself()}, {u"lstNames|tick"_s, itself()}, {u"lstNames|head"_s, itself()}}},
+         answerRows([](Session& session) {
+             return session.state<MultiChoice>().multiConfirmed.size() == 3;
+         }) + std::vector<WalkRow>{{u"lstNames"_s, itself()},
+                                   {u"lstNames|tick"_s, itself()},
+                                   {u"lstNames|head"_s, itself()}}},
         {"backups",
          u"frm_BackupList"_s,
          dialog(Screen::frm_BackupList, giveBackups),

@@ -4,6 +4,7 @@
 #include "core/row_set.h"
 #include "core/store.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
 #include "simulator/texture_switches.h"
 #include "sky/sky_sets.h"
 #include "weather/directory_rows.h"
@@ -21,7 +22,7 @@ void addSets(WindowProgram& program) {
     addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\029b2lm1.bmp"_s});
     addNightSet(program.install, u"3-Blue"_s, false);
     refreshGroundSets(program.session);
-    program.session.gTextureSets->markInstalled(u"2-Fair"_s);
+    program.session.rows<clsTextureSets>()->markInstalled(u"2-Fair"_s);
 }
 
 void addBaseTextures(Session& session) {

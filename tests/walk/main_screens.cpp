@@ -1,3 +1,4 @@
+#include "sets/options_in_force.h"
 #include "walk/walk_tables.h"
 
 namespace morvane::test {
@@ -33,13 +34,18 @@ std::function<void(Walk&)> page(const QString& name) {
 }
 
 /// The option is taken, behind the message that says so.
-Effect option(bool Session::*flag) {
-    return becomes([flag](Session& session) { return session.*flag ? u"on"_s : u"off"_s; })
+Effect option(bool OptionsInForce::*flag) {
+    return becomes([flag](Session& session) {
+               return session.state<OptionsInForce>().*flag ? u"on"_s : u"off"_s;
+           })
         .after({Qt::Key_Return});
 }
 
-Effect takesOption(bool Session::*flag) {
-    return becomes([flag](Session& session) { return session.*flag ? u"on"_s : u"off"_s; }).lasting();
+Effect takesOption(bool OptionsInForce::*flag) {
+    return becomes([flag](Session& session) {
+               return session.state<OptionsInForce>().*flag ? u"on"_s : u"off"_s;
+           })
+        .lasting();
 }
 
 } // namespace
@@ -53,12 +59,12 @@ std::vector<WalkScreen> mainScreens() {
                                   {u"btn_MVConfig"_s, shows(u"frm_Main/frm_Config"_s)}}},
         {"options", u"frm_Switcher"_s, page(u"frm_Switcher"_s), false,
          mainWindowRows(u"btn_Switcher"_s) +
-             std::vector<WalkRow>{{u"chkWideFS"_s, option(&Session::IsWideClient)},
-                                  {u"chkDutch"_s, takesOption(&Session::IsDutch)},
-                                  {u"chkNonTropical"_s, takesOption(&Session::IsTropical)},
-                                  {u"chkHalo"_s, option(&Session::IsHalo)},
-                                  {u"chkFastExit"_s, option(&Session::IsFastExit)},
-                                  {u"chkCustomSplash"_s, option(&Session::InhibitCustomSplash)},
+             std::vector<WalkRow>{{u"chkWideFS"_s, option(&OptionsInForce::IsWideClient)},
+                                  {u"chkDutch"_s, takesOption(&OptionsInForce::IsDutch)},
+                                  {u"chkNonTropical"_s, takesOption(&OptionsInForce::IsTropical)},
+                                  {u"chkHalo"_s, option(&OptionsInForce::IsHalo)},
+                                  {u"chkFastExit"_s, option(&OptionsInForce::IsFastExit)},
+                                  {u"chkCustomSplash"_s, option(&OptionsInForce::InhibitCustomSplash)},
                                   {u"btn_RegOK"_s, shows(u"box Please select a folder..."_s)}}},
         {"base_install", u"frm_Config"_s, page(u"frm_Config"_s), false,
          mainWindowRows(u"btn_Config"_s) +

@@ -1,10 +1,13 @@
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "night/night_selection.h"
 #include "night/night_sets.h"
+#include "sets/screens/set_list_form.h"
 #include "sky/screens/palette_picture.h"
+#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "ui/controls/set_table.h"
 #include "ui/controls/slider.h"
-#include "ui/set_list_form.h"
 #include "walk/walk_tables.h"
 
 namespace morvane::test {
@@ -93,15 +96,15 @@ std::vector<WalkRow> sliderRows(const QString& prefix) {
 // What is in hand, and what became of a set ---------------------------------------------------------------
 
 QString groundInHand(Session& session) {
-    return session.ground.SelectedGroundSet;
+    return session.state<GroundSelection>().SelectedGroundSet;
 }
 
 QString skyInHand(Session& session) {
-    return session.sky.SelectedSkySet;
+    return session.state<SkySelection>().SelectedSkySet;
 }
 
 QString nightInHand(Session& session) {
-    return session.night.SelectedNightSet;
+    return session.state<NightSelection>().SelectedNightSet;
 }
 
 /// "True", "False" or "gone".

@@ -1,13 +1,25 @@
 #include "walk/walk_tables.h"
 
+#include "ground/ground_generation.h"
+#include "ground/sample_textures.h"
+#include "night/night_samples.h"
+#include "sets/favourite_name.h"
+#include "sets/set_removal.h"
+#include "simulator/backup_restore.h"
+#include "simulator/simulator_launch.h"
+#include "sky/sky_base_sets.h"
+#include "sky/sky_generation.h"
 #include "ui/host_form.h"
+#include "weather/cover_choice.h"
+#include "weather/decoded_lines.h"
+#include "weather/weather_refresh.h"
 
 namespace morvane::test {
 
 namespace {
 
 /// The one that is shown, out of the taskbar.
-Form& visibleWindow(Shell& shell) {
+Form& visibleWindow(WindowShell& shell) {
     for (const QString& name : windowNames) {
         Form* window = shell.loadedForm(name);
         if (!window || !window->isVisible()) continue;
@@ -20,7 +32,7 @@ Form& visibleWindow(Shell& shell) {
 } // namespace
 
 void openHome(Walk& walk) {
-    Shell& shell = walk.program().shell;
+    WindowShell& shell = walk.program().shell;
     const QString window = visibleWindow(shell).formName();
     if (window != u"frm_Main") shell.leaveHost(window);
     shell.goHome();
@@ -29,17 +41,25 @@ void openHome(Walk& walk) {
 /// From the window itself where it stands already: one that went and came again at once would confuse the
 /// window system.
 void openHost(Walk& walk, const QString& name) {
-    Shell& shell = walk.program().shell;
+    WindowShell& shell = walk.program().shell;
     if (visibleWindow(shell).formName() == name)
         shell.showList(name);
     else
         shell.showHost(name);
 }
 
+/// What dialogs of before were given and gave back.
+template <class... Dialogs>
+void forget(Session& session) {
+    ((session.state<Dialogs>() = {}), ...);
+}
+
 std::function<void(Walk&)> dialog(Screen screen, const std::function<void(Session&)>& prepare) {
     return [=](Walk& walk) {
         openHome(walk);
-        walk.session().modal = {};
+        forget<GroundSetCounts, SkySetCounts, BaseSkyAnswer, GroundSampleChoice, NightSampleChoice,
+               FavouriteAnswer, MultiChoice, BackupChoice, FlightChoice, DecodedReportLines, MetarRequest,
+               CoverChoice>(walk.session());
         prepare(walk.session());
         walk.program().user.showModal(screen);
     };

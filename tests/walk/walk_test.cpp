@@ -1,12 +1,12 @@
 // The walk: every control that is alive on a screen, by the mouse and by the keyboard, on the platform's own
 // plug-in.
 
+#include "imaging/program_font.h"
 #include "skin_files.h"
 #include "ui/controls/paper_style.h"
-#include "ui/form_table.h"
-#include "ui/program_font.h"
 #include "walk/furnished_program.h"
 #include "walk/walk_tables.h"
+#include "window/form_table.h"
 
 #include <QWindow>
 #include <gtest/gtest.h>

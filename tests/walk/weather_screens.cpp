@@ -1,7 +1,11 @@
 #include "core/literals.h"
+#include "simulator/simulator_launch.h"
 #include "walk/walk_tables.h"
 #include "weather/cover_choice.h"
+#include "weather/decoded_lines.h"
 #include "weather/screens/filter_choice.h"
+#include "weather/weather_refresh.h"
+#include "weather/weather_state.h"
 #include "weather/wx_filter.h"
 
 namespace morvane::test {
@@ -11,7 +15,7 @@ namespace {
 /// The search is narrowed already, so that there is a filter to clear.
 void openWeather(Walk& walk) {
     openHome(walk);
-    walk.session().weather.InhibitWeatherReports = false;
+    walk.session().state<WeatherState>().InhibitWeatherReports = false;
     walk.program().shell.goToPage(u"frm_WxControl"_s);
     auto& country = walk.program().control<FilterChoice>(u"frm_WxControl"_s, u"cboCountry"_s);
     country.setCurrentIndex(2);
@@ -20,24 +24,24 @@ void openWeather(Walk& walk) {
 
 void openFinder(Walk& walk) {
     openHome(walk);
-    walk.session().weather.DepIcao.clear();
+    walk.session().state<WeatherState>().DepIcao.clear();
     showWxFinder(walk.session());
 }
 
 bool isAirportTaken(Session& session) {
-    return !session.weather.DepIcao.isEmpty();
+    return !session.state<WeatherState>().DepIcao.isEmpty();
 }
 
 bool isFlightTaken(Session& session) {
-    return session.modal.FlightSelected;
+    return session.state<FlightChoice>().FlightSelected;
 }
 
 bool isCoverTaken(Session& session) {
-    return session.modal.coverConfirmed;
+    return session.state<CoverChoice>().coverConfirmed;
 }
 
 bool isMethodTaken(Session& session) {
-    return session.modal.coverMethod != static_cast<std::int16_t>(CoverMethod::cancelled);
+    return session.state<CoverChoice>().coverMethod != static_cast<std::int16_t>(CoverMethod::cancelled);
 }
 
 /// Airports, of which the next search would be another one.
@@ -46,21 +50,21 @@ Effect found() {
 }
 
 Effect chosenFlight() {
-    return becomes([](Session& session) { return session.modal.SelectedFlightName; });
+    return becomes([](Session& session) { return session.state<FlightChoice>().SelectedFlightName; });
 }
 
 Effect chosenReport() {
-    return becomes([](Session& session) { return session.wxFilter.WxSelectedIcao; });
+    return becomes([](Session& session) { return session.state<WxFilter>().WxSelectedIcao; });
 }
 
 Effect coverList() {
-    return becomes([](Session& session) { return session.WxCloudList.join(u','); });
+    return becomes([](Session& session) { return session.state<FlightWeather>().WxCloudList.join(u','); });
 }
 
 void giveAirports(Session& session) {
-    session.weather.DepIcao = u"KSEA"_s;
-    session.weather.DepMetar = u"KSEA 241225Z 24015KT 9999 OVC030 18/09 Q1012"_s;
-    session.weather.DestMetar = u"KPDX 241220Z 24015KT 9999 BKN030 18/09 Q1012"_s;
+    session.state<WeatherState>().DepIcao = u"KSEA"_s;
+    session.state<WeatherState>().DepMetar = u"KSEA 241225Z 24015KT 9999 OVC030 18/09 Q1012"_s;
+    session.state<WeatherState>().DestMetar = u"KPDX 241220Z 24015KT 9999 BKN030 18/09 Q1012"_s;
 }
 
 } // namespace
@@ -107,14 +111,16 @@ std::vector<WalkScreen> weatherScreens() {
         {"decoded_report",
          u"frm_metar"_s,
          dialog(Screen::frm_metar,
-                [](Session& session) { session.modal.decodedMetarLines = QStringList{u"One"_s}; }),
+                [](Session& session) {
+                    session.state<DecodedReportLines>().decodedMetarLines = QStringList{u"One"_s};
+                }),
          true,
          {{u"btn_Ok"_s, closes([](Session&) { return true; }, true)},
           {u"(Enter)"_s, closes([](Session&) { return true; }, true)},
           {u"(Escape)"_s, closes([](Session&) { return true; }, true)},
           {u"(close)"_s, closes([](Session&) { return true; }, true)}}},
         {"new_cycle", u"frm_metar_request"_s, dialog(Screen::frm_metar_request), true,
-         answerRows([](Session& session) { return session.modal.metarRequested; })},
+         answerRows([](Session& session) { return session.state<MetarRequest>().metarRequested; })},
     };
 }
 

@@ -1,4 +1,5 @@
 #include "weather/active_sky.h"
+#include "weather/weather_state.h"
 
 #include "core/file_helpers.h"
 #include "support/printing.h"
@@ -41,8 +42,8 @@ protected:
     ActiveSkyTest() {
         install.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey);
         setValue(u"Install_Path"_s, folder.native() + u'\\');
-        user.onModal = [this](Screen) { session.modal.metarRequested = true; };
-        session.weather.MetarDataLoaded = true;
+        user.onModal = [this](Screen) { session.state<MetarRequest>().metarRequested = true; };
+        session.state<WeatherState>().MetarDataLoaded = true;
     }
 
     void setValue(const QString& name, const QString& text) {
@@ -71,7 +72,7 @@ protected:
         findActiveSky(session);
         EXPECT_TRUE(user.messages.empty()) << "it is told to those who use it";
         tellActiveSkyProblem(session);
-        const WeatherState& weather = session.weather;
+        const WeatherState& weather = session.state<WeatherState>();
         return QString(weather.ASv6Present ? u"present "_s : u"absent "_s) +
                (weather.ASv6VersionOK ? u"supported"_s : u"refused"_s);
     }
@@ -106,14 +107,14 @@ TEST_F(ActiveSkyTest, isFoundStepByStep) {
         writeProgram(major, minor, build);
         EXPECT_EQ(found(), isSupported ? u"present supported"_s : u"present refused"_s) << major << build;
     }
-    EXPECT_EQ(FormatSystemTimeDate(session.weather.ASv6ExportDate), u"1900/01/01"_s);
+    EXPECT_EQ(FormatSystemTimeDate(session.state<WeatherState>().ASv6ExportDate), u"1900/01/01"_s);
     writeExport("EHAM", {14, 7});
     EXPECT_EQ(found(), u"present supported"_s);
-    EXPECT_EQ(session.weather.ASv6ExportDate, QDateTime(QDate(2007, 10, 14), QTime(14, 7)));
-    EXPECT_FALSE(session.weather.ASv6Local);
+    EXPECT_EQ(session.state<WeatherState>().ASv6ExportDate, QDateTime(QDate(2007, 10, 14), QTime(14, 7)));
+    EXPECT_FALSE(session.state<WeatherState>().ASv6Local);
     makeLocal();
     EXPECT_EQ(found(), u"present supported"_s);
-    EXPECT_TRUE(session.weather.ASv6Local && user.told().isEmpty());
+    EXPECT_TRUE(session.state<WeatherState>().ASv6Local && user.told().isEmpty());
     install.files.remove(exported);
     install.files.makeFolder(exported);
     EXPECT_EQ(found(), u"absent supported"_s);
@@ -124,26 +125,26 @@ TEST_F(ActiveSkyTest, isFoundStepByStep) {
 
 TEST_F(ActiveSkyTest, itsFileGivesAllItsLinesAndTheCycleItsOwnTime) {
     makeSupported();
-    EXPECT_FALSE(session.weather.ASv6Imported);
+    EXPECT_FALSE(session.state<WeatherState>().ASv6Imported);
     const std::pair<QByteArray, int> cases[] = {{"EHAM 1\r\nKSEA 141353Z\r\n", 2}, {"EGLL 3\r\nLFPG 4", 4}};
     for (const auto& [text, count] : cases) {
         writeExport(text, {14, 7});
-        session.gWxFinders = std::make_unique<clsWxFinders>(session);
-        ASSERT_TRUE(session.gWxFinders->getMetarsFromASv6());
-        EXPECT_EQ(session.gWxFinders->Count(), count) << "no empty line, and the last one too";
+        session.rows<clsWxFinders>() = std::make_unique<clsWxFinders>(session);
+        ASSERT_TRUE(session.rows<clsWxFinders>()->getMetarsFromASv6());
+        EXPECT_EQ(session.rows<clsWxFinders>()->Count(), count) << "no empty line, and the last one too";
     }
-    const auto ksea = session.gWxFinders->GetKey(u"KSEA"_s);
+    const auto ksea = session.rows<clsWxFinders>()->GetKey(u"KSEA"_s);
     EXPECT_EQ(ksea->WxFinderCycle + ksea->WxFinderMonth + ksea->WxFinderYear, u"14May2007"_s)
         << "the file's hour, the clock's month and year";
-    EXPECT_EQ(session.weather.MetarCycleDay, 14);
-    EXPECT_TRUE(session.weather.ASv6Imported);
+    EXPECT_EQ(session.state<WeatherState>().MetarCycleDay, 14);
+    EXPECT_TRUE(session.state<WeatherState>().ASv6Imported);
     EXPECT_EQ(user.calls.filter(u"done "_s),
               (QStringList{u"done 2 reports, the youngest of 13:53Z 14 May, 16 days old"_s,
                            u"done 4 reports, the youngest of 13:53Z 14 May, 16 days old"_s}));
     install.files.remove(exported);
-    const auto* before = session.gWxFinders.get();
-    EXPECT_FALSE(session.gWxFinders->getMetarsFromASv6());
-    EXPECT_EQ(session.gWxFinders.get(), before);
+    const auto* before = session.rows<clsWxFinders>().get();
+    EXPECT_FALSE(session.rows<clsWxFinders>()->getMetarsFromASv6());
+    EXPECT_EQ(session.rows<clsWxFinders>().get(), before);
     ASSERT_EQ(user.told().size(), 1);
     EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|File Download Error!|File not found"_s));
 }
@@ -157,14 +158,14 @@ TEST_F(ActiveSkyTest, isStartedOnlyHereAndOnlyWhenItDoesNotRun) {
     };
     for (const auto& [isLocal, isRunning, starts] :
          {Case{false, false, 0}, {true, true, 0}, {true, false, 1}}) {
-        session.weather.ASv6Local = isLocal;
+        session.state<WeatherState>().ASv6Local = isLocal;
         platform.isRunning = isRunning;
         platform.onRest = [this] { writeExport("EHAM 1\n", {13, 9}); }; // going back counts, too
         refreshWeather(session, platform);
         EXPECT_EQ(platform.starts, starts);
-        EXPECT_EQ(session.gWxFinders->Count(), 1);
+        EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 1);
     }
-    EXPECT_EQ(session.modal.metarRequestText,
+    EXPECT_EQ(session.state<MetarRequest>().metarRequestText,
               u"Do you wish Morvane import and decode the latest METAR cycle from Active Sky?"_s);
     EXPECT_EQ(platform.rests, 16) << "one look, and fifteen seconds for the file to be whole";
     QStringList shown;
@@ -172,7 +173,7 @@ TEST_F(ActiveSkyTest, isStartedOnlyHereAndOnlyWhenItDoesNotRun) {
         if (message.picture != u"ASv6.jpg") shown << message.title + u'|' + message.picture;
     EXPECT_EQ(shown, (QStringList{u"ASv6 Processing Wx Data|ASv6Process.gif"_s,
                                   u"......ASv6 Writing File......|"_s}));
-    EXPECT_FALSE(session.weather.ASv6Busy || user.isMessageVisible());
+    EXPECT_FALSE(session.state<WeatherState>().ASv6Busy || user.isMessageVisible());
 }
 
 #ifndef Q_OS_WIN
@@ -193,26 +194,26 @@ TEST_F(ActiveSkyTest, whatARunnerRunsIsKnownByItsName) {
 
 TEST_F(ActiveSkyTest, aMissingFileIsWaitedForFromNowOn) {
     makeSupported();
-    session.weather.ASv6Local = true;
+    session.state<WeatherState>().ASv6Local = true;
     platform.onRest = [this] {
-        EXPECT_TRUE(session.weather.ASv6Busy);
+        EXPECT_TRUE(session.state<WeatherState>().ASv6Busy);
         if (platform.rests == 5) writeExport("EHAM 1\n", {14, 7});
     };
     refreshWeather(session, platform);
     EXPECT_EQ(platform.rests, 20);
-    EXPECT_EQ(session.gWxFinders->Count(), 1);
+    EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 1);
 }
 
 TEST_F(ActiveSkyTest, theWaitIsLeftByACancelAndByTheEndOfTheProgram) {
     makeSupported();
-    session.weather.ASv6Local = true;
+    session.state<WeatherState>().ASv6Local = true;
     const auto cancel = [this] { user.answers().cancelRequested = true; };
     const auto leave = [this] { session.ExitInProgress.moveTo(ExitStage::leaving); };
     const std::pair<int, std::function<void()>> cases[] = {
         {3, cancel}, {40, cancel}, {3, leave}, {40, leave}};
     for (const auto& [leftAt, action] : cases) {
         session.ExitInProgress.moveTo(ExitStage::running);
-        session.gWxFinders.reset();
+        session.rows<clsWxFinders>().reset();
         platform.rests = 0;
         platform.onRest = [&, at = leftAt, act = action] {
             EXPECT_TRUE(user.messages.back().withCancel);
@@ -221,15 +222,16 @@ TEST_F(ActiveSkyTest, theWaitIsLeftByACancelAndByTheEndOfTheProgram) {
         };
         refreshWeather(session, platform);
         EXPECT_EQ(platform.rests, leftAt);
-        EXPECT_EQ(session.gWxFinders, nullptr) << "nothing is read on the way out";
-        EXPECT_FALSE(user.isMessageVisible() || session.weather.ASv6Busy || user.answers().cancelRequested);
+        EXPECT_EQ(session.rows<clsWxFinders>(), nullptr) << "nothing is read on the way out";
+        EXPECT_FALSE(user.isMessageVisible() || session.state<WeatherState>().ASv6Busy ||
+                     user.answers().cancelRequested);
     }
 }
 
 #ifndef Q_OS_WIN
 TEST_F(ActiveSkyTest, withoutARunnerNothingIsStartedOrWaitedFor) {
     makeSupported();
-    session.weather.ASv6Local = true;
+    session.state<WeatherState>().ASv6Local = true;
     session.user.answers().cancelRequested = false;
     user.onPump = [this] { user.answers().cancelRequested = true; }; // not to hang
     refreshWeather(session, systemActiveSky());

@@ -1,4 +1,5 @@
 #include "weather/airport_search.h"
+#include "weather/weather_state.h"
 
 #include "support/printing.h"
 #include "support/small_install.h"
@@ -29,7 +30,7 @@ struct AirportSearchTest : testing::Test {
 
     test::SmallInstall install;
     Session& session = install.session;
-    WeatherState& weather = session.weather;
+    WeatherState& weather = session.state<WeatherState>();
 };
 
 TEST_F(AirportSearchTest, boxesFindBeginningsWhateverTheirCase) {

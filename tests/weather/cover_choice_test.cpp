@@ -1,4 +1,5 @@
 #include "weather/cover_choice.h"
+#include "weather/weather_state.h"
 
 #include "core/session.h"
 #include "simulator/set_matching.h"
@@ -18,8 +19,8 @@ struct CoverChoiceTest : testing::Test {
             shownScreens << screenName(screen);
             const QString way = ways.section(u' ', shown / 2, shown / 2);
             if (shown++ % 2 == 0)
-                session.modal.coverMethod = way.left(1).toShort();
-            else if ((session.modal.coverConfirmed = way.endsWith(u'+')))
+                session.state<CoverChoice>().coverMethod = way.left(1).toShort();
+            else if ((session.state<CoverChoice>().coverConfirmed = way.endsWith(u'+')))
                 setCover(session, 5);
         };
     }
@@ -41,17 +42,17 @@ TEST_F(CoverChoiceTest, averagesOfTwoAirports) {
 }
 
 TEST_F(CoverChoiceTest, reportsOfTheAirports) {
-    session.WxCloudList = QStringList{u"3"_s, u"4"_s};
+    session.state<FlightWeather>().WxCloudList = QStringList{u"3"_s, u"4"_s};
     EXPECT_EQ(takeCoverOfAirports(session), 0);
-    EXPECT_EQ(session.WxCloudList.size(), 2) << "nothing known: the cover stays";
-    session.weather.DepMetar = u" EHAM 241225Z 24015KT 9999 FEW030 18/09 Q1012 "_s;
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList.size(), 2) << "nothing known: the cover stays";
+    session.state<WeatherState>().DepMetar = u" EHAM 241225Z 24015KT 9999 FEW030 18/09 Q1012 "_s;
     EXPECT_EQ(takeCoverOfAirports(session), 2);
-    session.weather.DestMetar = u"EGLL 241220Z 24015KT 0100 VV001 18/18 Q1012"_s;
+    session.state<WeatherState>().DestMetar = u"EGLL 241220Z 24015KT 0100 VV001 18/18 Q1012"_s;
     EXPECT_EQ(takeCoverOfAirports(session), 4);
-    session.weather.DepMetar.clear();
+    session.state<WeatherState>().DepMetar.clear();
     EXPECT_EQ(takeCoverOfAirports(session), 6);
-    EXPECT_EQ(session.WxCloudList, QStringList{u"6"_s});
-    EXPECT_EQ(session.WxStrengthList, QStringList{QString()});
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"6"_s});
+    EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList{QString()});
     EXPECT_EQ(coverDisplay(6).text, u"Scattered Clouds"_s);
     EXPECT_EQ(coverDisplay(5).picture, u"ovc.bmp"_s);
 }
@@ -62,13 +63,13 @@ TEST_F(CoverChoiceTest, aCancelledWayLeadsBackToTheChoice) {
     const QString choice = u"frm_Select_CC_Method"_s;
     EXPECT_EQ(shownScreens, (QStringList{choice, u"frm_FlightPlan"_s, choice, u"frm_FromDepDestVal"_s, choice,
                                          u"frm_CC_From_Metar_String"_s, choice, u"frm_CC_From_Option"_s}));
-    EXPECT_FALSE(session.CoverCancelled);
+    EXPECT_FALSE(session.state<FlightWeather>().CoverCancelled);
     EXPECT_EQ(install.user.calls.filter(u"frm_Main"_s),
               (QStringList{u"hide frm_Main"_s, u"show frm_Main"_s}));
     QStringList often(2000, u"1-"_s);
     take(often.join(u' ') + u" 4"_s);
     selectCloudCoverMethod(session);
-    EXPECT_TRUE(session.CoverCancelled);
+    EXPECT_TRUE(session.state<FlightWeather>().CoverCancelled);
 }
 
 TEST_F(CoverChoiceTest, aCancelledChoiceEndsTheRoad) {

@@ -1,12 +1,13 @@
-#include "core/application.h"
 #include "core/row_set.h"
 #include "core/store.h"
+#include "core/store_connection.h"
 #include "loopback_server.h"
 #include "support/faulty_store.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/weather_endpoint.h"
 #include "weather/weather_refresh.h"
+#include "weather/weather_state.h"
 #include "weather/wx_finders.h"
 
 #include <QCoreApplication>
@@ -26,7 +27,8 @@ protected:
     CycleLoading() {
         install.clock.now = QDateTime(QDate(2007, 6, 1), QTime(10, 12), Qt::UTC);
         install.user.onModal = [this](Screen screen) {
-            if (screen == Screen::frm_metar_request) session.modal.metarRequested = isRequested;
+            if (screen == Screen::frm_metar_request)
+                session.state<MetarRequest>().metarRequested = isRequested;
         };
     }
 
@@ -50,7 +52,7 @@ protected:
         return lines.join(u'/');
     }
     QString cycle() const {
-        const WeatherState& weather = session.weather;
+        const WeatherState& weather = session.state<WeatherState>();
         return u"%1/%2/%3 %4"_s.arg(weather.MetarCycleYear)
             .arg(weather.MetarCycleMonth)
             .arg(weather.MetarCycleDay)
@@ -75,7 +77,7 @@ TEST_F(CycleLoading, everyLineButTheLastBecomesTheRowOfItsFirstWord) {
         EXPECT_EQ(rows(u"ICAO|STRING"_s),
                   u"2011/11/23|2011/11/23 01:53 /KSEA|KSEA 230153Z 03007KT 10SM OVC030 08/06 A2992/|/"
                   "EHAM|EHAM 230155Z 24015KT 9999 FEW020 12/08 "_s);
-        EXPECT_EQ(session.gWxFinders->Count(), 4);
+        EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 4);
     }
     EXPECT_TRUE(user.told().isEmpty());
 }
@@ -87,7 +89,7 @@ TEST_F(CycleLoading, theServicesFormKeepsTheNewestReportOfEachStation) {
     EXPECT_TRUE(importLines(text, CycleForm::noaa));
     EXPECT_EQ(rows(u"STRING"_s), u"EGLL last /EHAM second /KSEA newest "_s);
     EXPECT_TRUE(importLines("", CycleForm::noaa)); // nothing to read, nothing lost
-    EXPECT_EQ(session.gWxFinders->Count(), 3);
+    EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 3);
 }
 
 TEST_F(CycleLoading, aLaterCycleWritesOverAStationAndLeavesTheOthers) {
@@ -99,7 +101,7 @@ TEST_F(CycleLoading, aLaterCycleWritesOverAStationAndLeavesTheOthers) {
     importLines("ksea 230253Z\n");
     EXPECT_EQ(rows(u"ICAO|CYCLE|MAX_CLOUD|LAT|LONG"_s), u"EHAM|10|2|52.3|4.7/ksea|10|0|47.4|/EGLL|10|0||"_s);
     EXPECT_EQ(rows(u"MONTH|YEAR"_s), u"June|/June|/June|"_s) << "the clock's month, and no year";
-    EXPECT_EQ(session.gWxFinders->GetKey(u"EHAM"_s)->WxFinderYear, "2007");
+    EXPECT_EQ(session.rows<clsWxFinders>()->GetKey(u"EHAM"_s)->WxFinderYear, "2007");
 }
 
 TEST_F(CycleLoading, theCycleIsTheHourBeforeOnTheSameDay) {
@@ -116,9 +118,9 @@ TEST_F(CycleLoading, theCycleIsTheHourBeforeOnTheSameDay) {
 TEST_F(CycleLoading, aStoredTableTellsItsCycleByOneStation) {
     importLines("EHAM 230155Z\nKSEA 230153Z\nKSEB 240153Z\n");
     const auto reloaded = [this] {
-        session.weather = {};
+        session.state<WeatherState>() = {};
         EXPECT_TRUE(clsWxFinders::reload(session));
-        EXPECT_TRUE(session.weather.MetarDataLoaded);
+        EXPECT_TRUE(session.state<WeatherState>().MetarDataLoaded);
         return cycle();
     };
     EXPECT_EQ(reloaded(), u"2007/6/23 9"_s);
@@ -157,7 +159,7 @@ TEST_F(CycleLoading, aStoreThatCannotBeWrittenEndsTheLoadWithOneMessage) {
 
 TEST_F(CycleLoading, aStoreThatIsLockedIsWaitedForAndLeavesMemoryAsItWas) {
     importLines("KSEA 010153Z\n");
-    const clsWxFinders* const before = session.gWxFinders.get();
+    const clsWxFinders* const before = session.rows<clsWxFinders>().get();
     install.clock.now = install.clock.now.addSecs(3600);
     Store other;
     other.open(install.home() / u"Morvane.mdb");
@@ -168,12 +170,12 @@ TEST_F(CycleLoading, aStoreThatIsLockedIsWaitedForAndLeavesMemoryAsItWas) {
     EXPECT_EQ(looks, 1 + 7) << "the bar's, and between eight tries of a quarter second";
     ASSERT_EQ(user.told().size(), 1);
     EXPECT_TRUE(user.told()[0].contains(u"the database is locked"_s));
-    EXPECT_EQ(session.gWxFinders.get(), before);
-    EXPECT_EQ(session.gWxFinders->Count(), 1);
+    EXPECT_EQ(session.rows<clsWxFinders>().get(), before);
+    EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 1);
     EXPECT_EQ(cycle(), u"2007/6/1 9"_s);
     user.onPump = [&] { lock.reset(); };
     EXPECT_TRUE(importLines("EHAM 010255Z\n"));
-    EXPECT_EQ(session.gWxFinders->Count(), 2);
+    EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 2);
     EXPECT_EQ(cycle(), u"2007/6/1 10"_s);
     EXPECT_EQ(user.told().size(), 1);
 }
@@ -224,7 +226,7 @@ TEST_F(CycleLoading, refreshingFetchesTheHoursFile) {
     EXPECT_EQ(user.calls.count(u"modal frm_metar_request"_s), 1);
     EXPECT_EQ(user.messages.front().picture, QString());
     EXPECT_EQ(user.messages.back().picture, u"orrinsoft.jpg"_s);
-    EXPECT_EQ(session.modal.metarRequestText,
+    EXPECT_EQ(session.state<MetarRequest>().metarRequestText,
               u"Do you wish Morvane to download and decode the latest METAR cycle from Orrinsoft?"_s);
     isRequested = false;
     refreshWeather(session);
@@ -234,7 +236,7 @@ TEST_F(CycleLoading, refreshingFetchesTheHoursFile) {
 
 TEST_F(CycleLoading, aRefreshThatFailsLeavesEverythingAndSaysWhy) {
     importLines("KSEA 230153Z\n");
-    const clsWxFinders* const before = session.gWxFinders.get();
+    const clsWxFinders* const before = session.rows<clsWxFinders>().get();
     const LoopbackServer server(
         [](const QByteArray&) { return LoopbackServer::statusReply("404 Not Found"); });
     const LoopbackServer empty([](const QByteArray&) { return LoopbackServer::textReply(""); });
@@ -250,8 +252,8 @@ TEST_F(CycleLoading, aRefreshThatFailsLeavesEverythingAndSaysWhy) {
         ASSERT_EQ(user.told().size(), 1) << address.toStdString();
         EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|File Download Error!|"_s));
         EXPECT_TRUE(user.told()[0].contains(reason)) << user.told()[0].toStdString();
-        EXPECT_EQ(session.gWxFinders.get(), before);
-        EXPECT_FALSE(session.weather.FlyNowDisabled);
+        EXPECT_EQ(session.rows<clsWxFinders>().get(), before);
+        EXPECT_FALSE(session.state<WeatherState>().FlyNowDisabled);
     }
 }
 
@@ -271,7 +273,7 @@ TEST_F(CycleLoading, anEmptyCycleForAnEmptyTableEndsFlyNow) {
     refreshWeather(session);
     EXPECT_EQ(user.told(), QStringList{noData});
     EXPECT_TRUE(user.calls.filter(u"done"_s).isEmpty()) << "there is no age to tell";
-    EXPECT_TRUE(session.weather.FlyNowDisabled);
+    EXPECT_TRUE(session.state<WeatherState>().FlyNowDisabled);
     EXPECT_TRUE(user.calls.endsWith(u"refresh frm_WxControl"_s));
 }
 

@@ -1,3 +1,4 @@
+#include "weather/cover_choice.h"
 #include "weather/flight_plan.h"
 
 #include "support/printing.h"
@@ -114,8 +115,8 @@ TEST_F(FlightPlanTest, weatherOfEachWaypoint) {
     EXPECT_EQ(classes.join(u' '), "2 5 6 2 0 0 0");
     EXPECT_FLOAT_EQ(static_cast<float>(weather.average), (2 + 5 + 1 + 2 + 1 + 1 + 1) / 7.0F)
         << "what is not known and what is obscured count as clear here";
-    EXPECT_EQ(session.WxCloudList, QStringList{u"2"_s});
-    EXPECT_EQ(session.WxStrengthList, QStringList{QString()});
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"2"_s});
+    EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList{QString()});
 }
 
 TEST_F(FlightPlanTest, averagesAndProgress) {
@@ -131,13 +132,14 @@ TEST_F(FlightPlanTest, averagesAndProgress) {
         const auto weather =
             processFlightPlan(session, planOf(waypoints), [&](double value) { steps.push_back(value); });
         EXPECT_EQ(weather.coverClass, expected) << classes.toStdString();
-        EXPECT_EQ(session.WxCloudList, QStringList{QString::number(expected)});
+        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{QString::number(expected)});
         EXPECT_EQ(static_cast<qsizetype>(steps.size()), waypoints.size());
         EXPECT_EQ(steps.back(), 100);
     }
-    session.WxCloudList = QStringList{u"5"_s};
+    session.state<FlightWeather>().WxCloudList = QStringList{u"5"_s};
     EXPECT_EQ(processFlightPlan(session, {}).coverClass, 0);
-    EXPECT_EQ(session.WxCloudList, QStringList{u"5"_s}) << "a plan without waypoints has no cover";
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"5"_s})
+        << "a plan without waypoints has no cover";
 }
 
 } // namespace

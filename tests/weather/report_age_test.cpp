@@ -1,4 +1,5 @@
 #include "weather/report_age.h"
+#include "weather/weather_state.h"
 
 #include "core/registry.h"
 #include "support/printing.h"
@@ -82,7 +83,7 @@ TEST(ReportAge, theSourceIsTheOneThatIsSet) {
     EXPECT_EQ(setServer({}), "Source: no weather server is set");
     EXPECT_EQ(setServer(u"https://weather.example.org:81"_s), "Source: weather.example.org");
     EXPECT_EQ(setServer(u"weather"_s), "Source: the weather server's address is damaged");
-    session.weather.ASv6VersionOK = true;
+    session.state<WeatherState>().ASv6VersionOK = true;
     EXPECT_EQ(reportSourceText(session), "Source: Active Sky");
 }
 

@@ -1,3 +1,4 @@
+#include "weather/weather_state.h"
 #include "weather/wx_filter.h"
 
 #include "core/session.h"
@@ -42,7 +43,7 @@ struct WxFilterTest : testing::Test {
 
     test::SmallInstall install;
     Session& session = install.session;
-    WxFilter& filter = session.wxFilter;
+    WxFilter& filter = session.state<WxFilter>();
 };
 
 TEST_F(WxFilterTest, whatEachWordFinds) {
@@ -97,22 +98,22 @@ TEST_F(WxFilterTest, theChosenStationBecomesThatEndOfTheFlight) {
     session.adoConn->execute(u"DELETE FROM AIRPORTDATA"_s);
     session.adoConn->execute(
         u"INSERT INTO AIRPORTDATA(ICAO, AIRPORT_NAME, CITY) VALUES ('KSEA', 'Tacoma', 'Seattle')"_s);
-    session.weather.optDepAirport = false;
+    session.state<WeatherState>().optDepAirport = false;
     openWxFilter(session);
     EXPECT_FALSE(filter.WxFinderIsDeparture) << "the end that the page shows";
-    session.weather.optDepAirport = true;
+    session.state<WeatherState>().optDepAirport = true;
     filter.WxSelectedIcao = u"KSEA"_s;
     selectWxAirport(session);
-    EXPECT_EQ(session.weather.DestAirportName, "Tacoma");
-    EXPECT_EQ(session.weather.DestMetar, "KSEA 241225Z");
-    EXPECT_EQ(session.weather.DepMetar, "");
-    EXPECT_TRUE(session.weather.optDestAirport && !session.weather.optDepAirport);
+    EXPECT_EQ(session.state<WeatherState>().DestAirportName, "Tacoma");
+    EXPECT_EQ(session.state<WeatherState>().DestMetar, "KSEA 241225Z");
+    EXPECT_EQ(session.state<WeatherState>().DepMetar, "");
+    EXPECT_TRUE(session.state<WeatherState>().optDestAirport && !session.state<WeatherState>().optDepAirport);
     filter.WxSelectedIcao = u"LSZH"_s;
     selectWxAirport(session);
     EXPECT_EQ(install.user.told(),
               QStringList{u"Exclamation|METAR Error!|METAR file cannot be accessed at this time or is not "
                           "available please try again later"_s});
-    EXPECT_EQ(session.weather.DestIcao, "KSEA");
+    EXPECT_EQ(session.state<WeatherState>().DestIcao, "KSEA");
 }
 
 } // namespace

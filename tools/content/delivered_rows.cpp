@@ -9,7 +9,7 @@
 #include "core/text_decoding.h"
 #include "night/delivered_night_sets.h"
 #include "sample_reports.h"
-#include "weather/airport_table.h"
+#include "weather/airport_rows.h"
 
 #include <variant>
 

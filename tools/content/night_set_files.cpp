@@ -1,6 +1,6 @@
 #include "night_set_files.h"
+#include "core/store_connection.h"
 
-#include "core/application.h"
 #include "core/error.h"
 #include "core/registry.h"
 #include "core/store.h"
@@ -8,7 +8,7 @@
 #include "night/night_selection.h"
 #include "night/night_sets.h"
 #include "quiet_user.h"
-#include "simulator/set_removal.h"
+#include "sets/set_removal.h"
 
 namespace morvane {
 

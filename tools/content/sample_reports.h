@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/session.h"
-#include "weather/airport_table.h"
+#include "weather/airport_rows.h"
 #include "weather/station_list.h"
 
 #include <vector>

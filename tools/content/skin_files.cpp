@@ -1,6 +1,7 @@
 #include "skin_files.h"
 
 #include "core/error.h"
+#include "imaging/program_font.h"
 #include "imaging/window_region.h"
 #include "skin_animation.h"
 #include "skin_emblems.h"
@@ -13,7 +14,6 @@
 #include "skin_previews.h"
 #include "skin_splash.h"
 #include "skin_windows.h"
-#include "ui/program_font.h"
 
 #include <QBuffer>
 #include <QStringBuilder>

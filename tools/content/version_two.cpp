@@ -1,6 +1,7 @@
 #include "version_two.h"
+#include "core/store_connection.h"
+#include "ground/ground_selection.h"
 
-#include "core/application.h"
 #include "core/error.h"
 #include "core/registry.h"
 #include "core/row_set.h"
@@ -8,7 +9,7 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_sets.h"
 #include "quiet_user.h"
-#include "simulator/set_removal.h"
+#include "sets/set_removal.h"
 #include "simulator/upgrade.h"
 #include "simulator/upgrade_tables.h"
 
@@ -33,7 +34,7 @@ void addOwnSet(Session& session, const QString& name, const QString& colours, co
     set.Description = u"A set made with version 2"_s;
     set.CloudCover = cover;
     if (!loadedGroundSets(session).UpdateTextureSet(set)) return;
-    session.ground.SelectedGroundSet = set.TextureSet;
+    session.state<GroundSelection>().SelectedGroundSet = set.TextureSet;
     GroundGeneration(session).activateTextureSet();
     removeBitmaps(session, groundSetFolder(session, set.TextureSet) / dutchFolder);
 }

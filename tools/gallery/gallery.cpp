@@ -1,13 +1,18 @@
 #include "gallery.h"
+#include "weather/cover_choice.h"
+#include "weather/weather_state.h"
 
 #include "core/session.h"
+#include "sets/set_removal.h"
+#include "simulator/backup_restore.h"
 #include "sky/screens/palette_picture.h"
 #include "ui/controls/set_table.h"
 #include "ui/controls/slider.h"
-#include "ui/screens/splash_screen.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/cover_report_screen.h"
 #include "weather/screens/report_list.h"
+#include "weather/weather_refresh.h"
+#include "window/splash_screen.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -21,7 +26,7 @@
 
 namespace morvane {
 
-Gallery::Gallery(Shell& shell, const QString& folder) : shell_(shell), folder_(folder) {
+Gallery::Gallery(WindowShell& shell, const QString& folder) : shell_(shell), folder_(folder) {
     folder_.mkpath(u"."_s);
 }
 
@@ -104,7 +109,7 @@ void Gallery::savePages() {
 void Gallery::saveWeather() {
     Form& window = *shell_.form(u"frm_Main"_s);
     shell_.goToPage(u"frm_WxControl"_s);
-    WeatherState& weather = shell_.session().weather;
+    WeatherState& weather = shell_.session().state<WeatherState>();
     auto* airports = window.findChild<AirportList*>();
     weather.InhibitWeatherReports = false;
     for (const QString& icao : {u"KSEA"_s, u"EHAM"_s}) {
@@ -208,12 +213,12 @@ void Gallery::saveDialogs() {
         {Screen::frm_AddFav, u"add-favourite"},
         {Screen::frm_BackupList, u"backup-list"},
         {Screen::frm_MultiDelete, u"name-choice"}};
-    shell_.session().modal.metarRequestText =
+    shell_.session().state<MetarRequest>().metarRequestText =
         u"Do you wish Morvane to download and decode the latest METAR cycle from Orrinsoft?"_s;
     const QDateTime firstFlight(QDate(2026, 7, 14), QTime(14, 7));
-    shell_.session().modal.backups = {{u"1-Backup"_s, firstFlight, true},
-                                      {u"2-Backup"_s, firstFlight.addDays(9), false}};
-    shell_.session().modal.multiNames = QStringList{u"12-Desert Haze"_s, u"21-Late Autumn"_s};
+    shell_.session().state<BackupChoice>().backups = {{u"1-Backup"_s, firstFlight, true},
+                                                      {u"2-Backup"_s, firstFlight.addDays(9), false}};
+    shell_.session().state<MultiChoice>().multiNames = QStringList{u"12-Desert Haze"_s, u"21-Late Autumn"_s};
     for (const auto& [screen, picture] : dialogs)
         saveModal(QString::fromUtf16(picture), screenName(screen),
                   [&, which = screen] { shell_.session().user.showModal(which); });
@@ -266,10 +271,10 @@ void Gallery::saveProgress() {
                     false,
                     true};
     waiting.picture = u"ASv6Process.gif"_s;
-    shell_.session().weather.ASv6Busy = true;
+    shell_.session().state<WeatherState>().ASv6Busy = true;
     user.showMessage(waiting);
     save(u"message-weather-program"_s, *shell_.form(u"frm_Msg"_s));
-    shell_.session().weather.ASv6Busy = false;
+    shell_.session().state<WeatherState>().ASv6Busy = false;
     user.hideMessage();
 }
 

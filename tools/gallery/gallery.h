@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/user_interface.h"
-#include "ui/shell.h"
+#include "window/window_shell.h"
 
 #include <QDir>
 #include <functional>
@@ -12,7 +12,7 @@ namespace morvane {
 class Gallery {
 public:
     /// Pictures go into `folder`, which is made.
-    Gallery(Shell& shell, const QString& folder);
+    Gallery(WindowShell& shell, const QString& folder);
 
     void saveAll();
     int pictureCount() const { return count_; }
@@ -39,7 +39,7 @@ private:
     void saveProgress();
     void saveFootLine();
 
-    Shell& shell_;
+    WindowShell& shell_;
     QDir folder_;
     int count_ = 0;
 };

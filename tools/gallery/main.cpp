@@ -1,19 +1,19 @@
 // morvane-gallery: a picture of every screen, made without a display, at 100, 150 and 200 per cent.
 
-#include "core/application.h"
+#include "app/start_up.h"
 #include "core/clock.h"
 #include "core/file_system.h"
 #include "core/install_folder.h"
 #include "core/registry.h"
 #include "core/session.h"
 #include "gallery.h"
+#include "imaging/program_font.h"
+#include "sets/resource_folders.h"
 #include "simulator/flights.h"
-#include "simulator/resource_folders.h"
 #include "ui/controls/paper_style.h"
-#include "ui/program_font.h"
 #include "ui/skin.h"
-#include "ui/window_user.h"
 #include "weather/wx_finders.h"
+#include "window/window_user.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -34,7 +34,7 @@ int run(const FilePath& home, const QString& folder) {
     const auto registry = openRegistry(files, home);
     Session session({user, files, clock, random, *registry}, home);
     Skin skin(files, home / u"Media");
-    Shell shell(session, skin);
+    WindowShell shell(session, skin);
     user.setShell(&shell);
     if (!startUp(session)) return 1;
     clsResourceFolders::reload(session);

@@ -1,12 +1,13 @@
 #include "contact_sheet_samples.h"
+#include "sets/slider_values.h"
 
 #include "base_image_contact_sheet.h"
 #include "core/error.h"
-#include "ground/cloud_cover.h"
-#include "ground/colour_settings.h"
 #include "ground/ground_randomiser.h"
 #include "imaging/picture_reader.h"
 #include "imaging/recolouring.h"
+#include "sets/cloud_cover.h"
+#include "sets/colour_settings.h"
 
 namespace morvane {
 

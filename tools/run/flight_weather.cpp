@@ -1,13 +1,14 @@
 #include "flight_weather.h"
+#include "weather/weather_state.h"
 
 #include "cli/terminal.h"
 #include "core/failure_report.h"
 #include "core/numbers.h"
-#include "simulator/set_matching.h"
+#include "weather/airport_report.h"
 #include "weather/cover_choice.h"
+#include "weather/decoded_lines.h"
 #include "weather/flight_plan.h"
 #include "weather/metar_decoder.h"
-#include "weather/weather_control.h"
 #include "weather/weather_refresh.h"
 #include "weather/wx_finders.h"
 
@@ -35,8 +36,8 @@ void describe(const clsDecodeMetar& report) {
 /// One end of the flight, as a click in the list of airports chooses it.
 bool chooseEnd(Session& session, const QString& icao, bool isDeparture) {
     if (icao.isEmpty()) return true;
-    session.weather.optDepAirport = isDeparture;
-    session.weather.optDestAirport = !isDeparture;
+    session.state<WeatherState>().optDepAirport = isDeparture;
+    session.state<WeatherState>().optDestAirport = !isDeparture;
     say(isDeparture ? u"Departure"_s : u"Destination"_s);
     Airport unlisted;
     unlisted.icao = icao.toUpper();
@@ -77,9 +78,9 @@ bool takeWeatherOfReport(Session& session, const QString& metar) {
 
 bool takeWeatherOfAirports(Session& session, ConsoleUser& user, const QString& departure,
                            const QString& destination) {
-    session.weather.InhibitWeatherReports = false;
+    session.state<WeatherState>().InhibitWeatherReports = false;
     user.onModal = [&session](Screen) {
-        for (const QString& line : session.modal.decodedMetarLines)
+        for (const QString& line : session.state<DecodedReportLines>().decodedMetarLines)
             if (!trimmedBlanks(line).isEmpty()) say(u"  "_s + line);
     };
     if (!chooseEnd(session, departure, true) || !chooseEnd(session, destination, false)) return false;
@@ -102,13 +103,13 @@ bool takeWeatherOfPlan(Session& session, const QString& file) {
 
 bool refreshCycle(Session& session, ConsoleUser& user) {
     user.onModal = [&session](Screen screen) {
-        session.modal.metarRequested = screen == Screen::frm_metar_request;
+        session.state<MetarRequest>().metarRequested = screen == Screen::frm_metar_request;
     };
     refreshWeather(session);
     if (user.hasFailed()) return false;
     say(u"The cycle of %1Z is stored; the table holds the reports of %2 stations."_s
-            .arg(session.weather.MetarCycleHour, 2, 10, QChar(u'0'))
-            .arg(session.gWxFinders->Count()));
+            .arg(session.state<WeatherState>().MetarCycleHour, 2, 10, QChar(u'0'))
+            .arg(session.rows<clsWxFinders>()->Count()));
     return true;
 }
 

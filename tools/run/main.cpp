@@ -1,22 +1,26 @@
 // morvane-run: the main job at the console, on a sample install: the weather of a flight, its cover word, a
 // ground set for it, the question, the install, the simulator's start, and a contact sheet to look at.
 
+#include "app/start_up.h"
 #include "cli/console_user.h"
 #include "cli/terminal.h"
 #include "contact_sheet_samples.h"
-#include "core/application.h"
-#include "core/options.h"
 #include "core/registry.h"
+#include "core/store_connection.h"
 #include "core/text_decoding.h"
 #include "flight_weather.h"
-#include "ground/cloud_cover.h"
 #include "ground/ground_generation.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "sample_endpoint.h"
+#include "sets/cloud_cover.h"
+#include "sets/set_choice.h"
 #include "simulator/flights.h"
-#include "simulator/set_choice.h"
+#include "simulator/options.h"
 #include "simulator/set_matching.h"
+#include "simulator/simulator_launch.h"
 #include "sky/sky_generation.h"
+#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "start_record.h"
 
@@ -65,17 +69,18 @@ void makeSet(const QString& kind, const QString& cover, Make make) {
 
 void makeMissingSets(Session& session, ConsoleUser& user, const QString& cover) {
     user.onModal = [&](Screen screen) {
-        ModalState& modal = session.modal;
-        modal.setCounts = modal.skySetCounts = oneOf(cover);
+        auto& grounds = session.state<GroundSetCounts>();
+        auto& skies = session.state<SkySetCounts>();
+        grounds.setCounts = skies.skySetCounts = oneOf(cover);
         // An overcast sky is made of the base set of that name only, any other never of it.
-        modal.skyBaseSets = QStringList{cover == u"Overcast" ? u"Overcast"_s : u"Pro Sky"_s};
-        modal.setCountsConfirmed = screen == Screen::frm_TsRequired;
-        modal.skySetsConfirmed = screen == Screen::frm_SelectSkyTexture;
+        skies.skyBaseSets = QStringList{cover == u"Overcast" ? u"Overcast"_s : u"Pro Sky"_s};
+        grounds.setCountsConfirmed = screen == Screen::frm_TsRequired;
+        skies.skySetsConfirmed = screen == Screen::frm_SelectSkyTexture;
     };
     if (!hasOwnSet(loadedGroundSets(session), cover))
         makeSet(u"ground"_s, cover, [&] {
             GroundGeneration(session).createTextureSets(true);
-            return session.ground.SelectedGroundSet;
+            return session.state<GroundSelection>().SelectedGroundSet;
         });
     if (!hasOwnSet(loadedSkySets(session), cover))
         makeSet(u"sky"_s, cover, [&] {
@@ -104,8 +109,8 @@ bool prepareFlight(Session& session, ConsoleUser& user, const QString& flight) {
     }
     user.onModal = [&session, flight](Screen screen) {
         if (screen != Screen::frm_flight) return;
-        session.modal.SelectedFlightName = flight;
-        session.modal.FlightSelected = true;
+        session.state<FlightChoice>().SelectedFlightName = flight;
+        session.state<FlightChoice>().FlightSelected = true;
     };
     return true;
 }
@@ -119,7 +124,8 @@ FlyReport fly(Session& session) {
         return report;
     }
     say(u"Installed ground set '%1' and sky set '%2': %3 files in %4 s, into %5"_s
-            .arg(session.ground.SelectedGroundSet, session.sky.SelectedSkySet)
+            .arg(session.state<GroundSelection>().SelectedGroundSet,
+                 session.state<SkySelection>().SelectedSkySet)
             .arg(report.filesCopied)
             .arg(timer.elapsed() / 1000.0, 0, 'f', 1)
             .arg(session.FSPath.text()));

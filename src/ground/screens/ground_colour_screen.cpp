@@ -1,5 +1,7 @@
 #include "ground/screens/ground_colour_screen.h"
 
+#include "ground/sample_textures.h"
+#include "sets/sample_choice.h"
 #include "ui/buffer_picture.h"
 #include "ui/controls/picture_frame.h"
 
@@ -57,9 +59,9 @@ void frm_GroundColorize::showPreview() {
 
 void frm_GroundColorize::openTexture() {
     if (tuning_.openSample()) {
-        const ModalState& modal = session().modal;
-        showSubject(captionOf(sampleTextureTypes(), modal.selectedTextureType) + u", "_s +
-                    captionOf(sampleSeasons(), modal.selectedSeason));
+        const GroundSampleChoice& choice = session().state<GroundSampleChoice>();
+        showSubject(captionOf(sampleTextureTypes(), choice.selectedTextureType) + u", "_s +
+                    captionOf(sampleSeasons(), choice.selectedSeason));
     }
     showPreview();
 }

@@ -3,6 +3,7 @@
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/sample_textures.h"
+#include "sets/options_in_force.h"
 
 namespace morvane {
 
@@ -33,7 +34,7 @@ SetRow rowOf(const clsTextureSet& set) {
 
 frm_MVTextures::frm_MVTextures(Shell& shell)
     : SetListForm(shell, u"frm_MVTextures"_s, groundLook, windowKeys, u"frm_GroundColorize"_s, listPage),
-      sample_(session(), session().ground.colours) {}
+      sample_(session(), session().state<GroundSelection>().colours) {}
 
 void frm_MVTextures::formatList() {
     int row = rowInHand();
@@ -41,7 +42,8 @@ void frm_MVTextures::formatList() {
 }
 
 std::vector<SetRow> frm_MVTextures::setRows() {
-    if (session().RefreshGroundList && refreshGroundSets(session())) session().RefreshGroundList = false;
+    if (session().state<GroundSelection>().RefreshGroundList && refreshGroundSets(session()))
+        session().state<GroundSelection>().RefreshGroundList = false;
     std::vector<SetRow> rows;
     for (const auto& set : loadedGroundSets(session()))
         rows.push_back(rowOf(*set));
@@ -54,19 +56,20 @@ bool frm_MVTextures::clickSet(int row) {
 
 bool frm_MVTextures::loadGroundSelection(const QString& listKey) {
     const bool hasColours = morvane::loadGroundSelection(session(), listKey);
-    showDescription(session().ground.SelectedGroundDescription);
+    showDescription(session().state<GroundSelection>().SelectedGroundDescription);
     openDefaultSample();
-    list().selectName(session().ground.SelectedGroundSet);
+    list().selectName(session().state<GroundSelection>().SelectedGroundSet);
     return hasColours;
 }
 
 /// Several sets are those whose rows are selected.
 void frm_MVTextures::noteRows(int) {
-    session().ground.selectedRows = list().selectedNames();
+    session().state<GroundSelection>().selectedRows = list().selectedNames();
 }
 
 void frm_MVTextures::openDefaultSample() {
-    openTexImage(sampleTexture(session().AppPath, defaultSample, u"summer"_s, session().IsDutch));
+    openTexImage(sampleTexture(session().AppPath, defaultSample, u"summer"_s,
+                               session().state<OptionsInForce>().IsDutch));
 }
 
 void frm_MVTextures::openTexImage(const FilePath& path) {

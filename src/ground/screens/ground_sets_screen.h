@@ -1,7 +1,8 @@
 #pragma once
 
-#include "ground/texture_sample.h"
-#include "ui/set_list_form.h"
+#include "ground/ground_selection.h"
+#include "sets/screens/set_list_form.h"
+#include "sets/texture_sample.h"
 
 #include <utility>
 
@@ -31,7 +32,7 @@ private:
     bool clickSet(int row) override;
     bool takeSet(const QString& listKey) override { return loadGroundSelection(listKey); }
     void noteRows(int) override;
-    QString takeMadeSet() override { return std::exchange(session().ground.madeSet, {}); }
+    QString takeMadeSet() override { return std::exchange(session().state<GroundSelection>().madeSet, {}); }
     void showNoSet() override { openDefaultSample(); }
     void openDefaultSample();
 

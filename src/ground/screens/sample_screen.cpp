@@ -1,7 +1,8 @@
 #include "ground/screens/sample_screen.h"
 
 #include "core/session.h"
-#include "ground/screens/sample_options.h"
+#include "ground/sample_textures.h"
+#include "sets/screens/sample_options.h"
 #include "ui/controls/labels.h"
 
 #include <QAbstractButton>
@@ -38,17 +39,17 @@ frm_SelectTexture::frm_SelectTexture(Shell& shell)
 }
 
 void frm_SelectTexture::prepare() {
-    checkSample(*seasons_, sampleSeasons(), session().modal.selectedSeason);
+    checkSample(*seasons_, sampleSeasons(), session().state<GroundSampleChoice>().selectedSeason);
     // The page begins with a city, and so does the dialog.
-    checkSample(*types_, sampleTextureTypes(), session().modal.selectedTextureType);
+    checkSample(*types_, sampleTextureTypes(), session().state<GroundSampleChoice>().selectedTextureType);
     setFirstFocus(seasons_->checkedButton());
 }
 
 void frm_SelectTexture::confirm() {
-    ModalState& modal = session().modal;
-    modal.selectedSeason = checkedSample(*seasons_, sampleSeasons());
-    modal.selectedTextureType = checkedSample(*types_, sampleTextureTypes());
-    modal.sampleConfirmed = true;
+    GroundSampleChoice& choice = session().state<GroundSampleChoice>();
+    choice.selectedSeason = checkedSample(*seasons_, sampleSeasons());
+    choice.selectedTextureType = checkedSample(*types_, sampleTextureTypes());
+    choice.sampleConfirmed = true;
 }
 
 } // namespace morvane

@@ -1,13 +1,14 @@
 #include "ground/screens/set_counts_screen.h"
 
 #include "core/session.h"
+#include "ground/ground_generation.h"
 
 namespace morvane {
 
 frm_TsRequired::frm_TsRequired(Shell& shell)
     : DialogForm(shell, u"frm_TsRequired"_s, messageLook, u"Select Texture Quantities"_s),
       boxes_(addCountBoxes(
-          *this, session().modal.setCounts,
+          *this, session().state<GroundSetCounts>().setCounts,
           {{26, 88, 220, 22}, {284, 88, 90, 22}, 27, TextRole::value, u"Overcast Cloud Cover (OVC)"_s})) {
     addAnswerKeys(u"Click to create the texture sets."_s, u"Click to cancel the creation."_s);
 }
@@ -19,7 +20,7 @@ void frm_TsRequired::prepare() {
 }
 
 void frm_TsRequired::confirm() {
-    session().modal.setCountsConfirmed = true;
+    session().state<GroundSetCounts>().setCountsConfirmed = true;
 }
 
 } // namespace morvane

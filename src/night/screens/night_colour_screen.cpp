@@ -1,6 +1,8 @@
 #include "night/screens/night_colour_screen.h"
 
 #include "night/night_samples.h"
+#include "sets/sample_choice.h"
+#include "sets/slider_values.h"
 #include "ui/buffer_picture.h"
 #include "ui/controls/picture_frame.h"
 
@@ -63,7 +65,8 @@ void frm_NightColorize::opt_LightsBias(int index) {
 }
 
 void frm_NightColorize::openTexture() {
-    if (tuning_.openSample()) showSubject(captionOf(session().modal.selectedNightTexture));
+    if (tuning_.openSample())
+        showSubject(captionOf(session().state<NightSampleChoice>().selectedNightTexture));
     showPreview();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "night/night_tuning.h"
-#include "ui/colour_page.h"
+#include "sets/screens/colour_page.h"
 
 namespace morvane {
 

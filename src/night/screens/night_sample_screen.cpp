@@ -1,8 +1,8 @@
 #include "night/screens/night_sample_screen.h"
 
 #include "core/session.h"
-#include "ground/screens/sample_options.h"
 #include "night/night_samples.h"
+#include "sets/screens/sample_options.h"
 #include "ui/controls/labels.h"
 
 #include <QAbstractButton>
@@ -30,13 +30,13 @@ frm_SelectNightTexture::frm_SelectNightTexture(Shell& shell)
 }
 
 void frm_SelectNightTexture::prepare() {
-    checkSample(*samples_, nightSamples(), session().modal.selectedNightTexture);
+    checkSample(*samples_, nightSamples(), session().state<NightSampleChoice>().selectedNightTexture);
     setFirstFocus(samples_->checkedButton());
 }
 
 void frm_SelectNightTexture::confirm() {
-    session().modal.selectedNightTexture = checkedSample(*samples_, nightSamples());
-    session().modal.sampleConfirmed = true;
+    session().state<NightSampleChoice>().selectedNightTexture = checkedSample(*samples_, nightSamples());
+    session().state<NightSampleChoice>().sampleConfirmed = true;
 }
 
 } // namespace morvane

@@ -33,7 +33,7 @@ SetRow rowOf(const clsNightTextureSet& set) {
 
 frm_NightTextures::frm_NightTextures(Shell& shell)
     : SetListForm(shell, u"frm_NightTextures"_s, nightLook, windowKeys, u"frm_NightColorize"_s, listPage),
-      sample_(session(), session().night.colours) {}
+      sample_(session(), session().state<NightSelection>().colours) {}
 
 void frm_NightTextures::formatList() {
     int row = rowInHand();
@@ -41,7 +41,8 @@ void frm_NightTextures::formatList() {
 }
 
 std::vector<SetRow> frm_NightTextures::setRows() {
-    if (session().RefreshNightList && refreshNightSets(session())) session().RefreshNightList = false;
+    if (session().state<NightSelection>().RefreshNightList && refreshNightSets(session()))
+        session().state<NightSelection>().RefreshNightList = false;
     std::vector<SetRow> rows;
     for (const auto& set : loadedNightSets(session()))
         rows.push_back(rowOf(*set));
@@ -54,15 +55,15 @@ bool frm_NightTextures::clickSet(int row) {
 
 bool frm_NightTextures::takeSet(const QString& listKey) {
     const bool hasColours = loadNightSelection(session(), listKey);
-    showDescription(session().night.SelectedNightDescription);
+    showDescription(session().state<NightSelection>().SelectedNightDescription);
     openFirstSample();
-    list().selectName(session().night.SelectedNightSet);
+    list().selectName(session().state<NightSelection>().SelectedNightSet);
     return hasColours;
 }
 
 /// Several sets are those whose rows are selected.
 void frm_NightTextures::noteRows(int) {
-    session().night.selectedRows = list().selectedNames();
+    session().state<NightSelection>().selectedRows = list().selectedNames();
 }
 
 void frm_NightTextures::openFirstSample() {

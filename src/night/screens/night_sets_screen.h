@@ -1,7 +1,8 @@
 #pragma once
 
-#include "ground/texture_sample.h"
-#include "ui/set_list_form.h"
+#include "night/night_selection.h"
+#include "sets/screens/set_list_form.h"
+#include "sets/texture_sample.h"
 
 #include <utility>
 
@@ -30,7 +31,7 @@ private:
     bool clickSet(int row) override;
     bool takeSet(const QString& listKey) override;
     void noteRows(int row) override;
-    QString takeMadeSet() override { return std::exchange(session().night.madeSet, {}); }
+    QString takeMadeSet() override { return std::exchange(session().state<NightSelection>().madeSet, {}); }
     void showNoSet() override { openFirstSample(); }
     void openFirstSample();
 

@@ -1,6 +1,7 @@
 #include "simulator/screens/backup_list_screen.h"
 
 #include "core/session.h"
+#include "simulator/backup_restore.h"
 #include "ui/controls/set_table.h"
 
 #include <QKeyEvent>
@@ -23,7 +24,7 @@ frm_BackupList::frm_BackupList(Shell& shell)
 /// The mark of a backup that was cut short stands with its date: the name is that of its folder.
 void frm_BackupList::popBackupList() {
     lstBackupList_->clearRows();
-    for (const ModalState::Backup& backup : session().modal.backups) {
+    for (const BackupChoice::Backup& backup : session().state<BackupChoice>().backups) {
         QString date = backup.takenAt.toString(u"yyyy/MM/dd hh:mm:ss"_s);
         if (!backup.isComplete) date += u" (partial)"_s;
         lstBackupList_->addRow({backup.name, {backup.name, date}, {backup.name, date}});
@@ -34,12 +35,12 @@ void frm_BackupList::popBackupList() {
 }
 
 void frm_BackupList::choose(const QString& name) {
-    session().modal.chosenBackup = name;
+    session().state<BackupChoice>().chosenBackup = name;
     allowOk(true);
 }
 
 void frm_BackupList::confirm() {
-    session().modal.backupConfirmed = true;
+    session().state<BackupChoice>().backupConfirmed = true;
 }
 
 void frm_BackupList::keyPressEvent(QKeyEvent* event) {

@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "simulator/flights.h"
+#include "simulator/simulator_launch.h"
 #include "ui/controls/set_table.h"
 
 namespace morvane {
@@ -14,7 +15,7 @@ frm_flight::frm_flight(Shell& shell)
     lstFlights_->setColumns({{u"Flight"_s, 330}});
     lstFlights_->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(lstFlights_, &SetTable::rowClicked, this,
-            [this](const QString& name) { session().modal.SelectedFlightName = name; });
+            [this](const QString& name) { session().state<FlightChoice>().SelectedFlightName = name; });
     connect(lstFlights_, &SetTable::itemDoubleClicked, this, &frm_flight::ok);
     addAnswerKeys(u"Click to start the selected flight."_s, u"Click to cancel."_s);
 }
@@ -25,7 +26,7 @@ void frm_flight::prepare() {
     const QStringList names = savedFlights(session());
     for (const QString& name : names)
         lstFlights_->addRow({name, {name}, {name}, palette::textBlue});
-    QString& chosen = session().modal.SelectedFlightName;
+    QString& chosen = session().state<FlightChoice>().SelectedFlightName;
     if (!names.contains(chosen)) chosen = names.value(0);
     lstFlights_->selectRow(static_cast<int>(names.indexOf(chosen)) + 1);
     allowOk(!names.isEmpty());
@@ -33,11 +34,11 @@ void frm_flight::prepare() {
 }
 
 void frm_flight::confirm() {
-    session().modal.FlightSelected = true;
+    session().state<FlightChoice>().FlightSelected = true;
 }
 
 void frm_flight::cancel() {
-    session().modal.FlightSelected = false;
+    session().state<FlightChoice>().FlightSelected = false;
     DialogForm::cancel();
 }
 

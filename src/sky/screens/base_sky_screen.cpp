@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "core/session.h"
 #include "sky/sky_base_sets.h"
+#include "sky/sky_tuning_state.h"
 #include "ui/controls/labels.h"
 
 #include <QLabel>
@@ -21,14 +22,15 @@ frm_SelectBaseSky::frm_SelectBaseSky(Shell& shell)
         option->setAccessibleName(option->text());
         option->setFont(fontOf(TextRole::longHelp));
         option->setGeometry(26, 78 + 21 * static_cast<int>(index), 348, 20);
-        connect(option, &QRadioButton::clicked, this, [this, name] { session().skyTuning.baseSet = name; });
+        connect(option, &QRadioButton::clicked, this,
+                [this, name] { session().state<SkyTuningState>().baseSet = name; });
         optBaseSky_[index] = option;
     }
     addAnswerKeys(u"Click to answer Yes or to continue."_s, u"Click to answer No or to close window."_s);
 }
 
 void frm_SelectBaseSky::prepare() {
-    const auto index = skyBaseSetOptions().indexOf(trimmedBlanks(session().skyTuning.baseSet));
+    const auto index = skyBaseSetOptions().indexOf(trimmedBlanks(session().state<SkyTuningState>().baseSet));
     if (index < 0) return;
     QRadioButton* option = optBaseSky_[static_cast<std::size_t>(index)];
     option->setChecked(true);
@@ -36,7 +38,7 @@ void frm_SelectBaseSky::prepare() {
 }
 
 void frm_SelectBaseSky::confirm() {
-    session().modal.baseSkyConfirmed = true;
+    session().state<BaseSkyAnswer>().baseSkyConfirmed = true;
 }
 
 } // namespace morvane

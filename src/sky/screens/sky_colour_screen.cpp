@@ -1,8 +1,10 @@
 #include "sky/screens/sky_colour_screen.h"
 
-#include "ground/cloud_cover.h"
+#include "sets/cloud_cover.h"
+#include "sets/slider_values.h"
 #include "sky/screens/palette_picture.h"
 #include "sky/sky_generation.h"
+#include "sky/sky_tuning_state.h"
 #include "ui/buffer_picture.h"
 
 namespace morvane {
@@ -51,7 +53,8 @@ void frm_SkyColorize::format() {
     if (isFilled_) return;
     isFilled_ = true;
     // A cover of another spelling leaves the options as they are: choosing one would overwrite it.
-    if (const CloudCover* cover = cloudCover(session().skyTuning.cloudCover)) checkOption(cover->number - 1);
+    if (const CloudCover* cover = cloudCover(session().state<SkyTuningState>().cloudCover))
+        checkOption(cover->number - 1);
     putSliders(values);
     showGroup();
 }
@@ -76,7 +79,7 @@ void frm_SkyColorize::showResult() {
 }
 
 void frm_SkyColorize::showGroup() {
-    picSkySource_->setGroup(session().skyTuning.selectedGroup);
+    picSkySource_->setGroup(session().state<SkyTuningState>().selectedGroup);
     showSubject(tuning_.selectedText());
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "sets/screens/colour_page.h"
 #include "sky/sky_tuning.h"
-#include "ui/colour_page.h"
 
 namespace morvane {
 

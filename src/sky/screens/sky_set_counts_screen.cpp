@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "sky/sky_base_sets.h"
+#include "sky/sky_generation.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -24,7 +25,7 @@ frm_SelectSkyTexture::frm_SelectSkyTexture(Shell& shell)
     makeLabel(this, u"Cloud Cover Quantity"_s, {countsLeft, headTop, 198, 14}, TextRole::fieldCaption);
     // The keys go from one control to the next in the order in which they are made.
     addBaseSets();
-    boxes_ = addCountBoxes(*this, session().modal.skySetCounts, countColumn);
+    boxes_ = addCountBoxes(*this, session().state<SkySetCounts>().skySetCounts, countColumn);
     makeLabel(this,
               u"Please be aware Overcast are special textures and only used for overcast conditions.and will "
               "therefore have their own count"_s,
@@ -47,7 +48,7 @@ void frm_SelectSkyTexture::addBaseSets() {
 
 void frm_SelectSkyTexture::prepare() {
     for (QCheckBox* box : chkStsGroup_)
-        box->setChecked(session().modal.skyBaseSets.contains(box->text()));
+        box->setChecked(session().state<SkySetCounts>().skyBaseSets.contains(box->text()));
     for (CountEdit* box : boxes_)
         box->showCount();
     enableCounts();
@@ -55,11 +56,11 @@ void frm_SelectSkyTexture::prepare() {
 }
 
 void frm_SelectSkyTexture::confirm() {
-    session().modal.skySetsConfirmed = true;
+    session().state<SkySetCounts>().skySetsConfirmed = true;
 }
 
 void frm_SelectSkyTexture::storeBaseSets() {
-    QStringList& names = session().modal.skyBaseSets;
+    QStringList& names = session().state<SkySetCounts>().skyBaseSets;
     names.clear();
     for (const QCheckBox* box : chkStsGroup_)
         if (box->isChecked()) names << box->text();
@@ -67,7 +68,7 @@ void frm_SelectSkyTexture::storeBaseSets() {
 }
 
 void frm_SelectSkyTexture::enableCounts() {
-    const QStringList& names = session().modal.skyBaseSets;
+    const QStringList& names = session().state<SkySetCounts>().skyBaseSets;
     const bool hasOvercast = names.contains(overcastBaseSet);
     boxes_.back()->setEnabled(hasOvercast);
     const bool hasOther = names.size() > (hasOvercast ? 1 : 0);

@@ -66,12 +66,13 @@ frm_KMTextures::frm_KMTextures(Shell& shell)
 void frm_KMTextures::formatList() {
     int row = 0;
     reportFailures(session().user, {},
-                   [&] { row = refreshedSets().findIndex(session().sky.SelectedSkySet); });
+                   [&] { row = refreshedSets().findIndex(session().state<SkySelection>().SelectedSkySet); });
     formatSets(row);
 }
 
 const clsSkyTextureSets& frm_KMTextures::refreshedSets() {
-    if (session().RefreshSkyList && refreshSkySets(session())) session().RefreshSkyList = false;
+    if (session().state<SkySelection>().RefreshSkyList && refreshSkySets(session()))
+        session().state<SkySelection>().RefreshSkyList = false;
     return loadedSkySets(session());
 }
 
@@ -88,16 +89,16 @@ bool frm_KMTextures::clickSet(int row) {
 
 bool frm_KMTextures::takeSet(const QString& listKey) {
     const bool hasColours = loadSkySubSet(session(), listKey, skyDay);
-    showDescription(session().sky.SelectedSkyDescription);
+    showDescription(session().state<SkySelection>().SelectedSkyDescription);
     // A base set that was edited by hand may be no folder's name.
     reportFailures(session().user, {}, [this] {
-        openSkyTextureSetImage(skySampleFile(session(), session().sky.SelectedSkyGroup));
+        openSkyTextureSetImage(skySampleFile(session(), session().state<SkySelection>().SelectedSkyGroup));
     });
     return hasColours;
 }
 
 void frm_KMTextures::noteTicks() {
-    session().sky.selectedRows = list().checkedNames();
+    session().state<SkySelection>().selectedRows = list().checkedNames();
 }
 
 void frm_KMTextures::openSkyTextureSetImage(const FilePath& path) {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "sets/screens/set_list_form.h"
 #include "sky/sky_sample.h"
 #include "sky/sky_texture_sets.h"
-#include "ui/set_list_form.h"
 
 namespace morvane {
 

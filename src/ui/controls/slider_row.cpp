@@ -1,7 +1,7 @@
 #include "ui/controls/slider_row.h"
 
 #include "core/literals.h"
-#include "ground/slider_steps.h"
+#include "imaging/slider_steps.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/slider.h"
 

@@ -1,11 +1,12 @@
 #include "weather/screens/cover_dialog.h"
 
 #include "core/session.h"
+#include "weather/cover_choice.h"
 
 namespace morvane {
 
 void CoverDialog::confirm() {
-    session().modal.coverConfirmed = true;
+    session().state<CoverChoice>().coverConfirmed = true;
 }
 
 } // namespace morvane

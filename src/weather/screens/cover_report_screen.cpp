@@ -2,9 +2,10 @@
 
 #include "core/numbers.h"
 #include "core/session.h"
-#include "ground/screens/favourite_screen.h"
-#include "simulator/set_matching.h"
+#include "ui/controls/description_edit.h"
 #include "ui/controls/labels.h"
+#include "weather/cover_choice.h"
+#include "weather/weather_state.h"
 
 #include <QKeyEvent>
 
@@ -27,8 +28,9 @@ frm_CC_From_Metar_String::frm_CC_From_Metar_String(Shell& shell)
     txtMetarString_->setObjectName(u"txtMetarString"_s);
     txtMetarString_->setAccessibleName(u"METAR"_s);
     txtMetarString_->setGeometry(left, 86, paperWidth, 88);
-    connect(txtMetarString_, &QPlainTextEdit::textChanged, this,
-            [this] { session().weather.MetarStringInput = trimmedBlanks(txtMetarString_->toPlainText()); });
+    connect(txtMetarString_, &QPlainTextEdit::textChanged, this, [this] {
+        session().state<WeatherState>().MetarStringInput = trimmedBlanks(txtMetarString_->toPlainText());
+    });
     addButton({ButtonFamily::LargeButton,
                u"btn_MetarProcess"_s,
                u"process metar string"_s,
@@ -48,11 +50,11 @@ void frm_CC_From_Metar_String::prepare() {
 
 void frm_CC_From_Metar_String::processMetarString() {
     // A report that was pasted over several lines is one.
-    const QString report = session().weather.MetarStringInput.simplified();
+    const QString report = session().state<WeatherState>().MetarStringInput.simplified();
     const bool hasClouds = morvane::processMetarString(session(), report);
     caption_->setVisible(hasClouds);
     if (hasClouds)
-        cover_.showCover(session().WxCloudList[0].toInt());
+        cover_.showCover(session().state<FlightWeather>().WxCloudList[0].toInt());
     else
         cover_.clear();
 }

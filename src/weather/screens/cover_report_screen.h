@@ -1,5 +1,6 @@
 #pragma once
 
+#include "weather/cover_choice.h"
 #include "weather/screens/cover_dialog.h"
 #include "weather/screens/cover_label.h"
 

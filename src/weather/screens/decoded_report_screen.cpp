@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "ui/controls/labels.h"
+#include "weather/decoded_lines.h"
 
 #include <QVBoxLayout>
 
@@ -40,7 +41,7 @@ frm_metar::frm_metar(Shell& shell)
 }
 
 void frm_metar::prepare() {
-    const QStringList& lines = session().modal.decodedMetarLines;
+    const QStringList& lines = session().state<DecodedReportLines>().decodedMetarLines;
     for (qsizetype index = 0; QLabel * label : lblDecodedMetar_)
         label->setText(lines.value(index++));
 }

@@ -1,8 +1,8 @@
 #include "weather/screens/flight_plan_screen.h"
 
 #include "core/failure_report.h"
+#include "core/flights_folder.h"
 #include "core/session.h"
-#include "simulator/flights.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/set_table.h"
 #include "ui/controls/skinned_progress_bar.h"

@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "ui/controls/labels.h"
+#include "weather/weather_refresh.h"
 
 #include <QLabel>
 
@@ -16,15 +17,15 @@ frm_metar_request::frm_metar_request(Shell& shell)
 }
 
 void frm_metar_request::prepare() {
-    lblRequest_->setText(session().modal.metarRequestText);
+    lblRequest_->setText(session().state<MetarRequest>().metarRequestText);
 }
 
 void frm_metar_request::confirm() {
-    session().modal.metarRequested = true;
+    session().state<MetarRequest>().metarRequested = true;
 }
 
 void frm_metar_request::cancel() {
-    session().modal.metarRequested = false;
+    session().state<MetarRequest>().metarRequested = false;
     DialogForm::cancel();
 }
 

@@ -1,0 +1,30 @@
+#include "core/store_connection.h"
+
+#include "core/session.h"
+#include "core/store.h"
+
+#include <clocale>
+
+namespace morvane {
+
+QString getDecimalSeparator() {
+    const std::lconv* conventions = std::localeconv();
+    const QString separator = QString::fromLocal8Bit(conventions->mon_decimal_point);
+    return separator.isEmpty() ? u"."_s : separator;
+}
+
+void connectDatabase(Session& session) {
+    try {
+        session.adoConn = std::make_unique<Store>();
+        session.adoConn->open(session.AppPath / u"Morvane.mdb");
+    } catch (const Error& error) {
+        session.user.systemBox(error.description(), {}, SystemBoxButtons::ok);
+    }
+}
+
+void closeDatabase(Session& session) {
+    if (session.adoConn) session.adoConn->close();
+    session.adoConn.reset();
+}
+
+} // namespace morvane

@@ -1,0 +1,203 @@
+#include "sets/originals.h"
+
+#include "core/literals.h"
+
+namespace morvane {
+
+namespace {
+
+/// "Texture\a.bmp", then "Texture\a (2).bmp" and so on.
+QString numbered(const QString& path, int number) {
+    if (number == 1) return path;
+    const qsizetype dot = path.lastIndexOf(u'.');
+    const qsizetype end = dot > path.lastIndexOf(u'\\') ? dot : path.size();
+    return path.left(end) + u" (%1)"_s.arg(number) + path.mid(end);
+}
+
+} // namespace
+
+Originals::Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath,
+                     const QDate& today)
+    : files_(files), simulator_(simulator), folder_(appPath / u"Backup\\Originals"), today_(today),
+      list_(files, simulator, folder_), spelling_(files, simulator) {
+    respell();
+}
+
+/// Files may have been given other letters since they were noted; lists of old noted whatever spelling our
+/// own files had.
+void Originals::respell() {
+    for (const QString& path : list_.records().all().keys()) {
+        const QString onDisk = spelling_.find(path).relative();
+        if (onDisk != path && !list_.records().contains(onDisk)) list_.rename(path, onDisk);
+    }
+}
+
+FilePath Originals::find(const FilePath& target) {
+    const QString path = target.relativeTo(simulator_);
+    if (!target.isResolved()) return spelling_.find(path);
+    const qsizetype end = path.lastIndexOf(u'\\') + 1;
+    return spelling_.findExactly(path.left(end) + FilePath(target.native()).fileName());
+}
+
+OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
+    OriginalFact fact{kind, place.relative()};
+    fact.day = today_;
+    return fact;
+}
+
+void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
+    std::vector<OriginalFact> facts;
+    for (const FileCopy& copy : copies) {
+        prepareCopy(copy, facts);
+        pump();
+    }
+    list_.add(facts);
+}
+
+void Originals::prepareCopy(const FileCopy& copy, std::vector<OriginalFact>& facts) {
+    const FilePath place = find(copy.target);
+    const QString path = place.relative();
+    OriginalFact ours = factOf(FactKind::ours, place);
+    ours.where = copy.source.relative();
+    if (!tryPart(copy.source.text(), [&] { ours.print = fingerprintOf(files_, copy.source); })) return;
+    announced_.insert(copy.source.text(), ours.print);
+    if (!tryPart(path, [&] { look(place, true, facts); })) return;
+    if (!list_.records().of(path).isOurs(ours.print)) facts.push_back(ours);
+}
+
+bool Originals::tryPart(const QString& of, const std::function<void()>& part) {
+    try {
+        part();
+        return true;
+    } catch (const Error& error) {
+        failures_.insert(of, error);
+        return false;
+    }
+}
+
+/// Before the announcement is noted, not after: it would pass the pilot's file for ours where both have the
+/// same bytes.
+void Originals::look(const FilePath& place, bool isForOurs, std::vector<OriginalFact>& facts) {
+    const QString path = place.relative();
+    if (looked_.contains(path)) return;
+    const OriginalRecord& known = list_.records().of(path);
+    if (const auto contents = files_.readIfThere(place)) {
+        const FileFingerprint print = fingerprintOf(*contents);
+        if (!known.isOurs(print) && !known.isKept(print)) facts.push_back(keep(place, print, *contents));
+    } else if (isForOurs && !list_.records().contains(path)) {
+        facts.push_back(factOf(FactKind::added, place));
+    }
+    looked_.insert(path);
+}
+
+OriginalFact Originals::keep(const FilePath& place, const FileFingerprint& print,
+                             const QByteArray& contents) {
+    const FileStamp stamp = files_.stamp(place);
+    OriginalFact kept = factOf(FactKind::kept, place);
+    kept.print = print;
+    kept.time = stamp.time;
+    kept.number = stamp.number;
+    kept.mode = stamp.mode;
+    kept.where = keepCopy(place.relative(), contents);
+    return kept;
+}
+
+/// A kept file is never written over: the next one of its path lies beside it, numbered. One of the same
+/// contents, which a kill or a restore left there without a fact, serves again.
+QString Originals::keepCopy(const QString& path, const QByteArray& contents) {
+    for (int number = 1;; ++number) {
+        const QString where = list_.prefix() + numbered(path, number);
+        const FilePath copy = copyPlace(where);
+        const auto there = files_.readIfThere(copy);
+        if (!there) files_.write(copy, contents);
+        if (!there || *there == contents) return where;
+    }
+}
+
+/// Folders are made and looked up once for their thousands of files.
+FilePath Originals::copyPlace(const QString& where) {
+    const qsizetype end = where.lastIndexOf(u'\\');
+    const QString folder = where.left(std::max<qsizetype>(end, 0));
+    if (!copyFolders_.contains(folder)) {
+        files_.makeFolder(folder_ / folder);
+        copyFolders_.insert(folder, (folder_ / folder).resolved());
+    }
+    return copyFolders_.value(folder).exactChild(where.mid(end + 1));
+}
+
+FilePath Originals::place(const FileCopy& copy) {
+    const FilePath place = find(copy.target);
+    for (const QString& part : {copy.source.text(), place.relative()})
+        if (const auto failure = failures_.constFind(part); failure != failures_.cend()) throw *failure;
+    std::vector<OriginalFact> facts;
+    look(place, false, facts);
+    list_.add(facts);
+    return place;
+}
+
+void Originals::notePlaced(const FileCopy& copy, const FilePath& place) {
+    const auto print = announced_.constFind(copy.source.text());
+    if (print == announced_.cend()) return; // the pilot's own
+    const FileStamp stamp = files_.stamp(place);
+    OriginalFact ours = factOf(FactKind::ours, place);
+    ours.print = *print;
+    ours.where = copy.source.relative();
+    ours.time = stamp.time;
+    ours.number = stamp.number;
+    placed_.insert(place.relative(), ours);
+}
+
+void Originals::settle() {
+    if (announced_.isEmpty()) return;
+    for (auto last = placed_.cbegin(); last != placed_.cend(); ++last)
+        list_.records()[last.key()].ours = {*last};
+    list_.write();
+}
+
+void Originals::takeReadOnlyMark(const FilePath& place) {
+    if (files_.isLink(place) || !files_.isReadOnly(place)) return;
+    OriginalFact mark = factOf(FactKind::mode, place);
+    mark.mode = files_.stamp(place).mode;
+    list_.add({mark});
+    files_.setReadOnly(place, false);
+}
+
+void Originals::makeFolder(const FilePath& folder) {
+    std::vector<OriginalFact> made;
+    for (FilePath above = spelling_.findFolder(folder.relativeTo(simulator_));
+         !above.relative().isEmpty() && !files_.isFolder(above); above = above.parent())
+        made.push_back(factOf(FactKind::folder, above));
+    list_.add(made);
+    files_.makeFolder(folder);
+}
+
+std::vector<KeptOriginal> Originals::list() const {
+    std::vector<KeptOriginal> kept;
+    for (const OriginalRecord& record : list_.records().all()) {
+        int number = 0;
+        for (const OriginalFact& fact : record.kept)
+            kept.push_back(
+                {fact.path, fact.print.size, fact.print.checksum, ++number, fact.day, fact.where, fact.mode});
+    }
+    return kept;
+}
+
+const OriginalRecord& Originals::recordOf(const FilePath& target) {
+    return list_.records().of(find(target).relative());
+}
+
+bool Originals::isOurs(const FilePath& target) {
+    const FilePath place = find(target);
+    const OriginalRecord& record = list_.records().of(place.relative());
+    if (record.ours.empty()) return false;
+    const auto contents = files_.readIfThere(place);
+    return contents && record.isOurs(fingerprintOf(*contents));
+}
+
+std::optional<FilePath> Originals::keptFile(const FilePath& target) {
+    const OriginalRecord& record = recordOf(target);
+    if (record.kept.empty() || !isOurs(target) || !isSound(record.kept.back())) return std::nullopt;
+    return folder_ / record.kept.back().where;
+}
+
+} // namespace morvane

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "core/disk_spelling.h"
+#include "core/error.h"
+#include "sets/originals_list.h"
+
+#include <QSet>
+#include <functional>
+
+namespace morvane {
+
+/// A simulator file that was kept before the program replaced it.
+struct KeptOriginal {
+    QString path; ///< below the simulator's folder, names joined by "\"
+    std::int64_t size = 0;
+    QString checksum;  ///< SHA-1, hexadecimal
+    int number = 1;    ///< of several kept files of one path, the oldest first
+    QDate day;         ///< of the keeping; invalid in lists of old
+    QString copy;      ///< the kept file, below "Backup\Originals"
+    unsigned mode = 0; ///< permission bits; 0 in lists of old
+};
+
+/// One replacement of a simulator file by one of ours.
+struct FileCopy {
+    FilePath source; ///< joined behind the install folder
+    FilePath target; ///< joined behind the simulator's folder
+};
+
+/// What a restore did with the files that are known.
+struct OriginalsReport {
+    int putBack = 0;     ///< the pilot's files; those that stand already are not counted
+    int takenAway = 0;   ///< ours, where nothing stood before
+    QStringList left;    ///< paths left as they are: changed by another hand, or before us not known
+    QStringList damaged; ///< paths left as they are: the kept file is damaged or gone
+    std::optional<Error> failure = {}; ///< the first of those files that could not be put back or taken away
+};
+
+/// The pilot's own files of one simulator: each is kept under "Backup\Originals" before a copy of ours
+/// replaces it, and can be put back. A list beside them (docs/originals.md) knows every kept file and every
+/// file that we put there, so that a file of ours is never taken for the pilot's, nor his for ours.
+///
+/// A file is ours when a fact of the list says so and its bytes are those of the fact; without such a fact it
+/// is the pilot's, whatever its bytes. Facts are on the disk before what they speak of is done, so the worst
+/// that a kill leaves behind is a file that is kept once too often.
+class Originals {
+public:
+    /// Raises when the list cannot be read, or when a newer version wrote it.
+    Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath,
+              const QDate& today = QDate::currentDate());
+
+    /// Call it with all copies before the first of them is made: looks at every target, keeps the pilot's
+    /// files and notes, in one write, what is about to be put where. A file that cannot be read or kept does
+    /// not stop the others: its failure is raised by `place`. A first install takes its time here; `pump` is
+    /// called after each copy's part.
+    void prepare(
+        const std::vector<FileCopy>& copies, const std::function<void()>& pump = [] {});
+    /// Where that copy goes, in the spelling of the disk. Raises what kept it from being prepared: it must
+    /// not be made then. A copy that was not prepared brings a file of the pilot's own; only what stands in
+    /// its place is kept.
+    FilePath place(const FileCopy& copy);
+    /// Call it when the copy stands in its place.
+    void notePlaced(const FileCopy& copy, const FilePath& place);
+    /// Call it after the last copy: the list is written anew, so that it does not grow with every flight, and
+    /// of what was put to one path only the last counts.
+    void settle();
+
+    /// Takes the read-only mark away, where there is one, so that a restore can give it back.
+    void takeReadOnlyMark(const FilePath& place);
+    /// Makes a folder of the simulator, and those above it; a restore takes it away when it is empty.
+    void makeFolder(const FilePath& folder);
+
+    /// All kept files, sorted by path and number.
+    std::vector<KeptOriginal> list() const;
+    /// What is known of that place of the simulator.
+    const OriginalRecord& recordOf(const FilePath& target);
+    /// One of ours stands there. Raises when the file cannot be read.
+    bool isOurs(const FilePath& target);
+    /// The pilot's youngest file in the place of one of ours; nothing where none of ours stands, where none
+    /// was kept, or where it is no longer what was kept.
+    std::optional<FilePath> keptFile(const FilePath& target);
+    const OriginalRecords& records() const { return list_.records(); }
+
+    /// Gives the first tree back: the pilot's youngest files in the place of ours, with their modes, and
+    /// nothing where we put the first file. What was given back has no facts afterwards. One file that fails
+    /// does not keep the others from it. `progress` is called with a part of 1 after each file.
+    OriginalsReport restore(const std::function<void(double)>& progress = [](double) {});
+
+private:
+    void respell();
+    FilePath find(const FilePath& target);
+    void prepareCopy(const FileCopy& copy, std::vector<OriginalFact>& facts);
+    /// Adds what has to be noted before the file is replaced.
+    void look(const FilePath& place, bool isForOurs, std::vector<OriginalFact>& facts);
+    /// Runs it; false when it failed, which is noted under that name.
+    bool tryPart(const QString& of, const std::function<void()>& part);
+    OriginalFact keep(const FilePath& place, const FileFingerprint& print, const QByteArray& contents);
+    QString keepCopy(const QString& path, const QByteArray& contents);
+    FilePath copyPlace(const QString& where);
+    OriginalFact factOf(FactKind kind, const FilePath& place) const;
+
+    void clearStrays();
+    bool isSound(const OriginalFact& kept);
+    void restoreFile(const QString& path, OriginalsReport& report);
+    void restoreKept(const FilePath& place, const OriginalRecord& record, OriginalsReport& report);
+    unsigned modeAfter(const FilePath& place, const OriginalRecord& record, bool isThere);
+    void removeMadeFolders();
+
+    FileSystem& files_;
+    FilePath simulator_, folder_;
+    QDate today_;
+    OriginalsList list_;
+    DiskSpelling spelling_;
+    QHash<QString, FileFingerprint> announced_; ///< by source
+    QHash<QString, OriginalFact> placed_;       ///< the last of each path
+    QHash<QString, Error> failures_;            ///< by source or by path of the target
+    QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run
+    QHash<QString, FilePath> copyFolders_; ///< made, by the folder below `folder_`
+};
+
+} // namespace morvane

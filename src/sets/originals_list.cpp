@@ -1,0 +1,48 @@
+#include "sets/originals_list.h"
+
+namespace morvane {
+
+OriginalsList::OriginalsList(FileSystem& files, const FilePath& simulator, const FilePath& folder)
+    : files_(files), simulator_(simulator), folder_(folder) {
+    const OriginalsChoice choice = findOriginals(files, simulator, folder);
+    prefix_ = choice.prefix;
+    isOnDisk_ = choice.isOnDisk;
+    left_ = choice.left;
+    for (const OriginalFact& fact : choice.facts)
+        records_.apply(fact);
+}
+
+void OriginalsList::add(const std::vector<OriginalFact>& facts) {
+    if (facts.empty()) return;
+    if (isOnDisk_) append(facts); // on the disk first: what is only in memory must not count
+    for (const OriginalFact& fact : facts)
+        records_.apply(fact);
+    if (!isOnDisk_) write();
+}
+
+void OriginalsList::append(const std::vector<OriginalFact>& facts) {
+    QByteArray lines = tornLineEnd;
+    for (const OriginalFact& fact : facts)
+        lines += factLine(fact);
+    files_.append(file(originalsListName), lines);
+}
+
+void OriginalsList::rename(const QString& from, const QString& to) {
+    records_.rename(from, to);
+    isOnDisk_ = false;
+}
+
+void OriginalsList::write() {
+    const FilePath list = file(originalsListName);
+    files_.makeFolder(list.parent());
+    if (!left_.isEmpty()) files_.write(file(leftListName), left_);
+    left_.clear();
+    QByteArray text = headLine(simulator_.native(), files_.stamp(simulator_).number);
+    for (const OriginalRecord& record : records_.all())
+        for (const OriginalFact& fact : record.facts())
+            text += factLine(fact);
+    files_.write(list, text);
+    isOnDisk_ = true;
+}
+
+} // namespace morvane

@@ -1,0 +1,224 @@
+#include "sets/screens/set_list_form.h"
+
+#include "core/failure_report.h"
+#include "core/flag_text.h"
+#include "core/numbers.h"
+#include "core/session.h"
+#include "ui/buffer_picture.h"
+#include "ui/controls/picture_frame.h"
+#include "ui/shell.h"
+
+#include <QLabel>
+#include <algorithm>
+
+namespace morvane {
+
+namespace {
+
+constexpr int pageRight = 582, pictureTop = 129, keyRow = 397, activatedColumn = 1;
+
+void addRule(QWidget* paper, const QRect& place) {
+    auto* rule = new QWidget(paper);
+    QPalette colours;
+    colours.setColor(QPalette::Window, QColor::fromRgb(palette::rule));
+    rule->setPalette(colours);
+    rule->setAutoFillBackground(true);
+    rule->setGeometry(place);
+}
+
+} // namespace
+
+SetListSetup textureListPage(const QString& instructions, const std::vector<SetColumn>& columns,
+                             const SetListSetup::Key& create) {
+    return {
+        .instructionsName = u"lblTsInstructions"_s,
+        .instructions = instructions,
+        .listName = u"lstTextureSets"_s,
+        .listWidth = 330,
+        .columns = columns,
+        .hasCheckBoxes = false,
+        .sourceName = u"picTextureSetSource"_s,
+        .resultName = u"picTextureSetResult"_s,
+        .pictureSide = 108,
+        .pictureLefts = {359, 473},
+        .isSmooth = true,
+        .descriptionName = u"lblFavDescription"_s,
+        .descriptionRole = TextRole::body,
+        .create = create,
+        .activate = {u"btn_TextureActivate"_s, u"activate ts"_s},
+        .install = {u"btn_TextureInstall"_s, u"install ts"_s},
+        .remove = {u"btn_TextureDelete"_s, u"delete ts"_s},
+        // Unlike a click this leaves the key of an activated set dead: once the list was built anew, a set
+        // can be deactivated only after its row was clicked.
+        .ofActivatedByPage = ButtonState::disabled,
+    };
+}
+
+SetListForm::SetListForm(Shell& shell, const QString& name, const WindowLook& look, const HostKeys& keys,
+                         const QString& colourPage, const SetListSetup& setup)
+    : HostForm(shell, name, look, keys, colourPage), setup_(setup) {
+    addInstructionsAndList();
+    addPictures();
+    addDescription();
+    addKeys();
+}
+
+void SetListForm::addInstructionsAndList() {
+    makeLabel(paper(), setup_.instructions, {14, 46, 568, 60}, TextRole::longHelp)
+        ->setObjectName(setup_.instructionsName);
+    list_ = new SetTable(paper());
+    list_->setObjectName(setup_.listName);
+    list_->setGeometry(14, 112, setup_.listWidth, 266);
+    list_->setColumns(setup_.columns, setup_.hasCheckBoxes);
+    connect(list_, &SetTable::rowClicked, this, &SetListForm::clickRow);
+    connect(list_, &SetTable::rowDoubleClicked, this, &SetListForm::useSet);
+    setFirstFocus(list_);
+}
+
+void SetListForm::addPictures() {
+    const int side = setup_.pictureSide;
+    const auto add = [this, side](const QString& name, const QString& caption, int left) {
+        makeLabel(paper(), caption, {left - 1, 112, side, 14}, TextRole::fieldCaption);
+        auto* picture = new PictureFrame(paper());
+        picture->setObjectName(name);
+        picture->setAccessibleName(caption);
+        picture->placePicture({left, pictureTop, side, side});
+        picture->setSmooth(setup_.isSmooth);
+        return picture;
+    };
+    source_ = add(setup_.sourceName, u"Original"_s, setup_.pictureLefts[0]);
+    result_ = add(setup_.resultName, u"This set"_s, setup_.pictureLefts[1]);
+}
+
+void SetListForm::addDescription() {
+    const int left = setup_.pictureLefts[0] - 1, width = pageRight - left;
+    const int top = pictureTop + setup_.pictureSide + 13;
+    makeLabel(paper(), u"Description"_s, {left, top, width, 14}, TextRole::sectionHeading);
+    addRule(paper(), {left, top + 18, width, 1});
+    description_ = makeLabel(paper(), {}, {left, top + 23, width, 385 - (top + 23)}, setup_.descriptionRole);
+    description_->setObjectName(setup_.descriptionName);
+}
+
+void SetListForm::addKeys() {
+    const bool hasCreate = !setup_.create.name.isEmpty();
+    int left = hasCreate ? 27 : 96;
+    const auto add = [this, &left](const SetListSetup::Key& key, const QString& picture, const QString& tip,
+                                   const QString& caption) {
+        const QPoint place{left, keyRow};
+        left += 138;
+        return addButton({ButtonFamily::LargeButton, key.name, key.key, picture, tip, place, caption},
+                         paper());
+    };
+    if (hasCreate)
+        create_ = add(setup_.create, u"btn_Create"_s, u"Click to create texture sets."_s, u"Create"_s);
+    activate_ = add(setup_.activate, u"btn_Activate"_s, u"Click to activate the selected texture set."_s,
+                    u"Activate"_s);
+    install_ = add(setup_.install, u"btn_Install"_s,
+                   u"Click to install selected texture set into Flight Simulator."_s, u"Install"_s);
+    remove_ = add(setup_.remove, u"btn_Delete"_s, u"Click to delete selected texture set."_s, u"Delete"_s);
+}
+
+void SetListForm::formatSets(int& selectedRow) {
+    reportFailures(session().user, {}, [&] {
+        markListKey();
+        paper()->setTitle(u"icon_MVOpen.bmp"_s, u"Manage Texture Sets Screen"_s);
+        formatKeys();
+        fillRows();
+        if (list_->rowCount() > 0) selectFilledRow(selectedRow);
+        selectedRow = 0;
+    });
+}
+
+/// A set that was made just now counts as clicked: it is what its maker wants to go on with.
+void SetListForm::selectFilledRow(int row) {
+    const QString madeSet = takeMadeSet();
+    const int made = madeSet.isEmpty() ? 0 : list_->rowOf(madeSet);
+    // When the list has become shorter, its last row takes the place of the one that was in hand.
+    if (made == 0) return selectSetRow(std::clamp(row, 1, list_->rowCount()));
+    list_->selectRow(made);
+    clickRow(list_->keyOf(made));
+}
+
+void SetListForm::formatKeys() {
+    remove_->setState(ButtonState::disabled);
+    if (create_) create_->setState(ButtonState::enabled);
+    setActivateState(ButtonState::enabled);
+    install_->setState(ButtonState::disabled);
+}
+
+void SetListForm::fillRows() {
+    list_->clearRows();
+    filledRows_ = setRows();
+    for (const SetRow& row : filledRows_)
+        list_->addRow(row);
+    if (list_->rowCount() > 0) return;
+    rowInHand_ = 0;
+    disableSetKeys();
+    description_->clear();
+    showNoSet();
+}
+
+bool SetListForm::showForeignChanges() {
+    if (setRows() == filledRows_) return false;
+    formatList();
+    return true;
+}
+
+void SetListForm::selectSetRow(int row) {
+    const QString key = list_->keyOf(row);
+    if (key.isEmpty()) return;
+    list_->selectRow(row);
+    const bool hasColours = takeSet(key);
+    takeInHand(row, hasColours, setup_.ofActivatedByPage);
+}
+
+void SetListForm::clickRow(const QString& listKey) {
+    const int row = list_->currentIndex().row() + 1;
+    // The keys must not stay alive for the set of the row before.
+    if (!clickSet(row)) return disableSetKeys();
+    const bool hasColours = takeSet(listKey);
+    takeInHand(row, hasColours, ButtonState::deactivate);
+}
+
+/// What a double click on a set is for: the key that is alive, as if it had been pressed.
+void SetListForm::useSet() {
+    const ButtonState activation = activate_->state();
+    if (install_->state() != ButtonState::disabled)
+        shell().dispatch(install_);
+    else if (activation != ButtonState::disabled && activation != ButtonState::deactivate)
+        shell().dispatch(activate_);
+}
+
+/// A set whose colours are damaged can only be taken away.
+void SetListForm::takeInHand(int row, bool hasColours, ButtonState ofActivated) {
+    const ButtonState ofWhole = hasColours ? ButtonState::enabled : ButtonState::disabled;
+    const auto filled = std::ranges::find(filledRows_, list_->keyOf(row), &SetRow::key);
+    rowInHand_ = filled == filledRows_.end() ? 0 : static_cast<int>(filled - filledRows_.begin()) + 1;
+    noteRows(row);
+    const bool isActivated = list_->textOf(row, activatedColumn) == flagText(true);
+    install_->setState(isActivated ? ofWhole : ButtonState::disabled);
+    setActivateState(isActivated ? ofActivated : ofWhole);
+    remove_->setState(ButtonState::enabled);
+}
+
+void SetListForm::disableSetKeys() {
+    setActivateState(ButtonState::disabled);
+    for (SkinnedButton* key : {install_, remove_})
+        key->setState(ButtonState::disabled);
+}
+
+void SetListForm::setActivateState(ButtonState state) {
+    activate_->setState(state);
+    activate_->setButtonText(state == ButtonState::deactivate ? u"Deactivate"_s : u"Activate"_s);
+}
+
+void SetListForm::showDescription(const QString& text) {
+    description_->setText(trimmedBlanks(text));
+}
+
+void SetListForm::showPictures(const cDIBSection& source, const cDIBSection& result) {
+    source_->setPicture(pictureOf(source));
+    result_->setPicture(pictureOf(result));
+}
+
+} // namespace morvane

@@ -1,0 +1,26 @@
+#include "sets/set_choice.h"
+
+#include "core/numbers.h"
+#include "sets/no_repeat.h"
+
+namespace morvane {
+
+QStringList namesForCover(const std::vector<ActivatedSet>& sets, const QString& cover) {
+    QStringList names;
+    for (const ActivatedSet& set : sets)
+        if (trimmedBlanks(set.cover) == trimmedBlanks(cover)) names << set.name;
+    return names;
+}
+
+int getRandomIndex(Session& session, int upper) {
+    clsNoRepeat draws(session.user, session.random);
+    const auto numbers = draws.Non_Repeating_Numbers(1, upper, 0);
+    return numbers ? numbers->front() : 0;
+}
+
+QString drawName(Session& session, const QStringList& names, qsizetype upper) {
+    if (names.isEmpty()) return u"Default"_s;
+    return names.size() == 1 ? names.front() : names[getRandomIndex(session, static_cast<int>(upper))];
+}
+
+} // namespace morvane

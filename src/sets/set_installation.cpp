@@ -1,0 +1,103 @@
+#include "sets/set_installation.h"
+
+#include "core/failure_report.h"
+#include "sets/cloud_cover.h"
+#include "sets/options_in_force.h"
+
+namespace morvane {
+
+bool SetInstallation::install(bool automatic) {
+    if (session_.jobRunning) return false;
+    Outcome outcome{};
+    {
+        Job job(session_, Job::Start::behindQuestions);
+        outcome = run(job, automatic);
+    }
+    const bool offersStart = !automatic && !session_.CommandLineRun && !kind_.matchQuestion.isEmpty();
+    // The job has ended by now: what the user does before the answer is no part of it.
+    return outcome == Outcome::installed && offersStart;
+}
+
+SetInstallation::Outcome SetInstallation::run(Job& job, bool automatic) {
+    filesCopied_ = 0;
+    Outcome outcome = Outcome::failed;
+    reportFailures(session_.user, {}, [&] {
+        if (!automatic && !prepareByHand(job)) return;
+        if (!job.begin()) return;
+        outcome = installSelectedSet() ? Outcome::installed : Outcome::storeRefused;
+    });
+    if (outcome != Outcome::installed || session_.CommandLineRun) return outcome;
+    session_.user.refreshScreen(Screen::frm_Main);
+    if (automatic) return outcome;
+    kind_.refreshList(session_) = true;
+    session_.user.refreshScreen(kind_.listScreen);
+    return outcome;
+}
+
+bool SetInstallation::prepareByHand(Job& job) {
+    if (selectedRowCount() > 1) {
+        // The title is misspelt: the message's own word.
+        session_.user.showMessage({MessageKind::exclamation, u"Multiple Selection Detetected!"_s,
+                                   kind_.severalRowsText, true, false, false});
+        return false;
+    }
+    if (kind_.matchQuestion.isEmpty()) return true;
+    // Both questions stand under the ground's title, also the one that offers a sky.
+    const bool isMatchWanted = session_.user.ask(
+        Question::setInstall, u"Install Matching Ground Texture Set?"_s, kind_.matchQuestion);
+    return !isMatchWanted || installMatch(job);
+}
+
+FileCopy SetInstallation::splashCopy(const CloudCover& cover) const {
+    return {session_.AppPath / u"Media" / cover.splash, splashTarget(session_)};
+}
+
+void SetInstallation::prepare(SimulatorCopier& copier, std::vector<FileCopy> copies,
+                              const CloudCover* splash) {
+    if (splash) copies.push_back(splashCopy(*splash));
+    copier.prepare(copies);
+}
+
+void SetInstallation::showProgress() {
+    session_.user.showMessage(
+        {MessageKind::progress, u"Morvane Information"_s,
+         u"Processing your "_s + kind_.word +
+             u" Texture Files.  Please wait until the process has finished.  This may take a few moments!"_s,
+         false, false, true});
+}
+
+void SetInstallation::showCover(const QString& tagged) {
+    session_.user.setProgressFile(u"Installing "_s + tagged + u' ' + kind_.word.toLower() + u" textures"_s);
+}
+
+/// No messages are let through and no cancel is read: an install once begun goes through its list.
+void SetInstallation::copyAll(SimulatorCopier& copier, const std::vector<FileCopy>& copies) {
+    const double steps = static_cast<double>(copies.size()) + kind_.stepsBesideFiles;
+    const double step = copies.empty() ? 100.0 : 100.0 / steps;
+    double position = 0;
+    for (const FileCopy& copy : copies) {
+        copier.copy(copy);
+        ++filesCopied_;
+        session_.user.updateProgress({}, {}, position += step);
+    }
+}
+
+void SetInstallation::finish(SimulatorCopier& copier) {
+    copier.finish();
+    session_.user.updateProgress({}, {}, 100);
+    session_.user.hideMessage();
+}
+
+void SetInstallation::putSet(const QString& coverWord, const std::vector<FileCopy>& copies) {
+    const CloudCover* cover = cloudCover(coverWord);
+    const bool withSplash = cover && !session_.state<OptionsInForce>().InhibitCustomSplash;
+    showProgress();
+    showCover(coverWord + (cover ? cover->tag : QString()));
+    SimulatorCopier copier(session_);
+    prepare(copier, copies, withSplash ? cover : nullptr);
+    if (withSplash) copier.copy(splashCopy(*cover));
+    copyAll(copier, copies);
+    finish(copier);
+}
+
+} // namespace morvane

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "core/job.h"
+#include "sets/simulator_copy.h"
+
+namespace morvane {
+
+struct CloudCover;
+
+/// What tells the install of one kind of set from that of another.
+struct InstallationKind {
+    QString word;            ///< "Ground", "Sky" or "Night", in the progress message
+    QString severalRowsText; ///< refuses more than one row
+    /// Offers a set of the other kind for the same weather. Empty for a kind that has nothing to do with the
+    /// weather: then the start of the simulator is not offered either.
+    QString matchQuestion;
+    Screen listScreen;
+    bool& (*refreshList)(Session&); ///< the list is to be filled anew when it is shown
+    int stepsBesideFiles;           ///< of the progress bar
+};
+
+/// Puts the files of the set in hand into the simulator and records in the store that it is the installed
+/// one, before the first file is copied. Nothing is rolled back: a failure leaves old and new files side by
+/// side, each of them whole.
+class SetInstallation {
+public:
+    SetInstallation(Session& session, const InstallationKind& kind) : session_(session), kind_(kind) {}
+    virtual ~SetInstallation() = default;
+
+    /// `automatic`: no questions, as on the road from the weather. Otherwise several rows are refused and a
+    /// matching set of the other kind is offered, which goes in first. True when the start of the simulator
+    /// is to be offered now (see offerSimulatorStart): behind an install by hand of a kind that the weather
+    /// chooses.
+    bool install(bool automatic);
+    /// The automatic install as a part of a job that is running already. False when the store refused to
+    /// record it: the job then ends, too.
+    bool installInside(Job& job) { return run(job, true) != Outcome::storeRefused; }
+
+    /// Files copied by the last install, the splash left out.
+    int filesCopied() const { return filesCopied_; }
+
+protected:
+    virtual qsizetype selectedRowCount() const = 0;
+    /// The user wants the set of the other kind, too. Never called without a question. False when the store
+    /// refused.
+    virtual bool installMatch(Job&) { return true; }
+    /// False when the store refused: nothing was copied then.
+    virtual bool installSelectedSet() = 0;
+
+    /// Splash, progress message and files of a set for that cover; an unknown cover has no splash.
+    void putSet(const QString& coverWord, const std::vector<FileCopy>& copies);
+
+    // The parts of it, for a set that goes in another order.
+    /// Clears strays and notes everything that will be put into the simulator, splash included.
+    void prepare(SimulatorCopier& copier, std::vector<FileCopy> copies, const CloudCover* splash);
+    void showProgress();
+    /// The line that names the cover.
+    void showCover(const QString& tagged);
+    void copyAll(SimulatorCopier& copier, const std::vector<FileCopy>& copies);
+    void finish(SimulatorCopier& copier);
+    FileCopy splashCopy(const CloudCover& cover) const;
+
+    Session& session_;
+
+private:
+    enum class Outcome { installed, failed, storeRefused };
+    Outcome run(Job& job, bool automatic);
+    /// False when the install was refused, by the store or for its several rows.
+    bool prepareByHand(Job& job);
+
+    const InstallationKind& kind_;
+    int filesCopied_ = 0;
+};
+
+} // namespace morvane

@@ -1,0 +1,73 @@
+#include "sets/simulator_copy.h"
+
+#include "core/error.h"
+#include "core/safe_copy.h"
+
+#include <QSet>
+
+namespace morvane {
+
+Originals originalsOf(const Session& session) {
+    return {session.files, session.FSPath, session.AppPath, session.clock.localTime().date()};
+}
+
+void endWithSession(const Session& session) {
+    if (session.ExitInProgress.endsCopies()) throw Error(ErrorCode::interrupted);
+}
+
+SimulatorCopier::SimulatorCopier(Session& session) : session_(session), originals_(originalsOf(session)) {}
+
+void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
+    clearStrays(copies);
+    // Outside a job a click could begin something else in the middle.
+    originals_.prepare(copies, [this] {
+        if (session_.jobRunning) session_.user.pumpMessages();
+        endWithSession(session_);
+    });
+}
+
+void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
+    QSet<QString> seen;
+    for (const FileCopy& copy : copies) {
+        const FilePath folder = copy.target.parent();
+        if (seen.contains(folder.relative())) continue;
+        seen.insert(folder.relative());
+        removePartialCopies(session_.files, folder);
+    }
+}
+
+void SimulatorCopier::copy(const FileCopy& copy) {
+    endWithSession(session_);
+    put(copy, originals_.place(copy));
+}
+
+void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {
+    endWithSession(session_);
+    const FilePath place = originals_.place(copy);
+    originals_.takeReadOnlyMark(place);
+    put(copy, place);
+}
+
+void SimulatorCopier::put(const FileCopy& copy, const FilePath& place) {
+    replaceFile(session_.files, copy.source, place);
+    originals_.notePlaced(copy, place);
+}
+
+void copyIntoSimulator(Session& session, const FilePath& source, const FilePath& target) {
+    SimulatorCopier copier(session);
+    copier.prepare({{source, target}});
+    copier.copy({source, target});
+    copier.finish();
+}
+
+FilePath splashTarget(const Session& session) {
+    return session.FSPath / u"Uires\\dlgsplash.bmp";
+}
+
+void addFolderFiles(Session& session, const FilePath& source, const QString& mask, const FilePath& target,
+                    std::vector<FileCopy>& copies) {
+    for (const QString& name : session.files.list(source, mask))
+        copies.push_back({source.child(name), target.child(name)});
+}
+
+} // namespace morvane

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/session.h"
+#include "sets/originals.h"
+
+namespace morvane {
+
+/// What is kept of the session's simulator. Raises as the constructor does.
+Originals originalsOf(const Session& session);
+
+/// The only way by which a file of ours gets into the simulator's folders: the pilot's own file is kept
+/// first, and the target is old or new as a whole at every moment.
+class SimulatorCopier {
+public:
+    explicit SimulatorCopier(Session& session);
+
+    /// Takes the whole list before the first copy: clears what a killed run left beside the targets, keeps
+    /// the pilot's files and notes what will be put where. The failure of one file is raised by its copy.
+    /// This and the copies raise `interrupted` once the desktop's session ends: the rest of the list stays.
+    void prepare(const std::vector<FileCopy>& copies);
+    /// The first half alone, where the files are the pilot's own.
+    void clearStrays(const std::vector<FileCopy>& copies);
+    /// The other half alone, for a file of ours among those.
+    void announce(const FileCopy& copy) { originals_.prepare({copy}); }
+    void copy(const FileCopy& copy);
+    /// The same for a target that may be marked read-only: the mark goes first, and stays gone. Base install
+    /// and options have always been so free; the installs of sets are not.
+    void copyOverReadOnly(const FileCopy& copy);
+    /// A folder for copies; a restore of the originals takes it away when it is empty by then.
+    void makeFolder(const FilePath& folder) { originals_.makeFolder(folder); }
+    /// After the last copy of the list.
+    void finish() { originals_.settle(); }
+
+private:
+    void put(const FileCopy& copy, const FilePath& place);
+
+    Session& session_;
+    Originals originals_;
+};
+
+/// Raises `interrupted` once the desktop's session ends.
+void endWithSession(const Session& session);
+
+/// One file, with everything that SimulatorCopier does for a list.
+void copyIntoSimulator(Session& session, const FilePath& source, const FilePath& target);
+
+/// The simulator's splash, "\Uires\dlgsplash.bmp".
+FilePath splashTarget(const Session& session);
+
+/// Appends every file of `source` that the mask takes, to be put under its own name into `target`.
+void addFolderFiles(Session& session, const FilePath& source, const QString& mask, const FilePath& target,
+                    std::vector<FileCopy>& copies);
+
+} // namespace morvane

@@ -1,0 +1,312 @@
+#include "window/dispatch_table.h"
+
+#include "core/flights_folder.h"
+#include "core/literals.h"
+#include "ground/ground_generation.h"
+#include "ground/ground_installation.h"
+#include "ground/screens/ground_colour_screen.h"
+#include "night/night_generation.h"
+#include "night/night_installation.h"
+#include "night/screens/night_colour_screen.h"
+#include "simulator/backup_files.h"
+#include "simulator/backup_restore.h"
+#include "simulator/screens/base_install_screen.h"
+#include "simulator/set_matching.h"
+#include "simulator/simulator_launch.h"
+#include "sky/screens/sky_colour_screen.h"
+#include "sky/sky_activation.h"
+#include "sky/sky_generation.h"
+#include "sky/sky_installation.h"
+#include "ui/dialog_form.h"
+#include "weather/cover_choice.h"
+#include "weather/screens/cover_report_screen.h"
+#include "weather/screens/weather_screen.h"
+#include "weather/weather_refresh.h"
+#include "weather/wx_filter.h"
+#include "window/window_shell.h"
+
+#include <algorithm>
+#include <array>
+
+namespace morvane {
+
+namespace {
+
+// Ground -------------------------------------------------------------------------------------------------
+
+void createGroundSets(WindowShell& shell, SkinnedButton& button) {
+    GroundGeneration(shell.session()).createTextureSets(Form::of(&button)->formName() == u"frm_Main");
+}
+
+/// One key, two directions: the state tells which.
+void activateGroundSet(WindowShell& shell, SkinnedButton& button) {
+    GroundGeneration generation(shell.session());
+    if (button.state() == ButtonState::deactivate)
+        generation.deleteTextureSet(true);
+    else
+        generation.activateTextureSet();
+}
+
+void deleteGroundSet(WindowShell& shell, SkinnedButton&) {
+    GroundGeneration(shell.session()).deleteTextureSet(false);
+}
+
+void installGroundSet(WindowShell& shell, SkinnedButton&) {
+    if (GroundInstallation(shell.session()).installTextureSet(false)) offerSimulatorStart(shell.session());
+}
+
+template <void (frm_GroundColorize::*method)()>
+void onGroundColours(WindowShell& shell, SkinnedButton&) {
+    (shell.screen<frm_GroundColorize>(u"frm_GroundColorize"_s).*method)();
+}
+
+// Flights ------------------------------------------------------------------------------------------------
+
+void selectFlight(WindowShell& shell, SkinnedButton&) {
+    startSavedFlight(shell.session());
+}
+
+// Weather ------------------------------------------------------------------------------------------------
+
+void processReport(WindowShell& shell, SkinnedButton&) {
+    shell.screen<frm_CC_From_Metar_String>(u"frm_CC_From_Metar_String"_s).processMetarString();
+}
+
+void findWeather(WindowShell& shell, SkinnedButton&) {
+    showWxFinder(shell.session());
+}
+
+void flyNowKey(WindowShell& shell, SkinnedButton&) {
+    flyNow(shell.session());
+}
+
+void clearFilter(WindowShell& shell, SkinnedButton&) {
+    shell.screen<frm_WxControl>(u"frm_WxControl"_s).ClearFilter();
+}
+
+void refreshWeatherCycle(WindowShell& shell, SkinnedButton&) {
+    refreshWeather(shell.session());
+}
+
+// Base install and options -------------------------------------------------------------------------------
+
+void installBase(WindowShell& shell, SkinnedButton&) {
+    shell.screen<frm_Config>(u"frm_Config"_s).install();
+}
+
+void makeBackup(WindowShell& shell, SkinnedButton&) {
+    backupOnRequest(shell.session());
+}
+
+void bringBackupBack(WindowShell& shell, SkinnedButton&) {
+    restoreBackupOnRequest(shell.session());
+}
+
+void openUpdatePage(WindowShell& shell, SkinnedButton&) {
+    shell.openUpdatePage();
+}
+
+void chooseFlightsFolder(WindowShell& shell, SkinnedButton&) {
+    setNonEnglishRegVal(shell.session());
+}
+
+// Sky ----------------------------------------------------------------------------------------------------
+
+void createSkySets(WindowShell& shell, SkinnedButton& button) {
+    SkyGeneration(shell.session()).createSkySets(Form::of(&button)->formName() == u"frm_Main");
+}
+
+void activateSkySet(WindowShell& shell, SkinnedButton& button) {
+    SkyActivation activation(shell.session());
+    if (button.state() == ButtonState::deactivate)
+        activation.deleteSkySet(true);
+    else
+        activation.activateSkySet();
+}
+
+void deleteSkySet(WindowShell& shell, SkinnedButton&) {
+    SkyActivation(shell.session()).deleteSkySet(false);
+}
+
+void installSkySet(WindowShell& shell, SkinnedButton&) {
+    if (SkyInstallation(shell.session()).installSkySet(false)) offerSimulatorStart(shell.session());
+}
+
+template <void (frm_SkyColorize::*method)()>
+void onSkyColours(WindowShell& shell, SkinnedButton&) {
+    (shell.screen<frm_SkyColorize>(u"frm_SkyColorize"_s).*method)();
+}
+
+// Night --------------------------------------------------------------------------------------------------
+
+void activateNightSet(WindowShell& shell, SkinnedButton& button) {
+    NightGeneration generation(shell.session());
+    if (button.state() == ButtonState::deactivate)
+        generation.deleteNightTextureSet(true);
+    else
+        generation.activateNightTextureSet();
+}
+
+void deleteNightSet(WindowShell& shell, SkinnedButton&) {
+    NightGeneration(shell.session()).deleteNightTextureSet(false);
+}
+
+void installNightSet(WindowShell& shell, SkinnedButton&) {
+    NightInstallation(shell.session()).installNightTextureSet();
+}
+
+template <void (frm_NightColorize::*method)()>
+void onNightColours(WindowShell& shell, SkinnedButton&) {
+    (shell.screen<frm_NightColorize>(u"frm_NightColorize"_s).*method)();
+}
+
+// Windows and pages --------------------------------------------------------------------------------------
+
+void exitProgram(WindowShell& shell, SkinnedButton&) {
+    shell.exitProgram();
+}
+
+void minimiseProgram(WindowShell& shell, SkinnedButton&) {
+    shell.minimiseProgram();
+}
+
+void goHome(WindowShell& shell, SkinnedButton&) {
+    shell.goHome();
+}
+
+void openHelp(WindowShell& shell, SkinnedButton&) {
+    shell.openHelp();
+}
+
+void leaveHost(WindowShell& shell, SkinnedButton& button) {
+    shell.leaveHost(Form::of(&button)->formName());
+}
+
+void showList(WindowShell& shell, SkinnedButton& button) {
+    shell.showList(Form::of(&button)->formName());
+}
+
+template <const char16_t* page>
+void goTo(WindowShell& shell, SkinnedButton&) {
+    shell.goToPage(QString::fromUtf16(page));
+}
+
+template <const char16_t* host>
+void showHost(WindowShell& shell, SkinnedButton&) {
+    shell.showHost(QString::fromUtf16(host));
+}
+
+// Dialogs ------------------------------------------------------------------------------------------------
+
+void confirmDialog(WindowShell&, SkinnedButton& button) {
+    if (auto* dialog = qobject_cast<DialogForm*>(Form::of(&button))) dialog->ok();
+}
+
+void cancelDialog(WindowShell&, SkinnedButton& button) {
+    if (auto* dialog = qobject_cast<DialogForm*>(Form::of(&button))) dialog->cancel();
+}
+
+// The table ----------------------------------------------------------------------------------------------
+
+constexpr auto large = ButtonFamily::LargeButton;
+constexpr auto small = ButtonFamily::smallButton;
+constexpr auto standard = ButtonFamily::StandardButton;
+constexpr auto medium = ButtonFamily::MediumButton;
+
+constexpr char16_t main[] = u"frm_Main", ground[] = u"frm_MVTextures", sky[] = u"frm_KMTextures",
+                   night[] = u"frm_NightTextures", groundColours[] = u"frm_GroundColorize",
+                   skyColours[] = u"frm_SkyColorize", nightColours[] = u"frm_NightColorize",
+                   wxControl[] = u"frm_WxControl", coverReport[] = u"frm_CC_From_Metar_String",
+                   switcher[] = u"frm_Switcher", config[] = u"frm_Config", links[] = u"frm_Links",
+                   about[] = u"frm_About";
+constexpr char16_t anyForm[] = u"*"; ///< small keys mean the same wherever they lie, and so do a dialog's
+
+struct Entry {
+    ButtonFamily family;
+    const char16_t* form;
+    const char16_t* key;
+    ButtonAction action;
+};
+
+constexpr Entry entries[] = {
+    {small, anyForm, u"exit", exitProgram},
+    {small, anyForm, u"minimize", minimiseProgram},
+
+    {medium, main, u"home", goHome},
+    {medium, main, u"mv textures", showHost<ground>},
+    {medium, main, u"km textures", showHost<sky>},
+    {medium, main, u"night textures", showHost<night>},
+    {medium, main, u"flight config", goTo<wxControl>},
+    {medium, main, u"switcher info", goTo<switcher>},
+    {medium, main, u"mv config", goTo<config>},
+    {medium, main, u"links", goTo<links>},
+    {medium, main, u"help", openHelp},
+    {medium, main, u"about", goTo<about>},
+    {large, main, u"main ground install", createGroundSets},
+    {large, main, u"main sky install", createSkySets},
+    {large, main, u"main mv config", goTo<config>},
+
+    {medium, ground, u"home", leaveHost},
+    {medium, ground, u"texture sets", showList},
+    {medium, ground, u"ground", goTo<groundColours>},
+    {large, ground, u"delete ts", deleteGroundSet},
+    {large, ground, u"create ts", createGroundSets},
+    {large, ground, u"activate ts", activateGroundSet},
+    {large, ground, u"install ts", installGroundSet},
+
+    {large, groundColours, u"random advanced", onGroundColours<&frm_GroundColorize::randomGroundValues>},
+    {large, groundColours, u"open texture", onGroundColours<&frm_GroundColorize::openTexture>},
+    {large, groundColours, u"add fav", onGroundColours<&frm_GroundColorize::addFavourite>},
+
+    {large, wxControl, u"selectflight", selectFlight},
+    {large, wxControl, u"wxfinder", findWeather},
+    {large, coverReport, u"process metar string", processReport},
+    {large, wxControl, u"flynow", flyNowKey},
+    {standard, wxControl, u"clearfilter", clearFilter},
+    {large, wxControl, u"wxrefresh", refreshWeatherCycle},
+
+    {large, config, u"mvinstall", installBase},
+    {large, config, u"backup", makeBackup},
+    {large, config, u"restore", bringBackupBack},
+    {large, config, u"update", openUpdatePage},
+    {standard, switcher, u"regupdate", chooseFlightsFolder},
+
+    {medium, sky, u"home", leaveHost},
+    {medium, sky, u"sky texture sets", showList},
+    {medium, sky, u"sky", goTo<skyColours>},
+    {large, sky, u"delete sts", deleteSkySet},
+    {large, sky, u"create sts", createSkySets},
+    {large, sky, u"activate sts", activateSkySet},
+    {large, sky, u"install sts", installSkySet},
+
+    {large, skyColours, u"random sky", onSkyColours<&frm_SkyColorize::randomizeSky>},
+    {large, skyColours, u"open sky", onSkyColours<&frm_SkyColorize::openBaseSkyImage>},
+    {large, skyColours, u"add fav sky", onSkyColours<&frm_SkyColorize::addFavourite>},
+
+    {medium, night, u"home", leaveHost},
+    {medium, night, u"texture sets", showList},
+    {medium, night, u"ground", goTo<nightColours>},
+    {large, night, u"delete ts", deleteNightSet},
+    {large, night, u"activate ts", activateNightSet},
+    {large, night, u"install ts", installNightSet},
+
+    {large, nightColours, u"random night", onNightColours<&frm_NightColorize::randomNightValues>},
+    {large, nightColours, u"open texture", onNightColours<&frm_NightColorize::openTexture>},
+    {large, nightColours, u"add fav", onNightColours<&frm_NightColorize::addFavourite>},
+
+    {standard, anyForm, u"ok", confirmDialog},
+    {standard, anyForm, u"cancel", cancelDialog},
+};
+
+} // namespace
+
+ButtonAction actionOf(ButtonFamily family, const QString& form, const QString& key) {
+    const QString wanted = key.toLower();
+    const auto entry = std::find_if(std::begin(entries), std::end(entries), [&](const Entry& candidate) {
+        return candidate.family == family && QStringView(candidate.key) == wanted &&
+               (candidate.form == anyForm || QStringView(candidate.form) == form);
+    });
+    return entry == std::end(entries) ? nullptr : entry->action;
+}
+
+} // namespace morvane

@@ -1,0 +1,64 @@
+#include "window/first_start.h"
+
+#include "core/literals.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QProgressDialog>
+#include <QTemporaryDir>
+
+namespace morvane {
+
+namespace {
+
+/// Runs the tool to its end, or to the user's cancel or the end of the session, by which it is killed.
+bool runTool(QProcess& tool, QProgressDialog& progress) {
+    QEventLoop loop;
+    QObject::connect(&tool, &QProcess::readyReadStandardOutput, &progress, [&] {
+        while (tool.canReadLine())
+            if (const int percent = tool.readLine().trimmed().toInt())
+                progress.setValue(std::min(percent, 99));
+    });
+    QObject::connect(&tool, &QProcess::finished, &loop, &QEventLoop::quit);
+    QObject::connect(&tool, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
+    QObject::connect(&progress, &QProgressDialog::canceled, &tool, &QProcess::kill);
+    if (progress.wasCanceled()) tool.kill(); // before anybody listened
+    if (tool.state() != QProcess::NotRunning) loop.exec();
+    if (tool.state() != QProcess::NotRunning) progress.cancel(); // the loop was left before its end
+    return tool.error() == QProcess::UnknownError && tool.exitStatus() == QProcess::NormalExit &&
+           tool.exitCode() == 0;
+}
+
+} // namespace
+
+bool makeInstallFolder(const QString& home) {
+    QDir().mkpath(QFileInfo(home).path());
+    QTemporaryDir folder(home + u".XXXXXX"_s);
+    QProgressDialog progress(u"Morvane is started for the first time and draws its base images into\n"_s +
+                                 home,
+                             u"Cancel"_s, 0, 100);
+    progress.setWindowTitle(u"Morvane"_s);
+    progress.setMinimumDuration(0);
+    progress.setAutoClose(false);
+    progress.setValue(0);
+    QProcess tool;
+    tool.start(QCoreApplication::applicationDirPath() + u"/morvane-content"_s,
+               {u"--home"_s, folder.path(), u"--progress"_s});
+    const bool isMade = runTool(tool, progress);
+    if (isMade && !progress.wasCanceled() && QDir().rename(folder.path(), home)) {
+        folder.setAutoRemove(false);
+        return true;
+    }
+    if (progress.wasCanceled()) return false;
+    progress.hide();
+    QMessageBox::critical(nullptr, u"Morvane"_s,
+                          u"The install folder could not be made: "_s + home + u'\n' +
+                              QString::fromLocal8Bit(tool.readAllStandardError()) + tool.errorString());
+    return false;
+}
+
+} // namespace morvane

@@ -1,0 +1,77 @@
+#include "core/clock.h"
+#include "core/file_system.h"
+#include "core/install_folder.h"
+#include "core/registry.h"
+#include "core/session.h"
+#include "imaging/program_font.h"
+#include "ui/controls/paper_style.h"
+#include "ui/skin.h"
+#include "window/end_requests.h"
+#include "window/first_start.h"
+#include "window/program.h"
+#include "window/screen_scale.h"
+#include "window/single_window.h"
+#include "window/window_line.h"
+#include "window/window_shell.h"
+#include "window/window_user.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <cstdio>
+
+using namespace morvane;
+
+namespace {
+
+constexpr int wrongUsage = 2;
+
+/// Help needs no display, so it is looked for before the application that does. What that one takes for
+/// itself, as "-platform NAME", is no slip yet.
+bool showsHelp(int argc, char** argv) {
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words << QString::fromLocal8Bit(argv[i]);
+    const QString text = readWindowLine(words).output;
+    std::fputs(qPrintable(text), stdout);
+    return !text.isEmpty();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication::setApplicationName(u"Morvane"_s);
+    QApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
+    if (showsHelp(argc, argv)) return 0;
+    fitScaleToScreen(argc, argv);
+    QApplication application(argc, argv);
+    const WindowLine line = readWindowLine(QApplication::arguments().mid(1));
+    if (!line.slip.isEmpty()) {
+        std::fputs(qPrintable(u"morvane: "_s + line.slip + u'\n'), stderr);
+        return wrongUsage;
+    }
+    // Windows come and go as pages do; only the exit flow ends the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+    loadProgramFont();
+    applyPaperStyle(application);
+
+    const QString home = line.home.isEmpty() ? defaultInstallFolder() : line.home;
+    const bool isFirstStart = home == userInstallFolder() && !QFileInfo::exists(home);
+    EndRequests requests;
+    if (isFirstStart && !makeInstallFolder(home)) return requests.hasEnded() ? 0 : 1;
+    const FilePath folder(QFileInfo(home).absoluteFilePath());
+    SingleWindow window(folder);
+    if (line.coverCode.isEmpty() && !window.take()) return 0;
+    NativeFileSystem files;
+    SystemClock clock;
+    ReseedingRandomSource random;
+    WindowUser user;
+    const auto registry = openRegistry(files, folder);
+    Session session({user, files, clock, random, *registry}, folder);
+    Skin skin(files, folder / u"Media");
+    QApplication::setWindowIcon(skin.picture(u"morvane.png"_s));
+    WindowShell shell(session, skin);
+    user.setShell(&shell);
+    window.serve(shell);
+    requests.handTo(shell);
+    return runProgram(shell, line.coverCode);
+}

@@ -1,0 +1,68 @@
+#include "window/main_screen.h"
+
+#include "core/literals.h"
+#include "ui/controls/foot_line.h"
+#include "ui/shell.h"
+#include "ui/window_keys.h"
+
+#include <QCloseEvent>
+
+namespace morvane {
+
+namespace {
+
+constexpr int keyRow = 397;
+
+const std::vector<ButtonSetup>& pageKeys() {
+    static const std::vector<ButtonSetup> keys{{ButtonFamily::LargeButton,
+                                                u"btn_GroundInstall"_s,
+                                                u"main ground install"_s,
+                                                u"btn_Create"_s,
+                                                u"Click to create new Ground Texture Sets."_s,
+                                                {96, keyRow},
+                                                u"Create\nGround Sets"_s},
+                                               {ButtonFamily::LargeButton,
+                                                u"btn_SkyInstall"_s,
+                                                u"main sky install"_s,
+                                                u"btn_Create"_s,
+                                                u"Click to create new Sky Texture Sets."_s,
+                                                {234, keyRow},
+                                                u"Create\nSky Sets"_s},
+                                               {ButtonFamily::LargeButton,
+                                                u"btn_MVConfig"_s,
+                                                u"main mv config"_s,
+                                                u"btn_Install"_s,
+                                                u"Click to goto Main Config Screen."_s,
+                                                {372, keyRow},
+                                                u"Base Install"_s}};
+    return keys;
+}
+
+} // namespace
+
+frm_Main::frm_Main(Shell& shell)
+    : ShapedForm(shell, u"frm_Main"_s, mainLook), status_(new StatusPanel(*this)) {
+    status_->move(pagePlace.topLeft());
+    for (const ButtonSetup& key : mainWindowKeys())
+        addButton(key);
+    for (const ButtonSetup& key : pageKeys())
+        addButton(key, status_);
+    new FootLine(this);
+    setFirstFocus(button(pageKeys().front().name));
+    focusFirst();
+}
+
+void frm_Main::formatMainScreen() {
+    markWindowKey(*this, u"home"_s);
+    status_->setTitle(u"icon_MVHome.bmp"_s, u"Welcome To Morvane"_s);
+    for (const ButtonSetup& key : pageKeys())
+        button(key.name)->setState(ButtonState::enabled);
+    refreshMainStatus();
+}
+
+void frm_Main::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    shell().exitProgram();
+}
+
+} // namespace morvane

@@ -1,0 +1,43 @@
+#include "window/message_sounds.h"
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+
+#include <mmsystem.h>
+#endif
+
+namespace morvane {
+
+#ifdef Q_OS_WIN
+
+namespace {
+
+const wchar_t* soundAlias(MessageKind kind) {
+    switch (kind) {
+    case MessageKind::information:
+        return L"SystemNotification";
+    case MessageKind::exclamation:
+        return L"SystemExclamation";
+    case MessageKind::error: // the system's word for the sound of an error
+        return L"SystemAsterisk";
+    case MessageKind::question:
+        return L"SystemQuestion";
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+void playMessageSound(MessageKind kind) {
+    if (const wchar_t* alias = soundAlias(kind))
+        PlaySoundW(alias, nullptr, SND_ALIAS | SND_ASYNC | SND_NODEFAULT);
+}
+
+#else
+
+void playMessageSound(MessageKind) {}
+
+#endif
+
+} // namespace morvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "core/install_lock.h"
+
+#include <QLocalServer>
+
+namespace morvane {
+
+class WindowShell;
+
+/// Keeps an install to one window program at a time: a second one brings the first to the front.
+class SingleWindow {
+public:
+    explicit SingleWindow(const FilePath& installFolder);
+
+    /// False when another process has the windows open; it was told to show them, and this one is to end.
+    bool take();
+    /// From now on the calls of later ones reach this shell.
+    void serve(WindowShell& shell);
+
+private:
+    bool callOther() const;
+
+    InstallLock lock_;
+    QString name_; ///< by which the one calls the other, the same for every spelling of the folder
+    QLocalServer server_;
+};
+
+} // namespace morvane

@@ -1,0 +1,152 @@
+#include "window/window_user.h"
+
+#include "core/session.h"
+#include "core/writing.h"
+#include "ui/controls/foot_line.h"
+#include "ui/dialog_form.h"
+#include "ui/host_form.h"
+#include "window/message_screen.h"
+#include "window/splash_screen.h"
+#include "window/window_shell.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include <cstdio>
+
+namespace morvane {
+
+namespace {
+
+QMessageBox::StandardButtons boxButtons(SystemBoxButtons buttons) {
+    switch (buttons) {
+    case SystemBoxButtons::okCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case SystemBoxButtons::yesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case SystemBoxButtons::ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+/// Who starts an unattended run may read there how it went.
+void writeOnStandardError(const Message& message) {
+    if (message.kind == MessageKind::progress || message.kind == MessageKind::question) return;
+    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(message.title), qUtf8Printable(message.text));
+}
+
+} // namespace
+
+frm_Msg& WindowUser::messageForm() const {
+    return shell_->screen<frm_Msg>(u"frm_Msg"_s);
+}
+
+QWidget* WindowUser::boxParent() const {
+    if (!shell_) return nullptr;
+    return isMessageVisible() ? shell_->loadedForm(u"frm_Msg"_s) : shell_->messageAnchor();
+}
+
+bool WindowUser::isSilent() const {
+    return shell_ && shell_->session().ExitInProgress.isSilent();
+}
+
+void WindowUser::showMessage(const Message& message) {
+    if (shell_->session().writing->isUnattended) writeOnStandardError(message);
+    if (!isSilent())
+        messageForm().showMessage(message);
+    else if (!message.isProgress)
+        answers().answer(false);
+}
+
+/// While the program starts the splash has the bar.
+void WindowUser::updateProgress(const QString& title, const QString& text, double value) {
+    if (shell_->session().StartingUp)
+        shell_->screen<frm_Splash>(u"frm_Splash"_s).showStep(text, value);
+    else
+        messageForm().updateProgress(title, text, value);
+    pumpMessages();
+}
+
+void WindowUser::setProgressFile(const QString& line) {
+    messageForm().setProgressFile(line);
+}
+
+void WindowUser::hideMessage() {
+    if (isMessageVisible()) messageForm().hide();
+}
+
+/// Which window will be shown once the job has ended is the job's to know, and the next click or key takes
+/// the line from all of them.
+void WindowUser::tellDone(const DoneLine& line) {
+    for (const QString& name : windowNames)
+        if (const Form* window = shell_->loadedForm(name)) window->findChild<FootLine*>()->tellDone(line);
+}
+
+bool WindowUser::allowsRun(const RunSize& run) {
+    const QString title = u"Morvane Information"_s;
+    if (!run.fits())
+        showMessage({MessageKind::exclamation, title, run.refusal()});
+    else if (run.isQuestionWanted)
+        return ask(Question::largeRun, title, run.summary());
+    return run.fits();
+}
+
+bool WindowUser::isMessageVisible() const {
+    const Form* form = shell_ ? shell_->loadedForm(u"frm_Msg"_s) : nullptr;
+    return form && form->isVisible();
+}
+
+bool WindowUser::systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) {
+    if (isSilent()) return false;
+    QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? u"Morvane"_s : title, text, boxButtons(buttons),
+                    boxParent());
+    const int answer = box.exec();
+    return answer == QMessageBox::Ok || answer == QMessageBox::Yes;
+}
+
+QString WindowUser::browseForFolder(const QString& startFolder) {
+    if (isSilent()) return {};
+    return QFileDialog::getExistingDirectory(boxParent(), u"Please select a folder..."_s, startFolder);
+}
+
+void WindowUser::showModal(Screen screen) {
+    if (auto* dialog = qobject_cast<DialogForm*>(shell_->form(screenName(screen)))) dialog->run();
+}
+
+/// A list window shows its list: a colour page that stands before it goes.
+void WindowUser::showScreen(Screen screen) {
+    Form* form = shell_->form(screenName(screen));
+    if (!form) return;
+    if (const auto* host = qobject_cast<HostForm*>(form)) {
+        shell_->hideChildScreen(host->colourPage());
+        shell_->CurrentChildScreen.clear();
+    }
+    form->show();
+}
+
+void WindowUser::hideScreen(Screen screen) {
+    if (Form* form = shell_->loadedForm(screenName(screen))) form->hide();
+}
+
+/// A screen that nobody has opened has nothing to refresh; it is filled when it is opened.
+void WindowUser::refreshScreen(Screen screen) {
+    Form* form = shell_->loadedForm(screenName(screen));
+    if (screen == Screen::frm_Main && form)
+        shell_->refreshMainStatus();
+    else if (auto* host = qobject_cast<HostForm*>(form))
+        host->formatList();
+    else if (auto* page = qobject_cast<PageForm*>(form))
+        page->refresh();
+}
+
+void WindowUser::minimiseProgram() {
+    shell_->minimiseProgram();
+}
+
+void WindowUser::pumpMessages() {
+    QCoreApplication::processEvents();
+}
+
+} // namespace morvane

@@ -1,0 +1,113 @@
+#include "app/exit_flow.h"
+#include "core/store_connection.h"
+#include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
+#include "sets/options_in_force.h"
+#include "sky/sky_installation.h"
+#include "sky/sky_selection.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::SmallInstall;
+
+struct ExitQuestion : testing::Test {
+    SmallInstall install;
+    Session& session = install.session;
+
+    void put(const QString& name) {
+        session.state<GroundSelection>().SelectedGroundSet = name;
+        GroundInstallation(session).installTextureSet(true);
+        install.user.messages.clear();
+    }
+};
+
+TEST_F(ExitQuestion, comesForASetOfAWeatherAndPutsDefaultBack) {
+    install.addGroundSet("2-Storm", "Overcast", true);
+    put("2-Storm");
+    checkResetTextures(session);
+    EXPECT_EQ(install.user.told(),
+              QStringList(
+                  {"Question|Reset MV Textures?|Morvane has detected that you have 'Overcast' Ground Texture "
+                   "Set installed. Please select the check button if you wish to reset Morvane textures to a "
+                   "nominal weather condition of Partly Cloudy before exiting."}));
+    EXPECT_TRUE(install.user.messages.front().offersFastExit);
+    EXPECT_EQ(install.installedSets(), QStringList({"Default"}));
+}
+
+TEST_F(ExitQuestion, namesWhatStandsThereAndResetsThatOnly) {
+    install.addGroundSet("2-Storm", "Overcast", true);
+    install.addSkySet("Default", "Partly Cloudy", true);
+    install.addSkySet("2-Calm", "Sky Clear", true);
+    const QString start = "Question|Reset MV Textures?|Morvane has detected that you have ";
+    const QString end = " Sky Texture Set installed. Please select the check button if you wish to reset "
+                        "Morvane textures to a nominal weather condition of Partly Cloudy before exiting.";
+    const std::pair<QString, QString> cases[] = {
+        {"Default", "'Sky Clear'"}, {"2-Storm", "'Overcast' Ground Texture Set installed and 'Sky Clear'"}};
+    for (const auto& [ground, text] : cases) {
+        put(ground);
+        session.state<SkySelection>().SelectedSkySet = "2-Calm";
+        SkyInstallation(session).installSkySet(true);
+        install.user.messages.clear();
+        install.user.calls.clear();
+        checkResetTextures(session);
+        EXPECT_EQ(install.user.told(), QStringList{start + text + end});
+        EXPECT_EQ(install.installedSets(), QStringList{"Default"});
+        EXPECT_EQ(install.installedSkySets(), QStringList{"Default"});
+        const qsizetype grounds = install.user.calls.filter("ground textures").size();
+        EXPECT_EQ(grounds, ground == "Default" ? 0 : 1) << "a ground that needs no reset is left alone";
+    }
+    put("2-Storm");
+    install.user.calls.clear();
+    checkResetTextures(session);
+    EXPECT_EQ(install.user.calls.filter("sky textures").size(), 0);
+}
+
+TEST_F(ExitQuestion, aNoKeepsTheSet) {
+    install.addGroundSet("2-Storm", "Overcast", true);
+    put("2-Storm");
+    install.user.otherwise = false;
+    checkResetTextures(session);
+    EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
+}
+
+TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndResetsNothing) {
+    const QStringList files{"Texture\\a.bmp", "Texture\\b.bmp", "Texture\\c.bmp", "Texture\\d.bmp"};
+    install.addGroundSet("2-Storm", "Overcast", true, files);
+    session.state<OptionsInForce>().InhibitCustomSplash = true;
+    const auto placed = [this] {
+        return session.files.list(session.FSPath / u"Scenery\\World\\texture", u"?.bmp"_s);
+    };
+    install.user.onPump = [&] {
+        if (placed().size() == 2) session.ExitInProgress.moveTo(ExitStage::sessionEnd);
+    };
+    put("2-Storm");
+    EXPECT_EQ(placed(), QStringList({"a.bmp", "b.bmp"}));
+    exitProgram(session);
+    EXPECT_EQ(install.user.told(), QStringList{});
+    EXPECT_EQ(session.adoConn, nullptr);
+    connectDatabase(session);
+    EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
+}
+
+TEST_F(ExitQuestion, isNotAskedWithoutNeed) {
+    checkResetTextures(session); // nothing installed
+    put("Default");
+    checkResetTextures(session);
+    install.addGroundSet("2-Storm", "Overcast", true);
+    put("2-Storm");
+    session.state<OptionsInForce>().IsFastExit = true;
+    checkResetTextures(session);
+    session.state<OptionsInForce>().IsFastExit = false;
+    session.CommandLineRun = true;
+    exitProgram(session);
+    EXPECT_TRUE(install.user.told().isEmpty());
+}
+
+} // namespace
+} // namespace morvane

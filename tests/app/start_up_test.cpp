@@ -1,0 +1,152 @@
+#include "app/command_line_run.h"
+#include "app/exit_flow.h"
+#include "app/start_up.h"
+#include "core/store_connection.h"
+#include "weather/cover_choice.h"
+
+#include "core/store.h"
+#include "ground/ground_sets.h"
+#include "sets/options_in_force.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::SmallInstall;
+using test::writeFile;
+
+/// A complete install whose first session is over; the tests start the next one.
+struct ApplicationTest : testing::Test {
+    SmallInstall install;
+    test::ScriptedUser& user = install.user;
+    Session session{{user, install.files, install.clock, install.random, install.registry}, install.home()};
+
+    void SetUp() override {
+        closeDatabase(install.session);
+        user.calls.clear();
+    }
+};
+
+const QString firstBox = u"box Your registry does not contain the proper path to FS9.EXE. Please browse to "
+                         u"your main Flight Simulator 2004 folder (it needs to contain FS9.EXE)."_s;
+const QString retryBox =
+    u"box The folder path you selected does not contain FS9.EXE. Please verify your FS2004 path and try "
+    u"again. You can do this by right-clicking your shortcut to Flight Simulator, and select Properties. You "
+    u"will see the folder listed. Would you like to try to locate the folder again? If you select no, we "
+    u"will exit."_s;
+
+TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
+    install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s,
+                                  install.simulator().native() + u'\\');
+    install.files.removeFolder(install.home() / u"Backup");
+    Store store;
+    store.open(install.home() / u"Morvane.mdb");
+    store.execute(u"UPDATE TEXTURE_SWITCH SET ISTROPICAL = TRUE, ISFASTEXIT = TRUE"_s);
+    store.close();
+    ASSERT_TRUE(startUp(session));
+    EXPECT_EQ(session.FSPath.native(), install.simulator().native());
+    EXPECT_TRUE(session.adoConn->isOpen());
+    EXPECT_TRUE(install.files.isFolder(session.BackupPath));
+    EXPECT_FALSE(session.state<OptionsInForce>().IsWideClient || session.state<OptionsInForce>().IsDutch ||
+                 session.state<OptionsInForce>().IsHalo);
+    EXPECT_TRUE(session.state<OptionsInForce>().IsTropical && session.state<OptionsInForce>().IsFastExit);
+    EXPECT_TRUE(user.calls.isEmpty());
+}
+
+TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
+    install.files.remove(install.home() / u"registry.ini");
+    const QString right = install.simulator().native();
+    user.foldersToChoose = {install.home().native(), {}, right}; // a wrong one, a cancelled browser
+    user.answersToGive = {true, true, false};                    // again, again, and no WideFS client
+    ASSERT_TRUE(startUp(session));
+    EXPECT_EQ(user.calls.mid(0, 6),
+              QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s}));
+    EXPECT_EQ(session.FSPath.native(), right);
+    EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
+}
+
+TEST_F(ApplicationTest, whoGivesUpLeavesNothingBehind) {
+    install.files.remove(install.simulator() / u"fs9.exe");
+    const auto before = test::contentsBelow(install.home());
+    user.foldersToChoose = {install.home().native()};
+    user.otherwise = false;
+    EXPECT_FALSE(startUp(session));
+    EXPECT_EQ(user.calls, QStringList({firstBox, u"browse"_s, retryBox}));
+    EXPECT_EQ(session.adoConn, nullptr);
+    EXPECT_EQ(test::contentsBelow(install.home()), before);
+}
+
+TEST_F(ApplicationTest, refusesAFolderThatIsNotThereAndSaysWhatToDo) {
+    Session lost{{user, install.files, install.clock, install.random, install.registry},
+                 install.folder / u"Nowhere"};
+    EXPECT_FALSE(startUp(lost));
+    ASSERT_EQ(user.calls.size(), 1);
+    EXPECT_TRUE(user.calls[0].contains(u"does not exist"_s) && user.calls[0].contains(u"MORVANE_HOME"_s));
+    EXPECT_FALSE(install.files.exists(install.folder / u"Nowhere")) << "nothing is made";
+}
+
+TEST_F(ApplicationTest, goesOnWithoutAStoreAndEachLoadTellsForItself) {
+    install.files.remove(install.home() / u"Morvane.mdb");
+    EXPECT_TRUE(startUp(session));
+    const QStringList boxes = user.calls.filter(u"box "_s);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_TRUE(boxes[0].contains(u"file not found"_s) && !boxes[0].contains(u'\n')) << qPrintable(boxes[0]);
+    const int told = user.countOfKind(MessageKind::error);
+    EXPECT_FALSE(refreshGroundSets(session));
+    EXPECT_EQ(user.countOfKind(MessageKind::error), told + 1);
+}
+
+TEST_F(ApplicationTest, aFailingStepIsToldAndEndsTheStart) {
+    install.files.removeFolder(install.home() / u"Backup");
+    writeFile(install.home() / u"Backup", "a file in the folder's place");
+    EXPECT_FALSE(startUp(session));
+    ASSERT_EQ(user.told().size(), 1);
+    EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|Morvane Error!|Sub Main\n"_s));
+    EXPECT_TRUE(user.messages[0].withCancel);
+}
+
+TEST_F(ApplicationTest, theCommandLineTakesTheFiveCodesExactly) {
+    ASSERT_TRUE(startUp(session));
+    session.CommandLineRun = true;
+    user.otherwise = false;
+    const QStringList words = u"|CLR|FEW|SCT|BKN|OVC|ovc| OVC|SKC"_s.split(u'|');
+    for (qsizetype number = 1; number < words.size(); ++number) {
+        session.state<FlightWeather>().WxCloudList = QStringList{u"1"_s, u"2"_s};
+        runCommandLine(session, words[number]);
+        const QStringList clouds = number <= 5 ? QStringList{QString::number(number)} : QStringList{};
+        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, clouds) << qPrintable(words[number]);
+        EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList(clouds.size(), QString()));
+    }
+    EXPECT_TRUE(user.messages.front().text.endsWith(u"obtained from Active Sky?"_s));
+}
+
+TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
+    const std::pair<QStringList, QStringList> cases[] = {
+        {{}, {}},
+        {{u"02Z.TXT"_s, u"Export_Cycle.dat"_s, u"noending"_s}, {}},
+        {{u"Export_Cycle.dat"_s}, {u"Export_Cycle.dat"_s}},
+    };
+    for (const auto& [names, left] : cases) {
+        ASSERT_TRUE(startUp(session));
+        for (const QString& name : names)
+            writeFile(install.home() / u"METAR" / name, "EHAM");
+        exitProgram(session);
+        EXPECT_EQ(test::contentsBelow(install.home() / u"METAR").keys(), left);
+        EXPECT_EQ(session.adoConn, nullptr);
+    }
+}
+
+TEST_F(ApplicationTest, aCycleThatCannotBeRemovedDoesNotKeepTheStoreOpen) {
+    ASSERT_TRUE(startUp(session));
+    writeFile(install.home() / u"METAR\\02Z.txt", "EHAM");
+    install.files.failAt(3, true); // behind the two listings
+    exitProgram(session);
+    EXPECT_EQ(user.countOfKind(MessageKind::error), 1);
+    EXPECT_EQ(session.adoConn, nullptr);
+}
+
+} // namespace
+} // namespace morvane

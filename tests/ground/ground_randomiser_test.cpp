@@ -1,0 +1,101 @@
+#include "ground/ground_randomiser.h"
+#include "sets/no_repeat.h"
+#include "sets/slider_values.h"
+#include "support/printing.h"
+#include "support/scripted_services.h"
+#include "support/scripted_user.h"
+#include "support/small_install.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::ScriptedRandom;
+using test::ScriptedUser;
+
+struct Draws : testing::Test {
+    ScriptedUser user;
+    ScriptedRandom random;
+    clsNoRepeat draws{user, random};
+
+    int one(int low, int high, double fraction) {
+        random.numbers = {fraction};
+        return draws.Non_Repeating_Numbers(1, high, low)->front();
+    }
+};
+
+constexpr double nearlyOne = 0.99999999999999989;
+
+TEST_F(Draws, stayBelowTheUpperBoundWhateverTheFloatWidth) {
+    EXPECT_EQ(one(-22, -10, 0), -22);
+    EXPECT_EQ(one(-22, -10, nearlyOne), -11);
+    EXPECT_EQ(one(0, 1, nearlyOne), 0);
+    EXPECT_EQ(one(0, 32767, nearlyOne), 32766);
+}
+
+TEST_F(Draws, theFifthOfFiveRoundsStands) {
+    random.numbers = {0.1, 0.2, 0.3, 0.4, 0.95};
+    EXPECT_EQ(draws.Non_Repeating_Numbers(1, 10, 0)->front(), 9);
+    EXPECT_EQ(random.draws, 5);
+}
+
+TEST_F(Draws, boundsOutOfOrderAreTold) {
+    EXPECT_FALSE(draws.Non_Repeating_Numbers(1, 3, 3));
+    EXPECT_FALSE(draws.Non_Repeating_Numbers(-100, 3, 0));
+    EXPECT_EQ(
+        user.told(),
+        QStringList({"Error|Morvane Error|The lowest possible number is greater than or equal to the maximum "
+                     "value.",
+                     "Error|Morvane Error|Cannot process values less than - minus one hundred."}));
+}
+
+// Nothing asks for more than one number; what comes then is kept as it always was.
+TEST_F(Draws, moreThanOneNumber) {
+    random.numbers = {0.3, 0.9, 0.1, 0.7, 0.5, 0.2};
+    EXPECT_EQ(*draws.Non_Repeating_Numbers(3, 9, 2), std::vector<int>({2, 2, 2}));
+    const std::vector<int> thirty = *draws.Non_Repeating_Numbers(30, 40, -10, true);
+    EXPECT_EQ(thirty.size(), 30u);
+    EXPECT_TRUE(std::is_sorted(thirty.begin(), thirty.end(), std::less_equal<>())) << "none comes twice";
+    EXPECT_TRUE(thirty.front() >= -10 && thirty.back() <= 40);
+    for (std::vector<int> few : {std::vector<int>{}, {1}, {1, 2}, {1, 2, 3}}) { // no draw can hang on these
+        draws.Mix_The_Numbers(few);
+        EXPECT_LE(few.size(), 3u);
+    }
+}
+
+TEST(GroundRandomiser, drawsEachFieldInItsRange) {
+    // The cloud number, and the lowest and highest: saturation, red, green, blue, brightness, contrast.
+    const std::tuple<int, SliderValues, SliderValues> cases[] = {
+        {1, {0, 0, 0, 0, 10, 0}, {0, 9, 4, 0, 49, 29}},
+        {2, {0, 0, 0, 0, 0, -5}, {0, 9, 0, 0, 19, 14}},
+        {3, {0, -10, 0, -5, -5, -5}, {0, -1, 0, 4, 4, 4}},
+        {4, {0, -15, 0, 0, -5, -10}, {0, -6, 0, 24, 4, 4}},
+        {5, {0, -22, 0, 20, -10, -10}, {0, -11, 0, 49, -1, -1}},
+        {6, {}, {}},
+    };
+    test::SmallInstall install;
+    for (const auto& [cloudNumber, lowest, highest] : cases)
+        for (const double fraction : {0.0, nearlyOne}) {
+            SliderValues values{};
+            install.random.numbers = {fraction};
+            getRandomGroundValues(install.session, cloudNumber, values);
+            EXPECT_EQ(values, fraction == 0 ? lowest : highest) << cloudNumber;
+        }
+}
+
+TEST(GroundRandomiser, realSourceGivesEachFieldAFractionOfItsOwn) {
+    ReseedingRandomSource source;
+    std::vector<double> drawn;
+    for (int i = 0; i < 1000; ++i)
+        drawn.push_back(source.draw());
+    std::sort(drawn.begin(), drawn.end());
+    EXPECT_EQ(std::unique(drawn.begin(), drawn.end()), drawn.end());
+    EXPECT_LT(drawn.front(), 0.05);
+    EXPECT_GT(drawn.back(), 0.95);
+    EXPECT_LT(drawn.back(), 1);
+}
+
+} // namespace
+} // namespace morvane

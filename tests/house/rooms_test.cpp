@@ -1,0 +1,163 @@
+#include "core/literals.h"
+#include "support/printing.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QHash>
+#include <QRegularExpression>
+#include <QSet>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+const QString root = QStringLiteral(MORVANE_SOURCE_DIR) + u'/';
+
+QStringList linesOf(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+struct Room {
+    QString name, holds;
+    QStringList below; ///< the rooms that it stands on; what those stand on is below it, too
+};
+
+/// A row of the table: name, rooms below, what it holds.
+std::vector<Room> readRooms(const QStringList& lines) {
+    std::vector<Room> rooms;
+    for (const QString& line : lines.sliced(1)) {
+        const QStringList fields = line.split(u'\t');
+        EXPECT_EQ(fields.size(), 3) << line.toStdString();
+        rooms.push_back({fields[0], fields[2], fields[1].split(u' ', Qt::SkipEmptyParts)});
+    }
+    return rooms;
+}
+
+class House {
+public:
+    explicit House(const std::vector<Room>& rooms) : rooms_(rooms) {
+        for (const Room& room : rooms) {
+            QSet<QString>& reached = reached_[room.name] = {room.name};
+            for (const QString& below : room.below) {
+                EXPECT_TRUE(reached_.contains(below)) << room.name.toStdString() << " stands above its row";
+                reached |= reached_[below];
+            }
+        }
+    }
+
+    /// The innermost room that the file lies in; empty for none. `path` is below "src", or of the tools.
+    QString roomOf(const QString& path) const {
+        QString found;
+        for (const Room& room : rooms_)
+            if (path.startsWith(room.name + u'/') && room.name.size() > found.size()) found = room.name;
+        return found;
+    }
+    bool mayInclude(const QString& path, const QString& included) const {
+        return reached_.value(roomOf(path)).contains(roomOf(included));
+    }
+
+private:
+    std::vector<Room> rooms_;
+    QHash<QString, QSet<QString>> reached_;
+};
+
+const std::vector<Room>& rooms() {
+    static const std::vector<Room> table = readRooms(linesOf(root + u"docs/rooms.tsv"_s));
+    return table;
+}
+
+QStringList sourceFiles() {
+    QStringList files;
+    for (const QString& folder : {u"src"_s, u"tools"_s}) {
+        QDirIterator entry(root + folder, {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (entry.hasNext())
+            files << entry.next().mid(root.size());
+    }
+    files.sort();
+    return files;
+}
+
+/// As the table knows it: from "src" on.
+QString inHouse(QString file) {
+    return file.startsWith(u"src/") ? file.mid(4) : file;
+}
+
+/// The tools include what lies beside them by its bare name.
+QString includedFile(const QString& file, const QString& name) {
+    const QString beside = file.section(u'/', 0, -2) + u'/' + name;
+    if (!name.contains(u'/')) return QFile::exists(root + beside) ? inHouse(beside) : u"tools/"_s + name;
+    return name;
+}
+
+TEST(Rooms, anIncludePointsDown) {
+    const House house(readRooms({u"room\ton\tholds"_s, u"core\t\t"_s, u"ground\tcore\t"_s, u"sky\tcore\t"_s,
+                                 u"ui\tcore\t"_s, u"sky/screens\tsky ui\t"_s}));
+    const struct {
+        QString file, included;
+        bool isAllowed;
+    } cases[] = {
+        {u"ground/a.cpp"_s, u"core/b.h"_s, true},      {u"ground/a.cpp"_s, u"ground/b.h"_s, true},
+        {u"core/a.cpp"_s, u"ground/b.h"_s, false},     {u"ground/a.cpp"_s, u"sky/b.h"_s, false},
+        {u"sky/screens/a.cpp"_s, u"sky/b.h"_s, true},  {u"sky/screens/a.cpp"_s, u"core/b.h"_s, true},
+        {u"sky/a.cpp"_s, u"sky/screens/b.h"_s, false}, {u"sky/screens/a.cpp"_s, u"ground/b.h"_s, false},
+        {u"attic/a.cpp"_s, u"core/b.h"_s, false},      {u"core/a.cpp"_s, u"attic/b.h"_s, false},
+    };
+    for (const auto& [file, included, isAllowed] : cases)
+        EXPECT_EQ(house.mayInclude(file, included), isAllowed)
+            << file.toStdString() << ' ' << included.toStdString();
+}
+
+TEST(Rooms, everyFileKeepsToTheRoomsBelow) {
+    static const QRegularExpression include(u"^\\s*#\\s*include\\s+\"([^\"]+)\""_s);
+    const House house(rooms());
+    QStringList offending;
+    int includes = 0;
+    for (const QString& file : sourceFiles()) {
+        if (house.roomOf(inHouse(file)).isEmpty()) offending << file + u": lies in no room"_s;
+        QFile source(root + file);
+        ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+        for (int number = 1; !source.atEnd(); ++number) {
+            const QString line = QString::fromUtf8(source.readLine()).trimmed();
+            const QRegularExpressionMatch match = include.match(line);
+            if (!match.hasMatch()) continue;
+            ++includes;
+            if (!house.mayInclude(inHouse(file), includedFile(file, match.captured(1))))
+                offending << file + u':' + QString::number(number) + u": "_s + line;
+        }
+    }
+    EXPECT_EQ(offending, QStringList());
+    EXPECT_GT(includes, 1000) << "the files were not read";
+}
+
+/// As Mermaid draws it: an arrow from each room to those that it stands on.
+QString picture() {
+    const auto idOf = [](QString name) { return name.replace(u'/', u'_'); };
+    QStringList lines{u"graph BT"_s};
+    for (const Room& room : rooms())
+        lines << u"    %1[\"%2\"]"_s.arg(idOf(room.name), room.name);
+    for (const Room& room : rooms())
+        for (const QString& below : room.below)
+            lines << u"    %1 --> %2"_s.arg(idOf(room.name), idOf(below));
+    return lines.join(u'\n');
+}
+
+QString table() {
+    QStringList lines;
+    for (const Room& room : rooms())
+        lines << u"| `%1` | %2 |"_s.arg(room.name, room.holds);
+    return lines.join(u'\n');
+}
+
+TEST(Rooms, thePlanInTheDocumentIsThatOfTheTable) {
+    QFile file(root + u"docs/architecture.md"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString document = QString::fromUtf8(file.readAll());
+    for (const QString& part : {picture(), table()})
+        EXPECT_TRUE(document.contains(u'\n' + part + u'\n')) << "docs/architecture.md is to have this part:\n"
+                                                             << part.toStdString();
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,444 @@
+#include "sets/originals.h"
+
+#include "core/safe_copy.h"
+#include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
+#include "support/printing.h"
+#include "support/raised_error.h"
+#include "support/small_install.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::contentsBelow;
+using test::readFile;
+using test::writeFile;
+
+const QString a = u"Texture\\a.bmp"_s;
+
+struct OriginalsTest : testing::Test {
+    test::TemporaryFolder folder;
+    NativeFileSystem files;
+    /// The root of every path, as a session has it: what is kept is named below it.
+    FilePath simulator{(folder / u"Simulator Ünï").native()};
+    const FilePath app{(folder / u"Morvane").native()};
+    const FilePath keptFiles = app / u"Backup\\Originals";
+    const FilePath listFile = keptFiles / u"originals.lst";
+    const QDate today{2006, 11, 22};
+
+    Originals originals() { return {files, simulator, app, today}; }
+    FilePath target(const QString& path) const { return simulator / path; }
+
+    /// Puts `contents` under each of the paths as an install does; unfinished as a kill before its end
+    /// leaves it.
+    void install(const QByteArray& contents, const QStringList& paths, bool finished = true) {
+        const FilePath source = app / u"ours.bmp";
+        writeFile(source, contents);
+        std::vector<FileCopy> copies;
+        for (const QString& path : paths)
+            copies.push_back({source, target(path)});
+        Originals kept = originals();
+        kept.prepare(copies);
+        for (const FileCopy& copy : copies) {
+            const FilePath place = kept.place(copy);
+            replaceFile(files, copy.source, place);
+            kept.notePlaced(copy, place);
+        }
+        if (finished) kept.settle();
+    }
+    /// "path number" of every kept file.
+    QStringList keptPaths() {
+        QStringList paths;
+        for (const KeptOriginal& original : originals().list())
+            paths << original.path + u" %1"_s.arg(original.number);
+        return paths;
+    }
+    QByteArray contents(const QString& path) { return files.readIfThere(target(path)).value_or("none"); }
+};
+
+TEST_F(OriginalsTest, aFileIsKeptOnceWithAllThatIsKnownOfIt) {
+    writeFile(target(a), "abc");
+    files.setMode(target(a), 0640);
+    install("ours, the first", {a});
+    install("ours, the second", {a});
+    const auto list = originals().list();
+    ASSERT_EQ(list.size(), 1u);
+    EXPECT_EQ(list[0].path, a);
+    EXPECT_EQ(list[0].size, 3);
+    EXPECT_EQ(list[0].checksum, u"a9993e364706816aba3e25717850c26c9cd0d89d"_s);
+    EXPECT_EQ(list[0].day, today);
+    EXPECT_EQ(list[0].mode, 0640u);
+    EXPECT_EQ(readFile(keptFiles / list[0].copy), "abc");
+    // What stands there now is known, too, as later checks of the simulator need it.
+    const OriginalFact ours = originals().records().of(a).ours.at(0);
+    const FileStamp stamp = files.stamp(target(a));
+    EXPECT_EQ(ours.where, u"ours.bmp"_s);
+    EXPECT_TRUE(ours.time == stamp.time && ours.number == stamp.number && ours.print.size == stamp.size);
+}
+
+/// Changed by another hand since ours, a file is kept beside the first; the youngest comes back. A path that
+/// was given back has no facts: the next install keeps what lies there then.
+TEST_F(OriginalsTest, aLaterFileOfThePilotsIsKeptBesideTheFirst) {
+    for (const char* own : {"the first", "the second", "the third"}) {
+        writeFile(target(a), own);
+        install("ours", {a});
+        install("ours again", {a});
+    }
+    EXPECT_EQ(keptPaths(), (QStringList{a + u" 1"_s, a + u" 2"_s, a + u" 3"_s}));
+    EXPECT_EQ(readFile(keptFiles / u"Texture\\a.bmp"), "the first");
+    EXPECT_EQ(readFile(keptFiles / u"Texture\\a (2).bmp"), "the second");
+    EXPECT_EQ(originals().restore().putBack, 1);
+    EXPECT_EQ(contents(a), "the third");
+    EXPECT_EQ(keptPaths(), QStringList());
+    EXPECT_EQ(readFile(keptFiles / u"Texture\\a (3).bmp"), "the third"); // kept files themselves always stay
+
+    writeFile(target(a), "the fourth");
+    install("ours", {a});
+    EXPECT_EQ(originals().restore().putBack, 1);
+    EXPECT_EQ(contents(a), "the fourth");
+}
+
+/// What we copy may have the pilot's own bytes: his file stays his, killed installs or not.
+TEST_F(OriginalsTest, aFileEqualToOursIsThePilotsWithoutAFactThatSaysOtherwise) {
+    for (const bool isKilled : {false, true}) {
+        writeFile(target(a), "the same");
+        install("the same", {a}, !isKilled);
+        install("another", {a});
+        EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+        originals().restore();
+        EXPECT_EQ(contents(a), "the same");
+    }
+    // Announced, then killed before the copy.
+    writeFile(target(a), "the same");
+    writeFile(app / u"ours.bmp", "the same");
+    originals().prepare({{app / u"ours.bmp", target(a)}});
+    install("another", {a});
+    originals().restore();
+    EXPECT_EQ(contents(a), "the same");
+}
+
+TEST_F(OriginalsTest, aFileOfOursIsNeverTakenForThePilots) {
+    files.makeFolder(simulator / u"Texture");
+    install("ours, the first", {a});
+    install("ours, the second", {a});
+    install("ours, the third", {a}, false); // killed before its end,
+    install("ours, the fourth", {a}, false);
+    writeFile(target(a), "ours, the third"); // and it is open which of the two stands there
+    install("ours, the fifth", {a});
+    EXPECT_EQ(keptPaths(), QStringList());
+
+    // A file of the pilot's in the place of ours is his, and nothing was kept there before.
+    writeFile(target(a), "the pilot's own");
+    install("ours, the sixth", {a});
+    EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+    EXPECT_EQ(readFile(keptFiles / u"Texture\\a.bmp"), "the pilot's own");
+}
+
+TEST_F(OriginalsTest, aKillAnywhereInTheListLosesNothing) {
+    const QString path = u"Scenery\\World\\texture\\Größe %\t.bmp"_s;
+    writeFile(target(u"Texture\\b.bmp"_s), "so that there is a list");
+    install("ours", {u"Texture\\b.bmp"_s});
+    const qsizetype before = readFile(listFile).size();
+    writeFile(target(path), "the pilot's");
+    install("ours", {path}, false);
+    const QByteArray whole = readFile(listFile);
+    ASSERT_GT(whole.size(), before + 150); // a line for what is ours and one for what is kept
+    for (qsizetype length = before; length < whole.size(); length += 3) {
+        // The line of a kept file comes before its replacement, so the pilot's file stands there still.
+        writeFile(target(path), "the pilot's");
+        writeFile(listFile, whole.left(length));
+        install("ours", {path}, false); // a second kill, before the list was written anew
+        ASSERT_TRUE(keptPaths().contains(path + u" 1"_s)) << length;
+        install("ours", {path});
+        ASSERT_EQ(keptPaths().filter(path).size(), 1) << length;
+        originals().restore();
+        ASSERT_EQ(contents(path), "the pilot's") << length;
+    }
+}
+
+TEST_F(OriginalsTest, aFileKeptWithoutItsLineServesTheNextInstall) {
+    writeFile(target(a), "the pilot's");
+    writeFile(keptFiles / a, "the pilot's");
+    // A copy cut short beside it is not taken for the file.
+    writeFile(keptFiles / (a + partialCopySuffix), "the pi");
+    EXPECT_EQ(keptPaths(), QStringList());
+    install("ours", {a});
+    EXPECT_EQ(originals().list().at(0).copy, a);
+    originals().restore();
+    EXPECT_EQ(contents(a), "the pilot's");
+}
+
+TEST_F(OriginalsTest, namesAreOneWhateverTheirCaseUnlessTheDiskHasBoth) {
+    writeFile(target(u"Scenery\\World\\texture\\ÖSTERSUND.BMP"_s), "the pilot's");
+    install("ours, the first", {u"scenery\\WORLD\\Texture\\Östersund.bmp"_s});
+    install("ours, the second", {u"Scenery\\World\\texture\\östersund.BMP"_s});
+    EXPECT_EQ(keptPaths(), QStringList{u"Scenery\\World\\texture\\ÖSTERSUND.BMP 1"_s});
+    // Given other letters by another hand, it is the same file still.
+    files.rename(target(u"Scenery\\World\\texture\\ÖSTERSUND.BMP"_s),
+                 (simulator / u"Scenery\\World\\texture").exactChild(u"östersund.bmp"_s));
+    install("ours, the third", {u"Scenery\\World\\texture\\Östersund.bmp"_s});
+    EXPECT_EQ(originals().restore().putBack, 1);
+    const QMap<QString, QByteArray> alone{{u"Scenery/World/texture/östersund.bmp"_s, "the pilot's"}};
+    EXPECT_EQ(contentsBelow(simulator), alone);
+#ifndef Q_OS_WIN
+    const FilePath texture = simulator / u"Texture";
+    for (const char16_t* name : {u"b.bmp", u"B.BMP", u"B.bmp"}) {
+        files.makeFolder(texture);
+        QFile file(texture.exactChild(QString::fromUtf16(name)).native());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(QStringView(name).toUtf8()) > 0);
+    }
+    const auto before = contentsBelow(simulator);
+    install("ours", {u"Texture\\B.bmp"_s, u"texture\\b.bmp"_s, u"Texture\\new.bmp"_s, u"Texture\\NEW.bmp"_s});
+    EXPECT_EQ(keptPaths(), (QStringList{u"Texture\\B.bmp 1"_s, u"Texture\\b.bmp 1"_s}));
+    EXPECT_EQ(contentsBelow(simulator).size(), before.size() + 1);
+    originals().restore();
+    EXPECT_EQ(contentsBelow(simulator), before);
+#endif
+}
+
+/// What stands under a path by the time of a restore, and what becomes of it.
+TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
+    constexpr auto none = "none";
+    const struct {
+        const char *before, *at, *after;
+        bool isLeft;
+    } cases[] = {
+        {"pilot's", "ours", "pilot's", false},    {none, "ours", none, false},
+        {"pilot's", none, "pilot's", false},      {none, none, none, false},
+        {"pilot's", "pilot's", "pilot's", false}, {"pilot's", "another's", "another's", true},
+        {none, "another's", "another's", true},
+    };
+    QStringList paths, left;
+    files.makeFolder(simulator / u"Texture");
+    const auto put = [&](const QString& path, const char* text) {
+        if (qstrcmp(text, none) != 0)
+            writeFile(target(path), text);
+        else if (files.exists(target(path)))
+            files.remove(target(path));
+    };
+    for (const auto& road : cases) {
+        paths << u"Texture\\%1.bmp"_s.arg(paths.size());
+        put(paths.last(), road.before);
+        if (road.isLeft) left << paths.last();
+    }
+    install("ours", paths);
+    for (qsizetype i = 0; i < paths.size(); ++i)
+        put(paths[i], cases[i].at);
+    const FilePath stray = target(u"Texture\\stray.bmp"_s + partialCopySuffix);
+    writeFile(stray, "what a kill left");
+    for (const int round : {1, 2}) { // once more: what was left is left again
+        const OriginalsReport report = originals().restore();
+        EXPECT_EQ(report.left, left);
+        EXPECT_EQ(report.putBack, round == 1 ? 2 : 0);
+        EXPECT_EQ(report.takenAway, round == 1 ? 1 : 0);
+        EXPECT_TRUE(report.damaged.isEmpty() && !report.failure);
+        for (qsizetype i = 0; i < paths.size(); ++i)
+            EXPECT_EQ(contents(paths[i]), cases[i].after) << i;
+        EXPECT_FALSE(files.exists(stray));
+    }
+    // What was left is the pilot's from now on and kept as such, beside the first.
+    install("ours", paths);
+    EXPECT_EQ(originals().restore().left, QStringList());
+    EXPECT_EQ(contents(left[0]), "another's");
+    EXPECT_EQ(contents(left[1]), "another's");
+}
+
+/// A mark that we took comes back, one that the pilot has set since stays, and a file that was away gets the
+/// mode that it had.
+TEST_F(OriginalsTest, aRestoreGivesTheModesBack) {
+    const QString taken = u"Texture\\taken.bmp"_s, later = u"Texture\\later.bmp"_s,
+                  between = u"Texture\\between.bmp"_s, away = u"Texture\\away.bmp"_s,
+                  added = u"Texture\\added.bmp"_s;
+    for (const QString& path : {taken, later, between, away})
+        writeFile(target(path), path.toUtf8());
+    files.setMode(target(taken), 0444);
+    files.setMode(target(away), 0600);
+    writeFile(app / u"ours.bmp", "ours");
+    originals().prepare({{app / u"ours.bmp", target(taken)}});
+    originals().takeReadOnlyMark(target(taken));
+    install("ours", {taken, later, between, away, added});
+    EXPECT_FALSE(files.isReadOnly(target(taken)));
+    for (const QString& path : {later, between, added})
+        files.setReadOnly(target(path), true);
+    originals().takeReadOnlyMark(target(between)); // as an option does before it copies once more
+    EXPECT_FALSE(files.isReadOnly(target(between)));
+    files.remove(target(away));
+    EXPECT_EQ(originals().restore().putBack, 4);
+    for (const QString& path : {taken, later, between, away})
+        EXPECT_EQ(contents(path), path.toUtf8());
+    EXPECT_EQ(contents(added), "none");
+    EXPECT_EQ(files.stamp(target(taken)).mode, 0444u);
+    EXPECT_EQ(files.stamp(target(later)).mode, 0444u);
+    EXPECT_EQ(files.stamp(target(between)).mode, 0444u);
+    EXPECT_EQ(files.stamp(target(away)).mode, 0600u);
+}
+
+TEST_F(OriginalsTest, aDamagedKeptFileIsLeftOutAndTheOthersComeBack) {
+    const QString b = u"Texture\\b.bmp"_s, c = u"Texture\\c.bmp"_s;
+    for (const QString& path : {a, b, c})
+        writeFile(target(path), path.toUtf8());
+    install("ours", {a, b, c});
+    writeFile(keptFiles / a, "damaged");
+    files.remove(keptFiles / b);
+    const OriginalsReport report = originals().restore();
+    EXPECT_EQ(report.damaged, (QStringList{a, b}));
+    EXPECT_EQ(report.putBack, 1);
+    EXPECT_EQ(contents(a) + '|' + contents(c), "ours|" + c.toUtf8());
+    // Mended by hand, it comes back.
+    writeFile(keptFiles / a, a.toUtf8());
+    EXPECT_EQ(originals().restore().damaged, QStringList{b});
+    EXPECT_EQ(contents(a), a.toUtf8());
+}
+
+TEST_F(OriginalsTest, foldersThatWereMadeGoWhenTheyAreEmpty) {
+    files.makeFolder(simulator);
+    for (const bool hasOther : {false, true}) {
+        const QString made = u"Flights\\Morvane"_s;
+        originals().makeFolder(simulator / made);
+        install("ours", {made + u"\\Circuit.flt"_s});
+        if (hasOther) writeFile(target(u"Flights\\note.txt"_s), "the pilot's");
+        EXPECT_EQ(originals().restore().takenAway, 1);
+        EXPECT_FALSE(files.exists(target(made)));
+        EXPECT_EQ(files.exists(target(u"Flights"_s)), hasOther);
+    }
+    // In its place the pilot has put a link.
+    const FilePath link = target(u"Linked"_s);
+    originals().makeFolder(link);
+    files.removeFolder(link);
+    ASSERT_TRUE(QFile::link(folder.path().native(), link.native()));
+    originals().restore();
+    EXPECT_TRUE(files.isLink(link));
+}
+
+/// Each simulator has a list of its own; one that was moved goes on with its old one, and one that seemed to
+/// have moved finds what it knew when it turns up again.
+TEST_F(OriginalsTest, everySimulatorHasItsOwnList) {
+    const auto at = [&](const char16_t* name) { return FilePath((folder / name).native()); };
+    const FilePath first = at(u"First"), second = at(u"Second"), moved = at(u"Moved"), kept = at(u"Kept");
+    for (const FilePath& one : {first, second}) {
+        simulator = one;
+        writeFile(simulator / u"fs9.exe", "MZ");
+        writeFile(target(a), one.fileName().toUtf8());
+        install("ours", {a, u"Texture\\added.bmp"_s});
+        EXPECT_EQ(originals().list().size(), 1u);
+    }
+    EXPECT_EQ(originals().list()[0].copy, u"Simulator 2\\Texture\\a.bmp"_s);
+
+    files.rename(first, moved);
+    simulator = moved;
+    const QByteArray untouched = readFile(listFile);
+    EXPECT_EQ(originals().list().at(0).copy, a);
+    EXPECT_EQ(readFile(listFile), untouched); // looking is not writing
+    install("ours, the second", {a});
+    // A drive that was only away: the list is the moved one's, which knows of the first what was known then.
+    files.rename(moved, kept);
+    simulator = first;
+    writeFile(simulator / u"fs9.exe", "MZ");
+    writeFile(target(a), "ours");
+    writeFile(target(u"Texture\\added.bmp"_s), "ours");
+    files.rename(kept, moved);
+    install("ours, the third", {a});
+    EXPECT_EQ(originals().list().at(0).copy, a);
+
+    for (const FilePath& one : {first, second, moved}) {
+        simulator = one;
+        EXPECT_EQ(originals().restore().left, QStringList());
+        const QByteArray own = one.fileName() == u"Second" ? "Second" : "First";
+        const QMap<QString, QByteArray> tree{{u"Texture/a.bmp"_s, own}, {u"fs9.exe"_s, "MZ"}};
+        EXPECT_EQ(contentsBelow(simulator), tree) << qPrintable(one.text());
+    }
+}
+
+/// What stands in the new place, and whether it is the old simulator, moved there.
+TEST_F(OriginalsTest, aMovedSimulatorIsKnownByWhatWePutThere) {
+    constexpr int many = 50;
+    /// Less exactly than the list knows it, as of some drives.
+    const auto setTime = [](const FilePath& file, const QDateTime& time) {
+        QFile opened(file.native());
+        ASSERT_TRUE(opened.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(opened.setFileTime(time, QFileDevice::FileModificationTime));
+    };
+    const struct {
+        const char* how;
+        int ours;
+        bool withTimes, oldStands, isKnown;
+    } cases[] = {
+        {"moved to another drive", many, true, false, true},
+        {"and all but one changed since", 1, true, false, true},
+        {"moved, the times lost", many, false, false, true},
+        {"the pilot's files and one of ours by chance", 1, false, false, false},
+        {"a copy of it", many, true, true, false},
+        {"new", 0, false, false, false},
+    };
+    QStringList paths;
+    for (int i = 0; i < many; ++i)
+        paths << u"Texture\\%1.bmp"_s.arg(i);
+    int number = 0;
+    for (const auto& move : cases) {
+        simulator = FilePath((folder / u"Old %1"_s.arg(++number)).native());
+        const FilePath from = simulator, to((folder / u"New %1"_s.arg(number)).native());
+        writeFile(from / u"fs9.exe", "MZ");
+        const QByteArray ours = "ours " + QByteArray::number(number), own = "the pilot's " + ours;
+        for (const QString& path : paths)
+            writeFile(from / path, own);
+        install(ours, paths);
+        for (int i = 0; i < many; ++i) {
+            writeFile(to / paths[i], i < move.ours ? ours : own);
+            const QDateTime time = QFileInfo((from / paths[i]).native()).lastModified();
+            setTime(to / paths[i], move.withTimes ? time : time.addSecs(-3600));
+        }
+        if (!move.oldStands) files.remove(from / u"fs9.exe");
+        simulator = to;
+        EXPECT_EQ(originals().list().size(), move.isKnown ? many : 0) << move.how;
+    }
+}
+
+/// Lists of old had no head, a line a fact and the spelling of our own files.
+TEST_F(OriginalsTest, aListOfOldIsTakenOver) {
+    const QString other = u"Texture\\other.bmp"_s;
+    writeFile(target(a), "ours");
+    writeFile(target(other), "ours");
+    writeFile(keptFiles / a, "abc");
+    const QByteArray ours = fingerprintOf(QByteArray("ours")).checksum.toUtf8();
+    writeFile(listFile, "\t\nours\t4\t" + ours + "\tTEXTURE\\A.bmp\n\t\nkept\t3\t" +
+                            "a9993e364706816aba3e25717850c26c9cd0d89d\ttexture\\a.bmp\nours\t4\t" + ours +
+                            "\tTexture\\other.bmp\nkept\t9\tbeef\t..\\..\\out.bmp\nkept\t12\ttorn");
+    EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+    install("ours, the second", {a});
+    EXPECT_TRUE(readFile(listFile).startsWith("morvane-originals\t2\t"));
+    EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+    // What stood in the other's place was never noted, so it is not taken away.
+    EXPECT_EQ(originals().restore().left, QStringList{other});
+    EXPECT_EQ(contents(a) + '|' + contents(other), "abc|ours");
+}
+
+/// Without a list that can be read and understood nothing is replaced, and one message says why.
+TEST_F(OriginalsTest, anInstallWithoutAUsableListReplacesNothing) {
+    const QByteArray newer = "morvane-originals\t3\tnobody knows\n";
+    for (const bool isNewer : {true, false}) {
+        test::SmallInstall small;
+        small.addGroundSet(u"2-Storm"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s});
+        const FilePath list = small.home() / u"Backup\\Originals\\originals.lst";
+        // A folder in its place: no mode would keep a test that runs as root from reading a file.
+        isNewer ? writeFile(list, newer) : small.files.makeFolder(list);
+        const auto before = contentsBelow(small.simulator());
+        clickGroundRow(small.session, u"2-Storm"_s);
+        GroundInstallation(small.session).installTextureSet(true);
+        EXPECT_EQ(contentsBelow(small.simulator()), before);
+        ASSERT_EQ(small.user.told().size(), 1);
+        EXPECT_TRUE(small.user.told()[0].startsWith(
+            isNewer ? u"Error|Morvane Error|The list of your kept files was written by a newer version"_s
+                    : u"Error|Morvane Error|Permission denied: "_s));
+        if (isNewer) {
+            EXPECT_EQ(readFile(list), newer);
+        }
+    }
+}
+
+} // namespace
+} // namespace morvane

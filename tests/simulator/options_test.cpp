@@ -1,0 +1,199 @@
+#include "core/flights_folder.h"
+#include "simulator/options.h"
+
+#include "core/error.h"
+#include "sets/options_in_force.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::SmallInstall;
+using test::writeFile;
+
+struct OptionsTest : testing::Test {
+    SmallInstall install;
+    Session& session = install.session;
+    test::ScriptedUser& user = install.user;
+
+    void store(const QString& name, const QString& text) {
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, text);
+    }
+    QString stored(const QString& name) {
+        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name);
+    }
+};
+
+TEST_F(OptionsTest, theSplashOptionTakesTwoWordsAndRepairsTheRest) {
+    for (const QString& held : {u"True"_s, u"False"_s, u"Yes"_s, QString(), u" True "_s, u"true"_s}) {
+        store(u"InhibitCustomSplash"_s, held);
+        const bool isSet = held == u"True";
+        session.state<OptionsInForce>().InhibitCustomSplash = !isSet;
+        getCustomSplashVal(session);
+        EXPECT_EQ(session.state<OptionsInForce>().InhibitCustomSplash, isSet) << held.toStdString();
+        EXPECT_EQ(stored(u"InhibitCustomSplash"_s), isSet ? u"True"_s : u"False"_s) << held.toStdString();
+    }
+    EXPECT_TRUE(user.told().isEmpty());
+}
+
+TEST_F(OptionsTest, theWideClientOptionIsTrimmedAndOtherwiseAsked) {
+    const std::tuple<QString, bool, bool, QString> cases[] = {
+        // What is held, what the pilot says when asked, the flag, and what is held then.
+        {u"True"_s, false, true, u"True"_s},   {u" True "_s, false, true, u" True "_s},
+        {u"False"_s, true, false, u"False"_s}, {u"true"_s, false, false, u"False"_s},
+        {u"Yes"_s, true, true, u"True"_s},     {QString(), false, false, u"False"_s},
+    };
+    for (const auto& [held, answer, flag, after] : cases) {
+        store(u"IsWideClient"_s, held);
+        user.otherwise = answer;
+        getSideFSVal(session);
+        EXPECT_EQ(session.state<OptionsInForce>().IsWideClient, flag) << held.toStdString();
+        EXPECT_EQ(stored(u"IsWideClient"_s), after) << held.toStdString();
+    }
+    EXPECT_EQ(user.told().size(), 3); // the last three were asked for
+    user.answersNothing = true;
+    store(u"IsWideClient"_s, {});
+    getSideFSVal(session);
+    EXPECT_FALSE(session.state<OptionsInForce>().IsWideClient);
+    EXPECT_EQ(stored(u"IsWideClient"_s), QString()) << "nobody answered, so it is asked again";
+    EXPECT_TRUE(
+        user.told().value(0).startsWith(u"Question|For WideFS Users Only!|Please indicate if you "_s));
+}
+
+TEST_F(OptionsTest, eachChoiceIsStoredAndTold) {
+    const QString splash = u"Information|FS9 Splash Screen Status|"_s;
+    const QString wide = u"Information|FS9 WideFS Status|This setting states that this PC is a "_s;
+    const struct {
+        void (*choose)(Session&, bool);
+        bool OptionsInForce::*flag;
+        QString name;
+        bool value;
+        QString told;
+    } cases[] = {
+        {setCustomSplashVal, &OptionsInForce::InhibitCustomSplash, u"InhibitCustomSplash"_s, true,
+         splash + u"The default FS splash screen has been copied to Flight Similator. The Morvane FS9 splash "
+                  u"screen will not be shown when Flight Simulator is started."_s},
+        {setCustomSplashVal, &OptionsInForce::InhibitCustomSplash, u"InhibitCustomSplash"_s, false,
+         splash + u"The Morvane FS9 splash screen will be shown when Flight Simulator is started."_s},
+        {setSideFSVal, &OptionsInForce::IsWideClient, u"IsWideClient"_s, true,
+         wide + u"WideClient PC and therefore Morvane will not attempt to start Flight Simulator."_s},
+        {setSideFSVal, &OptionsInForce::IsWideClient, u"IsWideClient"_s, false,
+         wide + u"WideServer/Stand Alone PC and therefore Morvane will attempt to start Flight Simulator as "
+                u"required by you the user."_s},
+    };
+    writeFile(install.home() / u"Media\\dlgsplash.bmp", "the simulator's own");
+    for (const auto& [choose, flag, name, value, told] : cases) {
+        choose(session, value);
+        EXPECT_EQ(session.state<OptionsInForce>().*flag, value);
+        EXPECT_EQ(stored(name), value ? u"True"_s : u"False"_s);
+        EXPECT_EQ(user.told().last(), told);
+    }
+}
+
+TEST_F(OptionsTest, switchingTheSplashOffPutsTheSimulatorsOwnBack) {
+    writeFile(install.home() / u"Media\\dlgsplash.bmp", "the simulator's own");
+    const FilePath splash = install.simulator() / u"Uires\\dlgsplash.bmp";
+    setCustomSplashVal(session, true);
+    EXPECT_EQ(test::readFile(splash), "the simulator's own");
+    writeFile(splash, "another");
+    setCustomSplashVal(session, false);
+    EXPECT_EQ(test::readFile(splash), "another"); // the next set brings its splash, not the switch
+}
+
+/// A registry on which everything fails, as only one with a fault of its own does.
+struct BrokenRegistry : Registry {
+    QString GetRegString(int, const QString&, const QString&, const QString&) const override { fail(); }
+    void SetRegString(int, const QString&, const QString&, const QString&, const QString&) override {
+        fail();
+    }
+    bool RegValueIsDword(int, const QString&, const QString&, const QString&) const override { fail(); }
+    bool CreateRegKey(int, const QString&) override { fail(); }
+
+private:
+    [[noreturn]] static void fail() { throw Error(ErrorCode::permissionDenied); }
+};
+
+TEST_F(OptionsTest, failuresAreToldUnderNamesOfRoutinesOneOfThemWrong) {
+    BrokenRegistry broken;
+    Session failing({user, install.files, install.clock, install.random, broken}, install.home());
+    user.foldersToChoose = {u"/somewhere"_s};
+    const std::pair<std::function<void()>, QString> routines[] = {
+        {[&] { getCustomSplashVal(failing); }, u"Sub getCustomSplashVal"_s},
+        {[&] { setCustomSplashVal(failing, false); }, u"Sub setCustomSplashVal"_s},
+        {[&] { getSideFSVal(failing); }, u"Function getSideFSVal"_s},
+        {[&] { setSideFSVal(failing, true); }, u"Sub setCustomSplashVal"_s}, // another one's name: wanted
+        {[&] { setNonEnglishRegVal(failing); }, u"Sub setNonEnglishRegVal"_s},
+    };
+    for (const auto& [routine, name] : routines) {
+        routine();
+        EXPECT_EQ(user.told().last(), u"Exclamation|Morvane Error!|%1\nPermission denied"_s.arg(name));
+    }
+}
+
+TEST_F(OptionsTest, theFlightsFolderIsAskedForUntilItIsUsable) {
+    const QString good = (install.folder / u"Flight Simulator Files").native();
+    install.files.makeFolder(install.folder / u"Flight Simulator Files");
+    const QString own = (install.home() / u"Flights").native();
+    const QString link = (install.folder / u"Link").native();
+    install.files.makeFolder(install.home() / u"Flights");
+    ASSERT_TRUE(QFile::link(own, link));
+    const QString required =
+        u"Information|Saved Flights/Flight Plans Location required|Please supply the path to your My "
+        u"Documents\\Flight Simulator Files folder. Please ensure that you are not pointing to your Morvane "
+        u"Flights folder"_s;
+    const QString missing = u"Exclamation|Saved Flights Invalid Path|The path for your FS9 saved flights "
+                            u"was invalid please enter a new path"_s;
+    const QString invalid = u"Exclamation|Invalid Path|The path supplied was invalid please try again"_s;
+    struct Case {
+        QString held;
+        std::deque<QString> chosen;
+        QString after;
+        QStringList told;
+    };
+    const Case cases[] = {
+        {good, {}, good, {}},
+        {u"  "_s + good + u' ', {}, u"  "_s + good + u' ', {}},
+        {own.toUpper(), {own, own, good}, good, {required, invalid, invalid}},
+        {own + u'/',
+         {own + u'\\', own + u"/./"_s, link, link + u'/', good},
+         good,
+         {required, invalid, invalid, invalid, invalid}},
+        {u"/nowhere"_s, {own, good}, good, {missing, invalid}},
+        {{}, {}, {}, {required}}, // a cancelled browser asks no more
+        {u"/nowhere"_s, {}, u"/nowhere"_s, {missing}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.held.toStdString());
+        store(u"NonEnglishPath"_s, c.held);
+        user.messages.clear();
+        user.foldersToChoose = c.chosen;
+        EXPECT_EQ(getNonEnglishPath(session), c.after.contains(good) ? good : QString());
+        EXPECT_EQ(stored(u"NonEnglishPath"_s), c.after);
+        EXPECT_EQ(user.told(), c.told);
+        EXPECT_TRUE(user.foldersToChoose.empty());
+    }
+}
+
+TEST_F(OptionsTest, theFlightsFolderCanBeChosenAnew) {
+    store(u"NonEnglishPath"_s, u"/before"_s);
+    setNonEnglishRegVal(session);
+    EXPECT_EQ(stored(u"NonEnglishPath"_s), u"/before"_s); // the browser was cancelled
+    EXPECT_TRUE(user.told().isEmpty());
+    user.foldersToChoose = {u"/Çhosen folder"_s};
+    setNonEnglishRegVal(session);
+    EXPECT_EQ(stored(u"NonEnglishPath"_s), u"/Çhosen folder"_s);
+    EXPECT_EQ(user.told(), QStringList{u"Information|FS9 Flight Simulator Files Path|FS9 My Documents Flight "
+                                       u"Simulator Files path has been updated to: /Çhosen folder"_s});
+    EXPECT_EQ(user.calls.last(), u"refresh frm_Switcher"_s);
+    user.foldersToChoose = {(install.home() / u"Flights").native() + u'/'};
+    setNonEnglishRegVal(session);
+    EXPECT_EQ(stored(u"NonEnglishPath"_s), u"/Çhosen folder"_s) << "the program's own one is refused";
+    EXPECT_EQ(user.told().last(),
+              u"Exclamation|Invalid Path|The path supplied was invalid please try again"_s);
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,161 @@
+#include "weather/airport_report.h"
+#include "weather/weather_state.h"
+
+#include "core/store.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+#include "weather/decoded_lines.h"
+#include "weather/stored_reports.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+struct WeatherControlTest : testing::Test {
+    WeatherControlTest() {
+        weather.InhibitWeatherReports = false;
+        test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
+        test::addStation(session, u"EHAM"_s, 1, 52.31, 4.76);
+    }
+    void store(const clsWxFinder& report) {
+        ASSERT_TRUE(clsWxFinderData(session).insertDecodedMetar({report, {}, {}}));
+    }
+    QString reportOf(const QString& icao, const QString& latitude = {}, const QString& longitude = {}) {
+        QString metar = u"as it was"_s;
+        getMetar(session, icao, latitude, longitude, u"A City"_s, u"A Field"_s, metar);
+        return metar;
+    }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    WeatherState& weather = session.state<WeatherState>();
+};
+
+TEST_F(WeatherControlTest, anAirportWithoutAReportReadsItsNeighboursAsItsOwn) {
+    EXPECT_EQ(reportOf(u"ksea"_s), u"KSEA 010000Z 00000KT"_s);
+    EXPECT_EQ(reportOf(u" KBFI "_s, u"47.53"_s, u"-122.30"_s), u"KBFI 010000Z 00000KT"_s);
+    EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.first(),
+              u"ICAO Code: KBFI, City: A City, Airport Name: A Field"_s);
+    EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.last(), u"KBFI 010000Z 00000KT"_s);
+    EXPECT_EQ(reportOf(u"O'HA"_s, u"52"_s, u"5"_s), u"O'HA 010000Z 00000KT"_s);
+}
+
+TEST_F(WeatherControlTest, theEndBeingChosenTakesTheReportAndTheReportIsShown) {
+    reportOf(u"KSEA"_s);
+    EXPECT_EQ(weather.DepMetar, u"KSEA 010000Z 00000KT"_s);
+    EXPECT_EQ(weather.DestMetar, QString());
+    EXPECT_EQ(install.user.calls, (QStringList{u"refresh frm_WxControl"_s, u"modal frm_metar"_s}));
+
+    install.user.calls.clear();
+    weather.optDepAirport = false;
+    weather.optDestAirport = weather.InhibitWeatherReports = true;
+    EXPECT_TRUE(chooseAirport(session, {u" EHAM "_s, u"SCHIPHOL"_s, u"AMSTERDAM"_s, {}, {}, {}, {}}));
+    EXPECT_EQ(weather.DepMetar, u"KSEA 010000Z 00000KT"_s);
+    EXPECT_EQ(weather.DestMetar, u"EHAM 010000Z 00000KT"_s);
+    EXPECT_EQ((QStringList{weather.DestIcao, weather.DestAirportName, weather.DestCity, weather.DepIcao}),
+              (QStringList{u"EHAM"_s, u"SCHIPHOL"_s, u"AMSTERDAM"_s, QString()}));
+    EXPECT_EQ(install.user.calls, QStringList{u"refresh frm_WxControl"_s}) << "inhibited";
+}
+
+TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
+    reportOf(u"KSEA"_s);
+    weather.DepAirportName = u"SEA"_s;
+    install.user.messages.clear();
+    const QString told = u"Exclamation|Metar Error!|The METAR requested cannot be accessed at this time or "
+                         u"is not available please try again later"_s;
+    store({}); // a line that was no report stands under an empty code
+    EXPECT_EQ(reportOf({}, u"47"_s, u"-122"_s), u"as it was"_s) << "an empty code is no station";
+    EXPECT_EQ(reportOf(u"KBFI"_s, u"north"_s, u"-122"_s), u"as it was"_s);
+    session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = '', METAR_LONG = ''"_s);
+    EXPECT_EQ(reportOf(u"KBFI"_s, u"47"_s, u"-122"_s), u"as it was"_s) << "nobody has a position";
+    EXPECT_FALSE(chooseAirport(session, {u"KBFI"_s, u"BOEING"_s, {}, {}, {}, u"47"_s, u"-122"_s}));
+    EXPECT_EQ(install.user.told(), QStringList(4, told));
+    EXPECT_EQ(weather.DepMetar, u"KSEA 010000Z 00000KT"_s);
+    EXPECT_EQ(weather.DepAirportName, u"SEA"_s) << "name and report never part";
+}
+
+// The lines, slips and all.
+
+TEST_F(WeatherControlTest, theLinesOfAFullReport) {
+    clsWxFinder report;
+    report.WxFinderIcao = u"LOWI"_s;
+    report.WxFinderMetar = u"LOWI 141453Z"_s;
+    report.WxFinderDate = u"14"_s;
+    report.WxFinderMonth = u"June"_s;
+    report.WxFinderYear = u"2006"_s;
+    report.WxFinderTime = u"1453"_s;
+    report.WxFinderWindDirection = u"240 degrees"_s;
+    report.WxFinderWindSpeed = u"015"_s;
+    report.WxFinderWindSpeedMeasurement = u"kts"_s;
+    report.WxFinderWindGusting = report.WxFinderWindVarying = true;
+    report.WxFinderWindGust = u"025"_s;
+    report.WxFinderWindVaryingFrom = u"210"_s;
+    report.WxFinderWindVaryingTo = u"270"_s;
+    report.WxFinderVisibility = u"10 Mile(s)"_s;
+    report.WxFinderWeatherStrength = u"Light "_s;
+    report.WxFinderWeather = u"Rain"_s;
+    report.WxFinderFog = u"Mist"_s;
+    report.WxFinderCloudCover = u"Overcast"_s;
+    report.WxFinderTemperature = u"18"_s;
+    report.WxFinderDewpoint = u"M01"_s;
+    report.WxFinderPressure = u"29.92 Inches of Mercury"_s;
+    store(report);
+    reportOf(u"LOWI"_s);
+    EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines,
+              (QStringList{u"ICAO Code: LOWI, City: A City, Airport Name: A Field"_s,
+                           u"Date: 14 June 2006 Time: 1453Z"_s,
+                           u"Wind from: 240 degrees at 015kts, Gusting 025kts, Varying between 210 degrees "
+                           u"and 270 degrees"_s,
+                           u"Visibility: 10 Mile(s)"_s, u"Precipitation: Light  Rain"_s,
+                           u"Obscuration: Mist"_s, u"Sky Conditions: Overcast"_s,
+                           u"Temperature: 18 degree(s) Celcius"_s, u"Dewpoint: M01 degree(s) Celcius"_s,
+                           u"Pressure: 29.92 Inches of Mercury"_s, u"LOWI 141453Z"_s}));
+}
+
+TEST_F(WeatherControlTest, theLinesOfAnEmptyReport) {
+    clsWxFinder report;
+    report.WxFinderIcao = u"LOWI"_s;
+    report.WxFinderMetar = u"LOWI NIL"_s;
+    report.WxFinderWeatherStrength = u"Moderate "_s; // of nothing
+    store(report);
+    reportOf(u"LOWI"_s);
+    EXPECT_EQ(
+        session.state<DecodedReportLines>().decodedMetarLines.sliced(1),
+        (QStringList{
+            u"Date:  May 2007 Time: Z"_s, u"Wind: No wind data avialable"_s,
+            u"Visibility: No visibility data available"_s, u"Precipitation: No precipitation type recorded"_s,
+            u"Obscuration: No obscuration phenomina recorded"_s, u"Sky Conditions: No cloud data available"_s,
+            u"Temperature: No temperature data available"_s, u"Dewpoint: No Dewpoint data available"_s,
+            u"Pressure: No Pressure data available"_s, u"LOWI NIL"_s}))
+        << "month and year are the clock's";
+}
+
+TEST_F(WeatherControlTest, windLines) {
+    const struct {
+        QString direction, speed;
+        bool isGusting;
+        QString line;
+    } cases[] = {
+        {u"Calm"_s, u"000"_s, false, u"Wind: Calm"_s},
+        {u"Calm"_s, u"000"_s, true, u"Wind: Calm Gusting 9kts,"_s},
+        {u"Variable"_s, u"003"_s, false, u"Wind from: Variable at 003kts,"_s},
+        {u"240 degrees"_s, {}, true, u"Wind: No wind data avialable"_s},
+        {{}, u"003"_s, true, u"Wind: No wind data avialable"_s},
+    };
+    for (const auto& [direction, speed, isGusting, line] : cases) {
+        clsWxFinder report;
+        report.WxFinderIcao = u"LOWI"_s;
+        report.WxFinderWindDirection = direction;
+        report.WxFinderWindSpeed = speed;
+        report.WxFinderWindSpeedMeasurement = u"kts"_s;
+        report.WxFinderWindGusting = isGusting;
+        report.WxFinderWindGust = u"9"_s;
+        store(report);
+        reportOf(u"LOWI"_s);
+        EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines[2], line);
+    }
+}
+
+} // namespace
+} // namespace morvane

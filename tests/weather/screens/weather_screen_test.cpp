@@ -1,0 +1,224 @@
+#include "support/printing.h"
+#include "support/window_program.h"
+#include "ui/controls/foot_line.h"
+#include "weather/directory_rows.h"
+#include "weather/screens/airport_list.h"
+#include "weather/screens/filter_choice.h"
+#include "weather/screens/link_label.h"
+#include "weather/stored_reports.h"
+#include "weather/weather_state.h"
+#include "window/dispatch_table.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+const QString page = u"frm_WxControl"_s;
+
+struct WeatherScreenTest : testing::Test {
+    WeatherScreenTest() {
+        test::addAirports(
+            session,
+            {{u"kbfi"_s, u"Boeing Field"_s, u"Seattle"_s, u"Washington"_s, u"United States"_s, u"47.53"_s,
+              u"-122.30"_s},
+             {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41,98"_s,
+              u"-87.9"_s},
+             {u"DIAP"_s, u"Abidjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
+        test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
+        test::addStation(session, u"DIAP"_s, 3, 5.26, -3.93);
+        program.shell.goToPage(page);
+    }
+    template <class Control>
+    Control& on(const QString& name) {
+        return program.control<Control>(page, name);
+    }
+    QString label(const QString& name) { return on<QLabel>(name).text(); }
+    QStringList entries(const QString& name) {
+        const auto& choice = on<FilterChoice>(name);
+        QStringList texts;
+        for (int i = 0; i < choice.count(); ++i)
+            texts << choice.itemText(i);
+        return texts;
+    }
+    QString codes() {
+        QStringList texts;
+        for (int row = 0; row < list.airports().rowCount(); ++row)
+            texts << list.airports().shownAirport(row).icao;
+        return texts.join(u' ');
+    }
+    /// As a pilot does from the keyboard; entry 0 is "Any".
+    void choose(const QString& name, int entry) {
+        auto& choice = on<FilterChoice>(name);
+        QTest::keyClick(&choice, Qt::Key_Home);
+        for (int i = 0; i < entry; ++i)
+            QTest::keyClick(&choice, Qt::Key_Down);
+    }
+    void type(const QString& name, const QString& text) { on<QLineEdit>(name).setText(text); }
+    void clickRow(int row) {
+        const QPoint place = list.visualRect(list.airports().index(row, 1)).center();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+    }
+    /// What the decoded report says in its first and last line; it is then closed by its key.
+    QStringList shownBy(const std::function<void()>& action) {
+        QStringList lines;
+        program.whenShown(u"frm_metar"_s, [&](DialogForm& form) {
+            for (const QString& index : {u"0"_s, u"10"_s})
+                lines << form.findChild<QLabel*>(u"lblDecodedMetar_"_s + index)->text();
+            QTest::mouseClick(form.button(u"btn_Ok"_s), Qt::LeftButton);
+        });
+        action();
+        return lines;
+    }
+
+    test::WindowProgram program;
+    Session& session = program.session;
+    AirportList& list = on<AirportList>(u"lvwAirports"_s);
+    SkinnedButton& clearKey = on<SkinnedButton>(u"btn_ClearFilter"_s);
+};
+
+TEST_F(WeatherScreenTest, nothingIsListedBeforeASearch) {
+    EXPECT_EQ(label(u"lblAirportCount"_s), u"Search Not Initiated Yet"_s);
+    EXPECT_EQ(codes(), QString());
+    EXPECT_EQ(entries(u"cboCountry"_s), (QStringList{u"Any"_s, u"CÔTE D'IVOIRE"_s, u"UNITED STATES"_s}));
+    EXPECT_EQ(entries(u"cboState"_s), (QStringList{u"Any"_s, u"ILLINOIS"_s, u"WASHINGTON"_s}));
+    EXPECT_TRUE(on<QCheckBox>(u"chkNoWeatherReports"_s).isChecked());
+    EXPECT_TRUE(on<QRadioButton>(u"optDepAirport"_s).isChecked());
+}
+
+TEST_F(WeatherScreenTest, eachLetterSearchesAndAnEmptiedBoxDoesNot) {
+    QTest::keyClicks(&on<QLineEdit>(u"txtICAO"_s), u"kb"_s);
+    EXPECT_EQ(codes(), u"KBFI"_s);
+    EXPECT_EQ(label(u"lblAirportCount"_s), u"1 Airports Found"_s);
+    EXPECT_EQ(entries(u"cboCity"_s), (QStringList{u"Any"_s, u"SEATTLE"_s})) << "of what was found";
+    type(u"txtICAO"_s, {});
+    EXPECT_EQ(codes(), u"KBFI"_s);
+    type(u"txtAirportName"_s, u"o'h"_s);
+    EXPECT_EQ(codes(), u"KORD"_s);
+    EXPECT_EQ(on<QLineEdit>(u"txtICAO"_s).text() + on<QLineEdit>(u"txtCity"_s).text(), QString());
+    type(u"txtICAO"_s, u"di"_s);
+    EXPECT_EQ(on<QLineEdit>(u"txtAirportName"_s).text(), QString()) << "nothing is found by it any more";
+    EXPECT_EQ(codes(), u"DIAP"_s);
+    type(u"txtCity"_s, u"nowhere"_s);
+    EXPECT_EQ(label(u"lblAirportCount"_s), u"No Airports Found"_s);
+}
+
+TEST_F(WeatherScreenTest, filterListsNarrowOneAfterTheOtherAndTheKeyClearsThem) {
+    choose(u"cboCountry"_s, 2);
+    EXPECT_EQ(on<FilterChoice>(u"cboCountry"_s).value(), u"United States"_s) << "as it is stored";
+    EXPECT_EQ(codes(), u"KBFI KORD"_s);
+    EXPECT_EQ(entries(u"cboCity"_s), (QStringList{u"Any"_s, u"CHICAGO"_s, u"SEATTLE"_s}));
+    choose(u"cboState"_s, 1);
+    EXPECT_EQ(entries(u"cboCity"_s), (QStringList{u"Any"_s, u"CHICAGO"_s}));
+    EXPECT_EQ(codes(), u"KORD"_s);
+    choose(u"cboCountry"_s, 1);
+    EXPECT_EQ(codes(), u"DIAP"_s) << "the lists behind it are at \"Any\" again";
+    choose(u"cboCountry"_s, 0);
+    EXPECT_EQ(entries(u"cboState"_s), (QStringList{u"Any"_s, u"ILLINOIS"_s, u"WASHINGTON"_s}));
+    EXPECT_EQ(clearKey.state(), ButtonState::enabled);
+
+    choose(u"cboCity"_s, 1);
+    program.press(page, u"btn_ClearFilter"_s);
+    EXPECT_EQ(on<FilterChoice>(u"cboCity"_s).value(), QString());
+    EXPECT_EQ(label(u"lblAirportCount"_s), u"3 Airports Found"_s);
+    EXPECT_EQ(clearKey.state(), ButtonState::disabled);
+}
+
+TEST_F(WeatherScreenTest, aClickOnAHeadSortsAndTurnsTheOrder) {
+    type(u"txtAirportName"_s, u"%"_s);
+    list.setCurrentIndex(list.airports().index(0, 0));
+    ASSERT_EQ(list.currentIndex().data(), QVariant(u"DIAP"_s));
+    const auto clickHead = [this](int column) {
+        const QHeaderView& head = *list.header();
+        const QPoint place(head.sectionViewportPosition(column) + 8, head.height() / 2);
+        QTest::mouseClick(head.viewport(), Qt::LeftButton, {}, place);
+    };
+    clickHead(2);
+    EXPECT_EQ(codes(), u"DIAP KORD KBFI"_s) << "by city";
+    clickHead(5);
+    EXPECT_EQ(codes(), u"KBFI KORD DIAP"_s) << "by degrees, 5 behind 41";
+    EXPECT_EQ(list.currentIndex().data(), QVariant(u"DIAP"_s)) << "the row in hand goes along";
+}
+
+TEST_F(WeatherScreenTest, aChosenAirportShowsItsReportAndItsEndKeepsIt) {
+    type(u"txtAirportName"_s, u"%"_s); // DIAP, KBFI, KORD by name
+    clickRow(0);
+    EXPECT_EQ(label(u"lblDepMetar"_s), u"DIAP 010000Z 00000KT"_s);
+    QTest::mouseClick(&on<QRadioButton>(u"optDestAirport"_s), Qt::LeftButton, {}, QPoint(8, 11));
+    QTest::mouseClick(&on<QCheckBox>(u"chkNoWeatherReports"_s), Qt::LeftButton, {}, QPoint(8, 11));
+    EXPECT_EQ(shownBy([this] { QTest::keyClick(&list, Qt::Key_Down); }),
+              (QStringList{u"ICAO Code: KBFI, City: SEATTLE, Airport Name: BOEING FIELD"_s,
+                           u"KBFI 010000Z 00000KT"_s}));
+    EXPECT_EQ(label(u"lblDepMetar"_s), u"DIAP 010000Z 00000KT"_s);
+    EXPECT_EQ(label(u"lblDestMetar"_s), u"KBFI 010000Z 00000KT"_s);
+    EXPECT_EQ(session.state<WeatherState>().DestAirportName, u"BOEING FIELD"_s);
+    EXPECT_EQ(shownBy([this] { QTest::keyClick(&list, Qt::Key_Return); }).size(), 2) << "once more";
+    EXPECT_EQ(shownBy([this] { clickRow(1); }).size(), 2);
+}
+
+TEST_F(WeatherScreenTest, whatIsChangedElsewhereIsShown) {
+    WeatherState& weather = session.state<WeatherState>();
+    weather.optDepAirport = false;
+    weather.optDestAirport = weather.FlyNowDisabled = weather.ASv6Present = weather.ASv6VersionOK = true;
+    weather.ASv6ExportDate = QDateTime(QDate(2007, 6, 14), QTime(14, 7));
+    weather.DestMetar = u"KSEA"_s;
+    const LinkLabel& support = on<LinkLabel>(u"lblASv6Support"_s);
+    EXPECT_EQ(support.text(), u"Click here for ASv6 Information"_s);
+    EXPECT_TRUE(support.isEnabled());
+    program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_EQ(label(u"lblASv6FileTime"_s), QString()) << "nothing was imported yet";
+    weather.ASv6Imported = true;
+    program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_TRUE(on<QRadioButton>(u"optDestAirport"_s).isChecked());
+    EXPECT_EQ(label(u"lblDestMetar"_s), u"KSEA"_s);
+    EXPECT_EQ(on<SkinnedButton>(u"btn_FlyNow"_s).state(), ButtonState::disabled);
+    EXPECT_EQ(support.text(), u"ASv6 Detected and version supported"_s);
+    EXPECT_FALSE(support.isEnabled()) << "there is nothing to fetch";
+    EXPECT_EQ(label(u"lblASv6FileTime"_s), u"ASv6 File Updated 2007/06/14 14:07:00"_s);
+    weather.ASv6VersionOK = weather.FlyNowDisabled = false;
+    program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_EQ(support.text(), u"ASv6 Detected, update required, click to update ASv6"_s);
+    EXPECT_TRUE(support.isEnabled());
+    EXPECT_EQ(on<SkinnedButton>(u"btn_FlyNow"_s).state(), ButtonState::enabled);
+}
+
+TEST_F(WeatherScreenTest, theAgeOfTheReportsStandsBelowThePage) {
+    const FootLine& line = *program.shell.form(u"frm_Main"_s)->findChild<FootLine*>();
+    EXPECT_EQ(line.shown().text, u"No reports yet"_s) << "the two of the table were never loaded";
+    session.adoConn->execute(
+        u"UPDATE DECODED_METAR SET METAR_DATE = '30', METAR_TIME = '2010' WHERE METAR_ICAO = 'KSEA'"_s);
+    clsWxFinders::reload(session);
+    program.install.clock.now = QDateTime(QDate(2007, 5, 30), QTime(21, 14), Qt::UTC);
+    program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_EQ(line.shown().text, u"2 reports, the youngest of 20:10Z 30 May, 64 minutes old"_s);
+    EXPECT_EQ(line.shown().remark, u"Source: no weather server is set"_s);
+    program.press(u"frm_Main"_s, u"btn_About"_s);
+    EXPECT_EQ(line.shown().text, QString());
+}
+
+TEST_F(WeatherScreenTest, aLinkWithoutAnAddressSaysWhereItWouldStand) {
+    QString said;
+    program.whenShown(u"frm_Msg"_s, [&](DialogForm& form) {
+        said = form.findChild<QLabel*>(u"lbl_Message"_s)->text();
+        form.ok();
+    });
+    QTest::mouseClick(&on<LinkLabel>(u"lblASv6Support"_s), Qt::LeftButton);
+    EXPECT_EQ(
+        said,
+        u"There is no address yet. It would stand in the registry value \"ActiveSkyPage\" of Morvane."_s);
+}
+
+TEST_F(WeatherScreenTest, everyKeyOfThePageDoesSomething) {
+    for (const QString& key : {u"flynow"_s, u"selectflight"_s})
+        EXPECT_NE(actionOf(ButtonFamily::LargeButton, page, key), nullptr) << key.toStdString();
+    EXPECT_NE(actionOf(ButtonFamily::StandardButton, page, u"clearfilter"_s), nullptr);
+}
+
+} // namespace
+} // namespace morvane

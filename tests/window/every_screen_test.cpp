@@ -1,0 +1,224 @@
+// What holds on every screen. The build runs this at 100, 150 and 200 per cent.
+
+#include "support/window_program.h"
+
+#include "ui/controls/picture_frame.h"
+#include "ui/controls/skinned_progress_bar.h"
+#include "ui/controls/slider.h"
+#include "ui/host_form.h"
+#include "window/form_table.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QTreeView>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::WindowProgram;
+
+class EveryScreen : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const QString& name : formNames()) {
+            Form* form = program.shell.form(name);
+            if (childPage(name)) program.shell.goToPage(name);
+            if (auto* host = qobject_cast<HostForm*>(form)) host->formatList();
+        }
+    }
+
+    template <class Check>
+    void forEachWidget(Check check) {
+        for (const QString& name : formNames())
+            for (QWidget* widget : program.shell.form(name)->findChildren<QWidget*>())
+                check(*widget, (name + u'.' + widget->objectName()).toStdString());
+    }
+
+    WindowProgram program;
+};
+
+bool isControl(const QWidget& widget) {
+    return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const SkinnedButton*>(&widget) ||
+           qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget) ||
+           (widget.focusPolicy() & Qt::TabFocus && !widget.inherits("QHeaderView"));
+}
+
+bool fits(const QFont& font, const QString& text, const QRect& place, int flags) {
+    const QRect room(place.topLeft(), QSize(place.width(), 10'000));
+    const QSize needed = QFontMetrics(font).boundingRect(room, flags, text).size();
+    // Letters may reach a pixel out of their line without being cut.
+    return needed.width() <= place.width() + 1 && needed.height() <= place.height() + 2;
+}
+
+TEST_F(EveryScreen, namesEachControlForThoseWhoCannotSeeIt) {
+    int controls = 0;
+    forEachWidget([&](const QWidget& widget, const std::string& name) {
+        if (!isControl(widget) || qobject_cast<const Form*>(&widget)) return;
+        ++controls;
+        const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+        EXPECT_FALSE(widget.accessibleName().isEmpty() && (!button || button->text().isEmpty())) << name;
+    });
+    EXPECT_GT(controls, 100);
+}
+
+/// What a screen reader is to call it; nothing for what is no control and no window.
+QAccessible::Role roleOf(const QWidget& widget) {
+    if (qobject_cast<const QCheckBox*>(&widget)) return QAccessible::CheckBox;
+    if (qobject_cast<const QRadioButton*>(&widget)) return QAccessible::RadioButton;
+    if (qobject_cast<const SkinnedButton*>(&widget) || qobject_cast<const QAbstractButton*>(&widget))
+        return QAccessible::Button;
+    if (qobject_cast<const ucSlider*>(&widget)) return QAccessible::Slider;
+    if (qobject_cast<const SkinnedProgressBar*>(&widget)) return QAccessible::ProgressBar;
+    if (qobject_cast<const QComboBox*>(&widget)) return QAccessible::ComboBox;
+    if (qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget))
+        return QAccessible::EditableText;
+    if (qobject_cast<const QTreeView*>(&widget)) return QAccessible::Tree;
+    if (qobject_cast<const PictureFrame*>(&widget)) return QAccessible::Graphic;
+    return QAccessible::NoRole;
+}
+
+TEST_F(EveryScreen, tellsWhatEachControlIsAndWhatCanBeDoneWithIt) {
+    QMap<QAccessible::Role, int> met;
+    forEachWidget([&](QWidget& widget, const std::string& name) {
+        const QAccessible::Role role = roleOf(widget);
+        if (role == QAccessible::NoRole) return;
+        ++met[role];
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&widget);
+        EXPECT_EQ(told->role(), role) << name;
+        EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << name;
+        const auto* key = qobject_cast<const SkinnedButton*>(&widget);
+        const bool isDead = key && key->state() == ButtonState::disabled;
+        EXPECT_EQ(told->state().disabled, isDead || !widget.isEnabled()) << name;
+        if (role == QAccessible::Button && !told->state().disabled) {
+            EXPECT_TRUE(
+                told->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()))
+                << name;
+        }
+        if (const auto* toggle = qobject_cast<const QAbstractButton*>(&widget);
+            toggle && toggle->isCheckable()) {
+            EXPECT_EQ(told->state().checked, toggle->isChecked()) << name;
+        }
+        if (role == QAccessible::Slider || role == QAccessible::ProgressBar) {
+            ASSERT_NE(told->valueInterface(), nullptr) << name;
+            EXPECT_LT(told->valueInterface()->minimumValue().toDouble(),
+                      told->valueInterface()->maximumValue().toDouble());
+        }
+    });
+    EXPECT_EQ(met.size(), 9) << "a kind of control that no screen has";
+}
+
+TEST_F(EveryScreen, isAWindowADialogOrAPage) {
+    for (const QString& name : formNames()) {
+        const Form* form = program.shell.form(name);
+        const QAccessible::Role role = qobject_cast<const DialogForm*>(form) ? QAccessible::Dialog
+                                       : childPage(name)                     ? QAccessible::Pane
+                                                                             : QAccessible::Window;
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(program.shell.form(name));
+        EXPECT_EQ(told->role(), role) << name.toStdString();
+        EXPECT_EQ(told->state().modal, role == QAccessible::Dialog) << name.toStdString();
+    }
+}
+
+/// As assistive programs do it.
+TEST_F(EveryScreen, actsOnWhatIsAskedOfItsControls) {
+    auto* key = QAccessible::queryAccessibleInterface(
+        &program.control<SkinnedButton>(u"frm_Main"_s, u"btn_MainLinks"_s));
+    key->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(program.shell.form(u"frm_Links"_s)->isVisible());
+    EXPECT_TRUE(key->state().disabled) << "the page one is on";
+    auto& slider = program.control<ucSlider>(u"frm_GroundColorize"_s, u"vcRed"_s);
+    auto* told = QAccessible::queryAccessibleInterface(&slider);
+    told->valueInterface()->setCurrentValue(-500);
+    EXPECT_EQ(slider.value(), -100);
+    told->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    EXPECT_EQ(told->valueInterface()->currentValue().toInt(), -99);
+}
+
+TEST_F(EveryScreen, hasRoomForEachText) {
+    int texts = 0;
+    forEachWidget([&](const QWidget& widget, const std::string& name) {
+        if (const auto* label = qobject_cast<const QLabel*>(&widget); label && !label->text().isEmpty()) {
+            ++texts;
+            const int flags = label->wordWrap() ? int(Qt::TextWordWrap) : 0;
+            EXPECT_TRUE(fits(label->font(), label->text(), label->rect(), flags))
+                << name << ": " << label->text().toStdString();
+        }
+        if (const auto* key = qobject_cast<const SkinnedButton*>(&widget);
+            key && !key->ButtonText().isEmpty()) {
+            ++texts;
+            for (const QString& line : key->ButtonText().split(u'\n'))
+                EXPECT_TRUE(fits(key->captionFont(), line, key->captionPlace(), 0))
+                    << name << ": " << line.toStdString();
+        }
+    });
+    EXPECT_GT(texts, 100);
+}
+
+TEST_F(EveryScreen, keepsItsControlsOffTheFootOfADialogsPaper) {
+    constexpr int bandOfKeys = 70, margin = 4;
+    for (const QString& name : formNames()) {
+        const auto* dialog = qobject_cast<DialogForm*>(program.shell.form(name));
+        if (!dialog) continue;
+        const int foot = dialog->height() - bandOfKeys;
+        for (const auto* widget : dialog->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            EXPECT_TRUE(widget->y() >= foot || widget->geometry().bottom() < foot - margin)
+                << (name + u'.' + widget->objectName()).toStdString();
+    }
+}
+
+TEST_F(EveryScreen, hasRoomForTheLongestMessages) {
+    const QString texts[] = {u"Morvane has detected that you have 'Mostly Cloudy' Ground Texture Set "
+                             u"installed and 'Mostly Cloudy' Sky "
+                             "Texture Set installed. Please select the check button if you wish to reset "
+                             "Morvane textures to a nominal "
+                             "weather condition of Partly Cloudy before exiting."_s,
+                             u"ASv6.exe could not be detected at the path found in your registry setting. "
+                             u"Please check that the computer "
+                             "where ASv6 is installed is switched on or that the path D:\\Program "
+                             "Files\\HiFi Simulations\\ASv6 actually "
+                             "exists"_s};
+    for (const QString& text : texts) {
+        program.whenShown(u"frm_Msg"_s, [&](DialogForm& dialog) {
+            const auto& label = program.control<QLabel>(u"frm_Msg"_s, u"lbl_Message"_s);
+            EXPECT_TRUE(fits(label.font(), text, label.rect(), Qt::TextWordWrap)) << text.toStdString();
+            dialog.ok();
+        });
+        program.user.showMessage({MessageKind::information, u"Reset MV Textures?"_s, text});
+    }
+}
+
+TEST_F(EveryScreen, opensWhollyOnTheScreen) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    Form* main = program.shell.form(u"frm_Main"_s);
+    main->hide();
+    main->move(-300, 5000);
+    main->show();
+    EXPECT_TRUE(room.contains(main->geometry().topLeft()));
+    if (room.width() >= main->width() && room.height() >= main->height()) {
+        EXPECT_TRUE(room.contains(main->geometry()));
+    }
+}
+
+TEST_F(EveryScreen, isReachedByTheTabulatorKeyByKey) {
+    program.shell.goToPage(u"frm_About"_s);
+    Form* main = program.shell.form(u"frm_Main"_s);
+    main->activateWindow();
+    QStringList visited;
+    for (int i = 0; i < 60; ++i) {
+        QTest::keyClick(main->focusWidget() ? main->focusWidget() : main, Qt::Key_Tab);
+        if (main->focusWidget()) visited << main->focusWidget()->objectName();
+    }
+    for (const QString& name : {u"btn_Home"_s, u"btn_MainLinks"_s, u"btn_Exit"_s})
+        EXPECT_TRUE(visited.contains(name)) << name.toStdString();
+    EXPECT_FALSE(visited.contains(u"btn_About"_s)) << "the key of the page one is on is dead";
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,79 @@
+#include "core/store_connection.h"
+#include "window/first_start.h"
+
+#include "support/small_install.h"
+#include "ui/dialog_form.h"
+#include "ui/skin.h"
+#include "window/program.h"
+#include "window/window_shell.h"
+#include "window/window_user.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+TEST(FirstStart, leavesNothingWhenItIsCancelled) {
+    const test::TemporaryFolder folder;
+    const QString home = (folder / u"Deep\\Morvane").native();
+    QTimer timer;
+    timer.callOnTimeout([] {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* progress = qobject_cast<QProgressDialog*>(window); progress && progress->isVisible())
+                progress->findChild<QPushButton*>()->click();
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            ADD_FAILURE() << box->text().toStdString(), box->accept();
+    });
+    timer.start(0);
+    EXPECT_FALSE(makeInstallFolder(home));
+    EXPECT_TRUE(
+        QDir((folder / u"Deep").native()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
+}
+
+TEST(FirstStart, withAStoreThatIsNoneSaysSoOnceAndKeepsItsFirstRunForLater) {
+    test::SmallInstall install;
+    closeDatabase(install.session);
+    test::writeFile(install.home() / u"Morvane.mdb", QByteArray("no store at all ").repeated(500));
+    const std::pair<QString, QString> values[] = {{u"FirstTime"_s, u"True"_s},
+                                                  {u"NonEnglishPath"_s, install.folder.path().native()}};
+    for (const auto& [name, text] : values)
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, text);
+    WindowUser user;
+    Session session({user, install.files, install.clock, install.random, install.registry}, install.home());
+    Skin skin(install.files, install.home() / u"Media");
+    WindowShell shell(session, skin);
+    user.setShell(&shell);
+    QStringList told;
+    QTimer timer;
+    timer.callOnTimeout([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        auto* message = qobject_cast<DialogForm*>(shell.loadedForm(u"frm_Msg"_s));
+        const Form* mainWindow = shell.loadedForm(u"frm_Main"_s);
+        if (box) {
+            told << box->text();
+            box->accept();
+        } else if (message && message->isVisible()) {
+            told << message->findChild<QLabel*>(u"lbl_Message"_s)->text();
+            message->ok();
+        } else if (mainWindow && mainWindow->isVisible()) {
+            EXPECT_FALSE(mainWindow->findChild<QLabel*>(u"lblWideFS"_s)->isVisible()) << "a claim";
+            QCoreApplication::exit(0);
+        }
+    });
+    timer.start(0);
+    EXPECT_EQ(runProgram(shell, {}), 0);
+    ASSERT_EQ(told.size(), 2) << told.join(u'\n').toStdString();
+    EXPECT_TRUE(told[0].contains(u"file is not a database"_s));
+    EXPECT_TRUE(told[1].startsWith(u"These files of the skin are missing"_s));
+    EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s), "True");
+}
+
+} // namespace
+} // namespace morvane

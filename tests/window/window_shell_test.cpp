@@ -1,0 +1,417 @@
+#include "app/exit_flow.h"
+#include "core/store_connection.h"
+#include "ground/ground_selection.h"
+#include "ground/texture_sets.h"
+#include "support/window_program.h"
+#include "weather/weather_state.h"
+
+#include "core/job.h"
+#include "core/store.h"
+#include "ground/ground_generation.h"
+#include "ground/ground_sets.h"
+#include "ground/screens/ground_sets_screen.h"
+#include "imaging/window_region.h"
+#include "ui/controls/foot_line.h"
+#include "ui/controls/palette.h"
+#include "ui/host_form.h"
+#include "window/form_table.h"
+
+#include <QDesktopServices>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPushButton>
+#include <QTimer>
+#include <QUrl>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+using test::WindowProgram;
+
+class ShellTest : public testing::Test {
+protected:
+    WindowProgram program;
+    WindowShell& shell = program.shell;
+
+    QString labelText(const QString& name) { return program.control<QLabel>(u"frm_Main"_s, name).text(); }
+    /// Keys of the medium buttons that are "disabled", which marks the page one is on.
+    QStringList markedKeys(const QString& window) {
+        QStringList marked;
+        for (const SkinnedButton* key : shell.form(window)->findChildren<SkinnedButton*>())
+            if (key->family() == ButtonFamily::MediumButton && key->state() == ButtonState::disabled)
+                marked << key->button_type();
+        return marked;
+    }
+};
+
+TEST_F(ShellTest, swapsPagesWithOneChildAWindow) {
+    program.press(u"frm_Main"_s, u"btn_About"_s);
+    program.press(u"frm_Main"_s, u"btn_MainLinks"_s);
+    EXPECT_EQ(shell.CurrentChildScreen, u"frm_Links"_s);
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"links"_s});
+    const Form* links = shell.loadedForm(u"FRM_LINKS"_s);
+    EXPECT_EQ(links->parentWidget(), shell.form(u"frm_Main"_s));
+    EXPECT_TRUE(links->isVisible());
+    const Form* about = shell.loadedForm(u"frm_About"_s);
+    EXPECT_EQ(about->parentWidget(), nullptr) << "it got its former parent back";
+    EXPECT_FALSE(about->isVisible());
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_EQ(links->parentWidget(), nullptr);
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
+}
+
+/// A page in front of another one hides it: nothing of it can be reached or read.
+TEST_F(ShellTest, showsOnePageOfAWindowAtATime) {
+    const auto& ownKey = program.control<SkinnedButton>(u"frm_Main"_s, u"btn_GroundInstall"_s);
+    EXPECT_TRUE(ownKey.isVisible());
+    for (const QString& key : {u"btn_About"_s, u"btn_Switcher"_s}) {
+        program.press(u"frm_Main"_s, key);
+        EXPECT_FALSE(ownKey.isVisible()) << key.toStdString();
+    }
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_TRUE(ownKey.isVisible());
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    const auto& listKey = program.control<SkinnedButton>(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+    EXPECT_TRUE(listKey.isVisible());
+    program.press(u"frm_MVTextures"_s, u"btn_Ground"_s);
+    EXPECT_FALSE(listKey.isVisible());
+    program.press(u"frm_MVTextures"_s, u"btn_TextureSets"_s);
+    EXPECT_TRUE(listKey.isVisible());
+}
+
+TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
+    program.press(u"frm_Main"_s, u"btn_FlightConfig"_s);
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    program.press(u"frm_MVTextures"_s, u"btn_Main"_s);
+    const Form* weather = shell.loadedForm(u"frm_WxControl"_s);
+    EXPECT_TRUE(weather->isVisible());
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"flight config"_s});
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_FALSE(weather->isVisible());
+    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
+    EXPECT_TRUE(program.control<SkinnedButton>(u"frm_Main"_s, u"btn_GroundInstall"_s).isVisible());
+}
+
+/// The keyboard is on the page and not on the key that led to it, and no window is a stop of its own.
+TEST_F(ShellTest, givesEachPageAFirstFocus) {
+    const std::pair<QString, QString> pages[] = {{u"frm_WxControl"_s, u"txtICAO"_s},
+                                                 {u"frm_Switcher"_s, u"chkWideFS"_s},
+                                                 {u"frm_Config"_s, u"lstMVMain"_s},
+                                                 {u"frm_About"_s, u"btn_Home"_s},
+                                                 {u"frm_MVTextures"_s, u"lstTextureSets"_s},
+                                                 {u"frm_GroundColorize"_s, u"optCloudCover0"_s},
+                                                 {u"frm_KMTextures"_s, u"lstSkyTextureSets"_s},
+                                                 {u"frm_NightTextures"_s, u"lstTextureSets"_s}};
+    for (const auto& [page, control] : pages) {
+        if (childPage(page))
+            shell.goToPage(page);
+        else
+            shell.showHost(page);
+        const QWidget* window = shell.form(page)->window();
+        ASSERT_NE(window->focusWidget(), nullptr) << page.toStdString();
+        EXPECT_EQ(window->focusWidget()->objectName(), control) << page.toStdString();
+        EXPECT_EQ(window->focusPolicy(), Qt::NoFocus);
+    }
+    shell.goHome();
+    EXPECT_EQ(shell.form(u"frm_Main"_s)->focusWidget()->objectName(), u"btn_GroundInstall"_s);
+}
+
+TEST_F(ShellTest, attachesAPageAnewThatStandsThere) {
+    shell.goToPage(u"frm_Config"_s);
+    const Form* page = shell.loadedForm(u"frm_Config"_s);
+    shell.showChildScreen(u"frm_Config"_s);
+    EXPECT_EQ(shell.loadedForm(u"frm_Config"_s), page) << "the same instance";
+    EXPECT_TRUE(page->isVisible());
+    shell.hideChildScreen(u"frm_nobody"_s);
+    EXPECT_TRUE(page->isVisible());
+    shell.hideChildScreen(u"FRM_CONFIG"_s);
+    EXPECT_FALSE(page->isVisible());
+}
+
+TEST_F(ShellTest, ignoresTheKeyOfThePageOneIsOn) {
+    shell.goToPage(u"frm_About"_s);
+    shell.CurrentChildScreen = u"untouched"_s;
+    program.press(u"frm_Main"_s, u"btn_About"_s);
+    EXPECT_EQ(shell.CurrentChildScreen, u"untouched"_s);
+}
+
+TEST_F(ShellTest, putsAListWindowInTheMainWindowsPlaceAndBack) {
+    Form* main = shell.form(u"frm_Main"_s);
+    const std::pair<QString, QString> hosts[] = {{u"btn_MVTextures"_s, u"frm_MVTextures"_s},
+                                                 {u"btn_KMTextures"_s, u"frm_KMTextures"_s},
+                                                 {u"btn_NightTextures"_s, u"frm_NightTextures"_s}};
+    for (const auto& [key, name] : hosts) {
+        program.press(u"frm_Main"_s, key);
+        EXPECT_FALSE(main->isVisible());
+        auto& host = shell.screen<HostForm>(name);
+        EXPECT_TRUE(host.isVisible());
+        program.press(name, u"btn_Ground"_s);
+        EXPECT_EQ(shell.loadedForm(host.colourPage())->parentWidget(), &host);
+        EXPECT_EQ(markedKeys(name).size(), 1);
+        program.press(name, u"btn_TextureSets"_s);
+        EXPECT_FALSE(shell.loadedForm(host.colourPage())->isVisible());
+        program.press(name, u"btn_Main"_s);
+        EXPECT_TRUE(main->isVisible());
+        EXPECT_FALSE(host.isVisible());
+    }
+}
+
+TEST_F(ShellTest, countsSetsByCoverAndNamesTheInstalledOne) {
+    program.install.addGroundSet(u"7-Fair"_s, u"Sky Clear"_s, true);
+    program.install.addGroundSet(u"8-Fair"_s, u"Sky Clear"_s, false);
+    program.install.addGroundSet(u"9-Grey"_s, u"Overcast"_s, true);
+    refreshGroundSets(program.session);
+    program.session.rows<clsTextureSets>()->markInstalled(u"9-Grey"_s);
+    shell.refreshMainStatus();
+    EXPECT_EQ(labelText(u"lblGroundSkcValue"_s), u"2"_s);
+    EXPECT_EQ(labelText(u"lblGroundSkcActivatedValue"_s), u"1"_s);
+    EXPECT_EQ(labelText(u"lblCurrentTSName"_s), u"9-Grey"_s);
+    EXPECT_EQ(labelText(u"lblGroundCloudValue"_s), u"Overcast"_s);
+    EXPECT_EQ(labelText(u"lblBackupValue"_s), u"No backups created yet"_s);
+    const QString activated = labelText(u"lblGroundActivatedValue"_s);
+    EXPECT_EQ(
+        labelText(u"lblGroundTextureSets"_s),
+        u"Currently you have "_s + activated +
+            u" sets active and the more sets you create for each cloud type (weather condition) the more "
+            "variety you will enjoy in game"_s);
+}
+
+TEST_F(ShellTest, tellsOfAWideClientOnTheStatusPage) {
+    const QLabel& notice = program.control<QLabel>(u"frm_Main"_s, u"lblWideFS"_s);
+    EXPECT_FALSE(notice.isVisible());
+    program.session.state<OptionsInForce>().IsWideClient = true;
+    shell.refreshMainStatus();
+    EXPECT_TRUE(notice.isVisible());
+}
+
+TEST_F(ShellTest, startsWithoutASkinAndSaysSoOnce) {
+    EXPECT_FALSE(program.skin.missing().isEmpty());
+    EXPECT_TRUE(shell.form(u"frm_Main"_s)->mask().isEmpty()) << "a plain window";
+    EXPECT_FALSE(shell.form(u"frm_Main"_s)->windowFlags() & Qt::FramelessWindowHint);
+    shell.reportMissingSkin(); // would wait for an answer that never comes
+}
+
+/// A picture of twice the size has a finer edge than the outline; what shows between them must not be white.
+TEST_F(ShellTest, isDarkUpToItsOutline) {
+    QImage picture(880, 580, QImage::Format_RGB888);
+    picture.fill(qRgb(255, 0, 255));
+    QPainter(&picture).fillRect(picture.rect().adjusted(2, 2, -2, -2), QColor::fromRgb(palette::bezel));
+    const FilePath media = program.install.home() / u"Media";
+    ASSERT_TRUE(picture.save((media / u"MVSkyInterface.bmp").native()));
+    WindowRegion whole{picture.rect(), {picture.rect()}};
+    test::writeFile(media / u"MainRegion.dat", writeWindowRegion(whole));
+    const QImage shown = shell.form(u"frm_KMTextures"_s)->grab().toImage();
+    EXPECT_EQ(shown.pixel(0, 0), palette::outline);
+    EXPECT_EQ(shown.pixel(shown.width() / 2, shown.height() - 8), palette::bezel);
+}
+
+/// A page's own text goes and comes with the page; what a job said is on whichever window is shown next.
+TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
+    const auto lineOf = [this](const QString& window) {
+        return shell.form(window)->findChild<FootLine*>()->shown().text;
+    };
+    shell.goToPage(u"frm_About"_s);
+    shell.screen<PageForm>(u"frm_About"_s).setFootText({u"a text of its own"_s});
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
+    shell.goToPage(u"frm_Links"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
+    shell.goToPage(u"frm_About"_s);
+    program.press(u"frm_Main"_s, u"btn_Home"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
+    shell.goToPage(u"frm_About"_s);
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
+
+    for (const QString& window : windowNames)
+        shell.form(window);
+    program.user.tellDone({u"2 texture sets deleted"_s});
+    for (const QString& window : windowNames)
+        EXPECT_EQ(lineOf(window), u"2 texture sets deleted"_s);
+    QTest::mouseClick(shell.form(u"frm_Main"_s), Qt::RightButton);
+    EXPECT_EQ(lineOf(u"frm_MVTextures"_s), QString());
+    EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
+}
+
+TEST_F(ShellTest, saysOnItsKeyThatALinkHasNoAddress) {
+    shell.goToPage(u"frm_Links"_s);
+    const auto keys = shell.form(u"frm_Links"_s)->findChildren<QPushButton*>();
+    EXPECT_EQ(keys.first()->text(), u"No address"_s);
+    EXPECT_FALSE(keys.first()->isEnabled());
+    EXPECT_TRUE(keys.last()->isEnabled());
+    for (const QString& address : {u"file:///etc/passwd"_s, u"javascript:1"_s, u""_s, u"C:\\x.exe"_s})
+        EXPECT_FALSE(isWebAddress(address));
+}
+
+/// What a process does, from its main loop on. A box that comes is answered with that button.
+class ExitTest : public ShellTest {
+protected:
+    void leave(const std::function<void()>& action) {
+        QTimer::singleShot(0, &shell, action);
+        QApplication::exec();
+        exitProgram(program.session);
+    }
+    void answerBox(QMessageBox::StandardButton answer) {
+        auto* timer = new QTimer(&shell);
+        QObject::connect(timer, &QTimer::timeout, timer, [this, timer, answer] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            timer->deleteLater();
+            boxes << box->windowTitle();
+            box->button(answer)->click();
+        });
+        timer->start(0);
+    }
+    void closeMain() { shell.form(u"frm_Main"_s)->close(); }
+
+    QStringList boxes;
+};
+
+TEST_F(ExitTest, everyRoadOutLeavesTheMainLoopAndClosesTheStore) {
+    SkinnedButton& key = program.control<SkinnedButton>(u"frm_Main"_s, u"btn_Exit"_s);
+    const std::function<void()> roads[] = {
+        [&] { QTest::mouseClick(&key, Qt::LeftButton); },
+        [&] { QTest::keyClick(&key, Qt::Key_Space); },
+        [&] { closeMain(); },
+        [&] {
+            program.press(u"frm_Main"_s, u"btn_NightTextures"_s);
+            program.press(u"frm_NightTextures"_s, u"btn_Exit"_s);
+        },
+        [&] { shell.endWithSession(); }, // the last, as nothing leads back from it
+    };
+    for (const auto& road : roads) {
+        program.session.ExitInProgress.moveTo(ExitStage::running);
+        if (!program.session.adoConn) connectDatabase(program.session);
+        leave(road);
+        EXPECT_EQ(program.session.adoConn, nullptr);
+    }
+}
+
+TEST_F(ExitTest, aRunningJobIsLeftBehindAQuestionAndNothingMoreIsAsked) {
+    leave([&] {
+        const Job job(program.session);
+        program.user.showMessage({MessageKind::progress, u"Working"_s, u"x"_s, false, true, true});
+        answerBox(QMessageBox::Cancel);
+        shell.form(u"frm_Msg"_s)->close();
+        EXPECT_FALSE(job.isCancelled());
+        answerBox(QMessageBox::Ok);
+        closeMain();
+        EXPECT_TRUE(job.isCancelled());
+        program.user.hideMessage();
+        EXPECT_FALSE(program.user.ask(Question::launch, u"t"_s, u"nobody answers this"_s));
+        EXPECT_FALSE(program.user.systemBox(u"nor this"_s, {}, SystemBoxButtons::yesNo));
+        program.user.showMessage({MessageKind::exclamation, u"t"_s, u"nor is this read"_s});
+        EXPECT_FALSE(program.user.isMessageVisible());
+        program.user.showModal(Screen::frm_TsRequired);
+        EXPECT_FALSE(program.session.state<GroundSetCounts>().setCountsConfirmed);
+    });
+    EXPECT_EQ(boxes, QStringList(2, u"Exit Morvane?"_s));
+}
+
+/// Dialogs and messages stand on each other, each in a loop of its own; the wait for Active Sky below.
+TEST_F(ExitTest, whatWaitsForAnAnswerGetsANo) {
+    bool isConfirmed = true, hasAnswered = false;
+    leave([&] {
+        program.whenShown(u"frm_TsRequired"_s, [&](DialogForm&) {
+            program.whenShown(u"frm_Msg"_s, [&](DialogForm&) { shell.exitProgram(); });
+            isConfirmed = program.user.ask(Question::backup, u"t"_s, u"x"_s);
+            hasAnswered = true;
+        });
+        GroundGeneration(program.session).createTextureSets(true);
+        EXPECT_TRUE(hasAnswered);
+    });
+    EXPECT_FALSE(isConfirmed || program.session.state<GroundSetCounts>().setCountsConfirmed);
+    EXPECT_EQ(program.session.adoConn, nullptr);
+}
+
+TEST_F(ExitTest, theWaitForActiveSkyIsLeftByItsMainWindowAndBehindAQuestionByItsMessage) {
+    for (const bool byMessage : {true, false}) {
+        program.session.ExitInProgress.moveTo(ExitStage::running);
+        if (!program.session.adoConn) connectDatabase(program.session);
+        leave([&] {
+            program.session.state<WeatherState>().ASv6Busy = true;
+            program.user.showMessage({MessageKind::progress, u"Waiting"_s, u"x"_s, false, true, true});
+            if (byMessage) answerBox(QMessageBox::Ok);
+            shell.form(byMessage ? u"frm_Msg"_s : u"frm_Main"_s)->close();
+            program.session.state<WeatherState>().ASv6Busy = false;
+            program.user.hideMessage();
+        });
+        EXPECT_EQ(boxes, QStringList{u"Exit Morvane?"_s});
+    }
+}
+
+/// Two programs, as two sessions on one store: the other one is the install's own.
+TEST_F(ShellTest, aKeyWaitsForASecondClickWhenItsListHasChanged) {
+    const int storm = program.install.addGroundSet("2-Storm", "Overcast", true);
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    program.shell.screen<frm_MVTextures>(u"frm_MVTextures"_s).selectSetRow(2);
+    EXPECT_EQ(program.session.state<GroundSelection>().SelectedGroundSet, u"2-Storm"_s);
+    program.install.session.adoConn->execute(u"DELETE FROM TEXTURE_SETS WHERE ID = "_s +
+                                             QString::number(storm));
+    program.confirmNext(u"frm_Msg"_s);
+    program.press(u"frm_MVTextures"_s, u"btn_TextureInstall"_s);
+    EXPECT_EQ(program.session.state<GroundSelection>().SelectedGroundSet, u"Default"_s);
+    EXPECT_TRUE(program.install.installedSets().isEmpty());
+    program.install.addGroundSet("3-Calm", "Mostly Clear", true);
+    bool isAsked = false;
+    program.whenShown(u"frm_TsRequired"_s, [&](DialogForm& dialog) {
+        isAsked = true;
+        dialog.cancel();
+    });
+    program.press(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+    EXPECT_TRUE(isAsked) << "new sets are made whatever the list shows";
+}
+
+/// Stands for the program that opens addresses.
+struct Browser : QObject {
+    Q_OBJECT
+public:
+    Q_SLOT void open(const QUrl& address) { opened << address.toString(); }
+    QStringList opened;
+};
+
+TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
+    const QString help = (program.install.home() / u"MV Help\\index.html").native();
+    test::writeFile(program.install.home() / u"MV Help\\index.html", "help");
+    program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"UpdateServer"_s,
+                                          u"http://updates.example.org"_s);
+    QCoreApplication::setApplicationVersion(u"2.1.0"_s);
+    const QString update = u"http://updates.example.org/updates.asp?product=Morvane&version=2.1.0"_s;
+    const QString noProgram = u"There is no program here that opens "_s;
+    struct Case {
+        std::function<void()> open;
+        QString address, said; ///< what a browser gets, and what is said where there is none
+    };
+    const Case cases[] = {
+        {[&] { shell.openHelp(); }, u"file://"_s + help, noProgram + help},
+        {[&] { shell.openWebPage(u"https://example.org/"_s); }, u"https://example.org/"_s,
+         noProgram + u"https://example.org/"_s},
+        {[&] { shell.openUpdatePage(); }, update, noProgram + update},
+        {[&] { shell.openWebPage(u"file:///etc/passwd"_s, u"HomePage"_s); },
+         {},
+         u"There is no address yet. It would stand in the registry value \"HomePage\" of Morvane."_s},
+    };
+    Browser browser;
+    for (const Case& each : cases) {
+        QString said;
+        program.whenShown(u"frm_Msg"_s, [&](DialogForm& form) {
+            said = form.findChild<QLabel*>(u"lbl_Message"_s)->text();
+            form.ok();
+        });
+        each.open();
+        EXPECT_EQ(said, each.said);
+        if (each.address.isEmpty()) continue;
+        for (const QString& scheme : {u"http"_s, u"https"_s, u"file"_s})
+            QDesktopServices::setUrlHandler(scheme, &browser, "open");
+        each.open();
+        EXPECT_EQ(browser.opened.takeLast(), each.address);
+        for (const QString& scheme : {u"http"_s, u"https"_s, u"file"_s})
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+}
+
+} // namespace
+} // namespace morvane
+
+#include "sets/options_in_force.h"
+#include "shell_test.moc" // of the browser
