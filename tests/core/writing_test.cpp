@@ -4,7 +4,10 @@
 #include "core/changed_rows.h"
 #include "core/job.h"
 #include "core/store.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
+#include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -86,7 +89,7 @@ TEST_F(WritingTest, rowsThatAnotherProgramChangedAreReadAnew) {
     first.reset();
     const Job job(second);
     EXPECT_EQ(second.rows<clsTextureSets>()->Count(), 2);
-    EXPECT_TRUE(second.IsHalo && second.RefreshGroundList);
+    EXPECT_TRUE(second.state<OptionsInForce>().IsHalo && second.state<GroundSelection>().RefreshGroundList);
     EXPECT_FALSE(reloadChangedRows(second)) << "once";
     second.adoConn->execute(u"UPDATE TEXTURE_SWITCH SET ISHALO = FALSE"_s);
     EXPECT_FALSE(reloadChangedRows(second)) << "its own writes are known to it";

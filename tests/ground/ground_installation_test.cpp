@@ -122,7 +122,7 @@ TEST_F(GroundInstall, readOnlyTargetsRaiseAndLinksAreReplaced) {
 TEST_F(GroundInstall, severalSelectedRowsAreRefused) {
     clickGroundRow(session, "2-Storm");
     session.state<GroundSelection>().selectedRows = QStringList{"2-Storm", "Default"};
-    GroundInstallation(session).installTextureSet(false);
+    EXPECT_FALSE(GroundInstallation(session).installTextureSet(false));
     EXPECT_TRUE(install.installedSets().isEmpty());
     EXPECT_EQ(install.user.told().value(0),
               "Exclamation|Multiple Selection Detetected!|Morvane has detected more than one selection for "

@@ -27,17 +27,18 @@ struct SkyInstall : testing::Test {
     Session& session = install.session;
 
     void SetUp() override {
-        install.user.answersToGive = {true}; // the match is wanted, the simulator's start is not
+        install.user.answersToGive = {true}; // the match is wanted
         install.user.otherwise = false;
         install.addSkySet("1-Storm", "Overcast", true, {"cloud.bmp", "SKY_1.BMP", "notes.txt"});
         writeFile(install.simulator() / u"Texture\\sky_1.bmp", "the pilot's sky");
         writeFile(install.simulator() / u"Texture\\sky_2.bmp", "the pilot's second sky");
     }
-    void installSky(const QString& name, bool automatic = true) {
+    /// Whether the start of the simulator is to be offered.
+    bool installSky(const QString& name, bool automatic = true) {
         session.state<SkySelection>().SelectedSkySet = name;
         if (const auto record = findSkySet(session, name))
             session.state<SkySelection>().SelectedSkyCover = record->CloudCover;
-        SkyInstallation(session).installSkySet(automatic);
+        return SkyInstallation(session).installSkySet(automatic);
     }
     QByteArray texture(const char16_t* name) { return readFile(install.simulator() / u"Texture" / name); }
     QByteArray splash() { return readFile(install.simulator() / u"Uires\\dlgsplash.bmp"); }
@@ -130,9 +131,9 @@ TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
     session.state<SkySelection>().RefreshSkyList = false;
     install.user.calls.clear();
     install.user.messages.clear();
-    installSky("1-Storm", false);
+    EXPECT_FALSE(installSky("1-Storm", false)) << "no start of the simulator is offered";
     EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
-    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1) << "no start of the simulator is offered";
+    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1);
     EXPECT_FALSE(install.user.calls.contains("refresh frm_Main"));
 }
 
@@ -145,7 +146,8 @@ TEST_F(SkyInstall, aStoreThatRefusesEndsAnInstallByHand) {
             install.user.messages.clear();
             install.user.answersToGive = {true};
             clickGroundRow(session, "2-A");
-            isSky ? installSky("1-Storm", false) : GroundInstallation(session).installTextureSet(false);
+            EXPECT_FALSE(isSky ? installSky("1-Storm", false)
+                               : GroundInstallation(session).installTextureSet(false));
             EXPECT_EQ(install.user.told().size(), 2) << refusing << isSky << ": question and failure alone";
             EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1) << refusing << isSky;
             session.adoConn->execute(u"DROP TRIGGER T"_s);
@@ -168,7 +170,7 @@ TEST_F(SkyInstall, theMatchingGroundIsDrawnButNeverTheLast) {
 
 TEST_F(SkyInstall, withoutAGroundOfTheCoverDefaultIsInstalled) {
     install.addGroundSet("2-A", "Overcast", false);
-    installSky("1-Storm", false);
+    EXPECT_TRUE(installSky("1-Storm", false)) << "the start of the simulator is offered next";
     EXPECT_EQ(install.installedSets(), QStringList{"Default"});
     EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
     EXPECT_EQ(splash(), "splash OVC") << "the sky goes in last";
