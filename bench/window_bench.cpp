@@ -243,7 +243,7 @@ void startingWithAFullCycle(benchmark::State& state) {
     for (auto round : state) {
         const Program program(benchHome());
         if (!program.isStarted) state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
-        state.counters["reports"] = program.session.rows<clsWxFinders>()->Count();
+        state.counters["reports"] = program.session.state<std::unique_ptr<clsWxFinders>>()->Count();
     }
 }
 BENCHMARK(startingWithAFullCycle)->Unit(benchmark::kMillisecond)->Iterations(5);

@@ -1,14 +1,14 @@
+#include "app/start_up.h"
+
 #include "app/command_line_run.h"
 #include "app/exit_flow.h"
-#include "app/start_up.h"
-#include "core/store_connection.h"
-#include "weather/cover_choice.h"
-
 #include "core/store.h"
+#include "core/store_connection.h"
 #include "ground/ground_sets.h"
 #include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"
+#include "weather/cover_choice.h"
 
 #include <gtest/gtest.h>
 

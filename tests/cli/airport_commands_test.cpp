@@ -1,6 +1,5 @@
 #include "cli/console.h"
 #include "core/store_connection.h"
-
 #include "support/printing.h"
 #include "weather/directory_rows.h"
 #include "weather/stored_reports.h"

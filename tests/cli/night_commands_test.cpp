@@ -1,6 +1,5 @@
 #include "cli/console.h"
 #include "core/store_connection.h"
-
 #include "support/night_install.h"
 #include "support/printing.h"
 

@@ -1,7 +1,6 @@
 #include "cli/console.h"
-#include "core/store_connection.h"
-
 #include "core/row_set.h"
+#include "core/store_connection.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 

@@ -1,8 +1,7 @@
 #include "cli/console.h"
 #include "core/store_connection.h"
-#include "weather/stored_reports.h"
-
 #include "support/printing.h"
+#include "weather/stored_reports.h"
 
 #include <gtest/gtest.h>
 

@@ -8,11 +8,10 @@
 #include "simulator/configs.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
-#include "weather/wx_finders.h"
-
 #include "support/faulty_store.h"
 #include "support/scripted_services.h"
 #include "support/scripted_user.h"
+#include "weather/wx_finders.h"
 
 namespace morvane {
 namespace {

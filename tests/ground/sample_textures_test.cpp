@@ -1,6 +1,6 @@
 #include "ground/sample_textures.h"
-#include "sets/sample_choice.h"
 
+#include "sets/sample_choice.h"
 #include "support/printing.h"
 
 #include <QSet>

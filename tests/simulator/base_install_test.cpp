@@ -1,14 +1,14 @@
-#include "core/row_set.h"
-#include "ground/texture_sets.h"
-#include "night/night_texture_sets.h"
 #include "simulator/base_install.h"
+
+#include "core/row_set.h"
+#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
+#include "night/night_selection.h"
+#include "night/night_texture_sets.h"
 #include "simulator/configs.h"
 #include "support/night_install.h"
 #include "support/printing.h"
-
-#include "ground/ground_selection.h"
-#include "ground/ground_sets.h"
-#include "night/night_selection.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "core/flights_folder.h"
 #include "simulator/options.h"
 
 #include "core/error.h"
+#include "core/flights_folder.h"
 #include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"

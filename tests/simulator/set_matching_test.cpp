@@ -1,14 +1,14 @@
-#include "ground/ground_selection.h"
 #include "simulator/set_matching.h"
-#include "sky/sky_selection.h"
-#include "weather/cover_choice.h"
 
 #include "core/error.h"
 #include "core/store.h"
+#include "ground/ground_selection.h"
 #include "sets/cloud_cover.h"
+#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "support/printing.h"
 #include "support/small_install.h"
+#include "weather/cover_choice.h"
 
 #include <gtest/gtest.h>
 

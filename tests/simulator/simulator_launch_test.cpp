@@ -1,5 +1,4 @@
 #include "simulator/simulator_launch.h"
-#include "weather/cover_choice.h"
 
 #include "core/program_start.h"
 #include "sets/options_in_force.h"
@@ -7,6 +6,7 @@
 #include "start_record.h"
 #include "support/printing.h"
 #include "support/small_install.h"
+#include "weather/cover_choice.h"
 
 #include <QDeadlineTimer>
 #include <QDir>

@@ -1,9 +1,9 @@
-#include "core/store_connection.h"
 #include "simulator/upgrade.h"
 
 #include "app/start_up.h"
 #include "core/row_set.h"
 #include "core/store.h"
+#include "core/store_connection.h"
 #include "ground/ground_sets.h"
 #include "support/faulty_store.h"
 #include "support/printing.h"

@@ -1,5 +1,4 @@
 #include "sky/sky_generation.h"
-#include "sky/sky_texture_sub_sets.h"
 
 #include "core/store.h"
 #include "imaging/picture_reader.h"
@@ -7,6 +6,7 @@
 #include "sky/sky_groups.h"
 #include "sky/sky_install.h"
 #include "sky/sky_selection.h"
+#include "sky/sky_texture_sub_sets.h"
 #include "sky/sky_tuning_state.h"
 #include "support/printing.h"
 

@@ -3,6 +3,7 @@
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "sets/options_in_force.h"
+#include "simulator/simulator_launch.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
@@ -27,18 +28,22 @@ struct SkyInstall : testing::Test {
     Session& session = install.session;
 
     void SetUp() override {
-        install.user.answersToGive = {true}; // the match is wanted
+        install.user.answersToGive = {true}; // the match is wanted, the simulator's start is not
         install.user.otherwise = false;
         install.addSkySet("1-Storm", "Overcast", true, {"cloud.bmp", "SKY_1.BMP", "notes.txt"});
         writeFile(install.simulator() / u"Texture\\sky_1.bmp", "the pilot's sky");
         writeFile(install.simulator() / u"Texture\\sky_2.bmp", "the pilot's second sky");
     }
-    /// Whether the start of the simulator is to be offered.
+    /// As the key does it; true when the start of the simulator was offered behind it.
     bool installSky(const QString& name, bool automatic = true) {
         session.state<SkySelection>().SelectedSkySet = name;
         if (const auto record = findSkySet(session, name))
             session.state<SkySelection>().SelectedSkyCover = record->CloudCover;
-        return SkyInstallation(session).installSkySet(automatic);
+        return offerStart(SkyInstallation(session).installSkySet(automatic));
+    }
+    bool offerStart(bool isDue) {
+        if (isDue) offerSimulatorStart(session);
+        return isDue;
     }
     QByteArray texture(const char16_t* name) { return readFile(install.simulator() / u"Texture" / name); }
     QByteArray splash() { return readFile(install.simulator() / u"Uires\\dlgsplash.bmp"); }
@@ -181,7 +186,7 @@ struct MatchingSky : SkyInstall {
         install.random.numbers = {draw};
         install.user.answersToGive = {withMatch};
         EXPECT_TRUE(clickGroundRow(session, "2-A"));
-        GroundInstallation(session).installTextureSet(false);
+        EXPECT_TRUE(offerStart(GroundInstallation(session).installTextureSet(false)));
         EXPECT_EQ(install.installedSets(), QStringList{"2-A"});
         return install.installedSkySets();
     }

@@ -1,6 +1,6 @@
-#include "sets/slider_values.h"
 #include "sky/sky_randomiser.h"
 
+#include "sets/slider_values.h"
 #include "sky/sky_install.h"
 #include "sky/sky_ranges.h"
 

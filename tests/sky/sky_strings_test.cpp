@@ -1,7 +1,7 @@
-#include "sets/slider_values.h"
 #include "sky/sky_strings.h"
 
 #include "core/error.h"
+#include "sets/slider_values.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_install.h"
 #include "sky/sky_randomiser.h"

@@ -1,9 +1,9 @@
-#include "app/exit_flow.h"
-#include "sets/slider_values.h"
 #include "sky/sky_tuning.h"
 
+#include "app/exit_flow.h"
 #include "core/ini_file.h"
 #include "imaging/pixel_patterns.h"
+#include "sets/slider_values.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_install.h"

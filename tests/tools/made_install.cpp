@@ -1,7 +1,7 @@
 #include "made_install.h"
-#include "core/store_connection.h"
 
 #include "app/start_up.h"
+#include "core/store_connection.h"
 
 #include <QProcess>
 #include <stdexcept>

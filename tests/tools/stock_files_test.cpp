@@ -1,14 +1,13 @@
-#include "made_install.h"
-#include "sets/catalogue_file.h"
-#include "sets/sample_choice.h"
-
 #include "ground/texture_catalogue.h"
 #include "ground/tropical_files.h"
 #include "imaging/bitmap_header.h"
 #include "imaging/picture_reader.h"
+#include "made_install.h"
 #include "night/night_files.h"
 #include "night/night_samples.h"
 #include "night/night_sets.h"
+#include "sets/catalogue_file.h"
+#include "sets/sample_choice.h"
 #include "support/printing.h"
 
 #include <QImage>

@@ -1,11 +1,11 @@
-#include "core/store_connection.h"
-#include "ground/texture_sets.h"
 #include "version_two.h"
 
 #include "app/start_up.h"
 #include "core/row_set.h"
 #include "core/store.h"
+#include "core/store_connection.h"
 #include "ground/ground_sets.h"
+#include "ground/texture_sets.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 

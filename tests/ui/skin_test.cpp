@@ -1,8 +1,8 @@
-#include "support/temporary_folder.h"
 #include "ui/skin.h"
-#include "window/screen_scale.h"
 
 #include "core/literals.h"
+#include "support/temporary_folder.h"
+#include "window/screen_scale.h"
 
 #include <QImage>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
-#include "support/temporary_folder.h"
-#include "ui/skin.h"
 #include "ui/skinned_button.h"
-#include "window/dispatch_table.h"
 
 #include "core/literals.h"
+#include "support/temporary_folder.h"
+#include "ui/skin.h"
+#include "window/dispatch_table.h"
 
 #include <QSignalSpy>
 #include <QTest>

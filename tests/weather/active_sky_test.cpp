@@ -1,10 +1,10 @@
 #include "weather/active_sky.h"
-#include "weather/weather_state.h"
 
 #include "core/file_helpers.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/weather_refresh.h"
+#include "weather/weather_state.h"
 #include "weather/wx_finders.h"
 
 #include <QCoreApplication>

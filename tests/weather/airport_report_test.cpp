@@ -1,11 +1,11 @@
 #include "weather/airport_report.h"
-#include "weather/weather_state.h"
 
 #include "core/store.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/decoded_lines.h"
 #include "weather/stored_reports.h"
+#include "weather/weather_state.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include "weather/airport_search.h"
-#include "weather/weather_state.h"
 
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/directory_rows.h"
+#include "weather/weather_state.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "weather/cover_choice.h"
-#include "weather/weather_state.h"
 
 #include "core/session.h"
 #include "simulator/set_matching.h"
 #include "support/printing.h"
 #include "support/small_install.h"
+#include "weather/weather_state.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "weather/cover_choice.h"
 #include "weather/flight_plan.h"
 
 #include "support/printing.h"
 #include "support/small_install.h"
+#include "weather/cover_choice.h"
 #include "weather/sample_reports.h"
 #include "weather/stored_reports.h"
 

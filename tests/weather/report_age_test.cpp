@@ -1,9 +1,9 @@
 #include "weather/report_age.h"
-#include "weather/weather_state.h"
 
 #include "core/registry.h"
 #include "support/printing.h"
 #include "support/small_install.h"
+#include "weather/weather_state.h"
 #include "weather/wx_finders.h"
 
 #include <gtest/gtest.h>

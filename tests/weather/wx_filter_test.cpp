@@ -1,4 +1,3 @@
-#include "weather/weather_state.h"
 #include "weather/wx_filter.h"
 
 #include "core/session.h"
@@ -6,6 +5,7 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/stored_reports.h"
+#include "weather/weather_state.h"
 
 #include <gtest/gtest.h>
 

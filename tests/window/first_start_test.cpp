@@ -1,6 +1,6 @@
-#include "core/store_connection.h"
 #include "window/first_start.h"
 
+#include "core/store_connection.h"
 #include "support/small_install.h"
 #include "ui/dialog_form.h"
 #include "ui/skin.h"

@@ -1,9 +1,8 @@
-#include "support/window_program.h"
-#include "weather/weather_state.h"
-
 #include "core/job.h"
 #include "simulator/configs.h"
+#include "support/window_program.h"
 #include "ui/controls/skinned_progress_bar.h"
+#include "weather/weather_state.h"
 #include "window/message_screen.h"
 
 #include <QCheckBox>

@@ -1,19 +1,19 @@
 #include "app/exit_flow.h"
-#include "core/store_connection.h"
-#include "ground/ground_selection.h"
-#include "ground/texture_sets.h"
-#include "support/window_program.h"
-#include "weather/weather_state.h"
-
 #include "core/job.h"
 #include "core/store.h"
+#include "core/store_connection.h"
 #include "ground/ground_generation.h"
+#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/screens/ground_sets_screen.h"
+#include "ground/texture_sets.h"
 #include "imaging/window_region.h"
+#include "sets/options_in_force.h"
+#include "support/window_program.h"
 #include "ui/controls/foot_line.h"
 #include "ui/controls/palette.h"
 #include "ui/host_form.h"
+#include "weather/weather_state.h"
 #include "window/form_table.h"
 
 #include <QDesktopServices>
@@ -413,5 +413,4 @@ TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
 } // namespace
 } // namespace morvane
 
-#include "sets/options_in_force.h"
-#include "shell_test.moc" // of the browser
+#include "window_shell_test.moc" // of the browser

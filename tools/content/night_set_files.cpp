@@ -1,9 +1,9 @@
 #include "night_set_files.h"
-#include "core/store_connection.h"
 
 #include "core/error.h"
 #include "core/registry.h"
 #include "core/store.h"
+#include "core/store_connection.h"
 #include "night/night_generation.h"
 #include "night/night_selection.h"
 #include "night/night_sets.h"

@@ -1,6 +1,4 @@
 #include "gallery.h"
-#include "weather/cover_choice.h"
-#include "weather/weather_state.h"
 
 #include "core/session.h"
 #include "sets/set_removal.h"
@@ -8,10 +6,12 @@
 #include "sky/screens/palette_picture.h"
 #include "ui/controls/set_table.h"
 #include "ui/controls/slider.h"
+#include "weather/cover_choice.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/cover_report_screen.h"
 #include "weather/screens/report_list.h"
 #include "weather/weather_refresh.h"
+#include "weather/weather_state.h"
 #include "window/splash_screen.h"
 
 #include <QAbstractButton>

@@ -1,5 +1,4 @@
 #include "contact_sheet_samples.h"
-#include "sets/slider_values.h"
 
 #include "base_image_contact_sheet.h"
 #include "core/error.h"
@@ -8,6 +7,7 @@
 #include "imaging/recolouring.h"
 #include "sets/cloud_cover.h"
 #include "sets/colour_settings.h"
+#include "sets/slider_values.h"
 
 namespace morvane {
 

@@ -1,5 +1,4 @@
 #include "flight_weather.h"
-#include "weather/weather_state.h"
 
 #include "cli/terminal.h"
 #include "core/failure_report.h"
@@ -10,6 +9,7 @@
 #include "weather/flight_plan.h"
 #include "weather/metar_decoder.h"
 #include "weather/weather_refresh.h"
+#include "weather/weather_state.h"
 #include "weather/wx_finders.h"
 
 #include <QFileInfo>
