@@ -58,7 +58,8 @@ def check(build, command, folder, files):
     run = subprocess.run(["clang-tidy", "--quiet", str(unit), "--", *command[1:]], cwd=folder, text=True,
                          stdout=subprocess.PIPE, stderr=subprocess.PIPE)
     lines = run.stdout.splitlines()
-    if run.returncode and not any(FINDING.match(line) for line in lines):  # the tool itself failed
+    silent = run.returncode and not any(FINDING.match(line) for line in lines)
+    if silent or "rror parsing" in run.stderr:  # the tool itself failed, or goes on without its configuration
         return [f"{unit}:1:1: error: {run.stderr.strip()[-200:]!r} [clang-tidy]"]
     return lines
 
