@@ -394,7 +394,9 @@ void Walk::checkReach(const QStringList& live) {
         if (!partOf(name).isEmpty()) continue;
         QWidget& control = find(name);
         const QWidget* hit = window_->childAt(control.mapTo(window_.data(), livePoint(control)));
-        EXPECT_TRUE(hit == &control || control.isAncestorOf(hit)) << name.toStdString() << " is covered by " << (hit ? (hit->metaObject()->className() + (" " + nameOf(*hit).toStdString())) : "nothing");
+        EXPECT_TRUE(hit == &control || control.isAncestorOf(hit))
+            << name.toStdString() << " is covered by "
+            << (hit ? (hit->metaObject()->className() + (" " + nameOf(*hit).toStdString())) : "nothing");
         const bool isOption = qobject_cast<QRadioButton*>(&control);
         EXPECT_TRUE(isOption || stops.contains(name)) << name.toStdString() << " is no stop of Tab";
     }

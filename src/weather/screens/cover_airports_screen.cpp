@@ -13,8 +13,8 @@ constexpr int left = 26, right = 360, columnWidth = 310, valueOffset = 70;
 
 } // namespace
 
-/// It has the outline of the wide screens and not that of the message: two long reports side by side do not fit
-/// into the latter's 348 by 176 pixels, and a report that is cut off is no value to choose by.
+/// It has the outline of the wide screens and not that of the message: two long reports side by side do not
+/// fit into the latter's 348 by 176 pixels, and a report that is cut off is no value to choose by.
 frm_FromDepDestVal::frm_FromDepDestVal(Shell& shell)
     : CoverDialog(shell, u"frm_FromDepDestVal"_s, wideDialogLook, u"Values from Wx Control Screen"_s),
       departure_(addEnd(u"lblDep"_s, u"Departure Airport"_s, left)),
