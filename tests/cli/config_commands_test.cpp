@@ -97,8 +97,7 @@ TEST_F(ConfigCommands, ownFlightsAreNoSavedFlights) {
     const QString own = (install.home() / u"Flights").native(), link = (install.folder / u"Link").native();
     install.files.makeFolder(install.home() / u"Flights");
     ASSERT_TRUE(QFile::link(own, link));
-    for (const QString& path : {own, own + u'/', own + u"/../Flights"_s, link, link + u'/',
-                                (install.folder / u"no folder").native()}) {
+    for (const QString& path : {own, link + u'/', (install.folder / u"no folder").native()}) {
         const auto run = install.run(u"config set flights"_s, {path});
         EXPECT_EQ(run.status, 1) << path.toStdString();
         EXPECT_EQ(stored(morvaneKey, u"NonEnglishPath"_s), QString()) << path.toStdString();

@@ -70,37 +70,6 @@ TEST_F(SkyCommands, setsAreMadeListedShownSwitchedOffAndOnInstalledAndDeleted) {
     EXPECT_EQ(install.skies(), name + u'+') << "none is installed any more";
 }
 
-TEST_F(SkyCommands, refusalsAreToldAndChangeNothing) {
-    install.addSky(u"Default"_s, u"Partly Cloudy"_s);
-    install.addSky(u"2-Störm"_s, u"Overcast"_s);
-    install.addSky(u"3-Calm"_s, u"Sky Clear"_s, false, {});
-    const QString skies = u"Default+ 2-Störm+* 3-Calm"_s;
-    expectDone(u"sky install"_s, u"2-Störm"_s, skies);
-    const auto before = contentsBelow(install.folder.path());
-    const QString unknown = u"There is no sky texture set named 'Fog'"_s;
-    const QString locked = u"This is a protected texture set and no changes can be made to this set."_s;
-    const std::pair<QString, QString> cases[] = {
-        {u"show Fog"_s, unknown},
-        {u"activate Fog"_s, unknown},
-        {u"deactivate Fog"_s, unknown},
-        {u"delete Fog"_s, unknown},
-        {u"install Fog"_s, unknown},
-        {u"install 3-Calm"_s, u"The sky texture set '3-Calm' is not activated"_s},
-        {u"deactivate Default"_s, locked},
-        {u"delete Default"_s, locked},
-        {u"deactivate 2-Störm"_s, locked},
-        {u"delete 2-Störm"_s, locked},
-    };
-    for (const auto& [words, text] : cases) {
-        const auto run = install.run(u"sky "_s + words);
-        EXPECT_EQ(run.status, 1) << words.toStdString();
-        EXPECT_EQ(run.messages.count(text), 1) << run.messages.toStdString();
-        EXPECT_TRUE(run.output.isEmpty());
-    }
-    EXPECT_EQ(install.skies(), skies);
-    EXPECT_EQ(contentsBelow(install.folder.path()), before);
-}
-
 TEST_F(SkyCommands, onePictureIsRecolouredByTenGroups) {
     const FilePath groups = install.folder / u"groups.json", in = install.folder / u"ïn.bmp",
                    out = install.folder / u"out.bmp";
