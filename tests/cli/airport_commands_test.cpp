@@ -40,13 +40,13 @@ TEST_F(AirportCommands, aReportIsShownLineByLine) {
 TEST_F(AirportCommands, airportsAreFoundByTheBeginningOfTheirCode) {
     const QJsonArray found = install.run(u"airport find eh"_s).array();
     ASSERT_EQ(found.size(), 1);
-    EXPECT_EQ(found[0].toObject(), (QJsonObject{{u"icao"_s, u"EHAM"_s},
-                                                {u"name"_s, u"Schiphol"_s},
-                                                {u"city"_s, u"Amsterdam"_s},
-                                                {u"state"_s, QString()},
-                                                {u"country"_s, u"Netherlands"_s},
-                                                {u"latitude"_s, u"52.31"_s},
-                                                {u"longitude"_s, u"4.76"_s}}));
+    EXPECT_EQ(found[0].toObject(), (QJsonObject{{"icao", "EHAM"},
+                                                {"name", "Schiphol"},
+                                                {"city", "Amsterdam"},
+                                                {"state", ""},
+                                                {"country", "Netherlands"},
+                                                {"latitude", "52.31"},
+                                                {"longitude", "4.76"}}));
     EXPECT_EQ(install.run(u"airport find K"_s).array().size(), 100);
     EXPECT_EQ(install.run(u"airport find XX"_s).array().size(), 0);
 }

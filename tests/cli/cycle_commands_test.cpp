@@ -11,26 +11,17 @@ namespace {
 
 using test::runConsole;
 
-QStringList codesOf(const test::ConsoleRun& run) {
-    QStringList codes;
-    for (const QJsonObject& row : run.objects())
-        codes << row[u"METAR_ICAO"_s].toString();
-    codes.sort();
-    return codes;
-}
-
 TEST(CycleCommands, importAFileInEachForm) {
     test::ConsoleInstall install;
     const QString sample = QStringLiteral(MORVANE_DATA_DIR "/metar/");
     const std::pair<QStringList, qsizetype> cases[] = {
-        {{sample + u"Export_Cycle.dat"_s, u"asv6"_s}, 250},
-        {{sample + u"02Z.TXT"_s, u"noaa"_s}, 611}, // some stations are in both
-        {{sample + u"02Z.TXT"_s}, 614},            // and two date lines and an empty line
+        {{sample + "Export_Cycle.dat", "asv6"}, 250},
+        {{sample + "02Z.TXT", "noaa"}, 611}, // some stations are in both
+        {{sample + "02Z.TXT"}, 614},         // and two date lines and an empty line
     };
     for (const auto& [arguments, count] : cases) {
-        const auto run = install.run(u"metar import"_s, arguments);
-        EXPECT_EQ(run.status, 0) << run.messages.toStdString();
-        EXPECT_EQ(codesOf(install.run(u"metar rows"_s)).size(), count) << arguments.join(u' ').toStdString();
+        EXPECT_EQ(install.run("metar import", arguments).status, 0);
+        EXPECT_EQ(install.run("metar rows").objects().size(), static_cast<std::size_t>(count));
     }
     const auto rows = install.run(u"metar rows"_s).objects();
     const auto gusty = std::find_if(rows.begin(), rows.end(), [](const QJsonObject& row) {

@@ -173,50 +173,43 @@ TEST_F(GroundCommands, aNoOrNobodyToAskDeletesNothing) {
     EXPECT_EQ(install.sets(), u"Default+"_s);
 }
 
+/// What is not ours any more is left and named; a damaged kept file is a failure.
 TEST_F(GroundCommands, thePilotsFilesAreListedAndRestored) {
-    const FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029h2su6.bmp";
-    install.addSet(u"2-Storm"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s, u"Texture\\new.bmp"_s});
+    const QString path = "Scenery\\World\\texture\\029H2SU6.BMP";
+    const FilePath texture = install.simulator() / path, kept = install.home() / u"Backup\\Originals" / path;
+    install.addSet("2-Storm", "Overcast", true, {"Texture\\029h2su6.bmp", "Texture\\new.bmp"});
     const auto before = contentsBelow(install.simulator());
-    EXPECT_TRUE(install.run(u"originals list"_s).array().isEmpty());
-    expectDone(u"ground install 2-Storm"_s, u"Default+ 2-Storm+*"_s);
+    EXPECT_TRUE(install.run("originals list").array().isEmpty());
+    expectDone("ground install 2-Storm", "Default+ 2-Storm+*");
     EXPECT_EQ(test::readFile(texture), "2-Storm Texture\\029h2su6.bmp");
 
-    const QJsonArray list = install.run(u"originals list"_s).array();
+    const QJsonArray list = install.run("originals list").array();
     ASSERT_EQ(list.size(), 2); // "new.bmp" replaced nothing
-    EXPECT_EQ(list[0].toObject()[u"path"], u"Scenery\\World\\texture\\029H2SU6.BMP"_s);
-    const QJsonObject splash = list[1].toObject();
-    EXPECT_EQ(splash.keys(), QStringList({"copy", "kept", "mode", "number", "path", "sha1", "size"}));
-    EXPECT_EQ(splash[u"path"], u"Uires\\dlgsplash.bmp"_s);
-    EXPECT_EQ(splash[u"sha1"], u"74a0a683fa9a9bd35ff624fad775b1f42cc4b897"_s);
-    EXPECT_EQ(splash[u"size"], 18);
-    EXPECT_EQ(splash[u"number"], 1);
-
-    expectDone(u"originals restore"_s, u"Default+ 2-Storm+"_s); // none is installed any more
+    EXPECT_EQ(list[0].toObject()["path"], path);
+    QJsonObject splash = list[1].toObject();
+    EXPECT_FALSE(splash.take("kept").toString().isEmpty() || splash.take("mode").toString().isEmpty());
+    EXPECT_EQ(splash, (QJsonObject{{"copy", "Uires\\dlgsplash.bmp"},
+                                   {"number", 1},
+                                   {"path", "Uires\\dlgsplash.bmp"},
+                                   {"sha1", "74a0a683fa9a9bd35ff624fad775b1f42cc4b897"},
+                                   {"size", 18}}));
+    expectDone("originals restore", "Default+ 2-Storm+"); // none is installed any more
     EXPECT_EQ(contentsBelow(install.simulator()), before);
-}
 
-/// What is not ours any more is left and named; a damaged kept file is a failure.
-TEST_F(GroundCommands, aRestoreNamesWhatItLeaves) {
-    const QString path = u"Scenery\\World\\texture\\029H2SU6.BMP"_s;
-    install.addSet(u"2-Storm"_s, u"Overcast"_s);
-    const struct {
-        FilePath spoilt;
-        int status;
-        QString list, said;
-    } cases[] = {
-        {install.simulator() / path, 0, u"left"_s, u"1 file put back, 1 left as they are\n"_s},
-        {install.home() / u"Backup\\Originals" / path, 1, u"damaged"_s, u"Exclamation: "_s},
+    const std::tuple<FilePath, int, QString, QString> cases[] = {
+        // What is spoilt, the status, where it is listed and what is said.
+        {texture, 0, "left", "1 file put back, 1 taken away, 1 left as they are\n"},
+        {kept, 1, "damaged", "Exclamation: "},
     };
-    for (const auto& road : cases) {
-        EXPECT_EQ(install.run(u"ground install 2-Storm"_s).status, 0);
-        test::writeFile(road.spoilt, "by another hand");
-        const auto run = install.run(u"originals restore"_s);
-        EXPECT_EQ(run.status, road.status) << run.messages.toStdString();
+    for (const auto& [spoilt, status, listed, said] : cases) {
+        EXPECT_EQ(install.run("ground install 2-Storm").status, 0);
+        test::writeFile(spoilt, "by another hand");
+        const auto run = install.run("originals restore");
+        EXPECT_EQ(run.status, status) << run.messages.toStdString();
         ASSERT_EQ(run.objects().size(), 1u);
-        EXPECT_EQ(run.objects()[0][road.list].toArray(), QJsonArray{path});
-        EXPECT_TRUE(run.messages.contains(road.said) && run.messages.contains(path))
-            << run.messages.toStdString();
-        test::writeFile(install.simulator() / path, "2-Storm Texture\\029h2su6.bmp");
+        EXPECT_EQ(run.objects()[0][listed].toArray(), QJsonArray{path});
+        EXPECT_TRUE(run.messages.contains(said) && run.messages.contains(path)) << run.messages.toStdString();
+        test::writeFile(texture, "2-Storm Texture\\029h2su6.bmp");
     }
 }
 

@@ -74,13 +74,5 @@ TEST(FileVersion, isReadFromTheFixedRecord) {
     EXPECT_EQ(getFileVersionText(files, folder / u"missing.exe"), QString());
 }
 
-TEST(FileVersion, missingAndOddPartsCountAsNothing) {
-    const std::pair<QString, QList<int>> cases[] = {
-        {"6.0.5121.7", {6, 0, 5121, 7}}, {"6.x.5120", {6, 0, 5120, 0}}, {{}, {0, 0, 0, 0}}};
-    for (const auto& [version, parts] : cases)
-        for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(versionPart(version, i), parts[i]) << version.toStdString();
-}
-
 } // namespace
 } // namespace morvane
