@@ -48,7 +48,7 @@ TEST_F(StoreTest, widthsAreEnforced) {
     const QString insert = u"INSERT INTO NIGHT_TEXTURE_SETS(TEXTURE_SET) VALUES ('%1')"_s;
     const QString fitting(50, u'Ö');
     execute(insert.arg(fitting));
-    EXPECT_EQ(failureOf([&] { execute(insert.arg(fitting + u'x')); }),
+    EXPECT_EQ(test::descriptionRaisedBy([&] { execute(insert.arg(fitting + u'x')); }),
               "CHECK constraint failed: TEXTURE_SET takes at most 50 characters");
     EXPECT_EQ(column(u"TEXTURE_SET"_s, u"NIGHT_TEXTURE_SETS"_s), QStringList{fitting});
 }
@@ -118,10 +118,10 @@ TEST_F(StoreTest, numbersAreCheckedForTheirWidth) {
     execute(
         u"INSERT INTO DECODED_METAR(ID, METAR_STRING, METAR_MAX_CLOUD) VALUES (40000, '12', 3000000000)"_s);
     const RowSet row(store, u"SELECT * FROM DECODED_METAR"_s);
-    EXPECT_EQ(failureOf([&] { row.integer(u"ID"); }), "Overflow");
+    EXPECT_EQ(test::descriptionRaisedBy([&] { row.integer(u"ID"); }), "Overflow");
     EXPECT_EQ(row.longInteger(u"ID"), 40000);
-    EXPECT_EQ(failureOf([&] { row.longInteger(u"METAR_MAX_CLOUD"); }), "Overflow");
-    EXPECT_EQ(failureOf([&] { row.integer(u"METAR_YEAR"); }), "Type mismatch"); // a null
+    EXPECT_EQ(test::descriptionRaisedBy([&] { row.longInteger(u"METAR_MAX_CLOUD"); }), "Overflow");
+    EXPECT_EQ(test::descriptionRaisedBy([&] { row.integer(u"METAR_YEAR"); }), "Type mismatch"); // a null
     EXPECT_EQ(row.integer(u"METAR_STRING"), 12); // a text of digits is a number
 }
 
