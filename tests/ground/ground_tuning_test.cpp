@@ -1,6 +1,7 @@
 #include "core/store.h"
 #include "ground/ground_sets.h"
 #include "ground/ground_tuning.h"
+#include "imaging/pixel_patterns.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -36,12 +37,6 @@ struct GroundTuningTest : testing::Test {
     GroundTuning tuning{session};
 };
 
-QByteArray pixels(const cDIBSection& picture) {
-    if (!picture.isCreated()) return {};
-    return QByteArray(reinterpret_cast<const char*>(picture.DIBSectionBitsPtr()),
-                      picture.BytesPerScanLine() * picture.Height());
-}
-
 TEST_F(GroundTuningTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
     tuning.showColourPreview({0, 0, 0, 0, 100, 0}); // with no sample yet: nothing to tell
     QString type = u"utind"_s;
@@ -50,12 +45,12 @@ TEST_F(GroundTuningTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
         session.modal.sampleConfirmed = true;
     };
     tuning.openSample();
-    const QByteArray bright = pixels(tuning.tuningResultDib());
+    const QByteArray bright = test::bytesOf(tuning.tuningResultDib());
     ASSERT_FALSE(bright.isEmpty());
-    EXPECT_NE(bright, pixels(tuning.tuningSourceDib()));
+    EXPECT_NE(bright, test::bytesOf(tuning.tuningSourceDib()));
     type = u"ocean"_s; // the table has none: the sample stays
     tuning.openSample();
-    EXPECT_EQ(pixels(tuning.tuningResultDib()), bright);
+    EXPECT_EQ(test::bytesOf(tuning.tuningResultDib()), bright);
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
@@ -63,11 +58,11 @@ TEST_F(GroundTuningTest, aSampleThatCannotBeReadIsStillRecoloured) {
     TextureSample sample(session, session.ground.colours);
     const FilePath file = sampleTexture(session.AppPath, defaultSample, u"summer"_s, false);
     ASSERT_TRUE(sample.openTexImage(file));
-    const QByteArray plain = pixels(sample.resultDib());
+    const QByteArray plain = test::bytesOf(sample.resultDib());
     session.ground.colours.red = 20;
     test::writeFile(file, "no picture");
     EXPECT_FALSE(sample.openTexImage(file));
-    EXPECT_NE(pixels(sample.resultDib()), plain); // else the set in hand would show the one before
+    EXPECT_NE(test::bytesOf(sample.resultDib()), plain); // else the set in hand would show the one before
     EXPECT_EQ(install.user.told().size(), 1);
 }
 
