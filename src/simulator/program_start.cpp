@@ -7,8 +7,8 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <memory>
-#include <vector>
 #include <unistd.h>
+#include <vector>
 
 namespace morvane {
 
