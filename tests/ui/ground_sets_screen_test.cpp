@@ -158,24 +158,5 @@ TEST_F(GroundSetsScreenTest, aSetOfDamagedColoursCanOnlyBeTakenAway) {
     EXPECT_EQ(selection.SelectedGroundCover, u"Sky Clear"_s) << "after a removal as well";
 }
 
-/// The key looks dead and is not.
-TEST_F(GroundSetsScreenTest, deactivateTakesTheFilesAndKeepsTheRow) {
-    open();
-    clickRow(2);
-    SkinnedButton& activate = key(u"btn_TextureActivate"_s);
-    const auto toldBy = [&](const std::function<void()>& act) {
-        return program.toldDuring(act, {}, u"lbl_Message"_s).join(u'|');
-    };
-    EXPECT_EQ(toldBy([&] { QTest::keyRelease(&activate, Qt::Key_Return); }), QString())
-        << "this release belonged to a press that went elsewhere";
-    EXPECT_TRUE(toldBy([&] { program.press(hostName, u"btn_TextureActivate"_s); }).contains(u"2-Storm"_s));
-    EXPECT_EQ(list->textOf(2, 1), u"False"_s);
-    EXPECT_FALSE(program.session.files.exists(program.install.home() /
-                                              u"Texture Sets\\2-Storm\\Texture\\029h2su6.bmp"));
-    EXPECT_EQ(list->selectedNames(), QStringList{u"2-Storm"_s});
-    EXPECT_EQ(activate.state(), ButtonState::highlight) << "alive again, and the mouse is on it";
-    EXPECT_EQ(activate.ButtonText(), u"Activate"_s);
-}
-
 } // namespace
 } // namespace morvane
