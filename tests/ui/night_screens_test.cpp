@@ -92,20 +92,5 @@ TEST_F(NightScreensTest, lightsSetTheSlidersWhichAHandMovesAndAnotherClickSetsAn
     EXPECT_FALSE(labels().contains(u"default"_s)) << "all six are drawn";
 }
 
-TEST_F(NightScreensTest, openTextureOffersFiveSamples) {
-    openPage();
-    for (const bool isTaken : {false, true}) {
-        const QImage before = program.picture(pageName, u"picImage"_s);
-        program.whenShown(u"frm_SelectNightTexture"_s, [=](DialogForm& dialog) {
-            EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optNightTexture_large city"_s)->isChecked());
-            dialog.findChild<QRadioButton*>(u"optNightTexture_rural"_s)->click();
-            isTaken ? dialog.ok() : dialog.cancel();
-        });
-        program.press(pageName, u"btn_OpenTexture"_s);
-        EXPECT_EQ(program.picture(pageName, u"picImage"_s) != before, isTaken);
-        EXPECT_EQ(program.text(pageName, u"lblSample"_s), isTaken ? u"Rural"_s : u"Large City"_s);
-    }
-}
-
 } // namespace
 } // namespace morvane

@@ -116,16 +116,6 @@ TEST_F(SkySetsScreenTest, hasRoomForTheLongestDescription) {
               label.height());
 }
 
-TEST_F(SkySetsScreenTest, anEmptyListLeavesOnlyCreate) {
-    for (const auto& set : loadedSkySets(program.install.session))
-        clsSkyTextureSetData(program.install.session).deleteSkyTexture(set->StsID);
-    open();
-    EXPECT_EQ(activate(), dead);
-    EXPECT_EQ(program.stateOf(hostName, u"btn_SkyTextureDelete"_s), dead);
-    EXPECT_EQ(program.stateOf(hostName, u"btn_SkytextureCreate"_s), alive);
-    EXPECT_TRUE(picture(u"picSkyTextureSetSource"_s).isNull());
-}
-
 TEST_F(SkySetsScreenTest, createsSetsFromTheHomeScreenAndFromTheList) {
     program.whenShown(u"frm_SelectSkyTexture"_s, [](DialogForm& dialog) {
         dialog.findChild<QCheckBox*>(u"chkStsGroup1"_s)->click();
@@ -269,7 +259,8 @@ TEST_F(SkyColourScreenTest, theStateIsLoadedOnce) {
 }
 
 TEST_F(SkyColourScreenTest, aForeignCoverLeavesTheOptionsAsTheyAre) {
-    test::writeFile(program.install.home() / u"LastSkySettings.cfg", "[Cloud Cover]\n1=Foggy\n");
+    test::writeFile(program.install.home() / u"LastSkySettings.cfg",
+                    "[Cloud Cover]\n1=Foggy\n[Texture Set Group]\n1=Tropical\n");
     open();
     for (int index = 0; index < 5; ++index)
         EXPECT_FALSE(cover(index).isChecked()) << index;

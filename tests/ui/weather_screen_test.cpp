@@ -188,9 +188,12 @@ TEST_F(WeatherScreenTest, activeSkyIsTold) {
 TEST_F(WeatherScreenTest, theAgeOfTheReportsStandsBelowThePage) {
     const FootLine& line = *program.shell.form(u"frm_Main"_s)->findChild<FootLine*>();
     EXPECT_EQ(line.shown().text, u"No reports yet"_s) << "the two of the table were never loaded";
+    session.adoConn->execute(
+        u"UPDATE DECODED_METAR SET METAR_DATE = '30', METAR_TIME = '2010' WHERE METAR_ICAO = 'KSEA'"_s);
     clsWxFinders::reload(session);
+    program.install.clock.now = QDateTime(QDate(2007, 5, 30), QTime(21, 14), Qt::UTC);
     program.user.refreshScreen(Screen::frm_WxControl);
-    EXPECT_TRUE(line.shown().text.startsWith(u"2 reports, the youngest of "_s));
+    EXPECT_EQ(line.shown().text, u"2 reports, the youngest of 20:10Z 30 May, 64 minutes old"_s);
     EXPECT_EQ(line.shown().remark, u"Source: no weather server is set"_s);
 }
 
