@@ -10,7 +10,7 @@ say() {
 
 fail() {
     echo "FAILED: $*; windows: $(windowNames)" >&2
-    takePicture failed
+    [ -z "${MORVANE_SCREENSHOTS:-}" ] || import -window root "$MORVANE_SCREENSHOTS/failed.png"
     exit 1
 }
 
@@ -74,17 +74,6 @@ stopDisplay() {
         kill "$id" 2>/dev/null && wait "$id" 2>/dev/null
     done
     return 0
-}
-
-# takePicture NAME: of the whole screen, where the caller of the test asked for pictures.
-takePicture() {
-    [ -n "${MORVANE_SCREENSHOTS:-}" ] || return 0
-    mkdir -p "$MORVANE_SCREENSHOTS"
-    if command -v import >/dev/null; then
-        import -window root "$MORVANE_SCREENSHOTS/$1.png"
-    elif command -v xwd >/dev/null; then
-        xwd -root -silent -out "$MORVANE_SCREENSHOTS/$1.xwd"
-    fi
 }
 
 visibleWindows() {
