@@ -63,9 +63,17 @@ startDisplay() {
     waitFor "a display" test -s "$root/display"
     DISPLAY=:$(cat "$root/display")
     export DISPLAY
-    openbox --sm-disable >"$root/openbox.log" 2>&1 &
-    managerId=$!
-    waitFor "a window manager" hasWindowManager
+    waitFor "a window manager" hasStartedManager
+}
+
+# One that ended, as it does now and then where many start at once, is started anew.
+hasStartedManager() {
+    hasWindowManager && return 0
+    if [ -z "${managerId:-}" ] || hasEnded "$managerId"; then
+        openbox --sm-disable >>"$root/openbox.log" 2>&1 &
+        managerId=$!
+    fi
+    return 1
 }
 
 stopDisplay() {
