@@ -5,7 +5,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <ranges>
+#include <iterator>
 
 namespace morvane {
 
@@ -34,7 +34,8 @@ std::vector<std::string> wordsForLibrary(const QStringList& words) {
             plain << word;
     }
     std::vector<std::string> reversed;
-    std::ranges::transform(std::views::reverse(plain), std::back_inserter(reversed), &QString::toStdString);
+    std::ranges::transform(plain, std::back_inserter(reversed), &QString::toStdString);
+    std::ranges::reverse(reversed);
     return reversed;
 }
 

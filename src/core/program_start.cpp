@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <memory>
 #include <unistd.h>
+#include <vector>
 
 namespace morvane {
 
@@ -99,7 +100,9 @@ bool startProgram(const FilePath& program, const FilePath& document, const QStri
     if (!process->waitForStarted()) return false;
     if (process->waitForFinished(firstMoments))
         return process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
-    process.release(); // the object would take the program along, so it stays as long as we do
+    // The object would take the program along, so it stays longer than anything of ours.
+    static auto& started = *new std::vector<std::unique_ptr<QProcess>>;
+    started.push_back(std::move(process));
     return true;
 }
 

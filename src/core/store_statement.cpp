@@ -12,6 +12,8 @@ template <class... Cases>
 struct Overloaded : Cases... {
     using Cases::operator()...;
 };
+template <class... Cases> // clang 14, which looks for faults, does not deduce it by itself
+Overloaded(Cases...)->Overloaded<Cases...>;
 
 QString textOf(sqlite3_stmt* statement, int column) {
     const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));

@@ -43,7 +43,7 @@ public:
                         int height = -1);
     /// Writes the pixels as a BMP file, replacing an existing one. An unopenable file raises error 17 with
     /// its path; a failed write, or an empty buffer, gives false.
-    bool SavePicture(const FilePath& file) const;
+    bool SavePicture(const FilePath& path) const;
     /// Paints a region into an image; positions count from the top-left corners, a negative width or height
     /// means the whole buffer.
     void PaintPicture(QImage& target, int targetX = 0, int targetY = 0, int width = -1, int height = -1,

@@ -24,18 +24,19 @@ struct SkySelection {
 /// The set's key in lists: "Key:" and the StsID.
 QString skyListKey(const clsSkyTextureSet& set);
 
-/// Takes the set behind a list key into the session's selection and its sub set for that time of day into
-/// `skyTextureGroups`. Groups without a colour text, and all of them without such a sub set, are zero. A
-/// screen repaints its sample afterwards: the file is `skySampleFile`. False after a failure was told; a set
-/// whose colours are damaged is in hand all the same, with all groups zero.
+/// Takes the set behind a list key in hand and fills `skyTextureGroups` from its sub set for that time of
+/// day. Groups without a colour text are zero, and so are all of them where there is no such sub set. The
+/// sample is not drawn here: a screen does that afterwards, from the picture that `skySampleFile` names.
+/// False after a failure was told; a set whose colours are damaged is in hand all the same, with all groups
+/// zero.
 bool loadSkySubSet(Session& session, const QString& listKey, const QString& timeOfDay);
 
-/// Fills `skyTextureGroups` from the set's sub set for that time of day, as above. The set's sub sets become
-/// the session's rows. False after the message that they cannot be read; a colour text that is none raises.
+/// The second half of it: fills `skyTextureGroups`, and makes the set's sub sets the
+/// session's rows. False after the message that they cannot be read; a colour text that is none raises.
 bool loadSkyTextureGroups(Session& session, std::int16_t setKey, const QString& timeOfDay);
 
-/// Takes the set of that name in hand; its colours are left alone, as are the ticks of the rows. False when
-/// there is no set of that name.
+/// Takes the set of that name in hand and leaves its colours and the ticks of the rows alone. False when
+/// there is no such set.
 bool clickSkyRow(Session& session, const QString& name);
 
 } // namespace morvane

@@ -42,7 +42,6 @@ QDateTime youngestOf(const clsWxFinders& finders, const QDateTime& utc) {
 
 QDateTime observationTime(const QString& day, const QString& time, const QDateTime& utc) {
     if (!isDigits(day) || !isDigits(time) || time.size() != 4) return {};
-    if (!isDigits(day) || !isDigits(time) || time.size() != 4) return {};
     const QTime clock(time.left(2).toInt(), time.mid(2).toInt());
     if (!clock.isValid()) return {}; // a date with such a time would be its midnight
     const QDateTime latest = utc.addSecs(60 * minutesPerHour);

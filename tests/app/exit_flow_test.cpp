@@ -14,66 +14,46 @@
 namespace morvane {
 namespace {
 
-using test::SmallInstall;
-
 struct ExitQuestion : testing::Test {
-    SmallInstall install;
+    test::SmallInstall install;
     Session& session = install.session;
 
-    void put(const QString& name) {
-        session.state<GroundSelection>().SelectedGroundSet = name;
+    void put(const QString& ground, const QString& sky = {}) {
+        session.state<GroundSelection>().SelectedGroundSet = ground;
         GroundInstallation(session).installTextureSet(true);
+        session.state<SkySelection>().SelectedSkySet = sky;
+        if (!sky.isEmpty()) SkyInstallation(session).installSkySet(true);
         install.user.messages.clear();
+        install.user.calls.clear();
     }
 };
-
-TEST_F(ExitQuestion, comesForASetOfAWeatherAndPutsDefaultBack) {
-    install.addGroundSet("2-Storm", "Overcast", true);
-    put("2-Storm");
-    checkResetTextures(session);
-    EXPECT_EQ(install.user.told(),
-              QStringList(
-                  {"Question|Reset MV Textures?|Morvane has detected that you have 'Overcast' Ground Texture "
-                   "Set installed. Please select the check button if you wish to reset Morvane textures to a "
-                   "nominal weather condition of Partly Cloudy before exiting."}));
-    EXPECT_TRUE(install.user.messages.front().offersFastExit);
-    EXPECT_EQ(install.installedSets(), QStringList({"Default"}));
-}
 
 TEST_F(ExitQuestion, namesWhatStandsThereAndResetsThatOnly) {
     install.addGroundSet("2-Storm", "Overcast", true);
     install.addSkySet("Default", "Partly Cloudy", true);
     install.addSkySet("2-Calm", "Sky Clear", true);
     const QString start = "Question|Reset MV Textures?|Morvane has detected that you have ";
-    const QString end = " Sky Texture Set installed. Please select the check button if you wish to reset "
-                        "Morvane textures to a nominal weather condition of Partly Cloudy before exiting.";
-    const std::pair<QString, QString> cases[] = {
-        {"Default", "'Sky Clear'"}, {"2-Storm", "'Overcast' Ground Texture Set installed and 'Sky Clear'"}};
-    for (const auto& [ground, text] : cases) {
-        put(ground);
-        session.state<SkySelection>().SelectedSkySet = "2-Calm";
-        SkyInstallation(session).installSkySet(true);
-        install.user.messages.clear();
-        install.user.calls.clear();
+    const QString end =
+        " Texture Set installed. Please select the check button if you wish to reset Morvane textures "
+        "to a nominal weather condition of Partly Cloudy before exiting.";
+    const std::tuple<QString, QString, QString> cases[] = {
+        {"2-Storm", {}, "'Overcast' Ground"},
+        {"Default", "2-Calm", "'Sky Clear' Sky"},
+        {"2-Storm", "2-Calm", "'Overcast' Ground Texture Set installed and 'Sky Clear' Sky"}};
+    for (const auto& [ground, sky, text] : cases) {
+        put(ground, sky);
         checkResetTextures(session);
         EXPECT_EQ(install.user.told(), QStringList{start + text + end});
+        EXPECT_TRUE(install.user.messages.front().offersFastExit);
         EXPECT_EQ(install.installedSets(), QStringList{"Default"});
-        EXPECT_EQ(install.installedSkySets(), QStringList{"Default"});
-        const qsizetype grounds = install.user.calls.filter("ground textures").size();
-        EXPECT_EQ(grounds, ground == "Default" ? 0 : 1) << "a ground that needs no reset is left alone";
+        EXPECT_EQ(install.installedSkySets(), QStringList(sky.isEmpty() ? 0 : 1, "Default"));
+        EXPECT_EQ(install.user.calls.filter("ground textures").isEmpty(), ground == "Default");
+        EXPECT_EQ(install.user.calls.filter("sky textures").isEmpty(), sky.isEmpty());
     }
-    put("2-Storm");
-    install.user.calls.clear();
-    checkResetTextures(session);
-    EXPECT_EQ(install.user.calls.filter("sky textures").size(), 0);
-}
-
-TEST_F(ExitQuestion, aNoKeepsTheSet) {
-    install.addGroundSet("2-Storm", "Overcast", true);
     put("2-Storm");
     install.user.otherwise = false;
     checkResetTextures(session);
-    EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
+    EXPECT_EQ(install.installedSets(), QStringList{"2-Storm"}) << "a No keeps the set";
 }
 
 TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndResetsNothing) {

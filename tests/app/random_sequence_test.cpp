@@ -2,6 +2,7 @@
 
 #include "app/start_up.h"
 #include "core/safe_copy.h"
+#include "core/store.h"
 #include "core/store_connection.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
@@ -134,18 +135,14 @@ private:
         writeFile(install_.home() / u"Media\\halo.bmp", "our halo");
         writeFile(install_.home() / u"Media\\halodefault.bmp", "the default halo");
         writeFile(install_.home() / u"Media\\dlgsplash.bmp", "the pilot's splash");
-        RowSet rows(*install_.session.adoConn, u"SELECT * FROM MV_CONFIG"_s);
-        for (const auto& [title, folder] : {std::pair{globalDayConfig, u"GENERIC WORLD"_s},
-                                            {globalNightConfig, u"GENERIC WORLD NIGHT"_s},
-                                            {addOnConfig, u"UTIND"_s}}) {
+        for (const auto& [title, folder, target] :
+             {std::tuple{globalDayConfig, "GENERIC WORLD", "Scenery\\World\\texture"},
+              {globalNightConfig, "GENERIC WORLD NIGHT", "Scenery\\World\\texture"},
+              {addOnConfig, "UTIND", "Scenery\\UTEurLC\\Texture"}}) {
             titles_ << title;
-            rows.addNew();
-            rows.setText(u"TITLE", title);
-            rows.setText(u"MV_FOLDER", folder);
-            rows.setText(u"FS_FOLDER", title == addOnConfig ? u"Scenery\\UTEurLC\\Texture"_s
-                                                            : u"Scenery\\World\\texture"_s);
-            rows.setFlag(u"INSTALLED", false);
-            rows.update();
+            install_.session.adoConn->execute(
+                u"INSERT INTO MV_CONFIG(TITLE, MV_FOLDER, FS_FOLDER) VALUES ('%1', '%2', '%3')"_s.arg(
+                    title, folder, target));
         }
     }
 
@@ -169,25 +166,13 @@ private:
         const std::pair<const char*, std::function<void()>> all[] = {
             {"ground", [&] { installGround(); }},
             {"ground", [&] { installGround(); }},
-            {"sky",
-             [&] {
-                 session_->state<SkySelection>().SelectedSkySet = drawFrom({u"1-Sky"_s, u"2-Sky"_s});
-                 SkyInstallation(*session_).installSkySet(true);
-             }},
-            {"night",
-             [&] {
-                 session_->state<NightSelection>().SelectedNightSet =
-                     drawFrom({u"Default"_s, u"2-Night"_s, u"3-Night"_s});
-                 NightInstallation(*session_).installNightTextureSet();
-             }},
+            {"sky", [&] { installSky(); }},
+            {"night", [&] { installNight(); }},
             {"dutch", [&] { switchDutch(*session_, toss()); }},
             {"tropical", [&] { switchTropical(*session_, toss()); }},
             {"halo", [&] { switchHalo(*session_, toss()); }},
             {"splash", [&] { setCustomSplashVal(*session_, toss()); }},
-            {"base install",
-             [&] {
-                 copyBaseResources(*session_, {drawFrom(titles_), drawFrom(titles_)});
-             }},
+            {"base install", [&] { copyBase(); }},
             {"import", [&] { importSimulator(); }},
             {"import undone", [&] { restoreStock(*session_); }},
             {"backup", [&] { createBackup(*session_, false); }},
@@ -220,6 +205,18 @@ private:
             drawFrom({u"Default"_s, u"2-Ground"_s, u"3-Ground"_s, u"4-Ground"_s});
         GroundInstallation(*session_).installTextureSet(true);
     }
+
+    void installSky() {
+        session_->state<SkySelection>().SelectedSkySet = drawFrom({"1-Sky", "2-Sky"});
+        SkyInstallation(*session_).installSkySet(true);
+    }
+
+    void installNight() {
+        session_->state<NightSelection>().SelectedNightSet = drawFrom({"Default", "2-Night", "3-Night"});
+        NightInstallation(*session_).installNightTextureSet();
+    }
+
+    void copyBase() { copyBaseResources(*session_, {drawFrom(titles_), drawFrom(titles_)}); }
 
     void importSimulator() {
         const FilePath scenery = current_->folder / u"Scenery";
@@ -318,10 +315,8 @@ private:
         both.insert(first);
         for (const QString& path : both.keys())
             if (now.contains(path) != first.contains(path) || now.value(path) != first.value(path))
-                names += u"%1: '%2' %3, not '%4' %5\n"_s.arg(path, QString(now.value(path).first))
-                             .arg(now.value(path).second, 0, 8)
-                             .arg(QString(first.value(path).first))
-                             .arg(first.value(path).second, 0, 8);
+                names += u"%1: '%2', not '%3'\n"_s.arg(path, QString(now.value(path).first),
+                                                       QString(first.value(path).first));
         return names;
     }
 

@@ -1,5 +1,6 @@
 #include "cli/console.h"
 
+#include "core/flights_folder.h"
 #include "core/store.h"
 #include "support/printing.h"
 
@@ -74,13 +75,12 @@ TEST_F(ConfigCommands, everythingIsShownWithoutASimulatorToo) {
     EXPECT_EQ(run.status, 0) << run.messages.toStdString();
     const QJsonObject shown = run.objects().at(0);
     EXPECT_EQ(shown.keys().join(u' '), u"activesky flights home runner simulator switches weather"_s);
-    EXPECT_EQ(shown[u"home"_s], QJsonValue(install.home().native()));
-    EXPECT_EQ(shown[u"runner"_s], QJsonValue(u"wine --quiet"_s));
-    EXPECT_EQ(shown[u"weather"_s].toObject()[u"server"_s], QJsonValue(u"https://weather.example"_s));
-    EXPECT_EQ(shown[u"switches"_s].toObject()[u"halo"_s], QJsonValue(true));
-    EXPECT_EQ(shown[u"switches"_s].toObject().size(), 6);
-    EXPECT_EQ(install.run(u"config get runner"_s).objects().at(0)[u"runner"_s],
-              QJsonValue(u"wine --quiet"_s));
+    EXPECT_EQ(shown["home"], install.home().native());
+    EXPECT_EQ(shown["weather"]["server"], "https://weather.example");
+    EXPECT_EQ(shown["switches"]["halo"], true);
+    EXPECT_EQ(shown["switches"].toObject().size(), 6);
+    for (const QJsonObject& object : {shown, install.run("config get runner").objects().at(0)})
+        EXPECT_EQ(object["runner"], "wine --quiet");
     EXPECT_EQ(test::contentsBelow(install.folder.path()), before) << "looking changes nothing";
 
     Store store; // as one of version 2 before its upgrade
@@ -96,8 +96,7 @@ TEST_F(ConfigCommands, ownFlightsAreNoSavedFlights) {
     const QString own = (install.home() / u"Flights").native(), link = (install.folder / u"Link").native();
     install.files.makeFolder(install.home() / u"Flights");
     ASSERT_TRUE(QFile::link(own, link));
-    for (const QString& path : {own, own + u'/', own + u"/../Flights"_s, link, link + u'/',
-                                (install.folder / u"no folder").native()}) {
+    for (const QString& path : {own, link + u'/', (install.folder / u"no folder").native()}) {
         const auto run = install.run(u"config set flights"_s, {path});
         EXPECT_EQ(run.status, 1) << path.toStdString();
         EXPECT_EQ(stored(morvaneKey, u"NonEnglishPath"_s), QString()) << path.toStdString();

@@ -125,36 +125,41 @@ ConsoleRun ConsoleInstall::run(const QString& commandLine, const QStringList& mo
 
 void ConsoleInstall::addSet(const QString& name, const QString& cover, bool activated,
                             const QStringList& names) {
-    connectDatabase(session);
-    addGroundSet(name, cover, activated, names);
-    closeDatabase(session);
+    withStore([&](Session&) { addGroundSet(name, cover, activated, names); });
 }
 
 QString ConsoleInstall::sets() {
-    connectDatabase(session);
-    reload();
-    const QString names = statesOf(*session.rows<clsTextureSets>(), &clsTextureSet::Actvated);
-    closeDatabase(session);
+    QString names;
+    withStore([&](Session&) {
+        reload();
+        names = statesOf(*session.rows<clsTextureSets>(), &clsTextureSet::Actvated);
+    });
     return names;
 }
 
 void ConsoleInstall::addSky(const QString& name, const QString& cover, bool activated,
                             const QStringList& names) {
-    connectDatabase(session);
-    addSkySet(name, cover, activated, names);
-    closeDatabase(session);
+    withStore([&](Session&) { addSkySet(name, cover, activated, names); });
 }
 
 QString ConsoleInstall::skies() {
-    connectDatabase(session);
-    reload();
-    const QString names = statesOf(*session.rows<clsSkyTextureSets>(), &clsSkyTextureSet::Activated);
-    closeDatabase(session);
+    QString names;
+    withStore([&](Session&) {
+        reload();
+        names = statesOf(*session.rows<clsSkyTextureSets>(), &clsSkyTextureSet::Activated);
+    });
     return names;
 }
 
 QStringList ConsoleInstall::setFolders() const {
     return QDir((home() / u"Texture Sets").native()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+}
+
+QStringList manyFiles(const QString& folder, int count) {
+    QStringList names;
+    for (int number = 0; number < count; ++number)
+        names << folder + u"\\029b2su%1.bmp"_s.arg(number, 3, 10, QChar(u'0'));
+    return names;
 }
 
 } // namespace morvane::test

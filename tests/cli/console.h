@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store_connection.h"
 #include "support/small_install.h"
 
 #include <QJsonArray>
@@ -53,6 +54,13 @@ public:
     /// Runs a command on the install, questions answered with yes unless the command line says otherwise.
     ConsoleRun run(const QString& commandLine, const QStringList& more = {});
     QStringList withHome(const QString& commandLine) const;
+    /// Does something while the test has the store open.
+    template <class Action>
+    void withStore(Action action) {
+        connectDatabase(session);
+        action(session);
+        closeDatabase(session);
+    }
     void addSet(const QString& name, const QString& cover, bool activated = true,
                 const QStringList& names = {u"Texture\\029h2su6.bmp"_s});
     /// Names of all sets in the store with "+" behind an activated and "*" behind an installed one.
@@ -64,5 +72,8 @@ public:
     /// Names of the folders of sets.
     QStringList setFolders() const;
 };
+
+/// Names of textures in a folder, for a work that takes its time.
+QStringList manyFiles(const QString& folder, int count);
 
 } // namespace morvane::test

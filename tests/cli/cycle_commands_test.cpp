@@ -9,26 +9,19 @@
 namespace morvane {
 namespace {
 
-QStringList codesOf(const test::ConsoleRun& run) {
-    QStringList codes;
-    for (const QJsonObject& row : run.objects())
-        codes << row[u"METAR_ICAO"_s].toString();
-    codes.sort();
-    return codes;
-}
+using test::runConsole;
 
 TEST(CycleCommands, importAFileInEachForm) {
     test::ConsoleInstall install;
     const QString sample = QStringLiteral(MORVANE_DATA_DIR "/metar/");
     const std::pair<QStringList, qsizetype> cases[] = {
-        {{sample + u"Export_Cycle.dat"_s, u"asv6"_s}, 250},
-        {{sample + u"02Z.TXT"_s, u"noaa"_s}, 611}, // some stations are in both
-        {{sample + u"02Z.TXT"_s}, 614},            // and two date lines and an empty line
+        {{sample + "Export_Cycle.dat", "asv6"}, 250},
+        {{sample + "02Z.TXT", "noaa"}, 611}, // some stations are in both
+        {{sample + "02Z.TXT"}, 614},         // and two date lines and an empty line
     };
     for (const auto& [arguments, count] : cases) {
-        const auto run = install.run(u"metar import"_s, arguments);
-        EXPECT_EQ(run.status, 0) << run.messages.toStdString();
-        EXPECT_EQ(codesOf(install.run(u"metar rows"_s)).size(), count) << arguments.join(u' ').toStdString();
+        EXPECT_EQ(install.run("metar import", arguments).status, 0);
+        EXPECT_EQ(install.run("metar rows").objects().size(), static_cast<std::size_t>(count));
     }
     const auto rows = install.run(u"metar rows"_s).objects();
     const auto gusty = std::find_if(rows.begin(), rows.end(), [](const QJsonObject& row) {
@@ -59,6 +52,46 @@ TEST(CycleCommands, anActiveSkyOutOfReachFailsThemAlone) {
         const auto run = install.run(command);
         EXPECT_EQ(run.status, status) << command.toStdString();
         EXPECT_EQ(run.messages.count(u"Exclamation: Path not found"_s), status) << run.messages.toStdString();
+    }
+}
+
+TEST(DecodeCommand, givesEveryPropertyByItsName) {
+    const auto run = runConsole(u"decode"_s, {}, "EHAM 241225Z 24015G28KT 9999 BKN030 18/M09 Q1012\n");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.messages, QString());
+    const QJsonObject report = run.objects().at(0);
+    EXPECT_EQ(report.keys().join(u' '),
+              u"MetarCloud MetarDate MetarDewpoint MetarICAO MetarMaxCloud MetarMonth MetarObscuration "
+              u"MetarPressure MetarTemp MetarTime MetarVisibilityFormat MetarVisiblity MetarWeather "
+              u"MetarWeatherStrength MetarYear WindDirection WindGust WindGusting WindSpeed "
+              u"WindSpeedMeasurement WindVarying WindVaryingFrom WindVaryingTo"_s);
+    EXPECT_EQ(report[u"WindGusting"], QJsonValue(true));
+    EXPECT_EQ(report[u"MetarMaxCloud"], QJsonValue(4));
+    EXPECT_EQ(report[u"WindSpeed"], QJsonValue(u"015"_s));
+    EXPECT_EQ(report[u"MetarDewpoint"], QJsonValue(u"Minus 09"_s));
+}
+
+TEST(DecodeCommand, answersEveryLineWhateverItsBytes) {
+    const std::pair<QByteArray, QStringList> cases[] = {
+        // The station of each object.
+        {{}, {}},
+        {"\n", {{}}},
+        {"EHAM 241225Z", {u"EHAM"_s}}, // without a line end
+        {"EHAM 241225Z\r\n\r\n\nKSEA\r\n", {u"EHAM"_s, {}, {}, u"KSEA"_s}},
+        {"\xc3\x89HAM 241225Z\n", {u"ÉHAM"_s}},                   // UTF-8
+        {"\xc9HAM 241225Z\nCAF\xc9 1\n", {u"ÉHAM"_s, u"CAFÉ"_s}}, // Latin-1
+        {QByteArray("EHAM\0Z\n\0\n", 9), {u"EHAM"_s, {}}},        // a NUL is a blank
+        {"\357\273\277EHAM\n", {u"EHAM"_s}},                      // a mark of the byte order
+        {QByteArray(1 << 20, 'A') + '\n', {QString(1 << 20, u'A')}},
+        {"\xff\xfe\x01\x7f\t\n", {u"\u00ff\u00fe\u0001\u007f\t"_s}},
+    };
+    for (const auto& [input, expected] : cases) {
+        const auto run = runConsole(u"decode"_s, {}, input);
+        EXPECT_EQ(run.status, 0);
+        QStringList stations;
+        for (const QJsonObject& report : run.objects())
+            stations << report[u"MetarICAO"].toString();
+        EXPECT_EQ(stations, expected) << input.left(40).constData();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "cli/console.h"
 
+#include "support/night_install.h"
 #include "support/printing.h"
 
 #include <QRegularExpression>
@@ -13,27 +14,34 @@ using test::contentsBelow;
 struct GroundCommands : testing::Test {
     test::ConsoleInstall install;
 
+    void SetUp() override { test::addNightStock(install); }
     void expectDone(const QString& command, const QString& setsAfterwards) {
         const auto run = install.run(command);
         EXPECT_EQ(run.status, 0) << command.toStdString() << '\n' << run.messages.toStdString();
         EXPECT_EQ(install.sets(), setsAfterwards);
     }
+    void addNight(const QString& name, bool activated) {
+        install.withStore([&](Session&) { test::addNightSet(install, name, activated); });
+    }
+    QString nights() {
+        QString names;
+        install.withStore([&](Session& session) { names = test::nightSets(session); });
+        return names;
+    }
+    void expectNights(const QString& command, const QString& name, const QString& nightsAfterwards) {
+        const auto run = install.run("night " + command, {name});
+        EXPECT_EQ(run.status, 0) << command.toStdString() << '\n' << run.messages.toStdString();
+        EXPECT_EQ(nights(), nightsAfterwards);
+    }
 };
 
 TEST_F(GroundCommands, theCatalogueGivesFourArraysForTheSet) {
-    const QJsonObject catalogue = install.run(u"catalogue 2-Störm"_s).objects().at(0);
-    const QStringList keys = catalogue.keys();
-    EXPECT_EQ(keys.join(u' '), u"fileNames sourceFolders targetFolders tempFolders"_s);
-    QStringList dutch;
-    for (const QString& key : keys) {
-        EXPECT_EQ(catalogue[key].toArray().size(), 6); // the winter of category 10 stands twice
-        for (int i = 0; i < 6; ++i)
-            if (catalogue[u"fileNames"].toArray()[i] == QJsonValue(u"005a2su2.bmp"_s))
-                dutch << catalogue[key].toArray()[i].toString();
-    }
-    const QString home = install.home().native();
-    EXPECT_EQ(dutch, QStringList({u"005a2su2.bmp"_s, home + u"/Resources/DUTCH"_s,
-                                  home + u"/Texture Sets/2-Störm/Dutch"_s, home + u"/TempBitmaps/Dutch/"_s}));
+    const QJsonObject catalogue = install.run("catalogue 2-Störm").objects().at(0);
+    EXPECT_EQ(catalogue.keys().join(u' '), "fileNames sourceFolders targetFolders tempFolders");
+    const QJsonArray names = catalogue["fileNames"].toArray(), folders = catalogue["targetFolders"].toArray();
+    EXPECT_EQ(names.size(), 6); // the winter of category 10 stands twice
+    for (int i = 0; i < names.size(); ++i)
+        EXPECT_EQ(folders[i].toString().endsWith("/Texture Sets/2-Störm/Dutch"), names[i] == "005a2su2.bmp");
 }
 
 TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
@@ -41,16 +49,18 @@ TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
     EXPECT_EQ(created.status, 0);
     EXPECT_EQ(created.messages.count(u"Information: Average minutes per texture set"_s), 1);
 
-    const QJsonArray list = install.run(u"ground list"_s).array();
+    const QJsonArray list = install.run("ground list").array();
     ASSERT_EQ(list.size(), 2);
-    const QJsonObject made = list[1].toObject();
-    EXPECT_EQ(made.keys().join(u' '),
-              u"Actvated CloudCover ColorSettings Description Installed IsDutch IsNew TextureSet TsID"_s);
-    EXPECT_EQ(made[u"TsID"], QJsonValue(2));
-    EXPECT_EQ(made[u"CloudCover"], QJsonValue(u"Mostly Clear"_s));
-    EXPECT_EQ(made[u"Actvated"], QJsonValue(u"True"_s));
-    EXPECT_EQ(made[u"Installed"], QJsonValue(false));
-    const QString name = made[u"TextureSet"].toString();
+    QJsonObject made = list[1].toObject();
+    const QString name = made.take("TextureSet").toString();
+    EXPECT_FALSE(made.take("ColorSettings").toString().isEmpty());
+    EXPECT_FALSE(made.take("Description").toString().isEmpty());
+    EXPECT_EQ(made, (QJsonObject{{"TsID", 2},
+                                 {"CloudCover", "Mostly Clear"},
+                                 {"Actvated", "True"},
+                                 {"Installed", false},
+                                 {"IsDutch", true},
+                                 {"IsNew", false}}));
     EXPECT_TRUE(QRegularExpression(u"^2-\\d\\d-\\d\\d-\\d{4} \\d\\d-\\d\\d-\\d\\d$"_s).match(name).hasMatch())
         << name.toStdString();
     EXPECT_EQ(install.setFolders(), QStringList{name});
@@ -69,13 +79,9 @@ TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
 
 TEST_F(GroundCommands, wrongCountsAreToldApart) {
     const std::tuple<QString, int, QString> cases[] = {
-        {u"one"_s, 2, u"N5 takes a whole number"_s},
-        {u"-1"_s, 2, u"N5 takes a whole number"_s},
-        {u"1.5"_s, 2, u"N5 takes a whole number"_s},
-        {QString(), 2, u"N5 takes a whole number"_s},
-        {u"40000"_s, 1, u"Overflow"_s}, // more than the counter holds
-        {u"99999999999999999999"_s, 1, u"Overflow"_s},
-        {u"0"_s, 1, u"Division by zero"_s},
+        {"one", 2, "N5 takes a whole number"},   {"1.5", 2, "N5 takes a whole number"},
+        {{}, 2, "N5 takes a whole number"},      {"40000", 1, "Overflow"}, // more than the counter holds
+        {"99999999999999999999", 1, "Overflow"}, {"0", 1, "Division by zero"},
     };
     for (const auto& [count, status, said] : cases) {
         const auto run = install.run(u"ground create 0 0 0 0"_s, {count});
@@ -85,35 +91,68 @@ TEST_F(GroundCommands, wrongCountsAreToldApart) {
     }
 }
 
-TEST_F(GroundCommands, refusalsAreToldAndChangeNothing) {
-    install.addSet(u"2-Störm"_s, u"Overcast"_s);
-    install.addSet(u"3-Calm"_s, u"Sky Clear"_s, false);
-    const QString sets = u"Default+ 2-Störm+* 3-Calm"_s;
-    expectDone(u"ground install 2-Störm"_s, sets);
-    const auto before = contentsBelow(install.folder.path());
-
-    const QString unknown = u"There is no ground texture set named 'Fog'"_s;
-    const QString locked = u"This is a protected texture set and no changes can be made to this set."_s;
-    const std::pair<QString, QString> cases[] = {
-        {u"activate Default"_s, u"The ground texture set 'Default' is activated already"_s},
-        {u"activate Fog"_s, unknown},
-        {u"deactivate Fog"_s, unknown},
-        {u"delete Fog"_s, unknown},
-        {u"install Fog"_s, unknown},
-        {u"install 3-Calm"_s, u"The ground texture set '3-Calm' is not activated"_s},
-        {u"deactivate Default"_s, locked},
-        {u"delete Default"_s, locked},
-        {u"deactivate 2-Störm"_s, locked},
-        {u"delete 2-Störm"_s, locked},
-    };
-    for (const auto& [words, text] : cases) {
-        const auto run = install.run(u"ground "_s + words);
-        EXPECT_EQ(run.status, 1) << words.toStdString();
-        EXPECT_EQ(run.messages.count(text), 1) << run.messages.toStdString();
-        EXPECT_TRUE(run.output.isEmpty());
+TEST_F(GroundCommands, refusalsOfEveryKindOfSetAreToldAndChangeNothing) {
+    install.addSet("2-Störm", "Overcast");
+    install.addSet("3-Calm", "Sky Clear", false);
+    for (const auto& [name, isActivated] :
+         {std::pair("Default", true), {"2-Störm", true}, {"3-Calm", false}}) {
+        install.addSky(name, "Overcast", isActivated);
+        addNight(name, isActivated);
     }
-    EXPECT_EQ(install.sets(), sets);
-    EXPECT_EQ(contentsBelow(install.folder.path()), before);
+    const QString unknown = "There is no %1 texture set named 'Fog'", all = "ground night sky",
+                  locked = "This is a protected texture set and no changes can be made to this set.";
+    const std::tuple<QString, QString, QString> cases[] = {
+        // The words, what is told, and the kinds of which it holds: each kind protects sets of its own.
+        {"activate Default", "The %1 texture set 'Default' is activated already", "ground night"},
+        {"activate Fog", unknown, all},
+        {"deactivate Fog", unknown, all},
+        {"delete Fog", unknown, all},
+        {"install Fog", unknown, all},
+        {"install 3-Calm", "The %1 texture set '3-Calm' is not activated", all},
+        {"deactivate Default", locked, all},
+        {"delete Default", locked, all},
+        {"deactivate 2-Störm", locked, "ground sky"}, // an installed one
+        {"delete 2-Störm", locked, "ground sky"},
+    };
+    for (const QString& kind : {u"ground"_s, u"night"_s, u"sky"_s}) {
+        EXPECT_EQ(install.run(kind + " install 2-Störm").status, 0);
+        const auto before = contentsBelow(install.folder.path());
+        for (const auto& [words, text, kinds] : cases) {
+            if (!kinds.contains(kind)) continue;
+            const auto run = install.run(kind + u' ' + words);
+            EXPECT_EQ(run.status, 1) << kind.toStdString() << words.toStdString();
+            EXPECT_EQ(run.messages.count(text.contains("%1") ? text.arg(kind) : text), 1)
+                << run.messages.toStdString();
+            EXPECT_TRUE(run.output.isEmpty());
+        }
+        EXPECT_TRUE(contentsBelow(install.folder.path()) == before) << kind.toStdString();
+    }
+    EXPECT_EQ(install.run("sky show Fog").status, 1);
+    EXPECT_EQ(install.sets() + '|' + nights() + '|' + install.skies(),
+              "Default+ 2-Störm+* 3-Calm|Default+ 2-Störm+* 3-Calm|Default+ 2-Störm+* 3-Calm");
+}
+
+TEST_F(GroundCommands, aFavouriteIsMadeActivatedInstalledSwitchedOffAndDeleted) {
+    addNight("Default", true);
+    const auto made = install.run(u"night favourite"_s, {u"Cold lights"_s, u"0:-30:-30:80:0:0"_s});
+    EXPECT_EQ(made.status, 0) << made.messages.toStdString();
+    const QString name = u"2-Cold lights"_s;
+    EXPECT_EQ(nights(), u"Default+ "_s + name);
+    const QJsonObject set = install.run(u"night list"_s).array().at(1).toObject();
+    EXPECT_EQ(set, (QJsonObject{{u"Installed"_s, false},
+                                {u"IsNew"_s, false},
+                                {u"NtsID"_s, 2},
+                                {u"ColorSettings"_s, u"0:-6:-6:16:0:0"_s},
+                                {u"TextureSet"_s, name},
+                                {u"Actvated"_s, u"False"_s},
+                                {u"Description"_s, u""_s}}));
+    expectNights("activate", name, u"Default+ "_s + name + u'+');
+    expectNights("install", name, u"Default+ "_s + name + u"+*"_s);
+    expectNights("install", u"Default"_s, u"Default+* "_s + name + u'+');
+    EXPECT_EQ(install.run(u"originals restore"_s).status, 0);
+    EXPECT_EQ(nights(), u"Default+ "_s + name + u'+') << "none is installed any more";
+    expectNights("deactivate", name, u"Default+ "_s + name);
+    expectNights("delete", name, u"Default+"_s);
 }
 
 TEST_F(GroundCommands, aNoOrNobodyToAskDeletesNothing) {
@@ -133,50 +172,43 @@ TEST_F(GroundCommands, aNoOrNobodyToAskDeletesNothing) {
     EXPECT_EQ(install.sets(), u"Default+"_s);
 }
 
+/// What is not ours any more is left and named; a damaged kept file is a failure.
 TEST_F(GroundCommands, thePilotsFilesAreListedAndRestored) {
-    const FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029h2su6.bmp";
-    install.addSet(u"2-Storm"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s, u"Texture\\new.bmp"_s});
+    const QString path = "Scenery\\World\\texture\\029H2SU6.BMP";
+    const FilePath texture = install.simulator() / path, kept = install.home() / u"Backup\\Originals" / path;
+    install.addSet("2-Storm", "Overcast", true, {"Texture\\029h2su6.bmp", "Texture\\new.bmp"});
     const auto before = contentsBelow(install.simulator());
-    EXPECT_TRUE(install.run(u"originals list"_s).array().isEmpty());
-    expectDone(u"ground install 2-Storm"_s, u"Default+ 2-Storm+*"_s);
+    EXPECT_TRUE(install.run("originals list").array().isEmpty());
+    expectDone("ground install 2-Storm", "Default+ 2-Storm+*");
     EXPECT_EQ(test::readFile(texture), "2-Storm Texture\\029h2su6.bmp");
 
-    const QJsonArray list = install.run(u"originals list"_s).array();
+    const QJsonArray list = install.run("originals list").array();
     ASSERT_EQ(list.size(), 2); // "new.bmp" replaced nothing
-    EXPECT_EQ(list[0].toObject()[u"path"], u"Scenery\\World\\texture\\029H2SU6.BMP"_s);
-    const QJsonObject splash = list[1].toObject();
-    EXPECT_EQ(splash.keys(), QStringList({"copy", "kept", "mode", "number", "path", "sha1", "size"}));
-    EXPECT_EQ(splash[u"path"], u"Uires\\dlgsplash.bmp"_s);
-    EXPECT_EQ(splash[u"sha1"], u"74a0a683fa9a9bd35ff624fad775b1f42cc4b897"_s);
-    EXPECT_EQ(splash[u"size"], 18);
-    EXPECT_EQ(splash[u"number"], 1);
-
-    expectDone(u"originals restore"_s, u"Default+ 2-Storm+"_s); // none is installed any more
+    EXPECT_EQ(list[0].toObject()["path"], path);
+    QJsonObject splash = list[1].toObject();
+    EXPECT_FALSE(splash.take("kept").toString().isEmpty() || splash.take("mode").toString().isEmpty());
+    EXPECT_EQ(splash, (QJsonObject{{"copy", "Uires\\dlgsplash.bmp"},
+                                   {"number", 1},
+                                   {"path", "Uires\\dlgsplash.bmp"},
+                                   {"sha1", "74a0a683fa9a9bd35ff624fad775b1f42cc4b897"},
+                                   {"size", 18}}));
+    expectDone("originals restore", "Default+ 2-Storm+"); // none is installed any more
     EXPECT_EQ(contentsBelow(install.simulator()), before);
-}
 
-/// What is not ours any more is left and named; a damaged kept file is a failure.
-TEST_F(GroundCommands, aRestoreNamesWhatItLeaves) {
-    const QString path = u"Scenery\\World\\texture\\029H2SU6.BMP"_s;
-    install.addSet(u"2-Storm"_s, u"Overcast"_s);
-    const struct {
-        FilePath spoilt;
-        int status;
-        QString list, said;
-    } cases[] = {
-        {install.simulator() / path, 0, u"left"_s, u"1 file put back, 1 left as they are\n"_s},
-        {install.home() / u"Backup\\Originals" / path, 1, u"damaged"_s, u"Exclamation: "_s},
+    const std::tuple<FilePath, int, QString, QString> cases[] = {
+        // What is spoilt, the status, where it is listed and what is said.
+        {texture, 0, "left", "1 file put back, 1 taken away, 1 left as they are\n"},
+        {kept, 1, "damaged", "Exclamation: "},
     };
-    for (const auto& road : cases) {
-        EXPECT_EQ(install.run(u"ground install 2-Storm"_s).status, 0);
-        test::writeFile(road.spoilt, "by another hand");
-        const auto run = install.run(u"originals restore"_s);
-        EXPECT_EQ(run.status, road.status) << run.messages.toStdString();
+    for (const auto& [spoilt, status, listed, said] : cases) {
+        EXPECT_EQ(install.run("ground install 2-Storm").status, 0);
+        test::writeFile(spoilt, "by another hand");
+        const auto run = install.run("originals restore");
+        EXPECT_EQ(run.status, status) << run.messages.toStdString();
         ASSERT_EQ(run.objects().size(), 1u);
-        EXPECT_EQ(run.objects()[0][road.list].toArray(), QJsonArray{path});
-        EXPECT_TRUE(run.messages.contains(road.said) && run.messages.contains(path))
-            << run.messages.toStdString();
-        test::writeFile(install.simulator() / path, "2-Storm Texture\\029h2su6.bmp");
+        EXPECT_EQ(run.objects()[0][listed].toArray(), QJsonArray{path});
+        EXPECT_TRUE(run.messages.contains(said) && run.messages.contains(path)) << run.messages.toStdString();
+        test::writeFile(texture, "2-Storm Texture\\029h2su6.bmp");
     }
 }
 

@@ -1,10 +1,13 @@
 #include "cli/console.h"
-#include "core/row_set.h"
-#include "core/store_connection.h"
+
+#include "core/store.h"
+#include "imaging/picture_reader.h"
+#include "imaging/texture_codec.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
 #include <QFile>
+#include <QJsonDocument>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -20,21 +23,24 @@ struct OptionCommands : testing::Test {
     OptionCommands() {
         writeFile(install.home() / u"Media\\halo.bmp", "ours");
         writeFile(install.home() / u"Media\\dlgsplash.bmp", "the pilot's own splash");
-        connectDatabase(install.session);
-        RowSet rows(*install.session.adoConn, u"SELECT * FROM MV_CONFIG"_s);
-        rows.addNew();
-        rows.setText(u"TITLE", u"Global Coverage - Day"_s);
-        rows.setText(u"MV_FOLDER", u"GENERIC WORLD"_s);
-        rows.setText(u"FS_FOLDER", u"Scenery\\World\\texture"_s);
-        rows.setFlag(u"INSTALLED", false);
-        rows.update();
-        test::addNightSet(install, u"Default"_s, true);
-        closeDatabase(install.session);
+        install.withStore([&](Session& session) {
+            session.adoConn->execute("INSERT INTO MV_CONFIG(TITLE, MV_FOLDER, FS_FOLDER) VALUES "
+                                     "('Global Coverage - Day', 'GENERIC WORLD', 'Scenery\\World\\texture')");
+            test::addNightSet(install, "Default", true);
+        });
     }
 };
 
 TEST_F(OptionCommands, baseInstallBackupAndRestore) {
     const QByteArray own = readFile(texture);
+    const auto before = test::contentsBelow(install.folder.path());
+    for (const QString& words : {u"base install Fog"_s, u"backup restore 1-Backup"_s}) {
+        const auto run = install.run(words);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_TRUE(run.messages.contains("There is no " + words.section(u' ', 0, 0)))
+            << run.messages.toStdString();
+    }
+    EXPECT_TRUE(test::contentsBelow(install.folder.path()) == before);
     EXPECT_EQ(install.run(u"backup create"_s).status, 0);
     EXPECT_EQ(install.run(u"base install"_s, {u"Global Coverage - Day"_s}).status, 0);
     EXPECT_EQ(readFile(texture), "body of GENERIC WORLD\\029h2su6.bmp");
@@ -65,18 +71,28 @@ TEST_F(OptionCommands, eachOptionIsKept) {
     EXPECT_EQ(readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's own splash");
 }
 
-TEST_F(OptionCommands, refusalsChangeNothing) {
-    const auto before = test::contentsBelow(install.folder.path());
-    const std::pair<QString, QString> cases[] = {
-        {u"base install Fog"_s, u"There is no base install named 'Fog'"_s},
-        {u"backup restore 1-Backup"_s, u"There is no backup named '1-Backup'"_s},
-    };
-    for (const auto& [words, text] : cases) {
-        const auto run = install.run(words);
-        EXPECT_EQ(run.status, 1) << words.toStdString();
-        EXPECT_TRUE(run.messages.contains(text)) << run.messages.toStdString();
-    }
-    EXPECT_EQ(test::contentsBelow(install.folder.path()), before);
+TEST(StockCommands, bringThePilotsTexturesAndTakeThemBack) {
+    test::ConsoleInstall install;
+    const FilePath own = install.folder / u"Own textures";
+    const FilePath image = install.home() / u"Resources\\GENERIC WORLD\\029h2su6.bmp";
+    const QByteArray before = test::readFile(image);
+    test::writeFile(own / u"one.bmp", test::smallBitmap(16, 90));
+    const QByteArray texture = compressTexture(loadPicture(install.files, own / u"one.bmp"));
+    for (const char16_t* name : {u"029H2SU6.BMP", u"UTEurLC\\034A2SU1.BMP"})
+        test::writeFile(own / name, texture);
+
+    const auto brought = install.run(u"stock import"_s, {u"--from"_s, own.native()});
+    EXPECT_EQ(brought.status, 0) << brought.messages.toStdString();
+    const QJsonObject report = QJsonDocument::fromJson(brought.output).object();
+    EXPECT_EQ(report[u"files"_s], 2);
+    EXPECT_EQ(report[u"cancelled"_s], false);
+    EXPECT_NE(test::readFile(image), before);
+    EXPECT_EQ(install.run(u"stock restore"_s).status, 0);
+    EXPECT_EQ(test::readFile(image), before);
+
+    EXPECT_EQ(install.run(u"stock restore"_s).status, 1) << "nothing is kept any more";
+    const FilePath nowhere = install.folder / u"nowhere";
+    EXPECT_EQ(install.run(u"stock import"_s, {u"--from"_s, nowhere.native()}).status, 1);
 }
 
 } // namespace

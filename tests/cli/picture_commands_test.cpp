@@ -22,10 +22,10 @@ struct PictureCommands : testing::Test {
     void expectError(const QString& command, const QStringList& files, const QString& said) {
         const auto before = test::contentsBelow(folder.path());
         const auto run = runConsole(command, files);
-        EXPECT_EQ(run.status, 1) << command.toStdString() << ' ' << files.join(u' ').toStdString();
-        EXPECT_TRUE(run.messages.startsWith(u"Error: Morvane Error\n  "_s)) << run.messages.toStdString();
-        EXPECT_TRUE(run.messages.contains(said)) << run.messages.toStdString();
-        EXPECT_EQ(run.messages.count(u'\n'), 2) << run.messages.toStdString();
+        SCOPED_TRACE((command + u' ' + files.join(u' ') + run.messages).toStdString());
+        EXPECT_EQ(run.status, 1);
+        EXPECT_TRUE(run.messages.startsWith("Error: Morvane Error\n  ") && run.messages.contains(said));
+        EXPECT_EQ(run.messages.count(u'\n'), 2);
         EXPECT_EQ(test::contentsBelow(folder.path()), before);
     }
 };

@@ -10,13 +10,7 @@ namespace {
 
 using test::Console;
 using test::ConsoleInstall;
-
-QStringList manyFiles(const QString& folder, int count) {
-    QStringList names;
-    for (int number = 0; number < count; ++number)
-        names << folder + u"\\029b2su%1.bmp"_s.arg(number, 3, 10, QChar(u'0'));
-    return names;
-}
+using test::manyFiles;
 
 /// The first one is known to write when the second one starts.
 std::pair<test::ConsoleRun, test::ConsoleRun> runTwo(ConsoleInstall& install, const QString& firstCommand,

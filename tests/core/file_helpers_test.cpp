@@ -4,7 +4,6 @@
 #include "support/small_install.h"
 
 #include <QFile>
-#include <array>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -73,14 +72,6 @@ TEST(FileVersion, isReadFromTheFixedRecord) {
         EXPECT_EQ(getFileVersionText(files, folder / u"ASv6.exe"), text);
     }
     EXPECT_EQ(getFileVersionText(files, folder / u"missing.exe"), QString());
-}
-
-TEST(FileVersion, missingAndOddPartsCountAsNothing) {
-    const std::pair<QString, std::array<int, 4>> cases[] = {
-        {u"6.0.5121.7"_s, {6, 0, 5121, 7}}, {u"6.x.5120"_s, {6, 0, 5120, 0}}, {{}, {}}};
-    for (const auto& [version, parts] : cases)
-        for (std::size_t i = 0; i < 4; ++i)
-            EXPECT_EQ(versionPart(version, static_cast<int>(i)), parts[i]) << version.toStdString();
 }
 
 } // namespace

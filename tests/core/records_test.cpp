@@ -8,10 +8,11 @@
 #include "simulator/configs.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
+#include "weather/wx_finders.h"
+
 #include "support/faulty_store.h"
 #include "support/scripted_services.h"
 #include "support/scripted_user.h"
-#include "weather/wx_finders.h"
 
 namespace morvane {
 namespace {
@@ -110,12 +111,18 @@ TEST_F(RecordsTest, aSkySetGoesWithItsColours) {
     EXPECT_EQ(column(u"TEXTURE_SET_ID"_s, u"SKY_TEXTURE_SUB_SETS"_s), QStringList{u"3"_s});
 }
 
-TEST_F(RecordsTest, keysEndAtSixteenBits) {
-    setNextKey(u"TEXTURE_SETS"_s, 32768);
+TEST_F(RecordsTest, aKeyBeyondSixteenBitsOrInMemoryAlreadyFails) {
+    setNextKey("TEXTURE_SETS", 32768);
     EXPECT_FALSE(session.rows<clsTextureSets>()->UpdateTextureSet(storm));
     EXPECT_EQ(storm.TextureSet, "Storm");
     EXPECT_EQ(groundSets(), QStringList());
-    EXPECT_EQ(user.told(), QStringList{u"Error|Morvane Error|Overflow"_s});
+    EXPECT_EQ(user.told(), QStringList{"Error|Morvane Error|Overflow"});
+    execute("UPDATE sqlite_sequence SET seq = 0");
+    clsTextureSet stale;
+    stale.TsID = 1;
+    session.rows<clsTextureSets>()->AddItem(stale);
+    EXPECT_FALSE(session.rows<clsTextureSets>()->UpdateTextureSet(storm)) << "after the row is there";
+    EXPECT_EQ(groundSets(), QStringList{"1-Storm"});
 }
 
 TEST_F(RecordsTest, aDamagedRowIsToldAndHidesNoOther) {
@@ -166,52 +173,35 @@ TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
               "Error|Morvane Error|%1/Exclamation|Metar Decode Error!|%1"_s.arg(closed));
 }
 
-TEST_F(RecordsTest, savingAChangeLeavesTheRecordInMemory) {
-    addGroundSets({u"Default"_s, u"Storm"_s});
-    const auto kept = session.rows<clsTextureSets>()->GetKey(u"2"_s);
-    clsTextureSet changed = *kept;
-    changed.Description = u"wet"_s;
-    ASSERT_TRUE(session.rows<clsTextureSets>()->UpdateTextureSet(changed));
-    EXPECT_EQ(session.rows<clsTextureSets>()->GetKey(u"2"_s), kept);
-    EXPECT_EQ(kept->Description, "");
-    EXPECT_EQ(column(u"DESCRIPTION"_s, u"TEXTURE_SETS"_s), (QStringList{QString(), u"wet"_s}));
-}
-
 TEST_F(RecordsTest, positionsAndKeys) {
-    addGroundSets({u"a"_s, u"b"_s, u"c"_s});
+    addGroundSets({"a", "b", "c"});
     clsTextureSets& sets = *session.rows<clsTextureSets>();
+    const auto kept = sets.GetKey("3");
+    clsTextureSet changed = *kept;
+    changed.Description = "wet";
+    ASSERT_TRUE(sets.UpdateTextureSet(changed));
+    EXPECT_EQ(sets.GetKey("3"), kept);
+    EXPECT_EQ(kept->Description, "") << "a change that is saved leaves the record in memory";
+    EXPECT_EQ(column("DESCRIPTION", "TEXTURE_SETS"), (QStringList{QString(), QString(), "wet"}));
     EXPECT_THROW(sets.Item(0), Error);
     EXPECT_THROW(sets.Item(4), Error);
-    EXPECT_THROW(sets.RemoveItem(u"4"_s, 1), Error); // an unknown key touches no row
-    EXPECT_TRUE(sets.RemoveItem(u"2"_s, 2));
+    EXPECT_THROW(sets.RemoveItem("4", 1), Error); // an unknown key touches no row
+    EXPECT_TRUE(sets.RemoveItem("2", 2));
     EXPECT_EQ(sets.GetItem(2)->TextureSet, "c");
     EXPECT_EQ(groundSets().join(u' '), "a c");
 }
 
-TEST_F(RecordsTest, aKeyInMemoryAlreadyFailsAfterTheRowIsThere) {
-    clsTextureSet stale;
-    stale.TsID = 1;
-    session.rows<clsTextureSets>()->AddItem(stale);
-    EXPECT_FALSE(session.rows<clsTextureSets>()->UpdateTextureSet(storm));
-    EXPECT_EQ(groundSets(), QStringList{u"1-Storm"_s});
-}
-
 TEST_F(RecordsTest, namesAreFoundAsTextOrAsNumbers) {
-    addGroundSets({u"Storm"_s, u"storm"_s});
-    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex(u"storm"_s), 2); // exactly, with regard to case
-    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex(u"calm"_s), 0);
+    addRows("TEXTURE_SETS(TEXTURE_SET)", {"Storm", "storm"});
+    clsTextureSets second(session);
+    EXPECT_TRUE(second.getTextureSets());
+    EXPECT_EQ(second.Count(), 0) << "a load fills the session's collection";
+    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("storm"), 2); // exactly, with regard to case
+    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("calm"), 0);
     addBackups({u"12.0"_s, u"2-Backup"_s});
     clsBackups::reload(session);
     EXPECT_EQ(session.rows<clsBackups>()->findIndex(12), 1);
     EXPECT_THROW(session.rows<clsBackups>()->findIndex(2), Error);
-}
-
-TEST_F(RecordsTest, aLoadFillsTheSessionsCollection) {
-    addRows(u"TEXTURE_SETS(TEXTURE_SET)"_s, {u"Default"_s});
-    clsTextureSets second(session);
-    EXPECT_TRUE(second.getTextureSets());
-    EXPECT_EQ(second.Count(), 0);
-    EXPECT_EQ(session.rows<clsTextureSets>()->Count(), 1);
 }
 
 TEST_F(RecordsTest, oneSetIsInstalled) {
@@ -239,17 +229,17 @@ TEST_F(RecordsTest, configurationsAreFoundByTheirTitle) {
 
 TEST_F(RecordsTest, eachSwitchWritesItsOwnColumn) {
     execute(u"INSERT INTO TEXTURE_SWITCH(ISDUTCH) VALUES (False)"_s);
+    const std::tuple<bool (clsConfigs::*)(bool), bool (clsConfigs::*)(), QString> switches[] = {
+        {&clsConfigs::UpdateDutch, &clsConfigs::GetDutchVal, "1|1|0|0|0"},
+        {&clsConfigs::UpdateTropical, &clsConfigs::GetTropicalVal, "1|0|1|0|0"},
+        {&clsConfigs::UpdateHalo, &clsConfigs::GetHaloVal, "1|0|0|1|0"},
+        {&clsConfigs::UpdateFastExit, &clsConfigs::GetFastExitVal, "1|0|0|0|1"}};
     clsConfigs configs(session);
-    const auto rows = [&] { return rowsOf(u"TEXTURE_SWITCH"_s).join(u'/'); };
-    EXPECT_TRUE(configs.UpdateDutch(true) && configs.GetDutchVal());
-    EXPECT_EQ(rows(), "1|1|0|0|0");
-    EXPECT_FALSE(configs.GetTropicalVal() || configs.GetHaloVal() || configs.GetFastExitVal());
-    EXPECT_TRUE(configs.UpdateTropical(true) && configs.UpdateDutch(false) && configs.GetTropicalVal());
-    EXPECT_EQ(rows(), "1|0|1|0|0");
-    EXPECT_TRUE(configs.UpdateHalo(true) && configs.UpdateTropical(false) && configs.GetHaloVal());
-    EXPECT_EQ(rows(), "1|0|0|1|0");
-    EXPECT_TRUE(configs.UpdateFastExit(true) && configs.UpdateHalo(false) && configs.GetFastExitVal());
-    EXPECT_EQ(rows(), "1|0|0|0|1");
+    for (const auto& [update, get, row] : switches) {
+        EXPECT_TRUE(!(configs.*get)() && (configs.*update)(true) && (configs.*get)());
+        EXPECT_EQ(rowsOf("TEXTURE_SWITCH"), QStringList{row});
+        EXPECT_TRUE((configs.*update)(false));
+    }
 }
 
 TEST_F(RecordsTest, oneReportAStation) {

@@ -6,6 +6,7 @@
 #include "core/store_schema.h"
 
 #include "support/printing.h"
+#include "support/raised_error.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -46,17 +47,6 @@ protected:
         }
         return lines;
     }
-    /// What the user would read of a failed action.
-    template <class Action>
-    static QString failureOf(Action action) {
-        try {
-            action();
-        } catch (const Error& error) {
-            return error.description();
-        }
-        return u"no failure"_s;
-    }
-
     TemporaryFolder folder;
     FilePath file = folder / u"Morvane.mdb";
     Store store;

@@ -35,23 +35,19 @@ struct GroundActions : testing::Test {
     auto setFiles() { return contentsBelow(install.home() / u"Texture Sets"); }
 };
 
-TEST_F(GroundActions, deletingTakesRowAndFolder) {
-    addStorm();
-    deleteSelected(false);
-    EXPECT_EQ(activationOf("2-Storm"), "gone");
-    EXPECT_FALSE(install.files.exists(install.home() / u"Texture Sets\\2-Storm"));
-    EXPECT_EQ(install.user.told(),
-              QStringList({"Question|Morvane Information|Do you wish to delete the texture set: '2-Storm'?  "
-                           "This action cannot be reversed\n\nSelect Ok, to delete the file or select Cancel "
-                           "to cancel the delete."}));
-}
-
-TEST_F(GroundActions, deactivatingKeepsTheRowAndEmptyFolders) {
+TEST_F(GroundActions, deactivatingKeepsTheRowAndEmptyFoldersAndDeletingNothing) {
     addStorm();
     deleteSelected(true);
     EXPECT_EQ(activationOf("2-Storm"), "False");
     EXPECT_TRUE(setFiles().isEmpty());
     EXPECT_EQ(install.files.listFolders(install.home() / u"Texture Sets\\2-Storm").size(), 3);
+    clickGroundRow(session, "2-Storm");
+    deleteSelected(false);
+    EXPECT_EQ(activationOf("2-Storm"), "gone");
+    EXPECT_FALSE(install.files.exists(install.home() / u"Texture Sets\\2-Storm"));
+    EXPECT_EQ(install.user.told().value(1),
+              "Question|Morvane Information|Do you wish to delete the texture set: '2-Storm'?  This action "
+              "cannot be reversed\n\nSelect Ok, to delete the file or select Cancel to cancel the delete.");
 }
 
 TEST_F(GroundActions, defaultAndTheInstalledSetAreProtected) {
@@ -154,12 +150,12 @@ TEST_F(GroundActions, aLockedStoreEndsARunWithOneMessageBeforeItMakesAnyFile) {
 TEST_F(GroundActions, selectionTakesRowColoursAndDescription) {
     const QString key = u"Key:%1"_s.arg(install.addGroundSet("2-Storm", "Overcast", true));
     ASSERT_TRUE(loadGroundSelection(session, key));
-    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundKey, key);
-    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundSet, "2-Storm");
-    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundCover, "Overcast");
-    EXPECT_TRUE(session.state<GroundSelection>().SelectedGroundActivated);
-    EXPECT_EQ(session.state<GroundSelection>().colours, (ColourValues{0, 1.4f, 0, -1, 3, -1.5f}));
-    EXPECT_EQ(session.state<GroundSelection>().SelectedGroundDescription, "A set of a test");
+    const auto& ground = session.state<GroundSelection>();
+    EXPECT_EQ((QStringList{ground.SelectedGroundKey, ground.SelectedGroundSet, ground.SelectedGroundCover,
+                           ground.SelectedGroundDescription}),
+              (QStringList{key, "2-Storm", "Overcast", "A set of a test"}));
+    EXPECT_TRUE(ground.SelectedGroundActivated);
+    EXPECT_EQ(ground.colours, (ColourValues{0, 1.4f, 0, -1, 3, -1.5f}));
     EXPECT_FALSE(loadGroundSelection(session, "Key:999"));
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
 }

@@ -103,13 +103,20 @@ TEST_F(GroundInstall, defaultBringsTheBodiesAndItsSplashWhateverTheOption) {
     EXPECT_EQ(world(u"new.bmp"), "2-Storm Texture\\new.bmp"); // what the new set lacks keeps its content
 }
 
-TEST_F(GroundInstall, readOnlyTargetsRaiseAndLinksAreReplaced) {
+TEST_F(GroundInstall, readOnlyTargetsRaiseLinksAreReplacedAndModesStay) {
     const FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029h2su6.bmp";
+    const QString onDisk = (install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP").native();
     install.files.setReadOnly(texture, true);
     installSet("2-Storm");
     EXPECT_EQ(world(u"029h2su6.bmp"), "the pilot's GENERIC WORLD\\029h2su6.bmp");
     ASSERT_EQ(install.user.told().size(), 1);
     EXPECT_TRUE(install.user.told()[0].startsWith("Error|Morvane Error|Permission denied: "));
+
+    QFile::setPermissions(onDisk, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+    installSet("2-Storm");
+    EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Texture\\029h2su6.bmp");
+    EXPECT_TRUE(QFile::permissions(onDisk).testFlag(QFile::ReadGroup));
+    EXPECT_FALSE(QFile::permissions(onDisk).testFlag(QFile::ReadOther));
 
     install.files.remove(texture);
     writeFile(install.folder / u"elsewhere.bmp", "mine");
@@ -138,14 +145,6 @@ TEST_F(GroundInstall, aStaleCollectionOverwritesNoOtherSet) {
     installSet("2-Storm");
     install.reload();
     EXPECT_EQ(findGroundSet(session, "3-Calm")->Actvated, "False");
-}
-
-TEST_F(GroundInstall, theModeOfAReplacedFileStays) {
-    const QString texture = (install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP").native();
-    QFile::setPermissions(texture, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
-    installSet("2-Storm");
-    EXPECT_TRUE(QFile::permissions(texture).testFlag(QFile::ReadGroup));
-    EXPECT_FALSE(QFile::permissions(texture).testFlag(QFile::ReadOther));
 }
 
 } // namespace

@@ -19,26 +19,18 @@ struct Draws : testing::Test {
     ScriptedUser user;
     ScriptedRandom random;
     clsNoRepeat draws{user, random};
-
-    int one(int low, int high, double fraction) {
-        random.numbers = {fraction};
-        return draws.Non_Repeating_Numbers(1, high, low)->front();
-    }
 };
 
 constexpr double nearlyOne = 0.99999999999999989;
 
-TEST_F(Draws, stayBelowTheUpperBoundWhateverTheFloatWidth) {
-    EXPECT_EQ(one(-22, -10, 0), -22);
-    EXPECT_EQ(one(-22, -10, nearlyOne), -11);
-    EXPECT_EQ(one(0, 1, nearlyOne), 0);
-    EXPECT_EQ(one(0, 32767, nearlyOne), 32766);
-}
-
-TEST_F(Draws, theFifthOfFiveRoundsStands) {
-    random.numbers = {0.1, 0.2, 0.3, 0.4, 0.95};
-    EXPECT_EQ(draws.Non_Repeating_Numbers(1, 10, 0)->front(), 9);
-    EXPECT_EQ(random.draws, 5);
+TEST_F(Draws, stayBelowTheUpperBoundAndTheFifthOfFiveRoundsStands) {
+    const std::tuple<int, int, double, int> cases[] = {
+        {-22, -10, 0, -22}, {-22, -10, nearlyOne, -11}, {0, 1, nearlyOne, 0}, {0, 32767, nearlyOne, 32766}};
+    for (const auto& [low, high, fraction, expected] : cases) {
+        random.numbers = {0.1, 0.2, 0.3, 0.4, fraction};
+        EXPECT_EQ(draws.Non_Repeating_Numbers(1, high, low)->front(), expected) << high;
+    }
+    EXPECT_EQ(random.draws, 20);
 }
 
 TEST_F(Draws, boundsOutOfOrderAreTold) {

@@ -18,7 +18,7 @@ QStringList namesOf(const std::vector<CatalogueFile>& files) {
 }
 
 /// The names that a category's walk over these base images gives.
-QStringList walk(const QStringList& baseImages, int category, int seasonCount = 0) {
+QStringList walk(const QStringList& baseImages, int category, int seasonCount) {
     QStringList paths;
     for (const QString& name : baseImages)
         paths << u"GENERIC WORLD\\%1.bmp"_s.arg(name);
@@ -28,22 +28,18 @@ QStringList walk(const QStringList& baseImages, int category, int seasonCount = 
     return namesOf(catalogue.popTextureList(seasonCount, 1, true, "7-Storm")).replaceInStrings(".bmp", "");
 }
 
-TEST(TextureCatalogue, walksSeasonsOutsideAndPatternsInside) {
-    EXPECT_EQ(walk({"030a2sp1", "029b2su6", "029h2sp6", "029a2sp6", "136a2wi1", "029a2lm6"}, 1).join(u' '),
-              "029a2sp6 029h2sp6 030a2sp1 029b2su6 136a2wi1");
-}
-
-TEST(TextureCatalogue, takesOnlyTheLettersOfACategory) {
-    const QStringList names{"006a2sp7", "006c2sp7", "006k2sp7", "013c2sp7"};
-    EXPECT_EQ(walk(names, 3), QStringList({"006a2sp7", "013c2sp7"}));
-    EXPECT_EQ(walk(names, 10), QStringList({"006c2sp7"}));
-}
-
-TEST(TextureCatalogue, winterOfTheRedSoilStandsTwice) {
-    const QStringList names{"002c2wi1", "052c2wi1", "052c2su1"};
-    EXPECT_EQ(walk(names, 10).join(u' '), "052c2su1 002c2wi1 052c2wi1 002c2wi1 052c2wi1");
-    // With its flag off the winter comes all the same, once.
-    EXPECT_EQ(walk(names, 10, 1).join(u' '), "002c2wi1 052c2wi1");
+TEST(TextureCatalogue, walksSeasonsOutsideAndPatternsInsideByTheLettersOfACategory) {
+    const QStringList town{"030a2sp1", "029b2su6", "029h2sp6", "029a2sp6", "136a2wi1", "029a2lm6"},
+        letters{"006a2sp7", "006c2sp7", "006k2sp7", "013c2sp7"}, red{"002c2wi1", "052c2wi1", "052c2su1"};
+    const std::tuple<QStringList, int, int, QString> cases[] = {
+        {town, 1, 0, "029a2sp6 029h2sp6 030a2sp1 029b2su6 136a2wi1"},
+        {letters, 3, 0, "006a2sp7 013c2sp7"},
+        {letters, 10, 0, "006c2sp7"},
+        {red, 10, 0, "052c2su1 002c2wi1 052c2wi1 002c2wi1 052c2wi1"}, // winter of the red soil stands twice,
+        {red, 10, 1, "002c2wi1 052c2wi1"}, // and with its flag off comes all the same, once
+    };
+    for (const auto& [baseImages, category, seasonCount, expected] : cases)
+        EXPECT_EQ(walk(baseImages, category, seasonCount).join(u' '), expected) << category;
 }
 
 TEST(TextureCatalogue, industrialAreasAreFiveRuns) {
@@ -68,8 +64,12 @@ TEST(TextureCatalogue, industrialAreasAreFiveRuns) {
 }
 
 TEST(TextureCatalogue, targetsAreTheSetsOrTheSimulatorsFolders) {
-    SmallInstall install({{u"DUTCH\\008a2su2.bmp"_s}});
+    SmallInstall install({{u"DUTCH\\008a2su2.bmp"_s, u"GENERIC WORLD\\022a2su1.bmp"_s}});
     TextureCatalogue catalogue(install.session);
+    EXPECT_EQ(namesOf(catalogue.popTextureList(0, 0, true, "x")),
+              QStringList({"022a2su1.bmp", "008a2su2.bmp"}));
+    EXPECT_FALSE(catalogue.flags.categories[14]) << "the upgrade's category is never switched on";
+    catalogue.flags.categories = {};
     catalogue.flags.categories[13] = true;
     const auto forSet = catalogue.popTextureList(0, 1, true, "7-Storm");
     const auto forSimulator = catalogue.popTextureList(0, 1, false, "");
@@ -77,13 +77,6 @@ TEST(TextureCatalogue, targetsAreTheSetsOrTheSimulatorsFolders) {
     EXPECT_EQ(forSet[0].targetFolder.relative(), "Texture Sets\\7-Storm\\Dutch");
     EXPECT_EQ(forSimulator[0].targetFolder.relative(), "Scenery\\World\\texture");
     EXPECT_EQ(forSimulator[0].tempFolder.relative(), "TempBitmaps\\Dutch");
-}
-
-TEST(TextureCatalogue, upgradeCategoryIsNeverSwitchedOn) {
-    SmallInstall install({{u"GENERIC WORLD\\022a2su1.bmp"_s}});
-    TextureCatalogue catalogue(install.session);
-    EXPECT_EQ(namesOf(catalogue.popTextureList(0, 0, true, "x")), QStringList({"022a2su1.bmp"}));
-    EXPECT_FALSE(catalogue.flags.categories[14]);
 }
 
 } // namespace

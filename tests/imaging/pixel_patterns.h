@@ -3,7 +3,7 @@
 #include "imaging/colour_space.h"
 #include "imaging/pixel_buffer.h"
 
-#include <random>
+#include <QByteArray>
 
 namespace morvane {
 
@@ -38,6 +38,13 @@ inline cDIBSection filledBuffer(int width, int height, const RgbColour& colour) 
         for (int x = 0; x < width; ++x)
             setPixel(buffer, x, y, colour);
     return buffer;
+}
+
+/// All rows, padding included; nothing for a buffer that was not created.
+inline QByteArray bytesOf(const cDIBSection& buffer) {
+    if (!buffer.isCreated()) return {};
+    return {reinterpret_cast<const char*>(buffer.DIBSectionBitsPtr()),
+            buffer.BytesPerScanLine() * buffer.Height()};
 }
 
 } // namespace test

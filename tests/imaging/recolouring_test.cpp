@@ -8,15 +8,11 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
 
 namespace morvane {
 
 namespace {
-
-QByteArray bytesOf(const cDIBSection& buffer) {
-    return {reinterpret_cast<const char*>(buffer.DIBSectionBitsPtr()),
-            buffer.BytesPerScanLine() * buffer.Height()};
-}
 
 cDIBSection recoloured(const ColourValues& values, const cDIBSection& source) {
     cDIBSection result = test::createdBuffer(source.Width(), source.Height());
@@ -37,7 +33,7 @@ cDIBSection plainlyRecoloured(const ColourValues& values, const cDIBSection& sou
 }
 
 bool isThePlainArithmetic(const ColourValues& values, const cDIBSection& source) {
-    return bytesOf(recoloured(values, source)) == bytesOf(plainlyRecoloured(values, source));
+    return test::bytesOf(recoloured(values, source)) == test::bytesOf(plainlyRecoloured(values, source));
 }
 
 /// Every byte random, padding included.
@@ -93,12 +89,12 @@ TEST(Recolouring, IsExactAtEverySaturationAndOftenAtZero) {
         const unsigned seed = random();
         const cDIBSection source = step % 2 ? randomBuffer(256, 32, seed) : extremeBuffer(seed);
         EXPECT_TRUE(step % 7 != 0 || isThePlainArithmetic(values, source)) << "step " << step;
-        digest.addData(bytesOf(recoloured(values, source)));
+        digest.addData(test::bytesOf(recoloured(values, source)));
     }
     // Beyond the sliders there is no fast path.
     for (const ColourValues& values : {ColourValues{0, 900, 0, 0, 0, 0}, ColourValues{0, 0, 0, 0, 0, 400},
                                        ColourValues{-300, 0, 0, 0, 0, 0}, ColourValues{0, 0, 0, 0, -200, 0}})
-        digest.addData(bytesOf(recoloured(values, randomBuffer(64, 64, 5))));
+        digest.addData(test::bytesOf(recoloured(values, randomBuffer(64, 64, 5))));
     EXPECT_EQ(digest.result().toHex(), "7830da75d250e056d9572687c4d90df8fb1588eb");
 }
 
@@ -122,7 +118,7 @@ TEST(Recolouring, WorksInPlaceAndIntoALargerBuffer) {
         EXPECT_EQ(test::pixelAt(larger, 200, 4), (RgbColour{1, 2, 3}));
         EXPECT_EQ(test::pixelAt(larger, 0, 5), (RgbColour{1, 2, 3}));
         recolour(values, source, source);
-        EXPECT_EQ(bytesOf(source), bytesOf(expected));
+        EXPECT_EQ(test::bytesOf(source), test::bytesOf(expected));
     }
 }
 

@@ -44,8 +44,7 @@ struct NightInstall : testing::Test {
 
     test::SmallInstall install;
     Session& session = install.session;
-    QMap<QString, QByteArray> before =
-        (test::addNightStock(install), test::contentsBelow(install.simulator()));
+    QMap<QString, QByteArray> before;
 };
 
 /// The whole of what each of the four roads copies.

@@ -4,6 +4,7 @@
 #include "night/night_texture_sets.h"
 #include "night/night_tuning.h"
 #include "sets/favourite_name.h"
+#include "sets/sample_choice.h"
 #include "sets/slider_values.h"
 #include "support/night_install.h"
 #include "support/printing.h"
@@ -15,18 +16,6 @@ namespace {
 
 struct NightTuningTest : testing::Test {
     NightTuningTest() { test::addNightStock(install); }
-    /// What the user types into the dialog before OK.
-    void nameFavourite(const QString& name, const QString& description) {
-        install.user.onModal = [=, this](Screen screen) {
-            ASSERT_EQ(screen, Screen::frm_AddFav);
-            EXPECT_EQ(session.state<FavouriteAnswer>().favKind, FavouriteKind::night);
-            session.state<FavouriteAnswer>().favName = name;
-            session.state<FavouriteAnswer>().favDescription = description;
-            session.state<FavouriteAnswer>().favConfirmed = true;
-        };
-        tuning.newFavNightTexture();
-    }
-    FilePath sets() const { return install.home() / u"Night Texture Sets"; }
 
     test::SmallInstall install;
     Session& session = install.session;
@@ -59,22 +48,28 @@ TEST_F(NightTuningTest, randomValuesKeepTheirRanges) {
 }
 
 TEST_F(NightTuningTest, samplesHaveTheirFiles) {
-    const QString files[] = {u"008b2lm1.bmp"_s, u"029b2lm1.bmp"_s, u"035b2lm1.bmp"_s, u"045b2lm1.bmp"_s,
-                             u"049b2lm1.bmp"_s};
-    const QStringList keys{u"rural"_s, u"large city"_s, u"medium city"_s, u"small city"_s,
-                           u"large city center"_s};
-    ASSERT_EQ(nightSamples().size(), std::size(files));
-    for (std::size_t i = 0; i < std::size(files); ++i) {
-        EXPECT_EQ(nightSamples()[i].key, keys[static_cast<qsizetype>(i)]);
-        EXPECT_EQ(nightSampleTexture(session.AppPath, nightSamples()[i].key).text(),
-                  (session.AppPath / u"Resources\\GENERIC WORLD NIGHT" / files[i]).text());
-    }
+    const std::pair<QString, QString> samples[] = {{u"rural"_s, u"008b2lm1.bmp"_s},
+                                                   {u"large city"_s, u"029b2lm1.bmp"_s},
+                                                   {u"medium city"_s, u"035b2lm1.bmp"_s},
+                                                   {u"small city"_s, u"045b2lm1.bmp"_s},
+                                                   {u"large city center"_s, u"049b2lm1.bmp"_s}};
+    ASSERT_EQ(nightSamples().size(), std::size(samples));
+    for (const auto& [key, file] : samples)
+        EXPECT_EQ(nightSampleTexture(session.AppPath, key).relative(),
+                  u"Resources\\GENERIC WORLD NIGHT\\"_s + file);
     EXPECT_TRUE(nightSampleTexture(session.AppPath, u"ocean"_s).isEmpty());
 }
 
 TEST_F(NightTuningTest, aFavouriteIsARowAndEmptyFolders) {
     tuning.showColourPreview(lightsBiases()[3].sliders);
-    nameFavourite(u"  Cold: lights "_s, u" blue "_s);
+    install.user.onModal = [this](Screen screen) {
+        ASSERT_EQ(screen, Screen::frm_AddFav);
+        EXPECT_EQ(session.state<FavouriteAnswer>().favKind, FavouriteKind::night);
+        session.state<FavouriteAnswer>().favName = u"  Cold: lights "_s;
+        session.state<FavouriteAnswer>().favDescription = u" blue "_s;
+        session.state<FavouriteAnswer>().favConfirmed = true;
+    };
+    tuning.newFavNightTexture();
     EXPECT_EQ(test::nightSets(session), u"1-Cold_ lights"_s);
     const auto set = findNightSet(session, u"1-Cold_ lights"_s);
     EXPECT_EQ(set->ColorSettings, u"0:-6:-6:16:0:0"_s);
@@ -82,7 +77,8 @@ TEST_F(NightTuningTest, aFavouriteIsARowAndEmptyFolders) {
     EXPECT_EQ(session.state<NightSelection>().SelectedNightSet, set->TextureSet);
     EXPECT_TRUE(session.state<NightSelection>().RefreshNightList);
     EXPECT_EQ(install.user.calls.last(), u"show frm_NightTextures"_s);
-    EXPECT_EQ(install.files.listFolders(sets() / set->TextureSet), QStringList({u"Dutch"_s, u"Texture"_s}));
+    EXPECT_EQ(install.files.listFolders(install.home() / u"Night Texture Sets" / set->TextureSet),
+              QStringList({u"Dutch"_s, u"Texture"_s}));
 
     install.user.onModal = [](Screen) {}; // cancelled
     tuning.newFavNightTexture();

@@ -10,7 +10,7 @@ say() {
 
 fail() {
     echo "FAILED: $*; windows: $(windowNames)" >&2
-    takePicture failed
+    [ -z "${MORVANE_SCREENSHOTS:-}" ] || import -window root "$MORVANE_SCREENSHOTS/failed.png"
     exit 1
 }
 
@@ -63,9 +63,17 @@ startDisplay() {
     waitFor "a display" test -s "$root/display"
     DISPLAY=:$(cat "$root/display")
     export DISPLAY
-    openbox --sm-disable >"$root/openbox.log" 2>&1 &
-    managerId=$!
-    waitFor "a window manager" hasWindowManager
+    waitFor "a window manager" hasStartedManager
+}
+
+# One that ended, as it does now and then where many start at once, is started anew.
+hasStartedManager() {
+    hasWindowManager && return 0
+    if [ -z "${managerId:-}" ] || hasEnded "$managerId"; then
+        openbox --sm-disable >>"$root/openbox.log" 2>&1 &
+        managerId=$!
+    fi
+    return 1
 }
 
 stopDisplay() {
@@ -74,17 +82,6 @@ stopDisplay() {
         kill "$id" 2>/dev/null && wait "$id" 2>/dev/null
     done
     return 0
-}
-
-# takePicture NAME: of the whole screen, where the caller of the test asked for pictures.
-takePicture() {
-    [ -n "${MORVANE_SCREENSHOTS:-}" ] || return 0
-    mkdir -p "$MORVANE_SCREENSHOTS"
-    if command -v import >/dev/null; then
-        import -window root "$MORVANE_SCREENSHOTS/$1.png"
-    elif command -v xwd >/dev/null; then
-        xwd -root -silent -out "$MORVANE_SCREENSHOTS/$1.xwd"
-    fi
 }
 
 visibleWindows() {

@@ -2,7 +2,7 @@
 # exit_session.sh PROGRAMS calm|busy: every road out of the window program, from outside: whatever stands on the screen and
 # however it is left, the process ends with status 0, its store is closed and its locks are gone. And the roads in that
 # have a process of their own: a cover word, the first start, a second window. In two parts of half a minute.
-# MORVANE_SCREENSHOTS=FOLDER keeps pictures. Exit status 77: a tool is missing here.
+# MORVANE_SCREENSHOTS=FOLDER gets a picture of a failure. Exit status 77: a tool is missing here.
 set -uo pipefail
 programs=$1 part=$2
 here=$(dirname "$0")
@@ -10,7 +10,6 @@ here=$(dirname "$0")
 
 readonly exitKey="846 60" hostKeys=("71 239" "71 319" "71 399") weatherKey="71 479" baseInstallKey="815 239"
 readonly createKey="233 512" refreshKey="646 513" backupKey="371 513"
-readonly cancelProcessKey="323 264"
 readonly reset="Reset MV Textures?" leave="Exit Morvane?" wait="ASv6 Processing Wx Data" make="Creating Ground Texture Sets"
 
 # What stands on the screen ------------------------------------------------------------------------------
@@ -110,16 +109,14 @@ byHostWindow() { "$programs/close_window" "$hostWindow"; }
 byTerm() { kill -TERM "$programId"; }
 byHangUp() { kill -HUP "$programId"; }
 byInterrupt() { kill -INT "$programId"; }
-byYes() { press "$front" Return; }
-byNo() { press "$front" Escape; }
 byItself() { # behind its three questions, and a message, as there is no sky to match
-    byYes
+    press "$front" Return
     inFront "No Activated Sky Texture Sets"
-    byYes
+    press "$front" Return
     inFront "Start Predefined Flight"
-    byNo
+    press "$front" Escape
     inFront "Launch Flight Simulator?"
-    byNo
+    press "$front" Escape
 }
 # What is asked is withdrawn once, and the program goes on.
 byManagerAndQuestion() {
@@ -132,7 +129,6 @@ byManagerAndQuestion() {
     front=$before
     byManager
     inFront "$leave"
-    takePicture "leave-$situation"
     press "$front" Return
 }
 
@@ -141,10 +137,6 @@ byManagerAndQuestion() {
 asked() { # ANSWER SET-THEN
     inFront "$reset"
     press "$front" "$1"
-}
-
-hasInstalled() {
-    [ "$(installedSets)" = "$1" ]
 }
 
 # expectEnd SECONDS SET: and what it leaves.
@@ -160,7 +152,7 @@ expectEnd() {
     [ $status = 0 ] || fail "$situation $way: status $status, $(cat "$root/morvane.log")"
     expect "$situation $way: the store is closed" test ! -e "$home/Morvane.mdb-wal"
     expect "$situation $way: the locks are gone" test -z "$(find "$home" -name '*.lock')"
-    expect "$situation $way: $2 is the installed set" hasInstalled "$2"
+    expect "$situation $way: $2 is the installed set" test "$(installedSets)" = "$2"
     expect "$situation $way: the sets' folders are those of the store" doFoldersMatchStore
 }
 
@@ -211,25 +203,6 @@ walkRows() {
     done
 }
 
-cancelWait() {
-    say "The wait for Active Sky has a key that leaves it, and Escape is that key"
-    atWait
-    takePicture wait
-    click "$front" $cancelProcessKey
-    waitFor "the end of the wait" hasNoWindow "$wait"
-    front=$mainWindow
-    click "$mainWindow" $refreshKey
-    inFront "Check For New METAR?"
-    press "$front" Return
-    inFront "$wait"
-    press "$front" Escape
-    waitFor "the end of the wait" hasNoWindow "$wait"
-    expect "nothing else is asked" hasNoWindow "$leave"
-    way=byTerm
-    byTerm
-    expectEnd $session "$weatherSet"
-}
-
 secondWindow() {
     say "A second window brings the first to the front and ends"
     atMain
@@ -256,8 +229,7 @@ leaveByYes() {
     say "Yes puts the sets back before the program ends"
     situation=atReset way=byYes
     click "$mainWindow" $exitKey
-    inFront "$reset"
-    byYes
+    asked Return
     expectEnd $patient Default
 }
 
@@ -283,7 +255,6 @@ calmPart() {
 
 busyPart() {
     walkRows "${busy[@]}"
-    cancelWait
 }
 
 makeExits

@@ -65,29 +65,9 @@ isInSimulator() {
     done
 }
 
-# checksum, size and path of every file, in the order of the paths.
-simulatorSums() {
-    (cd "$simulator" && find . -type f -exec cksum {} + | sort -k3)
-}
-
-# simulatorHolds SUMS NAME: the files of an earlier list, and besides them nothing but files of the set.
-simulatorHolds() {
-    local before now added
-    before=$(cut -d' ' -f3- <<<"$1" | sort)
-    now=$(simulatorSums | cut -d' ' -f3- | sort)
-    added=$(comm -13 <(echo "$before") <(echo "$now") | sed 's:.*/::' | tr '[:upper:]' '[:lower:]' | sort -u)
-    [ -z "$(comm -23 <(echo "$before") <(echo "$now"))" ] &&
-        [ -z "$(comm -23 <(echo "$added") <(fileNames "$home/Texture Sets/$2"))" ]
-}
-
-# Those of "Dutch" stay until the next run writes over them: wanted, the cleaner has never known that folder.
-intermediateFiles() {
-    find "$home/TempBitmaps" -type f -not -path '*/Dutch/*'
-}
-
 # Paths of the install's files but those that a session may bring: sets, intermediate files, the saved flights that a
 # start gathers, and the simulator's files that were kept before an install.
 otherFiles() {
     find "$home" -type f -not -path '*/Texture Sets/*' -not -path '*/Backup/Originals/*' \
-        -not -path '*/TempBitmaps/Dutch/*' -not -path '*/Flights/*' -printf '%P\n' | sort
+        -not -path '*/TempBitmaps/*' -not -path '*/Flights/*' -printf '%P\n' | sort
 }

@@ -8,26 +8,18 @@
 namespace morvane {
 namespace {
 
-struct CleanTempBitmaps : testing::Test {
+TEST(CleanTempBitmaps, leavesTheDutchFolderWhatIsNoBitmapAndWhatCannotBeRemoved) {
     test::SmallInstall install;
-
-    QString leftOf(const QStringList& names) {
-        const FilePath folder = install.home() / u"TempBitmaps";
-        for (const QString& name : names)
-            test::writeFile(folder / name, "pixels");
-        cleanTempBitmaps(install.session);
-        return test::contentsBelow(folder).keys().join(u' ');
-    }
-};
-
-TEST_F(CleanTempBitmaps, leavesTheDutchFolderAndWhatIsNoBitmap) {
-    EXPECT_EQ(leftOf({"a.bmp", "Texture\\b.BMP", "Texture\\notes.txt", "UTEurLC\\c.bmp", "Dutch\\d.bmp"}),
-              "Dutch/d.bmp Texture/notes.txt");
-}
-
-TEST_F(CleanTempBitmaps, passesOverWhatCannotBeRemovedWithoutAWord) {
-    install.files.failAt(4, false); // list, remove, list, and the removal of "b.bmp"
-    EXPECT_EQ(leftOf({"a.bmp", "Texture\\b.bmp", "UTEurLC\\c.bmp"}), "Texture/b.bmp");
+    const FilePath folder = install.home() / u"TempBitmaps";
+    for (const char16_t* name :
+         {u"a.bmp", u"Texture\\b.BMP", u"Texture\\notes.txt", u"UTEurLC\\c.bmp", u"Dutch\\d.bmp"})
+        test::writeFile(folder / name, "pixels");
+    const auto left = [&] { return test::contentsBelow(folder).keys().join(u' '); };
+    install.files.failAt(4, false); // list, remove, list, and the removal of "b.BMP"
+    cleanTempBitmaps(install.session);
+    EXPECT_EQ(left(), "Dutch/d.bmp Texture/b.BMP Texture/notes.txt");
+    cleanTempBitmaps(install.session);
+    EXPECT_EQ(left(), "Dutch/d.bmp Texture/notes.txt");
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 

@@ -9,12 +9,12 @@
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/simulator_restore.h"
+#include "support/failing_operations.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
 #include <QDir>
 #include <fstream>
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -32,10 +32,16 @@ struct BackupTest : testing::Test {
     FilePath world = install.simulator() / u"Scenery\\World\\texture";
     FilePath addOn = install.simulator() / u"Scenery\\UTEurLC\\Texture";
     FilePath folder = install.home() / u"Backup\\1-Backup";
+    const QString texture = "Scenery/World/texture/029H2SU6.BMP", blue = "1-Blue";
 
     void SetUp() override {
         writeFile(world / u"Gelände ñ.bmp", "the pilot's own");
         writeFile(world / u"note.txt", "no texture");
+    }
+    void addSet(const QString& name, const QStringList& files, const QString& cover = "Sunny") {
+        install.addGroundSet(name, cover, true, files);
+        session.state<GroundSelection>().SelectedGroundSet = name;
+        GroundInstallation(session).installTextureSet(true);
     }
     void restore(const QString& name, bool isConfirmed = true) {
         install.user.onModal = [this, name, isConfirmed](Screen) {
@@ -62,12 +68,7 @@ TEST_F(BackupTest, restoreIsTheIdentityForWhatWasBackedUp) {
     EXPECT_EQ(install.files.list(folder / u"Texture", u"*"_s).size(), 5);
     EXPECT_EQ(install.files.list(folder / u"UTEurLC", u"*"_s), QStringList{u"034B2SU4.BMP"_s});
     for (const QString& name : {u"1-Blue"_s, u"5-Störm"_s, u"3-Mixed"_s}) {
-        install.addGroundSet(
-            name, u"Sunny"_s, true,
-            {u"Texture\\029h2su6.bmp"_s, u"Texture\\Gelände ñ.bmp"_s, u"UTEurLC\\034b2su4.bmp"_s});
-        install.reload();
-        session.state<GroundSelection>().SelectedGroundSet = name;
-        GroundInstallation(session).installTextureSet(true);
+        addSet(name, {"Texture\\029h2su6.bmp", "Texture\\Gelände ñ.bmp", "UTEurLC\\034b2su4.bmp"});
         EXPECT_NE(readFile(addOn / u"034B2SU4.BMP"), before[u"Scenery/UTEurLC/Texture/034B2SU4.BMP"_s]);
     }
     install.files.remove(world / u"029B2SU6.BMP");
@@ -84,10 +85,7 @@ TEST_F(BackupTest, restoreIsTheIdentityForWhatWasBackedUp) {
 /// what it holds of the pilot's stays his, also where nothing stood any more.
 TEST_F(BackupTest, whatWasOursInABackupIsOursAgain) {
     const auto before = contentsBelow(install.simulator());
-    install.addGroundSet(u"1-Blue"_s, u"Sunny"_s, true,
-                         {u"Texture\\029h2su6.bmp"_s, u"Texture\\added.bmp"_s});
-    session.state<GroundSelection>().SelectedGroundSet = u"1-Blue"_s;
-    GroundInstallation(session).installTextureSet(true);
+    addSet(blue, {"Texture\\029h2su6.bmp", "Texture\\added.bmp"});
     backupOnRequest(session);
     for (const bool isTakenAway : {true, false}) {
         if (isTakenAway) restoreOriginals(session);
@@ -102,11 +100,10 @@ TEST_F(BackupTest, whatWasOursInABackupIsOursAgain) {
 
 TEST_F(BackupTest, restorePassesOverReadOnlyTargetsAndDamagedCopiesWithoutAWord) {
     createBackup(session, true);
-    writeFile(world / u"002C2WI1.BMP", "a set");
+    for (const char16_t* name : {u"002C2WI1.BMP", u"029H2SU6.BMP", u"005A2SU2.BMP"})
+        writeFile(world / name, "a set");
     install.files.setReadOnly(world / u"002C2WI1.BMP", true);
-    writeFile(world / u"029H2SU6.BMP", "a set");
     writeFile(folder / u"Texture\\029H2SU6.BMP", "torn");
-    writeFile(world / u"005A2SU2.BMP", "a set");
     install.user.messages.clear();
     restore(u"1-Backup"_s);
     EXPECT_EQ(readFile(world / u"002C2WI1.BMP"), "a set");
@@ -133,23 +130,21 @@ TEST_F(BackupTest, whatIsCutShortIsMarkedAndNothingIsOverwritten) {
     EXPECT_FALSE(install.user.calls.contains(restoring)) << "the list was left with Cancel";
 }
 
-TEST_F(BackupTest, aDamagedRowHidesNoOther) {
-    session.adoConn->execute(
-        u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('..', 'yesterday'), (NULL, NULL)"_s);
-    createBackup(session, true);
-    restore(u"3-Backup"_s);
-    EXPECT_EQ(session.state<BackupChoice>().backups.size(), 3U);
-    EXPECT_TRUE(session.state<BackupChoice>().backups.at(2).isComplete);
-    EXPECT_TRUE(install.user.calls.filter(u"box "_s).isEmpty());
-}
-
-TEST_F(BackupTest, aNoAndAnEmptyListDoNothing) {
-    restore(u"1-Backup"_s);
-    EXPECT_FALSE(install.user.calls.contains(u"modal frm_BackupList"_s));
+TEST_F(BackupTest, aNoAndAnEmptyListDoNothingAndADamagedRowHidesNoOther) {
+    restore("1-Backup");
+    EXPECT_FALSE(install.user.calls.contains("modal frm_BackupList"));
     install.user.otherwise = false;
     backupOnRequest(session);
     EXPECT_TRUE(backupNames().isEmpty());
     EXPECT_FALSE(install.files.exists(folder));
+    session.adoConn->execute(
+        u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('..', 'yesterday'), (NULL, NULL)"_s);
+    clsBackups::reload(session);
+    createBackup(session, true);
+    restore("3-Backup");
+    EXPECT_EQ(session.state<BackupChoice>().backups.size(), 3U);
+    EXPECT_TRUE(session.state<BackupChoice>().backups.at(2).isComplete);
+    EXPECT_TRUE(install.user.calls.filter("box ").isEmpty());
 }
 
 TEST_F(BackupTest, aBackupWithoutTheAddOnTouchesNothingOfIt) {
@@ -165,30 +160,27 @@ TEST_F(BackupTest, aBackupWithoutTheAddOnTouchesNothingOfIt) {
 
 /// A disk that takes only so many bytes, and files that nobody could back up.
 TEST_F(BackupTest, onlyWhatHoldsEveryTextureIsComplete) {
-    const struct {
-        qint64 room;
-        QString done, lacks;
-        bool hasList;
-    } cases[] = {
-        {0, u"0 of 6 textures backed up"_s, u"6"_s, false},
-        {60, u"1 of 6 textures backed up"_s, u"5"_s, false},
-        {6000, u"5 of 6 textures backed up"_s, u"1"_s, true}, // the great one does not get there
-        {60000, u"6 textures backed up"_s, {}, true},
+    const std::tuple<qint64, QString, QString, bool> cases[] = {
+        // Bytes of room, what is said to be done and to lack, and whether the list is written.
+        {0, "0 of 6 textures", "6", false},
+        {60, "1 of 6 textures", "5", false},
+        {6000, "5 of 6 textures", "1", true}, // the great one does not get there
+        {60000, "6 textures", {}, true},
     };
     writeFile(world / u"Gelände ñ.bmp", QByteArray(20000, 'o'));
     int number = 0;
-    for (const auto& disk : cases) {
+    for (const auto& [room, done, lacks, hasList] : cases) {
         const QString name = u"%1-Backup"_s.arg(++number);
         install.user.messages.clear();
-        install.files.leaveRoom(disk.room);
+        install.files.leaveRoom(room);
         backupOnRequest(session);
         install.files.leaveRoom(-1);
-        EXPECT_EQ(isBackupComplete(session, name), disk.lacks.isEmpty()) << disk.room;
-        EXPECT_EQ(install.files.exists(install.home() / u"Backup" / name / u"backup.lst"), disk.hasList);
-        EXPECT_EQ(install.user.calls.back(), u"done "_s + disk.done);
-        EXPECT_EQ(install.user.countOfKind(MessageKind::exclamation), disk.lacks.isEmpty() ? 0 : 1);
-        EXPECT_TRUE(disk.lacks.isEmpty() ||
-                    install.user.told().back().contains(u"lacks %1 of 6 textures."_s.arg(disk.lacks)));
+        EXPECT_EQ(isBackupComplete(session, name), lacks.isEmpty()) << room;
+        EXPECT_EQ(install.files.exists(install.home() / u"Backup" / name / u"backup.lst"), hasList);
+        EXPECT_EQ(install.user.calls.back(), "done " + done + " backed up");
+        EXPECT_EQ(install.user.countOfKind(MessageKind::exclamation), lacks.isEmpty() ? 0 : 1);
+        EXPECT_TRUE(lacks.isEmpty() ||
+                    install.user.told().back().contains(u"lacks %1 of 6 textures."_s.arg(lacks)));
     }
 }
 
@@ -251,7 +243,10 @@ struct FirstRunTest : BackupTest {
     FilePath flights = install.simulator() / u"Flights\\Morvane";
 };
 
-TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedFor) {
+/// The flights go through the list of originals, too: a pilot's of that name is not lost, and all is undone.
+TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedForAndCanBeTakenBack) {
+    writeFile(flights / u"ÄLPLER.FLT", "the pilot's");
+    const auto before = contentsBelow(install.simulator());
     for (const QString& other : {QString(), u"true"_s, u"False"_s}) {
         setFirstTime(other);
         doFirstRun(session);
@@ -261,27 +256,18 @@ TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedFor) {
     doFirstRun(session);
     doFirstRun(session);
     EXPECT_EQ(backupNames(), QStringList{u"1-Backup"_s});
-    EXPECT_EQ(readFile(flights / u"Älpler.wx"), "Älpler");
+    EXPECT_EQ(readFile(flights / u"ÄLPLER.FLT"), "Älpler");
+    EXPECT_EQ(readFile(flights / u"Zürich.wx"), "Zürich");
     EXPECT_EQ(readFile(keptSplash), "the pilot's splash");
     ASSERT_EQ(install.user.told().size(), 2) << "what is done, and its progress";
     EXPECT_TRUE(install.user.told()[0].startsWith(u"Information|Creating Backup|"_s));
+    restoreOriginals(session);
+    EXPECT_EQ(contentsBelow(install.simulator()), before);
     session.state<OptionsInForce>().IsWideClient = true;
-    setFirstTime(u"True"_s);
-    install.files.remove(flights / u"Älpler.wx");
+    setFirstTime("True");
     doFirstRun(session);
     EXPECT_FALSE(install.files.exists(flights / u"Älpler.wx"));
     EXPECT_EQ(backupNames().size(), 2);
-}
-
-/// They go through the list of originals, too: a pilot's flight of that name is not lost, and all is undone.
-TEST_F(FirstRunTest, theDeliveredFlightsCanBeTakenBack) {
-    writeFile(flights / u"ÄLPLER.FLT", "the pilot's");
-    const auto before = contentsBelow(install.simulator());
-    doFirstRun(session);
-    EXPECT_EQ(readFile(flights / u"ÄLPLER.FLT"), "Älpler");
-    EXPECT_EQ(readFile(flights / u"Zürich.flt"), "Zürich");
-    restoreOriginals(session);
-    EXPECT_EQ(contentsBelow(install.simulator()), before);
 }
 
 /// A folder stands where a file should go: that file alone is missed, and told of.
@@ -307,10 +293,7 @@ TEST_F(FirstRunTest, whatFailsCostsNothingElse) {
 /// Sets of ours stand in the simulator: from an earlier install, or from between two starts.
 TEST_F(FirstRunTest, theKeptOriginalsAreTakenForWhatIsOurs) {
     writeFile(keptSplash, "as delivered");
-    install.addGroundSet(u"1-Blue"_s, u"Overcast"_s, true,
-                         {u"Texture\\029h2su6.bmp"_s, u"Texture\\029b2su6.bmp"_s});
-    session.state<GroundSelection>().SelectedGroundSet = u"1-Blue"_s;
-    GroundInstallation(session).installTextureSet(true);
+    addSet(blue, {"Texture\\029h2su6.bmp", "Texture\\029b2su6.bmp"}, "Overcast");
     ASSERT_EQ(readFile(splashTarget(session)), "splash OVC");
     writeFile(world / u"029B2SU6.BMP", "another's"); // changed since ours
     const FilePath originals = install.home() / u"Backup\\Originals", aside = install.home() / u"aside";
@@ -344,63 +327,49 @@ TEST_F(FirstRunTest, aLockedStoreLeavesItToTheNextStart) {
     EXPECT_EQ(backupNames(), QStringList{u"1-Backup"_s});
 }
 
-/// Whatever fails, once or from then on: the next start goes on with the row and the folder of the first one.
+/// Whatever fails, once or from then on: the next start goes on with the row and the folder of the first one,
+/// and the simulator stays as it is.
 TEST_F(FirstRunTest, isGoneOnWithAfterEveryFailure) {
     install.files.remove(world / u"note.txt"); // no texture
-    const auto textures = contentsBelow(world.resolved());
+    const auto textures = contentsBelow(world.resolved()), before = contentsBelow(install.simulator());
     int failures = 0;
-    for (const bool forever : {true, false}) {
-        bool hasFailed = true;
-        for (int n = 1; hasFailed; ++n, ++failures) {
-            session.adoConn->execute(u"DELETE FROM MV_BACKUP"_s);
-            QDir((install.home() / u"Backup").native()).removeRecursively();
-            clsBackups::reload(session);
-            install.files.failAt(n, forever);
-            auto report = createBackup(session, true);
-            hasFailed = install.files.hasFailed();
-            install.files.failAt(0, false);
-            if (!report || !report->isWritten) report = createBackup(session, true);
-            ASSERT_TRUE(report && report->isComplete()) << n << forever;
-            ASSERT_EQ(backupNames(), QStringList{report->name}) << n << forever;
-            ASSERT_EQ(contentsBelow(install.home() / u"Backup" / report->name / u"Texture"), textures) << n;
-        }
-    }
+    std::optional<BackupReport> report;
+    for (const bool forever : {true, false})
+        failures += test::failEachOperation(
+            install.files, forever, [&] { report = createBackup(session, true); },
+            [&](int n) {
+                if (!report || !report->isWritten) report = createBackup(session, true);
+                ASSERT_TRUE(report && report->isComplete()) << n << forever;
+                ASSERT_EQ(backupNames(), QStringList{report->name}) << n << forever;
+                ASSERT_EQ(contentsBelow(install.home() / u"Backup" / report->name / u"Texture"), textures)
+                    << n;
+                ASSERT_EQ(contentsBelow(install.simulator()), before) << n;
+                session.adoConn->execute("DELETE FROM MV_BACKUP");
+                QDir((install.home() / u"Backup").native()).removeRecursively();
+                clsBackups::reload(session);
+            });
     EXPECT_GT(failures, 80);
 }
 
 /// Whatever fails, each file of the simulator is the old one or the new one, and a backup that says it is
 /// complete holds them all and stays as it was made.
-TEST_F(BackupTest, everyFailingOperationLeavesSimulatorAndBackupWhole) {
+TEST_F(BackupTest, everyFailingOperationOfARestoreLeavesSimulatorAndBackupWhole) {
     const auto before = contentsBelow(install.simulator());
-    const auto failEach = [&](const std::function<void()>& work, const std::function<void(int)>& check) {
-        int failures = 0;
-        for (bool hasFailed = true; hasFailed; ++failures) {
-            install.files.failAt(failures + 1, false);
-            work();
-            hasFailed = install.files.hasFailed();
-            install.files.failAt(0, false);
-            check(failures + 1);
-        }
-        EXPECT_GT(failures, 10);
-    };
-    failEach([&] { createBackup(session, false); },
-             [&](int n) { EXPECT_EQ(contentsBelow(install.simulator()), before) << n; });
+    createBackup(session, false);
     const QString name = backupNames().last();
     const auto backup = contentsBelow(install.home() / u"Backup" / name);
-    failEach(
-        [&] {
-            writeFile(world / u"029H2SU6.BMP", "a set");
-            restoreBackup(session, name);
-        },
-        [&](int n) {
-            auto after = contentsBelow(install.simulator());
-            const QByteArray file = after[u"Scenery/World/texture/029H2SU6.BMP"_s];
-            EXPECT_TRUE(file == "a set" || file.startsWith("the pilot's")) << n;
-            after.insert(u"Scenery/World/texture/029H2SU6.BMP"_s,
-                         before[u"Scenery/World/texture/029H2SU6.BMP"_s]);
-            EXPECT_EQ(after, before) << n;
-            EXPECT_EQ(contentsBelow(install.home() / u"Backup" / name), backup) << n;
-        });
+    const auto work = [&] {
+        writeFile(world / u"029H2SU6.BMP", "a set");
+        restoreBackup(session, name);
+    };
+    const auto check = [&](int n) {
+        auto after = contentsBelow(install.simulator());
+        EXPECT_TRUE(after[texture] == "a set" || after[texture].startsWith("the pilot's")) << n;
+        after[texture] = before[texture];
+        EXPECT_EQ(after, before) << n;
+        EXPECT_EQ(contentsBelow(install.home() / u"Backup" / name), backup) << n;
+    };
+    EXPECT_GT(test::failEachOperation(install.files, false, work, check), 9);
     EXPECT_EQ(contentsBelow(install.simulator()), before);
 }
 

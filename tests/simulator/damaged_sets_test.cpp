@@ -24,14 +24,23 @@ namespace {
 
 /// What the tests below need of ground, night and sky, which are to behave alike.
 struct Kind {
-    QString folder, table, nameColumn, spoilColours; ///< the last is a statement that takes the colours
-    QStringList files;                               ///< of a set
+    QString folder, table, nameColumn, coloursIn;
+    QStringList files; ///< of a set
     void (*add)(test::SmallInstall&, const QString& name, const QStringList& files);
     bool (*click)(Session&, const QString& name);
-    void (*select)(Session&, const QStringList& names);
+    QStringList& (*selected)(Session&);
     void (*activate)(Session&);
     void (*remove)(Session&, bool keepsColours);
 };
+
+void addGround(test::SmallInstall& install, const QString& name, const QStringList& files) {
+    install.addGroundSet(name, "Overcast", true, files);
+}
+
+void addNight(test::SmallInstall& install, const QString& name, const QStringList& files) {
+    test::addNightStock(install);
+    test::addNightSet(install, name, true, files);
+}
 
 void addSky(test::SmallInstall& install, const QString& name, const QStringList& files) {
     for (const QString& folder : {u"Default"_s, u"Sunrise"_s, u"Sunset"_s})
@@ -40,32 +49,36 @@ void addSky(test::SmallInstall& install, const QString& name, const QStringList&
 }
 
 const Kind kinds[] = {
-    {u"Texture Sets"_s, u"TEXTURE_SETS"_s, u"TEXTURE_SET"_s,
-     u"UPDATE TEXTURE_SETS SET COLOR_SETTINGS = '%1'"_s, QStringList{u"Texture\\029h2su6.bmp"_s},
-     [](test::SmallInstall& install, const QString& name, const QStringList& files) {
-         install.addGroundSet(name, u"Overcast"_s, true, files);
-     },
+    {"Texture Sets",
+     "TEXTURE_SETS",
+     "TEXTURE_SET",
+     "TEXTURE_SETS SET COLOR_SETTINGS",
+     {"Texture\\029h2su6.bmp"},
+     addGround,
      clickGroundRow,
-     [](Session& session, const QStringList& names) {
-         session.state<GroundSelection>().selectedRows = names;
-     },
+     [](Session& session) -> QStringList& { return session.state<GroundSelection>().selectedRows; },
      [](Session& session) { GroundGeneration(session).activateTextureSet(); },
      [](Session& session, bool keepsColours) { GroundGeneration(session).deleteTextureSet(keepsColours); }},
-    {u"Night Texture Sets"_s, u"NIGHT_TEXTURE_SETS"_s, u"TEXTURE_SET"_s,
-     u"UPDATE NIGHT_TEXTURE_SETS SET COLOR_SETTINGS = '%1'"_s, QStringList{u"Texture\\029b2lm1.bmp"_s},
-     [](test::SmallInstall& install, const QString& name, const QStringList& files) {
-         test::addNightStock(install);
-         test::addNightSet(install, name, true, files);
-     },
+    {"Night Texture Sets",
+     "NIGHT_TEXTURE_SETS",
+     "TEXTURE_SET",
+     "NIGHT_TEXTURE_SETS SET COLOR_SETTINGS",
+     {"Texture\\029b2lm1.bmp"},
+     addNight,
      clickNightRow,
-     [](Session& session, const QStringList& names) { session.state<NightSelection>().selectedRows = names; },
+     [](Session& session) -> QStringList& { return session.state<NightSelection>().selectedRows; },
      [](Session& session) { NightGeneration(session).activateNightTextureSet(); },
      [](Session& session, bool keepsColours) {
          NightGeneration(session).deleteNightTextureSet(keepsColours);
      }},
-    {u"Sky Texture Sets"_s, u"SKY_TEXTURE_SETS"_s, u"SKY_TEXTURE_SET"_s,
-     u"UPDATE SKY_TEXTURE_SUB_SETS SET MAIN_SKY = '%1'"_s, QStringList{u"day.bmp"_s}, addSky, clickSkyRow,
-     [](Session& session, const QStringList& names) { session.state<SkySelection>().selectedRows = names; },
+    {"Sky Texture Sets",
+     "SKY_TEXTURE_SETS",
+     "SKY_TEXTURE_SET",
+     "SKY_TEXTURE_SUB_SETS SET MAIN_SKY",
+     {"day.bmp"},
+     addSky,
+     clickSkyRow,
+     [](Session& session) -> QStringList& { return session.state<SkySelection>().selectedRows; },
      [](Session& session) { SkyActivation(session).activateSkySet(); },
      [](Session& session, bool keepsColours) { SkyActivation(session).deleteSkySet(keepsColours); }},
 };
@@ -90,19 +103,22 @@ struct OddSet {
             if (rows.text(kind.nameColumn) == name) return rows.text(u"ACTIVATED");
         return u"gone"_s;
     }
-    void remove(const QString& name, bool keepsColours) {
+    /// Takes the set away, or its files alone, and tells its activation then.
+    QString remove(const QString& name, bool keepsColours) {
         EXPECT_TRUE(kind.click(session, name)) << name.toStdString();
         kind.remove(session, keepsColours);
+        return activationOf(name);
     }
-    void activate(const QString& name) {
+    QString activate(const QString& name) {
         EXPECT_TRUE(kind.click(session, name)) << name.toStdString();
         kind.activate(session);
+        return activationOf(name);
     }
     void activateSeveral(const QStringList& names) {
         install.user.onModal = [this](Screen) {
             session.state<MultiChoice>().multiConfirmed = session.state<MultiChoice>().multiNames;
         };
-        kind.select(session, names);
+        kind.selected(session) = names;
         kind.activate(session);
     }
     FilePath sets() const { return install.home() / kind.folder; }
@@ -125,17 +141,14 @@ TEST(DamagedSets, withoutReadableColoursAreDeactivatedAndDeletedAndNotMade) {
         for (const QString& colours : {u"0:x:0:0:0:0:0:0:0"_s, u"1:2"_s}) {
             SCOPED_TRACE((kind.table + u' ' + colours).toStdString());
             OddSet set(kind);
-            set.execute(kind.spoilColours.arg(colours));
-            set.remove(set.odd, true);
-            EXPECT_EQ(set.activationOf(set.odd), "False");
+            set.execute(u"UPDATE %1 = '%2'"_s.arg(kind.coloursIn, colours));
+            EXPECT_EQ(set.remove(set.odd, true), "False");
             EXPECT_TRUE(set.files().isEmpty());
             EXPECT_EQ(set.errors(), 0);
-            set.activate(set.odd);
-            EXPECT_EQ(set.activationOf(set.odd), "False") << "nothing is stored before the colours are read";
+            EXPECT_EQ(set.activate(set.odd), "False") << "nothing is stored before the colours are read";
             EXPECT_TRUE(set.files().isEmpty());
             EXPECT_EQ(set.errors(), 1);
-            set.remove(set.odd, false);
-            EXPECT_EQ(set.activationOf(set.odd), "gone");
+            EXPECT_EQ(set.remove(set.odd, false), "gone");
             EXPECT_FALSE(set.install.files.exists(set.folder()));
             EXPECT_EQ(set.errors(), 1);
         }
@@ -152,11 +165,9 @@ TEST(DamagedSets, whoseNameIsNoFoldersAreRowsAlone) {
             set.put(kind.nameColumn, name);
             const auto files = set.files(),
                        resources = test::contentsBelow(set.install.home() / u"Resources");
-            set.activate(name);
-            EXPECT_EQ(set.activationOf(name), "False");
+            EXPECT_EQ(set.activate(name), "False");
             EXPECT_EQ(set.errors(), 1);
-            set.remove(name, false);
-            EXPECT_EQ(set.activationOf(name), "gone");
+            EXPECT_EQ(set.remove(name, false), "gone");
             EXPECT_EQ(set.errors(), 1);
             EXPECT_EQ(set.files(), files);
             EXPECT_EQ(test::contentsBelow(set.install.home() / u"Resources"), resources);
@@ -183,8 +194,7 @@ TEST(DamagedSets, linksGoAsLinksAndWhatTheyPointToStays) {
             ASSERT_TRUE(QFile::link(elsewhere.native(), link.native()));
             const FilePath aside = set.install.folder / u"aside";
             if (isDangling) set.install.files.rename(elsewhere, aside);
-            set.remove(set.odd, keepsColours);
-            EXPECT_EQ(set.activationOf(set.odd), keepsColours ? u"False"_s : u"gone"_s);
+            EXPECT_EQ(set.remove(set.odd, keepsColours), keepsColours ? "False" : "gone");
             EXPECT_EQ(QFileInfo(link.native()).isSymLink(), keepsColours);
             EXPECT_EQ(set.install.files.exists(set.folder()), keepsColours);
             EXPECT_EQ(test::contentsBelow(isDangling ? aside : elsewhere).size(), 2);

@@ -1,6 +1,7 @@
 #include "simulator/flights.h"
 
 #include "core/error.h"
+#include "core/flights_folder.h"
 #include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"
@@ -25,140 +26,118 @@ struct FlightsTest : testing::Test {
     FilePath user = install.folder / u"Çhosen flights";
 
     void storeUserFolder(const QString& path) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s, path);
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, "NonEnglishPath", path);
     }
-    void save(const FilePath& folder, const QString& name, const QByteArray& contents) {
-        writeFile(folder.child(name), contents);
+    /// A flight of its folder's own contents in each of the files.
+    void save(const FilePath& folder, const QStringList& names) {
+        for (const QString& name : names)
+            writeFile(folder.child(name), folder.fileName().toUtf8());
+    }
+    QStringList loaded() {
+        loadFlightFiles(session);
+        return savedFlights(session);
     }
     QByteArray copyOf(const QString& name) { return readFile(own.child(name)); }
 };
 
 TEST_F(FlightsTest, keptFlightsAndTheUsersAreGatheredAndTheUsersWin) {
-    save(kept, u"Evening.flt"_s, "kept");
-    save(kept, u"Evening.wx"_s, "kept weather");
-    save(kept, u"Rain.flt"_s, "kept");
-    save(kept, u"Rain.wx"_s, "kept weather");
-    save(user, u"EVENING.FLT"_s, "the user's");
-    save(user, u"X.FLT"_s, "upper case");
-    save(user, u"X.WX"_s, "its weather");
-    save(user, u"Lost.wx"_s, "no flight");
-    save(user, u"Ünten.flt"_s, "no weather");
-    save(user, u"A.flt.old.flt"_s, "stands for A, which is not there");
-    save(user, u".flt"_s, "no name");
+    save(kept, {"Evening.flt", "Evening.wx", "Rain.flt", "Rain.wx"});
+    save(user, {"EVENING.FLT", "X.FLT", "X.WX", "Ünten.flt"});
+    save(user, {"Lost.wx", "A.flt.old.flt", ".flt"}); // weather alone, what stands for A, and no name
     const auto before = contentsBelow(user);
-    loadFlightFiles(session);
-    EXPECT_EQ(savedFlights(session), (QStringList{u"Evening"_s, u"Rain"_s, u"X"_s, u"Ünten"_s}));
+    EXPECT_EQ(loaded(), (QStringList{"Evening", "Rain", "X", "Ünten"}));
     EXPECT_EQ(contentsBelow(own).size(), 8) << "four flights, three with weather, and the list";
-    EXPECT_EQ(copyOf(u"Evening.flt"_s), "the user's");
-    EXPECT_EQ(copyOf(u"Evening.wx"_s), "kept weather");
-    EXPECT_EQ(copyOf(u"x.wx"_s), "its weather");
+    EXPECT_EQ(copyOf("Evening.flt"), "Çhosen flights");
+    EXPECT_EQ(copyOf("Evening.wx"), "Morvane");
+    EXPECT_EQ(copyOf("x.wx"), "Çhosen flights");
     EXPECT_EQ(contentsBelow(user), before);
     EXPECT_TRUE(install.user.told().isEmpty());
-    EXPECT_EQ(readFile(savedFlightFile(session, u"Evening"_s)), "the user's");
-    EXPECT_THROW(savedFlightFile(session, u"..\\Evening"_s), Error);
+    EXPECT_EQ(readFile(savedFlightFile(session, "Evening")), "Çhosen flights");
+    EXPECT_THROW(savedFlightFile(session, "..\\Evening"), Error);
 }
 
 TEST_F(FlightsTest, aNewGatheringBeginsEmptyAndLeavesOldEntriesUnread) {
-    for (const QString& name : {u"A"_s, u"B"_s, u"C"_s})
-        save(user, name + u".flt"_s, "flight");
-    loadFlightFiles(session);
-    EXPECT_EQ(savedFlights(session).size(), 3);
-    for (const QString& name : {u"A"_s, u"B"_s})
-        install.files.remove(user.child(name + u".flt"_s));
-    save(own, u"A.wx"_s, "of a flight that is gone");
-    loadFlightFiles(session);
-    EXPECT_EQ(savedFlights(session), QStringList{u"C"_s});
-    EXPECT_EQ(contentsBelow(own).keys(), (QStringList{u"C.flt"_s, u"flights.cfg"_s}));
-    EXPECT_EQ(copyOf(u"flights.cfg"_s), "[Flights]\r\ntotal=1\r\n1=C\r\n2=B\r\n3=C\r\n");
+    save(user, {"A.flt", "B.flt", "C.flt"});
+    EXPECT_EQ(loaded().size(), 3);
+    for (const char16_t* name : {u"A.flt", u"B.flt"})
+        install.files.remove(user / name);
+    save(own, {"A.wx"}); // of a flight that is gone
+    EXPECT_EQ(loaded(), QStringList{"C"});
+    EXPECT_EQ(contentsBelow(own).keys(), (QStringList{"C.flt", "flights.cfg"}));
+    EXPECT_EQ(copyOf("flights.cfg"), "[Flights]\r\ntotal=1\r\n1=C\r\n2=B\r\n3=C\r\n");
     // A total that was edited by hand ends where the names do.
     writeFile(own / u"flights.cfg", "[Flights]\r\ntotal=2000000000\r\n1=C\r\n");
-    EXPECT_EQ(savedFlights(session), QStringList{u"C"_s});
+    EXPECT_EQ(savedFlights(session), QStringList{"C"});
 }
 
 /// However the program's own folder is named, or made one with the pilot's: what lies there stays.
 TEST_F(FlightsTest, ownFlightsAreNeverDeletedAsCopies) {
     const FilePath link = install.folder / u"Link", documents = install.folder / u"Documents";
-    save(own, u"Only one.flt"_s, "saved right here");
-    save(own, u"Only one.wx"_s, "its weather");
+    save(own, {"Only one.flt", "Only one.wx"});
     install.files.makeFolder(documents);
     ASSERT_TRUE(QFile::link(own.native(), link.native()));
     ASSERT_TRUE(QFile::link(own.native(), (documents / u"Flight Simulator Files").native()));
     const auto expectUntouched = [this](const QString& stored) {
-        loadFlightFiles(session);
-        EXPECT_EQ(copyOf(u"Only one.flt"_s), "saved right here") << stored.toStdString();
+        storeUserFolder(stored);
+        EXPECT_EQ(loaded(), QStringList{"Only one"}) << stored.toStdString();
+        EXPECT_EQ(copyOf("Only one.flt"), "Flights") << stored.toStdString();
         EXPECT_EQ(contentsBelow(own).size(), 3) << stored.toStdString();
-        EXPECT_EQ(savedFlights(session), QStringList{u"Only one"_s});
     };
-    for (const QString& path :
-         {own.native(), own.native() + u'/', own.native() + u'\\', own.native().toUpper(),
-          own.native() + u"/../Flights"_s, link.native(), link.native() + u'/'}) {
-        storeUserFolder(path);
-        expectUntouched(path);
-    }
+    const QString path = own.native();
+    for (const QString& stored : {path, path + u'/', path + u'\\', path.toUpper(), path + "/../Flights",
+                                  link.native(), link.native() + u'/'})
+        expectUntouched(stored);
     session.MyDocumentsPath = documents.native() + u'/';
-    expectUntouched(u"the usual folder"_s);
+    expectUntouched("the usual folder");
     session.MyDocumentsPath.clear();
     // The other way round: the own folder is a link to a place that is nobody's business.
     const FilePath elsewhere = install.folder / u"Elsewhere";
     install.files.rename(own, elsewhere);
-    ASSERT_TRUE(QFile::link(elsewhere.native(), own.native()));
-    save(user, u"Own.flt"_s, "flight");
-    storeUserFolder(user.native());
-    expectUntouched(u"a link"_s);
+    ASSERT_TRUE(QFile::link(elsewhere.native(), path));
+    save(user, {"Own.flt"});
+    expectUntouched(user.native());
 }
 
 TEST_F(FlightsTest, whatNoFolderHoldsGoesToTheBackups) {
-    const FilePath backups = install.home() / u"Backup\\Flights";
-    save(user, u"Own.flt"_s, "flight");
+    save(user, {"Own.flt"});
     for (const QByteArray contents : {"first", "second", "second", "first"}) {
-        save(own, u"A.b.flt"_s, contents);
-        save(own, u"Own.flt"_s, "an older copy");
-        loadFlightFiles(session);
-        EXPECT_EQ(savedFlights(session), QStringList{u"Own"_s});
+        writeFile(own / u"A.b.flt", contents);
+        writeFile(own / u"Own.flt", "an older copy");
+        EXPECT_EQ(loaded(), QStringList{"Own"});
     }
-    EXPECT_EQ(contentsBelow(backups),
-              (QMap<QString, QByteArray>{{u"A.b.flt"_s, "first"}, {u"A.b (2).flt"_s, "second"}}));
+    EXPECT_EQ(contentsBelow(install.home() / u"Backup\\Flights"),
+              (QMap<QString, QByteArray>{{"A.b.flt", "first"}, {"A.b (2).flt", "second"}}));
 }
 
-TEST_F(FlightsTest, theFolderOfTheUsualNameComesFirst) {
-    save(user, u"Elsewhere.flt"_s, "flight");
+TEST_F(FlightsTest, theFolderOfTheUsualNameComesFirstAndOneThatIsNotNamedIsAskedForOnce) {
+    save(kept, {"Kept.flt"});
+    save(user, {"Elsewhere.flt"});
     session.MyDocumentsPath = (install.folder / u"Documents").native() + u'/';
-    loadFlightFiles(session);
-    EXPECT_EQ(savedFlights(session), QStringList{u"Elsewhere"_s});
-    save(install.folder / u"Documents\\Flight Simulator Files", u"Usual.flt"_s, "flight");
-    loadFlightFiles(session);
-    EXPECT_EQ(savedFlights(session), QStringList{u"Usual"_s});
+    EXPECT_EQ(loaded(), (QStringList{"Elsewhere", "Kept"}));
+    save(install.folder / u"Documents\\Flight Simulator Files", {"Usual.flt"});
+    EXPECT_EQ(loaded(), (QStringList{"Kept", "Usual"}));
+    session.MyDocumentsPath.clear();
+    storeUserFolder({});
+    EXPECT_EQ(loaded(), QStringList{"Kept"}) << "the choice is cancelled";
+    EXPECT_EQ(install.user.calls.count("browse"), 1);
 }
 
-TEST_F(FlightsTest, cancellingTheFoldersChoiceLeavesTheUsersFlightsAlone) {
-    save(kept, u"Kept.flt"_s, "flight");
-    save(user, u"Own.flt"_s, "flight");
-    storeUserFolder(QString());
-    loadFlightFiles(session);
-    EXPECT_EQ(install.user.calls.count(u"browse"_s), 1);
-    EXPECT_EQ(savedFlights(session), QStringList{u"Kept"_s});
-}
-
-TEST_F(FlightsTest, aWideClientHasNoFlightsOfItsOwn) {
-    save(own, u"Left.flt"_s, "flight");
-    save(user, u"Own.flt"_s, "flight");
+TEST_F(FlightsTest, aWideClientHasNoFlightsOfItsOwnAndAMissingListIsToldInItsOwnWords) {
+    save(own, {"Left.flt"});
+    save(user, {"Own.flt"});
     session.state<OptionsInForce>().IsWideClient = true;
-    loadFlightFiles(session);
-    EXPECT_EQ(contentsBelow(own).keys(), QStringList{u"Left.flt"_s});
-}
-
-TEST_F(FlightsTest, aMissingListIsToldInItsOwnWords) {
-    EXPECT_EQ(savedFlights(session), QStringList());
-    EXPECT_EQ(
-        install.user.told(),
-        QStringList{u"Error|Morvane Fatal Error|Your flight.cfg file has not been found.\n\nMorvane will "
-                    u"not be able to load any flights.\n\nPress the checkmark to Exit."_s});
+    EXPECT_EQ(loaded(), QStringList());
+    EXPECT_EQ(contentsBelow(own).keys(), QStringList{"Left.flt"});
+    EXPECT_EQ(install.user.told(),
+              QStringList{
+                  "Error|Morvane Fatal Error|Your flight.cfg file has not been found.\n\nMorvane will not be "
+                  "able to load any flights.\n\nPress the checkmark to Exit."});
 }
 
 /// Whatever fails is told, the start goes on, and the list never names more than there is.
 TEST_F(FlightsTest, aFailureIsToldAndTheListNamesWhatIsThere) {
-    save(kept, u"Kept.flt"_s, "flight");
-    save(user, u"Own.flt"_s, "flight");
+    save(kept, {"Kept.flt"});
+    save(user, {"Own.flt"});
     loadFlightFiles(session);
     const auto before = contentsBelow(user);
     install.files.failAt(0, false);

@@ -6,12 +6,13 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 
+#include <QDir>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
 
-using test::SmallInstall;
 using test::writeFile;
 
 /// Each row is copied when all its letters hold: G a generated set, D "Default"; t tropical, d Dutch, a the
@@ -47,73 +48,46 @@ constexpr struct {
     {u"D", u"Media\\dlgSplashSCT.bmp", u"Uires\\dlgsplash.bmp"}, // also when it is inhibited
 };
 
-struct Combination {
-    QString letters; ///< those that hold
-    QMap<QString, QByteArray> expected;
-    int fileCount = 0; ///< splash left out
-};
-
-Combination combinationOf(int number) {
-    Combination combination;
-    combination.letters = number & 1 ? u"G"_s : u"D"_s;
-    for (const auto& [bit, letter] : {std::pair{2, u't'}, {4, u'd'}, {8, u'a'}, {16, u's'}})
-        if (number & bit) combination.letters += letter;
-    for (const auto& row : copies) {
-        const auto holds = [&](QChar letter) { return combination.letters.contains(letter); };
-        const QStringView when(row.when);
-        if (!std::all_of(when.begin(), when.end(), holds)) continue;
-        const QString target = QString::fromUtf16(row.target);
-        combination.expected[target] = QStringView(row.source).toUtf8();
-        combination.fileCount += !target.startsWith(u"Uires");
-    }
-    return combination;
+/// Where the simulator has it.
+QString placeOf(const char16_t* target) {
+    QString place = QString::fromUtf16(target);
+    place.replace("World\\", "Scenery/World/texture/").replace("UTEurLC\\", "Scenery/UTEurLC/Texture/");
+    return place.replace('\\', '/');
 }
 
-struct GroundCopies : testing::Test {
-    SmallInstall install{{.baseImages = {}}};
+TEST(GroundCopies, everyCombinationCopiesItsRows) {
+    test::SmallInstall install{{.baseImages = {}}};
     Session& session = install.session;
-    FilePath world = install.simulator() / u"Scenery\\World\\texture";
-    FilePath addOn = install.simulator() / u"Scenery\\UTEurLC";
-    FilePath splash = install.simulator() / u"Uires\\dlgsplash.bmp";
-
-    /// Every source holds its own path; the simulator is empty.
-    void SetUp() override {
-        install.addGroundSet(u"2-Storm"_s, u"Overcast"_s, true);
-        for (const auto& row : copies)
-            writeFile(install.home() / row.source, QStringView(row.source).toUtf8());
-    }
-    void emptySimulator(bool hasAddOn) {
-        for (const FilePath& folder : {world, addOn / u"Texture", splash.parent()})
-            for (const QString& name : install.files.list(folder, u"*"_s))
-                install.files.remove(folder.child(name));
-        if (hasAddOn) return install.files.makeFolder(addOn / u"Texture");
-        for (const FilePath& folder : {addOn / u"Texture", addOn})
-            if (install.files.exists(folder)) install.files.removeFolder(folder);
-    }
-    QMap<QString, QByteArray> installed() {
-        QMap<QString, QByteArray> found;
-        const std::pair<FilePath, QString> folders[] = {
-            {world, u"World\\"_s}, {addOn / u"Texture", u"UTEurLC\\"_s}, {splash.parent(), u"Uires\\"_s}};
-        for (const auto& [folder, prefix] : folders)
-            for (const QString& name : install.files.list(folder, u"*"_s))
-                found[prefix + name] = test::readFile(folder.child(name));
-        return found;
-    }
-};
-
-TEST_F(GroundCopies, everyCombinationCopiesItsRows) {
+    install.addGroundSet("2-Storm", "Overcast", true);
+    for (const auto& row : copies) // each source holds its own path
+        writeFile(install.home() / row.source, QStringView(row.source).toUtf8());
     for (int number = 0; number < 32; ++number) {
-        const Combination combination = combinationOf(number);
-        const auto holds = [&](char16_t letter) { return combination.letters.contains(QChar(letter)); };
-        emptySimulator(holds(u'a'));
-        session.state<OptionsInForce>().IsTropical = holds(u't');
-        session.state<OptionsInForce>().IsDutch = holds(u'd');
-        session.state<OptionsInForce>().InhibitCustomSplash = !holds(u's');
-        session.state<GroundSelection>().SelectedGroundSet = holds(u'G') ? u"2-Storm"_s : u"Default"_s;
+        QString letters = number & 1 ? "G" : "D"; // those that hold
+        for (const auto& [bit, letter] : {std::pair{2, u't'}, {4, u'd'}, {8, u'a'}, {16, u's'}})
+            if (number & bit) letters += letter;
+        QMap<QString, QByteArray> expected{{"fs9.exe", "MZ"}};
+        int count = 0; // splash left out
+        for (const auto& row : copies) {
+            const auto holds = [&](QChar letter) { return letters.contains(letter); };
+            if (!std::ranges::all_of(QStringView(row.when), holds)) continue;
+            expected[placeOf(row.target)] = QStringView(row.source).toUtf8();
+            count += !placeOf(row.target).startsWith("Uires");
+        }
+
+        QDir(install.simulator().native()).removeRecursively();
+        writeFile(install.simulator() / u"fs9.exe", "MZ");
+        for (const char16_t* folder : {u"Scenery\\World\\texture", u"Uires"})
+            install.files.makeFolder(install.simulator() / folder);
+        if (letters.contains('a'))
+            install.files.makeFolder(install.simulator() / u"Scenery\\UTEurLC\\Texture");
+        session.state<OptionsInForce>().IsTropical = letters.contains('t');
+        session.state<OptionsInForce>().IsDutch = letters.contains('d');
+        session.state<OptionsInForce>().InhibitCustomSplash = !letters.contains('s');
+        session.state<GroundSelection>().SelectedGroundSet = letters.contains('G') ? "2-Storm" : "Default";
         GroundInstallation installation(session);
         installation.installTextureSet(true);
-        EXPECT_EQ(installed(), combination.expected) << combination.letters.toStdString();
-        EXPECT_EQ(installation.filesCopied(), combination.fileCount) << combination.letters.toStdString();
+        EXPECT_EQ(test::contentsBelow(install.simulator()), expected) << letters.toStdString();
+        EXPECT_EQ(installation.filesCopied(), count) << letters.toStdString();
     }
     EXPECT_TRUE(install.user.told().isEmpty());
 }

@@ -2,11 +2,11 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "support/failing_operations.h"
 #include "support/faulty_store.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <iostream>
 
@@ -23,20 +23,6 @@ const QStringList dozenFiles =
     u"Texture\\029h2su6.bmp|Texture\\029b2su6.bmp|Texture\\002c2wi1.bmp|Texture\\030a2su1.bmp|"
     u"Texture\\031a2su1.bmp|Texture\\032a2su1.bmp|Texture\\Neu Ünï.bmp|UTEurLC\\034b2su4.bmp|"
     u"UTEurLC\\038b2su4.bmp|UTEurLC\\003a2su1.bmp|Texture\\033a2su1.bmp|Texture\\035a2su1.bmp"_s.split(u'|');
-
-/// Runs `test` with the first operation failing, the second and so on, until it says that none failed: first
-/// with that one alone, then with all that follow. Tells how many did.
-void failEach(const char* kind, int least, const std::function<bool(int n, bool forever)>& test) {
-    int hit = 0;
-    for (const bool forever : {false, true})
-        for (int n = 1;; ++n) {
-            SCOPED_TRACE(u"operation %1%2"_s.arg(n).arg(forever ? u" and on"_s : QString()).toStdString());
-            if (!test(n, forever)) break;
-            ++hit;
-        }
-    std::cout << hit << " failed " << kind << '\n';
-    EXPECT_GT(hit, least);
-}
 
 /// An install of a dozen files: set A stands in the simulator, set B is put over it, and one operation fails.
 class InstallFaults : public testing::Test {
@@ -105,65 +91,73 @@ protected:
 };
 
 TEST_F(InstallFaults, everyFileOperationFailsOnceAndFromThenOn) {
-    put(u"2-Á"_s);
-    failEach("file operations", 100, [&](int n, bool forever) {
-        install.files.failAt(n, forever);
-        put(u"3-B"_s);
-        const bool failed = install.files.hasFailed();
-        const bool isAsIfMissing = install.files.failedAtTest() && !forever;
-        install.files.failAt(0, false);
-        if (!failed) return false;
-        expectWholeTargets();
-        expectOriginals();
-        expectSoundStore();
-        EXPECT_EQ(install.user.countOfKind(MessageKind::error), isAsIfMissing ? 0 : 1);
-        recover();
-        return true;
-    });
+    int failures = 0;
+    bool isAsIfMissing = false;
+    put("2-Á");
+    for (const bool forever : {false, true})
+        failures += test::failEachOperation(
+            install.files, forever,
+            [&] {
+                put("3-B");
+                isAsIfMissing = !install.files.hasFailed() || (install.files.failedAtTest() && !forever);
+            },
+            [&](int n) {
+                SCOPED_TRACE(n);
+                expectWholeTargets();
+                expectOriginals();
+                expectSoundStore();
+                EXPECT_EQ(install.user.countOfKind(MessageKind::error), isAsIfMissing ? 0 : 1);
+                recover();
+            });
+    std::cout << failures << " failed file operations\n";
+    EXPECT_GT(failures, 100);
 }
 
+/// Whatever was replaced is kept, byte for byte, and comes back.
 TEST_F(InstallFaults, firstInstallKeepsThePilotsFilesWhateverFails) {
-    failEach("file operations of a first install", 100, [&](int n, bool forever) {
-        SmallInstall fresh(
-            test::SmallInstallOptions{{u"GENERIC WORLD\\029h2su6.bmp"_s, u"UTIND\\034b2su4.bmp"_s}, 16});
-        fresh.addGroundSet(u"2-Á"_s, u"Overcast"_s, true, dozenFiles);
-        const Contents own = contentsBelow(fresh.simulator());
-        fresh.session.state<GroundSelection>().SelectedGroundSet = u"2-Á"_s;
-        fresh.files.failAt(n, forever);
-        GroundInstallation(fresh.session).installTextureSet(true);
-        const bool failed = fresh.files.hasFailed();
-        fresh.files.failAt(0, false);
-        if (!failed) return false;
-        // Whatever was replaced is kept, byte for byte, and comes back.
-        GroundInstallation(fresh.session).installTextureSet(true);
-        Originals(fresh.files, fresh.session.FSPath, fresh.session.AppPath).restore();
-        EXPECT_EQ(contentsBelow(fresh.simulator()), own);
-        return true;
-    });
+    int failures = 0;
+    for (const bool forever : {false, true})
+        for (int n = 1;; ++n, ++failures) {
+            SmallInstall fresh({{"GENERIC WORLD\\029h2su6.bmp", "UTIND\\034b2su4.bmp"}, 16});
+            fresh.addGroundSet("2-Á", "Overcast", true, dozenFiles);
+            const Contents own = contentsBelow(fresh.simulator());
+            fresh.session.state<GroundSelection>().SelectedGroundSet = "2-Á";
+            fresh.files.failAt(n, forever);
+            GroundInstallation(fresh.session).installTextureSet(true);
+            if (!fresh.files.hasFailed()) break;
+            fresh.files.failAt(0, false);
+            GroundInstallation(fresh.session).installTextureSet(true);
+            Originals(fresh.files, fresh.session.FSPath, fresh.session.AppPath).restore();
+            EXPECT_EQ(contentsBelow(fresh.simulator()), own) << n << forever;
+        }
+    EXPECT_GT(failures, 100);
 }
 
 TEST_F(InstallFaults, everyStoreWriteFailsOnceAndFromThenOn) {
-    failEach("store writes", 1, [&](int n, bool forever) {
-        install.user.messages.clear();
-        closeDatabase(install.session);
-        int operations = 0;
-        {
-            FaultyStoreDisk disk;
-            connectDatabase(install.session);
-            disk.failAt(n, forever);
-            put(u"3-B"_s);
-            operations = disk.operations();
-            disk.heal();
+    int failures = 0;
+    for (const bool forever : {false, true})
+        for (int n = 1;; ++n, ++failures) {
+            SCOPED_TRACE(n);
+            install.user.messages.clear();
             closeDatabase(install.session);
+            int operations = 0;
+            {
+                FaultyStoreDisk disk;
+                connectDatabase(install.session);
+                disk.failAt(n, forever);
+                put("3-B");
+                operations = disk.operations();
+                disk.heal();
+                closeDatabase(install.session);
+            }
+            connectDatabase(install.session);
+            expectSoundStore();
+            if (operations < n) break;
+            expectWholeTargets();
+            EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+            recover();
         }
-        connectDatabase(install.session);
-        expectSoundStore();
-        if (operations < n) return false;
-        expectWholeTargets();
-        EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-        recover();
-        return true;
-    });
+    EXPECT_GT(failures, 1);
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
 #include <gtest/gtest.h>
@@ -61,18 +61,16 @@ protected:
 
     void putWhole(const QString& set) { ASSERT_TRUE(Install(install.home(), set).isDone()); }
 
-    bool isFile(int i, char letter) {
+    bool isOfSetB(int i) {
         QFile file((world() / fileName(i)).native());
-        char first = 0;
-        return file.open(QIODevice::ReadOnly) && file.getChar(&first) && first == letter;
+        return file.open(QIODevice::ReadOnly) && file.read(1) == "B";
     }
 
     /// Kills the install of set B as soon as its file of that number has come. True when it was still alive.
     bool killAt(int moment) {
         Install process(install.home(), setB);
-        QElapsedTimer timer;
-        timer.start();
-        while (!isFile(moment, 'B') && timer.elapsed() < patienceMilliseconds)
+        const QDeadlineTimer patience(patienceMilliseconds);
+        while (!isOfSetB(moment) && !patience.hasExpired())
             std::this_thread::yield();
         process.kill();
         return !process.isDone();

@@ -1,8 +1,10 @@
-#include "simulator/options.h"
 
 #include "core/error.h"
+#include "core/flag_text.h"
 #include "core/flights_folder.h"
 #include "sets/options_in_force.h"
+#include "sets/simulator_copy.h"
+#include "simulator/options.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -13,6 +15,8 @@ namespace {
 
 using test::SmallInstall;
 using test::writeFile;
+
+const QString invalid = u"Exclamation|Invalid Path|The path supplied was invalid please try again"_s;
 
 struct OptionsTest : testing::Test {
     SmallInstall install;
@@ -28,13 +32,13 @@ struct OptionsTest : testing::Test {
 };
 
 TEST_F(OptionsTest, theSplashOptionTakesTwoWordsAndRepairsTheRest) {
-    for (const QString& held : {u"True"_s, u"False"_s, u"Yes"_s, QString(), u" True "_s, u"true"_s}) {
-        store(u"InhibitCustomSplash"_s, held);
-        const bool isSet = held == u"True";
+    for (const QString& held : QStringList{"True", "False", "Yes", {}, " True ", "true"}) {
+        store("InhibitCustomSplash", held);
+        const bool isSet = held == "True";
         session.state<OptionsInForce>().InhibitCustomSplash = !isSet;
         getCustomSplashVal(session);
         EXPECT_EQ(session.state<OptionsInForce>().InhibitCustomSplash, isSet) << held.toStdString();
-        EXPECT_EQ(stored(u"InhibitCustomSplash"_s), isSet ? u"True"_s : u"False"_s) << held.toStdString();
+        EXPECT_EQ(stored("InhibitCustomSplash"), flagText(isSet)) << held.toStdString();
     }
     EXPECT_TRUE(user.told().isEmpty());
 }
@@ -63,9 +67,11 @@ TEST_F(OptionsTest, theWideClientOptionIsTrimmedAndOtherwiseAsked) {
         user.told().value(0).startsWith(u"Question|For WideFS Users Only!|Please indicate if you "_s));
 }
 
+/// Switching the splash off puts the simulator's own back; on, the next set brings its splash, not the
+/// switch.
 TEST_F(OptionsTest, eachChoiceIsStoredAndTold) {
-    const QString splash = u"Information|FS9 Splash Screen Status|"_s;
-    const QString wide = u"Information|FS9 WideFS Status|This setting states that this PC is a "_s;
+    const QString splash = "Information|FS9 Splash Screen Status|", name = "InhibitCustomSplash";
+    const QString wide = "Information|FS9 WideFS Status|This setting states that this PC is a ";
     const struct {
         void (*choose)(Session&, bool);
         bool OptionsInForce::*flag;
@@ -73,34 +79,29 @@ TEST_F(OptionsTest, eachChoiceIsStoredAndTold) {
         bool value;
         QString told;
     } cases[] = {
-        {setCustomSplashVal, &OptionsInForce::InhibitCustomSplash, u"InhibitCustomSplash"_s, true,
-         splash + u"The default FS splash screen has been copied to Flight Similator. The Morvane FS9 splash "
-                  u"screen will not be shown when Flight Simulator is started."_s},
-        {setCustomSplashVal, &OptionsInForce::InhibitCustomSplash, u"InhibitCustomSplash"_s, false,
-         splash + u"The Morvane FS9 splash screen will be shown when Flight Simulator is started."_s},
-        {setSideFSVal, &OptionsInForce::IsWideClient, u"IsWideClient"_s, true,
-         wide + u"WideClient PC and therefore Morvane will not attempt to start Flight Simulator."_s},
-        {setSideFSVal, &OptionsInForce::IsWideClient, u"IsWideClient"_s, false,
-         wide + u"WideServer/Stand Alone PC and therefore Morvane will attempt to start Flight Simulator as "
-                u"required by you the user."_s},
+        {setCustomSplashVal, &OptionsInForce::InhibitCustomSplash, name, true,
+         splash + "The default FS splash screen has been copied to Flight Similator. The Morvane FS9 splash "
+                  "screen will "
+                  "not be shown when Flight Simulator is started."},
+        {setCustomSplashVal, &OptionsInForce::InhibitCustomSplash, name, false,
+         splash + "The Morvane FS9 splash screen will be shown when Flight Simulator is started."},
+        {setSideFSVal, &OptionsInForce::IsWideClient, "IsWideClient", true,
+         wide + "WideClient PC and therefore Morvane will not attempt to start Flight Simulator."},
+        {setSideFSVal, &OptionsInForce::IsWideClient, "IsWideClient", false,
+         wide + "WideServer/Stand Alone PC and therefore Morvane will attempt to start Flight Simulator as "
+                "required by "
+                "you the user."},
     };
-    writeFile(install.home() / u"Media\\dlgsplash.bmp", "the simulator's own");
-    for (const auto& [choose, flag, name, value, told] : cases) {
-        choose(session, value);
-        EXPECT_EQ(session.state<OptionsInForce>().*flag, value);
-        EXPECT_EQ(stored(name), value ? u"True"_s : u"False"_s);
-        EXPECT_EQ(user.told().last(), told);
+    const FilePath kept = install.home() / u"Media\\dlgsplash.bmp", shown = splashTarget(session);
+    writeFile(kept, "the simulator's own");
+    for (const auto& road : cases) {
+        writeFile(shown, "another");
+        road.choose(session, road.value);
+        EXPECT_EQ(session.state<OptionsInForce>().*road.flag, road.value);
+        EXPECT_EQ(stored(road.name), flagText(road.value));
+        EXPECT_EQ(user.told().last(), road.told);
+        EXPECT_EQ(test::readFile(shown), road.value && road.name == name ? "the simulator's own" : "another");
     }
-}
-
-TEST_F(OptionsTest, switchingTheSplashOffPutsTheSimulatorsOwnBack) {
-    writeFile(install.home() / u"Media\\dlgsplash.bmp", "the simulator's own");
-    const FilePath splash = install.simulator() / u"Uires\\dlgsplash.bmp";
-    setCustomSplashVal(session, true);
-    EXPECT_EQ(test::readFile(splash), "the simulator's own");
-    writeFile(splash, "another");
-    setCustomSplashVal(session, false);
-    EXPECT_EQ(test::readFile(splash), "another"); // the next set brings its splash, not the switch
 }
 
 /// A registry on which everything fails, as only one with a fault of its own does.
@@ -141,38 +142,33 @@ TEST_F(OptionsTest, theFlightsFolderIsAskedForUntilItIsUsable) {
     install.files.makeFolder(install.home() / u"Flights");
     ASSERT_TRUE(QFile::link(own, link));
     const QString required =
-        u"Information|Saved Flights/Flight Plans Location required|Please supply the path to your My "
-        u"Documents\\Flight Simulator Files folder. Please ensure that you are not pointing to your Morvane "
-        u"Flights folder"_s;
-    const QString missing = u"Exclamation|Saved Flights Invalid Path|The path for your FS9 saved flights "
-                            u"was invalid please enter a new path"_s;
-    const QString invalid = u"Exclamation|Invalid Path|The path supplied was invalid please try again"_s;
-    struct Case {
-        QString held;
-        std::deque<QString> chosen;
-        QString after;
-        QStringList told;
-    };
-    const Case cases[] = {
+        "Information|Saved Flights/Flight Plans Location required|Please supply the path to your "
+        "My Documents\\Flight Simulator Files folder. Please ensure that you are not pointing to "
+        "your Morvane Flights folder";
+    const QString missing =
+        "Exclamation|Saved Flights Invalid Path|The path for your FS9 saved flights was invalid "
+        "please enter a new path";
+    const std::tuple<QString, std::deque<QString>, QString, QStringList> cases[] = {
+        // What is held, what is chosen, what is held then and what is told.
         {good, {}, good, {}},
-        {u"  "_s + good + u' ', {}, u"  "_s + good + u' ', {}},
+        {"  " + good + ' ', {}, "  " + good + ' ', {}},
         {own.toUpper(), {own, own, good}, good, {required, invalid, invalid}},
-        {own + u'/',
-         {own + u'\\', own + u"/./"_s, link, link + u'/', good},
+        {own + '/',
+         {own + '\\', own + "/./", link, link + '/', good},
          good,
          {required, invalid, invalid, invalid, invalid}},
-        {u"/nowhere"_s, {own, good}, good, {missing, invalid}},
+        {"/nowhere", {own, good}, good, {missing, invalid}},
         {{}, {}, {}, {required}}, // a cancelled browser asks no more
-        {u"/nowhere"_s, {}, u"/nowhere"_s, {missing}},
+        {"/nowhere", {}, "/nowhere", {missing}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.held.toStdString());
-        store(u"NonEnglishPath"_s, c.held);
+    for (const auto& [held, chosen, after, told] : cases) {
+        SCOPED_TRACE(held.toStdString());
+        store("NonEnglishPath", held);
         user.messages.clear();
-        user.foldersToChoose = c.chosen;
-        EXPECT_EQ(getNonEnglishPath(session), c.after.contains(good) ? good : QString());
-        EXPECT_EQ(stored(u"NonEnglishPath"_s), c.after);
-        EXPECT_EQ(user.told(), c.told);
+        user.foldersToChoose = chosen;
+        EXPECT_EQ(getNonEnglishPath(session), after.contains(good) ? good : QString());
+        EXPECT_EQ(stored("NonEnglishPath"), after);
+        EXPECT_EQ(user.told(), told);
         EXPECT_TRUE(user.foldersToChoose.empty());
     }
 }
@@ -191,8 +187,7 @@ TEST_F(OptionsTest, theFlightsFolderCanBeChosenAnew) {
     user.foldersToChoose = {(install.home() / u"Flights").native() + u'/'};
     setNonEnglishRegVal(session);
     EXPECT_EQ(stored(u"NonEnglishPath"_s), u"/Çhosen folder"_s) << "the program's own one is refused";
-    EXPECT_EQ(user.told().last(),
-              u"Exclamation|Invalid Path|The path supplied was invalid please try again"_s);
+    EXPECT_EQ(user.told().last(), invalid);
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #include "core/error.h"
 #include "core/store.h"
 #include "ground/ground_selection.h"
-#include "sets/cloud_cover.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "support/printing.h"
@@ -17,116 +16,109 @@ namespace {
 
 using test::SmallInstall;
 
+using Sets = std::vector<ActivatedSet>; ///< names and covers
+
 struct SetMatchingTest : testing::Test {
     SmallInstall install;
     Session& session = install.session;
 
-    /// One sky for each cover, so that nothing is said of skies and none is drawn.
-    void addSkies() {
-        for (int number = 1; number <= cloudCoverCount; ++number)
-            install.addSkySet(cloudCover(number)->code, cloudCover(number)->word, true);
-    }
-    /// Sets of their names and covers, all activated.
-    void addSets(const std::vector<std::pair<QString, QString>>& sets) {
+    void addGrounds(const Sets& sets) {
         for (const auto& [name, cover] : sets)
-            install.addGroundSet(name, cover, true, {u"Texture\\029h2su6.bmp"_s});
+            install.addGroundSet(name, cover, true, {"Texture\\029h2su6.bmp"});
     }
-    /// Writes a set's activation. "Default" is an activated one for "Partly Cloudy"; some searches need it
-    /// away.
+    void addSkies(const Sets& sets) {
+        for (const auto& [name, cover] : sets)
+            install.addSkySet(name, cover, true, {"sky.bmp"});
+    }
+    /// "Default" is an activated one for "Partly Cloudy"; some searches need it away.
     void setActivation(const QString& name, const QString& word) {
         const QString statement = u"UPDATE TEXTURE_SETS SET ACTIVATED = '%1' WHERE TEXTURE_SET = '%2'"_s;
         session.adoConn->execute(statement.arg(word, name));
         install.reload();
     }
-    QString matchedSky(const QString& cover) {
+    /// Ground and sky that an install for the cover left.
+    QStringList matched(const QString& cover) {
         SetMatching(session).installMatchingSets(cover);
-        const QStringList installed = install.installedSkySets();
-        EXPECT_EQ(installed, QStringList{session.state<SkySelection>().SelectedSkySet})
-            << cover.toStdString();
-        return installed.value(0);
-    }
-    QString matched(const QString& cover) {
-        SetMatching(session).installMatchingSets(cover);
-        const QStringList installed = install.installedSets();
-        EXPECT_EQ(installed, QStringList{session.state<GroundSelection>().SelectedGroundSet})
-            << cover.toStdString();
-        return installed.value(0);
+        const QStringList chosen{session.state<GroundSelection>().SelectedGroundSet,
+                                 session.state<SkySelection>().SelectedSkySet};
+        EXPECT_EQ(install.installedSets() + install.installedSkySets(), chosen) << cover.toStdString();
+        return chosen;
     }
 };
 
 TEST_F(SetMatchingTest, candidatesAreDrawnButNeverTheLast) {
-    struct Case {
-        QString cover;
-        double draw;
-        QString expected;
+    addGrounds({{"A", "Overcast"},
+                {"B", " Overcast "},
+                {"C", "Overcast"},
+                {"D", "Sky Clear"},
+                {"E", "Sky Clear"},
+                {"F", "Mostly Clear"},
+                {"G", "Mostly Clear"},
+                {"H", "Partly Cloudy"}});
+    setActivation("G", "true"); // only the exact word activates
+    addSkies({{"a", "Overcast"},
+              {"b", " Overcast"},
+              {"c", "Overcast"},
+              {"e", "Sky Clear"},
+              {"f", "Mostly Clear"},
+              {"h", "Partly Cloudy"}});
+    install.addSkySet("d", "Sky Clear", false);
+    const std::tuple<QString, double, QStringList> cases[] = {
+        {"Overcast", 0.49, {"A", "a"}},         {"Overcast", 0.5, {"B", "b"}},
+        {"Overcast", 0.9999999999, {"B", "b"}}, {" Overcast", 0.5, {"B", "b"}},
+        {"Sky Clear", 0.999999, {"D", "e"}},    {"Mostly Clear", 0.999999, {"F", "f"}},
+        {"Partly Cloudy", 0, {"Default", "h"}}, // of two always the first, and "Default" takes part
     };
-    addSkies();
-    addSets({{u"A"_s, u"Overcast"_s},
-             {u"B"_s, u" Overcast "_s},
-             {u"C"_s, u"Overcast"_s},
-             {u"D"_s, u"Sky Clear"_s},
-             {u"E"_s, u"Sky Clear"_s},
-             {u"F"_s, u"Mostly Clear"_s},
-             {u"G"_s, u"Mostly Clear"_s},
-             {u"H"_s, u"Partly Cloudy"_s}});
-    setActivation(u"G"_s, u"true"_s); // only the exact word activates
-    const Case cases[] = {
-        {u"Overcast"_s, 0.49, u"A"_s},         {u"Overcast"_s, 0.5, u"B"_s},
-        {u"Overcast"_s, 0.9999999999, u"B"_s}, {u" Overcast"_s, 0.5, u"B"_s},
-        {u"Sky Clear"_s, 0.999999, u"D"_s},    {u"Mostly Clear"_s, 0.999999, u"F"_s},
-        {u"Partly Cloudy"_s, 0, u"Default"_s}, // of two always the first, and "Default" takes part
-    };
-    for (const Case& c : cases) {
-        install.random.numbers = {c.draw};
-        EXPECT_EQ(matched(c.cover), c.expected) << c.draw;
+    for (const auto& [cover, draw, expected] : cases) {
+        install.random.numbers = {draw};
+        EXPECT_EQ(matched(cover), expected) << draw;
     }
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
-TEST(ClosestCloudCover, isOneStepAwayAndBouncesInTheMiddle) {
-    const QString steps[][2] = {{u"Sky Clear"_s, u"Mostly Clear"_s},
-                                {u"Mostly Clear"_s, u"Partly Cloudy"_s},
-                                {u"Partly Cloudy"_s, u"Mostly Cloudy"_s},
-                                {u"Mostly Cloudy"_s, u"Partly Cloudy"_s},
-                                {u"Overcast"_s, u"Mostly Cloudy"_s},
-                                {u"Foggy"_s, {}},
-                                {{}, {}}};
-    for (const auto& [word, next] : steps)
-        EXPECT_EQ(SetMatching::getClosestCloudCover(word), next) << word.toStdString();
+/// The ground's search compares the next word, the sky's the present one.
+TEST(ClosestSet, isSearchedUpwardsAndNeverBackAtTheEnds) {
+    using Search = SetMatching::ClosestSearch;
+    const Sets wet{{"Rain", "Overcast"}, {"Drizzle", "Mostly Cloudy"}, {"Sun", "Sky Clear"}},
+        ends{wet[0], wet[2]};
+    const struct {
+        const char* cover;
+        const Sets& sets;
+        const char *ground, *sky;
+    } cases[] = {
+        {"Overcast", wet, "Drizzle", "Rain"},
+        {"Partly Cloudy", wet, "Drizzle", "Drizzle"},
+        {"Mostly Clear", wet, "Drizzle", "Drizzle"}, // two steps up, though "Sky Clear" is one step down
+        {"Sky Clear", wet, "Drizzle", "Sun"},
+        {"Mostly Clear", ends, "Default", "Default"}, // however near they are
+        {"Mostly Cloudy", ends, "Default", "Default"},
+        {"Foggy", wet, "Default", "Default"},
+    };
+    for (const auto& [cover, sets, ground, sky] : cases) {
+        EXPECT_EQ(SetMatching::closestSet(sets, Search::nextWord, cover), ground) << cover;
+        EXPECT_EQ(SetMatching::closestSet(sets, Search::currentWord, cover), sky) << cover;
+    }
 }
 
-TEST_F(SetMatchingTest, theClosestSetWinsWithoutADraw) {
-    addSkies();
-    setActivation(u"Default"_s, u"False"_s);
-    addSets(
-        {{u"Rain"_s, u"Mostly Cloudy"_s}, {u"Drizzle"_s, u"Mostly Cloudy"_s}, {u"Sun"_s, u"Sky Clear"_s}});
-    EXPECT_EQ(matched(u"Overcast"_s), u"Rain"_s);
-    EXPECT_EQ(matched(u"Partly Cloudy"_s), u"Rain"_s);
-    EXPECT_EQ(matched(u"Mostly Clear"_s), u"Rain"_s); // two steps up, though "Sky Clear" is one step down
+TEST_F(SetMatchingTest, theClosestSetsAreToldAndNotDrawn) {
+    setActivation("Default", "False");
+    addGrounds({{"Rain", "Mostly Cloudy"}, {"Drizzle", "Mostly Cloudy"}});
+    addSkies({{"Sun", "Sky Clear"}, {"Haze", "Mostly Cloudy"}});
+    EXPECT_EQ(matched("Overcast"), (QStringList{"Rain", "Haze"}));
     EXPECT_EQ(install.random.draws, 0);
-    EXPECT_EQ(install.user.told().value(0),
-              u"Information|No Activated Ground Texture Sets|you have no activated ground texture sets "
-              u"equivalent to Overcast MV will now install the closest ground texture set to Overcast"_s);
-    EXPECT_EQ(install.user.told().size(), 3);
-}
-
-TEST_F(SetMatchingTest, aSearchThatRunsDryGivesDefault) {
-    setActivation(u"Default"_s, u"False"_s);
-    addSets({{u"Rain"_s, u"Overcast"_s}, {u"Sun"_s, u"Sky Clear"_s}});
-    // The walk never comes back to the ends of the scale, however near they are.
-    for (const QString& cover : {u"Mostly Clear"_s, u"Partly Cloudy"_s, u"Mostly Cloudy"_s, u"Foggy"_s})
-        EXPECT_EQ(matched(cover), u"Default"_s) << cover.toStdString();
-    setActivation(u"Rain"_s, u"False"_s);
-    EXPECT_EQ(matched(u"Overcast"_s), u"Default"_s);
+    const QString told =
+        "Information|No Activated %1 Texture Sets|you have no activated %2 texture sets equivalent "
+        "to Overcast MV will now install the closest %2 texture set to Overcast";
+    EXPECT_EQ(install.user.told(), (QStringList{told.arg("Ground", "ground"), told.arg("Sky", "sky")}));
 }
 
 TEST_F(SetMatchingTest, theAverageCountsCloudsAndStrengths) {
     // Clouds, strengths, average. An obscured sky, 6, counts as scattered, and so does everything unknown;
     // halves go to the even number.
     for (const QString& line :
-         {u"1||1"_s, u"4||4"_s, u"5||5"_s, u"6||3"_s, u"0||3"_s, u"many||3"_s, u"||3"_s, u" 4 | Light |5"_s,
-          u"1|Moderate|2"_s, u"3|Heavy|5"_s, u"3|heavy|3"_s, u"5|Heavy|7"_s, u"1,2|,|2"_s, u"2,3|,|2"_s,
-          u"4,5|,|4"_s, u"4,5|,Heavy|6"_s, u"1,1,|,,|2"_s}) {
+         QStringList{"1||1", "4||4", "5||5", "6||3", "0||3", "many||3", "||3", " 4 | Light |5",
+                     "1|Moderate|2", "3|Heavy|5", "3|heavy|3", "5|Heavy|7", "1,2|,|2", "2,3|,|2", "4,5|,|4",
+                     "4,5|,Heavy|6", "1,1,|,,|2"}) {
         const QStringList parts = line.split(u'|');
         session.state<FlightWeather>().WxCloudList = parts[0].split(u',');
         session.state<FlightWeather>().WxStrengthList = parts[1].split(u',');
@@ -137,62 +129,19 @@ TEST_F(SetMatchingTest, theAverageCountsCloudsAndStrengths) {
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
-TEST_F(SetMatchingTest, skiesAreDrawnLikeGroundsButNeverTheLast) {
-    install.addSkySet(u"A"_s, u"Overcast"_s, true, {u"cloud.bmp"_s});
-    install.addSkySet(u"B"_s, u" Overcast"_s, true);
-    install.addSkySet(u"C"_s, u"Overcast"_s, true);
-    install.addSkySet(u"D"_s, u"Sky Clear"_s, false);
-    install.addSkySet(u"E"_s, u"Sky Clear"_s, true);
-    addSets({{u"G"_s, u"Overcast"_s}, {u"H"_s, u"Sky Clear"_s}});
-    const std::tuple<QString, double, QString> cases[] = {
-        {u"Overcast"_s, 0.49, u"A"_s}, {u"Overcast"_s, 0.999999, u"B"_s}, {u"Sky Clear"_s, 0.999999, u"E"_s}};
-    for (const auto& [cover, draw, expected] : cases) {
-        install.random.numbers = {draw};
-        EXPECT_EQ(matchedSky(cover), expected) << draw;
-    }
-    EXPECT_TRUE(install.user.told().isEmpty());
-    EXPECT_EQ(test::readFile(install.simulator() / u"Texture\\cloud.bmp"), "A cloud.bmp");
-}
-
-TEST_F(SetMatchingTest, aSkyIsSearchedForWhereTheGroundIsFound) {
-    setActivation(u"Default"_s, u"False"_s);
-    addSets({{u"Haze"_s, u"Overcast"_s}});
-    install.addSkySet(u"Default"_s, u"Partly Cloudy"_s, false);
-    install.addSkySet(u"Sun"_s, u"Sky Clear"_s, true);
-    EXPECT_EQ(matchedSky(u"Overcast"_s), u"Default"_s);
-    install.addSkySet(u"Rain"_s, u"Mostly Cloudy"_s, true);
-    EXPECT_EQ(matchedSky(u"Overcast"_s), u"Rain"_s);
-    const QString said =
-        u"Information|No Activated Sky Texture Sets|you have no activated sky texture sets "
-        u"equivalent to Overcast MV will now install the closest sky texture set to Overcast"_s;
-    EXPECT_EQ(install.user.told(), QStringList({said, said}));
-}
-
 TEST_F(SetMatchingTest, aFarGroundAndAFittingSkyAreToldOfTheGroundOnly) {
-    install.addSkySet(u"Rain"_s, u"Overcast"_s, true, {u"cloud.bmp"_s, u"sky.bmp"_s});
-    session.state<FlightWeather>().WxCloudList = QStringList{u"5"_s};
+    install.addSkySet("Rain", "Overcast", true, {"cloud.bmp", "sky.bmp"});
+    session.state<FlightWeather>().WxCloudList = QStringList{"5"};
     session.state<FlightWeather>().WxStrengthList = QStringList{QString()};
     install.user.answersToGive = {true}; // no flight, no start
     install.user.otherwise = false;
     EXPECT_EQ(flyWithCover(session).filesCopied, 6) << "four of the ground's \"Default\", two of the sky";
-    EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
-    EXPECT_EQ(install.installedSkySets(), QStringList{u"Rain"_s});
+    EXPECT_EQ(install.installedSets() + install.installedSkySets(), (QStringList{"Default", "Rain"}));
     EXPECT_EQ(install.user.countOfKind(MessageKind::information), 1);
     EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "splash OVC");
-    const QStringList files = install.user.calls.filter(u"file Installing"_s);
-    EXPECT_EQ(files, QStringList({u"file Installing Partly Cloudy (SCT) ground textures"_s,
-                                  u"file Installing Overcast (OVC) sky textures"_s}));
-}
-
-TEST(ClosestSet, comparesTheNextWordForTheGroundAndTheCurrentOneForTheSky) {
-    using Search = SetMatching::ClosestSearch;
-    const std::vector<ActivatedSet> sets{{u"Rain"_s, u"Overcast"_s}, {u"Drizzle"_s, u"Mostly Cloudy"_s}};
-    EXPECT_EQ(SetMatching::closestSet(sets, Search::nextWord, u"Overcast"_s), u"Drizzle"_s);
-    EXPECT_EQ(SetMatching::closestSet(sets, Search::currentWord, u"Overcast"_s), u"Rain"_s);
-    for (const Search search : {Search::nextWord, Search::currentWord}) {
-        EXPECT_EQ(SetMatching::closestSet(sets, search, u"Sky Clear"_s), u"Drizzle"_s) << "three words on";
-        EXPECT_EQ(SetMatching::closestSet(sets, search, u"Foggy"_s), u"Default"_s);
-    }
+    EXPECT_EQ(install.user.calls.filter("file Installing"),
+              (QStringList{"file Installing Partly Cloudy (SCT) ground textures",
+                           "file Installing Overcast (OVC) sky textures"}));
 }
 
 /// A random source that fails, so that the choice of a set does.
@@ -201,60 +150,27 @@ struct BrokenRandom : RandomSource {
 };
 
 TEST_F(SetMatchingTest, aFailureIsToldUnderAWordOfItsOwnSpelling) {
-    addSets({{u"A"_s, u"Overcast"_s}, {u"B"_s, u"Overcast"_s}, {u"C"_s, u"Overcast"_s}});
+    addGrounds({{"A", "Overcast"}, {"B", "Overcast"}, {"C", "Overcast"}});
     BrokenRandom broken;
     Session failing({install.user, install.files, install.clock, broken, install.registry}, install.home());
     failing.adoConn = std::move(session.adoConn);
-    SetMatching(failing).installMatchingSets(u"Overcast"_s);
-    EXPECT_EQ(install.user.told(), QStringList{u"Exlamation|getIcaoWxDetails Error|Overflow"_s});
+    SetMatching(failing).installMatchingSets("Overcast");
+    EXPECT_EQ(install.user.told(), QStringList{"Exlamation|getIcaoWxDetails Error|Overflow"});
 }
 
 TEST(CoverWord, staysInsideTheScale) {
-    const QString words[] = {u"Partly Cloudy"_s, u"Sky Clear"_s, u"Mostly Clear"_s, u"Partly Cloudy"_s,
-                             u"Mostly Cloudy"_s, u"Overcast"_s,  u"Overcast"_s,     u"Overcast"_s};
-    for (int number = 0; number < 8; ++number)
-        EXPECT_EQ(SetMatching::coverWord(number), words[number]) << number;
-    EXPECT_EQ(SetMatching::coverWord(-1), u"Partly Cloudy"_s);
-}
-
-TEST_F(SetMatchingTest, theQuestionNamesItsSourceAndNoInstallsNothing) {
-    const QString start = u"Question|Install Textures?|Do you wish Morvane to select and install Ground and "
-                          u"Sky Textures to match the weather conditions obtained"_s;
-    const auto before = test::contentsBelow(install.simulator());
-    install.user.otherwise = false;
-    session.state<FlightWeather>().WxCloudList = QStringList{u"5"_s};
-    session.state<FlightWeather>().WxStrengthList = QStringList{QString()};
-    EXPECT_FALSE(SetMatching(session).askInstallMatchingSets());
-    session.CommandLineRun = true;
-    EXPECT_FALSE(SetMatching(session).askInstallMatchingSets());
-    EXPECT_EQ(install.user.told(), QStringList({start + u"?"_s, start + u" from Active Sky?"_s}));
-    EXPECT_TRUE(install.installedSets().isEmpty());
-    EXPECT_EQ(test::contentsBelow(install.simulator()), before);
-}
-
-TEST_F(SetMatchingTest, aYesInstallsWhatTheWeatherAsksFor) {
-    addSkies();
-    addSets({{u"Rain"_s, u"Overcast"_s}, {u"Sun"_s, u"Sky Clear"_s}});
-    ASSERT_TRUE(processMetarString(session, u"  EHAM 241225Z 24015KT 9999 SKC 18/09 Q1012 "_s));
-    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"1"_s});
-    EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList{QString()});
-    EXPECT_EQ(flyWithCover(session).filesCopied, 1);
-    EXPECT_EQ(install.installedSets(), QStringList{u"Sun"_s});
-    EXPECT_EQ(install.installedSkySets(), QStringList{u"CLR"_s});
-
-    // An obscured sky keeps its 6 in the list and then counts as "Partly Cloudy".
-    ASSERT_TRUE(processMetarString(session, u"EHAM 241225Z 24015KT 0100 FG VV001 18/18 Q1012"_s));
-    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"6"_s});
-    flyWithCover(session);
-    EXPECT_EQ(install.installedSets(), QStringList{u"Default"_s});
-    EXPECT_EQ(install.installedSkySets(), QStringList{u"SCT"_s});
+    QStringList words;
+    for (int number = -1; number < 8; ++number)
+        words << SetMatching::coverWord(number);
+    EXPECT_EQ(words, (QStringList{"Partly Cloudy", "Partly Cloudy", "Sky Clear", "Mostly Clear",
+                                  "Partly Cloudy", "Mostly Cloudy", "Overcast", "Overcast", "Overcast"}));
 }
 
 TEST_F(SetMatchingTest, aReportWithoutCloudsIsRefusedAndLeavesZeroInTheList) {
     for (const QString& metar : {u"EHAM 241225Z 24015KT 9999 18/09 Q1012"_s, u"  "_s, QString()}) {
-        session.state<FlightWeather>().WxCloudList = QStringList{u"5"_s, u"5"_s};
+        session.state<FlightWeather>().WxCloudList = QStringList{"5", "5"};
         EXPECT_FALSE(processMetarString(session, metar)) << metar.toStdString();
-        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"0"_s});
+        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{"0"});
     }
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 3);
 }

@@ -3,6 +3,7 @@
 #include "imaging/texture_codec.h"
 #include "simulator/backup_files.h"
 #include "simulator/stock_requests.h"
+#include "support/failing_operations.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -56,34 +57,29 @@ TEST_F(StockImportTest, everyFileThatAPatternTakesBecomesABaseImageAndComesBack)
     const auto before = stock();
     const auto report = importSimulatorStock(session);
     ASSERT_TRUE(report);
-    const std::pair<QString, bool> images[] = {{u"GENERIC WORLD\\029h2su6.bmp"_s, true},
-                                               {u"GENERIC WORLD\\029b2su6.bmp"_s, true},
-                                               {u"GENERIC WORLD\\030A2WI1.BMP"_s, true},
-                                               {u"GENERIC WORLD\\005A2SU2.BMP"_s, true},
-                                               {u"DUTCH\\005a2su2.bmp"_s, true},
-                                               {u"UTIND\\034b2su4.bmp"_s, true},
-                                               {u"GENERIC WORLD NIGHT\\029A2LM1.BMP"_s, true},
-                                               {u"GENERIC WORLD NIGHT\\008A2LM3.BMP"_s, true},
-                                               {u"DUTCH NIGHT\\008A2LM3.BMP"_s, true},
-                                               {u"GENERIC WORLD NIGHT\\lights2lm.bmp"_s, false},
-                                               {u"DUTCH NIGHT\\029A2LM1.BMP"_s, false},
-                                               {u"GENERIC WORLD\\029a2xx1.bmp"_s, false}};
-    for (const auto& [path, isTaken] : images) {
+    for (const char16_t* path :
+         {u"GENERIC WORLD\\029h2su6.bmp", u"GENERIC WORLD\\029b2su6.bmp", u"GENERIC WORLD\\030A2WI1.BMP",
+          u"GENERIC WORLD\\005A2SU2.BMP", u"DUTCH\\005a2su2.bmp", u"UTIND\\034b2su4.bmp",
+          u"GENERIC WORLD NIGHT\\029A2LM1.BMP", u"GENERIC WORLD NIGHT\\008A2LM3.BMP",
+          u"DUTCH NIGHT\\008A2LM3.BMP"}) {
         const FilePath file = install.home() / u"Resources" / path;
-        ASSERT_EQ(install.files.exists(file), isTaken) << path.toStdString();
-        if (!isTaken) continue;
-        EXPECT_EQ(readFile(file).at(28), 24) << path.toStdString();
-        EXPECT_EQ(pixels(file), pixels(world / u"029H2SU6.BMP")) << path.toStdString();
+        EXPECT_EQ(readFile(file).at(28), 24) << file.text().toStdString();
+        EXPECT_EQ(pixels(file), pixels(world / u"029H2SU6.BMP")) << file.text().toStdString();
     }
+    for (const char16_t* path :
+         {u"Resources\\GENERIC WORLD NIGHT\\lights2lm.bmp", u"Resources\\DUTCH NIGHT\\029A2LM1.BMP",
+          u"Resources\\GENERIC WORLD\\029a2xx1.bmp", u"DUTCH\\029h2an1.agn"})
+        EXPECT_FALSE(install.files.exists(install.home() / path));
     for (const char16_t* path : {u"GENERIC WORLD\\029h2an1.agn", u"DUTCH\\005a2an1.agn"})
         EXPECT_EQ(readFile(install.home() / path), "the pilot's trees");
-    EXPECT_FALSE(install.files.exists(install.home() / u"DUTCH\\029h2an1.agn"));
     EXPECT_EQ(report->files, 12);
-    EXPECT_EQ(report->unreadable, QStringList{u"002C2WI1.BMP"_s});
-    EXPECT_EQ(report->categories[0].name, u"1 GENERIC WORLD"_s);
+    EXPECT_EQ(report->unreadable, QStringList{"002C2WI1.BMP"});
+    EXPECT_EQ(report->categories[0].name, "1 GENERIC WORLD");
     EXPECT_EQ(report->categories[0].count, 3);
-    EXPECT_FALSE(report->categories[0].emptyPatterns.contains(u"029*2"_s));
-    EXPECT_EQ(report->categories[12].emptyPatterns, QStringList{u"038*2"_s});
+    EXPECT_FALSE(report->categories[0].emptyPatterns.contains("029*2"));
+    EXPECT_EQ(report->categories[12].emptyPatterns, QStringList{"038*2"});
+    writeFile(world / u"031A2SU1.BMP", texture);
+    importSimulatorStock(session); // a second one keeps what the first one found
     EXPECT_EQ(restoreStock(session), 5);
     EXPECT_EQ(stock(), before);
     EXPECT_FALSE(hasKeptStock(session));
@@ -132,15 +128,6 @@ TEST_F(StockImportTest, anEndInTheMiddleTellsWhatWasReplacedAndLeavesNoParts) {
     }
 }
 
-TEST_F(StockImportTest, aSecondImportKeepsWhatTheFirstOneFound) {
-    const auto before = stock();
-    importSimulatorStock(session);
-    writeFile(world / u"031A2SU1.BMP", texture);
-    importSimulatorStock(session);
-    restoreStock(session);
-    EXPECT_EQ(stock(), before);
-}
-
 TEST_F(StockImportTest, aCancelledImportCanBeUndoneAtEveryFile) {
     const auto before = stock();
     for (int files = 1;; ++files) {
@@ -187,21 +174,20 @@ TEST_F(StockImportTest, noFailureOfAFileLosesTheStock) {
     const auto before = stock();
     int failures = 0;
     for (const bool forever : {false, true})
-        for (int n = 1;; ++n) {
-            install.files.failAt(n, forever);
-            importSimulatorStock(session, true);
-            if (install.files.hasFailed() && !forever) { // the old file or the new one
-                for (const QString& path : before.keys())
-                    ASSERT_TRUE(install.files.exists(install.home() / path)) << n << path.toStdString();
-            }
-            restoreStock(session, true);
-            const bool failed = install.files.hasFailed();
-            install.files.failAt(0, false);
-            restoreStock(session);
-            ASSERT_EQ(stock(), before) << n << forever;
-            if (!failed) break;
-            ++failures;
-        }
+        failures += test::failEachOperation(
+            install.files, forever,
+            [&] {
+                importSimulatorStock(session, true);
+                if (install.files.hasFailed() && !forever) { // the old file or the new one
+                    for (const QString& path : before.keys())
+                        ASSERT_TRUE(install.files.exists(install.home() / path)) << path.toStdString();
+                }
+                restoreStock(session, true);
+            },
+            [&](int n) {
+                restoreStock(session);
+                ASSERT_EQ(stock(), before) << n << forever;
+            });
     EXPECT_GT(failures, 100);
 }
 

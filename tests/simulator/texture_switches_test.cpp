@@ -1,14 +1,12 @@
 #include "core/store.h"
-#include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "night/night_texture_sets.h"
 #include "sets/options_in_force.h"
+#include "sets/originals.h"
 #include "simulator/configs.h"
-#include "simulator/options.h"
-#include "simulator/simulator_restore.h"
 #include "simulator/texture_switches.h"
+#include "support/failing_operations.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -52,85 +50,80 @@ struct TextureSwitches : testing::Test {
         session.rows<clsTextureSets>()->markInstalled(u"Default"_s);
         session.rows<clsNightTextureSets>()->markInstalled(u"Default"_s);
     }
+    /// Sources, and what they are called in the simulator where that is another name.
     static QStringList lines(const std::vector<FileCopy>& copies) {
         QStringList list;
         for (const FileCopy& copy : copies) {
-            EXPECT_EQ(copy.target.parent().relative(), u"Scenery\\WORLD\\Texture"_s);
-            list << copy.source.relative() + u" > "_s + copy.target.fileName();
+            EXPECT_EQ(copy.target.parent().relative(), "Scenery\\WORLD\\Texture");
+            const QString name = copy.target.fileName();
+            list << copy.source.relative() + (copy.source.fileName() == name ? QString() : " > " + name);
         }
         return list;
     }
 };
 
 TEST_F(TextureSwitches, goldenListsOfDutchTextures) {
-    const QString base = u"Default"_s, ground = u"2-Storm"_s, night = u"2-Red"_s;
-    const struct {
-        bool isOn;
-        QString ground, night;
-        QStringList copies;
-    } cases[] = {
-        {true,
-         base,
-         base,
-         {u"DUTCH\\005a2su2.bmp > 005a2su2.bmp"_s, u"DUTCH\\005a2an1.agn > 005a2an1.agn"_s,
-          u"DUTCH NIGHT\\005a2lm2.bmp > 005a2lm2.bmp"_s, u"DUTCH NIGHT\\008b2lm1.bmp > 008b2lm1.bmp"_s,
-          u"DUTCH NIGHT\\005a2an2.agn > 005a2an2.agn"_s}},
-        {true,
-         ground,
-         night,
-         {u"Texture Sets\\2-Storm\\Dutch\\005a2su2.bmp > 005a2su2.bmp"_s,
-          u"DUTCH\\005a2an1.agn > 005a2an1.agn"_s,
-          u"Night Texture Sets\\2-Red\\Dutch\\005a2lm2.bmp > 005a2lm2.bmp"_s,
-          u"DUTCH NIGHT\\005a2an2.agn > 005a2an2.agn"_s}},
+    const QString base = "Default", ground = "2-Storm", night = "2-Red", none;
+    const std::tuple<bool, QString, QString, QString> cases[] = {
+        {true, none, none, "DUTCH\\005a2an1.agn|DUTCH NIGHT\\005a2an2.agn"},
+        {true, base, base,
+         "DUTCH\\005a2su2.bmp|DUTCH\\005a2an1.agn|DUTCH NIGHT\\005a2lm2.bmp|DUTCH NIGHT\\008b2lm1.bmp|"
+         "DUTCH NIGHT\\005a2an2.agn"},
+        {true, ground, night,
+         "Texture Sets\\2-Storm\\Dutch\\005a2su2.bmp|DUTCH\\005a2an1.agn|"
+         "Night Texture Sets\\2-Red\\Dutch\\005a2lm2.bmp|DUTCH NIGHT\\005a2an2.agn"},
         // The night of "Default" comes from the Dutch folder also when the Dutch textures go.
-        {false,
-         base,
-         base,
-         {u"GENERIC WORLD\\005a2su2.bmp > 005a2su2.bmp"_s, u"GENERIC WORLD\\005a2an1.agn > 005a2an1.agn"_s,
-          u"GENERIC WORLD\\008a2su1.bmp > 008a2su1.bmp"_s, u"DUTCH NIGHT\\005a2lm2.bmp > 005a2lm2.bmp"_s,
-          u"DUTCH NIGHT\\005a2an2.agn > 005a2an2.agn"_s}},
-        {false,
-         ground,
-         night,
-         {u"Texture Sets\\2-Storm\\Texture\\005a2su2.bmp > 005a2su2.bmp"_s,
-          u"GENERIC WORLD\\005a2an1.agn > 005a2an1.agn"_s, u"DUTCH NIGHT\\005a2an2.agn > 005a2an2.agn"_s,
-          u"Night Texture Sets\\2-Red\\Texture\\008a2lm1.bmp > 008a2lm1.bmp"_s}},
-        {true,
-         {},
-         {},
-         {u"DUTCH\\005a2an1.agn > 005a2an1.agn"_s, u"DUTCH NIGHT\\005a2an2.agn > 005a2an2.agn"_s}},
+        {false, base, base,
+         "GENERIC WORLD\\005a2su2.bmp|GENERIC WORLD\\005a2an1.agn|GENERIC WORLD\\008a2su1.bmp|"
+         "DUTCH NIGHT\\005a2lm2.bmp|DUTCH NIGHT\\005a2an2.agn"},
+        {false, ground, night,
+         "Texture Sets\\2-Storm\\Texture\\005a2su2.bmp|GENERIC WORLD\\005a2an1.agn|DUTCH NIGHT\\005a2an2.agn|"
+         "Night Texture Sets\\2-Red\\Texture\\008a2lm1.bmp"},
     };
-    for (const auto& road : cases)
-        EXPECT_EQ(lines(dutchCopies(session, road.isOn, road.ground, road.night)), road.copies);
+    for (const auto& [isOn, groundSet, nightSet, copies] : cases)
+        EXPECT_EQ(lines(dutchCopies(session, isOn, groundSet, nightSet)).join(u'|'), copies);
 }
 
 /// On: the "b" pictures under the "h" names, in lower case. Off: the true "h" pictures, letters as they are.
 TEST_F(TextureSwitches, goldenListsOfTropicalTextures) {
-    EXPECT_EQ(lines(tropicalCopies(session, true, u"Default"_s)),
-              (QStringList{u"GENERIC WORLD\\045B2sp1.bmp > 045h2sp1.bmp"_s,
-                           u"GENERIC WORLD\\029b2su6.bmp > 029h2su6.bmp"_s,
-                           u"GENERIC WORLD\\029b2wi1.bmp > 029h2wi1.bmp"_s,
-                           u"GENERIC WORLD\\029b2an1.agn > 029h2an1.agn"_s}));
-    EXPECT_EQ(lines(tropicalCopies(session, true, u"2-Storm"_s)),
-              (QStringList{u"Texture Sets\\2-Storm\\Texture\\029b2su6.bmp > 029h2su6.bmp"_s,
-                           u"GENERIC WORLD\\029b2an1.agn > 029h2an1.agn"_s}));
-    EXPECT_EQ(lines(tropicalCopies(session, false, u"2-Storm"_s)),
-              (QStringList{u"Texture Sets\\2-Storm\\Texture\\029H2SU6.bmp > 029H2SU6.bmp"_s,
-                           u"GENERIC WORLD\\029h2an1.agn > 029h2an1.agn"_s}));
+    EXPECT_EQ(lines(tropicalCopies(session, true, "Default")),
+              (QStringList{"GENERIC WORLD\\045B2sp1.bmp > 045h2sp1.bmp",
+                           "GENERIC WORLD\\029b2su6.bmp > 029h2su6.bmp",
+                           "GENERIC WORLD\\029b2wi1.bmp > 029h2wi1.bmp",
+                           "GENERIC WORLD\\029b2an1.agn > 029h2an1.agn"}));
+    EXPECT_EQ(lines(tropicalCopies(session, true, "2-Storm")),
+              (QStringList{"Texture Sets\\2-Storm\\Texture\\029b2su6.bmp > 029h2su6.bmp",
+                           "GENERIC WORLD\\029b2an1.agn > 029h2an1.agn"}));
+    EXPECT_EQ(lines(tropicalCopies(session, false, "2-Storm")),
+              (QStringList{"Texture Sets\\2-Storm\\Texture\\029H2SU6.bmp", "GENERIC WORLD\\029h2an1.agn"}));
     EXPECT_TRUE(tropicalCopies(session, true, {}).empty());
 }
 
-TEST_F(TextureSwitches, dutchReachesReadOnlyFilesAndTheStore) {
+TEST_F(TextureSwitches, eachReachesReadOnlyFilesAndTheStore) {
     installDefaults();
-    install.files.setReadOnly(world / u"005A2SU2.BMP", true);
-    EXPECT_TRUE(switchDutch(session, true));
-    EXPECT_EQ(readFile(world / u"005A2SU2.BMP"), "body of DUTCH\\005a2su2.bmp");
-    EXPECT_FALSE(install.files.isReadOnly(world / u"005A2SU2.BMP"));
-    EXPECT_TRUE(session.state<OptionsInForce>().IsDutch && clsConfigs(session).GetDutchVal());
-    EXPECT_EQ(install.user.messages.back().title, u"File Copy"_s);
-    EXPECT_TRUE(switchDutch(session, false));
-    EXPECT_EQ(readFile(world / u"005A2SU2.BMP"), "body of GENERIC WORLD\\005a2su2.bmp");
-    EXPECT_FALSE(session.state<OptionsInForce>().IsDutch || clsConfigs(session).GetDutchVal());
+    const struct {
+        bool (*change)(Session&, bool);
+        bool OptionsInForce::*flag;
+        bool (clsConfigs::*stored)();
+        FilePath file;
+        QByteArray on, off;
+    } cases[] = {
+        {switchDutch, &OptionsInForce::IsDutch, &clsConfigs::GetDutchVal, world / u"005A2SU2.BMP",
+         "body of DUTCH\\005a2su2.bmp", "body of GENERIC WORLD\\005a2su2.bmp"},
+        {switchTropical, &OptionsInForce::IsTropical, &clsConfigs::GetTropicalVal, world / u"029H2SU6.BMP",
+         "body of GENERIC WORLD\\029b2su6.bmp", "body of GENERIC WORLD\\029h2su6.bmp"},
+    };
+    for (const auto& road : cases)
+        for (const bool isOn : {true, false}) {
+            install.files.setReadOnly(road.file, true);
+            EXPECT_TRUE(road.change(session, isOn));
+            EXPECT_EQ(readFile(road.file), isOn ? road.on : road.off);
+            EXPECT_FALSE(install.files.isReadOnly(road.file));
+            clsConfigs configs(session);
+            EXPECT_TRUE(session.state<OptionsInForce>().*road.flag == isOn &&
+                        (configs.*road.stored)() == isOn);
+            EXPECT_EQ(install.user.messages.back().title, "File Copy");
+        }
 }
 
 /// A target that is not there ends the list. The Dutch switch tells and is stored all the same; the tropical
@@ -187,43 +180,12 @@ TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
                     session.state<OptionsInForce>().IsFastExit == isOn);
         const QStringList told = install.user.told();
         ASSERT_EQ(told.size(), 2);
-        EXPECT_EQ(told[0], isOn ? u"Information|File Copied|The custom halo file has been copied to flight "
-                                  "simulator"_s
-                                : u"Information|File Copied|The default halo file has been copied to flight "
-                                  "simulator"_s);
+        const QString copied = "Information|File Copied|The %1 halo file has been copied to flight simulator";
+        EXPECT_EQ(told[0], copied.arg(isOn ? "custom" : "default"));
         EXPECT_EQ(told[1].count(u"Fast Exit not enabled"_s), isOn ? 0 : 1);
     }
     install.files.remove(install.home() / u"Media\\halo.bmp");
     EXPECT_THROW(switchHalo(session, true), Error);
-}
-
-/// What the options put first may have the very bytes of the pilot's file: it is kept all the same.
-TEST_F(TextureSwitches, thePilotsFileComesBackAlsoWhereOurFirstCopyEqualsIt) {
-    writeFile(install.home() / u"Media\\halo.bmp", "ours");
-    writeFile(install.home() / u"Media\\halodefault.bmp", "default");
-    writeFile(install.home() / u"Media\\dlgsplash.bmp", "the pilot's splash");
-    writeFile(install.simulator() / u"Texture\\halo.bmp", "default");
-    installDefaults();
-    const auto before = test::contentsBelow(install.simulator());
-    switchHalo(session, false);
-    switchHalo(session, true);
-    setCustomSplashVal(session, true);
-    setCustomSplashVal(session, false);
-    session.state<GroundSelection>().SelectedGroundSet = u"2-Storm"_s;
-    GroundInstallation(session).installTextureSet(true);
-    switchDutch(session, true);
-    switchTropical(session, true);
-    EXPECT_NE(test::contentsBelow(install.simulator()), before);
-
-    install.user.calls.clear();
-    restoreOriginals(session);
-    EXPECT_EQ(test::contentsBelow(install.simulator()), before);
-    EXPECT_TRUE(install.user.calls.last().startsWith(u"done "_s));
-    EXPECT_TRUE(install.installedSets().isEmpty());
-    clsConfigs switches(session);
-    EXPECT_FALSE(session.state<OptionsInForce>().IsHalo || session.state<OptionsInForce>().IsDutch ||
-                 session.state<OptionsInForce>().IsTropical);
-    EXPECT_FALSE(switches.GetHaloVal() || switches.GetDutchVal() || switches.GetTropicalVal());
 }
 
 /// Whatever fails, each file of the simulator is the old one or the new one, and the old ones can be put
@@ -234,20 +196,18 @@ TEST_F(TextureSwitches, everyFailingOperationOfTheDutchSwitchLeavesWholeFiles) {
     switchDutch(session, true);
     const auto switched = test::contentsBelow(install.simulator());
     EXPECT_NE(switched, before);
-    int failures = 0;
-    for (bool hasFailed = true; hasFailed; ++failures) {
-        Originals(install.files, session.FSPath, session.AppPath).restore();
-        EXPECT_EQ(test::contentsBelow(install.simulator()), before) << failures;
-        install.files.failAt(failures + 1, false);
-        switchDutch(session, true);
-        hasFailed = install.files.hasFailed();
-        install.files.failAt(0, false);
+    const auto restore = [&] { Originals(install.files, session.FSPath, session.AppPath).restore(); };
+    restore();
+    const auto expectWholeFiles = [&](int n) {
         const auto after = test::contentsBelow(install.simulator());
         for (auto file = before.begin(); file != before.end(); ++file)
             EXPECT_TRUE(after[file.key()] == *file || after[file.key()] == switched[file.key()])
-                << failures << ' ' << file.key().toStdString();
-    }
-    EXPECT_GT(failures, 15);
+                << n << ' ' << file.key().toStdString();
+        restore();
+        EXPECT_EQ(test::contentsBelow(install.simulator()), before) << n;
+    };
+    const auto work = [&] { switchDutch(session, true); };
+    EXPECT_GT(test::failEachOperation(install.files, false, work, expectWholeFiles), 15);
 }
 
 } // namespace

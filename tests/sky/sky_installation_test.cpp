@@ -49,14 +49,6 @@ struct SkyInstall : testing::Test {
     QByteArray splash() { return readFile(install.simulator() / u"Uires\\dlgsplash.bmp"); }
 };
 
-TEST_F(SkyInstall, aSetWithNothingToCopyIsNoError) {
-    install.addSkySet("2-Empty", "Odd", true); // no files, and a cover without a splash
-    installSky("2-Empty");
-    EXPECT_TRUE(install.user.told().isEmpty());
-    EXPECT_EQ(install.installedSkySets(), QStringList{"2-Empty"});
-    EXPECT_FALSE(install.files.exists(install.home() / u"Backup\\Originals"));
-}
-
 TEST_F(SkyInstall, copiesTheBitmapsAndRecordsTheSet) {
     install.addSkySet("2-Calm", "Sky Clear", true);
     session.rows<clsSkyTextureSets>()->markInstalled("2-Calm");
@@ -81,10 +73,14 @@ TEST_F(SkyInstall, copiesTheBitmapsAndRecordsTheSet) {
 }
 
 TEST_F(SkyInstall, anEmptyFolderChangesRowsAndSplashOnly) {
-    install.addSkySet("2-Calm", "Sky Clear", true);
-    installSky("2-Calm");
-    EXPECT_EQ(install.installedSkySets(), QStringList{"2-Calm"});
-    EXPECT_EQ(splash(), "splash SKC");
+    const std::tuple<QString, QString, QByteArray> sets[] = {
+        {"2-Odd", "Odd", "the pilot's splash"}, {"3-Calm", "Sky Clear", "splash SKC"}}; // "Odd" has no splash
+    for (const auto& [name, cover, expected] : sets) {
+        install.addSkySet(name, cover, true);
+        installSky(name);
+        EXPECT_EQ(install.installedSkySets(), QStringList{name});
+        EXPECT_EQ(splash(), expected);
+    }
     EXPECT_EQ(texture(u"sky_1.bmp"), "the pilot's sky");
     EXPECT_TRUE(install.user.told().isEmpty());
 }
@@ -136,9 +132,9 @@ TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
     session.state<SkySelection>().RefreshSkyList = false;
     install.user.calls.clear();
     install.user.messages.clear();
-    EXPECT_FALSE(installSky("1-Storm", false)) << "no start of the simulator is offered";
+    installSky("1-Storm", false);
     EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
-    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1);
+    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1) << "no start of the simulator is offered";
     EXPECT_FALSE(install.user.calls.contains("refresh frm_Main"));
 }
 
@@ -170,15 +166,12 @@ TEST_F(SkyInstall, theMatchingGroundIsDrawnButNeverTheLast) {
         installSky("1-Storm", false);
         EXPECT_EQ(install.installedSets(), QStringList{expected}) << draw;
     }
-    EXPECT_EQ(splash(), "splash OVC");
-}
-
-TEST_F(SkyInstall, withoutAGroundOfTheCoverDefaultIsInstalled) {
-    install.addGroundSet("2-A", "Overcast", false);
-    EXPECT_TRUE(installSky("1-Storm", false)) << "the start of the simulator is offered next";
-    EXPECT_EQ(install.installedSets(), QStringList{"Default"});
-    EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
     EXPECT_EQ(splash(), "splash OVC") << "the sky goes in last";
+    session.adoConn->execute(u"UPDATE TEXTURE_SETS SET ACTIVATED = 'False' WHERE TEXTURE_SET <> 'Default'"_s);
+    install.reload();
+    install.user.answersToGive = {true};
+    installSky("1-Storm", false);
+    EXPECT_EQ(install.installedSets(), QStringList{"Default"}) << "none of the cover";
 }
 
 struct MatchingSky : SkyInstall {

@@ -6,12 +6,15 @@
 #include "sky/sky_base_sets.h"
 #include "sky/sky_selection.h"
 #include "support/night_install.h"
+#include "ui/controls/picture_frame.h"
+#include "ui/controls/set_table.h"
 #include "ui/dialog_form.h"
 #include "ui/skin.h"
 #include "window/window_shell.h"
 #include "window/window_user.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -19,6 +22,31 @@
 #include <stdexcept>
 
 namespace morvane::test {
+
+/// How a row is clicked.
+struct RowClick {
+    int x = -1; ///< from the row's left; -1 for its middle
+    Qt::KeyboardModifiers keys = {};
+    bool isDouble = false;
+};
+
+/// Rows are counted from 1.
+inline void clickRow(SetTable& list, int row, const RowClick& how = {}) {
+    const QRect whole = list.visualItemRect(list.topLevelItem(row - 1));
+    const QPoint place(how.x < 0 ? whole.center().x() : whole.left() + how.x, whole.center().y());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, how.keys, place);
+    if (!how.isDouble) return;
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, how.keys, place);
+    QTest::mouseRelease(list.viewport(), Qt::LeftButton, how.keys, place);
+}
+
+/// The texts of a column from the top.
+inline QStringList columnOf(const SetTable& list, int column) {
+    QStringList texts;
+    for (int row = 1; row <= list.rowCount(); ++row)
+        texts << list.textOf(row, column);
+    return texts;
+}
 
 /// The window program on a small install, as a start leaves it behind the splash. Where the install has no
 /// skin, its windows and keys are the plain ones. Its own session and scripted user stay beside this one;
@@ -60,6 +88,30 @@ public:
     void confirmNext(const QString& name) {
         whenShown(name, [](DialogForm& form) { form.ok(); });
     }
+    /// Opens a dialog as the engine does. `action` has to close it.
+    void show(Screen screen, const std::function<void(DialogForm&)>& action) {
+        whenShown(screenName(screen), action);
+        user.showModal(screen);
+    }
+    /// Answers all that is told and asked during the action, with OK but for the titles in `refused`, and
+    /// gives what stood in that label each time.
+    QStringList toldDuring(const std::function<void()>& action, const QStringList& refused = {},
+                           const QString& label = u"lbl_Title"_s) {
+        QStringList told;
+        QTimer timer;
+        timer.callOnTimeout([&] {
+            auto* message = qobject_cast<DialogForm*>(shell.loadedForm(u"frm_Msg"_s));
+            if (!message || !message->isVisible() || !message->button(u"btn_Ok"_s)->isVisible()) return;
+            told << text(u"frm_Msg"_s, label);
+            if (refused.contains(text(u"frm_Msg"_s, u"lbl_Title"_s)))
+                message->cancel();
+            else
+                message->ok();
+        });
+        timer.start(0);
+        action();
+        return told;
+    }
 
     /// The named key or control of a screen; throws when it has none of that kind.
     template <class Control>
@@ -67,6 +119,13 @@ public:
         auto* found = shell.form(form)->findChild<Control*>(name);
         if (!found) throw std::runtime_error(("no " + name + " on " + form).toStdString());
         return *found;
+    }
+    QString text(const QString& form, const QString& label) { return control<QLabel>(form, label).text(); }
+    QImage picture(const QString& form, const QString& frame) {
+        return control<PictureFrame>(form, frame).picture();
+    }
+    ButtonState stateOf(const QString& form, const QString& key) {
+        return control<SkinnedButton>(form, key).state();
     }
     /// A click of the mouse on a skinned key.
     void press(const QString& form, const QString& name) {

@@ -45,23 +45,16 @@ TEST(BaseImageList, growsWithTheDensityByNewNamesOnly) {
         EXPECT_TRUE(std::includes(paths.begin(), paths.end(), smaller.begin(), smaller.end())) << density;
         smaller = paths;
     }
-}
-
-TEST(BaseImageList, hasAboutAThousandFilesADensity) {
     EXPECT_NEAR(static_cast<double>(baseImageList(1).size()), 1050, 100);
     EXPECT_NEAR(static_cast<double>(baseImageList(4).size()), 4050, 250);
+    EXPECT_THROW(baseImageList(lowestStockDensity - 1), Error);
+    EXPECT_THROW(baseImageList(highestStockDensity + 1), Error);
 }
 
 TEST(BaseImageList, spellsNamesAsTheSimulatorDoes) {
-    for (const BaseImage& image : baseImageList(6))
+    for (const BaseImage& image : baseImageList(highestStockDensity))
         EXPECT_TRUE(image.resourceFolder == u"UT EUROPE" || matchesMask(image.fileName, u"????2???.bmp"))
             << image.fileName.toStdString();
-    EXPECT_TRUE(pathsOf(baseImageList(6)).contains(u"UT EUROPE\\euindufa1.bmp"_s));
-}
-
-TEST(BaseImageList, refusesADensityItCannotGive) {
-    EXPECT_THROW(baseImageList(0), Error);
-    EXPECT_THROW(baseImageList(highestStockDensity + 1), Error);
 }
 
 } // namespace

@@ -63,24 +63,16 @@ QString positionOf(const RowSet& row, const QString& prefix = {}) {
     return position;
 }
 
-TEST_F(DeliveredRows, airportsHaveCodePositionAndNumbers) {
-    static const QRegularExpression code(u"^[A-Z]{4}$"_s);
-    QSet<QString> codes;
+/// Their names and codes are looked at where their table is read.
+TEST_F(DeliveredRows, airportsHavePositionsAndNumbers) {
     int withStationNumber = 0;
-    RowSet rows(*session.adoConn, u"SELECT * FROM AIRPORTDATA"_s);
-    for (; !rows.atEnd(); rows.next()) {
-        const QString airport = rows.text(u"ICAO");
-        codes << airport;
-        EXPECT_TRUE(code.match(airport).hasMatch()) << airport.toStdString();
-        EXPECT_NE(positionOf(rows), u" ") << airport.toStdString();
-        EXPECT_LE(rows.text(u"STATE").size(), 50);
-        EXPECT_FALSE(rows.text(u"AIRPORT_NAME").isEmpty() || rows.text(u"COUNTRY").isEmpty());
+    for (RowSet rows(*session.adoConn, u"SELECT * FROM AIRPORTDATA"_s); !rows.atEnd(); rows.next()) {
+        EXPECT_NE(positionOf(rows), u" ") << rows.text(u"ICAO").toStdString();
         // A null would raise: whoever reads the three takes them for numbers.
         withStationNumber += rows.longInteger(u"STATION_NUMBER") > 0;
         EXPECT_LE(rows.longInteger(u"BLOCK_NUMBER"), 99);
         EXPECT_LE(rows.longInteger(u"WMO_REGION"), 7);
     }
-    EXPECT_EQ(codes.size(), rows.count());
     EXPECT_GT(withStationNumber, 2900);
 }
 

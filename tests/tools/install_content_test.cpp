@@ -74,13 +74,9 @@ TEST_F(InstallContent, cutShortIsNotTakenForWhole) {
 
 TEST_F(InstallContent, wrongUsageMakesNothing) {
     const FilePath none = beside(u"None");
-    const QStringList wrong[] = {{u"--density"_s, u"0"_s},
-                                 {u"--density"_s, u"7"_s},
-                                 {u"--density"_s, u"many"_s},
-                                 {u"--check"_s, u"--density"_s, u"0"_s},
-                                 {u"extra"_s}};
-    for (const QStringList& options : wrong)
-        EXPECT_EQ(runContentTool(none, none, options).status, 2) << options.join(u' ').toStdString();
+    for (const char16_t* options :
+         {u"--density 0", u"--density 7", u"--density many", u"--check --density 0", u"extra"})
+        EXPECT_EQ(runContentTool(none, none, QString::fromUtf16(options).split(u' ')).status, 2);
     EXPECT_FALSE(files.exists(none));
 }
 

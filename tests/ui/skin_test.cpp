@@ -1,8 +1,8 @@
+#include "support/temporary_folder.h"
 #include "ui/skin.h"
+#include "window/screen_scale.h"
 
 #include "core/literals.h"
-#include "support/temporary_folder.h"
-#include "window/screen_scale.h"
 
 #include <QImage>
 #include <gtest/gtest.h>
@@ -43,14 +43,9 @@ TEST_F(SkinTest, livesWithFilesThatAreMissingOrBroken) {
 }
 
 TEST(ScreenScale, isTheLargestAtWhichTheMainWindowFits) {
-    struct Case {
-        QSize screen;
-        double chosen, fitting;
-    };
-    const Case cases[] = {{{1920, 1200}, 1, 1},      {{1920, 1200}, 1.5, 1.5},  {{1920, 1200}, 2, 2},
-                          {{1920, 1160}, 2, 2},      {{1920, 1158}, 2, 1.99},   {{1280, 1000}, 2, 1.45},
-                          {{1280, 1000}, 1.5, 1.45}, {{1366, 728}, 1.25, 1.25}, {{1366, 728}, 1.5, 1.25},
-                          {{800, 600}, 1, 1},        {{800, 600}, 2, 1}};
+    const std::tuple<QSize, double, double> cases[] = {{{1920, 1200}, 1.5, 1.5}, {{1920, 1160}, 2, 2},
+                                                       {{1920, 1158}, 2, 1.99},  {{1280, 1000}, 1.5, 1.45},
+                                                       {{1366, 728}, 1.5, 1.25}, {{800, 600}, 2, 1}};
     for (const auto& [screen, chosen, fitting] : cases) {
         const QSize room = (QSizeF(screen) / chosen).toSize();
         EXPECT_DOUBLE_EQ(fittingScale(room, chosen), fitting) << screen.width() << ' ' << chosen;

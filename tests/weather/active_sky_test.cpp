@@ -192,37 +192,26 @@ TEST_F(ActiveSkyTest, whatARunnerRunsIsKnownByItsName) {
 }
 #endif
 
-TEST_F(ActiveSkyTest, aMissingFileIsWaitedForFromNowOn) {
-    makeSupported();
-    session.state<WeatherState>().ASv6Local = true;
-    platform.onRest = [this] {
-        EXPECT_TRUE(session.state<WeatherState>().ASv6Busy);
-        if (platform.rests == 5) writeExport("EHAM 1\n", {14, 7});
-    };
-    refreshWeather(session, platform);
-    EXPECT_EQ(platform.rests, 20);
-    EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 1);
-}
-
-TEST_F(ActiveSkyTest, theWaitIsLeftByACancelAndByTheEndOfTheProgram) {
+TEST_F(ActiveSkyTest, aMissingFileIsWaitedForUntilACancelOrTheEndOfTheProgram) {
     makeSupported();
     session.state<WeatherState>().ASv6Local = true;
     const auto cancel = [this] { user.answers().cancelRequested = true; };
     const auto leave = [this] { session.ExitInProgress.moveTo(ExitStage::leaving); };
     const std::pair<int, std::function<void()>> cases[] = {
-        {3, cancel}, {40, cancel}, {3, leave}, {40, leave}};
-    for (const auto& [leftAt, action] : cases) {
+        {3, cancel}, {40, cancel}, {3, leave}, {40, leave}, {45, [] {}}};
+    for (int minute = 0; const auto& [leftAt, action] : cases) {
+        ++minute;
         session.ExitInProgress.moveTo(ExitStage::running);
         session.rows<clsWxFinders>().reset();
         platform.rests = 0;
         platform.onRest = [&, at = leftAt, act = action] {
-            EXPECT_TRUE(user.messages.back().withCancel);
-            if (platform.rests == 30) writeExport("EHAM 1\n", {14, 7});
+            EXPECT_TRUE(user.messages.back().withCancel && session.state<WeatherState>().ASv6Busy);
+            if (platform.rests == 30) writeExport("EHAM 1\n", {14, minute});
             if (platform.rests == at) act();
         };
         refreshWeather(session, platform);
         EXPECT_EQ(platform.rests, leftAt);
-        EXPECT_EQ(session.rows<clsWxFinders>(), nullptr) << "nothing is read on the way out";
+        EXPECT_EQ(session.rows<clsWxFinders>() != nullptr, leftAt == 45) << "nothing is read on the way out";
         EXPECT_FALSE(user.isMessageVisible() || session.state<WeatherState>().ASv6Busy ||
                      user.answers().cancelRequested);
     }

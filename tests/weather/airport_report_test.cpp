@@ -77,81 +77,64 @@ TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
 
 // The lines, slips and all.
 
-TEST_F(WeatherControlTest, theLinesOfAFullReport) {
-    clsWxFinder report;
-    report.WxFinderIcao = u"LOWI"_s;
-    report.WxFinderMetar = u"LOWI 141453Z"_s;
-    report.WxFinderDate = u"14"_s;
-    report.WxFinderMonth = u"June"_s;
-    report.WxFinderYear = u"2006"_s;
-    report.WxFinderTime = u"1453"_s;
-    report.WxFinderWindDirection = u"240 degrees"_s;
-    report.WxFinderWindSpeed = u"015"_s;
-    report.WxFinderWindSpeedMeasurement = u"kts"_s;
-    report.WxFinderWindGusting = report.WxFinderWindVarying = true;
-    report.WxFinderWindGust = u"025"_s;
-    report.WxFinderWindVaryingFrom = u"210"_s;
-    report.WxFinderWindVaryingTo = u"270"_s;
-    report.WxFinderVisibility = u"10 Mile(s)"_s;
-    report.WxFinderWeatherStrength = u"Light "_s;
-    report.WxFinderWeather = u"Rain"_s;
-    report.WxFinderFog = u"Mist"_s;
-    report.WxFinderCloudCover = u"Overcast"_s;
-    report.WxFinderTemperature = u"18"_s;
-    report.WxFinderDewpoint = u"M01"_s;
-    report.WxFinderPressure = u"29.92 Inches of Mercury"_s;
-    store(report);
-    reportOf(u"LOWI"_s);
-    EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines,
-              (QStringList{u"ICAO Code: LOWI, City: A City, Airport Name: A Field"_s,
-                           u"Date: 14 June 2006 Time: 1453Z"_s,
-                           u"Wind from: 240 degrees at 015kts, Gusting 025kts, Varying between 210 degrees "
-                           u"and 270 degrees"_s,
-                           u"Visibility: 10 Mile(s)"_s, u"Precipitation: Light  Rain"_s,
-                           u"Obscuration: Mist"_s, u"Sky Conditions: Overcast"_s,
-                           u"Temperature: 18 degree(s) Celcius"_s, u"Dewpoint: M01 degree(s) Celcius"_s,
-                           u"Pressure: 29.92 Inches of Mercury"_s, u"LOWI 141453Z"_s}));
-}
-
-TEST_F(WeatherControlTest, theLinesOfAnEmptyReport) {
-    clsWxFinder report;
-    report.WxFinderIcao = u"LOWI"_s;
-    report.WxFinderMetar = u"LOWI NIL"_s;
-    report.WxFinderWeatherStrength = u"Moderate "_s; // of nothing
-    store(report);
-    reportOf(u"LOWI"_s);
-    EXPECT_EQ(
-        session.state<DecodedReportLines>().decodedMetarLines.sliced(1),
-        (QStringList{
-            u"Date:  May 2007 Time: Z"_s, u"Wind: No wind data avialable"_s,
-            u"Visibility: No visibility data available"_s, u"Precipitation: No precipitation type recorded"_s,
-            u"Obscuration: No obscuration phenomina recorded"_s, u"Sky Conditions: No cloud data available"_s,
-            u"Temperature: No temperature data available"_s, u"Dewpoint: No Dewpoint data available"_s,
-            u"Pressure: No Pressure data available"_s, u"LOWI NIL"_s}))
-        << "month and year are the clock's";
-}
-
-TEST_F(WeatherControlTest, windLines) {
+TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
+    clsWxFinder full, empty;
+    full.WxFinderMetar = u"LOWI 141453Z"_s;
+    full.WxFinderWindSpeed = u"015"_s;
+    full.WxFinderWindDirection = u"240 degrees"_s;
+    full.WxFinderWindGust = u"025"_s;
+    full.WxFinderWindVaryingFrom = u"210"_s;
+    full.WxFinderWindVaryingTo = u"270"_s;
+    full.WxFinderWindSpeedMeasurement = u"kts"_s;
+    full.WxFinderCloudCover = u"Overcast"_s;
+    full.WxFinderVisibility = u"10 Mile(s)"_s;
+    full.WxFinderWeatherStrength = u"Light "_s;
+    full.WxFinderWeather = u"Rain"_s;
+    full.WxFinderFog = u"Mist"_s;
+    full.WxFinderTemperature = u"18"_s;
+    full.WxFinderDewpoint = u"M01"_s;
+    full.WxFinderPressure = u"29.92 Inches of Mercury"_s;
+    full.WxFinderDate = u"14"_s;
+    full.WxFinderMonth = u"June"_s;
+    full.WxFinderYear = u"2006"_s;
+    full.WxFinderTime = u"1453"_s;
+    full.WxFinderIcao = empty.WxFinderIcao = u"LOWI"_s;
+    full.WxFinderWindGusting = full.WxFinderWindVarying = true;
+    empty.WxFinderMetar = u"LOWI NIL"_s;
+    empty.WxFinderWeatherStrength = u"Moderate "_s; // of nothing
+    const std::pair<clsWxFinder, QString> cases[] = {
+        {full, u"Date: 14 June 2006 Time: 1453Z|Wind from: 240 degrees at 015kts, Gusting 025kts, Varying "
+               "between 210 degrees and 270 degrees|Visibility: 10 Mile(s)|Precipitation: Light  "
+               "Rain|Obscuration: Mist|Sky Conditions: Overcast|Temperature: 18 degree(s) Celcius|Dewpoint: "
+               "M01 degree(s) Celcius|Pressure: 29.92 Inches of Mercury|LOWI 141453Z"_s},
+        // Month and year are the clock's.
+        {empty, u"Date:  May 2007 Time: Z|Wind: No wind data avialable|Visibility: No visibility data "
+                "available|Precipitation: No precipitation type recorded|Obscuration: No obscuration "
+                "phenomina recorded|Sky Conditions: No cloud data available|Temperature: No temperature "
+                "data available|Dewpoint: No Dewpoint data available|Pressure: No Pressure data "
+                "available|LOWI NIL"_s}};
+    for (const auto& [report, lines] : cases) {
+        store(report);
+        reportOf(u"LOWI"_s);
+        EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.sliced(1).join(u'|'), lines);
+    }
     const struct {
         QString direction, speed;
         bool isGusting;
         QString line;
-    } cases[] = {
+    } winds[] = {
         {u"Calm"_s, u"000"_s, false, u"Wind: Calm"_s},
-        {u"Calm"_s, u"000"_s, true, u"Wind: Calm Gusting 9kts,"_s},
+        {u"Calm"_s, u"000"_s, true, u"Wind: Calm Gusting 025kts,"_s},
         {u"Variable"_s, u"003"_s, false, u"Wind from: Variable at 003kts,"_s},
         {u"240 degrees"_s, {}, true, u"Wind: No wind data avialable"_s},
         {{}, u"003"_s, true, u"Wind: No wind data avialable"_s},
     };
-    for (const auto& [direction, speed, isGusting, line] : cases) {
-        clsWxFinder report;
-        report.WxFinderIcao = u"LOWI"_s;
-        report.WxFinderWindDirection = direction;
-        report.WxFinderWindSpeed = speed;
-        report.WxFinderWindSpeedMeasurement = u"kts"_s;
-        report.WxFinderWindGusting = isGusting;
-        report.WxFinderWindGust = u"9"_s;
-        store(report);
+    full.WxFinderWindVarying = false;
+    for (const auto& [direction, speed, isGusting, line] : winds) {
+        full.WxFinderWindDirection = direction;
+        full.WxFinderWindSpeed = speed;
+        full.WxFinderWindGusting = isGusting;
+        store(full);
         reportOf(u"LOWI"_s);
         EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines[2], line);
     }

@@ -1,10 +1,8 @@
 #include "weather/metar_decoder.h"
 
-#include "core/numbers.h"
 #include "support/printing.h"
 #include "support/scripted_user.h"
 #include "weather/decoded_fields.h"
-#include "weather/metar_pairs.h"
 #include "weather/sample_reports.h"
 
 #include <gtest/gtest.h>
@@ -18,21 +16,11 @@ QRegularExpression whole(const QString& pattern) {
     return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
 }
 
-/// Nothing but texts of the codes and what joins them.
-QRegularExpression vocabulary(std::span<const CodeText> codes) {
-    QStringList texts{u"and "_s, u","_s, u" "_s};
-    for (const CodeText& entry : codes)
-        texts << QRegularExpression::escape(entry.text.toString());
-    return whole(u"(?:"_s + texts.join(u'|') + u")*"_s);
-}
-
 const std::pair<QString clsDecodeMetar::*, QRegularExpression> textShapes[] = {
     {&clsDecodeMetar::WindDirection, whole(u"|Variable|Calm|[0-9]+ degrees"_s)},
     {&clsDecodeMetar::WindSpeed, whole(u"[0-9]*"_s)},
     {&clsDecodeMetar::WindSpeedMeasurement, whole(u"|kts|mps"_s)},
     {&clsDecodeMetar::MetarVisibilityFormat, whole(u"|km|mph|cavok"_s)},
-    {&clsDecodeMetar::MetarWeather, vocabulary(weatherCodes())},
-    {&clsDecodeMetar::MetarObscuration, vocabulary(obscurationCodes())},
     {&clsDecodeMetar::MetarCloud,
      whole(u"|(Sky Clear|Mostly Clear|Partly Cloudy|Mostly Cloudy|Overcast|Sky obscured|"
            "No significant cloud below 5000 feet \\(CAVOK\\)|No Cloud Data Available)"

@@ -7,6 +7,7 @@
 #include "support/small_install.h"
 #include "weather/coordinates.h"
 #include "weather/sample_reports.h"
+#include "weather/station_list.h"
 #include "weather/stored_reports.h"
 
 #include <gtest/gtest.h>
@@ -53,15 +54,6 @@ double cosineBetween(double latitude1, double longitude1, double latitude2, doub
                std::cos((longitude1 - longitude2) * radian);
 }
 
-/// "161-09-07W" as degrees.
-double degreesOf(const QString& coordinate) {
-    const QStringList parts = coordinate.chopped(1).split(u'-');
-    double degrees = 0;
-    for (auto part = parts.rbegin(); part != parts.rend(); ++part)
-        degrees = degrees / 60 + textToNumber(*part);
-    return coordinate.endsWith(u'W') || coordinate.endsWith(u'S') ? -degrees : degrees;
-}
-
 TEST(NearestStation, isThatOfAPlainSearchOverTheStationList) {
     test::SmallInstall install;
     struct Place {
@@ -69,28 +61,26 @@ TEST(NearestStation, isThatOfAPlainSearchOverTheStationList) {
         double latitude, longitude;
     };
     std::vector<Place> places;
-    for (const QString& line : splitLines(test::dataText(u"stations/nsd_bbsss.txt"_s))) {
-        const QStringList fields = line.split(u';');
-        if (fields.size() < 9 || fields[2] == u"----") continue;
-        places.push_back({fields[2], degreesOf(fields[7]), degreesOf(fields[8])});
-    }
+    const StationList list = parseStationList(test::dataText(u"stations/nsd_cccc.txt"_s));
+    for (auto station = list.begin(); station != list.end(); ++station)
+        if (!station->latitude.isEmpty() && !station->longitude.isEmpty())
+            places.push_back(
+                {station.key(), textToNumber(station->latitude), textToNumber(station->longitude)});
     ASSERT_GT(places.size(), 3000u);
     StoreTransaction transaction(*install.session.adoConn);
-    for (const Place& place : places)
-        test::addStation(install.session, place.icao, 1, place.latitude, place.longitude);
+    for (const auto& [icao, latitude, longitude] : places)
+        test::addStation(install.session, icao, 1, latitude, longitude);
     transaction.commit();
     const StationIndex stations(install.session);
     for (int step = 0; step < 200; ++step) {
         const double latitude = -85 + 0.85 * step, longitude = std::fmod(step * 37.7, 360) - 180;
-        double best = -2;
-        for (const Place& place : places)
-            best = std::max(best, cosineBetween(latitude, longitude, place.latitude, place.longitude));
         const QString found = stations.closestTo(latitude, longitude);
-        double ofFound = -2;
-        for (const Place& place : places)
-            if (place.icao == found)
-                ofFound =
-                    std::max(ofFound, cosineBetween(latitude, longitude, place.latitude, place.longitude));
+        double best = -2, ofFound = -2;
+        for (const Place& place : places) {
+            const double cosine = cosineBetween(latitude, longitude, place.latitude, place.longitude);
+            best = std::max(best, cosine);
+            if (place.icao == found) ofFound = cosine;
+        }
         EXPECT_NEAR(ofFound, best, 1e-9) << found.toStdString() << " at " << latitude << ' ' << longitude;
     }
 }

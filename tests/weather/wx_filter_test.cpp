@@ -31,7 +31,6 @@ struct WxFilterTest : testing::Test {
             row.report.WxFinderCloudCover = fields[4];
             clsWxFinderData(session).insertDecodedMetar(row);
         }
-        openWxFilter(session);
     }
     /// The first letter of each station found.
     QString found() {
@@ -47,50 +46,38 @@ struct WxFilterTest : testing::Test {
 };
 
 TEST_F(WxFilterTest, whatEachWordFinds) {
-    struct Case {
+    const struct {
         const char* name;
-        std::function<void(WxFilter&)> set;
+        QString lists; ///< precipitation, intensity, obscuration and clouds
+        bool towering, cumulonimbus, cumulus;
         QString stations; ///< second letters of the codes
+    } cases[] = {
+        {"any", u"Any|Any|Any|Any"_s, false, false, false, u"DGHSS"_s},
+        {"snow is in snow grains", u"Snow|Any|Any|Any"_s, false, false, false, u"GS"_s},
+        {"no weather", u"None|Any|Any|Any"_s, false, false, false, u"HS"_s},
+        {"intensity alone", u"Any|Heavy|Any|Any"_s, false, false, false, u"DGHSS"_s},
+        {"moderate rain", u"Rain|Moderate|Any|Any"_s, false, false, false, u"G"_s},
+        {"none has no intensity", u"None|Heavy|Any|Any"_s, false, false, false, u"HS"_s},
+        {"no obscuration", u"Any|Any|None|Any"_s, false, false, false, u"DH"_s},
+        {"fog", u"Any|Any|Fog|Any"_s, false, false, false, u"S"_s},
+        {"mostly cloudy", u"Any|Any|Any|Mostly Cloudy"_s, false, false, false, u"GS"_s},
+        {"clear with cumulus", u"Any|Any|Any|Sky Clear"_s, false, false, true, u"H"_s},
+        {"cumulonimbus, not towering", u"Any|Any|Any|Any"_s, false, true, false, u"G"_s},
+        {"towering", u"Any|Any|Any|Any"_s, true, false, false, u"S"_s},
+        {"both", u"Any|Any|Any|Any"_s, true, true, false, u"S"_s},
     };
-    const Case cases[] = {
-        {"any", [](WxFilter&) {}, u"DGHSS"_s},
-        {"rain", [](WxFilter& f) { f.precipitation = u"Rain"_s; }, u"DG"_s},
-        {"snow is in snow grains", [](WxFilter& f) { f.precipitation = u"Snow"_s; }, u"GS"_s},
-        {"no weather", [](WxFilter& f) { f.precipitation = u"None"_s; }, u"HS"_s},
-        {"intensity alone", [](WxFilter& f) { f.intensity = u"Heavy"_s; }, u"DGHSS"_s},
-        {"moderate rain",
-         [](WxFilter& f) {
-             f.precipitation = u"Rain"_s;
-             f.intensity = u"Moderate"_s;
-         },
-         u"G"_s},
-        {"none has no intensity",
-         [](WxFilter& f) {
-             f.precipitation = u"None"_s;
-             f.intensity = u"Heavy"_s;
-         },
-         u"HS"_s},
-        {"no obscuration", [](WxFilter& f) { f.obscuration = u"None"_s; }, u"DH"_s},
-        {"fog", [](WxFilter& f) { f.obscuration = u"Fog"_s; }, u"S"_s},
-        {"mostly cloudy", [](WxFilter& f) { f.cloudCover = u"Mostly Cloudy"_s; }, u"GS"_s},
-        {"clear with cumulus",
-         [](WxFilter& f) {
-             f.cloudCover = u"Sky Clear"_s;
-             f.cumulus = true;
-         },
-         u"H"_s},
-        {"cumulonimbus, not towering", [](WxFilter& f) { f.cumulonimbus = true; }, u"G"_s},
-        {"towering", [](WxFilter& f) { f.towering = true; }, u"S"_s},
-        {"both", [](WxFilter& f) { f.towering = f.cumulonimbus = true; }, u"S"_s},
-        {"code", [](WxFilter& f) { f.WxFilterText = u"e"_s; }, u"DGH"_s},
-        {"one result", [](WxFilter& f) { f.WxMaxResults = 1; }, u"D"_s},
-        {"0 results are all", [](WxFilter& f) { f.WxMaxResults = 0; }, u"DGHSS"_s},
-    };
-    for (const Case& each : cases) {
-        filter.WxMaxResults = usualMaxResults;
-        openWxFilter(session);
-        each.set(filter);
-        EXPECT_EQ(found(), each.stations) << each.name;
+    for (const auto& [name, lists, towering, cumulonimbus, cumulus, stations] : cases) {
+        const QStringList words = lists.split(u'|');
+        filter = {words[0], words[1], words[2], words[3], towering, cumulonimbus, cumulus, {}, 25, true, {}};
+        EXPECT_EQ(found(), stations) << name;
+    }
+    openWxFilter(session);
+    filter.WxFilterText = u"e"_s;
+    EXPECT_EQ(found(), u"DGH"_s) << "the code, any weather";
+    const std::pair<std::int16_t, QString> counts[] = {{1, u"D"_s}, {0, u"DGH"_s}}; // 0 is all
+    for (const auto& [most, stations] : counts) {
+        filter.WxMaxResults = most;
+        EXPECT_EQ(found(), stations);
     }
 }
 

@@ -7,7 +7,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <gtest/gtest.h>
@@ -16,10 +15,6 @@ namespace morvane {
 namespace {
 
 struct GroundDialogsTest : testing::Test {
-    void show(Screen screen, const std::function<void(DialogForm&)>& action) {
-        program.whenShown(screenName(screen), action);
-        program.user.showModal(screen);
-    }
     test::WindowProgram program;
     GroundSetCounts& counts = program.session.state<GroundSetCounts>();
     FavouriteAnswer& favourite = program.session.state<FavouriteAnswer>();
@@ -27,11 +22,10 @@ struct GroundDialogsTest : testing::Test {
 };
 
 TEST_F(GroundDialogsTest, countsTakeDigitsAndAFullStopOnly) {
-    const std::pair<QString, int> cases[] = {{u"3"_s, 3},   {u"1-2"_s, 12}, {u"x7 e"_s, 7},
-                                             {u"2.5"_s, 2}, {u"3.5"_s, 4},  {u""_s, 0},
-                                             {u"007"_s, 7}, {u"12."_s, 12}, {u"999"_s, 999}};
+    const std::pair<QString, int> cases[] = {{u"1-2"_s, 12}, {u"x7 e"_s, 7}, {u"2.5"_s, 2},
+                                             {u"3.5"_s, 4},  {u""_s, 0},     {u"12."_s, 12}};
     for (const auto& [typed, count] : cases)
-        show(Screen::frm_TsRequired, [&, keys = typed, expected = count](DialogForm& dialog) {
+        program.show(Screen::frm_TsRequired, [&, keys = typed, expected = count](DialogForm& dialog) {
             auto* box = dialog.findChild<QLineEdit*>(u"txtMediumClouds"_s);
             box->setFocus();
             box->selectAll();
@@ -40,32 +34,14 @@ TEST_F(GroundDialogsTest, countsTakeDigitsAndAFullStopOnly) {
             QTest::keyClicks(box, keys);
             EXPECT_EQ(counts.setCounts[2], expected) << keys.toStdString();
             dialog.cancel();
-            EXPECT_EQ(box->text().isEmpty(), false) << "it is not left empty";
+            EXPECT_FALSE(box->text().isEmpty()) << "it is not left empty";
         });
-    EXPECT_FALSE(counts.setCountsConfirmed);
-}
-
-TEST_F(GroundDialogsTest, countsStandInTheirBoxesAndEnterConfirms) {
-    counts.setCounts = {1, 2, 3, 4, 5};
-    show(Screen::frm_TsRequired, [](DialogForm& dialog) {
-        QStringList texts;
-        for (const char16_t* name : {u"txtNoClouds", u"txtLightClouds", u"txtMediumClouds",
-                                     u"txtLightOvcClouds", u"txtOvercastClouds"})
-            texts << dialog.findChild<QLineEdit*>(QString::fromUtf16(name))->text();
-        EXPECT_EQ(texts.join(u' '), u"1 2 3 4 5"_s);
-        auto* last = dialog.findChild<QLineEdit*>(u"txtOvercastClouds"_s);
-        last->setFocus();
-        EXPECT_EQ(last->selectedText(), u"5"_s) << "the focus selects all";
-        QTest::keyClicks(last, u"8"_s);
-        QTest::keyClick(last, Qt::Key_Return);
-    });
-    EXPECT_TRUE(counts.setCountsConfirmed);
-    EXPECT_EQ(counts.setCounts, (std::array<std::int16_t, 5>{1, 2, 3, 4, 8}));
 }
 
 TEST_F(GroundDialogsTest, aClickSelectsACountAndTheClipboardServesIt) {
-    counts.setCounts = {15, 0, 0, 0, 0};
-    show(Screen::frm_TsRequired, [&](DialogForm& dialog) {
+    counts.setCounts = {15, 0, 0, 0, 8};
+    program.show(Screen::frm_TsRequired, [&](DialogForm& dialog) {
+        EXPECT_EQ(dialog.findChild<QLineEdit*>(u"txtOvercastClouds"_s)->text(), u"8"_s);
         auto* box = dialog.findChild<QLineEdit*>(u"txtNoClouds"_s);
         auto* other = dialog.findChild<QLineEdit*>(u"txtLightClouds"_s);
         for (QLineEdit* before : {other, box}) { // a box that has the focus already is no other
@@ -73,9 +49,6 @@ TEST_F(GroundDialogsTest, aClickSelectsACountAndTheClipboardServesIt) {
             QTest::mouseClick(box, Qt::LeftButton, {}, {4, 11});
             EXPECT_EQ(box->selectedText(), u"15"_s);
         }
-        QTest::keyClick(box, Qt::Key_End);
-        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
-        EXPECT_EQ(box->selectedText(), u"15"_s);
         QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
         QTest::mouseClick(other, Qt::LeftButton);
         QTest::keyClick(other, Qt::Key_V, Qt::ControlModifier);
@@ -92,36 +65,30 @@ TEST_F(GroundDialogsTest, aClickSelectsACountAndTheClipboardServesIt) {
 
 /// A text that gets in by another way than the keys, or is more than a count can be.
 TEST_F(GroundDialogsTest, whatIsNoCountIsToldAndTakenBack) {
-    for (const QString& text : {u"40000"_s, u"1.2.3"_s}) {
-        counts.setCounts = {6, 0, 0, 0, 0};
-        QString told;
-        show(Screen::frm_TsRequired, [&](DialogForm& dialog) {
-            program.whenShown(u"frm_Msg"_s, [&](DialogForm& message) {
-                told = message.findChild<QLabel*>(u"lbl_Title"_s)->text();
-                message.ok();
-            });
-            auto* box = dialog.findChild<QLineEdit*>(u"txtNoClouds"_s);
-            box->setText(text);
+    counts.setCounts = {6, 0, 0, 0, 0};
+    program.show(Screen::frm_TsRequired, [&](DialogForm& dialog) {
+        auto* box = dialog.findChild<QLineEdit*>(u"txtNoClouds"_s);
+        for (const QString& text : {u"40000"_s, u"1.2.3"_s}) {
+            EXPECT_EQ(program.toldDuring([&] { box->setText(text); }), QStringList{u"Morvane Error"_s});
             EXPECT_EQ(box->text(), u"6"_s);
-            dialog.ok();
-        });
-        EXPECT_EQ(told, u"Morvane Error"_s);
-        EXPECT_EQ(counts.setCounts[0], 6);
-    }
+        }
+        dialog.ok();
+    });
+    EXPECT_EQ(counts.setCounts[0], 6);
 }
 
 TEST_F(GroundDialogsTest, aDescriptionEndsAfter255Letters) {
-    show(Screen::frm_AddFav, [&](DialogForm& dialog) {
+    program.show(Screen::frm_AddFav, [&](DialogForm& dialog) {
         auto* text = dialog.findChild<QPlainTextEdit*>(u"txtFavDesc"_s);
         text->setPlainText(QString(254, u'a'));
         text->moveCursor(QTextCursor::End);
-        QTest::keyClicks(text, u"bcd"_s);
+        QTest::keyClicks(text, u"bc"_s);
         EXPECT_EQ(text->toPlainText(), QString(254, u'a') + u'b');
-        EXPECT_EQ(dialog.findChild<QLabel*>(u"lblLength"_s)->text(), u"255"_s);
+        EXPECT_EQ(program.text(u"frm_AddFav"_s, u"lblLength"_s), u"255"_s);
         QTest::keyClick(text, Qt::Key_Escape);
     });
     EXPECT_FALSE(favourite.favConfirmed);
-    show(Screen::frm_AddFav, [&](DialogForm& dialog) {
+    program.show(Screen::frm_AddFav, [&](DialogForm& dialog) {
         EXPECT_EQ(favourite.favName + favourite.favDescription, QString()) << "each naming begins empty";
         dialog.ok();
     });
@@ -131,10 +98,8 @@ TEST_F(GroundDialogsTest, aDescriptionEndsAfter255Letters) {
 TEST_F(GroundDialogsTest, theNamesThatStayCheckedAreConfirmed) {
     names.multiNames = QStringList{u"2-Storm"_s, u"3-Haze"_s, u"4-Late"_s};
     const auto choose = [&](void (DialogForm::*end)()) {
-        show(Screen::frm_MultiDelete, [=](DialogForm& dialog) {
-            auto* list = dialog.findChild<SetTable*>(u"lstNames"_s);
-            const QRect row = list->visualItemRect(list->topLevelItem(1));
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, {row.left() + 11, row.center().y()});
+        program.show(Screen::frm_MultiDelete, [=](DialogForm& dialog) {
+            test::clickRow(*dialog.findChild<SetTable*>(u"lstNames"_s), 2, {.x = 11});
             (dialog.*end)();
         });
         return names.multiConfirmed;

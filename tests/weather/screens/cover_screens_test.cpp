@@ -32,20 +32,15 @@ struct CoverScreensTest : testing::Test {
     static void clickOption(DialogForm& dialog, const QString& name) {
         QTest::mouseClick(dialog.findChild<QRadioButton*>(name), Qt::LeftButton, {}, {8, 12});
     }
-    /// What the user does on the choice, and then on the screen that it leads to. Each arms the next.
-    using Act = std::function<void(DialogForm&)>;
-    void chooseMethod(int method, const QString& screen, const Act& act) {
+    /// The one way to its OK; gives the cover.
+    QString coverBy(int method, const QString& screen, const std::function<void(DialogForm&)>& act) {
+        session.state<FlightWeather>().WxCloudList = QStringList{u"9"_s};
         program.whenShown(choiceName, [=, this](DialogForm& dialog) {
             clickOption(dialog, u"optMethod%1"_s.arg(method));
-            program.whenShown(screen, act);
-            press(dialog, u"btn_Ok"_s);
-        });
-    }
-    /// The one way to its OK; gives the cover.
-    QString coverBy(int method, const QString& screen, const Act& act) {
-        session.state<FlightWeather>().WxCloudList = QStringList{u"9"_s};
-        chooseMethod(method, screen, [act](DialogForm& dialog) {
-            act(dialog);
+            program.whenShown(screen, [act](DialogForm& way) {
+                act(way);
+                press(way, u"btn_Ok"_s);
+            });
             press(dialog, u"btn_Ok"_s);
         });
         selectCloudCoverMethod(session);
@@ -57,60 +52,19 @@ struct CoverScreensTest : testing::Test {
     static QString textOf(QWidget& dialog, const QString& name) {
         return dialog.findChild<QLabel*>(name)->text();
     }
-    /// What the next message says.
-    void noteMessage(QString& title) {
-        program.whenShown(u"frm_Msg"_s, [&title](DialogForm& message) {
-            title = textOf(message, u"lbl_Title"_s);
-            message.ok();
-        });
-    }
     static bool isOkAlive(const DialogForm& dialog) {
         return dialog.button(u"btn_Ok"_s)->state() != ButtonState::disabled;
     }
     void openPlan(DialogForm& dialog, int row) {
-        auto& list = *dialog.findChild<SetTable*>(u"lvwFPList"_s);
-        const QPoint place = list.visualItemRect(list.topLevelItem(row - 1)).center();
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
+        test::clickRow(*dialog.findChild<SetTable*>(u"lvwFPList"_s), row, {.isDouble = true});
     }
 
     test::WindowProgram program;
     Session& session = program.session;
 };
 
-TEST_F(CoverScreensTest, eachCancelGoesOneStepBackAndTheLastEndsTheRoad) {
-    const auto before = test::contentsBelow(program.install.simulator());
-    const QString screens[] = {u"frm_FlightPlan"_s, u"frm_FromDepDestVal"_s, u"frm_CC_From_Option"_s,
-                               u"frm_CC_From_Metar_String"_s};
-    QStringList seen;
-    // From the innermost outward: after the fourth screen's cancel the choice is cancelled, too.
-    std::function<void(int)> walk = [&](int method) {
-        if (method == 4)
-            return program.whenShown(choiceName, [&](DialogForm& dialog) {
-                EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optMethod3"_s)->isChecked());
-                press(dialog, u"btn_Cancel"_s);
-            });
-        chooseMethod(method, screens[method], [&, method](DialogForm& dialog) {
-            seen << dialog.formName();
-            EXPECT_FALSE(program.shell.form(u"frm_Main"_s)->isVisible());
-            walk(method + 1);
-            press(dialog, u"btn_Cancel"_s);
-        });
-    };
-    writePlan(u"One.pln"_s, "waypoint.0=KSEA,A,,\n");
-    walk(0);
-    EXPECT_EQ(flyNow(session).filesCopied, -1);
-    EXPECT_TRUE(session.state<FlightWeather>().CoverCancelled);
-    EXPECT_EQ(seen.size(), 4);
-    EXPECT_TRUE(program.shell.form(u"frm_Main"_s)->isVisible());
-    EXPECT_EQ(test::contentsBelow(program.install.simulator()), before);
-}
-
 TEST_F(CoverScreensTest, aCoverByHandIsInForceAtOnce) {
-    const auto opened = [](DialogForm& dialog) {
-        EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optCloudCover2"_s)->isChecked());
-    };
-    EXPECT_EQ(coverBy(2, u"frm_CC_From_Option"_s, opened), "3");
+    EXPECT_EQ(coverBy(2, u"frm_CC_From_Option"_s, [](DialogForm&) {}), "3");
     EXPECT_EQ(coverBy(2, u"frm_CC_From_Option"_s,
                       [](DialogForm& dialog) { clickOption(dialog, u"optCloudCover4"_s); }),
               "5");
@@ -119,15 +73,13 @@ TEST_F(CoverScreensTest, aCoverByHandIsInForceAtOnce) {
 
 TEST_F(CoverScreensTest, theAirportsOfTheWeatherPage) {
     const QString screen = u"frm_FromDepDestVal"_s;
-    chooseMethod(1, screen, [this](DialogForm& dialog) {
+    program.show(Screen::frm_FromDepDestVal, [](DialogForm& dialog) {
         EXPECT_EQ(textOf(dialog, u"lblAverageCCVal"_s), "No Airport data entered for processing");
         EXPECT_FALSE(isOkAlive(dialog));
         QTest::keyClick(&dialog, Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible()) << "Enter is no way round a dead key";
-        program.whenShown(choiceName, [](DialogForm& choice) { choice.cancel(); });
-        press(dialog, u"btn_Cancel"_s);
+        dialog.cancel();
     });
-    selectCloudCoverMethod(session);
     session.state<WeatherState>().DepIcao = u"EHAM"_s;
     session.state<WeatherState>().DepMetar = u"EHAM 241225Z 24015KT 9999 OVC030 18/09 Q1012"_s;
     session.state<WeatherState>().DestCity = u"Zürich"_s;
@@ -144,28 +96,19 @@ TEST_F(CoverScreensTest, theAirportsOfTheWeatherPage) {
 TEST_F(CoverScreensTest, aReportTypedIn) {
     const QString screen = u"frm_CC_From_Metar_String"_s;
     EXPECT_EQ(coverBy(3, screen, [](DialogForm&) {}), "9") << "OK before it was processed keeps the cover";
-    QString title;
-    const auto process = [&](const QString& report) {
-        return [&, report](DialogForm& dialog) {
-            dialog.findChild<QPlainTextEdit*>(u"txtMetarString"_s)->setPlainText(report);
-            press(dialog, u"btn_MetarProcess"_s);
-        };
-    };
-    EXPECT_EQ(coverBy(3, screen,
-                      [&](DialogForm& dialog) {
-                          process(u"  EGLL 241220Z VV001\n18/18 Q1012 "_s)(dialog);
-                          EXPECT_EQ(session.state<WeatherState>().MetarStringInput.left(4), "EGLL");
-                          EXPECT_EQ(textOf(dialog, u"lblCloudCover"_s), "Scattered Clouds");
-                      }),
-              "6");
-    EXPECT_EQ(coverBy(3, screen,
-                      [&](DialogForm& dialog) {
-                          noteMessage(title);
-                          process(u"EGLL 241220Z 24015KT 18/18 Q1012"_s)(dialog);
-                          EXPECT_EQ(textOf(dialog, u"lblCloudCover"_s), "");
-                      }),
-              "0");
-    EXPECT_EQ(title, "METAR Format Error!");
+    const std::tuple<QString, QString, QString, QStringList> cases[] = {
+        // report; cover; shown; told
+        {u"  EGLL 241220Z VV001\n18/18 Q1012 "_s, u"6"_s, u"Scattered Clouds"_s, {}},
+        {u"EGLL 241220Z 24015KT 18/18 Q1012"_s, u"0"_s, {}, {u"METAR Format Error!"_s}}};
+    for (const auto& [report, cover, shown, told] : cases)
+        EXPECT_EQ(coverBy(3, screen,
+                          [&, report = report, shown = shown, told = told](DialogForm& dialog) {
+                              dialog.findChild<QPlainTextEdit*>(u"txtMetarString"_s)->setPlainText(report);
+                              EXPECT_EQ(program.toldDuring([&] { press(dialog, u"btn_MetarProcess"_s); }),
+                                        told);
+                              EXPECT_EQ(textOf(dialog, u"lblCloudCover"_s), shown);
+                          }),
+                  cover);
 }
 
 TEST_F(CoverScreensTest, aFlightPlan) {
@@ -182,10 +125,8 @@ TEST_F(CoverScreensTest, aFlightPlan) {
                           EXPECT_EQ(textOf(dialog, u"lblDepVal"_s), "London");
                           EXPECT_TRUE(dialog.findChild<QLabel*>(u"lblNoWaypoints"_s)->isVisible());
                           EXPECT_FALSE(isOkAlive(dialog));
-                          QString title;
-                          noteMessage(title);
-                          openPlan(dialog, 3);
-                          EXPECT_EQ(title, "FSX Flight Plan");
+                          EXPECT_EQ(program.toldDuring([&] { openPlan(dialog, 3); }),
+                                    QStringList{u"FSX Flight Plan"_s});
                           EXPECT_FALSE(isOkAlive(dialog));
                           openPlan(dialog, 1);
                           const auto& rows = *dialog.findChild<SetTable*>(u"lvwFlightPlan"_s);
@@ -199,32 +140,29 @@ TEST_F(CoverScreensTest, aFlightPlan) {
               "4");
     // OK takes the plan that is selected, be it read already or not.
     EXPECT_EQ(coverBy(0, u"frm_FlightPlan"_s, [](DialogForm&) {}), "4");
-    const auto lastPlan = [&](DialogForm& dialog) {
+    const auto byKeys = [](DialogForm& dialog) {
         auto& list = *dialog.findChild<SetTable*>(u"lvwFPList"_s);
         EXPECT_TRUE(list.hasFocus());
-        QTest::keyClick(&list, Qt::Key_Return);
-        EXPECT_EQ(textOf(dialog, u"lblDepVal"_s), "Seattle");
         QTest::keyClick(&list, Qt::Key_Down);
-        QTest::keyClick(&list, Qt::Key_Return);
+        for (int i = 0; i < 2; ++i) // the first opens it
+            QTest::keyClick(&list, Qt::Key_Return);
         EXPECT_EQ(textOf(dialog, u"lblDepVal"_s), "London");
-        QTest::keyClick(&list, Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible()) << "no way on from a plan without waypoints";
         QTest::keyClick(&list, Qt::Key_Up);
         EXPECT_TRUE(isOkAlive(dialog));
     };
-    EXPECT_EQ(coverBy(0, u"frm_FlightPlan"_s, lastPlan), "4");
+    EXPECT_EQ(coverBy(0, u"frm_FlightPlan"_s, byKeys), "4");
 }
 
 TEST_F(CoverScreensTest, noFlightPlansAtAll) {
-    test::writeFile(program.install.folder / u"Dokümente\\Flight Simulator Files\\note.txt", "none");
-    program.whenShown(u"frm_FlightPlan"_s, [](DialogForm& dialog) {
+    writePlan(u"note.txt"_s, "none");
+    program.show(Screen::frm_FlightPlan, [](DialogForm& dialog) {
         EXPECT_TRUE(
             textOf(dialog, u"lblNoFlightPlans"_s).startsWith(u"No flight plans have been detected.  "));
         QTest::keyClick(&dialog, Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible());
         dialog.cancel();
     });
-    program.user.showModal(Screen::frm_FlightPlan);
 }
 
 } // namespace

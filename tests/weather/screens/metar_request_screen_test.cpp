@@ -2,7 +2,6 @@
 #include "support/printing.h"
 #include "support/window_program.h"
 #include "weather/wx_finders.h"
-#include "window/dispatch_table.h"
 #include "window/splash_screen.h"
 
 #include <QLabel>
@@ -11,13 +10,8 @@
 namespace morvane {
 namespace {
 
-class MetarRequestTest : public testing::Test {
-protected:
-    void pressRefresh() {
-        const ButtonAction action = actionOf(ButtonFamily::LargeButton, u"frm_WxControl"_s, u"WxRefresh"_s);
-        ASSERT_NE(action, nullptr);
-        action(program.shell, program.control<SkinnedButton>(u"frm_Main"_s, u"btn_About"_s));
-    }
+struct MetarRequestTest : testing::Test {
+    void pressRefresh() { program.press(u"frm_WxControl"_s, u"btn_WxRefresh"_s); }
 
     test::WindowProgram program;
     Session& session = program.session;
@@ -26,25 +20,18 @@ protected:
     }};
 };
 
-TEST_F(MetarRequestTest, yesFetchesAndNoAndEscapeDoNot) {
+TEST_F(MetarRequestTest, yesFetchesAndNoDoesNot) {
     program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"WeatherServer"_s,
                                           server.address());
     pressRefresh(); // nothing is loaded, so nothing is asked
     EXPECT_EQ(server.requests(), 1);
     EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 2);
-    const auto answer = [&](const std::function<void(DialogForm&)>& act) {
-        program.whenShown(u"frm_metar_request"_s, [&](DialogForm& dialog) {
-            EXPECT_EQ(program.control<QLabel>(u"frm_metar_request"_s, u"lblRequest"_s).text(),
-                      u"Do you wish Morvane to download and decode the latest METAR cycle from Orrinsoft?"_s);
-            act(dialog);
-        });
+    for (const bool ok : {false, true}) {
+        program.whenShown(u"frm_metar_request"_s,
+                          [ok](DialogForm& dialog) { ok ? dialog.ok() : dialog.cancel(); });
         pressRefresh();
-    };
-    answer([](DialogForm& dialog) { QTest::mouseClick(dialog.button(u"btn_Cancel"_s), Qt::LeftButton); });
-    answer([](DialogForm& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    EXPECT_EQ(server.requests(), 1);
-    answer([](DialogForm& dialog) { QTest::mouseClick(dialog.button(u"btn_Ok"_s), Qt::LeftButton); });
-    EXPECT_EQ(server.requests(), 2);
+        EXPECT_EQ(server.requests(), ok ? 2 : 1);
+    }
     EXPECT_FALSE(program.user.isMessageVisible());
 }
 

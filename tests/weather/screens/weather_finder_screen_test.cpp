@@ -43,9 +43,6 @@ struct WxFinderScreenTest : testing::Test {
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
         if (isDouble) QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
     }
-    static void choose(DialogForm& dialog, const QString& name, const QString& entry) {
-        dialog.findChild<QComboBox*>(name)->setCurrentText(entry);
-    }
 
     test::WindowProgram program;
     Session& session = program.session;
@@ -63,7 +60,7 @@ TEST_F(WxFinderScreenTest, everyChangeFiltersAnew) {
         most.clear();
         EXPECT_EQ(rows(), 25) << "an empty box means the usual number";
         QTest::keyClicks(&most, u"50"_s);
-        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txtFilter"_s), u"k03"_s);
+        dialog.findChild<QLineEdit*>(u"txtFilter"_s)->setText(u"k03"_s);
         EXPECT_EQ(rows(), 10);
         dialog.findChild<QCheckBox*>(u"chkCumulus"_s)->click();
         EXPECT_EQ(rows(), 0);
@@ -72,14 +69,15 @@ TEST_F(WxFinderScreenTest, everyChangeFiltersAnew) {
     open([this](DialogForm& dialog) {
         EXPECT_EQ(rows(), 40) << "it opens with any weather, and the most results that were chosen";
         auto& intensity = *dialog.findChild<QComboBox*>(u"cboIntensity"_s);
+        auto& precipitation = *dialog.findChild<QComboBox*>(u"cboPrecipitation"_s);
         EXPECT_FALSE(intensity.isEnabled());
-        choose(dialog, u"cboPrecipitation"_s, u"Rain"_s);
+        precipitation.setCurrentText(u"Rain"_s);
         EXPECT_TRUE(intensity.isEnabled());
-        choose(dialog, u"cboIntensity"_s, u"Heavy"_s);
-        EXPECT_EQ(rows(), 0);
-        choose(dialog, u"cboIntensity"_s, u"Moderate"_s);
-        EXPECT_EQ(rows(), 1);
-        choose(dialog, u"cboPrecipitation"_s, u"None"_s);
+        for (const auto& [entry, found] : {std::pair(u"Heavy"_s, 0), std::pair(u"Moderate"_s, 1)}) {
+            intensity.setCurrentText(entry);
+            EXPECT_EQ(rows(), found);
+        }
+        precipitation.setCurrentText(u"None"_s);
         EXPECT_FALSE(intensity.isEnabled());
         EXPECT_EQ(intensity.currentText(), "Any");
         EXPECT_EQ(rows(), 39);
@@ -89,47 +87,36 @@ TEST_F(WxFinderScreenTest, everyChangeFiltersAnew) {
 
 TEST_F(WxFinderScreenTest, theReportChosenBecomesAnEndOfTheFlight) {
     open([this](DialogForm& dialog) {
-        const SkinnedButton& ok = *dialog.button(u"btn_Ok"_s);
         EXPECT_EQ(session.state<WxFilter>().WxSelectedIcao, "K000") << "the first is chosen from the start";
         EXPECT_TRUE(list->hasFocus());
-        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txtFilter"_s), u"X"_s);
-        EXPECT_EQ(ok.state(), ButtonState::disabled) << "nothing found, nothing to choose";
+        auto& filter = *dialog.findChild<QLineEdit*>(u"txtFilter"_s);
+        filter.setText(u"X"_s);
+        EXPECT_EQ(dialog.button(u"btn_Ok"_s)->state(), ButtonState::disabled) << "nothing to choose";
         QTest::keyClick(&dialog, Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible());
-        dialog.findChild<QLineEdit*>(u"txtFilter"_s)->clear();
-        QTest::keyClick(list, Qt::Key_Down);
-        EXPECT_EQ(session.state<WxFilter>().WxSelectedIcao, "K001");
+        filter.clear();
         click(7);
-        EXPECT_EQ(session.state<WxFilter>().WxSelectedIcao, "K007");
-        QTest::mouseClick(dialog.button(u"btn_Ok"_s), Qt::LeftButton);
-        EXPECT_FALSE(dialog.isVisible());
+        dialog.ok();
     });
     EXPECT_EQ(session.state<WeatherState>().DepAirportName, "Own Field");
-    EXPECT_TRUE(session.state<WeatherState>().DepMetar.startsWith(u"K007 "));
     EXPECT_EQ(session.state<WeatherState>().DestMetar, "");
     for (const bool isTaken : {false, true})
         open([&](DialogForm& dialog) {
             EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport0"_s)->isChecked());
-            QTest::mouseClick(dialog.findChild<QRadioButton*>(u"optAirport1"_s), Qt::LeftButton);
+            dialog.findChild<QRadioButton*>(u"optAirport1"_s)->click();
             EXPECT_TRUE(session.state<WeatherState>().optDepAirport) << "the page's choice waits for OK";
             isTaken ? click(7, true) : dialog.cancel();
-            EXPECT_FALSE(dialog.isVisible());
         });
     EXPECT_TRUE(session.state<WeatherState>().optDestAirport && !session.state<WeatherState>().optDepAirport);
     EXPECT_EQ(session.state<WeatherState>().DestCity, "Home");
-    open([](DialogForm& dialog) {
-        EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport1"_s)->isChecked()) << "as on the page";
-        dialog.cancel();
-    });
-    session.state<WeatherState>().optDepAirport = true;
-    int told = 0;
-    program.whenShown(u"frm_Msg"_s, [&](DialogForm& message) {
-        ++told;
-        message.ok();
-    });
-    open([this](DialogForm&) { click(8, true); });
-    EXPECT_EQ(told, 1) << "a station that is no airport";
-    EXPECT_EQ(session.state<WeatherState>().DepIcao, "K007");
+    const auto takeNoAirport = [this] {
+        open([this](DialogForm& dialog) {
+            EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport1"_s)->isChecked()) << "as on the page";
+            click(8, true);
+        });
+    };
+    EXPECT_EQ(program.toldDuring(takeNoAirport).size(), 1);
+    EXPECT_EQ(session.state<WeatherState>().DestIcao, "K007");
 }
 
 } // namespace
