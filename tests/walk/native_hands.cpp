@@ -45,8 +45,6 @@ void tabTo(QWidget& control) {
 
 /// From option to option, as they lie.
 void arrowTo(QWidget& option) {
-    for (const Qt::Key away : {Qt::Key_Right, Qt::Key_Left}) // an arrow chooses what it comes to
-        if (option.window()->focusWidget() == &option) pressKey(option, away);
     for (int i = 0; i < longestTabRoad && option.window()->focusWidget() != &option; ++i) {
         const QWidget* from = option.window()->focusWidget();
         if (!from) return;

@@ -344,7 +344,6 @@ void Walk::oneWay(const WalkScreen& screen, const WalkRow& row, const QString& n
         control_ = way == Way::key ? window_.data() : &find(controlOf(name));
         chooseAnother(*control_);
         const auto gesture = [&] {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(window_->windowHandle(), patience));
             if (way == Way::key)
                 useBracketed(*window_, name);
             else
