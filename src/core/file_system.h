@@ -52,6 +52,7 @@ public:
     virtual std::int64_t size(const FilePath& file) = 0;
     /// Of a link, what it points to.
     virtual FileStamp stamp(const FilePath& path) = 0;
+    /// In bytes, for this user; -1 where the system does not tell.
     virtual std::int64_t freeSpace(const FilePath& folder) = 0;
     virtual QByteArray read(const FilePath& file) = 0;
     /// Nothing for a file that is not there, nor for a link that leads nowhere.

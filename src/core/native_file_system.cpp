@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
@@ -207,7 +206,10 @@ std::int64_t NativeFileSystem::size(const FilePath& file) {
 }
 
 std::int64_t NativeFileSystem::freeSpace(const FilePath& folder) {
-    return QStorageInfo(folder.native()).bytesAvailable();
+    // The toolkit looks for the folder's volume in the list of mounts, which a sandbox may not have.
+    std::error_code error;
+    const std::filesystem::space_info space = std::filesystem::space(systemPath(folder), error);
+    return error ? -1 : static_cast<std::int64_t>(space.available);
 }
 
 QByteArray NativeFileSystem::read(const FilePath& file) {
