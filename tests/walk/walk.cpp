@@ -19,10 +19,16 @@ constexpr int patience = 6'000; ///< milliseconds that anything may take; far mo
 constexpr int mostFailures = 5; ///< of a screen; what follows is seldom worth its wait
 
 /// On the screen and, but for a list below its box, with the keyboard: what comes later would find it gone.
+/// "Active" does not tell: a dialog counts as that already while its parent has the keyboard.
 bool isShown(const QWidget* window) {
     const QWindow* native = window ? window->windowHandle() : nullptr;
     const bool isPopup = window && window == QApplication::activePopupWidget();
-    return native && window->isVisible() && native->isExposed() && (isPopup || native->isActive());
+    return native && window->isVisible() && native->isExposed() &&
+           (isPopup || native == QGuiApplication::focusWindow());
+}
+
+bool comesUp(const QWidget* window) {
+    return QTest::qWaitFor([window] { return isShown(window); }, patience);
 }
 
 /// Come or gone: the window system is done with it.
@@ -191,7 +197,7 @@ void Walk::renew() {
     SmallInstallOptions options;
     options.skin = skin_;
     program_ = std::make_unique<WindowProgram>(options);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(program_->shell.form(u"frm_Main"_s)->windowHandle(), patience));
+    EXPECT_TRUE(comesUp(program_->shell.form(u"frm_Main"_s)));
     furnish_(*program_);
 }
 
@@ -234,7 +240,7 @@ void Walk::onScreen(const WalkScreen& screen, const std::function<void()>& body)
     if (screen.isDialog) return inDialog(screen, body);
     screen.open(*this);
     window_ = front();
-    if (QTest::qWaitForWindowActive(window_->windowHandle(), patience)) return body();
+    if (comesUp(window_)) return body();
     ++failures_;
     FAIL() << screen.name << " does not come to the front";
 }
@@ -251,7 +257,6 @@ void Walk::inDialog(const WalkScreen& screen, const std::function<void()>& body)
         if (isWalked || !isShown(modal)) return;
         isWalked = true;
         window_ = modal;
-        EXPECT_TRUE(QTest::qWaitForWindowActive(modal->windowHandle(), patience));
         body();
         if (isOpen() && !isProgress(*window_)) pressKey(*window_, Qt::Key_Escape);
         if (isOpen()) hideDialogs();
