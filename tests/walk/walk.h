@@ -108,6 +108,7 @@ private:
     void inDialog(const WalkScreen& screen, const std::function<void()>& body);
     void oneWay(const WalkScreen& screen, const WalkRow& row, const QString& control, Way way);
     void untilTheEnd(const std::function<void()>& gesture);
+    void settle();
     bool act(const std::function<void()>& gesture, const Effect& effect, QStringList& trail);
     void checkContents(const WalkScreen& screen, const QStringList& live);
     void checkReach(const QStringList& live);
@@ -119,6 +120,8 @@ private:
     std::unique_ptr<WindowProgram> program_;
     QUrl address_;
     int failures_ = 0;
+    bool isLost_ = false; ///< the keyboard
+    int timesLost_ = 0;
     QPointer<QWidget> window_, control_;
 };
 
