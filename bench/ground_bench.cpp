@@ -3,7 +3,7 @@
 #include "core/store_connection.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
 
 #include <QDirIterator>
 #include <QFileInfo>

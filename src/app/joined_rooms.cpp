@@ -1,6 +1,5 @@
 #include "app/joined_rooms.h"
 
-#include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
@@ -8,11 +7,10 @@
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
 #include "sets/resource_folders.h"
-#include "sets/weather_kinds.h"
+#include "sets/set_kind.h"
 #include "simulator/backups.h"
 #include "simulator/configs.h"
 #include "simulator/options.h"
-#include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
@@ -39,7 +37,7 @@ void reloadAll(Session& session) {
 
 void joinRooms(Session& session) {
     session.reloadRows = reloadAll;
-    session.state<WeatherKinds>() = {&groundKindOfWeather(), &skyKindOfWeather()};
+    session.state<WeatherKinds>() = {&setKind<GroundKind>(), &setKind<SkyKind>()};
 }
 
 } // namespace morvane

@@ -2,8 +2,8 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "cli/set_commands.h"
-#include "cli/set_kinds.h"
 #include "ground/ground_generation.h"
+#include "ground/ground_sets.h"
 #include "ground/texture_catalogue.h"
 
 namespace morvane {

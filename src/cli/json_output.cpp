@@ -75,7 +75,7 @@ QJsonObject toJson(const clsNightTextureSet& set, const QString& decimalSeparato
     };
 }
 
-QJsonObject toJson(const clsSkyTextureSet& set) {
+QJsonObject toJson(const clsSkyTextureSet& set, const QString&) {
     return {
         {u"TextureSetGroup"_s, set.TextureSetGroup},
         {u"Description"_s, set.Description},

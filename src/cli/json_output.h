@@ -16,10 +16,10 @@ struct clsSkyTextureSubSet;
 
 /// Records as JSON, properties by their names.
 QJsonObject toJson(const clsDecodeMetar& report);
-/// Numbers of the colour text come with "." whatever separator the record holds.
+/// Numbers of a colour text come with "." whatever separator the record holds.
 QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator);
 QJsonObject toJson(const clsNightTextureSet& set, const QString& decimalSeparator);
-QJsonObject toJson(const clsSkyTextureSet& set);
+QJsonObject toJson(const clsSkyTextureSet& set, const QString& decimalSeparator);
 QJsonObject toJson(const clsSkyTextureSubSet& subSet);
 /// The catalogue's four parallel arrays.
 QJsonObject toJson(const std::vector<CatalogueFile>& files);

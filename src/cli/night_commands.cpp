@@ -1,11 +1,11 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "cli/set_commands.h"
-#include "cli/set_kinds.h"
 #include "imaging/slider_steps.h"
 #include "night/night_tuning.h"
 #include "sets/favourite_name.h"
 #include "sets/slider_values.h"
+#include "night/night_sets.h"
 
 #include <algorithm>
 
@@ -33,7 +33,7 @@ void addFavourite(CommandContext& context) {
     };
     NightTuning tuning(context.session);
     tuning.showColourPreview(slidersOf(context.arguments[1]).value());
-    tuning.newFavNightTexture();
+    tuning.newFavourite();
 }
 
 } // namespace

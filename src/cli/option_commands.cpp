@@ -2,7 +2,7 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "sets/options_in_force.h"
-#include "sets/set_collections.h"
+#include "sets/stored_rows.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"

@@ -2,18 +2,19 @@
 
 #include "cli/command_helpers.h"
 #include "cli/json_output.h"
-#include "core/flag_text.h"
+#include "sets/set_kind.h"
 
 #include <QJsonArray>
 
 namespace morvane {
 
-/// The commands that every kind of set has. `Kind` is one of those in cli/set_kinds.h.
+/// The commands that every kind of set has (sets/set_kind.h).
 template <class Kind>
 struct SetCommands {
-    /// `example` is the name of such a set.
-    static std::vector<Command> all(const QString& example) {
-        const QString word = Kind::word();
+    /// `example` is the name of such a set, `activation` what its activation means.
+    static std::vector<Command> all(const QString& example,
+                                    const QString& activation = u"rebuilds a set's files"_s) {
+        const QString word = kindWord();
         const auto onOne = [&](const QString& verb, void (*run)(CommandContext&), const QString& meaning) {
             const QString words = word + u' ' + verb;
             return Command{.words = words,
@@ -27,7 +28,7 @@ struct SetCommands {
                  .run = list,
                  .meaning = u"all %1 sets"_s.arg(word),
                  .example = word + u" list"_s},
-                onOne(u"activate"_s, activate, Kind::activationMeaning()),
+                onOne(u"activate"_s, activate, activation),
                 onOne(u"deactivate"_s, deactivate, u"takes a set's files away but keeps its colours"_s),
                 onOne(u"delete"_s, remove, u"removes a set"_s),
                 onOne(u"install"_s, install, u"copies a set into the simulator"_s)};
@@ -37,23 +38,25 @@ struct SetCommands {
     /// wrong with it.
     static auto clickedSet(CommandContext& context) {
         const QString& name = context.arguments[0];
-        auto set = Kind::find(context.session, name);
-        if (!set) fail(context, u"There is no %1 texture set named '%2'"_s.arg(Kind::word(), name));
-        if (set && !Kind::click(context.session, name)) set = nullptr;
+        auto set = findSet<Kind>(context.session, name);
+        if (!set) fail(context, u"There is no %1 texture set named '%2'"_s.arg(kindWord(), name));
+        if (set && !clickSetNamed<Kind>(context.session, name)) set = nullptr;
         return set;
     }
 
 private:
+    static QString kindWord() { return Kind::facts().word.toLower(); }
+
     static void list(CommandContext& context) {
         QJsonArray sets;
-        for (const auto& set : Kind::sets(context.session))
-            sets << Kind::json(context.session, *set);
+        for (const auto& set : loadedSets<Kind>(context.session))
+            sets << toJson(*set, context.session.DecimalSep);
         printJson(QJsonDocument(sets));
     }
 
     static void activate(CommandContext& context) {
         const auto set = clickedSet(context);
-        if (set && Kind::refusesActivated && Kind::activation(*set) == flagText(true))
+        if (set && !Kind::activatesAgain && activationOf(*set) == flagText(true))
             refuse(context, nameOf(*set), u"is activated already"_s);
         else if (set)
             Kind::activate(context.session);
@@ -69,14 +72,14 @@ private:
 
     static void install(CommandContext& context) {
         const auto set = clickedSet(context);
-        if (set && Kind::activation(*set) != flagText(true))
+        if (set && activationOf(*set) != flagText(true))
             refuse(context, nameOf(*set), u"is not activated"_s);
         else if (set)
-            Kind::install(context.session);
+            Kind::install(context.session, true);
     }
 
     static void refuse(CommandContext& context, const QString& name, const QString& reason) {
-        fail(context, u"The %1 texture set '%2' %3"_s.arg(Kind::word(), name, reason));
+        fail(context, u"The %1 texture set '%2' %3"_s.arg(kindWord(), name, reason));
     }
 };
 

@@ -1,10 +1,10 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "cli/set_commands.h"
-#include "cli/set_kinds.h"
 #include "core/numbers.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_generation.h"
+#include "sky/sky_sets.h"
 #include "sky/sky_texture_sub_sets.h"
 
 #include <algorithm>
@@ -45,7 +45,8 @@ void show(CommandContext& context) {
     QJsonValue dayColours; // null for a set without colours
     for (const auto& subSet : *context.session.rows<clsSkyTextureSubSets>())
         if (subSet->timeOfDay == skyDay) dayColours = toJson(*subSet);
-    printJson(QJsonDocument(QJsonObject{{u"set"_s, toJson(*set)}, {u"subSet"_s, dayColours}}));
+    printJson(QJsonDocument(
+        QJsonObject{{u"set"_s, toJson(*set, context.session.DecimalSep)}, {u"subSet"_s, dayColours}}));
 }
 
 Operand baseSetsOperand() {
@@ -73,7 +74,9 @@ std::vector<Command> skyCommands() {
          .meaning = u"a sky set with its ten colour texts"_s,
          .example = u"sky show \"Default\""_s},
     };
-    std::ranges::move(SetCommands<SkyKind>::all(u"2-Dawn"_s), std::back_inserter(commands));
+    std::ranges::move(SetCommands<SkyKind>::all(
+                          u"2-Dawn"_s, u"writes a set's files, those of sunrise and sunset included"_s),
+                      std::back_inserter(commands));
     return commands;
 }
 

@@ -1,4 +1,4 @@
-#include "ground/texture_catalogue.h"
+#include "ground/catalogue_table.h"
 
 namespace morvane {
 

@@ -25,14 +25,9 @@ namespace {
 const QString setNameFormat = u"MM-dd-yyyy HH-mm-ss"_s;
 
 // An activation hides the main window, from wherever it was started.
-const GenerationKind groundKind{
-    u"Creating Ground Texture Sets"_s,
-    u"Be aware that this may take 20 - 30 minutes per set dependant on your "_s,
-    groundSubfolders,
-    Screen::frm_Main,
-    Screen::frm_MVTextures,
-    [](Session& session) -> bool& { return session.state<GroundSelection>().RefreshGroundList; },
-    true};
+const GenerationKind groundKind{u"Creating Ground Texture Sets"_s,
+                                u"Be aware that this may take 20 - 30 minutes per set dependant on your "_s,
+                                Screen::frm_Main};
 
 QString durationReport(int minutes, int total) {
     if (total == 0) throw Error(ErrorCode::divisionByZero);
@@ -54,16 +49,13 @@ int reportedMinutes(const QTime& start, const QTime& end) {
     return (end.hour() + wrap - start.hour()) * 60 + (end.minute() - start.minute());
 }
 
-FilePath groundSetFolder(const Session& session, const QString& name) {
-    return (session.AppPath / u"Texture Sets").child(name);
-}
-
-GroundGeneration::GroundGeneration(Session& session) : SetGeneration(session, groundKind) {}
+GroundGeneration::GroundGeneration(Session& session)
+    : SetGeneration(session, setKind<GroundKind>(), groundKind, session.state<GroundSelection>().colours) {}
 
 void GroundGeneration::createTextureSets(bool fromMain) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         session_.state<GroundSetCounts>().setCountsConfirmed = false;
         session_.user.showModal(Screen::frm_TsRequired);
         if (!session_.state<GroundSetCounts>().setCountsConfirmed || !job.begin()) return;
@@ -115,7 +107,7 @@ bool GroundGeneration::createRandomSet(const Job& job, int cloudNumber, Counters
 bool GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderValues& sliders,
                                  Counters counters, bool fromMain) {
     bool isStored = false;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         session_.state<GroundSelection>().colours = effectiveColours(sliders);
         clsTextureSet record;
         record.ColorSettings = colourSettingsText(session_.state<GroundSelection>().colours);
@@ -125,7 +117,7 @@ bool GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderVa
         record.CloudCover = cloudCover(cloudNumber)->word;
         record.IsDutch = true; // every set is marked Dutch, whatever the switch says
         record.IsNew = true;
-        isStored = loadedGroundSets(session_).UpdateTextureSet(record);
+        isStored = loadedGroundSets(session_).Save(record);
         if (!isStored) return;
         session_.state<GroundSelection>().SelectedGroundSet = record.TextureSet;
         QElapsedTimer timer;
@@ -148,37 +140,6 @@ void GroundGeneration::endRun(bool fromMain) {
     if (!fromMain) session_.state<GroundSelection>().RefreshGroundList = true;
     session_.user.refreshScreen(screen);
     session_.user.showScreen(screen);
-}
-
-SetsInHand GroundGeneration::inHand() {
-    return {session_.state<GroundSelection>().SelectedGroundSet, session_.state<GroundSelection>().colours,
-            session_.state<GroundSelection>().selectedRows};
-}
-
-bool GroundGeneration::refresh() {
-    return refreshGroundSets(session_);
-}
-
-std::optional<StoredSet> GroundGeneration::find(const QString& name) {
-    const auto record = findGroundSet(session_, name);
-    if (!record) return std::nullopt;
-    return StoredSet{record->TextureSet, record->ColorSettings, record->Installed};
-}
-
-bool GroundGeneration::storeActivation(const QString& name, bool activated) {
-    clsTextureSet changed = *findGroundSet(session_, name);
-    changed.Actvated = flagText(activated);
-    changed.IsNew = false;
-    return session_.rows<clsTextureSets>()->UpdateTextureSet(changed);
-}
-
-bool GroundGeneration::removeRecord(const QString& name) {
-    const std::int16_t key = findGroundSet(session_, name)->TsID;
-    return session_.rows<clsTextureSets>()->RemoveItem(QString::number(key), key);
-}
-
-FilePath GroundGeneration::folderOf(const QString& name) {
-    return groundSetFolder(session_, name);
 }
 
 std::vector<CatalogueFile> GroundGeneration::baseFilesOf(const QString& name) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
 #include "sets/catalogue_file.h"
 #include "sets/set_generation.h"
 #include "sets/slider_values.h"
@@ -24,11 +24,6 @@ public:
     /// Asks for the quantities (frm_TsRequired) and makes the sets, all of one cloud cover before the next.
     /// `fromMain` tells which screen started the run and comes back at its end.
     void createTextureSets(bool fromMain);
-    /// Rebuilds the files of the set in hand (session.state<GroundSelection>()), or of several after
-    /// frm_MultiDelete.
-    void activateTextureSet() { activateInHand(); }
-    /// Deletes the set in hand or several; with `deactivateMode` only the files go and the colours stay.
-    void deleteTextureSet(bool deactivateMode) { deleteInHand(deactivateMode); }
 
 private:
     bool createAll(const Job& job, int total, bool fromMain);
@@ -39,20 +34,8 @@ private:
     void reportDuration(const QTime& start, const QTime& end, int total);
     void endRun(bool fromMain);
 
-    SetsInHand inHand() override;
-    bool refresh() override;
-    std::optional<StoredSet> find(const QString& name) override;
-    bool storeActivation(const QString& name, bool activated) override;
-    bool removeRecord(const QString& name) override;
-    FilePath folderOf(const QString& name) override;
     std::vector<CatalogueFile> baseFilesOf(const QString& name) override;
 };
-
-/// Subfolders of a ground set's folder.
-inline const QStringList groundSubfolders{u"Texture"_s, u"UTEurLC"_s, u"Dutch"_s};
-
-/// The folder of the named ground set. Raises "Path not found" for a name that is no single folder name.
-FilePath groundSetFolder(const Session& session, const QString& name);
 
 /// Minutes between two times of day as the report counts them.
 int reportedMinutes(const QTime& start, const QTime& end);

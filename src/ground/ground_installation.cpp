@@ -1,62 +1,32 @@
 #include "ground/ground_installation.h"
 
-#include "ground/ground_generation.h"
-#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/tropical_files.h"
 #include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
+#include "sets/set_names.h"
 
 namespace morvane {
 
 namespace {
 
-const QString defaultSet = u"Default"_s;
-
 // The refusal speaks of a sky set: the message's own word.
 const InstallationKind groundKind{
-    u"Ground"_s,
     u"Morvane has detected more than one selection for installation.  You can only select one sky texture "
     "set to be installed at any one time.  Please check your selection and try again!."_s,
-    u"Would you like Morvane to install a matching Sky Texture set?"_s,
-    Screen::frm_MVTextures,
-    [](Session& session) -> bool& { return session.state<GroundSelection>().RefreshGroundList; },
+    // Without any sky set no sky is touched; a sky that asks for its ground has no such way out. Wanted.
+    MatchOffer{u"Would you like Morvane to install a matching Sky Texture set?"_s, &WeatherKinds::sky, true},
     2};
-
-class GroundKindOfWeather : public WeatherKind {
-    std::int32_t count(Session& session) const override { return loadedGroundSets(session).Count(); }
-    std::vector<ActivatedSet> activated(Session& session) const override {
-        return activatedSets(loadedGroundSets(session));
-    }
-    bool installInside(Session& session, Job& job, const QString& name) const override {
-        session.state<GroundSelection>().SelectedGroundSet = name;
-        return GroundInstallation(session).installInside(job);
-    }
-};
 
 } // namespace
 
-const WeatherKind& groundKindOfWeather() {
-    static const GroundKindOfWeather kind;
-    return kind;
-}
-
-GroundInstallation::GroundInstallation(Session& session) : SetInstallation(session, groundKind) {}
+GroundInstallation::GroundInstallation(Session& session)
+    : SetInstallation(session, setKind<GroundKind>(), groundKind) {}
 
 bool GroundInstallation::installSelectedSet() {
     if (!refreshGroundSets(session_)) return false;
-    return session_.state<GroundSelection>().SelectedGroundSet == defaultSet ? installDefaultSet()
-                                                                             : installGeneratedSet();
-}
-
-bool GroundInstallation::installMatch(Job& job) {
-    const WeatherKind& skies = *session_.state<WeatherKinds>().sky;
-    // Without any sky set no sky is touched; a sky that asks for its ground has no such way out. Wanted.
-    if (skies.count(session_) == 0) return true;
-    const QStringList names =
-        namesForCover(skies.activated(session_), session_.state<GroundSelection>().SelectedGroundCover);
-    // This draw reaches the last of the skies; a sky's draw of its ground stops short of the last. Wanted.
-    return skies.installInside(session_, job, drawName(session_, names, names.size()));
+    return session_.state<GroundSelection>().SelectedGroundSet == defaultSetName ? installDefaultSet()
+                                                                                 : installGeneratedSet();
 }
 
 std::vector<FileCopy> GroundInstallation::copyListOfSet() {
@@ -113,7 +83,7 @@ bool GroundInstallation::installDefaultSet() {
     const std::vector<FileCopy> copies = copyListOfDefault();
     showProgress();
     showCover(nominal.word + nominal.tag);
-    if (!loadedGroundSets(session_).markInstalled(defaultSet)) return false;
+    if (!loadedGroundSets(session_).markInstalled(defaultSetName)) return false;
 
     SimulatorCopier copier(session_);
     prepare(copier, copies, &nominal);

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "ground/ground_selection.h"
 #include "sets/set_installation.h"
-#include "sets/weather_kinds.h"
 
 namespace morvane {
 
@@ -15,10 +13,6 @@ public:
     bool installTextureSet(bool automatic) { return install(automatic); }
 
 private:
-    qsizetype selectedRowCount() const override {
-        return session_.state<GroundSelection>().selectedRows.size();
-    }
-    bool installMatch(Job& job) override;
     bool installSelectedSet() override;
 
     std::vector<FileCopy> copyListOfSet();
@@ -30,8 +24,5 @@ private:
     FilePath worldTexture() const { return session_.FSPath / u"Scenery\\WORLD\\Texture"; }
     FilePath utEurLcTexture() const { return session_.FSPath / u"Scenery\\UTEurLC\\Texture"; }
 };
-
-/// What a sky set asks of the ground's.
-const WeatherKind& groundKindOfWeather();
 
 } // namespace morvane

@@ -1,23 +1,38 @@
 #include "ground/ground_sets.h"
 
-#include "sets/set_collections.h"
+#include "ground/ground_generation.h"
+#include "ground/ground_installation.h"
+#include "sets/set_actions.h"
 
 namespace morvane {
 
-clsTextureSets& loadedGroundSets(Session& session) {
-    return loadedCollection(session, session.rows<clsTextureSets>());
+namespace {
+
+constexpr qsizetype descriptionLength = 255;
+
+} // namespace
+
+const SetKindFacts& GroundKind::facts() {
+    static const SetKindFacts facts{
+        .word = u"Ground"_s,
+        .folder = u"Texture Sets"_s,
+        .subfolders = {u"Texture"_s, u"UTEurLC"_s, u"Dutch"_s},
+        .listScreen = Screen::frm_MVTextures,
+        .refusalBreak = u"\n"_s,
+        .protectsInstalled = true,
+    };
+    return facts;
 }
 
-bool refreshGroundSets(Session& session) {
-    return clsTextureSets::reload(session);
+void GroundKind::takeInHand(GroundSelection& selection, const clsTextureSet& set) {
+    selection.SelectedGroundKey = listKeyOf(set);
+    selection.SelectedGroundSet = set.TextureSet;
+    selection.SelectedGroundActivated = set.Actvated == flagText(true);
+    selection.SelectedGroundCover = set.CloudCover;
+    selection.SelectedGroundDescription = set.Description.left(descriptionLength);
+    selection.colours = {};
 }
 
-std::shared_ptr<const clsTextureSet> findGroundSet(Session& session, const QString& name) {
-    return findTrimmedName(loadedGroundSets(session), name);
-}
-
-std::vector<ActivatedSet> activatedSets(const clsTextureSets& sets) {
-    return activatedSets(sets, &clsTextureSet::Actvated);
-}
+template struct SetActions<GroundKind>;
 
 } // namespace morvane

@@ -1,23 +1,36 @@
 #pragma once
 
-#include "core/session.h"
+#include "ground/ground_selection.h"
 #include "ground/texture_sets.h"
-#include "sets/set_choice.h"
+#include "sets/recoloured_kind.h"
+#include "sets/set_kind.h"
 
 namespace morvane {
 
-/// The session's ground sets, loaded when they are not there yet. Raises "The database cannot be used" when
-/// they cannot be had at all.
-clsTextureSets& loadedGroundSets(Session& session);
+class GroundGeneration;
+class GroundInstallation;
 
-/// The same, read anew: records in memory stay as they were loaded, so whoever decides by a flag or writes
-/// rows back asks for fresh ones. False after the message of a failure.
-bool refreshGroundSets(Session& session);
+/// The ground as a kind of set.
+struct GroundKind : KindOfSet<GroundKind, clsTextureSet, GroundSelection> {
+    using Activation = GroundGeneration;
+    using Installation = GroundInstallation;
 
-/// The record of the set of that name, both trimmed; nothing when there is none.
-std::shared_ptr<const clsTextureSet> findGroundSet(Session& session, const QString& name);
+    static const SetKindFacts& facts();
+    static constexpr auto nameInHand = &GroundSelection::SelectedGroundSet;
+    static constexpr auto descriptionInHand = &GroundSelection::SelectedGroundDescription;
+    static constexpr auto refreshList = &GroundSelection::RefreshGroundList;
+    static constexpr bool hasTicks = false;
+    static constexpr bool activatesAgain = false;
+    static QString coverInHand(const GroundSelection& selection) { return selection.SelectedGroundCover; }
+    static void takeInHand(GroundSelection& selection, const clsTextureSet& set);
+};
 
-/// Those whose activation is exactly "True", in the order of the collection.
-std::vector<ActivatedSet> activatedSets(const clsTextureSets& sets);
+// Every kind's calls under the names of the ground.
+inline constexpr auto loadedGroundSets = loadedSets<GroundKind>;
+inline constexpr auto refreshGroundSets = refreshSets<GroundKind>;
+inline constexpr auto findGroundSet = findSet<GroundKind>;
+inline constexpr auto groundSetFolder = setFolder<GroundKind>;
+inline constexpr auto clickGroundRow = clickSetNamed<GroundKind>;
+inline constexpr auto loadGroundSelection = loadSelection<GroundKind>;
 
 } // namespace morvane

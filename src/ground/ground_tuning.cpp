@@ -1,23 +1,13 @@
 #include "ground/ground_tuning.h"
 
-#include "core/failure_report.h"
-#include "core/flag_text.h"
-#include "core/numbers.h"
-#include "ground/ground_generation.h"
 #include "ground/ground_randomiser.h"
-#include "ground/ground_selection.h"
-#include "ground/ground_sets.h"
 #include "ground/sample_textures.h"
 #include "sets/cloud_cover.h"
-#include "sets/colour_settings.h"
-#include "sets/favourite_name.h"
 #include "sets/options_in_force.h"
-#include "sets/slider_values.h"
 
 namespace morvane {
 
-GroundTuning::GroundTuning(Session& session)
-    : session_(session), tuningColourise_(session, session.state<GroundSelection>().colours) {
+GroundTuning::GroundTuning(Session& session) : TextureTuning(session) {
     optCloudCover(0);
 }
 
@@ -29,8 +19,8 @@ void GroundTuning::optCloudCover(int index) {
 }
 
 bool GroundTuning::openDefaultSample() {
-    return tuningColourise_.openTexImage(sampleTexture(session_.AppPath, defaultSample, u"summer"_s,
-                                                       session_.state<OptionsInForce>().IsDutch));
+    return sample_.openImage(sampleTexture(session_.AppPath, defaultSample, u"summer"_s,
+                                           session_.state<OptionsInForce>().IsDutch));
 }
 
 bool GroundTuning::openSample() {
@@ -41,49 +31,24 @@ bool GroundTuning::openSample() {
     if (!choice.sampleConfirmed) return false;
     const FilePath sample = sampleTexture(session_.AppPath, choice.selectedTextureType, choice.selectedSeason,
                                           session_.state<OptionsInForce>().IsDutch);
-    return !sample.isEmpty() && tuningColourise_.openTexImage(sample);
+    return !sample.isEmpty() && sample_.openImage(sample);
 }
 
-void GroundTuning::showColourPreview(const SliderValues& sliders) {
-    session_.state<GroundSelection>().colours = effectiveColours(sliders);
-    tuningColourise_.TsProcess();
-}
-
-SliderValues GroundTuning::randomGroundValues() {
+SliderValues GroundTuning::randomValues() {
     SliderValues sliders{};
     getRandomGroundValues(session_, tuningCloudNumber_, sliders);
     return sliders;
 }
 
-void GroundTuning::newFavTexture() {
-    if (askFavouriteName(session_, FavouriteKind::ground))
-        saveFavourite(session_.state<FavouriteAnswer>().favName);
+QString GroundTuning::sampleCaption() const {
+    const GroundSampleChoice& choice = session_.state<GroundSampleChoice>();
+    return captionOf(sampleTextureTypes(), choice.selectedTextureType) + u", "_s +
+           captionOf(sampleSeasons(), choice.selectedSeason);
 }
 
-/// The row is written before the folders: when they cannot be made it stands.
-void GroundTuning::saveFavourite(const QString& name) {
-    reportFailures(session_.user, {}, [&] {
-        clsTextureSet record;
-        record.ColorSettings = colourSettingsText(session_.state<GroundSelection>().colours);
-        record.TextureSet = trimmedBlanks(name);
-        record.Actvated = flagText(false); // it gets its files by activation only
-        record.Description = trimmedBlanks(session_.state<FavouriteAnswer>().favDescription);
-        record.CloudCover = tuningCloudWord_;
-        record.IsDutch = true; // as every set, whatever the switch says
-        record.IsNew = true;
-        if (!loadedGroundSets(session_).UpdateTextureSet(record)) return;
-        session_.state<GroundSelection>().RefreshGroundList = true;
-        session_.state<GroundSelection>().madeSet = record.TextureSet;
-        loadGroundSelection(session_, u"Key:"_s + QString::number(record.TsID));
-        makeSetFolders(record.TextureSet);
-        session_.user.refreshScreen(Screen::frm_MVTextures);
-        session_.user.showScreen(Screen::frm_MVTextures);
-    });
-}
-
-void GroundTuning::makeSetFolders(const QString& name) {
-    for (const QString& subfolder : groundSubfolders)
-        session_.files.makeFolder(groundSetFolder(session_, name).child(subfolder));
+void GroundTuning::complete(clsTextureSet& record) const {
+    record.CloudCover = tuningCloudWord_;
+    record.IsDutch = true; // as every set, whatever the switch says
 }
 
 } // namespace morvane

@@ -1,22 +1,19 @@
 #pragma once
 
-#include "sets/slider_values.h"
-#include "sets/texture_sample.h"
+#include "ground/ground_sets.h"
+#include "sets/texture_tuning.h"
 
 #include <cstdint>
 
 namespace morvane {
 
-/// The work behind the colour page of the ground: a sample texture in the colours of six sliders, and their
-/// saving as a favourite. The sliders and the painting are the page's.
-class GroundTuning {
+/// The colour page of the ground; what ground and night have in common is TextureTuning.
+class GroundTuning : public TextureTuning<GroundKind> {
 public:
     explicit GroundTuning(Session& session);
 
     std::int16_t tuningCloudNumber() const { return tuningCloudNumber_; }
     const QString& tuningCloudWord() const { return tuningCloudWord_; }
-    const cDIBSection& tuningSourceDib() const { return tuningColourise_.sourceDib(); }
-    const cDIBSection& tuningResultDib() const { return tuningColourise_.resultDib(); }
 
     /// The cloud cover at that place of the page, 0 to 4. Neither the sliders nor the sample change; any
     /// other index raises "Subscript out of range".
@@ -28,25 +25,17 @@ public:
     /// last preview. False when none was loaded: after a cancel, a failure that was told, or a choice without
     /// a sample.
     bool openSample();
-
-    /// Recolours the sample by the sliders and makes their effective values the session's colours, so that
-    /// they are the ones that a favourite is saved with.
-    void showColourPreview(const SliderValues& sliders);
     /// Slider values drawn for the cloud cover; the page sets its sliders to them and asks for one preview.
     /// Lets events run.
-    SliderValues randomGroundValues();
-
-    /// Asks for name and description (frm_AddFav) and saves the favourite.
-    void newFavTexture();
+    SliderValues randomValues();
+    /// What the page calls the sample in hand.
+    QString sampleCaption() const;
 
 private:
-    void saveFavourite(const QString& name);
-    void makeSetFolders(const QString& name);
+    void complete(clsTextureSet& record) const override;
 
-    Session& session_;
     std::int16_t tuningCloudNumber_ = 1;
     QString tuningCloudWord_;
-    TextureSample tuningColourise_;
 };
 
 } // namespace morvane

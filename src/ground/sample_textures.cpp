@@ -83,11 +83,8 @@ const std::vector<SampleChoice>& sampleSeasons() {
 FilePath sampleTexture(const FilePath& appPath, const QString& key, const QString& season, bool isDutch) {
     const SampleFiles* sample = isDutch ? findSample(dutchSamples, key) : nullptr;
     if (!sample) sample = findSample(worldSamples, key);
-    const auto& seasons = sampleSeasons();
-    const auto wanted = std::find_if(seasons.begin(), seasons.end(),
-                                     [&season](const SampleChoice& entry) { return entry.key == season; });
-    if (!sample || wanted == seasons.end()) return {};
-    const auto index = static_cast<std::size_t>(wanted - seasons.begin());
+    const std::size_t index = indexOfSample(sampleSeasons(), season);
+    if (!sample || index == sampleSeasons().size()) return {};
     return appPath / u"Resources" / sample->folder / sample->files[index];
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session.h"
+#include "ground/catalogue_table.h"
 #include "sets/catalogue_file.h"
 
 #include <QHash>
@@ -14,22 +15,6 @@ struct CatalogueFlags {
     bool popSpring = false, popSummer = false, popFall = false, popWinter = false;
     std::array<bool, 15> categories{};
 };
-
-/// One row of the fixed table: which name patterns a category has, and under which resource row they lie.
-struct CatalogueCategory {
-    int number;
-    const char16_t* resourceName;
-    const char16_t* tempPath;
-    const char16_t* patterns; ///< separated by blanks, in the order of the walk
-    bool extraWinter;         ///< walks the winter files once more, whatever the winter flag says
-};
-
-/// The two classes of the add-on's industrial areas that have base images of their own; category 13 walks
-/// generic ones besides.
-inline constexpr char16_t industrialPatterns[] = u"034*2 038*2";
-
-/// All fifteen, in order. Category 13 is walked in runs of its own and has no patterns here.
-const std::array<CatalogueCategory, 15>& catalogueTable();
 
 /// Lists the base files of a ground set: no file name is kept anywhere, the folders decide what a set holds.
 class TextureCatalogue {

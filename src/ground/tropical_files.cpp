@@ -1,6 +1,7 @@
 #include "ground/tropical_files.h"
 
-#include "ground/ground_generation.h"
+#include "ground/ground_sets.h"
+#include "sets/set_names.h"
 
 namespace morvane {
 
@@ -23,7 +24,7 @@ std::vector<FilePath> tropicalFiles(Session& session, TropicalForm form, const Q
     };
     const FilePath generic = session.AppPath / u"GENERIC WORLD";
     const FilePath source =
-        groundName == u"Default" ? generic : groundSetFolder(session, groundName) / u"Texture";
+        groundName == defaultSetName ? generic : groundSetFolder(session, groundName) / u"Texture";
     for (const QString& ending : {u"sp*.bmp"_s, u"su*.bmp"_s, u"fa*.bmp"_s, u"wi*.bmp"_s})
         collect(source, ending);
     collect(generic, u"an*.agn"_s);

@@ -8,9 +8,9 @@ namespace morvane {
 namespace {
 
 /// Takes one colour out of a pixel value and stretches it to eight bits.
-class Channel {
+class MaskedColour {
 public:
-    Channel(std::uint32_t mask, int pixelBits) : mask_(mask) {
+    MaskedColour(std::uint32_t mask, int pixelBits) : mask_(mask) {
         if (pixelBits == 16 && mask > 0xFFFF) refusePicture(u"odd colour masks");
         if (mask == 0) return; // this colour is not in the picture
         const int lowest = std::countr_zero(mask), count = std::popcount(mask);
@@ -43,7 +43,7 @@ Picture readMaskedRows(const BitmapHeader& header, Bytes file) {
     const Bytes stored = storedRows(header, file);
     const bool isWide = header.bitsPerPixel == 32;
     const std::size_t pixelSize = isWide ? 4 : 2;
-    const Channel red(header.masks[0], header.bitsPerPixel), green(header.masks[1], header.bitsPerPixel),
+    const MaskedColour red(header.masks[0], header.bitsPerPixel), green(header.masks[1], header.bitsPerPixel),
         blue(header.masks[2], header.bitsPerPixel);
     Picture picture = blackPicture(header);
     for (int y = 0; y < header.height; ++y) {

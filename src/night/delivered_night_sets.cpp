@@ -3,12 +3,13 @@
 #include "core/literals.h"
 #include "core/row_set.h"
 #include "core/store.h"
+#include "sets/set_names.h"
 
 namespace morvane {
 
 void addDeliveredNightSets(Store& store) {
     const QString sets[][3] = {
-        {u"Default"_s, u"0:0:0:0:0:0"_s, u"Default Morvane Night Texture Set with no extra settings"_s},
+        {defaultSetName, u"0:0:0:0:0:0"_s, u"Default Morvane Night Texture Set with no extra settings"_s},
         {u"Green Bias"_s, u"13:0:16:18.2:-8.4:0"_s, u"Morvane created set with green bias"_s},
         {u"Red Bias"_s, u"0:13:-5.2:0:-6.6:0"_s, u"Morvane created set with red bias"_s},
         {u"Orange Bias"_s, u"20:10:0:0:-6.6:0"_s, u"Morvane created set with orange bias"_s},

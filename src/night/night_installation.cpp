@@ -1,8 +1,8 @@
 #include "night/night_installation.h"
 
-#include "night/night_selection.h"
 #include "night/night_sets.h"
 #include "sets/options_in_force.h"
+#include "sets/set_names.h"
 
 namespace morvane {
 
@@ -10,13 +10,9 @@ namespace {
 
 // The refusal speaks of a sky set, as the ground's: the message's own word.
 const InstallationKind nightKind{
-    u"Night"_s,
     u"Morvane has detected more than one selection for installation.  You can only select one sky texture "
     "set to be installed at any one time.  Please check your selection and try again!."_s,
-    {},
-    Screen::frm_NightTextures,
-    [](Session& session) -> bool& { return session.state<NightSelection>().RefreshNightList; },
-    2};
+    std::nullopt, 2};
 
 FilePath worldTexture(const Session& session) {
     return session.FSPath / u"Scenery\\WORLD\\Texture";
@@ -24,7 +20,8 @@ FilePath worldTexture(const Session& session) {
 
 } // namespace
 
-NightInstallation::NightInstallation(Session& session) : SetInstallation(session, nightKind) {}
+NightInstallation::NightInstallation(Session& session)
+    : SetInstallation(session, setKind<NightKind>(), nightKind) {}
 
 std::vector<FileCopy> NightInstallation::copyListOfSet() {
     const FilePath set = nightSetFolder(session_, session_.state<NightSelection>().SelectedNightSet);
@@ -52,7 +49,7 @@ std::vector<FileCopy> NightInstallation::copyListOfDefault() {
 bool NightInstallation::installSelectedSet() {
     if (!refreshNightSets(session_)) return false;
     const QString name = session_.state<NightSelection>().SelectedNightSet;
-    const std::vector<FileCopy> copies = name == u"Default" ? copyListOfDefault() : copyListOfSet();
+    const std::vector<FileCopy> copies = name == defaultSetName ? copyListOfDefault() : copyListOfSet();
     showProgress();
     SimulatorCopier copier(session_);
     prepare(copier, copies, nullptr);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "night/night_selection.h"
 #include "sets/set_installation.h"
 
 namespace morvane {
@@ -11,13 +10,11 @@ class NightInstallation : public SetInstallation {
 public:
     explicit NightInstallation(Session& session);
 
-    /// Refuses several rows; see SetInstallation::install.
+    /// By hand, whoever asks: several rows are refused.
+    bool install(bool) { return SetInstallation::install(false); }
     void installNightTextureSet() { install(false); }
 
 private:
-    qsizetype selectedRowCount() const override {
-        return session_.state<NightSelection>().selectedRows.size();
-    }
     bool installSelectedSet() override;
     std::vector<FileCopy> copyListOfSet();
     std::vector<FileCopy> copyListOfDefault();

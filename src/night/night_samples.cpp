@@ -1,7 +1,5 @@
 #include "night/night_samples.h"
 
-#include <algorithm>
-
 namespace morvane {
 
 namespace {
@@ -24,10 +22,9 @@ const std::vector<SampleChoice>& nightSamples() {
 }
 
 FilePath nightSampleTexture(const FilePath& appPath, const QString& key) {
-    const auto& samples = nightSamples();
-    const auto found = std::ranges::find(samples, key, &SampleChoice::key);
-    if (found == samples.end()) return {};
-    return appPath / u"Resources\\GENERIC WORLD NIGHT" / sampleFiles[found - samples.begin()];
+    const std::size_t index = indexOfSample(nightSamples(), key);
+    if (index == nightSamples().size()) return {};
+    return appPath / u"Resources\\GENERIC WORLD NIGHT" / sampleFiles[index];
 }
 
 } // namespace morvane

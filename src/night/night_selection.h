@@ -1,30 +1,16 @@
 #pragma once
 
-#include "core/session.h"
 #include "imaging/colour_values.h"
-
-#include <QStringList>
+#include "sets/set_selection.h"
 
 namespace morvane {
 
 /// The night set in hand, as that of the ground.
-struct NightSelection {
-    bool RefreshNightList = false; ///< the list is to be filled anew when it is shown
+struct NightSelection : SetSelection {
+    bool RefreshNightList = false;
     QString SelectedNightSet;
     QString SelectedNightDescription;
     ColourValues colours;
-    /// Names of all rows that are selected in the list; the row in hand alone when it was clicked alone.
-    QStringList selectedRows;
-    QString madeSet; ///< made just now: the list selects it, as if it had been clicked, and forgets it
 };
-
-/// Takes the set behind a list key ("Key:" and the NtsID) into the session's selection: name, description,
-/// colours. A screen repaints its sample afterwards. False after a failure was told; a set whose colours are
-/// damaged is in hand all the same, with neutral ones.
-bool loadNightSelection(Session& session, const QString& listKey);
-
-/// Takes the set of that name in hand, its row as the only one selected; the colours are left neutral. False
-/// when there is no set of that name.
-bool clickNightRow(Session& session, const QString& name);
 
 } // namespace morvane

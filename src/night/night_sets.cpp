@@ -1,23 +1,30 @@
 #include "night/night_sets.h"
 
-#include "sets/set_collections.h"
+#include "night/night_generation.h"
+#include "night/night_installation.h"
+#include "sets/set_actions.h"
 
 namespace morvane {
 
-clsNightTextureSets& loadedNightSets(Session& session) {
-    return loadedCollection(session, session.rows<clsNightTextureSets>());
+const SetKindFacts& NightKind::facts() {
+    static const SetKindFacts facts{
+        .word = u"Night"_s,
+        .folder = u"Night Texture Sets"_s,
+        .subfolders = {u"Texture"_s, u"Dutch"_s}, // the add-on's areas have no lights of their own
+        .listScreen = Screen::frm_NightTextures,
+        .refusalBreak = u"\n"_s,
+        // Unlike on the ground the installed set may go when it stands alone, and not among several. Wanted.
+        .protectsInstalled = false,
+    };
+    return facts;
 }
 
-bool refreshNightSets(Session& session) {
-    return clsNightTextureSets::reload(session);
+void NightKind::takeInHand(NightSelection& selection, const clsNightTextureSet& set) {
+    selection.SelectedNightSet = set.TextureSet;
+    selection.SelectedNightDescription = set.Description;
+    selection.colours = {};
 }
 
-std::shared_ptr<const clsNightTextureSet> findNightSet(Session& session, const QString& name) {
-    return findTrimmedName(loadedNightSets(session), name);
-}
-
-FilePath nightSetFolder(const Session& session, const QString& name) {
-    return (session.AppPath / u"Night Texture Sets").child(name);
-}
+template struct SetActions<NightKind>;
 
 } // namespace morvane

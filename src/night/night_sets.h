@@ -1,24 +1,36 @@
 #pragma once
 
-#include "core/session.h"
+#include "night/night_selection.h"
 #include "night/night_texture_sets.h"
+#include "sets/recoloured_kind.h"
+#include "sets/set_kind.h"
 
 namespace morvane {
 
-/// The session's night sets, loaded when they are not there yet. Raises "The database cannot be used" when
-/// they cannot be had at all.
-clsNightTextureSets& loadedNightSets(Session& session);
+class NightGeneration;
+class NightInstallation;
 
-/// The same, read anew: records in memory stay as they were loaded. False after the message of a failure.
-bool refreshNightSets(Session& session);
+/// The night as a kind of set. The weather chooses none.
+struct NightKind : KindOfSet<NightKind, clsNightTextureSet, NightSelection> {
+    using Activation = NightGeneration;
+    using Installation = NightInstallation;
 
-/// The record of the set of that name, both trimmed; nothing when there is none.
-std::shared_ptr<const clsNightTextureSet> findNightSet(Session& session, const QString& name);
+    static const SetKindFacts& facts();
+    static constexpr auto nameInHand = &NightSelection::SelectedNightSet;
+    static constexpr auto descriptionInHand = &NightSelection::SelectedNightDescription;
+    static constexpr auto refreshList = &NightSelection::RefreshNightList;
+    static constexpr bool hasTicks = false;
+    static constexpr bool activatesAgain = false;
+    static QString coverInHand(const NightSelection&) { return {}; }
+    static void takeInHand(NightSelection& selection, const clsNightTextureSet& set);
+};
 
-/// The folder of the named night set. Raises "Path not found" for a name that is no single folder name.
-FilePath nightSetFolder(const Session& session, const QString& name);
-
-/// Subfolders of a night set's folder: the add-on's areas have no lights of their own.
-inline const QStringList nightSubfolders{u"Texture"_s, u"Dutch"_s};
+// Every kind's calls under the names of the night.
+inline constexpr auto loadedNightSets = loadedSets<NightKind>;
+inline constexpr auto refreshNightSets = refreshSets<NightKind>;
+inline constexpr auto findNightSet = findSet<NightKind>;
+inline constexpr auto nightSetFolder = setFolder<NightKind>;
+inline constexpr auto clickNightRow = clickSetNamed<NightKind>;
+inline constexpr auto loadNightSelection = loadSelection<NightKind>;
 
 } // namespace morvane

@@ -1,13 +1,6 @@
 #include "night/night_tuning.h"
 
-#include "core/failure_report.h"
-#include "core/flag_text.h"
-#include "core/numbers.h"
 #include "night/night_samples.h"
-#include "night/night_selection.h"
-#include "night/night_sets.h"
-#include "sets/colour_settings.h"
-#include "sets/favourite_name.h"
 
 namespace morvane {
 
@@ -32,18 +25,9 @@ const std::array<LightsBias, 4>& lightsBiases() {
     return biases;
 }
 
-void getRandomNightValues(Session& session, SliderValues& values) {
-    values.fill(0);
-    for (std::size_t field = 0; field < values.size(); ++field)
-        drawOne(session, ranges[field].low, ranges[field].high, values[field]);
-}
-
-NightTuning::NightTuning(Session& session)
-    : session_(session), colourise_(session, session.state<NightSelection>().colours) {}
-
 bool NightTuning::openDefaultSample() {
     session_.state<NightSampleChoice>().selectedNightTexture = firstNightSample;
-    return colourise_.openTexImage(nightSampleTexture(session_.AppPath, firstNightSample));
+    return sample_.openImage(nightSampleTexture(session_.AppPath, firstNightSample));
 }
 
 bool NightTuning::openSample() {
@@ -52,37 +36,18 @@ bool NightTuning::openSample() {
     session_.user.showModal(Screen::frm_SelectNightTexture);
     if (!choice.sampleConfirmed) return false;
     const FilePath sample = nightSampleTexture(session_.AppPath, choice.selectedNightTexture);
-    return !sample.isEmpty() && colourise_.openTexImage(sample);
+    return !sample.isEmpty() && sample_.openImage(sample);
 }
 
-void NightTuning::showColourPreview(const SliderValues& sliders) {
-    session_.state<NightSelection>().colours = effectiveColours(sliders);
-    colourise_.TsProcess();
+SliderValues NightTuning::randomValues() {
+    SliderValues values{};
+    for (std::size_t field = 0; field < values.size(); ++field)
+        drawOne(session_, ranges[field].low, ranges[field].high, values[field]);
+    return values;
 }
 
-void NightTuning::newFavNightTexture() {
-    if (askFavouriteName(session_, FavouriteKind::night))
-        saveNightFavourite(session_.state<FavouriteAnswer>().favName);
-}
-
-/// The row is written before the folders: when they cannot be made it stands.
-void NightTuning::saveNightFavourite(const QString& name) {
-    reportFailures(session_.user, {}, [&] {
-        clsNightTextureSet record;
-        record.ColorSettings = colourSettingsText(session_.state<NightSelection>().colours);
-        record.TextureSet = trimmedBlanks(name);
-        record.Actvated = flagText(false); // it gets its files by activation only
-        record.Description = trimmedBlanks(session_.state<FavouriteAnswer>().favDescription);
-        record.IsNew = true;
-        if (!loadedNightSets(session_).UpdateNightTextureSet(record)) return;
-        session_.state<NightSelection>().RefreshNightList = true;
-        session_.state<NightSelection>().madeSet = record.TextureSet;
-        loadNightSelection(session_, u"Key:"_s + QString::number(record.NtsID));
-        for (const QString& subfolder : nightSubfolders)
-            session_.files.makeFolder(nightSetFolder(session_, record.TextureSet).child(subfolder));
-        session_.user.refreshScreen(Screen::frm_NightTextures);
-        session_.user.showScreen(Screen::frm_NightTextures);
-    });
+QString NightTuning::sampleCaption() const {
+    return captionOf(nightSamples(), session_.state<NightSampleChoice>().selectedNightTexture);
 }
 
 } // namespace morvane

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sets/slider_values.h"
-#include "sets/texture_sample.h"
+#include "night/night_sets.h"
+#include "sets/texture_tuning.h"
 
 namespace morvane {
 
@@ -14,36 +14,20 @@ struct LightsBias {
 /// The four options of the colour page, in its order.
 const std::array<LightsBias, 4>& lightsBiases();
 
-/// Draws all six slider values, one range a field for every night.
-void getRandomNightValues(Session& session, SliderValues& values);
-
-/// The work behind the colour page of the night: a sample texture in the colours of six sliders, and their
-/// saving as a favourite. The sliders and the painting are the page's.
-class NightTuning {
+/// The colour page of the night; what ground and night have in common is TextureTuning.
+class NightTuning : public TextureTuning<NightKind> {
 public:
-    explicit NightTuning(Session& session);
-
-    const cDIBSection& sourceDib() const { return colourise_.sourceDib(); }
-    const cDIBSection& resultDib() const { return colourise_.resultDib(); }
+    explicit NightTuning(Session& session) : TextureTuning(session) {}
 
     /// Loads the sample that a page shows at first.
     bool openDefaultSample();
     /// Asks for a sample (frm_SelectNightTexture) and loads it, in the colours of the last preview. False
     /// when none was loaded: after a cancel or a failure that was told.
     bool openSample();
-
-    /// Recolours the sample by the sliders and makes their effective values the session's colours, so that
-    /// they are the ones that a favourite is saved with.
-    void showColourPreview(const SliderValues& sliders);
-
-    /// Asks for name and description (frm_AddFav) and saves the favourite.
-    void newFavNightTexture();
-
-private:
-    void saveNightFavourite(const QString& name);
-
-    Session& session_;
-    TextureSample colourise_;
+    /// Slider values drawn for any night. Lets events run.
+    SliderValues randomValues();
+    /// What the page calls the sample in hand.
+    QString sampleCaption() const;
 };
 
 } // namespace morvane

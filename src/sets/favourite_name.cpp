@@ -2,12 +2,9 @@
 
 namespace morvane {
 
-bool askFavouriteName(Session& session, FavouriteKind kind) {
+bool askFavouriteName(Session& session) {
     FavouriteAnswer& answer = session.state<FavouriteAnswer>();
-    answer.favKind = kind;
-    answer.favName.clear();
-    answer.favDescription.clear();
-    answer.favConfirmed = false;
+    answer = {};
     session.user.showModal(Screen::frm_AddFav);
     return answer.favConfirmed;
 }

@@ -13,4 +13,9 @@ struct SampleChoice {
 
 using SampleChoices = std::vector<SampleChoice>;
 
+/// Position of the choice of that key; behind the last when there is none.
+std::size_t indexOfSample(const SampleChoices& choices, const QString& key);
+/// Its caption; empty when there is none.
+QString captionOf(const SampleChoices& choices, const QString& key);
+
 } // namespace morvane

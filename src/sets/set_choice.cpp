@@ -2,6 +2,7 @@
 
 #include "core/numbers.h"
 #include "sets/no_repeat.h"
+#include "sets/set_names.h"
 
 namespace morvane {
 
@@ -14,12 +15,11 @@ QStringList namesForCover(const std::vector<ActivatedSet>& sets, const QString& 
 
 int getRandomIndex(Session& session, int upper) {
     clsNoRepeat draws(session.user, session.random);
-    const auto numbers = draws.Non_Repeating_Numbers(1, upper, 0);
-    return numbers ? numbers->front() : 0;
+    return draws.Non_Repeating_Numbers(upper, 0).value_or(0);
 }
 
 QString drawName(Session& session, const QStringList& names, qsizetype upper) {
-    if (names.isEmpty()) return u"Default"_s;
+    if (names.isEmpty()) return defaultSetName;
     return names.size() == 1 ? names.front() : names[getRandomIndex(session, static_cast<int>(upper))];
 }
 

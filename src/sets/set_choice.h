@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/flag_text.h"
-#include "core/keyed_collection.h"
 #include "core/session.h"
+#include "sets/stored_rows.h"
 
 #include <vector>
 
@@ -14,12 +14,21 @@ struct ActivatedSet {
     QString cover;
 };
 
+/// The cover of a set's row; empty for a kind that has nothing to do with the weather.
+template <class Record>
+QString coverOf(const Record& set) {
+    if constexpr (requires { set.CloudCover; })
+        return set.CloudCover;
+    else
+        return {};
+}
+
 /// The sets whose activation is exactly "True", in the order of the collection.
 template <class Record>
-std::vector<ActivatedSet> activatedSets(const KeyedCollection<Record>& sets, QString Record::*activated) {
+std::vector<ActivatedSet> activatedSets(const KeyedCollection<Record>& sets) {
     std::vector<ActivatedSet> found;
     for (const auto& set : sets)
-        if ((*set).*activated == flagText(true)) found.push_back({nameOf(*set), set->CloudCover});
+        if (activationOf(*set) == flagText(true)) found.push_back({nameOf(*set), coverOf(*set)});
     return found;
 }
 

@@ -13,7 +13,7 @@ bool SetInstallation::install(bool automatic) {
         Job job(session_, Job::Start::behindQuestions);
         outcome = run(job, automatic);
     }
-    const bool offersStart = !automatic && !session_.CommandLineRun && !kind_.matchQuestion.isEmpty();
+    const bool offersStart = !automatic && !session_.CommandLineRun && kind_.match.has_value();
     // The job has ended by now: what the user does before the answer is no part of it.
     return outcome == Outcome::installed && offersStart;
 }
@@ -21,7 +21,7 @@ bool SetInstallation::install(bool automatic) {
 SetInstallation::Outcome SetInstallation::run(Job& job, bool automatic) {
     filesCopied_ = 0;
     Outcome outcome = Outcome::failed;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         if (!automatic && !prepareByHand(job)) return;
         if (!job.begin()) return;
         outcome = installSelectedSet() ? Outcome::installed : Outcome::storeRefused;
@@ -29,23 +29,31 @@ SetInstallation::Outcome SetInstallation::run(Job& job, bool automatic) {
     if (outcome != Outcome::installed || session_.CommandLineRun) return outcome;
     session_.user.refreshScreen(Screen::frm_Main);
     if (automatic) return outcome;
-    kind_.refreshList(session_) = true;
-    session_.user.refreshScreen(kind_.listScreen);
+    set_.inHand(session_).refreshList = true;
+    session_.user.refreshScreen(set_.facts.listScreen);
     return outcome;
 }
 
 bool SetInstallation::prepareByHand(Job& job) {
-    if (selectedRowCount() > 1) {
+    if (set_.inHand(session_).selection.selectedRows.size() > 1) {
         // The title is misspelt: the message's own word.
         session_.user.showMessage({MessageKind::exclamation, u"Multiple Selection Detetected!"_s,
                                    kind_.severalRowsText, true, false, false});
         return false;
     }
-    if (kind_.matchQuestion.isEmpty()) return true;
+    if (!kind_.match) return true;
     // Both questions stand under the ground's title, also the one that offers a sky.
     const bool isMatchWanted = session_.user.ask(
-        Question::setInstall, u"Install Matching Ground Texture Set?"_s, kind_.matchQuestion);
-    return !isMatchWanted || installMatch(job);
+        Question::setInstall, u"Install Matching Ground Texture Set?"_s, kind_.match->question);
+    return !isMatchWanted || installMatch(job, *kind_.match);
+}
+
+/// False when the store refused.
+bool SetInstallation::installMatch(Job& job, const MatchOffer& match) {
+    const SetKind& other = *(session_.state<WeatherKinds>().*match.otherKind);
+    if (match.needsAnySet && other.count(session_) == 0) return true;
+    const QStringList names = namesForCover(other.activated(session_), set_.inHand(session_).cover);
+    return other.installInside(session_, job, drawName(session_, names, names.size() - match.neverDrawn));
 }
 
 FileCopy SetInstallation::splashCopy(const CloudCover& cover) const {
@@ -61,13 +69,14 @@ void SetInstallation::prepare(SimulatorCopier& copier, std::vector<FileCopy> cop
 void SetInstallation::showProgress() {
     session_.user.showMessage(
         {MessageKind::progress, u"Morvane Information"_s,
-         u"Processing your "_s + kind_.word +
+         u"Processing your "_s + set_.facts.word +
              u" Texture Files.  Please wait until the process has finished.  This may take a few moments!"_s,
          false, false, true});
 }
 
 void SetInstallation::showCover(const QString& tagged) {
-    session_.user.setProgressFile(u"Installing "_s + tagged + u' ' + kind_.word.toLower() + u" textures"_s);
+    session_.user.setProgressFile(u"Installing "_s + tagged + u' ' + set_.facts.word.toLower() +
+                                  u" textures"_s);
 }
 
 /// No messages are let through and no cancel is read: an install once begun goes through its list.

@@ -1,22 +1,28 @@
 #pragma once
 
 #include "core/job.h"
+#include "sets/set_kind.h"
 #include "sets/simulator_copy.h"
 
 namespace morvane {
 
 struct CloudCover;
 
+/// Offers a set of the other kind that the weather chooses, for the same cover.
+struct MatchOffer {
+    QString question;
+    const SetKind* WeatherKinds::*otherKind;
+    bool needsAnySet;       ///< without a set of the other kind none is installed, not even "Default"
+    qsizetype neverDrawn{}; ///< so many at the end of the candidates
+};
+
 /// What tells the install of one kind of set from that of another.
 struct InstallationKind {
-    QString word;            ///< "Ground", "Sky" or "Night", in the progress message
     QString severalRowsText; ///< refuses more than one row
-    /// Offers a set of the other kind for the same weather. Empty for a kind that has nothing to do with the
-    /// weather: then the start of the simulator is not offered either.
-    QString matchQuestion;
-    Screen listScreen;
-    bool& (*refreshList)(Session&); ///< the list is to be filled anew when it is shown
-    int stepsBesideFiles;           ///< of the progress bar
+    /// Nothing for a kind that has nothing to do with the weather: then the start of the simulator is not
+    /// offered either.
+    std::optional<MatchOffer> match;
+    int stepsBesideFiles; ///< of the progress bar
 };
 
 /// Puts the files of the set in hand into the simulator and records in the store that it is the installed
@@ -24,7 +30,8 @@ struct InstallationKind {
 /// side, each of them whole.
 class SetInstallation {
 public:
-    SetInstallation(Session& session, const InstallationKind& kind) : session_(session), kind_(kind) {}
+    SetInstallation(Session& session, const SetKind& set, const InstallationKind& kind)
+        : session_(session), set_(set), kind_(kind) {}
     virtual ~SetInstallation() = default;
 
     /// `automatic`: no questions, as on the road from the weather. Otherwise several rows are refused and a
@@ -40,10 +47,6 @@ public:
     int filesCopied() const { return filesCopied_; }
 
 protected:
-    virtual qsizetype selectedRowCount() const = 0;
-    /// The user wants the set of the other kind, too. Never called without a question. False when the store
-    /// refused.
-    virtual bool installMatch(Job&) { return true; }
     /// False when the store refused: nothing was copied then.
     virtual bool installSelectedSet() = 0;
 
@@ -61,12 +64,14 @@ protected:
     FileCopy splashCopy(const CloudCover& cover) const;
 
     Session& session_;
+    const SetKind& set_;
 
 private:
     enum class Outcome { installed, failed, storeRefused };
     Outcome run(Job& job, bool automatic);
     /// False when the install was refused, by the store or for its several rows.
     bool prepareByHand(Job& job);
+    bool installMatch(Job& job, const MatchOffer& match);
 
     const InstallationKind& kind_;
     int filesCopied_ = 0;

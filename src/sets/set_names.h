@@ -4,6 +4,9 @@
 
 namespace morvane {
 
+/// The set that shows the stock as it is. It comes with the program and is never removed.
+inline const QString defaultSetName = u"Default"_s;
+
 /// Letters in the name of a set, its key included.
 inline constexpr qsizetype longestSetName = 50;
 

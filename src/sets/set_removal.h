@@ -1,10 +1,6 @@
 #pragma once
 
-#include "core/session.h"
-
-#include <QStringList>
-#include <functional>
-#include <optional>
+#include "sets/set_kind.h"
 
 namespace morvane {
 
@@ -14,25 +10,17 @@ struct MultiChoice {
     QStringList multiConfirmed;
 };
 
-enum class SetState { missing, installed, removable };
+/// Removes the set that the kind's list has in hand after a question, or with two and more rows those that
+/// frm_MultiDelete confirmed; with `deactivateMode` only the files go, the record and its colours stay.
+/// "Default" and, where the kind protects it, the installed set are refused when they stand alone; among
+/// several both are passed over without a word. How many went is told at the end; a cancel or a refusal of
+/// the store ends it before the next set. False when it was refused or answered with no. The job begins with
+/// the first set.
+bool removeSetsInHand(Session& session, const SetKind& kind, Job& job, bool deactivateMode);
 
-/// What the removal of one kind of set needs of it.
-struct SetRemoval {
-    bool deactivateMode; ///< only the files go, the record and its colours stay
-    QString selectedName;
-    QStringList selectedRows;
-    QString refusalBreak; ///< between the two sentences of a refusal
-    std::function<SetState(const QString& name)> stateOf;
-    /// False when the store refused: the files then stay, and so do the sets behind this one.
-    std::function<bool(const QString& name)> remove;
-    bool protectsInstalled = true; ///< the installed set is refused when it stands alone
-};
-
-/// Removes the set in hand after a question, or with two and more rows those that frm_MultiDelete confirmed.
-/// "Default" and, where protected, the installed set are refused when they stand alone; among several both
-/// are passed over without a word. How many went is told at the end; a cancel ends it before the next set.
-/// False when it was refused or answered with no.
-bool removeSets(Session& session, const SetRemoval& removal);
+/// Takes the set's record, or with `keepRecord` its activation, and then its files. False when the store
+/// refused: the files then stay.
+bool removeSet(Session& session, const SetKind& kind, const QString& name, bool keepRecord);
 
 /// Names of the rows, trimmed and without "Default".
 QStringList changeableNames(const QStringList& rows);

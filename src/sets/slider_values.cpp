@@ -7,7 +7,7 @@ namespace morvane {
 
 void drawOne(Session& session, int low, int high, int& field) {
     clsNoRepeat draws(session.user, session.random);
-    if (const auto numbers = draws.Non_Repeating_Numbers(1, high, low)) field = numbers->front();
+    field = draws.Non_Repeating_Numbers(high, low).value_or(field);
 }
 
 } // namespace morvane

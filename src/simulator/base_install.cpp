@@ -10,7 +10,7 @@
 #include "night/night_selection.h"
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
-#include "sets/set_collections.h"
+#include "sets/stored_rows.h"
 #include "sets/simulator_copy.h"
 #include "simulator/checked_copies.h"
 #include "simulator/configs.h"
@@ -37,7 +37,7 @@ void installDefaultGround(Session& session) {
     set.Actvated = flagText(true);
     set.ColorSettings = unchangedColours;
     set.Installed = true;
-    if (session.rows<clsTextureSets>()->UpdateTextureSet(set) && refreshGroundSets(session))
+    if (session.rows<clsTextureSets>()->Save(set) && refreshGroundSets(session))
         session.rows<clsTextureSets>()->markInstalled(defaultSet);
     refreshGroundSets(session);
     session.state<GroundSelection>().RefreshGroundList = true;
@@ -52,7 +52,7 @@ void installDefaultNight(Session& session) {
     set.Actvated = flagText(true);
     set.ColorSettings = unchangedColours;
     set.Installed = true;
-    if (session.rows<clsNightTextureSets>()->UpdateNightTextureSet(set) && refreshNightSets(session))
+    if (session.rows<clsNightTextureSets>()->Save(set) && refreshNightSets(session))
         session.rows<clsNightTextureSets>()->markInstalled(defaultSet);
     refreshNightSets(session);
     session.state<NightSelection>().RefreshNightList = true;

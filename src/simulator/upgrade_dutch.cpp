@@ -54,7 +54,7 @@ bool createDutchForSet(Session& session, const Job& job, clsTextureSet set, int 
         passes.colourFiles(files, colours);
         passes.convertFiles(files);
         set.IsDutch = true;
-        isRefused = !session.rows<clsTextureSets>()->UpdateTextureSet(set);
+        isRefused = !session.rows<clsTextureSets>()->Save(set);
     });
     return !isRefused;
 }

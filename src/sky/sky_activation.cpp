@@ -11,20 +11,10 @@
 
 namespace morvane {
 
-namespace {
-
-SetState stateOf(Session& session, const QString& name) {
-    const auto set = findSkySet(session, name);
-    if (!set) return SetState::missing;
-    return set->Installed ? SetState::installed : SetState::removable;
-}
-
-} // namespace
-
-void SkyActivation::activateSkySet() {
+void SkyActivation::activateInHand() {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         if (!refreshSkySets(session_)) return;
         const QStringList names = changeableNames(session_.state<SkySelection>().selectedRows);
         // One set gets all three families of files, several get the day's alone, as a generated set does:
@@ -56,14 +46,14 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
                              Counters counters) {
     FilePath folder;
     bool hasColours = false;
-    const bool isWhole = reportFailures(session_.user, {}, [&] {
+    const bool isWhole = reportFailures(session_.user, morvaneError, [&] {
         folder = skySetFolder(session_, set.SkyTextureSet);
         skyStockFolder(session_, set.TextureSetGroup);
         // The colours are the day's whatever the time: the other families are plain copies.
         hasColours = loadSkyTextureGroups(session_, set.StsID, skyDay);
     });
     if (!isWhole) return true;
-    if (!hasColours || !storeActivation(set, true)) return false;
+    if (!hasColours || !setKind<SkyKind>().storeActivation(session_, set.SkyTextureSet, true)) return false;
     session_.state<SkySelection>().SelectedSkySet = set.SkyTextureSet;
     session_.files.makeFolder(folder);
     SkyGeneration generation(session_);
@@ -77,46 +67,16 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
     return true;
 }
 
-bool SkyActivation::storeActivation(const clsSkyTextureSet& set, bool activated) {
-    clsSkyTextureSet changed = set;
-    changed.Activated = flagText(activated);
-    changed.IsNew = false;
-    return loadedSkySets(session_).UpdateSkyTextureSet(changed);
-}
-
-void SkyActivation::deleteSkySet(bool deactivateMode) {
+void SkyActivation::deleteInHand(bool deactivateMode) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         if (!refreshSkySets(session_)) return;
-        const SetRemoval removal{
-            deactivateMode,
-            session_.state<SkySelection>().SelectedSkySet,
-            session_.state<SkySelection>().selectedRows,
-            u"\n\n"_s,
-            [this](const QString& name) { return stateOf(session_, name); },
-            [&](const QString& name) { return job.begin() && removeSet(name, deactivateMode); }};
-        if (!removeSets(session_, removal)) return;
+        if (!removeSetsInHand(session_, setKind<SkyKind>(), job, deactivateMode)) return;
         cleanTempBitmaps(session_);
         const auto& sets = loadedSkySets(session_);
         rebuildList(sets.Count() > 0 ? sets.GetItem(sets.Count())->SkyTextureSet : QString());
     });
-}
-
-bool SkyActivation::removeSet(const QString& name, bool keepRecord) {
-    bool stored = false;
-    reportFailures(session_.user, {}, [&] {
-        const auto set = findSkySet(session_, name);
-        if (!set) return;
-        // The record goes first: a failure in between leaves files without a row, never a row without a set.
-        stored = keepRecord ? storeActivation(*set, false) : loadedSkySets(session_).RemoveItem(keyOf(*set));
-        // A name that no folder can have, of a store that was edited by hand: the rows are all there is.
-        if (!stored || !FilePath::isChildName(set->SkyTextureSet)) return;
-        const FilePath folder = skySetFolder(session_, set->SkyTextureSet);
-        emptyBitmapFolder(session_, folder);
-        if (!keepRecord) removeFolderOrLink(session_.files, folder);
-    });
-    return stored;
 }
 
 void SkyActivation::rebuildList(const QString& nameInHand) {

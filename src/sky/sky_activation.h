@@ -20,9 +20,9 @@ public:
     /// A single set, and be it "Default", gets its files for day, sunrise and sunset; several get those for
     /// the day only, and those that are activated already are passed over. A cancel ends the run; what is
     /// written stays.
-    void activateSkySet();
-    /// Deletes; with `deactivateMode` only the files go and the colours stay. See removeSets.
-    void deleteSkySet(bool deactivateMode);
+    void activateInHand();
+    /// Deletes; with `deactivateMode` only the files go and the colours stay. See removeSetsInHand.
+    void deleteInHand(bool deactivateMode);
 
 private:
     struct Counters {
@@ -31,8 +31,6 @@ private:
     bool activate(const Job& job, const clsSkyTextureSet& set, const QStringList& timesOfDay,
                   Counters counters);
     void activateSeveral(Job& job, const QStringList& names);
-    bool storeActivation(const clsSkyTextureSet& set, bool activated);
-    bool removeSet(const QString& name, bool keepRecord);
     void rebuildList(const QString& nameInHand);
 
     Session& session_;

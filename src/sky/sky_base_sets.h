@@ -3,6 +3,7 @@
 #include "core/literals.h"
 
 #include <QStringList>
+#include <array>
 
 namespace morvane {
 
@@ -25,7 +26,9 @@ inline const QString overcastBaseSet = u"Overcast"_s;
 inline const QString skyDay = u"Day"_s;
 inline const QStringList skyTimesOfDay{skyDay, u"Sunrise"_s, u"Sunset"_s};
 
-/// The seven base sets in the order of the boxes of frm_SelectSkyTexture.
+inline constexpr int skyBaseSetCount = 7;
+
+/// All base sets in the order of the boxes of frm_SelectSkyTexture.
 const QStringList& skyBaseSetBoxes();
 /// The same in the order of the options of frm_SelectBaseSky.
 const QStringList& skyBaseSetOptions();

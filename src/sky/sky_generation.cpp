@@ -62,7 +62,7 @@ RunSize runSize(Session& session) {
 void SkyGeneration::createSkySets(bool fromHomeScreen) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         session_.state<SkySetCounts>().skySetsConfirmed = false;
         session_.user.showModal(Screen::frm_SelectSkyTexture);
         if (!session_.state<SkySetCounts>().skySetsConfirmed || !session_.user.allowsRun(runSize(session_)))
@@ -112,12 +112,12 @@ void SkyGeneration::showNewestSet() {
 
 void SkyGeneration::takeNewestSet() {
     const clsSkyTextureSets& sets = loadedSkySets(session_);
-    if (sets.Count() > 0) loadSkySubSet(session_, skyListKey(*sets.GetItem(sets.Count())), skyDay);
+    if (sets.Count() > 0) loadSkySubSet(session_, listKeyOf(*sets.GetItem(sets.Count())), skyDay);
 }
 
 bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal) {
     bool isStored = false;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         const CloudCover* cover = cloudCover(cloudIndex);
         if (!cover) throw Error(ErrorCode::subscript);
         clsSkyTextureSet set;
@@ -127,7 +127,7 @@ bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int
         set.CloudCover = cover->word;
         set.Activated = flagText(true); // activated from its birth, so it has files
         set.IsNew = true;
-        isStored = loadedSkySets(session_).UpdateSkyTextureSet(set);
+        isStored = loadedSkySets(session_).Save(set);
         if (!isStored) return;
         session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
         isStored = storeSubSet(set, skyStringsFor(session_, skyDay, cloudIndex, baseSet));
@@ -151,14 +151,14 @@ bool SkyGeneration::storeSubSet(const clsSkyTextureSet& set, const SkyStrings& s
         subSet.*group.property = strings[static_cast<std::size_t>(group.number - 1)];
     if (!session_.rows<clsSkyTextureSubSets>())
         session_.rows<clsSkyTextureSubSets>() = std::make_unique<clsSkyTextureSubSets>(session_);
-    return session_.rows<clsSkyTextureSubSets>()->UpdateSkyTextureSubSet(subSet);
+    return session_.rows<clsSkyTextureSubSets>()->Save(subSet);
 }
 
 bool SkyGeneration::colourSkySetFiles(const QString& setName, const QString& baseSet,
                                       const QString& timeOfDay, const QString& message, int setNumber,
                                       int setTotal) {
     bool done = false;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         const bool coloured = timeOfDay == skyDay;
         const FilePath target = skySetFolder(session_, setName);
         const FilePath source = skyStockFolder(session_, coloured ? baseSet : timeOfDay);
@@ -201,13 +201,12 @@ bool SkyGeneration::writeFiles(const QStringList& names, const FilePath& source,
 }
 
 void SkyGeneration::newFavSky() {
-    if (askFavouriteName(session_, FavouriteKind::sky))
-        saveSkySetFromTuning(session_.state<FavouriteAnswer>().favName);
+    if (askFavouriteName(session_)) saveSkySetFromTuning(session_.state<FavouriteAnswer>().favName);
 }
 
 /// The rows are written before the folder: when it cannot be made they stand.
 void SkyGeneration::saveSkySetFromTuning(const QString& name) {
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         loadSkyTuning(session_);
         const SkyTuningState& tuning = session_.state<SkyTuningState>();
         clsSkyTextureSet set;
@@ -217,7 +216,7 @@ void SkyGeneration::saveSkySetFromTuning(const QString& name) {
         set.CloudCover = trimmedBlanks(tuning.cloudCover);
         set.Activated = flagText(false); // it gets its files by activation only
         set.IsNew = true;
-        if (!loadedSkySets(session_).UpdateSkyTextureSet(set)) return;
+        if (!loadedSkySets(session_).Save(set)) return;
         session_.state<SkySelection>().RefreshSkyList = true;
         if (!storeSubSet(set, tunedStrings())) return;
         session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));

@@ -1,8 +1,6 @@
 #pragma once
 
 #include "sets/set_installation.h"
-#include "sets/weather_kinds.h"
-#include "sky/sky_selection.h"
 
 namespace morvane {
 
@@ -16,12 +14,7 @@ public:
     bool installSkySet(bool automatic) { return install(automatic); }
 
 private:
-    qsizetype selectedRowCount() const override { return session_.state<SkySelection>().selectedRows.size(); }
-    bool installMatch(Job& job) override;
     bool installSelectedSet() override;
 };
-
-/// What a ground set asks of the sky's.
-const WeatherKind& skyKindOfWeather();
 
 } // namespace morvane

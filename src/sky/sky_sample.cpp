@@ -1,6 +1,5 @@
 #include "sky/sky_sample.h"
 
-#include "core/failure_report.h"
 #include "sky/sky_groups.h"
 
 namespace morvane {
@@ -13,21 +12,14 @@ FilePath skySampleFile(const Session& session, const QString& baseSet) {
     return skyStockFolder(session, baseSet).child(u"sky_afternoon_3.bmp"_s);
 }
 
-bool SkySample::openImage(const FilePath& path) {
-    const bool loaded =
-        reportFailures(session_.user, {}, [&] { pictures_ = loadPicturePair(session_.files, path); });
-    process();
-    return loaded;
-}
-
-void SkySample::process() {
-    if (!pictures_.result.isCreated()) return;
+void SkySample::colour(const cDIBSection& source, cDIBSection& result) {
+    const SkyColourTables& tables = session_.state<SkyColourTables>();
     if (table_ == SkyTable::texture) {
-        colourise_.skyTextureGroups = session_.state<SkyColourTables>().skyTextureGroups;
-        colourise_.processSkyTexture(pictures_.source, pictures_.result);
+        colourise_.skyTextureGroups = tables.skyTextureGroups;
+        colourise_.processSkyTexture(source, result);
     } else {
-        colourise_.skyPaletteGroups = session_.state<SkyColourTables>().skyPaletteGroups;
-        colourise_.processSky(pictures_.source, pictures_.result);
+        colourise_.skyPaletteGroups = tables.skyPaletteGroups;
+        colourise_.processSky(source, result);
     }
 }
 

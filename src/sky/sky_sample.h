@@ -1,8 +1,6 @@
 #pragma once
 
-#include "core/session.h"
-#include "imaging/colouriser.h"
-#include "imaging/picture_pair.h"
+#include "sets/texture_sample.h"
 
 namespace morvane {
 
@@ -15,27 +13,15 @@ FilePath skySampleFile(const Session& session, const QString& baseSet);
 /// no single folder name.
 FilePath skyStockFolder(const Session& session, const QString& name);
 
-/// A sky texture as it is and in the colours of a table: the pictures of the list page and of the colour
-/// page.
-class SkySample {
+/// A sky texture as it is and in the colours of a table.
+class SkySample : public PictureSample {
 public:
-    SkySample(Session& session, SkyTable table)
-        : session_(session), table_(table), colourise_(session.user) {}
-
-    /// Loads the picture and colours it. False after a failure was told: the picture of before stays then,
-    /// coloured all the same, so that no set is seen in the colours of another one.
-    bool openImage(const FilePath& path);
-    /// Colours the picture that is loaded; without one it does nothing.
-    void process();
-
-    const cDIBSection& sourceDib() const { return pictures_.source; }
-    const cDIBSection& resultDib() const { return pictures_.result; }
+    SkySample(Session& session, SkyTable table) : PictureSample(session), table_(table) {}
 
 private:
-    Session& session_;
+    void colour(const cDIBSection& source, cDIBSection& result) override;
+
     SkyTable table_;
-    PicturePair pictures_;
-    cColourise colourise_;
 };
 
 } // namespace morvane

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "core/session.h"
-
-#include <QStringList>
+#include "sets/set_selection.h"
 
 namespace morvane {
 
-struct clsSkyTextureSet;
-
-/// The sky set in hand: written by a selection in the list, read by the actions.
-struct SkySelection {
+/// The sky set in hand: written by a selection in the list, read by the actions. Several rows are those that
+/// are ticked.
+struct SkySelection : SetSelection {
     bool RefreshSkyList = false; ///< the list is to be filled anew when it is shown
     QString SelectedSkyKey;      ///< "Key:" and the StsID
     QString SelectedSkySet;
@@ -17,12 +15,7 @@ struct SkySelection {
     QString SelectedSkyCover;
     QString SelectedSkyDescription;
     QString SelectedSkyGroup; ///< the base set that it was made from
-    /// Names of all rows that are ticked in the list.
-    QStringList selectedRows;
 };
-
-/// The set's key in lists: "Key:" and the StsID.
-QString skyListKey(const clsSkyTextureSet& set);
 
 /// Takes the set behind a list key in hand and fills `skyTextureGroups` from its sub set for that time of
 /// day. Groups without a colour text are zero, and so are all of them where there is no such sub set. The
@@ -34,9 +27,5 @@ bool loadSkySubSet(Session& session, const QString& listKey, const QString& time
 /// The second half of it: fills `skyTextureGroups`, and makes the set's sub sets the
 /// session's rows. False after the message that they cannot be read; a colour text that is none raises.
 bool loadSkyTextureGroups(Session& session, std::int16_t setKey, const QString& timeOfDay);
-
-/// Takes the set of that name in hand and leaves its colours and the ticks of the rows alone. False when
-/// there is no such set.
-bool clickSkyRow(Session& session, const QString& name);
 
 } // namespace morvane

@@ -1,27 +1,32 @@
 #include "sky/sky_sets.h"
 
-#include "sets/set_collections.h"
+#include "sets/set_actions.h"
+#include "sky/sky_activation.h"
+#include "sky/sky_installation.h"
 
 namespace morvane {
 
-clsSkyTextureSets& loadedSkySets(Session& session) {
-    return loadedCollection(session, session.rows<clsSkyTextureSets>());
+const SetKindFacts& SkyKind::facts() {
+    static const SetKindFacts facts{
+        .word = u"Sky"_s,
+        .folder = u"Sky Texture Sets"_s,
+        .subfolders = {},
+        .listScreen = Screen::frm_KMTextures,
+        .refusalBreak = u"\n\n"_s,
+        .protectsInstalled = true,
+    };
+    return facts;
 }
 
-bool refreshSkySets(Session& session) {
-    return clsSkyTextureSets::reload(session);
+void SkyKind::takeInHand(SkySelection& selection, const clsSkyTextureSet& set) {
+    selection.SelectedSkyKey = listKeyOf(set);
+    selection.SelectedSkySet = set.SkyTextureSet;
+    selection.SelectedSkyActivated = set.Activated == flagText(true);
+    selection.SelectedSkyCover = set.CloudCover;
+    selection.SelectedSkyGroup = set.TextureSetGroup;
+    selection.SelectedSkyDescription = set.Description;
 }
 
-std::shared_ptr<const clsSkyTextureSet> findSkySet(Session& session, const QString& name) {
-    return findTrimmedName(loadedSkySets(session), name);
-}
-
-std::vector<ActivatedSet> activatedSets(const clsSkyTextureSets& sets) {
-    return activatedSets(sets, &clsSkyTextureSet::Activated);
-}
-
-FilePath skySetFolder(const Session& session, const QString& name) {
-    return (session.AppPath / u"Sky Texture Sets").child(name);
-}
+template struct SetActions<SkyKind>;
 
 } // namespace morvane

@@ -1,26 +1,35 @@
 #pragma once
 
-#include "core/session.h"
-#include "sets/set_choice.h"
+#include "sets/set_kind.h"
+#include "sky/sky_selection.h"
 #include "sky/sky_texture_sets.h"
 
 namespace morvane {
 
-/// The session's sky sets, loaded when they are not there yet. Raises "The database cannot be used" when they
-/// cannot be had at all.
-clsSkyTextureSets& loadedSkySets(Session& session);
+class SkyActivation;
+class SkyInstallation;
 
-/// The same, read anew: records in memory stay as they were loaded, so whoever decides by a flag or writes
-/// rows back asks for fresh ones. False after the message of a failure.
-bool refreshSkySets(Session& session);
+/// The sky as a kind of set.
+struct SkyKind : KindOfSet<SkyKind, clsSkyTextureSet, SkySelection> {
+    using Activation = SkyActivation;
+    using Installation = SkyInstallation;
 
-/// The record of the set of that name, both trimmed; nothing when there is none.
-std::shared_ptr<const clsSkyTextureSet> findSkySet(Session& session, const QString& name);
+    static const SetKindFacts& facts();
+    static constexpr auto nameInHand = &SkySelection::SelectedSkySet;
+    static constexpr auto descriptionInHand = &SkySelection::SelectedSkyDescription;
+    static constexpr auto refreshList = &SkySelection::RefreshSkyList;
+    static constexpr bool hasTicks = true;
+    /// A second activation gives a generated set its files of sunrise and sunset.
+    static constexpr bool activatesAgain = true;
+    static QString coverInHand(const SkySelection& selection) { return selection.SelectedSkyCover; }
+    static void takeInHand(SkySelection& selection, const clsSkyTextureSet& set);
+};
 
-/// Those whose activation is exactly "True", in the order of the collection.
-std::vector<ActivatedSet> activatedSets(const clsSkyTextureSets& sets);
-
-/// The folder of the named sky set. Raises "Path not found" for a name that is no single folder name.
-FilePath skySetFolder(const Session& session, const QString& name);
+// Every kind's calls under the names of the sky.
+inline constexpr auto loadedSkySets = loadedSets<SkyKind>;
+inline constexpr auto refreshSkySets = refreshSets<SkyKind>;
+inline constexpr auto findSkySet = findSet<SkyKind>;
+inline constexpr auto skySetFolder = setFolder<SkyKind>;
+inline constexpr auto clickSkyRow = clickSetNamed<SkyKind>;
 
 } // namespace morvane

@@ -3,10 +3,7 @@
 #include "core/flights_folder.h"
 #include "core/literals.h"
 #include "ground/ground_generation.h"
-#include "ground/ground_installation.h"
 #include "ground/screens/ground_colour_screen.h"
-#include "night/night_generation.h"
-#include "night/night_installation.h"
 #include "night/screens/night_colour_screen.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
@@ -14,9 +11,7 @@
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
 #include "sky/screens/sky_colour_screen.h"
-#include "sky/sky_activation.h"
 #include "sky/sky_generation.h"
-#include "sky/sky_installation.h"
 #include "ui/dialog_form.h"
 #include "weather/cover_choice.h"
 #include "weather/screens/cover_report_screen.h"
@@ -24,6 +19,9 @@
 #include "weather/weather_refresh.h"
 #include "weather/wx_filter.h"
 #include "window/window_shell.h"
+#include "ground/ground_sets.h"
+#include "night/night_sets.h"
+#include "sky/sky_sets.h"
 
 #include <algorithm>
 #include <array>
@@ -32,32 +30,39 @@ namespace morvane {
 
 namespace {
 
-// Ground -------------------------------------------------------------------------------------------------
+// Sets ---------------------------------------------------------------------------------------------------
+
+/// One key, two directions: the state tells which.
+template <class Kind>
+void activateSet(WindowShell& shell, SkinnedButton& button) {
+    if (button.state() == ButtonState::deactivate)
+        Kind::remove(shell.session(), true);
+    else
+        Kind::activate(shell.session());
+}
+
+template <class Kind>
+void deleteSet(WindowShell& shell, SkinnedButton&) {
+    Kind::remove(shell.session(), false);
+}
+
+template <class Kind>
+void installSet(WindowShell& shell, SkinnedButton&) {
+    if (Kind::install(shell.session(), false)) offerSimulatorStart(shell.session());
+}
+
+/// `method` is one of the page of that name.
+template <class Page, const char16_t* name, auto method>
+void onColours(WindowShell& shell, SkinnedButton&) {
+    (shell.screen<Page>(QString::fromUtf16(name)).*method)();
+}
 
 void createGroundSets(WindowShell& shell, SkinnedButton& button) {
     GroundGeneration(shell.session()).createTextureSets(Form::of(&button)->formName() == u"frm_Main");
 }
 
-/// One key, two directions: the state tells which.
-void activateGroundSet(WindowShell& shell, SkinnedButton& button) {
-    GroundGeneration generation(shell.session());
-    if (button.state() == ButtonState::deactivate)
-        generation.deleteTextureSet(true);
-    else
-        generation.activateTextureSet();
-}
-
-void deleteGroundSet(WindowShell& shell, SkinnedButton&) {
-    GroundGeneration(shell.session()).deleteTextureSet(false);
-}
-
-void installGroundSet(WindowShell& shell, SkinnedButton&) {
-    if (GroundInstallation(shell.session()).installTextureSet(false)) offerSimulatorStart(shell.session());
-}
-
-template <void (frm_GroundColorize::*method)()>
-void onGroundColours(WindowShell& shell, SkinnedButton&) {
-    (shell.screen<frm_GroundColorize>(u"frm_GroundColorize"_s).*method)();
+void createSkySets(WindowShell& shell, SkinnedButton& button) {
+    SkyGeneration(shell.session()).createSkySets(Form::of(&button)->formName() == u"frm_Main");
 }
 
 // Flights ------------------------------------------------------------------------------------------------
@@ -108,56 +113,6 @@ void openUpdatePage(WindowShell& shell, SkinnedButton&) {
 
 void chooseFlightsFolder(WindowShell& shell, SkinnedButton&) {
     setNonEnglishRegVal(shell.session());
-}
-
-// Sky ----------------------------------------------------------------------------------------------------
-
-void createSkySets(WindowShell& shell, SkinnedButton& button) {
-    SkyGeneration(shell.session()).createSkySets(Form::of(&button)->formName() == u"frm_Main");
-}
-
-void activateSkySet(WindowShell& shell, SkinnedButton& button) {
-    SkyActivation activation(shell.session());
-    if (button.state() == ButtonState::deactivate)
-        activation.deleteSkySet(true);
-    else
-        activation.activateSkySet();
-}
-
-void deleteSkySet(WindowShell& shell, SkinnedButton&) {
-    SkyActivation(shell.session()).deleteSkySet(false);
-}
-
-void installSkySet(WindowShell& shell, SkinnedButton&) {
-    if (SkyInstallation(shell.session()).installSkySet(false)) offerSimulatorStart(shell.session());
-}
-
-template <void (frm_SkyColorize::*method)()>
-void onSkyColours(WindowShell& shell, SkinnedButton&) {
-    (shell.screen<frm_SkyColorize>(u"frm_SkyColorize"_s).*method)();
-}
-
-// Night --------------------------------------------------------------------------------------------------
-
-void activateNightSet(WindowShell& shell, SkinnedButton& button) {
-    NightGeneration generation(shell.session());
-    if (button.state() == ButtonState::deactivate)
-        generation.deleteNightTextureSet(true);
-    else
-        generation.activateNightTextureSet();
-}
-
-void deleteNightSet(WindowShell& shell, SkinnedButton&) {
-    NightGeneration(shell.session()).deleteNightTextureSet(false);
-}
-
-void installNightSet(WindowShell& shell, SkinnedButton&) {
-    NightInstallation(shell.session()).installNightTextureSet();
-}
-
-template <void (frm_NightColorize::*method)()>
-void onNightColours(WindowShell& shell, SkinnedButton&) {
-    (shell.screen<frm_NightColorize>(u"frm_NightColorize"_s).*method)();
 }
 
 // Windows and pages --------------------------------------------------------------------------------------
@@ -249,14 +204,17 @@ constexpr Entry entries[] = {
     {medium, ground, u"home", leaveHost},
     {medium, ground, u"texture sets", showList},
     {medium, ground, u"ground", goTo<groundColours>},
-    {large, ground, u"delete ts", deleteGroundSet},
+    {large, ground, u"delete ts", deleteSet<GroundKind>},
     {large, ground, u"create ts", createGroundSets},
-    {large, ground, u"activate ts", activateGroundSet},
-    {large, ground, u"install ts", installGroundSet},
+    {large, ground, u"activate ts", activateSet<GroundKind>},
+    {large, ground, u"install ts", installSet<GroundKind>},
 
-    {large, groundColours, u"random advanced", onGroundColours<&frm_GroundColorize::randomGroundValues>},
-    {large, groundColours, u"open texture", onGroundColours<&frm_GroundColorize::openTexture>},
-    {large, groundColours, u"add fav", onGroundColours<&frm_GroundColorize::addFavourite>},
+    {large, groundColours, u"random advanced",
+     onColours<frm_GroundColorize, groundColours, &frm_GroundColorize::drawValues>},
+    {large, groundColours, u"open texture",
+     onColours<frm_GroundColorize, groundColours, &frm_GroundColorize::openTexture>},
+    {large, groundColours, u"add fav",
+     onColours<frm_GroundColorize, groundColours, &frm_GroundColorize::addFavourite>},
 
     {large, wxControl, u"selectflight", selectFlight},
     {large, wxControl, u"wxfinder", findWeather},
@@ -274,25 +232,31 @@ constexpr Entry entries[] = {
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},
     {medium, sky, u"sky", goTo<skyColours>},
-    {large, sky, u"delete sts", deleteSkySet},
+    {large, sky, u"delete sts", deleteSet<SkyKind>},
     {large, sky, u"create sts", createSkySets},
-    {large, sky, u"activate sts", activateSkySet},
-    {large, sky, u"install sts", installSkySet},
+    {large, sky, u"activate sts", activateSet<SkyKind>},
+    {large, sky, u"install sts", installSet<SkyKind>},
 
-    {large, skyColours, u"random sky", onSkyColours<&frm_SkyColorize::randomizeSky>},
-    {large, skyColours, u"open sky", onSkyColours<&frm_SkyColorize::openBaseSkyImage>},
-    {large, skyColours, u"add fav sky", onSkyColours<&frm_SkyColorize::addFavourite>},
+    {large, skyColours, u"random sky",
+     onColours<frm_SkyColorize, skyColours, &frm_SkyColorize::randomizeSky>},
+    {large, skyColours, u"open sky",
+     onColours<frm_SkyColorize, skyColours, &frm_SkyColorize::openBaseSkyImage>},
+    {large, skyColours, u"add fav sky",
+     onColours<frm_SkyColorize, skyColours, &frm_SkyColorize::addFavourite>},
 
     {medium, night, u"home", leaveHost},
     {medium, night, u"texture sets", showList},
     {medium, night, u"ground", goTo<nightColours>},
-    {large, night, u"delete ts", deleteNightSet},
-    {large, night, u"activate ts", activateNightSet},
-    {large, night, u"install ts", installNightSet},
+    {large, night, u"delete ts", deleteSet<NightKind>},
+    {large, night, u"activate ts", activateSet<NightKind>},
+    {large, night, u"install ts", installSet<NightKind>},
 
-    {large, nightColours, u"random night", onNightColours<&frm_NightColorize::randomNightValues>},
-    {large, nightColours, u"open texture", onNightColours<&frm_NightColorize::openTexture>},
-    {large, nightColours, u"add fav", onNightColours<&frm_NightColorize::addFavourite>},
+    {large, nightColours, u"random night",
+     onColours<frm_NightColorize, nightColours, &frm_NightColorize::drawValues>},
+    {large, nightColours, u"open texture",
+     onColours<frm_NightColorize, nightColours, &frm_NightColorize::openTexture>},
+    {large, nightColours, u"add fav",
+     onColours<frm_NightColorize, nightColours, &frm_NightColorize::addFavourite>},
 
     {standard, anyForm, u"ok", confirmDialog},
     {standard, anyForm, u"cancel", cancelDialog},

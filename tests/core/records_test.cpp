@@ -69,23 +69,23 @@ TEST_F(RecordsTest, everyKindOfRecordSurvivesAReload) {
     const QString colours = u"0:1,4:0:-1:3:-1,5"_s;
     const QString name = u"Storm på Ålborg's 1.5"_s;
     saveAndLoad(clsTextureSet{false, true, 0, colours, name, u"True"_s, u"a, b"_s, u"Overcast"_s, true},
-                session.rows<clsTextureSets>(), clsTextureSets::reload, &clsTextureSets::UpdateTextureSet,
+                session.rows<clsTextureSets>(), clsTextureSets::reload, &clsTextureSets::Save,
                 u"TEXTURE_SETS"_s, u"12|0:1.4:0:-1:3:-1.5|12-Storm på Ålborg's 1.5|Overcast|True|a, b|1|0"_s);
     EXPECT_EQ(session.rows<clsTextureSets>()->GetItem(1)->ColorSettings, colours);
     saveAndLoad(clsNightTextureSet{true, true, 0, colours, name, u"False"_s, u"warm"_s},
                 session.rows<clsNightTextureSets>(), clsNightTextureSets::reload,
-                &clsNightTextureSets::UpdateNightTextureSet, u"NIGHT_TEXTURE_SETS"_s,
+                &clsNightTextureSets::Save, u"NIGHT_TEXTURE_SETS"_s,
                 u"12|0:1.4:0:-1:3:-1.5|12-Storm på Ålborg's 1.5|False|warm|1"_s);
     saveAndLoad(clsSkyTextureSet{u"Pro Sky"_s, u"d"_s, u"True"_s, u"Overcast"_s, true, true, 0, name},
                 session.rows<clsSkyTextureSets>(), clsSkyTextureSets::reload,
-                &clsSkyTextureSets::UpdateSkyTextureSet, u"SKY_TEXTURE_SETS"_s,
+                &clsSkyTextureSets::Save, u"SKY_TEXTURE_SETS"_s,
                 u"12|12-Storm på Ålborg's 1.5|Overcast|True|d|Pro Sky|1"_s);
     saveAndLoad(clsBackup{u"Backup"_s, 0, clock.now, true}, session.rows<clsBackups>(), clsBackups::reload,
                 &clsBackups::UpdateBackups, u"MV_BACKUP"_s, u"12|12-Backup|2007/05/30 21:14:09"_s);
     // A category's name gets no key.
     saveAndLoad(clsResourceFolder{true, 0, u"DUTCH"_s, u"source"_s, u"Scenery\\World"_s, u"Dutch"_s},
                 session.rows<clsResourceFolders>(), clsResourceFolders::reload,
-                &clsResourceFolders::UpdateResources, u"RESOURCE_FOLDERS"_s,
+                &clsResourceFolders::Save, u"RESOURCE_FOLDERS"_s,
                 u"12|DUTCH|source|Dutch|Scenery\\World"_s);
     const clsSkyTextureSubSet sky{u"Day"_s, true,    3,       0,       u"Day:3-Storm"_s,
                                   u"gd"_s,  u"gl"_s, u"cd"_s, u"cl"_s, u"wd"_s,
@@ -93,7 +93,7 @@ TEST_F(RecordsTest, everyKindOfRecordSurvivesAReload) {
     saveAndLoad(
         sky, session.rows<clsSkyTextureSubSets>(),
         +[](Session& s) { return clsSkyTextureSubSets::reload(s, 3); },
-        &clsSkyTextureSubSets::UpdateSkyTextureSubSet, u"SKY_TEXTURE_SUB_SETS"_s,
+        &clsSkyTextureSubSets::Save, u"SKY_TEXTURE_SUB_SETS"_s,
         u"12|3|12-Day:3-Storm|gd|gl|cd|cl|hh|hl|s|wl|2.5|wd|Day"_s);
     EXPECT_EQ(session.rows<clsSkyTextureSubSets>()->GetItem(1)->WaterMain,
               "2.5"); // the sky's are read as stored
@@ -113,7 +113,7 @@ TEST_F(RecordsTest, aSkySetGoesWithItsColours) {
 
 TEST_F(RecordsTest, aKeyBeyondSixteenBitsOrInMemoryAlreadyFails) {
     setNextKey("TEXTURE_SETS", 32768);
-    EXPECT_FALSE(session.rows<clsTextureSets>()->UpdateTextureSet(storm));
+    EXPECT_FALSE(session.rows<clsTextureSets>()->Save(storm));
     EXPECT_EQ(storm.TextureSet, "Storm");
     EXPECT_EQ(groundSets(), QStringList());
     EXPECT_EQ(user.told(), QStringList{"Error|Morvane Error|Overflow"});
@@ -121,7 +121,7 @@ TEST_F(RecordsTest, aKeyBeyondSixteenBitsOrInMemoryAlreadyFails) {
     clsTextureSet stale;
     stale.TsID = 1;
     session.rows<clsTextureSets>()->AddItem(stale);
-    EXPECT_FALSE(session.rows<clsTextureSets>()->UpdateTextureSet(storm)) << "after the row is there";
+    EXPECT_FALSE(session.rows<clsTextureSets>()->Save(storm)) << "after the row is there";
     EXPECT_EQ(groundSets(), QStringList{"1-Storm"});
 }
 
@@ -147,9 +147,9 @@ TEST_F(RecordsTest, aLongNameIsCutBeforeItsFirstWrite) {
     clsNightTextureSet night{false, true, 0, {}, title, {}, {}};
     clsSkyTextureSet sky{{}, {}, {}, {}, true, false, 0, title};
     storm.TextureSet = title;
-    EXPECT_TRUE(session.rows<clsTextureSets>()->UpdateTextureSet(storm));
-    EXPECT_TRUE(session.rows<clsNightTextureSets>()->UpdateNightTextureSet(night));
-    EXPECT_TRUE(session.rows<clsSkyTextureSets>()->UpdateSkyTextureSet(sky));
+    EXPECT_TRUE(session.rows<clsTextureSets>()->Save(storm));
+    EXPECT_TRUE(session.rows<clsNightTextureSets>()->Save(night));
+    EXPECT_TRUE(session.rows<clsSkyTextureSets>()->Save(sky));
     EXPECT_EQ(groundSets(), QStringList{name});
     EXPECT_EQ(column(u"TEXTURE_SET"_s, u"NIGHT_TEXTURE_SETS"_s), QStringList{name});
     EXPECT_EQ(column(u"SKY_TEXTURE_SET"_s, u"SKY_TEXTURE_SETS"_s), QStringList{name});
@@ -179,23 +179,21 @@ TEST_F(RecordsTest, positionsAndKeys) {
     const auto kept = sets.GetKey("3");
     clsTextureSet changed = *kept;
     changed.Description = "wet";
-    ASSERT_TRUE(sets.UpdateTextureSet(changed));
+    ASSERT_TRUE(sets.Save(changed));
     EXPECT_EQ(sets.GetKey("3"), kept);
     EXPECT_EQ(kept->Description, "") << "a change that is saved leaves the record in memory";
     EXPECT_EQ(column("DESCRIPTION", "TEXTURE_SETS"), (QStringList{QString(), QString(), "wet"}));
     EXPECT_THROW(sets.Item(0), Error);
     EXPECT_THROW(sets.Item(4), Error);
-    EXPECT_THROW(sets.RemoveItem("4", 1), Error); // an unknown key touches no row
-    EXPECT_TRUE(sets.RemoveItem("2", 2));
+    EXPECT_THROW(sets.RemoveItem("4"), Error); // an unknown key touches no row
+    EXPECT_TRUE(sets.RemoveItem("2"));
     EXPECT_EQ(sets.GetItem(2)->TextureSet, "c");
     EXPECT_EQ(groundSets().join(u' '), "a c");
 }
 
 TEST_F(RecordsTest, namesAreFoundAsTextOrAsNumbers) {
     addRows("TEXTURE_SETS(TEXTURE_SET)", {"Storm", "storm"});
-    clsTextureSets second(session);
-    EXPECT_TRUE(second.getTextureSets());
-    EXPECT_EQ(second.Count(), 0) << "a load fills the session's collection";
+    clsTextureSets::reload(session);
     EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("storm"), 2); // exactly, with regard to case
     EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("calm"), 0);
     addBackups({u"12.0"_s, u"2-Backup"_s});
@@ -267,7 +265,7 @@ TEST_F(RecordsTest, aFailedSaveLeavesNothing) {
     int failures = 0;
     for (;; ++failures) {
         disk.failAt(failures + 1, false);
-        if (session.rows<clsTextureSets>()->UpdateTextureSet(storm)) break;
+        if (session.rows<clsTextureSets>()->Save(storm)) break;
         ASSERT_TRUE(storm.IsNew && session.rows<clsTextureSets>()->Count() == 0 && groundSets().isEmpty())
             << failures;
         EXPECT_EQ(user.told().size(), failures + 1);

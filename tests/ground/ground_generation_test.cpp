@@ -1,3 +1,4 @@
+#include "core/store.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
@@ -159,6 +160,19 @@ TEST(GroundGeneration, allSetsOfACoverComeBeforeTheNextAndNoJobStartsInsideAnoth
     EXPECT_EQ(setFolders(install).size(), 6); // the same second, told apart by their keys
     EXPECT_TRUE(install.session.state<GroundSelection>().RefreshGroundList);
     EXPECT_FALSE(install.session.jobRunning);
+}
+
+TEST(GroundGeneration, aLockedStoreEndsARunWithOneMessageBeforeItMakesAnyFile) {
+    SmallInstall install;
+    Store other;
+    other.open(install.home() / u"Morvane.mdb");
+    StoreTransaction lock(other);
+    other.execute("DELETE FROM MV_BACKUP WHERE ID = 0"); // takes the write lock
+    create(install, {2, 0, 1, 0, 0});
+    EXPECT_EQ(install.user.told().size(), 1) << "and no report of how long it took";
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+    EXPECT_TRUE(install.user.calls.contains("show frm_Main"));
+    EXPECT_TRUE(setFolders(install).isEmpty());
 }
 
 TEST(ColourSettings, textAndValues) {

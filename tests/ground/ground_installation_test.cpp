@@ -126,26 +126,5 @@ TEST_F(GroundInstall, readOnlyTargetsRaiseLinksAreReplacedAndModesStay) {
     EXPECT_EQ(readFile(install.folder / u"elsewhere.bmp"), "mine");
 }
 
-TEST_F(GroundInstall, severalSelectedRowsAreRefused) {
-    clickGroundRow(session, "2-Storm");
-    session.state<GroundSelection>().selectedRows = QStringList{"2-Storm", "Default"};
-    EXPECT_FALSE(GroundInstallation(session).installTextureSet(false));
-    EXPECT_TRUE(install.installedSets().isEmpty());
-    EXPECT_EQ(install.user.told().value(0),
-              "Exclamation|Multiple Selection Detetected!|Morvane has detected more than one selection for "
-              "installation.  You can only select one sky texture set to be installed at any one time.  "
-              "Please check your selection and try again!.");
-}
-
-TEST_F(GroundInstall, aStaleCollectionOverwritesNoOtherSet) {
-    install.addGroundSet("3-Calm", "Sky Clear", true);
-    clsTextureSet changed = *findGroundSet(session, "3-Calm");
-    changed.Actvated = "False";
-    ASSERT_TRUE(session.rows<clsTextureSets>()->UpdateTextureSet(changed)); // in memory it still says "True"
-    installSet("2-Storm");
-    install.reload();
-    EXPECT_EQ(findGroundSet(session, "3-Calm")->Actvated, "False");
-}
-
 } // namespace
 } // namespace morvane

@@ -28,33 +28,19 @@ TEST_F(Draws, stayBelowTheUpperBoundAndTheFifthOfFiveRoundsStands) {
         {-22, -10, 0, -22}, {-22, -10, nearlyOne, -11}, {0, 1, nearlyOne, 0}, {0, 32767, nearlyOne, 32766}};
     for (const auto& [low, high, fraction, expected] : cases) {
         random.numbers = {0.1, 0.2, 0.3, 0.4, fraction};
-        EXPECT_EQ(draws.Non_Repeating_Numbers(1, high, low)->front(), expected) << high;
+        EXPECT_EQ(draws.Non_Repeating_Numbers(high, low), expected) << high;
     }
     EXPECT_EQ(random.draws, 20);
 }
 
 TEST_F(Draws, boundsOutOfOrderAreTold) {
-    EXPECT_FALSE(draws.Non_Repeating_Numbers(1, 3, 3));
-    EXPECT_FALSE(draws.Non_Repeating_Numbers(-100, 3, 0));
+    EXPECT_FALSE(draws.Non_Repeating_Numbers(3, 3));
+    EXPECT_FALSE(draws.Non_Repeating_Numbers(-100, 0));
     EXPECT_EQ(
         user.told(),
         QStringList({"Error|Morvane Error|The lowest possible number is greater than or equal to the maximum "
                      "value.",
                      "Error|Morvane Error|Cannot process values less than - minus one hundred."}));
-}
-
-// Nothing asks for more than one number; what comes then is kept as it always was.
-TEST_F(Draws, moreThanOneNumber) {
-    random.numbers = {0.3, 0.9, 0.1, 0.7, 0.5, 0.2};
-    EXPECT_EQ(*draws.Non_Repeating_Numbers(3, 9, 2), std::vector<int>({2, 2, 2}));
-    const std::vector<int> thirty = *draws.Non_Repeating_Numbers(30, 40, -10, true);
-    EXPECT_EQ(thirty.size(), 30u);
-    EXPECT_TRUE(std::is_sorted(thirty.begin(), thirty.end(), std::less_equal<>())) << "none comes twice";
-    EXPECT_TRUE(thirty.front() >= -10 && thirty.back() <= 40);
-    for (std::vector<int> few : {std::vector<int>{}, {1}, {1, 2}, {1, 2, 3}}) { // no draw can hang on these
-        draws.Mix_The_Numbers(few);
-        EXPECT_LE(few.size(), 3u);
-    }
 }
 
 TEST(GroundRandomiser, drawsEachFieldInItsRange) {

@@ -1,12 +1,10 @@
-#include "ground/texture_catalogue.h"
 #include "imaging/picture_reader.h"
 #include "night/night_files.h"
 #include "night/night_generation.h"
-#include "night/night_selection.h"
+#include "night/night_sets.h"
 #include "night/night_texture_sets.h"
 #include "sets/catalogue_file.h"
 #include "sets/options_in_force.h"
-#include "sets/set_removal.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -25,15 +23,8 @@ struct NightActions : testing::Test {
         addNightSet(install, u"Default"_s, true);
     }
     void click(const QString& name) { ASSERT_TRUE(clickNightRow(session, name)); }
-    void activate() { NightGeneration(session).activateNightTextureSet(); }
-    void deleteInHand(bool keepsColours) { NightGeneration(session).deleteNightTextureSet(keepsColours); }
+    void activate() { NightGeneration(session).activateInHand(); }
     FilePath sets() { return install.home() / u"Night Texture Sets"; }
-    void confirm(const QStringList& names) {
-        install.user.onModal = [=, this](Screen screen) {
-            ASSERT_EQ(screen, Screen::frm_MultiDelete);
-            session.state<MultiChoice>().multiConfirmed = names;
-        };
-    }
 
     test::SmallInstall install;
     Session& session = install.session;
@@ -73,66 +64,6 @@ TEST_F(NightActions, activationMakesEveryFileInTheColoursOfTheSet) {
     EXPECT_TRUE(install.user.calls.contains(u"hide frm_NightTextures"_s));
     EXPECT_EQ(install.user.calls.last(), u"show frm_NightTextures"_s);
     EXPECT_TRUE(session.state<NightSelection>().RefreshNightList);
-}
-
-TEST_F(NightActions, severalAreActivatedAfterAConfirmation) {
-    for (const QString& name : {u"2-A"_s, u"3-B"_s, u"4-C"_s})
-        addNightSet(install, name, false);
-    session.state<NightSelection>().selectedRows = QStringList{u"Default"_s, u"2-A"_s, u"3-B"_s, u"4-C"_s};
-    confirm({u"2-A"_s, u"4-C"_s});
-    activate();
-    EXPECT_EQ(session.state<MultiChoice>().multiNames, QStringList({u"2-A"_s, u"3-B"_s, u"4-C"_s}));
-    EXPECT_EQ(nightSets(session), u"Default+ 2-A+ 3-B 4-C+"_s);
-    EXPECT_EQ(install.files.listFolders(sets()), QStringList({u"2-A"_s, u"4-C"_s}));
-}
-
-TEST_F(NightActions, aCancelLeavesTheSetDeactivatedInBothPasses) {
-    addNightSet(install, u"2-Red"_s, false, {});
-    for (const QString& pass : {u"Process 1"_s, u"Process 2"_s}) {
-        click(u"2-Red"_s);
-        install.user.onPump = [&] {
-            if (install.user.messages.back().text.contains(pass))
-                install.user.answers().cancelRequested = true;
-        };
-        activate();
-        EXPECT_EQ(nightSets(session), u"Default+ 2-Red"_s);
-        EXPECT_TRUE(contentsBelow(sets()).isEmpty());
-        EXPECT_TRUE(contentsBelow(install.home() / u"TempBitmaps\\Texture").isEmpty());
-    }
-}
-
-/// It may go alone, unlike on the ground, and is passed over among several.
-TEST_F(NightActions, theInstalledSetGoesAloneAndNotAmongSeveral) {
-    for (const QString& name : {u"2-A"_s, u"3-B"_s})
-        addNightSet(install, name, true, {u"Texture\\029b2lm1.bmp"_s, u"Dutch\\005a2lm2.bmp"_s});
-    session.rows<clsNightTextureSets>()->markInstalled(u"2-A"_s);
-    session.state<NightSelection>().selectedRows = QStringList{u"2-A"_s, u"3-B"_s};
-    confirm({u"2-A"_s, u"3-B"_s});
-    deleteInHand(false);
-    EXPECT_EQ(nightSets(session), u"Default+ 2-A+*"_s);
-    EXPECT_TRUE(install.user.told().isEmpty());
-
-    click(u"2-A"_s);
-    deleteInHand(true);
-    EXPECT_EQ(nightSets(session), u"Default+ 2-A*"_s);
-    EXPECT_EQ(install.files.listFolders(sets() / u"2-A"), QStringList({u"Dutch"_s, u"Texture"_s}));
-    EXPECT_TRUE(contentsBelow(sets()).isEmpty());
-    deleteInHand(false);
-    EXPECT_EQ(nightSets(session), u"Default+"_s) << "and no row is installed";
-    EXPECT_TRUE(install.files.listFolders(sets()).isEmpty());
-    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 2);
-}
-
-TEST_F(NightActions, defaultIsProtected) {
-    click(u"Default"_s);
-    for (const bool keepsColours : {false, true}) {
-        deleteInHand(keepsColours);
-        EXPECT_EQ(install.user.told().last(),
-                  u"Exclamation|Morvane Information|You have selected the Default texture set to "
-                  "delete/deactivate.\nThis is a protected texture set and no changes can be made to this "
-                  "set."_s);
-    }
-    EXPECT_EQ(nightSets(session), u"Default+"_s);
 }
 
 } // namespace

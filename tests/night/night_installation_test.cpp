@@ -1,5 +1,5 @@
 #include "night/night_installation.h"
-#include "night/night_selection.h"
+#include "night/night_sets.h"
 #include "sets/options_in_force.h"
 #include "support/night_install.h"
 #include "support/printing.h"
@@ -101,26 +101,6 @@ TEST_F(NightInstall, showsOneMessageAsksNothingAndStartsNothing) {
     EXPECT_TRUE(install.user.calls.contains(u"refresh frm_NightTextures"_s));
     EXPECT_TRUE(session.state<NightSelection>().RefreshNightList);
     EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash");
-}
-
-TEST_F(NightInstall, theStoreNamesTheSetBeforeTheFirstFile) {
-    install.files.setReadOnly(world() / u"008B2LM1.BMP", true);
-    installSet(u"2-Red"_s);
-    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-    EXPECT_EQ(nightSets(session), u"Default+ 2-Red+*"_s);
-    EXPECT_TRUE(changes().isEmpty());
-}
-
-TEST_F(NightInstall, severalSelectedRowsAreRefused) {
-    clickNightRow(session, u"2-Red"_s);
-    session.state<NightSelection>().selectedRows = QStringList{u"2-Red"_s, u"Default"_s};
-    NightInstallation(session).installNightTextureSet();
-    EXPECT_EQ(install.user.told(),
-              QStringList({u"Exclamation|Multiple Selection Detetected!|Morvane has detected more than one "
-                           "selection for installation.  You can only select one sky texture set to be "
-                           "installed at any one time.  Please check your selection and try again!."_s}));
-    EXPECT_EQ(nightSets(session), u"Default+ 2-Red+"_s);
-    EXPECT_TRUE(changes().isEmpty());
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "core/safe_copy.h"
 #include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
 #include "support/printing.h"
 #include "support/raised_error.h"
 #include "support/small_install.h"

@@ -127,7 +127,7 @@ TEST_F(BaseInstall, theGlobalTitlesLeaveDefaultAsTheOneInstalledSet) {
     clsTextureSet changed = *findGroundSet(session, "Default");
     changed.CloudCover = "Overcast";
     changed.ColorSettings = "1:2:3:4:5:6";
-    session.rows<clsTextureSets>()->UpdateTextureSet(changed);
+    session.rows<clsTextureSets>()->Save(changed);
     copyBaseResources(session, {globalDayConfig, globalNightConfig});
     EXPECT_EQ(install.installedSets(), QStringList{"Default"});
     EXPECT_EQ(test::nightSets(session), "Default+* 2-Red+");

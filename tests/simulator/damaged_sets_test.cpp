@@ -4,7 +4,7 @@
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "night/night_generation.h"
-#include "night/night_selection.h"
+#include "night/night_sets.h"
 #include "night/night_texture_sets.h"
 #include "sets/set_removal.h"
 #include "sky/sky_activation.h"
@@ -57,8 +57,8 @@ const Kind kinds[] = {
      addGround,
      clickGroundRow,
      [](Session& session) -> QStringList& { return session.state<GroundSelection>().selectedRows; },
-     [](Session& session) { GroundGeneration(session).activateTextureSet(); },
-     [](Session& session, bool keepsColours) { GroundGeneration(session).deleteTextureSet(keepsColours); }},
+     [](Session& session) { GroundGeneration(session).activateInHand(); },
+     [](Session& session, bool keepsColours) { GroundGeneration(session).deleteInHand(keepsColours); }},
     {"Night Texture Sets",
      "NIGHT_TEXTURE_SETS",
      "TEXTURE_SET",
@@ -67,9 +67,9 @@ const Kind kinds[] = {
      addNight,
      clickNightRow,
      [](Session& session) -> QStringList& { return session.state<NightSelection>().selectedRows; },
-     [](Session& session) { NightGeneration(session).activateNightTextureSet(); },
+     [](Session& session) { NightGeneration(session).activateInHand(); },
      [](Session& session, bool keepsColours) {
-         NightGeneration(session).deleteNightTextureSet(keepsColours);
+         NightGeneration(session).deleteInHand(keepsColours);
      }},
     {"Sky Texture Sets",
      "SKY_TEXTURE_SETS",
@@ -79,8 +79,8 @@ const Kind kinds[] = {
      addSky,
      clickSkyRow,
      [](Session& session) -> QStringList& { return session.state<SkySelection>().selectedRows; },
-     [](Session& session) { SkyActivation(session).activateSkySet(); },
-     [](Session& session, bool keepsColours) { SkyActivation(session).deleteSkySet(keepsColours); }},
+     [](Session& session) { SkyActivation(session).activateInHand(); },
+     [](Session& session, bool keepsColours) { SkyActivation(session).deleteInHand(keepsColours); }},
 };
 
 /// An install with one activated set of the kind, "2-Odd".

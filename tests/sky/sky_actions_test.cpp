@@ -1,14 +1,9 @@
 #include "sky/sky_activation.h"
 
-#include "core/numbers.h"
-#include "core/store.h"
 #include "sets/set_removal.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_groups.h"
-#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
-#include "sky/sky_texture_sets.h"
-#include "sky/sky_texture_sub_sets.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -18,7 +13,6 @@
 namespace morvane {
 namespace {
 
-using test::contentsBelow;
 using test::SmallInstall;
 using test::writeFile;
 
@@ -54,22 +48,11 @@ struct SkyActions : testing::Test {
     }
 };
 
-TEST_F(SkyActions, aClickTakesTheRowInHand) {
-    const int key = install.addSkySet("1-Storm", "Overcast", true, {}, "Sunny");
-    ASSERT_TRUE(clickSkyRow(session, "1-Storm"));
-    const auto& sky = session.state<SkySelection>();
-    EXPECT_EQ((QStringList{sky.SelectedSkyKey, sky.SelectedSkySet, sky.SelectedSkyCover, sky.SelectedSkyGroup,
-                           sky.SelectedSkyDescription}),
-              (QStringList{u"Key:%1"_s.arg(key), "1-Storm", "Overcast", "Sunny", "A sky of a test"}));
-    EXPECT_TRUE(sky.SelectedSkyActivated);
-    EXPECT_FALSE(clickSkyRow(session, "1-Fog"));
-}
-
 TEST_F(SkyActions, oneSetGetsThreeFamiliesOfFiles) {
     install.addSkySet("1-Storm", "Overcast", false, {}, "Sunny");
     install.addSkySet("2-Calm", "Sky Clear", false);
     click("1-Storm", {"Default", "1-Storm"}); // "Default" does not make it two
-    SkyActivation(session).activateSkySet();
+    SkyActivation(session).activateInHand();
     EXPECT_EQ(activationOf("1-Storm"), "True");
     EXPECT_EQ(filesOf("1-Storm"), QStringList({"rise.bmp", "set.bmp", "sunny.bmp"}));
     const FilePath stock = install.home() / u"Resources\\Sky";
@@ -89,7 +72,7 @@ TEST_F(SkyActions, oneSetGetsThreeFamiliesOfFiles) {
 TEST_F(SkyActions, aBaseSetThatIsNoFolderIsToldBeforeAnythingIsStored) {
     install.addSkySet("1-Storm", "Overcast", false, {}, "..");
     click("1-Storm");
-    SkyActivation(session).activateSkySet();
+    SkyActivation(session).activateInHand();
     EXPECT_EQ(activationOf("1-Storm"), "False");
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
 }
@@ -102,12 +85,12 @@ TEST_F(SkyActions, severalSetsGetTheDayOnlyAndACancelEndsThemBeforeTheNext) {
     const auto activations = [&] { return activationOf("1-A") + activationOf("2-B") + activationOf("4-D"); };
     install.user.onPump = [&] { install.user.answers().cancelRequested = true; };
     click("4-D", {"1-A", "3-C", "2-B", "4-D"});
-    SkyActivation(session).activateSkySet();
+    SkyActivation(session).activateInHand();
     EXPECT_EQ(activations(), "TrueFalseFalse");
     EXPECT_FALSE(install.user.answers().cancelRequested);
     install.user.onPump = [] {};
     click("4-D", {"3-C", "2-B", "4-D"});
-    SkyActivation(session).activateSkySet();
+    SkyActivation(session).activateInHand();
     EXPECT_EQ(activations(), "TrueTrueFalse") << "the last was not confirmed";
     EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "2-B") << "the last one that was made";
     EXPECT_EQ(filesOf("2-B"), QStringList{"day.bmp"});
@@ -118,83 +101,29 @@ TEST_F(SkyActions, severalSetsGetTheDayOnlyAndACancelEndsThemBeforeTheNext) {
 TEST_F(SkyActions, defaultIsActivatedLikeAnyOther) {
     install.addSkySet("Default", "Partly Cloudy", true, {"day.bmp"});
     click("Default", {"Default"});
-    SkyActivation(session).activateSkySet();
+    SkyActivation(session).activateInHand();
     EXPECT_EQ(filesOf("Default"), QStringList({"day.bmp", "rise.bmp", "set.bmp"}));
     EXPECT_NE(test::readFile(sets / u"Default\\day.bmp"), "Default day.bmp");
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
-TEST_F(SkyActions, deactivatingKeepsRowColoursAndFolder) {
-    install.addSkySet("1-Storm", "Overcast", true, {"day.bmp", "rise.bmp", "notes.txt"});
+TEST_F(SkyActions, aRemovalLeavesTheLastRowInHand) {
+    install.addSkySet("1-Störm", "Overcast", true, {"day.bmp", "notes.txt"}, "Sunny");
     install.addSkySet("2-Calm", "Sky Clear", true);
     writeFile(install.home() / u"TempBitmaps\\left.bmp", "over");
-    click("1-Storm");
-    SkyActivation(session).deleteSkySet(true);
-    EXPECT_EQ(activationOf("1-Storm"), "False");
-    EXPECT_TRUE(install.files.isFolder(sets / u"1-Storm"));
-    EXPECT_TRUE(filesOf("1-Storm").isEmpty());
-    EXPECT_FALSE(install.files.exists(install.home() / u"TempBitmaps\\left.bmp"));
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "2-Calm") << "the last row is in hand";
-    EXPECT_EQ(install.user.told(),
-              QStringList{"Question|Morvane Information|Do you wish to deactivate this the texture set: "
-                          "'1-Storm'?\n\nSelect Ok, to deactivate the set or select Cancel to cancel the "
-                          "deactivate."});
-    click("1-Storm");
-    ASSERT_TRUE(loadSkySubSet(session, session.state<SkySelection>().SelectedSkyKey, skyDay));
-    EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].red, 50);
-}
-
-TEST_F(SkyActions, deletingTakesRowsAndFolder) {
-    const int key = install.addSkySet("1-Störm", "Overcast", true, {"day.bmp"});
-    click("1-Störm");
+    click("1-Störm", {"1-Störm"});
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkyGroup, "Sunny");
     install.user.answersToGive = {false, true};
-    SkyActivation(session).deleteSkySet(false);
-    EXPECT_EQ(activationOf("1-Störm"), "True");
-    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
-    SkyActivation(session).deleteSkySet(false);
-    EXPECT_EQ(activationOf("1-Störm"), "gone");
-    EXPECT_FALSE(install.files.exists(sets / u"1-Störm"));
-    ASSERT_TRUE(clsSkyTextureSubSets::reload(session, toInteger(key)));
-    EXPECT_EQ(session.rows<clsSkyTextureSubSets>()->Count(), 0);
-    EXPECT_EQ(install.user.told().last(),
-              "Question|Morvane Information|Do you wish to delete the texture set: '1-Störm'?  This action "
-              "cannot be reversed\n\nSelect Ok, to delete the file or select Cancel to cancel the delete.");
-}
-
-TEST_F(SkyActions, aloneDefaultAndTheInstalledSetAreRefused) {
-    install.addSkySet("Default", "Partly Cloudy", true, {"day.bmp"});
-    install.addSkySet("1-Storm", "Overcast", true, {"day.bmp"});
-    session.rows<clsSkyTextureSets>()->markInstalled("1-Storm");
-    const auto before = contentsBelow(sets);
-    const std::pair<QString, QString> cases[] = {{"Default", "Default"}, {"1-Storm", "currently installed"}};
-    for (const auto& [name, word] : cases) {
-        const QString said = "Exclamation|Morvane Information|You have selected the " + word +
-                             " texture set to delete/deactivate.\n\nThis is a protected texture set and no "
-                             "changes can be made "
-                             "to this set.";
-        click(name);
-        install.user.messages.clear();
-        SkyActivation(session).deleteSkySet(false);
-        SkyActivation(session).deleteSkySet(true);
-        EXPECT_EQ(activationOf(name), "True");
-        EXPECT_EQ(install.user.told(), QStringList({said, said}));
-    }
-    EXPECT_EQ(contentsBelow(sets), before);
-    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
-}
-
-TEST_F(SkyActions, amongSeveralTheInstalledSetStaysWithoutAWord) {
-    for (const char* name : {"1-A", "2-B", "3-C"})
-        install.addSkySet(name, "Overcast", true, {"day.bmp"});
-    session.rows<clsSkyTextureSets>()->markInstalled("2-B");
-    click("1-A", {"Default", "1-A", "2-B", "3-C"});
-    confirmAllButTheLast();
-    SkyActivation(session).deleteSkySet(false);
-    EXPECT_EQ(session.state<MultiChoice>().multiNames, QStringList({"1-A", "2-B", "3-C"}));
-    EXPECT_EQ(activationOf("1-A"), "gone");
-    EXPECT_EQ(activationOf("2-B"), "True");
-    EXPECT_EQ(activationOf("3-C"), "True");
-    EXPECT_TRUE(install.user.told().isEmpty());
+    SkyActivation(session).deleteInHand(true);
+    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList) << "refused";
+    SkyActivation(session).deleteInHand(true);
+    EXPECT_TRUE(filesOf("1-Störm").isEmpty());
+    EXPECT_FALSE(install.files.exists(install.home() / u"TempBitmaps\\left.bmp"));
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "2-Calm");
+    EXPECT_TRUE(session.state<SkySelection>().selectedRows.isEmpty());
+    click("1-Störm");
+    ASSERT_TRUE(loadSkySubSet(session, session.state<SkySelection>().SelectedSkyKey, skyDay));
+    EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].red, 50) << "its colours stay";
 }
 
 } // namespace

@@ -94,27 +94,6 @@ TEST_F(SkyInstall, defaultIsASetLikeAnyOther) {
     EXPECT_EQ(install.installedSkySets(), QStringList{"Default"});
 }
 
-TEST_F(SkyInstall, aReadOnlyTargetEndsItHalfWayWithTheRowsChanged) {
-    install.files.setReadOnly(install.simulator() / u"Texture\\sky_1.bmp", true);
-    installSky("1-Storm");
-    EXPECT_EQ(texture(u"cloud.bmp"), "1-Storm cloud.bmp");
-    EXPECT_EQ(texture(u"sky_1.bmp"), "the pilot's sky");
-    EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
-    ASSERT_EQ(install.user.countOfKind(MessageKind::error), 1);
-    EXPECT_TRUE(install.user.told().last().startsWith("Error|Morvane Error|Permission denied: "));
-}
-
-TEST_F(SkyInstall, severalTickedRowsAreRefused) {
-    session.state<SkySelection>().selectedRows = QStringList{"1-Storm", "Default"}; // "Default" counts, too
-    installSky("1-Storm", false);
-    EXPECT_TRUE(install.installedSkySets().isEmpty());
-    EXPECT_EQ(install.user.told(),
-              QStringList{"Exclamation|Multiple Selection Detetected!|Morvane has detected more than one "
-                          "selection for installation.  You can only select one texture set to be installed "
-                          "at any one time.  Please check your selection and try again!."});
-    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
-}
-
 TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
     install.user.answersToGive = {false};
     installSky("1-Storm", false);
@@ -205,8 +184,8 @@ TEST_F(MatchingSky, isDefaultWithoutOneOfTheCoverAndNoneWithoutAny) {
     EXPECT_EQ(installGround(0), QStringList{"Default"});
 
     install.user.calls.clear();
-    clsSkyTextureSetData(session).deleteSkyTexture(findSkySet(session, "Default")->StsID);
-    clsSkyTextureSetData(session).deleteSkyTexture(findSkySet(session, "1-Storm")->StsID);
+    for (const QString& name : {u"Default"_s, u"1-Storm"_s})
+        loadedSkySets(session).RemoveItem(keyOf(*findSkySet(session, name)));
     install.reload();
     session.state<SkySelection>().SelectedSkySet = "untouched";
     EXPECT_TRUE(installGround(0).isEmpty());

@@ -122,7 +122,7 @@ TEST_F(StockCatalogue, deliveredNightSetsHaveTheirFiles) {
     }
     contents.removeDuplicates();
     EXPECT_EQ(contents.size(), 4) << "no two have the same colours";
-    for (const QString& folder : nightSubfolders)
+    for (const QString& folder : NightKind::facts().subfolders)
         EXPECT_TRUE(files.list(home() / u"TempBitmaps" / folder, u"*.*"_s).isEmpty());
 }
 

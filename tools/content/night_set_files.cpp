@@ -15,7 +15,7 @@ namespace morvane {
 namespace {
 
 void activate(Session& session, const QString& name) {
-    if (clickNightRow(session, name)) NightGeneration(session).activateNightTextureSet();
+    if (clickNightRow(session, name)) NightGeneration(session).activateInHand();
 }
 
 } // namespace
@@ -33,7 +33,7 @@ void writeNightSets(FileSystem& files, const FilePath& home) {
     names.removeAll(u"Default"_s); // its files are the bodies
     for (const QString& name : names)
         activate(session, name);
-    for (const QString& folder : nightSubfolders)
+    for (const QString& folder : NightKind::facts().subfolders)
         emptyBitmapFolder(session, home / u"TempBitmaps" / folder);
     closeDatabase(session);
     if (user.hasFailed()) throw Error(ErrorCode::ioFailure, (home / u"Night Texture Sets").text());

@@ -33,9 +33,9 @@ void addOwnSet(Session& session, const QString& name, const QString& colours, co
     set.Actvated = u"False"_s;
     set.Description = u"A set made with version 2"_s;
     set.CloudCover = cover;
-    if (!loadedGroundSets(session).UpdateTextureSet(set)) return;
+    if (!loadedGroundSets(session).Save(set)) return;
     session.state<GroundSelection>().SelectedGroundSet = set.TextureSet;
-    GroundGeneration(session).activateTextureSet();
+    GroundGeneration(session).activateInHand();
     removeBitmaps(session, groundSetFolder(session, set.TextureSet) / dutchFolder);
 }
 
@@ -86,7 +86,7 @@ void makeVersionTwo(FileSystem& files, const FilePath& home) {
     connectDatabase(session);
     addOwnSet(session, u"Harvest"_s, u"12:2.4:0:-1.6:3:1.5"_s, u"Sky Clear"_s);
     addOwnSet(session, u"Grey day"_s, u"-30:0:0:1.2:-6:-3"_s, u"Overcast"_s);
-    for (const QString& folder : groundSubfolders)
+    for (const QString& folder : GroundKind::facts().subfolders)
         emptyBitmapFolder(session, home / u"TempBitmaps" / folder);
     removeBitmaps(session, home / u"TempBitmaps" / dutchFolder);
     writeImportFiles(session);

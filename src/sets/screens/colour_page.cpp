@@ -31,13 +31,6 @@ constexpr SliderPlace sliderPlaces[] = {{u"Saturation", {14, 319}},  {u"Red", {1
 
 } // namespace
 
-const std::array<ColourPageSetup::Slider, 6> colourSliders{{{u"vcSaturation"_s, u"lblSat"_s},
-                                                            {u"vcRed"_s, u"lblRed"_s},
-                                                            {u"vcGreen"_s, u"lblGreen"_s},
-                                                            {u"vcBlue"_s, u"lblBlue"_s},
-                                                            {u"vcBright"_s, u"lblBright"_s},
-                                                            {u"vcContrast"_s, u"lblContrast"_s}}};
-
 std::vector<ColourPageSetup::Option> coverOptions() {
     std::vector<ColourPageSetup::Option> options;
     for (int index = 0; index < cloudCoverCount; ++index) {

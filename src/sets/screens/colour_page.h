@@ -36,8 +36,6 @@ struct ColourPageSetup {
 
 /// The five cloud covers as options.
 std::vector<ColourPageSetup::Option> coverOptions();
-/// Names of the sliders of ground and night.
-extern const std::array<ColourPageSetup::Slider, 6> colourSliders;
 
 /// The page on which the colours of a set are tuned: a column of options, six sliders, and what they do to a
 /// picture. The sliders keep their places while the program runs.

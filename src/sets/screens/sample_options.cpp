@@ -5,7 +5,6 @@
 
 #include <QButtonGroup>
 #include <QRadioButton>
-#include <algorithm>
 
 namespace morvane {
 
@@ -25,9 +24,8 @@ QButtonGroup* addSampleOptions(QWidget* parent, const SampleChoices& choices, co
 }
 
 void checkSample(const QButtonGroup& group, const SampleChoices& choices, const QString& key) {
-    const auto found = std::ranges::find(choices, key, &SampleChoice::key);
-    const auto index = found == choices.end() ? 0 : found - choices.begin();
-    group.button(static_cast<int>(index))->setChecked(true);
+    const std::size_t index = indexOfSample(choices, key);
+    group.button(index < choices.size() ? static_cast<int>(index) : 0)->setChecked(true);
 }
 
 const QString& checkedSample(const QButtonGroup& group, const SampleChoices& choices) {

@@ -28,32 +28,6 @@ void addRule(QWidget* paper, const QRect& place) {
 
 } // namespace
 
-SetListSetup textureListPage(const QString& instructions, const std::vector<SetColumn>& columns,
-                             const SetListSetup::Key& create) {
-    return {
-        .instructionsName = u"lblTsInstructions"_s,
-        .instructions = instructions,
-        .listName = u"lstTextureSets"_s,
-        .listWidth = 330,
-        .columns = columns,
-        .hasCheckBoxes = false,
-        .sourceName = u"picTextureSetSource"_s,
-        .resultName = u"picTextureSetResult"_s,
-        .pictureSide = 108,
-        .pictureLefts = {359, 473},
-        .isSmooth = true,
-        .descriptionName = u"lblFavDescription"_s,
-        .descriptionRole = TextRole::body,
-        .create = create,
-        .activate = {u"btn_TextureActivate"_s, u"activate ts"_s},
-        .install = {u"btn_TextureInstall"_s, u"install ts"_s},
-        .remove = {u"btn_TextureDelete"_s, u"delete ts"_s},
-        // Unlike a click this leaves the key of an activated set dead: once the list was built anew, a set
-        // can be deactivated only after its row was clicked.
-        .ofActivatedByPage = ButtonState::disabled,
-    };
-}
-
 SetListForm::SetListForm(Shell& shell, const QString& name, const WindowLook& look, const HostKeys& keys,
                          const QString& colourPage, const SetListSetup& setup)
     : HostForm(shell, name, look, keys, colourPage), setup_(setup) {
@@ -119,7 +93,7 @@ void SetListForm::addKeys() {
 }
 
 void SetListForm::formatSets(int& selectedRow) {
-    reportFailures(session().user, {}, [&] {
+    reportFailures(session().user, morvaneError, [&] {
         markListKey();
         paper()->setTitle(u"icon_MVOpen.bmp"_s, u"Manage Texture Sets Screen"_s);
         formatKeys();
@@ -194,7 +168,7 @@ void SetListForm::takeInHand(int row, bool hasColours, ButtonState ofActivated) 
     const ButtonState ofWhole = hasColours ? ButtonState::enabled : ButtonState::disabled;
     const auto filled = std::ranges::find(filledRows_, list_->keyOf(row), &SetRow::key);
     rowInHand_ = filled == filledRows_.end() ? 0 : static_cast<int>(filled - filledRows_.begin()) + 1;
-    noteRows(row);
+    noteRows();
     const bool isActivated = list_->textOf(row, activatedColumn) == flagText(true);
     install_->setState(isActivated ? ofWhole : ButtonState::disabled);
     setActivateState(isActivated ? ofActivated : ofWhole);

@@ -36,10 +36,7 @@ struct SetListSetup {
     ButtonState ofActivatedByPage;
 };
 
-/// The page that ground and night have in common. Their words, their columns and the key "create" are each
-/// one's own.
-SetListSetup textureListPage(const QString& instructions, const std::vector<SetColumn>& columns,
-                             const SetListSetup::Key& create = {});
+inline constexpr QRgb installedSetColour = qRgb(255, 0, 0); ///< of the installed set's row
 
 /// A window whose own page lists all sets of one kind, shows the one in hand on a sample, and has the keys
 /// that act on it. Column 1 of its list tells which sets are activated.
@@ -63,13 +60,13 @@ protected:
     /// Takes the set behind the key into the session's selection, and shows its description and its sample.
     /// False when its colours are damaged, which was told.
     virtual bool takeSet(const QString& listKey) = 0;
-    /// Notes in the session which rows actions take, once that row is in hand.
-    virtual void noteRows(int row) = 0;
+    /// Notes in the session which rows actions take, once a row is in hand.
+    virtual void noteRows() = 0;
     /// The pictures of an empty list.
     virtual void showNoSet() = 0;
     /// Gives the name of a set that was made just now, once; empty for none, and where the page finds its row
     /// by itself.
-    virtual QString takeMadeSet() { return {}; }
+    virtual QString takeMadeSet() = 0;
 
     SetTable& list() const { return *list_; }
     /// In the order in which the rows were filled in, before a click on a head sorted them; 0 for none.

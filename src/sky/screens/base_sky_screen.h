@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sky/sky_base_sets.h"
 #include "ui/dialog_form.h"
 
 #include <array>
@@ -20,7 +21,7 @@ protected:
     void confirm() override;
 
 private:
-    std::array<QRadioButton*, 7> optBaseSky_{};
+    std::array<QRadioButton*, skyBaseSetCount> optBaseSky_{};
 };
 
 } // namespace morvane

@@ -59,11 +59,6 @@ void frm_SkyColorize::format() {
     showGroup();
 }
 
-void frm_SkyColorize::openSkyImage(const FilePath& path) {
-    tuning_.openSkyImage(path);
-    showPictures();
-}
-
 void frm_SkyColorize::showPreview() {
     tuning_.SkyProcess(sliderValues());
     showResult();

@@ -16,11 +16,6 @@ public:
 
     void format() override;
 
-    /// Loads a texture and shows it as it is and coloured.
-    void openSkyImage(const FilePath& path);
-    /// Writes the sliders into the group in hand and shows what comes of it.
-    void SkyProcess() { showPreview(); }
-
     /// The large keys.
     void openBaseSkyImage();
     void randomizeSky();

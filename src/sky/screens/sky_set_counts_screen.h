@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sky/sky_base_sets.h"
 #include "ui/count_edit.h"
 #include "ui/dialog_form.h"
 
@@ -24,7 +25,7 @@ private:
     /// "Overcast" has a count of its own; the other six base sets share four.
     void enableCounts();
 
-    std::array<QCheckBox*, 7> chkStsGroup_{};
+    std::array<QCheckBox*, skyBaseSetCount> chkStsGroup_{};
     std::array<CountEdit*, 5> boxes_{}; ///< of the cloud covers 1 to 5
 };
 

@@ -2,14 +2,12 @@
 
 #include "core/failure_report.h"
 #include "sky/sky_base_sets.h"
-#include "sky/sky_selection.h"
-#include "sky/sky_sets.h"
 
 namespace morvane {
 
 namespace {
 
-constexpr QRgb installedColour = qRgb(255, 0, 0), usualColour = qRgb(0, 0, 255);
+constexpr QRgb usualColour = qRgb(0, 0, 255);
 
 const HostKeys windowKeys{u"sky texture sets"_s, u"sky"_s, u"btn_SkyColor"_s,
                           u"Click to minimize Sky Textures Screen."_s};
@@ -45,75 +43,45 @@ const SetListSetup listPage{
     .ofActivatedByPage = ButtonState::deactivate,
 };
 
-SetRow rowOf(const clsSkyTextureSet& set) {
-    return {skyListKey(set),
-            {set.SkyTextureSet, set.Activated, set.CloudCover, set.TextureSetGroup},
-            QStringList(4, set.SkyTextureSet),
-            set.Installed ? installedColour : usualColour};
-}
-
 } // namespace
 
 frm_KMTextures::frm_KMTextures(Shell& shell)
-    : SetListForm(shell, u"frm_KMTextures"_s, skyLook, windowKeys, u"frm_SkyColorize"_s, listPage),
+    : KindListForm(shell, u"frm_KMTextures"_s, skyLook, windowKeys, u"frm_SkyColorize"_s, listPage),
       sample_(session(), SkyTable::texture) {
     list().setFont(fontOf(TextRole::longHelp)); // four columns and a name with date and time
     // One row is in hand; several are those that are ticked.
     list().setSelectionMode(QAbstractItemView::SingleSelection);
-    connect(&list(), &QTreeWidget::itemChanged, this, &frm_KMTextures::noteTicks);
+    connect(&list(), &QTreeWidget::itemChanged, this, &frm_KMTextures::noteRows);
 }
 
 void frm_KMTextures::formatList() {
     int row = 0;
-    reportFailures(session().user, {},
-                   [&] { row = refreshedSets().findIndex(session().state<SkySelection>().SelectedSkySet); });
+    reportFailures(session().user, morvaneError,
+                   [&] { row = refreshedSets().findIndex(selection().SelectedSkySet); });
     formatSets(row);
 }
 
-const clsSkyTextureSets& frm_KMTextures::refreshedSets() {
-    if (session().state<SkySelection>().RefreshSkyList && refreshSkySets(session()))
-        session().state<SkySelection>().RefreshSkyList = false;
-    return loadedSkySets(session());
-}
-
-std::vector<SetRow> frm_KMTextures::setRows() {
-    std::vector<SetRow> rows;
-    for (const auto& set : refreshedSets())
-        rows.push_back(rowOf(*set));
-    return rows;
-}
-
-bool frm_KMTextures::clickSet(int row) {
-    return clickSkyRow(session(), list().textOf(row, 0));
+SetRow frm_KMTextures::rowOf(const clsSkyTextureSet& set) const {
+    return {listKeyOf(set),
+            {set.SkyTextureSet, set.Activated, set.CloudCover, set.TextureSetGroup},
+            QStringList(4, set.SkyTextureSet),
+            set.Installed ? installedSetColour : usualColour};
 }
 
 bool frm_KMTextures::takeSet(const QString& listKey) {
     const bool hasColours = loadSkySubSet(session(), listKey, skyDay);
-    showDescription(session().state<SkySelection>().SelectedSkyDescription);
+    showDescription(selection().SelectedSkyDescription);
     // A base set that was edited by hand may be no folder's name.
-    reportFailures(session().user, {}, [this] {
-        openSkyTextureSetImage(skySampleFile(session(), session().state<SkySelection>().SelectedSkyGroup));
+    reportFailures(session().user, morvaneError, [this] {
+        sample_.openImage(skySampleFile(session(), selection().SelectedSkyGroup));
+        showPictures(sample_.sourceDib(), sample_.resultDib());
     });
     return hasColours;
 }
 
-void frm_KMTextures::noteTicks() {
-    session().state<SkySelection>().selectedRows = list().checkedNames();
-}
-
-void frm_KMTextures::openSkyTextureSetImage(const FilePath& path) {
-    sample_.openImage(path);
-    showPictures(sample_.sourceDib(), sample_.resultDib());
-}
-
-void frm_KMTextures::SkyTextureSetProcess() {
-    sample_.process();
-    showPictures(sample_.sourceDib(), sample_.resultDib());
-}
-
 /// Without a set there is no base set that a sample could be taken from.
 void frm_KMTextures::showNoSet() {
-    noteTicks();
+    noteRows();
     showPictures({}, {});
 }
 

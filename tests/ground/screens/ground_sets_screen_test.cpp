@@ -69,7 +69,7 @@ TEST_F(GroundSetsScreenTest, onlyAClickOffersDeactivation) {
     clickRow(3);
     EXPECT_EQ(keyStates(), (std::vector{alive, alive, alive, dead}));
     EXPECT_EQ(selection.SelectedGroundCover, u"Sky Clear"_s);
-    screen->selectGroundRow(2);
+    screen->selectSetRow(2);
     EXPECT_EQ(keyStates(), (std::vector{alive, alive, dead, alive}));
     EXPECT_EQ(selection.SelectedGroundSet, u"2-Storm"_s);
 }
@@ -114,14 +114,15 @@ TEST_F(GroundSetsScreenTest, keepsTheRowInHandWhenItIsFilledAnew) {
     EXPECT_EQ(list->storedColour(3), red);
     EXPECT_EQ(list->storedColour(4), blue);
     int row = 4;
-    screen->formatGroundSets(row);
+    screen->formatSets(row);
     EXPECT_EQ(row, 0);
     EXPECT_EQ(list->selectedNames(), QStringList{u"4-Late"_s});
 }
 
 TEST_F(GroundSetsScreenTest, anEmptyTableLeavesOnlyCreate) {
-    for (const auto& set : loadedGroundSets(program.install.session))
-        clsTextureSetData(program.install.session).deleteTexture(set->TsID);
+    clsTextureSets& sets = loadedGroundSets(program.install.session);
+    while (sets.Count() > 0)
+        sets.RemoveItem(keyOf(*sets.GetItem(1)));
     open();
     EXPECT_EQ(keyStates(), (std::vector{dead, alive, dead, dead}));
     EXPECT_EQ(description(), QString());

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <array>
+
+namespace morvane {
+
+/// One row of the fixed table: which name patterns a category has, and under which resource row they lie.
+struct CatalogueCategory {
+    int number;
+    const char16_t* resourceName;
+    const char16_t* tempPath;
+    const char16_t* patterns; ///< separated by blanks, in the order of the walk
+    bool extraWinter;         ///< walks the winter files once more, whatever the winter flag says
+};
+
+/// The two classes of the add-on's industrial areas that have base images of their own; category 13 walks
+/// generic ones besides.
+inline constexpr char16_t industrialPatterns[] = u"034*2 038*2";
+
+/// All fifteen, in order. Category 13 is walked in runs of its own and has no patterns here.
+const std::array<CatalogueCategory, 15>& catalogueTable();
+
+} // namespace morvane
