@@ -2,10 +2,10 @@
 #include "cli/command_tables.h"
 #include "cli/set_commands.h"
 #include "imaging/slider_steps.h"
+#include "night/night_sets.h"
 #include "night/night_tuning.h"
 #include "sets/favourite_name.h"
 #include "sets/slider_values.h"
-#include "night/night_sets.h"
 
 #include <algorithm>
 

@@ -25,14 +25,13 @@ struct SetKindFacts {
 struct StoredSet {
     QString name;
     QString colourSettings; ///< empty for a kind that keeps its colours elsewhere
-    QString cover;          ///< empty for a kind that has nothing to do with the weather
     bool isInstalled;
 };
 
 /// The kind's part of the session: what its list has in hand.
 struct SetInHand {
     QString& name;
-    QString cover; ///< as in StoredSet
+    QString cover; ///< empty for a kind that has nothing to do with the weather
     SetSelection& selection;
     bool& refreshList; ///< the list is to be filled anew when it is shown
 };
@@ -54,8 +53,6 @@ public:
     // Both are of a set that is there; false when the store refused.
     virtual bool storeActivation(Session& session, const QString& name, bool activated) const = 0;
     virtual bool removeRecord(Session& session, const QString& name) const = 0;
-    /// No other set is installed then. False when the store refused.
-    virtual bool markInstalled(Session& session, const QString& name) const = 0;
     /// Takes the named set in hand and installs it as a part of the job. False when the store refused.
     virtual bool installInside(Session& session, Job& job, const QString& name) const = 0;
 
@@ -143,7 +140,7 @@ public:
     std::optional<StoredSet> find(Session& session, const QString& name) const override {
         const auto set = findSet<Kind>(session, name);
         if (!set) return std::nullopt;
-        StoredSet stored{nameOf(*set), {}, coverOf(*set), set->Installed};
+        StoredSet stored{nameOf(*set), {}, set->Installed};
         if constexpr (requires { set->ColorSettings; }) stored.colourSettings = set->ColorSettings;
         return stored;
     }
@@ -155,9 +152,6 @@ public:
     }
     bool removeRecord(Session& session, const QString& name) const override {
         return loadedSets<Kind>(session).RemoveItem(keyOf(*findSet<Kind>(session, name)));
-    }
-    bool markInstalled(Session& session, const QString& name) const override {
-        return loadedSets<Kind>(session).markInstalled(name);
     }
     bool installInside(Session& session, Job& job, const QString& name) const override {
         inHand(session).name = name;

@@ -63,7 +63,7 @@ void TexturePasses::saveColoured(const CatalogueFile& file) {
 }
 
 void TexturePasses::colourFiles(const std::vector<CatalogueFile>& files, const ColourValues& colours) {
-    reportFailures(session_.user, morvaneError, [&] {
+    reportFailures(session_.user, {}, [&] {
         session_.user.hideScreen(description_.hiddenScreen);
         Progress progress = openProgress(u"Colorizing"_s, 1, files.size());
         makeTempFolders(files);
@@ -78,7 +78,7 @@ void TexturePasses::colourFiles(const std::vector<CatalogueFile>& files, const C
             if (job_.isCancelled()) return;
             ColouredFile coloured = work.next();
             if (coloured.picture) resultDib_ = std::move(*coloured.picture);
-            if (coloured.failure) showFailure(session_.user, morvaneError, *coloured.failure);
+            if (coloured.failure) showFailure(session_.user, {}, *coloured.failure);
             saveColoured(files[i]);
             advance(progress, i, files.size());
         }
@@ -92,7 +92,7 @@ void TexturePasses::makeSetFolders() {
 }
 
 void TexturePasses::convertFiles(const std::vector<CatalogueFile>& files) {
-    reportFailures(session_.user, morvaneError, [&] {
+    reportFailures(session_.user, {}, [&] {
         Progress progress = openProgress(u"Converting"_s, 2, files.size());
         makeSetFolders();
         OrderedWork<QByteArray> work(static_cast<int>(files.size()), [&](int i) {

@@ -10,8 +10,8 @@
 #include "night/night_selection.h"
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
-#include "sets/stored_rows.h"
 #include "sets/simulator_copy.h"
+#include "sets/stored_rows.h"
 #include "simulator/checked_copies.h"
 #include "simulator/configs.h"
 

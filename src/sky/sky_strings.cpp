@@ -105,11 +105,4 @@ SkyStrings drawSkyStrings(Session& session, int cloudIndex, const QString& baseS
     return strings;
 }
 
-SkyStrings skyStringsFor(Session& session, const QString& timeOfDay, int cloudIndex, const QString& baseSet) {
-    if (timeOfDay == skyDay) return drawSkyStrings(session, cloudIndex, baseSet);
-    SkyStrings neutral;
-    neutral.fill(u"0:0:0:0:0:0:0:0:0"_s);
-    return neutral;
-}
-
 } // namespace morvane

@@ -12,8 +12,4 @@ using SkyStrings = std::array<QString, 10>;
 /// leaves texts of the region alone. Any other cloud cover raises "Subscript out of range".
 SkyStrings drawSkyStrings(Session& session, int cloudIndex, const QString& baseSet);
 
-/// The texts of a set for a time of day: the above for "Day". Any other gets ten neutral texts without a
-/// region and leaves the table as it is; no set is made so at present.
-SkyStrings skyStringsFor(Session& session, const QString& timeOfDay, int cloudIndex, const QString& baseSet);
-
 } // namespace morvane

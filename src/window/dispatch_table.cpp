@@ -3,7 +3,9 @@
 #include "core/flights_folder.h"
 #include "core/literals.h"
 #include "ground/ground_generation.h"
+#include "ground/ground_sets.h"
 #include "ground/screens/ground_colour_screen.h"
+#include "night/night_sets.h"
 #include "night/screens/night_colour_screen.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
@@ -12,6 +14,7 @@
 #include "simulator/simulator_launch.h"
 #include "sky/screens/sky_colour_screen.h"
 #include "sky/sky_generation.h"
+#include "sky/sky_sets.h"
 #include "ui/dialog_form.h"
 #include "weather/cover_choice.h"
 #include "weather/screens/cover_report_screen.h"
@@ -19,9 +22,6 @@
 #include "weather/weather_refresh.h"
 #include "weather/wx_filter.h"
 #include "window/window_shell.h"
-#include "ground/ground_sets.h"
-#include "night/night_sets.h"
-#include "sky/sky_sets.h"
 
 #include <algorithm>
 #include <array>

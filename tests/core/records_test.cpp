@@ -73,28 +73,24 @@ TEST_F(RecordsTest, everyKindOfRecordSurvivesAReload) {
                 u"TEXTURE_SETS"_s, u"12|0:1.4:0:-1:3:-1.5|12-Storm på Ålborg's 1.5|Overcast|True|a, b|1|0"_s);
     EXPECT_EQ(session.rows<clsTextureSets>()->GetItem(1)->ColorSettings, colours);
     saveAndLoad(clsNightTextureSet{true, true, 0, colours, name, u"False"_s, u"warm"_s},
-                session.rows<clsNightTextureSets>(), clsNightTextureSets::reload,
-                &clsNightTextureSets::Save, u"NIGHT_TEXTURE_SETS"_s,
-                u"12|0:1.4:0:-1:3:-1.5|12-Storm på Ålborg's 1.5|False|warm|1"_s);
+                session.rows<clsNightTextureSets>(), clsNightTextureSets::reload, &clsNightTextureSets::Save,
+                u"NIGHT_TEXTURE_SETS"_s, u"12|0:1.4:0:-1:3:-1.5|12-Storm på Ålborg's 1.5|False|warm|1"_s);
     saveAndLoad(clsSkyTextureSet{u"Pro Sky"_s, u"d"_s, u"True"_s, u"Overcast"_s, true, true, 0, name},
-                session.rows<clsSkyTextureSets>(), clsSkyTextureSets::reload,
-                &clsSkyTextureSets::Save, u"SKY_TEXTURE_SETS"_s,
-                u"12|12-Storm på Ålborg's 1.5|Overcast|True|d|Pro Sky|1"_s);
+                session.rows<clsSkyTextureSets>(), clsSkyTextureSets::reload, &clsSkyTextureSets::Save,
+                u"SKY_TEXTURE_SETS"_s, u"12|12-Storm på Ålborg's 1.5|Overcast|True|d|Pro Sky|1"_s);
     saveAndLoad(clsBackup{u"Backup"_s, 0, clock.now, true}, session.rows<clsBackups>(), clsBackups::reload,
                 &clsBackups::UpdateBackups, u"MV_BACKUP"_s, u"12|12-Backup|2007/05/30 21:14:09"_s);
     // A category's name gets no key.
     saveAndLoad(clsResourceFolder{true, 0, u"DUTCH"_s, u"source"_s, u"Scenery\\World"_s, u"Dutch"_s},
-                session.rows<clsResourceFolders>(), clsResourceFolders::reload,
-                &clsResourceFolders::Save, u"RESOURCE_FOLDERS"_s,
-                u"12|DUTCH|source|Dutch|Scenery\\World"_s);
+                session.rows<clsResourceFolders>(), clsResourceFolders::reload, &clsResourceFolders::Save,
+                u"RESOURCE_FOLDERS"_s, u"12|DUTCH|source|Dutch|Scenery\\World"_s);
     const clsSkyTextureSubSet sky{u"Day"_s, true,    3,       0,       u"Day:3-Storm"_s,
                                   u"gd"_s,  u"gl"_s, u"cd"_s, u"cl"_s, u"wd"_s,
                                   u"2,5"_s, u"wl"_s, u"s"_s,  u"hl"_s, u"hh"_s};
     saveAndLoad(
         sky, session.rows<clsSkyTextureSubSets>(),
-        +[](Session& s) { return clsSkyTextureSubSets::reload(s, 3); },
-        &clsSkyTextureSubSets::Save, u"SKY_TEXTURE_SUB_SETS"_s,
-        u"12|3|12-Day:3-Storm|gd|gl|cd|cl|hh|hl|s|wl|2.5|wd|Day"_s);
+        +[](Session& s) { return clsSkyTextureSubSets::reload(s, 3); }, &clsSkyTextureSubSets::Save,
+        u"SKY_TEXTURE_SUB_SETS"_s, u"12|3|12-Day:3-Storm|gd|gl|cd|cl|hh|hl|s|wl|2.5|wd|Day"_s);
     EXPECT_EQ(session.rows<clsSkyTextureSubSets>()->GetItem(1)->WaterMain,
               "2.5"); // the sky's are read as stored
     EXPECT_TRUE(user.calls.isEmpty());

@@ -68,9 +68,7 @@ const Kind kinds[] = {
      clickNightRow,
      [](Session& session) -> QStringList& { return session.state<NightSelection>().selectedRows; },
      [](Session& session) { NightGeneration(session).activateInHand(); },
-     [](Session& session, bool keepsColours) {
-         NightGeneration(session).deleteInHand(keepsColours);
-     }},
+     [](Session& session, bool keepsColours) { NightGeneration(session).deleteInHand(keepsColours); }},
     {"Sky Texture Sets",
      "SKY_TEXTURE_SETS",
      "SKY_TEXTURE_SET",

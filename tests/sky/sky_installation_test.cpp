@@ -82,16 +82,13 @@ TEST_F(SkyInstall, anEmptyFolderChangesRowsAndSplashOnly) {
         EXPECT_EQ(splash(), expected);
     }
     EXPECT_EQ(texture(u"sky_1.bmp"), "the pilot's sky");
-    EXPECT_TRUE(install.user.told().isEmpty());
-}
-
-TEST_F(SkyInstall, defaultIsASetLikeAnyOther) {
+    // "Default" is a set like any other: the ground's would replace the splash whatever the option.
     install.addSkySet("Default", "Partly Cloudy", true, {"sky_1.bmp"});
     session.state<OptionsInForce>().InhibitCustomSplash = true;
     installSky("Default");
     EXPECT_EQ(texture(u"sky_1.bmp"), "Default sky_1.bmp");
-    EXPECT_EQ(splash(), "the pilot's splash"); // the ground's "Default" would replace it
-    EXPECT_EQ(install.installedSkySets(), QStringList{"Default"});
+    EXPECT_EQ(splash(), "splash SKC");
+    EXPECT_TRUE(install.user.told().isEmpty());
 }
 
 TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
@@ -166,6 +163,12 @@ struct MatchingSky : SkyInstall {
 
 TEST_F(MatchingSky, isDrawnFromAllOfTheCover) {
     install.addGroundSet("2-A", "Overcast", true, {"Texture\\029h2su6.bmp"});
+    EXPECT_TRUE(installGround(0, false).isEmpty()) << "not wanted";
+    EXPECT_EQ(
+        install.user.told(),
+        QStringList({"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
+                     "matching Sky Texture set?",
+                     launchQuestion}));
     EXPECT_EQ(installGround(0.9), QStringList{"1-Storm"});
     EXPECT_EQ(install.random.draws, 0) << "the only one needs no draw";
     install.addSkySet("2-Fog", "Overcast ", true, {"cloud.bmp"});
@@ -191,16 +194,6 @@ TEST_F(MatchingSky, isDefaultWithoutOneOfTheCoverAndNoneWithoutAny) {
     EXPECT_TRUE(installGround(0).isEmpty());
     EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "untouched");
     EXPECT_EQ(install.user.calls.filter("sky textures").size(), 0);
-}
-
-TEST_F(MatchingSky, aNoInstallsTheGroundAlone) {
-    install.addGroundSet("2-A", "Overcast", true, {"Texture\\029h2su6.bmp"});
-    EXPECT_TRUE(installGround(0, false).isEmpty());
-    EXPECT_EQ(
-        install.user.told(),
-        QStringList({"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
-                     "matching Sky Texture set?",
-                     launchQuestion}));
 }
 
 } // namespace

@@ -19,7 +19,7 @@ struct SkyRandomiser : testing::Test {
     test::SmallInstall install;
 };
 
-/// The sums hold both ends of every field of every group; below them what is odd about the rules.
+/// The sums hold both ends of every field of every group.
 TEST_F(SkyRandomiser, everyFieldReachesItsEnds) {
     constexpr int zero = 39055; // nothing is drawn
     const struct {
@@ -45,18 +45,6 @@ TEST_F(SkyRandomiser, everyFieldReachesItsEnds) {
                 EXPECT_EQ(qChecksum(drawn), sums[static_cast<std::size_t>(cloudIndex + 1)])
                     << base.toStdString() << ' ' << cloudIndex;
             }
-    const std::tuple<int, QString, int, SliderValues> lowest[] = {
-        {1, u"Default"_s, 3, {0, 0, 0, -25, 100, 90}},
-        {2, u"Pro Sky"_s, 3, {-30, 0, 0, 0, 70, 0}},
-        {3, u"Sunny"_s, 1, {0, 0, 0, 0, -25, 0}},
-        {4, u"Horizons"_s, 1, {0, 0, 0, 0, -50, 0}},
-        {4, u"Horizons"_s, 2, {0, 0, 0, 0, -70, 0}},
-        {4, u"Tropical"_s, 9, {0, 0, -20, -60, -30, -20}},
-        {5, u"Average"_s, 10, {-30, -30, -30, -30, -30, -30}},
-        {5, u"Sunny"_s, 6, {}}};
-    install.random.numbers = {0};
-    for (const auto& [cloudIndex, base, group, values] : lowest)
-        EXPECT_EQ(draw(cloudIndex, base, group), values) << cloudIndex << ' ' << group;
     EXPECT_TRUE(install.user.messages.empty());
 }
 

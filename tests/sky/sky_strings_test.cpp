@@ -46,10 +46,6 @@ TEST_F(StringsTest, everyGroupFollowsItsRule) {
             EXPECT_EQ(qChecksum(sets.join(u' ').toLatin1()), familyA.contains(base) ? sumOfA : sumOfB)
                 << cloudIndex << base.toStdString();
         }
-    const QStringList overcast = drawnNumbers(5, u"Sunny"_s), cloudy = drawnNumbers(4, u"Default"_s);
-    EXPECT_TRUE(overcast[1] == overcast[0] && overcast[3] == overcast[2] && overcast[6] != overcast[2]);
-    EXPECT_NE(cloudy[1], cloudy[0]) << "the two shadows differ here alone";
-    EXPECT_TRUE(cloudy[9] == cloudy[7] && cloudy[8] == cloudy[7]);
 }
 
 TEST_F(StringsTest, textsAndTableSayTheSame) {
@@ -75,14 +71,6 @@ TEST_F(StringsTest, aBaseSetWithoutRulesGetsItsRegionsAlone) {
     }
     EXPECT_THROW(drawSkyStrings(session, 0, u"Default"_s), Error);
     EXPECT_THROW(drawSkyStrings(session, 6, u"Default"_s), Error);
-}
-
-TEST_F(StringsTest, onlyADayHasColours) {
-    session.state<SkyColourTables>().skyTextureGroups[9].red = 50;
-    for (const QString& text : skyStringsFor(session, u"Sunset"_s, 3, u"Default"_s))
-        EXPECT_EQ(text, "0:0:0:0:0:0:0:0:0");
-    EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].red, 50);
-    EXPECT_EQ(skyStringsFor(session, u"Day"_s, 3, u"Default"_s)[4], "0:0:0:0:0:0:5:5:32");
 }
 
 } // namespace

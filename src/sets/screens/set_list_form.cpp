@@ -93,7 +93,7 @@ void SetListForm::addKeys() {
 }
 
 void SetListForm::formatSets(int& selectedRow) {
-    reportFailures(session().user, morvaneError, [&] {
+    reportFailures(session().user, {}, [&] {
         markListKey();
         paper()->setTitle(u"icon_MVOpen.bmp"_s, u"Manage Texture Sets Screen"_s);
         formatKeys();

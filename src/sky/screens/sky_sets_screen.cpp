@@ -56,8 +56,7 @@ frm_KMTextures::frm_KMTextures(Shell& shell)
 
 void frm_KMTextures::formatList() {
     int row = 0;
-    reportFailures(session().user, morvaneError,
-                   [&] { row = refreshedSets().findIndex(selection().SelectedSkySet); });
+    reportFailures(session().user, {}, [&] { row = refreshedSets().findIndex(selection().SelectedSkySet); });
     formatSets(row);
 }
 
@@ -72,7 +71,7 @@ bool frm_KMTextures::takeSet(const QString& listKey) {
     const bool hasColours = loadSkySubSet(session(), listKey, skyDay);
     showDescription(selection().SelectedSkyDescription);
     // A base set that was edited by hand may be no folder's name.
-    reportFailures(session().user, morvaneError, [this] {
+    reportFailures(session().user, {}, [this] {
         sample_.openImage(skySampleFile(session(), selection().SelectedSkyGroup));
         showPictures(sample_.sourceDib(), sample_.resultDib());
     });
