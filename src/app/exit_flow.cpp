@@ -20,7 +20,7 @@
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
 #include "sky/sky_tuning_state.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 
 #include <algorithm>
 

@@ -16,7 +16,7 @@
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 
 namespace morvane {
 

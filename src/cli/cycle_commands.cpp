@@ -6,7 +6,7 @@
 #include "core/store.h"
 #include "core/text_decoding.h"
 #include "weather/metar_decoder.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 
 #include <QFile>
 
@@ -20,9 +20,7 @@ void decode(CommandContext& context) {
     QStringList lines = splitLines(decodeText(input.readAll()));
     if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
     for (const QString& line : lines) {
-        clsDecodeMetar report(context.user);
-        report.decodeMetarString(line);
-        printJson(QJsonDocument(toJson(report)));
+        printJson(QJsonDocument(toJson(clsDecodeMetar(context.user).decodeMetarString(line))));
     }
 }
 
@@ -50,8 +48,9 @@ void download(CommandContext& context) {
 }
 
 void printRows(CommandContext& context) {
-    const QStringList columns = context.session.adoConn->columns(u"DECODED_METAR"_s);
-    for (RowSet rows = clsWxFinderData(context.session).getDecodedMetar({}); !rows.atEnd(); rows.next()) {
+    Store& store = *context.session.adoConn;
+    const QStringList columns = store.columns(u"DECODED_METAR"_s);
+    for (RowSet rows(store, u"SELECT * FROM DECODED_METAR"_s); !rows.atEnd(); rows.next()) {
         QJsonObject row;
         for (const QString& column : columns)
             row.insert(column, fieldOf(rows, column));

@@ -2,8 +2,8 @@
 
 #include "core/file_helpers.h"
 #include "core/registry.h"
+#include "weather/reports.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
 namespace morvane {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/row_set.h"
+#include "weather/weather_report.h"
 
 #include <QDate>
 #include <QStringList>
@@ -12,10 +12,9 @@ struct DecodedReportLines {
     QStringList decodedMetarLines;
 };
 
-/// The decoded report of the row of `DECODED_METAR` at hand, line by line: heading, date, wind, visibility,
+/// The decoded report, line by line: heading, date, wind, visibility,
 /// precipitation, obscuration, sky, temperature, dewpoint, pressure, the report itself. `today` stands in for
-/// a month or a year that the row does not have.
-QStringList decodedMetarLines(const RowSet& row, const QString& heading, const QString& report,
-                              const QDate& today);
+/// a month or a year that the report does not have.
+QStringList decodedMetarLines(const clsWxFinder& report, const QString& heading, const QDate& today);
 
 } // namespace morvane

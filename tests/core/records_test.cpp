@@ -8,7 +8,8 @@
 #include "simulator/configs.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
-#include "weather/wx_finders.h"
+#include "weather/report_rows.h"
+#include "weather/reports.h"
 
 #include "support/faulty_store.h"
 #include "support/scripted_services.h"
@@ -167,10 +168,8 @@ TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
     EXPECT_FALSE(clsWxFinders::reload(session));
     session.adoConn.reset(); // as when no store was found at all
     EXPECT_FALSE(clsConfigs(session).GetHaloVal());
-    EXPECT_FALSE(clsWxFinderData(session).insertDecodedMetar({}));
-    EXPECT_EQ(user.told().join(u'/'),
-              u"Error|Morvane Error|%1/Exclamation|Metar Database Error!|%1/"
-              "Error|Morvane Error|%1/Exclamation|Metar Decode Error!|%1"_s.arg(closed));
+    EXPECT_EQ(user.told().join(u'/'), u"Error|Morvane Error|%1/Exclamation|Metar Database Error!|%1/"
+                                      "Error|Morvane Error|%1"_s.arg(closed));
 }
 
 TEST_F(RecordsTest, positionsAndKeys) {
@@ -243,20 +242,18 @@ TEST_F(RecordsTest, eachSwitchWritesItsOwnColumn) {
 }
 
 TEST_F(RecordsTest, oneReportAStation) {
-    clsWxFinderData data(session);
     const auto report = [&](const QString& code, const QString& year, const QString& latitude) {
-        DecodedMetarRow row{{}, latitude, {}};
-        row.report.WxFinderIcao = code;
-        row.report.WxFinderYear = year;
-        EXPECT_TRUE(data.insertDecodedMetar(row));
+        clsWxFinder finder;
+        finder.WxFinderIcao = code;
+        finder.WxFinderYear = year;
+        storeReport(session, finder, {latitude, {}});
     };
     report(u" KSEA "_s, u"1998"_s, u"47.45"_s);
     report(u"EGLL"_s, u"1999"_s, u""_s);
     report(u"ksea"_s, u""_s, u""_s); // takes the row's place; its latitude stays
     EXPECT_EQ(column(u"METAR_LAT"_s, u"DECODED_METAR"_s), (QStringList{u"47.45"_s, QString()}));
     EXPECT_TRUE(clsWxFinders::reload(session));
-    EXPECT_EQ(session.rows<clsWxFinders>()->GetItem(1)->WxFinderYear, "1999"); // by code, not by row
-    EXPECT_EQ(session.rows<clsWxFinders>()->findIndex(u"ksea"_s), 2);
+    EXPECT_EQ(session.rows<clsWxFinders>()->GetItem(1)->WxFinderYear, "1999");        // by code, not by row
     EXPECT_EQ(session.rows<clsWxFinders>()->GetKey(u"KSEA"_s)->WxFinderYear, "2007"); // none: the present one
 }
 

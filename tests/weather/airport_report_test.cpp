@@ -18,13 +18,9 @@ struct WeatherControlTest : testing::Test {
         test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
         test::addStation(session, u"EHAM"_s, 1, 52.31, 4.76);
     }
-    void store(const clsWxFinder& report) {
-        ASSERT_TRUE(clsWxFinderData(session).insertDecodedMetar({report, {}, {}}));
-    }
     QString reportOf(const QString& icao, const QString& latitude = {}, const QString& longitude = {}) {
-        QString metar = u"as it was"_s;
-        getMetar(session, icao, latitude, longitude, u"A City"_s, u"A Field"_s, metar);
-        return metar;
+        return getMetar(session, {icao, u"A Field"_s, u"A City"_s, {}, {}, latitude, longitude})
+            .value_or(u"none"_s);
     }
 
     test::SmallInstall install;
@@ -64,11 +60,11 @@ TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
     install.user.messages.clear();
     const QString told = u"Exclamation|Metar Error!|The METAR requested cannot be accessed at this time or "
                          u"is not available please try again later"_s;
-    store({}); // a line that was no report stands under an empty code
-    EXPECT_EQ(reportOf({}, u"47"_s, u"-122"_s), u"as it was"_s) << "an empty code is no station";
-    EXPECT_EQ(reportOf(u"KBFI"_s, u"north"_s, u"-122"_s), u"as it was"_s);
+    storeReport(session, {}); // a line that was no report stands under an empty code
+    EXPECT_EQ(reportOf({}, u"47"_s, u"-122"_s), u"none"_s) << "an empty code is no station";
+    EXPECT_EQ(reportOf(u"KBFI"_s, u"north"_s, u"-122"_s), u"none"_s);
     session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = '', METAR_LONG = ''"_s);
-    EXPECT_EQ(reportOf(u"KBFI"_s, u"47"_s, u"-122"_s), u"as it was"_s) << "nobody has a position";
+    EXPECT_EQ(reportOf(u"KBFI"_s, u"47"_s, u"-122"_s), u"none"_s) << "nobody has a position";
     EXPECT_FALSE(chooseAirport(session, {u"KBFI"_s, u"BOEING"_s, {}, {}, {}, u"47"_s, u"-122"_s}));
     EXPECT_EQ(install.user.told(), QStringList(4, told));
     EXPECT_EQ(weather.DepMetar, u"KSEA 010000Z 00000KT"_s);
@@ -114,7 +110,7 @@ TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
                 "data available|Dewpoint: No Dewpoint data available|Pressure: No Pressure data "
                 "available|LOWI NIL"_s}};
     for (const auto& [report, lines] : cases) {
-        store(report);
+        storeReport(session, report);
         reportOf(u"LOWI"_s);
         EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.sliced(1).join(u'|'), lines);
     }
@@ -134,7 +130,7 @@ TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
         full.WxFinderWindDirection = direction;
         full.WxFinderWindSpeed = speed;
         full.WxFinderWindGusting = isGusting;
-        store(full);
+        storeReport(session, full);
         reportOf(u"LOWI"_s);
         EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines[2], line);
     }

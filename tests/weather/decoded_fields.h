@@ -1,6 +1,6 @@
 #pragma once
 
-#include "weather/metar_decoder.h"
+#include "weather/weather_report.h"
 
 #include <QStringList>
 
@@ -8,32 +8,33 @@ namespace morvane::test {
 
 /// Every property that is not empty, False or 0, as "WindSpeed=015", in the order of the class; but
 /// the strength, which ends in a blank, stands before the weather so that it seldom ends a line of a table.
-inline QStringList decodedFields(const clsDecodeMetar& metar) {
+inline QStringList decodedFields(const clsWxFinder& report) {
     const auto flag = [](bool value) { return value ? u"True"_s : QString(); };
     const std::pair<QString, QString> properties[] = {
-        {u"MetarICAO"_s, metar.MetarICAO},
-        {u"WindSpeedMeasurement"_s, metar.WindSpeedMeasurement},
-        {u"WindDirection"_s, metar.WindDirection},
-        {u"WindSpeed"_s, metar.WindSpeed},
-        {u"WindGusting"_s, flag(metar.WindGusting)},
-        {u"WindGust"_s, metar.WindGust},
-        {u"WindVarying"_s, flag(metar.WindVarying)},
-        {u"WindVaryingFrom"_s, metar.WindVaryingFrom},
-        {u"WindVaryingTo"_s, metar.WindVaryingTo},
-        {u"MetarDate"_s, metar.MetarDate},
-        {u"MetarTime"_s, metar.MetarTime},
-        {u"MetarMonth"_s, metar.MetarMonth},
-        {u"MetarYear"_s, metar.MetarYear},
-        {u"MetarVisiblity"_s, metar.MetarVisiblity},
-        {u"MetarVisibilityFormat"_s, metar.MetarVisibilityFormat},
-        {u"MetarWeatherStrength"_s, metar.MetarWeatherStrength},
-        {u"MetarWeather"_s, metar.MetarWeather},
-        {u"MetarObscuration"_s, metar.MetarObscuration},
-        {u"MetarCloud"_s, metar.MetarCloud},
-        {u"MetarMaxCloud"_s, metar.MetarMaxCloud == 0 ? QString() : QString::number(metar.MetarMaxCloud)},
-        {u"MetarTemp"_s, metar.MetarTemp},
-        {u"MetarDewpoint"_s, metar.MetarDewpoint},
-        {u"MetarPressure"_s, metar.MetarPressure},
+        {u"MetarICAO"_s, report.WxFinderIcao},
+        {u"WindSpeedMeasurement"_s, report.WxFinderWindSpeedMeasurement},
+        {u"WindDirection"_s, report.WxFinderWindDirection},
+        {u"WindSpeed"_s, report.WxFinderWindSpeed},
+        {u"WindGusting"_s, flag(report.WxFinderWindGusting)},
+        {u"WindGust"_s, report.WxFinderWindGust},
+        {u"WindVarying"_s, flag(report.WxFinderWindVarying)},
+        {u"WindVaryingFrom"_s, report.WxFinderWindVaryingFrom},
+        {u"WindVaryingTo"_s, report.WxFinderWindVaryingTo},
+        {u"MetarDate"_s, report.WxFinderDate},
+        {u"MetarTime"_s, report.WxFinderTime},
+        {u"MetarMonth"_s, report.WxFinderMonth},
+        {u"MetarYear"_s, report.WxFinderYear},
+        {u"MetarVisiblity"_s, report.WxFinderVisibility},
+        {u"MetarVisibilityFormat"_s, report.WxFinderVisibilityFormat},
+        {u"MetarWeatherStrength"_s, report.WxFinderWeatherStrength},
+        {u"MetarWeather"_s, report.WxFinderWeather},
+        {u"MetarObscuration"_s, report.WxFinderFog},
+        {u"MetarCloud"_s, report.WxFinderCloudCover},
+        {u"MetarMaxCloud"_s,
+         report.WxFinderMaxCloud == 0 ? QString() : QString::number(report.WxFinderMaxCloud)},
+        {u"MetarTemp"_s, report.WxFinderTemperature},
+        {u"MetarDewpoint"_s, report.WxFinderDewpoint},
+        {u"MetarPressure"_s, report.WxFinderPressure},
     };
     QStringList fields;
     for (const auto& [name, value] : properties)

@@ -13,10 +13,9 @@ namespace {
 
 QStringList decoded(const QString& report) {
     test::ScriptedUser user;
-    clsDecodeMetar metar(user);
-    metar.decodeMetarString(report);
+    const QStringList fields = test::decodedFields(clsDecodeMetar(user).decodeMetarString(report));
     EXPECT_TRUE(user.messages.empty()) << report.toStdString();
-    return test::decodedFields(metar);
+    return fields;
 }
 
 /// Decodes the rows of a table beside this file: a text to put behind `station`, and all fields that it
@@ -59,22 +58,6 @@ TEST(MetarDecoder, placeOfTheStation) {
         EXPECT_EQ(decoded(report), fields);
 }
 
-TEST(MetarDecoder, datesAndCodes) {
-    test::ScriptedUser user;
-    clsDecodeMetar metar(user);
-    metar.decodeMetarDate(u"2007/03/12"_s);
-    EXPECT_EQ(test::decodedFields(metar), (QStringList{u"MetarMonth=March"_s, u"MetarYear=2007"_s}));
-    for (const char* date : {"2007-03-12", "2007/March/12"})
-        EXPECT_THROW(metar.decodeMetarDate(QString(date)), Error) << date;
-    QStringList months;
-    for (int month = -1; month <= 13; ++month)
-        months << clsDecodeMetar::getMonthName(month);
-    EXPECT_EQ(months.join(u','), u",,January,February,March,April,May,June,July,August,September,October,"
-                                 u"November,December,"_s);
-    EXPECT_EQ(clsDecodeMetar::decodeWeatherCode(u"Gr"), "Hail");
-    EXPECT_EQ(clsDecodeMetar::decodeObscurationCode(u"VA"), "Volcanic Ash");
-}
-
 /// Fails in every pass.
 class FailingDecoder : public clsDecodeMetar {
 public:
@@ -94,14 +77,14 @@ private:
 
 TEST(MetarDecoder, everyPassTellsItsFailureAndTheNextRuns) {
     test::ScriptedUser user;
-    FailingDecoder metar(user);
-    metar.decodeMetarString(u"EGLL 141520Z 17005KT CAVOK 18/11 Q1018"_s);
+    const QString line = u"EGLL 141520Z 17005KT CAVOK 18/11 Q1018"_s;
+    const clsWxFinder report = FailingDecoder(user).decodeMetarString(line);
     QStringList expected;
     for (const char* pass : {"Wind", "DateTime", "Visibility", "Weather", "Obscuration", "CloudCover",
                              "TempDewpoint", "Pressure"})
         expected << u"Error|METAR Error|clsDecodeMetar, sub %1: Overflow"_s.arg(QLatin1String(pass));
     EXPECT_EQ(user.told(), expected);
-    EXPECT_EQ(test::decodedFields(metar), QStringList{u"MetarICAO=EGLL"_s});
+    EXPECT_EQ(test::decodedFields(report), QStringList{u"MetarICAO=EGLL"_s});
 }
 
 } // namespace

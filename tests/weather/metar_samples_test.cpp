@@ -16,12 +16,12 @@ QRegularExpression whole(const QString& pattern) {
     return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
 }
 
-const std::pair<QString clsDecodeMetar::*, QRegularExpression> textShapes[] = {
-    {&clsDecodeMetar::WindDirection, whole(u"|Variable|Calm|[0-9]+ degrees"_s)},
-    {&clsDecodeMetar::WindSpeed, whole(u"[0-9]*"_s)},
-    {&clsDecodeMetar::WindSpeedMeasurement, whole(u"|kts|mps"_s)},
-    {&clsDecodeMetar::MetarVisibilityFormat, whole(u"|km|mph|cavok"_s)},
-    {&clsDecodeMetar::MetarCloud,
+const std::pair<QString clsWxFinder::*, QRegularExpression> textShapes[] = {
+    {&clsWxFinder::WxFinderWindDirection, whole(u"|Variable|Calm|[0-9]+ degrees"_s)},
+    {&clsWxFinder::WxFinderWindSpeed, whole(u"[0-9]*"_s)},
+    {&clsWxFinder::WxFinderWindSpeedMeasurement, whole(u"|kts|mps"_s)},
+    {&clsWxFinder::WxFinderVisibilityFormat, whole(u"|km|mph|cavok"_s)},
+    {&clsWxFinder::WxFinderCloudCover,
      whole(u"|(Sky Clear|Mostly Clear|Partly Cloudy|Mostly Cloudy|Overcast|Sky obscured|"
            "No significant cloud below 5000 feet \\(CAVOK\\)|No Cloud Data Available)"
            "(: Cumulonimbus observed)?(: Towering Cumulonimbus observed)?(: Cumulus observed)?"_s)},
@@ -31,16 +31,15 @@ const std::pair<QString clsDecodeMetar::*, QRegularExpression> textShapes[] = {
 QStringList decodedSoundly(const QString& report) {
     SCOPED_TRACE(report.toStdString());
     test::ScriptedUser user;
-    clsDecodeMetar metar(user);
-    metar.decodeMetarString(report);
+    const clsWxFinder metar = clsDecodeMetar(user).decodeMetarString(report);
     EXPECT_TRUE(user.messages.empty());
-    EXPECT_EQ(metar.MetarICAO, report.section(u' ', 0, 0));
+    EXPECT_EQ(metar.WxFinderIcao, report.section(u' ', 0, 0));
     for (const auto& [value, shape] : textShapes)
         EXPECT_TRUE(shape.match(metar.*value).hasMatch()) << (metar.*value).toStdString();
-    EXPECT_EQ(metar.WindVarying, metar.WindVaryingFrom.size() == 3);
-    EXPECT_TRUE(metar.MetarDate.size() == 2 || metar.MetarTime.isEmpty());
-    EXPECT_EQ(metar.MetarCloud.isEmpty(), metar.MetarMaxCloud == 0);
-    EXPECT_EQ(metar.MetarVisiblity.isEmpty(), metar.MetarVisibilityFormat.isEmpty());
+    EXPECT_EQ(metar.WxFinderWindVarying, metar.WxFinderWindVaryingFrom.size() == 3);
+    EXPECT_TRUE(metar.WxFinderDate.size() == 2 || metar.WxFinderTime.isEmpty());
+    EXPECT_EQ(metar.WxFinderCloudCover.isEmpty(), metar.WxFinderMaxCloud == 0);
+    EXPECT_EQ(metar.WxFinderVisibility.isEmpty(), metar.WxFinderVisibilityFormat.isEmpty());
     return test::decodedFields(metar);
 }
 
@@ -83,9 +82,8 @@ TEST(MetarSamples, changedReportsNeverBreakTheDecoder) {
 TEST(MetarSamples, longLinesOfOneKind) {
     test::ScriptedUser user;
     for (const QString& unit : {u"/"_s, u"G"_s, u" "_s, u"RE"_s, u" 1"_s, u"24010KT "_s}) {
-        clsDecodeMetar metar(user);
-        metar.decodeMetarString(u"EGLL "_s + unit.repeated(100'000));
-        EXPECT_TRUE(metar.MetarICAO == u"EGLL" && user.messages.empty()) << unit.toStdString();
+        const clsWxFinder metar = clsDecodeMetar(user).decodeMetarString(u"EGLL "_s + unit.repeated(100'000));
+        EXPECT_TRUE(metar.WxFinderIcao == u"EGLL" && user.messages.empty()) << unit.toStdString();
     }
 }
 

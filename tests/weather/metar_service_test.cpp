@@ -13,7 +13,7 @@
 namespace morvane {
 namespace {
 
-using Ours = const clsDecodeMetar&;
+using Ours = const clsWxFinder&;
 
 /// Compares a number of ours with the first group of the pattern in one column of the service's table.
 struct Comparison {
@@ -27,13 +27,13 @@ struct Comparison {
 };
 
 QString inKnots(Ours ours, const QString& speed) {
-    return ours.WindSpeedMeasurement == u"kts" ? speed : QString();
+    return ours.WxFinderWindSpeedMeasurement == u"kts" ? speed : QString();
 }
 QString signedDegrees(QString degrees) {
     return degrees.replace(u"Minus "_s, u"-"_s);
 }
 QString pressureIn(Ours ours, QStringView unit) {
-    return ours.MetarPressure.endsWith(unit) ? ours.MetarPressure.section(u' ', 0, 0) : QString();
+    return ours.WxFinderPressure.endsWith(unit) ? ours.WxFinderPressure.section(u' ', 0, 0) : QString();
 }
 
 // A cloud group without a height, or a heading, stands where a temperature is looked for.
@@ -45,20 +45,22 @@ const QString otherPressure =
 
 const Comparison comparisons[] = {
     {"wind direction", 310, 3, u"\\((\\d+) degrees\\)"_s,
-     [](Ours ours) { return ours.WindDirection.section(u' ', 0, 0); }, 0, u"SVJP 151100KT"_s}, // its time
+     [](Ours ours) { return ours.WxFinderWindDirection.section(u' ', 0, 0); }, 0,
+     u"SVJP 151100KT"_s}, // its time
     {"wind speed", 305, 3, u"at \\d+ MPH \\((\\d+) KT\\)"_s,
-     [](Ours ours) { return inKnots(ours, ours.WindSpeed); }},
-    {"gust", 16, 3, u"to \\d+ MPH \\((\\d+) KT\\)"_s, [](Ours ours) { return inKnots(ours, ours.WindGust); }},
+     [](Ours ours) { return inKnots(ours, ours.WxFinderWindSpeed); }},
+    {"gust", 16, 3, u"to \\d+ MPH \\((\\d+) KT\\)"_s,
+     [](Ours ours) { return inKnots(ours, ours.WxFinderWindGust); }},
     // Half a degree apart: the service takes tenths from the remarks where there are some.
-    {"temperature", 376, 8, u"\\((-?[\\d.]+) C\\)"_s, [](Ours ours) { return signedDegrees(ours.MetarTemp); },
-     0.5, noTemperature},
+    {"temperature", 376, 8, u"\\((-?[\\d.]+) C\\)"_s,
+     [](Ours ours) { return signedDegrees(ours.WxFinderTemperature); }, 0.5, noTemperature},
     {"dewpoint", 367, 11, u"\\((-?[\\d.]+) C\\)"_s,
-     [](Ours ours) { return signedDegrees(ours.MetarDewpoint); }, 0.5, noTemperature},
+     [](Ours ours) { return signedDegrees(ours.WxFinderDewpoint); }, 0.5, noTemperature},
     {"inches", 142, 13, u"^([\\d.]+) in. Hg"_s, [](Ours ours) { return pressureIn(ours, u"Mercury"); }, 0,
      otherPressure},
     {"millibars", 196, 13, u"\\((\\d+) hPa\\)"_s, [](Ours ours) { return pressureIn(ours, u"Millibars"); }, 0,
      otherPressure},
-    {"cloud class", 304, 5, u"^([1-6])$"_s, [](Ours ours) { return QString::number(ours.MetarMaxCloud); }},
+    {"cloud class", 304, 5, u"^([1-6])$"_s, [](Ours ours) { return QString::number(ours.WxFinderMaxCloud); }},
 };
 
 TEST(MetarService, readsEveryFigureLikeTheDecoder) {
@@ -70,11 +72,10 @@ TEST(MetarService, readsEveryFigureLikeTheDecoder) {
         if (theirs.size() < 14) continue;
         theirs[5] = QString::number(skies.indexOf(theirs[5]));
         test::ScriptedUser user;
-        clsDecodeMetar metar(user);
-        metar.decodeMetarString(theirs[0]);
+        const clsWxFinder report = clsDecodeMetar(user).decodeMetarString(theirs[0]);
         for (const Comparison& comparison : comparisons) {
             const auto match = QRegularExpression(comparison.pattern).match(theirs[comparison.column]);
-            const QString ours = comparison.ours(metar);
+            const QString ours = comparison.ours(report);
             if (!match.hasMatch() || ours.isEmpty()) continue;
             if (comparison.setAside.split(u'|').contains(theirs[0].section(u' ', 0, 1))) continue;
             ++made[comparison.figure];

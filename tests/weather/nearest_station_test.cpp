@@ -89,7 +89,7 @@ TEST(NearestStation, whichRowsCount) {
     test::SmallInstall install;
     Session& session = install.session;
     const auto nearest = [&](const QString& latitude, const QString& longitude) {
-        return getClosestMetarStation(session, u"XXXX"_s, latitude, longitude);
+        return getClosestMetarStation(session, latitude, longitude);
     };
     test::addStation(session, u"NONE"_s, 3);
     EXPECT_EQ(nearest(u"10"_s, u"10"_s), "") << "no row has a position";

@@ -1,7 +1,7 @@
 #include "loopback_server.h"
 #include "support/printing.h"
 #include "support/window_program.h"
-#include "weather/wx_finders.h"
+#include "weather/report_rows.h"
 #include "window/splash_screen.h"
 
 #include <QLabel>
@@ -42,9 +42,9 @@ TEST_F(MetarRequestTest, aStartShowsTheTableOnTheSplash) {
     splash.showStep(u"before"_s, 1);
     EXPECT_TRUE(clsWxFinders::reload(session));
     EXPECT_EQ(text.text(), u"before"_s) << "an empty table is passed over";
-    DecodedMetarRow row;
-    row.report.WxFinderIcao = u"KSEA"_s;
-    clsWxFinderData(session).insertDecodedMetar(row);
+    clsWxFinder report;
+    report.WxFinderIcao = u"KSEA"_s;
+    storeReport(session, report);
     EXPECT_TRUE(clsWxFinders::reload(session));
     EXPECT_EQ(text.text(), u"Loading Metars from Database. Please Wait............."_s);
     EXPECT_FALSE(program.user.isMessageVisible());
