@@ -10,6 +10,7 @@
 
 #include <QStringBuilder>
 #include <array>
+#include <utility>
 
 namespace morvane {
 
@@ -70,15 +71,14 @@ clsWxFinder clsDecodeMetar::decodeMetarString(const QString& metar) {
         {u"clsDecodeMetar, sub TempDewpoint: "_s, &clsDecodeMetar::TempDewpoint},
         {u"clsDecodeMetar, sub Pressure: "_s, &clsDecodeMetar::Pressure},
     }};
-    report_ = {};
     report_.WxFinderMetar = trimMetarString(metar);
-    if (trimmedBlanksView(metar).isEmpty()) return report_;
+    if (trimmedBlanksView(metar).isEmpty()) return std::exchange(report_, {});
     const MetarTokens tokens(metar);
     report_.WxFinderIcao = tokens.station().toString();
     for (const Pass& pass : passes)
         reportFailures(user_, {u"METAR Error"_s, MessageKind::error, pass.prefix},
                        [&] { (this->*pass.run)(tokens); });
-    return report_;
+    return std::exchange(report_, {});
 }
 
 void clsDecodeMetar::Wind(const MetarTokens& tokens) {
