@@ -10,7 +10,7 @@
 #include "sets/resource_folders.h"
 #include "sets/weather_kinds.h"
 #include "simulator/backups.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
 #include "simulator/options.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"

@@ -35,14 +35,14 @@ double distanceOf(const Session& session, const QString& station, double latitud
 
 /// What the lines say and what they were made of. The report may be a neighbour's.
 QJsonObject toJson(CommandContext& context, const Airport& airport, const QString& metar) {
+    const ReportLines& lines = context.session.state<DecodedReportLines>().decodedMetarLines;
     const clsWxFinder report = clsDecodeMetar(context.user).decodeMetarString(trimmedBlanks(metar));
     return {{u"icao"_s, airport.icao},
             {u"name"_s, airport.name},
             {u"city"_s, airport.city},
             {u"metar"_s, metar},
             {u"decoded"_s, toJson(report)},
-            {u"lines"_s,
-             QJsonArray::fromStringList(context.session.state<DecodedReportLines>().decodedMetarLines)}};
+            {u"lines"_s, QJsonArray::fromStringList(QStringList(lines.begin(), lines.end()))}};
 }
 
 /// The decoded report of a station or an airport, line by line.

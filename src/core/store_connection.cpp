@@ -23,7 +23,8 @@ void connectDatabase(Session& session) {
 }
 
 void updateDatabase(Session& session, const Schema& schema) {
-    if (hasStore(session)) reportFailures(session.user, {}, [&] { updateSchema(*session.adoConn, schema); });
+    if (hasStore(session))
+        reportFailures(session.user, morvaneError, [&] { updateSchema(*session.adoConn, schema); });
 }
 
 void closeDatabase(Session& session) {

@@ -31,8 +31,6 @@ public:
     /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
-    const KeyedCollection<clsResourceFolder>& GetResource() const { return *this; }
-    std::int16_t findIndex(double number) const { return findNumber(number); }
     bool getResources();
     /// An unknown key raises before the row is touched.
     bool RemoveItem(const QString& key, std::int16_t id);

@@ -27,7 +27,7 @@ void takeReport(WeatherState& weather, const QString& report) {
     if (weather.optDestAirport) weather.DestMetar = report;
 }
 
-void showReport(Session& session, const QStringList& lines) {
+void showReport(Session& session, const ReportLines& lines) {
     session.state<DecodedReportLines>().decodedMetarLines = lines;
     session.user.showModal(Screen::frm_metar);
 }

@@ -70,7 +70,7 @@ QString precipitationLine(const clsWxFinder& report) {
 
 } // namespace
 
-QStringList decodedMetarLines(const clsWxFinder& report, const QString& heading, const QDate& today) {
+ReportLines decodedMetarLines(const clsWxFinder& report, const QString& heading, const QDate& today) {
     return {heading,
             dateLine(report, today),
             windLine(report),

@@ -1,10 +1,6 @@
-#include "core/registry.h"
-#include "core/session.h"
-#include "core/store_connection.h"
+#include "core/file_system.h"
 #include "core/store_fixture.h"
 #include "support/faulty_store.h"
-#include "support/scripted_services.h"
-#include "support/scripted_user.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
@@ -126,27 +122,6 @@ TEST_F(StoreFailureTest, aPresentStoreIsBroughtUpToDateStepByStep) {
     updateSchema(store); // by a program of before
     updateSchema(store, laterSchema());
     EXPECT_EQ(backups().size(), 2);
-}
-
-TEST_F(StoreFailureTest, aStoreThatCannotBeBroughtUpToDateIsToldAndUsed) {
-    test::ScriptedUser user;
-    NativeFileSystem files;
-    test::ScriptedClock clock;
-    test::ScriptedRandom random;
-    IniRegistry registry{files, folder / u"registry.ini"};
-    Session session{{user, files, clock, random, registry}, folder.path()};
-    updateDatabase(session, laterSchema()); // without a store
-    connectDatabase(session);
-    store.open(file);
-    {
-        const StoreTransaction lock(store);
-        updateDatabase(session, laterSchema());
-    }
-    EXPECT_EQ(user.told(), QStringList{u"Error|Morvane Error|Permission denied: the database is locked: "_s +
-                                       file.text()});
-    updateDatabase(session, laterSchema());
-    EXPECT_EQ(user.told().size(), 1);
-    EXPECT_TRUE(session.adoConn->hasTable(u"NOTES"_s));
 }
 
 #ifndef Q_OS_WIN // the writer is a fork of the test

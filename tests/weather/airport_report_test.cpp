@@ -4,6 +4,7 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/decoded_lines.h"
+#include "weather/metar_decoder.h"
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
@@ -18,6 +19,10 @@ struct WeatherControlTest : testing::Test {
         test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
         test::addStation(session, u"EHAM"_s, 1, 52.31, 4.76);
     }
+    QStringList lines() const {
+        const ReportLines& lines = session.state<DecodedReportLines>().decodedMetarLines;
+        return {lines.begin(), lines.end()};
+    }
     QString reportOf(const QString& icao, const QString& latitude = {}, const QString& longitude = {}) {
         return getMetar(session, {icao, u"A Field"_s, u"A City"_s, {}, {}, latitude, longitude})
             .value_or(u"none"_s);
@@ -31,9 +36,8 @@ struct WeatherControlTest : testing::Test {
 TEST_F(WeatherControlTest, anAirportWithoutAReportReadsItsNeighboursAsItsOwn) {
     EXPECT_EQ(reportOf(u"ksea"_s), u"KSEA 010000Z 00000KT"_s);
     EXPECT_EQ(reportOf(u" KBFI "_s, u"47.53"_s, u"-122.30"_s), u"KBFI 010000Z 00000KT"_s);
-    EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.first(),
-              u"ICAO Code: KBFI, City: A City, Airport Name: A Field"_s);
-    EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.last(), u"KBFI 010000Z 00000KT"_s);
+    EXPECT_EQ(lines().first(), u"ICAO Code: KBFI, City: A City, Airport Name: A Field"_s);
+    EXPECT_EQ(lines().last(), u"KBFI 010000Z 00000KT"_s);
     EXPECT_EQ(reportOf(u"O'HA"_s, u"52"_s, u"5"_s), u"O'HA 010000Z 00000KT"_s);
 }
 
@@ -74,35 +78,21 @@ TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
 // The lines, slips and all.
 
 TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
-    clsWxFinder full, empty;
+    clsWxFinder full = clsDecodeMetar(install.user)
+                           .decodeMetarString(u"LOWI 141453Z 24015G025KT 210V270 10SM -RA BR OVC030 18/M01 "
+                                              "A2992"_s),
+                empty;
     full.WxFinderMetar = u"LOWI 141453Z"_s;
-    full.WxFinderWindSpeed = u"015"_s;
-    full.WxFinderWindDirection = u"240 degrees"_s;
-    full.WxFinderWindGust = u"025"_s;
-    full.WxFinderWindVaryingFrom = u"210"_s;
-    full.WxFinderWindVaryingTo = u"270"_s;
-    full.WxFinderWindSpeedMeasurement = u"kts"_s;
-    full.WxFinderCloudCover = u"Overcast"_s;
-    full.WxFinderVisibility = u"10 Mile(s)"_s;
-    full.WxFinderWeatherStrength = u"Light "_s;
-    full.WxFinderWeather = u"Rain"_s;
-    full.WxFinderFog = u"Mist"_s;
-    full.WxFinderTemperature = u"18"_s;
-    full.WxFinderDewpoint = u"M01"_s;
-    full.WxFinderPressure = u"29.92 Inches of Mercury"_s;
-    full.WxFinderDate = u"14"_s;
     full.WxFinderMonth = u"June"_s;
     full.WxFinderYear = u"2006"_s;
-    full.WxFinderTime = u"1453"_s;
-    full.WxFinderIcao = empty.WxFinderIcao = u"LOWI"_s;
-    full.WxFinderWindGusting = full.WxFinderWindVarying = true;
+    empty.WxFinderIcao = u"LOWI"_s;
     empty.WxFinderMetar = u"LOWI NIL"_s;
     empty.WxFinderWeatherStrength = u"Moderate "_s; // of nothing
     const std::pair<clsWxFinder, QString> cases[] = {
         {full, u"Date: 14 June 2006 Time: 1453Z|Wind from: 240 degrees at 015kts, Gusting 025kts, Varying "
                "between 210 degrees and 270 degrees|Visibility: 10 Mile(s)|Precipitation: Light  "
                "Rain|Obscuration: Mist|Sky Conditions: Overcast|Temperature: 18 degree(s) Celcius|Dewpoint: "
-               "M01 degree(s) Celcius|Pressure: 29.92 Inches of Mercury|LOWI 141453Z"_s},
+               "Minus 01 degree(s) Celcius|Pressure: 29.92 Inches of Mercury|LOWI 141453Z"_s},
         // Month and year are the clock's.
         {empty, u"Date:  May 2007 Time: Z|Wind: No wind data avialable|Visibility: No visibility data "
                 "available|Precipitation: No precipitation type recorded|Obscuration: No obscuration "
@@ -112,7 +102,7 @@ TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
     for (const auto& [report, lines] : cases) {
         storeReport(session, report);
         reportOf(u"LOWI"_s);
-        EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.sliced(1).join(u'|'), lines);
+        EXPECT_EQ(this->lines().sliced(1).join(u'|'), lines);
     }
     const struct {
         QString direction, speed;
@@ -132,7 +122,7 @@ TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
         full.WxFinderWindGusting = isGusting;
         storeReport(session, full);
         reportOf(u"LOWI"_s);
-        EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines[2], line);
+        EXPECT_EQ(lines()[2], line);
     }
 }
 

@@ -73,7 +73,7 @@ TEST(ReportAge, theSourceIsTheOneThatIsSet) {
     test::SmallInstall install;
     Session& session = install.session;
     const auto setServer = [&](const QString& address) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"WeatherServer"_s, address);
+        storeOwnValue(install.registry, u"WeatherServer"_s, address);
         return reportSourceText(session);
     };
     EXPECT_EQ(setServer({}), "Source: no weather server is set");

@@ -28,9 +28,7 @@ protected:
         };
     }
 
-    void setValue(const QString& name, const QString& text) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, text);
-    }
+    void setValue(const QString& name, const QString& text) { storeOwnValue(install.registry, name, text); }
     bool importLines(const QByteArray& text, CycleForm form = CycleForm::plain) {
         writeFile(file, text);
         return clsWxFinderData(session).importCycleFile(file, form);

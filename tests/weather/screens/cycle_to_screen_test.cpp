@@ -19,7 +19,7 @@ struct CycleToScreen : testing::Test {
         const std::pair<QString, QString> values[] = {{u"WeatherServer"_s, server.address()},
                                                       {u"WeatherFormat"_s, u"noaa"_s}};
         for (const auto& [name, text] : values)
-            program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, text);
+            storeOwnValue(program.install.registry, name, text);
         session.state<WeatherState>().InhibitWeatherReports = false;
     }
     /// The texts of the screen but for its first, joined by "|".

@@ -2,6 +2,7 @@
 #include "support/printing.h"
 #include "support/window_program.h"
 #include "weather/report_rows.h"
+#include "weather/reports.h"
 #include "window/splash_screen.h"
 
 #include <QLabel>
@@ -21,8 +22,7 @@ struct MetarRequestTest : testing::Test {
 };
 
 TEST_F(MetarRequestTest, yesFetchesAndNoDoesNot) {
-    program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"WeatherServer"_s,
-                                          server.address());
+    storeOwnValue(program.install.registry, u"WeatherServer"_s, server.address());
     pressRefresh(); // nothing is loaded, so nothing is asked
     EXPECT_EQ(server.requests(), 1);
     EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 2);
