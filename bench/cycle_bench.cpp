@@ -4,7 +4,7 @@
 #include "core/store_schema.h"
 #include "core/text_decoding.h"
 #include "weather/metar_decoder.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
@@ -106,9 +106,8 @@ void decodeAlone(benchmark::State& state) {
         if (line.startsWith(u'X')) lines << line;
     for ([[maybe_unused]] auto unused : state)
         for (const QString& line : lines) {
-            clsDecodeMetar decoded(user);
-            decoded.decodeMetarString(line);
-            benchmark::DoNotOptimize(decoded.MetarMaxCloud);
+            const clsWxFinder report = clsDecodeMetar(user).decodeMetarString(line);
+            benchmark::DoNotOptimize(report.WxFinderMaxCloud);
         }
     state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * lines.size());
 }

@@ -13,9 +13,8 @@ void decodeReports(benchmark::State& state) {
     const QStringList reports = test::sampleReports();
     for (auto _ : state) {
         for (const QString& report : reports) {
-            clsDecodeMetar metar(user);
-            metar.decodeMetarString(report);
-            benchmark::DoNotOptimize(metar.MetarMaxCloud);
+            const clsWxFinder decoded = clsDecodeMetar(user).decodeMetarString(report);
+            benchmark::DoNotOptimize(decoded.WxFinderMaxCloud);
         }
     }
     state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * reports.size());

@@ -16,7 +16,7 @@
 #include "ui/controls/paper_style.h"
 #include "ui/controls/slider.h"
 #include "ui/skin.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 #include "window/message_screen.h"
 #include "window/window_shell.h"
 #include "window/window_user.h"

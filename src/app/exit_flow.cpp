@@ -13,14 +13,14 @@
 #include "sets/options_in_force.h"
 #include "sets/resource_folders.h"
 #include "simulator/backups.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
 #include "sky/sky_tuning_state.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 
 #include <algorithm>
 
@@ -70,6 +70,13 @@ void releaseCollections(Session& session) {
 
 } // namespace
 
+Message resetQuestion(const QString& ground, const QString& sky) {
+    Message question{
+        MessageKind::question, u"Reset MV Textures?"_s, resetText(ground, sky), true, true, false};
+    question.offersFastExit = true;
+    return question;
+}
+
 void checkResetTextures(Session& session) {
     if (session.state<OptionsInForce>().IsFastExit || !hasStore(session))
         return; // which was told at the start
@@ -77,10 +84,7 @@ void checkResetTextures(Session& session) {
     const QString ground = installedCover(*session.rows<clsTextureSets>(), &clsTextureSet::TextureSet);
     const QString sky = installedCover(*session.rows<clsSkyTextureSets>(), &clsSkyTextureSet::SkyTextureSet);
     if (ground.isEmpty() && sky.isEmpty()) return;
-    Message question{
-        MessageKind::question, u"Reset MV Textures?"_s, resetText(ground, sky), true, true, false};
-    question.offersFastExit = true;
-    if (!session.user.ask(Question::reset, question)) return;
+    if (!session.user.ask(Question::reset, resetQuestion(ground, sky))) return;
     if (!ground.isEmpty()) {
         session.state<GroundSelection>().SelectedGroundSet = defaultSet;
         GroundInstallation(session).installTextureSet(true);
@@ -95,11 +99,11 @@ void exitProgram(Session& session) {
     if (!session.MinimiseForLaunch && !session.CommandLineRun) {
         session.ExitInProgress.moveTo(ExitStage::inFlow);
         if (!session.ExitInProgress.isSilent())
-            reportFailures(session.user, {}, [&] { checkResetTextures(session); });
+            reportFailures(session.user, morvaneError, [&] { checkResetTextures(session); });
     }
     releaseCollections(session);
-    reportFailures(session.user, {}, [&] { clearDownloadedCycles(session); });
-    reportFailures(session.user, {}, [&] { saveLastSkySettings(session); });
+    reportFailures(session.user, morvaneError, [&] { clearDownloadedCycles(session); });
+    reportFailures(session.user, morvaneError, [&] { saveLastSkySettings(session); });
     closeDatabase(session);
 }
 

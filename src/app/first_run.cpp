@@ -49,9 +49,9 @@ void doFirstRun(Session& session) {
     const Writing writing(session, Writing::Waiting::none);
     if (!writing || !isFirstTime()) return;
     // Each is told for itself, costs none of the others, and is no reason not to start.
-    reportFailures(session.user, {}, [&] { keepSimulatorSplash(session); });
+    reportFailures(session.user, morvaneError, [&] { keepSimulatorSplash(session); });
     if (!session.state<OptionsInForce>().IsWideClient)
-        reportFailures(session.user, {}, [&] { copyDeliveredFlights(session); });
+        reportFailures(session.user, morvaneError, [&] { copyDeliveredFlights(session); });
     const std::optional<BackupReport> backup = createBackup(session, true);
     session.user.hideMessage();
     if (backup && backup->isWritten)

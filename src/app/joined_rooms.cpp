@@ -9,12 +9,12 @@
 #include "sets/resource_folders.h"
 #include "sets/set_kind.h"
 #include "simulator/backups.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
 #include "simulator/options.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 
 namespace morvane {
 

@@ -85,6 +85,7 @@ bool startUp(Session& session) {
     const bool done = reportFailures(session.user, report, [&] {
         isReady = findSimulator(session) && openStore(session);
         if (!isReady) return;
+        updateDatabase(session);
         getSideFSVal(session);
         session.BackupPath = session.AppPath / u"Backup";
         session.files.makeFolder(session.BackupPath);

@@ -3,14 +3,13 @@
 #include "cli/json_output.h"
 #include "cli/terminal.h"
 #include "core/session.h"
-#include "core/statement_translation.h"
-#include "core/store_records.h"
 #include "weather/airport_report.h"
 #include "weather/airport_search.h"
 #include "weather/coordinates.h"
 #include "weather/decoded_lines.h"
 #include "weather/metar_decoder.h"
 #include "weather/nearest_station.h"
+#include "weather/report_rows.h"
 #include "weather/weather_state.h"
 
 #include <QJsonArray>
@@ -29,38 +28,34 @@ QJsonObject toJson(const Airport& airport) {
 }
 
 double distanceOf(const Session& session, const QString& station, double latitude, double longitude) {
-    const RowSet row(connectedStore(session),
-                     u"SELECT METAR_LAT, METAR_LONG FROM DECODED_METAR WHERE METAR_ICAO = '"_s +
-                         makeStatementSafe(station) + u'\'');
+    const RowSet row = stationRow(session, station);
     return getDistanceNM(latitude, longitude, requiredDegrees(row.text(u"METAR_LAT")),
                          requiredDegrees(row.text(u"METAR_LONG")));
 }
 
 /// What the lines say and what they were made of. The report may be a neighbour's.
 QJsonObject toJson(CommandContext& context, const Airport& airport, const QString& metar) {
-    clsDecodeMetar report(context.user);
-    report.decodeMetarString(trimmedBlanks(metar));
-    return {{u"icao"_s, context.arguments[0].toUpper()},
+    const ReportLines& lines = context.session.state<DecodedReportLines>().decodedMetarLines;
+    const clsWxFinder report = clsDecodeMetar(context.user).decodeMetarString(trimmedBlanks(metar));
+    return {{u"icao"_s, airport.icao},
             {u"name"_s, airport.name},
             {u"city"_s, airport.city},
             {u"metar"_s, metar},
             {u"decoded"_s, toJson(report)},
-            {u"lines"_s,
-             QJsonArray::fromStringList(context.session.state<DecodedReportLines>().decodedMetarLines)}};
+            {u"lines"_s, QJsonArray::fromStringList(QStringList(lines.begin(), lines.end()))}};
 }
 
 /// The decoded report of a station or an airport, line by line.
 void showReport(CommandContext& context) {
     Session& session = context.session;
     const QString& icao = context.arguments[0];
-    const Airport airport = findAirport(session, icao).value_or(Airport{});
+    Airport airport = findAirport(session, icao).value_or(Airport{});
+    airport.icao = icao.toUpper();
     session.state<WeatherState>().InhibitWeatherReports = false;
-    QString metar;
-    if (!getMetar(session, icao.toUpper(), airport.latitude, airport.longitude, airport.city, airport.name,
-                  metar))
-        return;
+    const auto metar = getMetar(session, airport);
+    if (!metar) return;
     if (context.options.contains(jsonOption.name))
-        return printJson(QJsonDocument(toJson(context, airport, metar)));
+        return printJson(QJsonDocument(toJson(context, airport, *metar)));
     for (const QString& line : session.state<DecodedReportLines>().decodedMetarLines)
         writeStandardOutput(line + u'\n');
 }
@@ -77,7 +72,7 @@ void findAirports(CommandContext& context) {
 
 void findNearestStation(CommandContext& context) {
     const QString &latitude = context.arguments[0], &longitude = context.arguments[1];
-    const QString station = getClosestMetarStation(context.session, {}, latitude, longitude);
+    const QString station = getClosestMetarStation(context.session, latitude, longitude);
     if (station.isEmpty()) return fail(context, u"No station with a position has a stored report"_s);
     const double distance =
         distanceOf(context.session, station, requiredDegrees(latitude), requiredDegrees(longitude));

@@ -6,7 +6,7 @@
 #include "core/registry.h"
 #include "core/store.h"
 #include "core/store_connection.h"
-#include "sets/options_in_force.h"
+#include "simulator/option_table.h"
 #include "simulator/options.h"
 #include "weather/active_sky.h"
 
@@ -87,13 +87,14 @@ QJsonObject switchesOf(Session& session) {
     const bool isKnown = session.adoConn && session.adoConn->isOpen() &&
                          !session.adoConn->columns(u"TEXTURE_SWITCH"_s).isEmpty();
     if (isKnown) readSwitches(session);
-    const auto shown = [isKnown](bool value) { return isKnown ? QJsonValue(value) : QJsonValue(); };
-    return {{u"dutch"_s, shown(session.state<OptionsInForce>().IsDutch)},
-            {u"tropical"_s, shown(session.state<OptionsInForce>().IsTropical)},
-            {u"halo"_s, shown(session.state<OptionsInForce>().IsHalo)},
-            {u"fastexit"_s, shown(session.state<OptionsInForce>().IsFastExit)},
-            {u"widefs"_s, ownText(session, u"IsWideClient"_s).trimmed() == u"True"},
-            {u"inhibitsplash"_s, isCustomSplashInhibited(session)}};
+    QJsonObject switches;
+    for (const SimulatorOption& option : simulatorOptions()) {
+        const bool isOn =
+            option.column ? session.state<OptionsInForce>().*option.flag : option.isSetInRegistry(session);
+        switches.insert(QString::fromUtf16(option.name),
+                        option.column && !isKnown ? QJsonValue() : QJsonValue(isOn));
+    }
+    return switches;
 }
 
 /// Works without a simulator, too: it is what one looks at when something is not found.

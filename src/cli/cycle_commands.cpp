@@ -4,11 +4,13 @@
 #include "core/error.h"
 #include "core/row_set.h"
 #include "core/store.h"
+#include "core/store_schema.h"
 #include "core/text_decoding.h"
 #include "weather/metar_decoder.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 
 #include <QFile>
+#include <algorithm>
 
 namespace morvane {
 
@@ -20,18 +22,27 @@ void decode(CommandContext& context) {
     QStringList lines = splitLines(decodeText(input.readAll()));
     if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
     for (const QString& line : lines) {
-        clsDecodeMetar report(context.user);
-        report.decodeMetarString(line);
-        printJson(QJsonDocument(toJson(report)));
+        printJson(QJsonDocument(toJson(clsDecodeMetar(context.user).decodeMetarString(line))));
     }
 }
 
+/// The key is none of the schema's columns.
+ColumnKind kindOf(const QString& column) {
+    const auto& columns = schemaTable(u"DECODED_METAR"_s).columns;
+    const auto found = std::ranges::find(columns, column, &SchemaColumn::name);
+    return found == columns.end() ? ColumnKind::number : found->kind;
+}
+
 QJsonValue fieldOf(const RowSet& row, const QString& column) {
-    static const QStringList flags{u"METAR_WIND_GUSTING"_s, u"METAR_WIND_VARYING"_s};
-    static const QStringList numbers{u"ID"_s, u"METAR_MAX_CLOUD"_s};
     if (row.isNull(column)) return {};
-    if (flags.contains(column)) return row.flag(column);
-    if (numbers.contains(column)) return row.longInteger(column);
+    switch (kindOf(column)) {
+    case ColumnKind::flag:
+        return row.flag(column);
+    case ColumnKind::number:
+        return row.longInteger(column);
+    case ColumnKind::text:
+        break;
+    }
     return row.text(column);
 }
 
@@ -50,8 +61,9 @@ void download(CommandContext& context) {
 }
 
 void printRows(CommandContext& context) {
-    const QStringList columns = context.session.adoConn->columns(u"DECODED_METAR"_s);
-    for (RowSet rows = clsWxFinderData(context.session).getDecodedMetar({}); !rows.atEnd(); rows.next()) {
+    Store& store = *context.session.adoConn;
+    const QStringList columns = store.columns(u"DECODED_METAR"_s);
+    for (RowSet rows(store, u"SELECT * FROM DECODED_METAR"_s); !rows.atEnd(); rows.next()) {
         QJsonObject row;
         for (const QString& column : columns)
             row.insert(column, fieldOf(rows, column));

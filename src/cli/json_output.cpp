@@ -6,38 +6,38 @@
 #include "sets/catalogue_file.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
-#include "weather/metar_decoder.h"
+#include "weather/weather_report.h"
 
 #include <QDir>
 #include <QJsonArray>
 
 namespace morvane {
 
-QJsonObject toJson(const clsDecodeMetar& report) {
+QJsonObject toJson(const clsWxFinder& report) {
     return {
-        {u"MetarICAO"_s, report.MetarICAO},
-        {u"WindSpeedMeasurement"_s, report.WindSpeedMeasurement},
-        {u"WindDirection"_s, report.WindDirection},
-        {u"WindSpeed"_s, report.WindSpeed},
-        {u"WindGusting"_s, report.WindGusting},
-        {u"WindGust"_s, report.WindGust},
-        {u"WindVarying"_s, report.WindVarying},
-        {u"WindVaryingFrom"_s, report.WindVaryingFrom},
-        {u"WindVaryingTo"_s, report.WindVaryingTo},
-        {u"MetarDate"_s, report.MetarDate},
-        {u"MetarTime"_s, report.MetarTime},
-        {u"MetarMonth"_s, report.MetarMonth},
-        {u"MetarYear"_s, report.MetarYear},
-        {u"MetarVisiblity"_s, report.MetarVisiblity},
-        {u"MetarVisibilityFormat"_s, report.MetarVisibilityFormat},
-        {u"MetarWeather"_s, report.MetarWeather},
-        {u"MetarWeatherStrength"_s, report.MetarWeatherStrength},
-        {u"MetarObscuration"_s, report.MetarObscuration},
-        {u"MetarCloud"_s, report.MetarCloud},
-        {u"MetarMaxCloud"_s, report.MetarMaxCloud},
-        {u"MetarTemp"_s, report.MetarTemp},
-        {u"MetarDewpoint"_s, report.MetarDewpoint},
-        {u"MetarPressure"_s, report.MetarPressure},
+        {u"MetarICAO"_s, report.WxFinderIcao},
+        {u"WindSpeedMeasurement"_s, report.WxFinderWindSpeedMeasurement},
+        {u"WindDirection"_s, report.WxFinderWindDirection},
+        {u"WindSpeed"_s, report.WxFinderWindSpeed},
+        {u"WindGusting"_s, report.WxFinderWindGusting},
+        {u"WindGust"_s, report.WxFinderWindGust},
+        {u"WindVarying"_s, report.WxFinderWindVarying},
+        {u"WindVaryingFrom"_s, report.WxFinderWindVaryingFrom},
+        {u"WindVaryingTo"_s, report.WxFinderWindVaryingTo},
+        {u"MetarDate"_s, report.WxFinderDate},
+        {u"MetarTime"_s, report.WxFinderTime},
+        {u"MetarMonth"_s, report.WxFinderMonth},
+        {u"MetarYear"_s, report.WxFinderYear},
+        {u"MetarVisiblity"_s, report.WxFinderVisibility},
+        {u"MetarVisibilityFormat"_s, report.WxFinderVisibilityFormat},
+        {u"MetarWeather"_s, report.WxFinderWeather},
+        {u"MetarWeatherStrength"_s, report.WxFinderWeatherStrength},
+        {u"MetarObscuration"_s, report.WxFinderFog},
+        {u"MetarCloud"_s, report.WxFinderCloudCover},
+        {u"MetarMaxCloud"_s, report.WxFinderMaxCloud},
+        {u"MetarTemp"_s, report.WxFinderTemperature},
+        {u"MetarDewpoint"_s, report.WxFinderDewpoint},
+        {u"MetarPressure"_s, report.WxFinderPressure},
     };
 }
 

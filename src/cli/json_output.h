@@ -7,7 +7,7 @@
 
 namespace morvane {
 
-class clsDecodeMetar;
+class clsWxFinder;
 class clsTextureSet;
 struct CatalogueFile;
 struct clsNightTextureSet;
@@ -15,7 +15,7 @@ struct clsSkyTextureSet;
 struct clsSkyTextureSubSet;
 
 /// Records as JSON, properties by their names.
-QJsonObject toJson(const clsDecodeMetar& report);
+QJsonObject toJson(const clsWxFinder& report);
 /// Numbers of a colour text come with "." whatever separator the record holds.
 QJsonObject toJson(const clsTextureSet& set, const QString& decimalSeparator);
 QJsonObject toJson(const clsNightTextureSet& set, const QString& decimalSeparator);

@@ -1,15 +1,13 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
-#include "sets/options_in_force.h"
 #include "sets/stored_rows.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
-#include "simulator/configs.h"
-#include "simulator/options.h"
-#include "simulator/texture_switches.h"
+#include "simulator/base_install_rows.h"
+#include "simulator/option_table.h"
 
 #include <QJsonArray>
 #include <algorithm>
@@ -18,32 +16,12 @@ namespace morvane {
 
 namespace {
 
-struct SimulatorOption {
-    QString name;
-    bool OptionsInForce::*flag;
-    bool (*set)(Session&, bool); ///< false after the message of a refusal
-};
-
-template <void (*set)(Session&, bool)>
-bool always(Session& session, bool value) {
-    set(session, value);
-    return true;
-}
-
-const std::vector<SimulatorOption>& simulatorOptions() {
-    static const std::vector<SimulatorOption> options{
-        {u"dutch"_s, &OptionsInForce::IsDutch, switchDutch},
-        {u"tropical"_s, &OptionsInForce::IsTropical, switchTropical},
-        {u"halo"_s, &OptionsInForce::IsHalo, always<switchHalo>},
-        {u"fastexit"_s, &OptionsInForce::IsFastExit, always<switchFastExit>},
-        {u"widefs"_s, &OptionsInForce::IsWideClient, always<setSideFSVal>},
-        {u"inhibitsplash"_s, &OptionsInForce::InhibitCustomSplash, always<setCustomSplashVal>},
-    };
-    return options;
+QString nameOf(const SimulatorOption& option) {
+    return QString::fromUtf16(option.name);
 }
 
 const SimulatorOption& optionOf(const CommandContext& context) {
-    return *std::ranges::find(simulatorOptions(), context.arguments[0], &SimulatorOption::name);
+    return *std::ranges::find(simulatorOptions(), context.arguments[0], nameOf);
 }
 
 QJsonObject toJson(const clsConfig& config) {
@@ -108,7 +86,7 @@ void restoreBackupOf(CommandContext& context) {
 void getOption(CommandContext& context) {
     const SimulatorOption& option = optionOf(context);
     printJson(
-        QJsonDocument(QJsonObject{{option.name, context.session.state<OptionsInForce>().*option.flag}}));
+        QJsonDocument(QJsonObject{{nameOf(option), context.session.state<OptionsInForce>().*option.flag}}));
 }
 
 void setOption(CommandContext& context) {
@@ -120,7 +98,7 @@ void setOption(CommandContext& context) {
 std::vector<Command> optionCommands() {
     Operand option{.name = u"OPTION"_s, .meaning = u"the option"_s};
     for (const SimulatorOption& each : simulatorOptions())
-        option.entries << each.name;
+        option.entries << nameOf(each);
     return {
         {.words = u"base list"_s,
          .run = listBases,

@@ -4,7 +4,7 @@
 #include "core/numbers.h"
 #include "simulator/set_matching.h"
 #include "weather/flight_plan.h"
-#include "weather/wx_filter.h"
+#include "weather/report_filter.h"
 
 #include <QJsonArray>
 

@@ -8,7 +8,7 @@ namespace morvane {
 
 bool reloadChangedRows(Session& session) {
     bool isChanged = false;
-    reportFailures(session.user, {}, [&] {
+    reportFailures(session.user, morvaneError, [&] {
         isChanged = session.adoConn && session.adoConn->isOpen() && session.adoConn->wasChangedByOthers();
         if (isChanged && session.reloadRows) session.reloadRows(session);
     });

@@ -15,6 +15,9 @@ struct FailureReport {
     bool withCancel = false;
 };
 
+/// How a routine tells that has no words of its own.
+inline const FailureReport morvaneError{};
+
 void showFailure(UserInterface& user, const FailureReport& report, const QString& description);
 
 /// The boundary of a routine: runs it, and turns an exception into the one message of the report, but for

@@ -9,15 +9,6 @@
 
 namespace morvane {
 
-bool FolderExists(FileSystem& files, QString& path) {
-    path = StripBackslash(path);
-    return !path.isEmpty() && files.isFolder(FilePath(path));
-}
-
-bool FileExists(FileSystem& files, const FilePath& path) {
-    return files.exists(path);
-}
-
 bool isSameFolder(const FilePath& one, const FilePath& other) {
     const auto pathOf = [](const FilePath& path) {
         return std::filesystem::path(path.native().toStdU16String());
@@ -26,20 +17,10 @@ bool isSameFolder(const FilePath& one, const FilePath& other) {
     return std::filesystem::equivalent(pathOf(one), pathOf(other), failure);
 }
 
-QString FormatSystemTimeTime(const QDateTime& time) {
-    const QTime t = time.time();
-    return u"%1:%2:%3.%4"_s.arg(t.hour()).arg(t.minute()).arg(t.second()).arg(t.msec());
-}
-
-QString FormatSystemTimeDate(const QDateTime& time) {
-    return time.toString(u"yyyy/MM/dd");
-}
-
 QString fileTimeText(const FilePath& path) {
     const QFileInfo info(path.native());
     if (!info.isFile() || !info.isReadable()) return {};
-    const QDateTime time = info.lastModified();
-    return FormatSystemTimeDate(time) + time.toString(u" hh:mm") + u":00"_s;
+    return info.lastModified().toString(u"yyyy/MM/dd hh:mm") + u":00"_s;
 }
 
 Message unreadableFileMessage() {

@@ -4,11 +4,6 @@
 
 namespace morvane {
 
-/// True for a folder. The caller's text loses blanks at its ends and a trailing backslash.
-bool FolderExists(FileSystem& files, QString& path);
-/// True for a file or a folder.
-bool FileExists(FileSystem& files, const FilePath& path);
-
 /// True when both paths lead to the same folder, through links or in another spelling. A path that leads
 /// nowhere is the same as none.
 bool isSameFolder(const FilePath& one, const FilePath& other);
@@ -20,10 +15,6 @@ QString fileTimeText(const FilePath& path);
 QString GetFileTime(Session& session, const FilePath& path);
 /// The message of a file whose time cannot be had.
 Message unreadableFileMessage();
-/// "14:7:33.250": hour, minute, second and milliseconds without padding.
-QString FormatSystemTimeTime(const QDateTime& time);
-/// "2006/07/14".
-QString FormatSystemTimeDate(const QDateTime& time);
 
 /// The user's folder of that number, with a separator behind it; empty for a number without a folder here.
 /// Known is 5, the documents.

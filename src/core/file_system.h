@@ -33,6 +33,9 @@ public:
     virtual QStringList list(const FilePath& folder, const QString& mask) = 0;
     /// Names of the folders in it, sorted alike, links left out. A missing folder lists nothing.
     virtual QStringList listFolders(const FilePath& folder) = 0;
+    /// How many files in the folder have such an ending and a name that is no text on this system: no listing
+    /// has them and no path reaches them.
+    virtual int namelessFiles(const FilePath& folder, const QString& ending) = 0;
     /// Makes the folder and those above it; an existing one is no failure.
     virtual void makeFolder(const FilePath& folder) = 0;
     /// Copies the contents only, to a new file with the normal mode.
@@ -70,6 +73,7 @@ public:
     bool isFolder(const FilePath& path) override;
     QStringList list(const FilePath& folder, const QString& mask) override;
     QStringList listFolders(const FilePath& folder) override;
+    int namelessFiles(const FilePath& folder, const QString& ending) override;
     void makeFolder(const FilePath& folder) override;
     void copyContents(const FilePath& source, const FilePath& target) override;
     void rename(const FilePath& source, const FilePath& target) override;

@@ -61,22 +61,12 @@ protected:
 
     /// Position of the first record of exactly that name; 0 for none.
     std::int16_t findName(const QString& name) const {
-        return findFirst([&](const Record& record) { return nameOf(record) == name; });
-    }
-    /// Position of the first record whose name is that number. A name before it that is no number raises
-    /// "Type mismatch": wanted, resources, backups and configurations have always been searched so.
-    std::int16_t findNumber(double number) const {
-        return findFirst([&](const Record& record) { return textToNumber(nameOf(record)) == number; });
-    }
-
-private:
-    template <class Predicate>
-    std::int16_t findFirst(Predicate matches) const {
         for (std::size_t i = 0; i < records_.size(); ++i)
-            if (matches(*records_[i])) return toInteger(static_cast<std::int64_t>(i) + 1);
+            if (nameOf(*records_[i]) == name) return toInteger(static_cast<std::int64_t>(i) + 1);
         return 0;
     }
 
+private:
     std::vector<Pointer> records_;
     QHash<QString, Pointer> byKey_;
 };

@@ -128,6 +128,22 @@ QStringList NativeFileSystem::list(const FilePath& folder, const QString& mask) 
     return sortedByUpperName(taken);
 }
 
+int NativeFileSystem::namelessFiles([[maybe_unused]] const FilePath& folder,
+                                    [[maybe_unused]] const QString& ending) {
+    int count = 0;
+#ifndef Q_OS_WIN
+    std::error_code error;
+    const std::filesystem::directory_iterator end;
+    for (auto entry = std::filesystem::directory_iterator(folder.native().toStdU16String(), error);
+         !error && entry != end; entry.increment(error)) {
+        const QByteArray name = QByteArray::fromStdString(entry->path().filename().native());
+        const QString text = QFile::decodeName(name);
+        count += QFile::encodeName(text) != name && text.endsWith(ending, Qt::CaseInsensitive);
+    }
+#endif
+    return count;
+}
+
 QStringList NativeFileSystem::listFolders(const FilePath& folder) {
     const QDir directory(folder.native());
     if (directory.exists() && !directory.isReadable())

@@ -1,7 +1,7 @@
 #include "core/store_connection.h"
 
-#include "core/session.h"
-#include "core/store.h"
+#include "core/failure_report.h"
+#include "core/store_records.h"
 
 #include <clocale>
 
@@ -20,6 +20,11 @@ void connectDatabase(Session& session) {
     } catch (const Error& error) {
         session.user.systemBox(error.description(), {}, SystemBoxButtons::ok);
     }
+}
+
+void updateDatabase(Session& session, const Schema& schema) {
+    if (hasStore(session))
+        reportFailures(session.user, morvaneError, [&] { updateSchema(*session.adoConn, schema); });
 }
 
 void closeDatabase(Session& session) {

@@ -1,7 +1,5 @@
 #include "core/store_records.h"
 
-#include "core/store_schema.h"
-
 namespace morvane {
 
 namespace {
@@ -70,11 +68,14 @@ void writeField(RowSet& row, const QString& column, const QDateTime& value) {
 }
 
 QString localNumbers(const QString& stored, TextForm form, const QString& decimalSep) {
-    return form == TextForm::localNumbers ? applyDecimalSeparator(stored, decimalSep) : stored;
+    QString local = stored;
+    const bool isAsStored = form != TextForm::localNumbers || decimalSep.isEmpty();
+    return isAsStored ? local : local.replace(u'.', decimalSep);
 }
 
 QString storedNumbers(const QString& local, TextForm form, const QString& decimalSep) {
-    return form == TextForm::plain ? local : removeDecimalSeparator(local, decimalSep);
+    QString stored = local;
+    return form == TextForm::plain || decimalSep.isEmpty() ? stored : stored.replace(decimalSep, u"."_s);
 }
 
 } // namespace morvane

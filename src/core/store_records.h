@@ -97,7 +97,8 @@ void writeField(RowSet& row, const QString& column, bool value);
 void writeField(RowSet& row, const QString& column, std::int16_t value);
 void writeField(RowSet& row, const QString& column, const QDateTime& value);
 
-/// The colour numbers of a record, from the store's separator to the user's or back.
+/// The colour numbers of a record, from the store's separator, which is always ".", to the user's or back: so
+/// the store can be carried to a machine with another locale.
 QString localNumbers(const QString& stored, TextForm form, const QString& decimalSep);
 QString storedNumbers(const QString& local, TextForm form, const QString& decimalSep);
 

@@ -92,7 +92,7 @@ std::optional<BackupReport> runBackup(Session& session, bool isFirstRun) {
                               "few minutes.  Please wait......."_s,
                               false, true, true});
     session.user.updateProgress({}, {}, 0);
-    reportFailures(session.user, {}, [&] { report = runInRow(session, job, isFirstRun); });
+    reportFailures(session.user, morvaneError, [&] { report = runInRow(session, job, isFirstRun); });
     session.user.updateProgress({}, {}, 100);
     return report;
 }

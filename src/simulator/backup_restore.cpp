@@ -103,7 +103,7 @@ std::optional<RestoreReport> restoreBackup(Session& session, const QString& name
     std::optional<RestoreReport> report;
     const Job job(session);
     if (!job) return report;
-    reportFailures(session.user, {}, [&] { report = copyBack(session, name); });
+    reportFailures(session.user, morvaneError, [&] { report = copyBack(session, name); });
     session.user.updateProgress({}, {}, 100);
     return report;
 }

@@ -4,30 +4,11 @@
 #include "core/safe_copy.h"
 #include "sets/simulator_copy.h"
 
-#include <QFile>
-#include <filesystem>
-
 namespace morvane {
 
 namespace {
 
 const QString ending = u".bmp"_s;
-
-/// Textures whose names are no text on this system: no listing has them and no path reaches them.
-int namelessTextures(const FilePath& folder) {
-    int count = 0;
-#ifndef Q_OS_WIN
-    std::error_code error;
-    const std::filesystem::directory_iterator end;
-    for (auto entry = std::filesystem::directory_iterator(folder.native().toStdU16String(), error);
-         !error && entry != end; entry.increment(error)) {
-        const QByteArray name = QByteArray::fromStdString(entry->path().filename().native());
-        const QString text = QFile::decodeName(name);
-        count += QFile::encodeName(text) != name && text.endsWith(ending, Qt::CaseInsensitive);
-    }
-#endif
-    return count;
-}
 
 } // namespace
 
@@ -72,7 +53,7 @@ void BackupRun::plan(const BackupPlace& place) {
         else
             miss(place, name);
     }
-    for (int left = namelessTextures(place.simulator); left > 0; --left)
+    for (int left = session_.files.namelessFiles(place.simulator, ending); left > 0; --left)
         miss(place, u"?"_s);
 }
 

@@ -26,11 +26,6 @@ bool clsBackups::getBackups() {
     return clsBackupData(session_).getBackupData();
 }
 
-bool clsBackups::RemoveItem(const QString& key, std::int16_t id) {
-    remove(key);
-    return clsBackupData(session_).deleteBackup(id);
-}
-
 bool clsBackups::UpdateBackups(clsBackup& record) {
     return clsBackupData(session_).Save(record);
 }
@@ -41,20 +36,10 @@ bool clsBackupData::getBackupData() {
     });
 }
 
-bool clsBackupData::deleteBackup(std::int16_t id) {
-    return reportFailures(session_.user, {}, [&] {
-        connectedStore(session_).execute(u"DELETE FROM MV_BACKUP WHERE ID = "_s + QString::number(id));
-    });
-}
-
 bool clsBackupData::Save(clsBackup& record) {
-    return reportFailures(session_.user, {}, [&] {
+    return reportFailures(session_.user, morvaneError, [&] {
         saveRecord(session_, table, record, required(session_.rows<clsBackups>()));
     });
-}
-
-std::int16_t clsBackupData::getNextID() {
-    return readNewestKey(connectedStore(session_), table.newestKey);
 }
 
 } // namespace morvane

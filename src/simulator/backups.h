@@ -30,11 +30,7 @@ public:
     /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
-    const KeyedCollection<clsBackup>& GetBackup() const { return *this; }
-    std::int16_t findIndex(double number) const { return findNumber(number); }
     bool getBackups();
-    /// An unknown key raises before the row is touched.
-    bool RemoveItem(const QString& key, std::int16_t id);
     bool UpdateBackups(clsBackup& record);
 
 private:
@@ -47,10 +43,8 @@ public:
     explicit clsBackupData(Session& session) : session_(session) {}
 
     bool getBackupData();
-    bool deleteBackup(std::int16_t id);
     /// A new record gets its key and its final name and joins the collection.
     bool Save(clsBackup& record);
-    std::int16_t getNextID();
 
 private:
     Session& session_;

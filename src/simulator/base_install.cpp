@@ -12,8 +12,8 @@
 #include "night/night_texture_sets.h"
 #include "sets/simulator_copy.h"
 #include "sets/stored_rows.h"
+#include "simulator/base_install_rows.h"
 #include "simulator/checked_copies.h"
-#include "simulator/configs.h"
 
 namespace morvane {
 
@@ -118,7 +118,7 @@ std::optional<DoneLine> copyTicked(Session& session, const QStringList& tickedTi
 
 bool collectFolderFiles(Session& session, const FilePath& sourceFolder, const FilePath& targetFolder,
                         std::vector<FileCopy>& copies) {
-    return reportFailures(session.user, {},
+    return reportFailures(session.user, morvaneError,
                           [&] { addFolderFiles(session, sourceFolder, u"*.*"_s, targetFolder, copies); });
 }
 
@@ -127,7 +127,7 @@ void copyBaseResources(Session& session, const QStringList& tickedTitles) {
     if (!job) return;
     showCopying(session, copyingTitle);
     std::optional<DoneLine> line;
-    reportFailures(session.user, {}, [&] { line = copyTicked(session, tickedTitles); });
+    reportFailures(session.user, morvaneError, [&] { line = copyTicked(session, tickedTitles); });
     clsConfigs::reload(session);
     session.user.refreshScreen(Screen::frm_Main);
     session.user.hideMessage();

@@ -5,13 +5,15 @@
 #include "core/job.h"
 #include "core/numbers.h"
 #include "core/registry.h"
-#include "sets/options_in_force.h"
+#include "core/store_records.h"
 #include "sets/simulator_copy.h"
-#include "simulator/configs.h"
+#include "simulator/option_table.h"
 
 namespace morvane {
 
 namespace {
+
+const QString switchRow = u"SELECT * FROM TEXTURE_SWITCH WHERE ID = 1"_s;
 
 void inform(Session& session, const QString& title, const QString& text) {
     session.user.showMessage({MessageKind::information, title, text, true, false, false});
@@ -24,11 +26,23 @@ FailureReport optionFailure(const QString& routine) {
 } // namespace
 
 void readSwitches(Session& session) {
-    clsConfigs switches(session);
-    session.state<OptionsInForce>().IsDutch = switches.GetDutchVal();
-    session.state<OptionsInForce>().IsTropical = switches.GetTropicalVal();
-    session.state<OptionsInForce>().IsHalo = switches.GetHaloVal();
-    session.state<OptionsInForce>().IsFastExit = switches.GetFastExitVal();
+    for (const SimulatorOption& option : simulatorOptions())
+        if (option.column) session.state<OptionsInForce>().*option.flag = storedSwitch(session, option.flag);
+}
+
+bool storedSwitch(Session& session, bool OptionsInForce::*flag) {
+    bool value = false;
+    reportFailures(session.user, morvaneError,
+                   [&] { value = RowSet(connectedStore(session), switchRow).flag(optionOf(flag).column); });
+    return value;
+}
+
+bool storeSwitch(Session& session, bool OptionsInForce::*flag, bool value) {
+    return reportFailures(session.user, morvaneError, [&] {
+        RowSet row(connectedStore(session), switchRow);
+        row.setFlag(optionOf(flag).column, value);
+        row.update();
+    });
 }
 
 bool isCustomSplashInhibited(const Session& session) {
@@ -60,6 +74,10 @@ void setCustomSplashVal(Session& session, bool value) {
                         u"The Morvane FS9 splash screen will not be shown when Flight Simulator is started."_s
                   : u"The Morvane FS9 splash screen will be shown when Flight Simulator is started."_s);
     });
+}
+
+bool isWideClientStored(const Session& session) {
+    return trimmedBlanks(ownValue(session.registry, u"IsWideClient"_s)) == u"True";
 }
 
 void getSideFSVal(Session& session) {

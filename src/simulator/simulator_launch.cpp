@@ -54,7 +54,7 @@ bool launchFlightSimulator(Session& session) {
 }
 
 void offerSimulatorStart(Session& session) {
-    reportFailures(session.user, {}, [&session] { launchFlightSimulator(session); });
+    reportFailures(session.user, morvaneError, [&session] { launchFlightSimulator(session); });
 }
 
 } // namespace morvane

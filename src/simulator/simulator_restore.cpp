@@ -11,7 +11,8 @@
 #include "night/night_texture_sets.h"
 #include "sets/options_in_force.h"
 #include "sets/simulator_copy.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
+#include "simulator/options.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
@@ -37,12 +38,12 @@ bool forgetBodies(Session& session) {
 void forgetInstalled(Session& session) {
     session.state<OptionsInForce>().IsHalo = session.state<OptionsInForce>().IsDutch =
         session.state<OptionsInForce>().IsTropical = false;
-    clsConfigs switches(session);
     refreshGroundSets(session) && session.rows<clsTextureSets>()->markInstalled({}) &&
         refreshSkySets(session) && session.rows<clsSkyTextureSets>()->markInstalled({}) &&
         refreshNightSets(session) && session.rows<clsNightTextureSets>()->markInstalled({}) &&
-        forgetBodies(session) && switches.UpdateHalo(false) && switches.UpdateDutch(false) &&
-        switches.UpdateTropical(false);
+        forgetBodies(session) && storeSwitch(session, &OptionsInForce::IsHalo, false) &&
+        storeSwitch(session, &OptionsInForce::IsDutch, false) &&
+        storeSwitch(session, &OptionsInForce::IsTropical, false);
     session.state<GroundSelection>().RefreshGroundList = session.state<SkySelection>().RefreshSkyList =
         session.state<NightSelection>().RefreshNightList = true;
     session.user.refreshScreen(Screen::frm_Main);
@@ -83,7 +84,7 @@ std::optional<OriginalsReport> restoreOriginals(Session& session) {
     const Job job(session);
     if (!job) return std::nullopt;
     std::optional<OriginalsReport> report;
-    reportFailures(session.user, {}, [&] {
+    reportFailures(session.user, morvaneError, [&] {
         session.user.showMessage({MessageKind::progress, title,
                                   u"Morvane is putting your own files back.  Please wait......."_s, false,
                                   false, true});

@@ -122,7 +122,7 @@ std::optional<StockImportReport> importStock(Session& session, const StockSource
     {
         const Job job(session);
         if (!job) return report;
-        reportFailures(session.user, {}, [&] { report = importStock(session, job, source); });
+        reportFailures(session.user, morvaneError, [&] { report = importStock(session, job, source); });
     }
     session.user.hideMessage();
     if (report) tellEnd(session, *report, source);
@@ -131,7 +131,7 @@ std::optional<StockImportReport> importStock(Session& session, const StockSource
 
 std::optional<StockImportReport> importSimulatorStock(Session& session, bool isConfirmed) {
     std::optional<StockSource> source;
-    reportFailures(session.user, {}, [&] { source = sourceFromSimulator(session, isConfirmed); });
+    reportFailures(session.user, morvaneError, [&] { source = sourceFromSimulator(session, isConfirmed); });
     return source ? importStock(session, *source) : std::nullopt;
 }
 
@@ -143,7 +143,8 @@ std::optional<int> restoreStock(Session& session, bool isConfirmed) {
     if (!isConfirmed && !session.user.ask(Question::backup, stockTitle, question)) return count;
     const Job job(session);
     if (!job) return count;
-    reportFailures(session.user, {}, [&] { count = KeptStock(session.files, session.AppPath).restore(); });
+    reportFailures(session.user, morvaneError,
+                   [&] { count = KeptStock(session.files, session.AppPath).restore(); });
     if (count) session.user.tellDone({countText(*count, u"delivered file"_s) + u" put back"_s});
     return count;
 }

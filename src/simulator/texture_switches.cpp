@@ -9,7 +9,7 @@
 #include "night/night_texture_sets.h"
 #include "sets/options_in_force.h"
 #include "sets/simulator_copy.h"
-#include "simulator/configs.h"
+#include "simulator/options.h"
 
 namespace morvane {
 
@@ -134,12 +134,12 @@ void copyWithProgress(Session& session, const std::vector<FileCopy>& copies) {
 }
 
 void dutchTexturesOn(Session& session, const QString& groundName, const QString& nightName) {
-    reportFailures(session.user, {},
+    reportFailures(session.user, morvaneError,
                    [&] { copyWithProgress(session, dutchCopies(session, true, groundName, nightName)); });
 }
 
 void dutchTexturesOff(Session& session, const QString& groundName, const QString& nightName) {
-    reportFailures(session.user, {},
+    reportFailures(session.user, morvaneError,
                    [&] { copyWithProgress(session, dutchCopies(session, false, groundName, nightName)); });
 }
 
@@ -154,7 +154,7 @@ bool switchDutch(Session& session, bool isOn) {
     session.state<OptionsInForce>().IsDutch = isOn;
     const auto copyTextures = isOn ? dutchTexturesOn : dutchTexturesOff;
     copyTextures(session, installedName(*session.rows<clsTextureSets>()), installedNight(session));
-    clsConfigs(session).UpdateDutch(isOn);
+    storeSwitch(session, &OptionsInForce::IsDutch, isOn);
     return true;
 }
 
@@ -164,7 +164,7 @@ bool switchTropical(Session& session, bool isOn) {
     if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsTropical = false;
     tropicalTextures(session, isOn, installedName(*session.rows<clsTextureSets>()));
     session.state<OptionsInForce>().IsTropical = isOn;
-    clsConfigs(session).UpdateTropical(isOn);
+    storeSwitch(session, &OptionsInForce::IsTropical, isOn);
     return true;
 }
 
@@ -172,7 +172,7 @@ void switchHalo(Session& session, bool isOn) {
     Job job(session);
     if (!job) throw Error(ErrorCode::interrupted);
     session.state<OptionsInForce>().IsHalo = isOn;
-    clsConfigs(session).UpdateHalo(isOn);
+    storeSwitch(session, &OptionsInForce::IsHalo, isOn);
     copyIntoSimulator(session, session.AppPath / (isOn ? u"Media\\halo.bmp" : u"Media\\halodefault.bmp"),
                       session.FSPath / u"Texture\\halo.bmp");
     job.end();
@@ -183,7 +183,7 @@ void switchHalo(Session& session, bool isOn) {
 
 void switchFastExit(Session& session, bool isOn) {
     session.state<OptionsInForce>().IsFastExit = isOn;
-    clsConfigs(session).UpdateFastExit(isOn);
+    storeSwitch(session, &OptionsInForce::IsFastExit, isOn);
     inform(session, u"Morvane FastExit Status"_s,
            isOn ? u"Fast Exit enabled therefore the screen to request default texture installation on exit "
                   "will not be shown"_s

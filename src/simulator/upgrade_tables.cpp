@@ -13,10 +13,14 @@ namespace morvane {
 
 namespace {
 
-/// A table whose rows come anew from a file, together with a column that it lacked.
+/// The version of the schema with which the text files were shipped.
+constexpr int shippedVersion = 1;
+
+/// A table whose rows come anew from a file, together with columns that it lacked.
 struct TableImport {
-    QString table, newColumn, alteration, progressText;
-    const std::vector<ImportedColumn>& columns;
+    QString table;
+    QStringList newColumns; ///< the first one tells whether it was done
+    QString progressText;
 };
 
 // Names are compared exactly: a store of another spelling is none of this program's.
@@ -39,18 +43,18 @@ bool flagOf(const QString& field) {
     return textToNumber(field) != 0;
 }
 
-void setField(RowSet& rows, const ImportedColumn& column, const QString& field) {
+void setField(RowSet& rows, const SchemaColumn& column, const QString& field) {
     switch (column.kind) {
-    case ImportedKind::text:
+    case ColumnKind::text:
         return rows.setText(column.name, field);
-    case ImportedKind::number:
+    case ColumnKind::number:
         return rows.setNumber(column.name, numberOf(field));
-    case ImportedKind::flag:
+    case ColumnKind::flag:
         return rows.setFlag(column.name, flagOf(field));
     }
 }
 
-void addRow(RowSet& rows, const std::vector<ImportedColumn>& columns, const QStringList& fields) {
+void addRow(RowSet& rows, const std::vector<SchemaColumn>& columns, const QStringList& fields) {
     if (fields.size() <= static_cast<qsizetype>(columns.size())) throw Error(ErrorCode::subscript);
     rows.addNew();
     for (qsizetype i = 1; i <= static_cast<qsizetype>(columns.size()); ++i)
@@ -70,8 +74,9 @@ void importRows(Session& session, const TableImport& import, const FilePath& fil
     session.user.showMessage(
         {MessageKind::progress, u"Updating to V2.1"_s, import.progressText, false, false, true});
     RowSet rows(*session.adoConn, u"SELECT * FROM "_s + import.table);
+    const std::vector<SchemaColumn> columns = shippedColumns(import.table);
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        addRow(rows, import.columns, lines[i].split(u';'));
+        addRow(rows, columns, lines[i].split(u';'));
         session.user.updateProgress({}, {},
                                     100 * static_cast<double>(i + 1) / static_cast<double>(lines.size()));
         session.user.pumpMessages();
@@ -82,74 +87,29 @@ void importRows(Session& session, const TableImport& import, const FilePath& fil
 /// column that tells of the new one only comes with all of its rows.
 void replaceRows(Session& session, const TableImport& import, const FilePath& file) {
     Store& store = *session.adoConn;
-    if (hasColumn(store, import.table, import.newColumn)) return;
+    if (hasColumn(store, import.table, import.newColumns.front())) return;
     StoreTransaction transaction(store);
     store.execute(u"DELETE FROM %1 WHERE ID <> 0"_s.arg(import.table));
-    store.execute(import.alteration);
+    addColumns(store, schemaTable(import.table), import.newColumns);
     importRows(session, import, file);
     transaction.commit();
 }
 
 } // namespace
 
-const std::vector<ImportedColumn>& airportColumns() {
-    static const std::vector<ImportedColumn> columns{{u"ICAO"},
-                                                     {u"AIRPORT_NAME"},
-                                                     {u"CITY"},
-                                                     {u"COUNTRY"},
-                                                     {u"STATE"},
-                                                     {u"LAT"},
-                                                     {u"LONG"},
-                                                     {u"ELEVATION"},
-                                                     {u"WMO_REGION", ImportedKind::number},
-                                                     {u"BLOCK_NUMBER", ImportedKind::number},
-                                                     {u"STATION_NUMBER", ImportedKind::number}};
-    return columns;
-}
-
-const std::vector<ImportedColumn>& decodedMetarColumns() {
-    static const std::vector<ImportedColumn> columns{{u"METAR_STRING"},
-                                                     {u"METAR_ICAO"},
-                                                     {u"METAR_WIND_SPEED"},
-                                                     {u"METAR_WIND_SPEED_MEASUREMENT"},
-                                                     {u"METAR_WIND_DIRECTION"},
-                                                     {u"METAR_WIND_GUSTING", ImportedKind::flag},
-                                                     {u"METAR_WIND_GUST"},
-                                                     {u"METAR_WIND_VARYING", ImportedKind::flag},
-                                                     {u"METAR_WIND_VARYING_FROM"},
-                                                     {u"METAR_WIND_VARYING_TO"},
-                                                     {u"METAR_CLOUD_COVER"},
-                                                     {u"METAR_MAX_CLOUD", ImportedKind::number},
-                                                     {u"METAR_VISIBILITY"},
-                                                     {u"METAR_VISIBILITY_FORMAT"},
-                                                     {u"METAR_WEATHER_STRENGTH"},
-                                                     {u"METAR_FOG"},
-                                                     {u"METAR_WEATHER"},
-                                                     {u"METAR_TEMP"},
-                                                     {u"METAR_DEWPOINT"},
-                                                     {u"METAR_PRESSURE"},
-                                                     {u"METAR_DATE"},
-                                                     {u"METAR_MONTH"},
-                                                     {u"METAR_YEAR"},
-                                                     {u"METAR_TIME"},
-                                                     {u"METAR_CYCLE"},
-                                                     {u"METAR_LAT"},
-                                                     {u"METAR_LONG"}};
-    return columns;
+std::vector<SchemaColumn> shippedColumns(const QString& table) {
+    return columnsOfVersion(schemaTable(table), shippedVersion);
 }
 
 void importAirportData(Session& session) {
-    const TableImport import{u"AIRPORTDATA"_s, u"STATE"_s,
-                             u"ALTER TABLE AIRPORTDATA ADD COLUMN STATE TEXT(50)"_s,
-                             u"Inserting Airport Data into the database"_s, airportColumns()};
+    const TableImport import{u"AIRPORTDATA"_s, {u"STATE"_s}, u"Inserting Airport Data into the database"_s};
     replaceRows(session, import, airportFile(session));
 }
 
 void importDecodedMetars(Session& session) {
-    const TableImport import{
-        u"DECODED_METAR"_s, u"METAR_LAT"_s,
-        u"ALTER TABLE DECODED_METAR ADD COLUMN METAR_LAT TEXT(50), METAR_LONG TEXT(50)"_s,
-        u"Inserting Decoded Metar Data into the database"_s, decodedMetarColumns()};
+    const TableImport import{u"DECODED_METAR"_s,
+                             {u"METAR_LAT"_s, u"METAR_LONG"_s},
+                             u"Inserting Decoded Metar Data into the database"_s};
     replaceRows(session, import, decodedMetarFile(session));
 }
 
@@ -160,12 +120,9 @@ void dropCountries(Store& store) {
 void createTextureSwitch(Store& store) {
     if (hasTable(store, u"TEXTURE_SWITCH"_s)) return;
     StoreTransaction transaction(store);
-    store.execute(u"CREATE TABLE TEXTURE_SWITCH(ID COUNTER CONSTRAINT PrimaryKey PRIMARY KEY, ISDUTCH YESNO, "
-                  "ISTROPICAL YESNO, ISHALO YESNO, ISFASTEXIT YESNO)"_s);
+    createTable(store, schemaTable(u"TEXTURE_SWITCH"_s));
     RowSet rows(store, u"SELECT * FROM TEXTURE_SWITCH"_s);
-    rows.addNew();
-    for (const char16_t* column : {u"ISDUTCH", u"ISTROPICAL", u"ISHALO", u"ISFASTEXIT"})
-        rows.setFlag(column, false);
+    rows.addNew(); // all off
     rows.update();
     transaction.commit();
 }
@@ -184,9 +141,7 @@ void addDutchResource(Store& store) {
 void seedNightSets(Store& store) {
     if (hasTable(store, u"NIGHT_TEXTURE_SETS"_s)) return;
     StoreTransaction transaction(store);
-    store.execute(
-        u"CREATE TABLE NIGHT_TEXTURE_SETS(ID COUNTER CONSTRAINT PrimaryKey PRIMARY KEY, COLOR_SETTINGS "
-        "TEXT (50), TEXTURE_SET TEXT (50), ACTIVATED TEXT (50), DESCRIPTION TEXT (255), INSTALLED YESNO)"_s);
+    createTable(store, schemaTable(u"NIGHT_TEXTURE_SETS"_s));
     addDeliveredNightSets(store);
     transaction.commit();
 }
@@ -194,7 +149,7 @@ void seedNightSets(Store& store) {
 bool addDutchColumn(Store& store) {
     if (hasColumn(store, u"TEXTURE_SETS"_s, u"DUTCH"_s)) return false;
     StoreTransaction transaction(store);
-    store.execute(u"ALTER TABLE TEXTURE_SETS ADD COLUMN DUTCH YESNO"_s);
+    addColumns(store, schemaTable(u"TEXTURE_SETS"_s), {u"DUTCH"_s});
     RowSet rows(store, u"SELECT DUTCH FROM TEXTURE_SETS WHERE TEXTURE_SET = 'Default'"_s);
     if (!rows.atEnd()) {
         rows.setFlag(u"DUTCH", true);

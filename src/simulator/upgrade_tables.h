@@ -1,23 +1,14 @@
 #pragma once
 
-#include <vector>
+#include "core/store_schema.h"
 
 namespace morvane {
 
 class Session;
-class Store;
 
-enum class ImportedKind { text, number, flag };
-
-/// Where a field of a text file goes.
-struct ImportedColumn {
-    const char16_t* name;
-    ImportedKind kind = ImportedKind::text;
-};
-
-/// Columns of the fields behind the first, in their order.
-const std::vector<ImportedColumn>& airportColumns();
-const std::vector<ImportedColumn>& decodedMetarColumns();
+/// Columns of the fields of a text file behind its first, in their order: those that the table had when the
+/// files were shipped, whatever it has got since.
+std::vector<SchemaColumn> shippedColumns(const QString& table);
 
 /// The steps of the upgrade that change the store. Each looks first whether its table or column is there,
 /// under exactly that name, and is one transaction: it is done whole or not at all.

@@ -2,8 +2,8 @@
 
 #include "core/file_helpers.h"
 #include "core/registry.h"
+#include "weather/reports.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
 namespace morvane {
 
@@ -25,13 +25,14 @@ std::optional<Message> programProblem(Session& session, QString& path) {
     const auto problem = [](const QString& title, const QString& text) {
         return Message{MessageKind::exclamation, title, text};
     };
-    if (!FolderExists(session.files, path))
+    path = StripBackslash(path);
+    if (path.isEmpty() || !session.files.isFolder(FilePath(path)))
         return problem(
             u"Path not found"_s,
             u"ASv6.exe could not be detected at the path found in your registry setting. Please check "
             "that the computer where ASv6 is installed is switched on or that the path "_s +
                 path + u" actually exists"_s);
-    if (!FileExists(session.files, FilePath(path) / u"ASv6.exe"))
+    if (!session.files.exists(FilePath(path) / u"ASv6.exe"))
         return problem(
             u"ASv6.exe not found"_s,
             u"ASv6.exe could not be detected at the path found in your registry setting, please check "
@@ -44,7 +45,7 @@ void findExportFile(Session& session) {
     // So any real cycle counts as newer than none.
     weather.ASv6ExportDate = QDateTime(QDate(1900, 1, 1), QTime(1, 1, 1));
     const FilePath file = exportCycleFile(session);
-    if (!FileExists(session.files, file)) return;
+    if (!session.files.exists(file)) return;
     weather.ASv6ExportDate = timeOf(fileTimeText(file));
     weather.ASv6Present = weather.ASv6ExportDate.isValid();
     if (!weather.ASv6Present) weather.ASv6Problem = unreadableFileMessage();
@@ -94,7 +95,7 @@ QDateTime exportCycleTime(Session& session, const FilePath& file) {
 
 bool ActiveSky::refresh() {
     if (session_.state<WeatherState>().ASv6Local && !platform_.isWindowOpen(u"ASv6"_s)) {
-        const QDateTime baseTime = FileExists(session_.files, exportCycleFile(session_))
+        const QDateTime baseTime = session_.files.exists(exportCycleFile(session_))
                                        ? getExportCycleTime()
                                        : session_.clock.localTime();
         if (!platform_.startASv6(session_) || !waitForExportCycle(baseTime)) return false;
@@ -103,7 +104,7 @@ bool ActiveSky::refresh() {
 }
 
 bool ActiveSky::isExportCycleUpdated(const QDateTime& baseTime) {
-    return FileExists(session_.files, exportCycleFile(session_)) && getExportCycleTime() != baseTime;
+    return session_.files.exists(exportCycleFile(session_)) && getExportCycleTime() != baseTime;
 }
 
 QDateTime ActiveSky::getExportCycleTime() {

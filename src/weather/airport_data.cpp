@@ -5,15 +5,10 @@
 
 namespace morvane {
 
-void clsAirportData::getAirportData(const QString& query, std::optional<RowSet>& rows) const {
-    if (!query.isEmpty()) rows.emplace(connectedStore(session_), query);
-}
-
 std::optional<Airport> findAirport(const Session& session, const QString& icao) {
-    std::optional<RowSet> rows;
-    clsAirportData(session).getAirportData(
-        u"SELECT * FROM AIRPORTDATA WHERE ICAO = '"_s + makeStatementSafe(icao) + u'\'', rows);
-    return rows->atEnd() ? std::nullopt : std::optional(airportOf(*rows));
+    const RowSet row(connectedStore(session),
+                     u"SELECT * FROM AIRPORTDATA WHERE ICAO = '"_s + makeStatementSafe(icao) + u'\'');
+    return row.atEnd() ? std::nullopt : std::optional(airportOf(row));
 }
 
 Airport airportOf(const RowSet& row) {

@@ -8,19 +8,7 @@ namespace morvane {
 
 class Session;
 
-/// The directory of airports, `AIRPORTDATA`.
-class clsAirportData {
-public:
-    explicit clsAirportData(const Session& session) : session_(session) {}
-
-    /// Opens the rows of the query. An empty query leaves the record set as it is.
-    void getAirportData(const QString& query, std::optional<RowSet>& rows) const;
-
-private:
-    const Session& session_;
-};
-
-/// One airport as the directory spells it; texts are empty where it has none.
+/// One airport as the directory, `AIRPORTDATA`, spells it; texts are empty where it has none.
 struct Airport {
     QString icao, name, city, state, country;
     QString latitude, longitude; ///< signed decimal degrees, see storedDegrees

@@ -1,8 +1,8 @@
 #include "weather/airport_search.h"
 
 #include "core/numbers.h"
-#include "core/session.h"
 #include "core/statement_translation.h"
+#include "core/store_records.h"
 #include "weather/weather_state.h"
 
 namespace morvane {
@@ -31,13 +31,11 @@ struct ListKind {
 };
 
 FilterValues valuesOf(const Session& session, const ListKind& kind, const QString& where) {
-    std::optional<RowSet> rows;
-    clsAirportData(session).getAirportData(u"SELECT DISTINCT "_s + kind.column + u" FROM AIRPORTDATA "_s +
-                                               where + u" ORDER BY "_s + kind.column,
-                                           rows);
     FilterValues found;
-    for (; !rows->atEnd(); rows->next())
-        if (const QString value = rows->text(kind.column); !value.isEmpty()) found.values << value;
+    for (RowSet rows(connectedStore(session), u"SELECT DISTINCT "_s + kind.column + u" FROM AIRPORTDATA "_s +
+                                                  where + u" ORDER BY "_s + kind.column);
+         !rows.atEnd(); rows.next())
+        if (const QString value = rows.text(kind.column); !value.isEmpty()) found.values << value;
     found.countLine = QString::number(found.values.size()) + u' ' + kind.plural + u" Found"_s;
     return found;
 }
@@ -77,16 +75,14 @@ FilterValues popCities(const Session& session, const QString& where) {
 
 FoundAirports popAirports(const Session& session, const AirportFilter& filter) {
     const WeatherState& weather = session.state<WeatherState>();
-    std::optional<RowSet> rows;
-    clsAirportData(session).getAirportData(session.state<WeatherState>().AirportQuery +
-                                               narrowedWhere(weather, filter) + weather.AirportQueryOrder,
-                                           rows);
+    RowSet rows(connectedStore(session),
+                weather.AirportQuery + narrowedWhere(weather, filter) + weather.AirportQueryOrder);
+    if (rows.atEnd()) return {{}, u"No Airports Found"_s};
     FoundAirports found;
-    if (!rows || rows->atEnd()) return {{}, u"No Airports Found"_s};
-    found.airports.reserve(static_cast<std::size_t>(rows->count()));
-    for (; !rows->atEnd(); rows->next())
-        found.airports.push_back(airportOf(*rows));
-    found.countLine = QString::number(rows->count()) + u" Airports Found"_s;
+    found.airports.reserve(static_cast<std::size_t>(rows.count()));
+    for (; !rows.atEnd(); rows.next())
+        found.airports.push_back(airportOf(rows));
+    found.countLine = QString::number(rows.count()) + u" Airports Found"_s;
     return found;
 }
 

@@ -13,9 +13,7 @@ constexpr Screen methodScreens[] = {Screen::frm_FlightPlan, Screen::frm_FromDepD
                                     Screen::frm_CC_From_Option, Screen::frm_CC_From_Metar_String};
 
 std::int16_t cloudClassOf(Session& session, const QString& report) {
-    clsDecodeMetar decoded(session.user);
-    decoded.decodeMetarString(trimmedBlanks(report));
-    return decoded.MetarMaxCloud;
+    return clsDecodeMetar(session.user).decodeMetarString(trimmedBlanks(report)).WxFinderMaxCloud;
 }
 
 /// False when the way that was chosen was cancelled.
@@ -66,10 +64,9 @@ std::int16_t takeCoverOfAirports(Session& session) {
 }
 
 bool processMetarString(Session& session, const QString& metar) {
-    clsDecodeMetar report(session.user);
-    report.decodeMetarString(trimmedBlanks(metar));
-    setCover(session, report.MetarMaxCloud);
-    if (report.MetarMaxCloud != 0) return true;
+    const std::int16_t cloudClass = cloudClassOf(session, metar);
+    setCover(session, cloudClass);
+    if (cloudClass != 0) return true;
     session.user.showMessage({MessageKind::error, u"METAR Format Error!"_s,
                               u"METAR String format not recognised please enter new string to process"_s,
                               true, false, false});

@@ -12,71 +12,76 @@ namespace {
 // these lines, so they stay.
 
 struct PlainLine {
-    const char16_t *caption, *column, *unit, *absent;
+    const char16_t* caption;
+    QString clsWxFinder::*value;
+    const char16_t *unit, *absent;
 };
 
-constexpr PlainLine visibility{u"Visibility: ", u"METAR_VISIBILITY", u"", u"No visibility data available"};
-constexpr PlainLine obscuration{u"Obscuration: ", u"METAR_FOG", u"", u"No obscuration phenomina recorded"};
-constexpr PlainLine sky{u"Sky Conditions: ", u"METAR_CLOUD_COVER", u"", u"No cloud data available"};
-constexpr PlainLine temperature{u"Temperature: ", u"METAR_TEMP", u" degree(s) Celcius",
+constexpr PlainLine visibility{u"Visibility: ", &clsWxFinder::WxFinderVisibility, u"",
+                               u"No visibility data available"};
+constexpr PlainLine obscuration{u"Obscuration: ", &clsWxFinder::WxFinderFog, u"",
+                                u"No obscuration phenomina recorded"};
+constexpr PlainLine sky{u"Sky Conditions: ", &clsWxFinder::WxFinderCloudCover, u"",
+                        u"No cloud data available"};
+constexpr PlainLine temperature{u"Temperature: ", &clsWxFinder::WxFinderTemperature, u" degree(s) Celcius",
                                 u"No temperature data available"};
-constexpr PlainLine dewpoint{u"Dewpoint: ", u"METAR_DEWPOINT", u" degree(s) Celcius",
+constexpr PlainLine dewpoint{u"Dewpoint: ", &clsWxFinder::WxFinderDewpoint, u" degree(s) Celcius",
                              u"No Dewpoint data available"};
-constexpr PlainLine pressure{u"Pressure: ", u"METAR_PRESSURE", u"", u"No Pressure data available"};
+constexpr PlainLine pressure{u"Pressure: ", &clsWxFinder::WxFinderPressure, u"",
+                             u"No Pressure data available"};
 
 QString text(const char16_t* characters) {
     return QString::fromUtf16(characters);
 }
 
-QString lineOf(const PlainLine& line, const RowSet& row) {
-    const QString value = row.text(line.column);
+QString lineOf(const PlainLine& line, const clsWxFinder& report) {
+    const QString& value = report.*line.value;
     return text(line.caption) + (value.isEmpty() ? text(line.absent) : value + text(line.unit));
 }
 
-QString dateLine(const RowSet& row, const QDate& today) {
-    const QString storedMonth = row.text(u"METAR_MONTH"), storedYear = row.text(u"METAR_YEAR");
+QString dateLine(const clsWxFinder& report, const QDate& today) {
+    const QString storedMonth = report.WxFinderMonth, storedYear = report.WxFinderYear;
     const QString month = storedMonth.isEmpty() ? QLocale::c().monthName(today.month()) : storedMonth;
     const QString year = storedYear.isEmpty() ? QString::number(today.year()) : storedYear;
-    return u"Date: "_s + row.text(u"METAR_DATE") + u' ' + month + u' ' + year + u" Time: "_s +
-           row.text(u"METAR_TIME") + u'Z';
+    return u"Date: "_s + report.WxFinderDate + u' ' + month + u' ' + year + u" Time: "_s +
+           report.WxFinderTime + u'Z';
 }
 
 /// The unit follows its number without a blank.
-QString windLine(const RowSet& row) {
-    const QString direction = row.text(u"METAR_WIND_DIRECTION"), speed = row.text(u"METAR_WIND_SPEED");
+QString windLine(const clsWxFinder& report) {
+    const QString direction = report.WxFinderWindDirection, speed = report.WxFinderWindSpeed;
     if (direction.isEmpty() || speed.isEmpty()) return u"Wind: No wind data avialable"_s;
-    const QString unit = row.text(u"METAR_WIND_SPEED_MEASUREMENT") + u',';
+    const QString unit = report.WxFinderWindSpeedMeasurement + u',';
     QString line =
         direction == u"Calm" ? u"Wind: Calm"_s : u"Wind from: "_s + direction + u" at "_s + speed + unit;
-    if (row.flag(u"METAR_WIND_GUSTING")) line += u" Gusting "_s + row.text(u"METAR_WIND_GUST") + unit;
-    if (row.flag(u"METAR_WIND_VARYING"))
-        line += u" Varying between "_s + row.text(u"METAR_WIND_VARYING_FROM") + u" degrees and "_s +
-                row.text(u"METAR_WIND_VARYING_TO") + u" degrees"_s;
+    if (report.WxFinderWindGusting) line += u" Gusting "_s + report.WxFinderWindGust + unit;
+    if (report.WxFinderWindVarying)
+        line += u" Varying between "_s + report.WxFinderWindVaryingFrom + u" degrees and "_s +
+                report.WxFinderWindVaryingTo + u" degrees"_s;
     return line;
 }
 
 /// Strength and weather are joined as they are: a weather without a strength has two blanks before it.
-QString precipitationLine(const RowSet& row) {
-    const QString weather = row.text(u"METAR_WEATHER");
+QString precipitationLine(const clsWxFinder& report) {
+    const QString weather = report.WxFinderWeather;
     return u"Precipitation: "_s + (weather.isEmpty() ? u"No precipitation type recorded"_s
-                                                     : row.text(u"METAR_WEATHER_STRENGTH") + u' ' + weather);
+                                                     : report.WxFinderWeatherStrength + u' ' + weather);
 }
 
 } // namespace
 
-QStringList decodedMetarLines(const RowSet& row, const QString& heading, const QString& report,
-                              const QDate& today) {
+ReportLines decodedMetarLines(const clsWxFinder& report, const QString& heading, const QDate& today) {
     return {heading,
-            dateLine(row, today),
-            windLine(row),
-            lineOf(visibility, row),
-            precipitationLine(row),
-            lineOf(obscuration, row),
-            lineOf(sky, row),
-            lineOf(temperature, row),
-            lineOf(dewpoint, row),
-            lineOf(pressure, row),
-            report};
+            dateLine(report, today),
+            windLine(report),
+            lineOf(visibility, report),
+            precipitationLine(report),
+            lineOf(obscuration, report),
+            lineOf(sky, report),
+            lineOf(temperature, report),
+            lineOf(dewpoint, report),
+            lineOf(pressure, report),
+            report.WxFinderMetar};
 }
 
 } // namespace morvane

@@ -1,21 +1,23 @@
 #pragma once
 
-#include "core/row_set.h"
+#include "weather/weather_report.h"
 
 #include <QDate>
-#include <QStringList>
+#include <array>
 
 namespace morvane {
 
-/// frm_metar: the lines of the decoded report, in order.
+/// Heading, date, wind, visibility, precipitation, obscuration, sky, temperature, dewpoint, pressure and the
+/// report itself.
+inline constexpr std::size_t reportLineCount = 11;
+using ReportLines = std::array<QString, reportLineCount>;
+
+/// frm_metar: the lines of the decoded report.
 struct DecodedReportLines {
-    QStringList decodedMetarLines;
+    ReportLines decodedMetarLines;
 };
 
-/// The decoded report of the row of `DECODED_METAR` at hand, line by line: heading, date, wind, visibility,
-/// precipitation, obscuration, sky, temperature, dewpoint, pressure, the report itself. `today` stands in for
-/// a month or a year that the row does not have.
-QStringList decodedMetarLines(const RowSet& row, const QString& heading, const QString& report,
-                              const QDate& today);
+/// `today` stands in for a month or a year that the report does not have.
+ReportLines decodedMetarLines(const clsWxFinder& report, const QString& heading, const QDate& today);
 
 } // namespace morvane

@@ -4,12 +4,13 @@
 #include "core/numbers.h"
 #include "weather/metar_clouds.h"
 #include "weather/metar_pairs.h"
+#include "weather/metar_text.h"
 #include "weather/metar_tokens.h"
 #include "weather/metar_wind.h"
 
 #include <QStringBuilder>
-#include <QStringList>
 #include <array>
+#include <utility>
 
 namespace morvane {
 
@@ -55,7 +56,7 @@ bool isPressure(const MetarToken& token) {
 
 } // namespace
 
-void clsDecodeMetar::decodeMetarString(const QString& metar) {
+clsWxFinder clsDecodeMetar::decodeMetarString(const QString& metar) {
     struct Pass {
         QString prefix;
         void (clsDecodeMetar::*run)(const MetarTokens&);
@@ -70,35 +71,14 @@ void clsDecodeMetar::decodeMetarString(const QString& metar) {
         {u"clsDecodeMetar, sub TempDewpoint: "_s, &clsDecodeMetar::TempDewpoint},
         {u"clsDecodeMetar, sub Pressure: "_s, &clsDecodeMetar::Pressure},
     }};
-    if (trimmedBlanksView(metar).isEmpty()) return;
+    report_.WxFinderMetar = trimMetarString(metar);
+    if (trimmedBlanksView(metar).isEmpty()) return std::exchange(report_, {});
     const MetarTokens tokens(metar);
-    MetarICAO = tokens.station().toString();
+    report_.WxFinderIcao = tokens.station().toString();
     for (const Pass& pass : passes)
         reportFailures(user_, {u"METAR Error"_s, MessageKind::error, pass.prefix},
                        [&] { (this->*pass.run)(tokens); });
-}
-
-void clsDecodeMetar::decodeMetarDate(const QString& date) {
-    const QStringList parts = date.split(u'/');
-    if (parts.size() < 2) throw Error(ErrorCode::subscript);
-    MetarMonth = getMonthName(roundToInteger(textToNumber(parts[1])));
-    MetarYear = parts[0];
-}
-
-QString clsDecodeMetar::getMonthName(int number) {
-    static const std::array<QString, 12> names{
-        u"January"_s, u"February"_s, u"March"_s,     u"April"_s,   u"May"_s,      u"June"_s,
-        u"July"_s,    u"August"_s,   u"September"_s, u"October"_s, u"November"_s, u"December"_s,
-    };
-    return number >= 1 && number <= 12 ? names[static_cast<std::size_t>(number - 1)] : QString();
-}
-
-QString clsDecodeMetar::decodeWeatherCode(QStringView pair) {
-    return textOfCode(weatherCodes(), pair.toString().toLower()).toString();
-}
-
-QString clsDecodeMetar::decodeObscurationCode(QStringView pair) {
-    return textOfCode(obscurationCodes(), pair.toString().toLower()).toString();
+    return std::exchange(report_, {});
 }
 
 void clsDecodeMetar::Wind(const MetarTokens& tokens) {
@@ -106,17 +86,18 @@ void clsDecodeMetar::Wind(const MetarTokens& tokens) {
     for (const MetarToken& token : tokens.groups()) {
         const QString unit = token.isAuto ? QString() : windUnit(token.lower);
         if (unit.isEmpty()) continue;
-        WindSpeedMeasurement = unit; // a later wind token changes the unit, though not the wind
+        report_.WxFinderWindSpeedMeasurement =
+            unit; // a later wind token changes the unit, though not the wind
         if (reader.text().isEmpty()) reader.read(token);
     }
     if (reader.text().isEmpty()) return;
     if (reader.text().size() > longestWind) {
-        WindSpeedMeasurement.clear();
+        report_.WxFinderWindSpeedMeasurement.clear();
         return;
     }
     setDirectionAndSpeed(reader.text());
-    WindGusting = reader.gusting();
-    WindGust = reader.gust();
+    report_.WxFinderWindGusting = reader.gusting();
+    report_.WxFinderWindGust = reader.gust();
     setVariation(tokens);
 }
 
@@ -125,25 +106,25 @@ void clsDecodeMetar::setDirectionAndSpeed(QStringView wind) {
     const QStringView speed = wind.mid(3);
     const bool hasDegrees = isDigits(direction);
     if (hasDegrees)
-        WindDirection = direction % u" degrees"_s;
+        report_.WxFinderWindDirection = direction % u" degrees"_s;
     else if (direction.compare(u"vrb", Qt::CaseInsensitive) == 0)
-        WindDirection = u"Variable"_s;
+        report_.WxFinderWindDirection = u"Variable"_s;
     if (!isDigits(speed)) return;
     if (speed.toInt() == 0) {
-        WindDirection = u"Calm"_s;
-        WindSpeed = u"0"_s;
+        report_.WxFinderWindDirection = u"Calm"_s;
+        report_.WxFinderWindSpeed = u"0"_s;
         return;
     }
     // Three digits beside degrees, two beside "VRB" or slashes: lists and stored rows hold it so.
-    WindSpeed = hasDegrees && speed.size() == 2 ? u'0' % speed : speed.toString();
+    report_.WxFinderWindSpeed = hasDegrees && speed.size() == 2 ? u'0' % speed : speed.toString();
 }
 
 void clsDecodeMetar::setVariation(const MetarTokens& tokens) {
     for (const MetarToken& token : tokens.groups()) {
         if (!isVariation(token)) continue;
-        WindVarying = true;
-        WindVaryingFrom = token.text.left(3).toString();
-        WindVaryingTo = token.text.mid(4).toString();
+        report_.WxFinderWindVarying = true;
+        report_.WxFinderWindVaryingFrom = token.text.left(3).toString();
+        report_.WxFinderWindVaryingTo = token.text.mid(4).toString();
         return;
     }
 }
@@ -151,8 +132,8 @@ void clsDecodeMetar::setVariation(const MetarTokens& tokens) {
 void clsDecodeMetar::DateTime(const MetarTokens& tokens) {
     for (const MetarToken& token : tokens.groups()) {
         if (token.isAuto || token.lower.size() != 7 || !token.lower.endsWith(u'z')) continue;
-        MetarDate = token.text.left(2).toString();
-        MetarTime = token.text.mid(2, 4).toString();
+        report_.WxFinderDate = token.text.left(2).toString();
+        report_.WxFinderTime = token.text.mid(2, 4).toString();
         return;
     }
 }
@@ -173,8 +154,8 @@ void clsDecodeMetar::Visibility(const MetarTokens& tokens) {
 }
 
 void clsDecodeMetar::setVisibility(const QString& text, const QString& format) {
-    MetarVisiblity = text;
-    MetarVisibilityFormat = format;
+    report_.WxFinderVisibility = text;
+    report_.WxFinderVisibilityFormat = format;
 }
 
 void clsDecodeMetar::Weather(const MetarTokens& tokens) {
@@ -188,18 +169,18 @@ void clsDecodeMetar::Weather(const MetarTokens& tokens) {
         // a sign, too, and is not found.
         const bool isSigned = isStrengthOfSign();
         const PairsFound found = readPairs(token.lower, isSigned ? behindSign : plain, text);
-        if (found.any && !isSigned) MetarWeatherStrength = u"Moderate "_s;
-        if (found.last) MetarWeather = trimmedBlanks(text);
+        if (found.any && !isSigned) report_.WxFinderWeatherStrength = u"Moderate "_s;
+        if (found.last) report_.WxFinderWeather = trimmedBlanks(text);
     }
 }
 
 void clsDecodeMetar::setStrengthOfSign(const MetarToken& token) {
-    if (token.text.startsWith(u'-')) MetarWeatherStrength = u"Light "_s;
-    if (token.text.startsWith(u'+')) MetarWeatherStrength = u"Heavy "_s;
+    if (token.text.startsWith(u'-')) report_.WxFinderWeatherStrength = u"Light "_s;
+    if (token.text.startsWith(u'+')) report_.WxFinderWeatherStrength = u"Heavy "_s;
 }
 
 bool clsDecodeMetar::isStrengthOfSign() const {
-    return MetarWeatherStrength == u"Light "_s || MetarWeatherStrength == u"Heavy "_s;
+    return report_.WxFinderWeatherStrength == u"Light "_s || report_.WxFinderWeatherStrength == u"Heavy "_s;
 }
 
 void clsDecodeMetar::Obscuration(const MetarTokens& tokens) {
@@ -209,10 +190,10 @@ void clsDecodeMetar::Obscuration(const MetarTokens& tokens) {
     for (const MetarToken& token : tokens.groups()) {
         if (token.isAuto || token.hasDigit) continue;
         if (!readPairs(token.lower, grammar, text).last) continue;
-        if (trimmedBlanksView(MetarObscuration).isEmpty())
-            MetarObscuration = trimmedBlanks(text);
+        if (trimmedBlanksView(report_.WxFinderFog).isEmpty())
+            report_.WxFinderFog = trimmedBlanks(text);
         else
-            MetarObscuration += u" and "_s + text;
+            report_.WxFinderFog += u" and "_s + text;
     }
 }
 
@@ -222,12 +203,12 @@ void clsDecodeMetar::CloudCover(const MetarTokens& tokens) {
         const CloudLayer* layer = token.isAuto ? nullptr : findCloudLayer(token.lower);
         if (!layer) continue;
         if (layer->takesMarks) marks.note(token.lower);
-        if (MetarMaxCloud >= layer->cloudClass) continue;
-        MetarMaxCloud = layer->cloudClass;
-        MetarCloud = layer->text.toString();
+        if (report_.WxFinderMaxCloud >= layer->cloudClass) continue;
+        report_.WxFinderMaxCloud = layer->cloudClass;
+        report_.WxFinderCloudCover = layer->text.toString();
         if (layer->word == u"cavok") setVisibility(u"Greater than 10km"_s, u"cavok"_s);
     }
-    if (!MetarCloud.isEmpty()) MetarCloud += marks.text();
+    if (!report_.WxFinderCloudCover.isEmpty()) report_.WxFinderCloudCover += marks.text();
 }
 
 void clsDecodeMetar::TempDewpoint(const MetarTokens& tokens) {
@@ -235,9 +216,9 @@ void clsDecodeMetar::TempDewpoint(const MetarTokens& tokens) {
         if (token.isAuto || isMiles(token) || token.text.size() > longestTemperatureGroup) continue;
         const qsizetype slash = token.text.indexOf(u'/');
         if (slash < 1) continue;
-        MetarTemp = temperatureText(token.text.left(slash));
+        report_.WxFinderTemperature = temperatureText(token.text.left(slash));
         const QStringView dewpoint = token.text.mid(slash + 1);
-        if (!dewpoint.startsWith(u'/')) MetarDewpoint = temperatureText(dewpoint);
+        if (!dewpoint.startsWith(u'/')) report_.WxFinderDewpoint = temperatureText(dewpoint);
         return;
     }
 }
@@ -245,7 +226,7 @@ void clsDecodeMetar::TempDewpoint(const MetarTokens& tokens) {
 void clsDecodeMetar::Pressure(const MetarTokens& tokens) {
     for (const MetarToken& token : tokens.pressureGroups()) {
         if (token.isAuto || !isPressure(token)) continue;
-        MetarPressure = pressureText(token);
+        report_.WxFinderPressure = pressureText(token);
         return;
     }
 }

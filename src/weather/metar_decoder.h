@@ -1,10 +1,9 @@
 #pragma once
 
 #include "core/user_interface.h"
+#include "weather/weather_report.h"
 
-#include <QString>
 #include <QStringView>
-#include <cstdint>
 
 namespace morvane {
 
@@ -12,50 +11,16 @@ class MetarTokens;
 struct MetarToken;
 
 /// Turns one raw METAR line into English display texts and a cloud class. It validates nothing: eight passes
-/// look for their group among the tokens, and a group that no pass knows leaves its property empty.
-///
-/// One object serves one report, since some passes read back what they wrote for an earlier token.
+/// look for their group among the tokens, and a group that no pass knows leaves its property empty. Month,
+/// year and cycle are the caller's: they depend on where the report is from.
 class clsDecodeMetar {
 public:
     explicit clsDecodeMetar(UserInterface& user) : user_(user) {}
     virtual ~clsDecodeMetar() = default;
 
-    /// Decodes a line into the properties; an empty or blank one changes nothing. A failing pass shows its
-    /// message and the next ones still run.
-    void decodeMetarString(const QString& metar);
-    /// Sets month and year from "2007/03/12"; the day is not read. Raises "Subscript out of range" for a text
-    /// without "/" and "Type mismatch" when the month is no number.
-    void decodeMetarDate(const QString& date);
-
-    /// English name of the months 1 to 12; empty for any other number.
-    static QString getMonthName(int number);
-    /// Text of a two-letter code in any case; empty for an unknown one.
-    static QString decodeWeatherCode(QStringView pair);
-    static QString decodeObscurationCode(QStringView pair);
-
-    QString MetarICAO;            ///< first token of the line, unchanged
-    QString WindSpeedMeasurement; ///< "kts" or "mps"
-    QString WindDirection;        ///< "240 degrees", "Variable" or "Calm"
-    QString WindSpeed;            ///< digits: "015", "0" when calm
-    bool WindGusting = false;
-    QString WindGust; ///< digits as written
-    bool WindVarying = false;
-    QString WindVaryingFrom; ///< "200" of "200V260"
-    QString WindVaryingTo;
-    QString MetarDate;  ///< day of month, two characters
-    QString MetarTime;  ///< HHMM
-    QString MetarMonth; ///< only from decodeMetarDate, like the year
-    QString MetarYear;
-    QString MetarVisiblity;
-    QString MetarVisibilityFormat; ///< "km" (metres), "mph" (miles: the misnomer is wanted) or "cavok"
-    QString MetarWeather;
-    QString MetarWeatherStrength; ///< "Light ", "Heavy " or "Moderate ", with the blank
-    QString MetarObscuration;
-    QString MetarCloud;             ///< heaviest layer and the cumulus marks
-    std::int16_t MetarMaxCloud = 0; ///< 0 none seen, 1 clear to 5 overcast, 6 sky obscured
-    QString MetarTemp;              ///< "18" or "Minus 04"
-    QString MetarDewpoint;
-    QString MetarPressure; ///< "1012 Millibars" or "29.92 Inches of Mercury"
+    /// The report of a line; of an empty or blank one only the line itself. A failing pass shows its message
+    /// and the next ones still run.
+    clsWxFinder decodeMetarString(const QString& metar);
 
 private:
     // Virtual so that a test can make one fail: no report is known to.
@@ -75,6 +40,7 @@ private:
     bool isStrengthOfSign() const;
 
     UserInterface& user_;
+    clsWxFinder report_; ///< some passes read back what they wrote for an earlier token
 };
 
 } // namespace morvane

@@ -38,8 +38,7 @@ std::optional<std::int16_t> StationIndex::cloudClassOf(const QString& icao) cons
     return code.isEmpty() || found == cloudClasses_.constEnd() ? std::nullopt : std::optional(*found);
 }
 
-QString getClosestMetarStation(Session& session, const QString&, const QString& latitude,
-                               const QString& longitude) {
+QString getClosestMetarStation(const Session& session, const QString& latitude, const QString& longitude) {
     const double north = requiredDegrees(latitude), east = requiredDegrees(longitude);
     return StationIndex(session).closestTo(north, east);
 }

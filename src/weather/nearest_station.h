@@ -35,7 +35,6 @@ private:
 
 /// The nearest station of a place without a report of its own, in signed decimal degrees; empty when there is
 /// none. Raises "Type mismatch" for a position that is no number.
-QString getClosestMetarStation(Session& session, const QString& icao, const QString& latitude,
-                               const QString& longitude);
+QString getClosestMetarStation(const Session& session, const QString& latitude, const QString& longitude);
 
 } // namespace morvane

@@ -3,9 +3,9 @@
 #include "core/error.h"
 #include "core/numbers.h"
 #include "core/session.h"
+#include "weather/reports.h"
 #include "weather/weather_endpoint.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
 #include <QLocale>
 #include <set>

@@ -1,7 +1,7 @@
 #include "weather/weather_refresh.h"
 
+#include "weather/reports.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
 namespace morvane {
 

@@ -17,10 +17,10 @@
 #include "sky/sky_sets.h"
 #include "ui/dialog_form.h"
 #include "weather/cover_choice.h"
+#include "weather/report_filter.h"
 #include "weather/screens/cover_report_screen.h"
 #include "weather/screens/weather_screen.h"
 #include "weather/weather_refresh.h"
-#include "weather/wx_filter.h"
 #include "window/window_shell.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "core/numbers.h"
 #include "core/session.h"
-#include "simulator/configs.h"
+#include "simulator/options.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/palette.h"
 #include "ui/controls/paper_style.h"
@@ -187,8 +187,7 @@ void frm_Msg::askForCancel() {
 
 void frm_Msg::storeFastExit(bool isTicked) {
     // Clearing the box writes nothing: the question would not have come with the option set.
-    if (isTicked && (session().rows<clsConfigs>() || clsConfigs::reload(session())))
-        session().rows<clsConfigs>()->UpdateFastExit(true);
+    if (isTicked) storeSwitch(session(), &OptionsInForce::IsFastExit, true);
 }
 
 } // namespace morvane

@@ -17,7 +17,7 @@
 #include "sky/sky_selection.h"
 #include "ui/skin.h"
 #include "weather/active_sky.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 #include "window/main_screen.h"
 #include "window/splash_screen.h"
 #include "window/window_shell.h"

@@ -10,7 +10,7 @@
 #include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
 #include "simulator/backups.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
 #include "sky/sky_texture_sets.h"
 #include "ui/controls/labels.h"
 #include "ui/skin.h"

@@ -13,7 +13,7 @@
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
 #include "simulator/flights.h"
 #include "simulator/options.h"
 #include "simulator/simulator_restore.h"
@@ -321,11 +321,9 @@ private:
     }
 
     void expectNothingInstalled() {
-        clsConfigs switches(*session_);
-        EXPECT_FALSE(switches.GetDutchVal() || switches.GetTropicalVal() || switches.GetHaloVal());
-        EXPECT_FALSE(session_->state<OptionsInForce>().IsDutch ||
-                     session_->state<OptionsInForce>().IsTropical ||
-                     session_->state<OptionsInForce>().IsHalo);
+        for (const auto flag :
+             {&OptionsInForce::IsDutch, &OptionsInForce::IsTropical, &OptionsInForce::IsHalo})
+            EXPECT_FALSE(storedSwitch(*session_, flag) || session_->state<OptionsInForce>().*flag);
         for (const QString& table :
              {u"TEXTURE_SETS"_s, u"SKY_TEXTURE_SETS"_s, u"NIGHT_TEXTURE_SETS"_s, u"MV_CONFIG"_s})
             for (RowSet rows(*session_->adoConn, u"SELECT * FROM "_s + table); !rows.atEnd(); rows.next())

@@ -29,32 +29,6 @@ TEST(FileTime, isLocalAndWithoutSeconds) {
     }
 }
 
-TEST(SystemTimeTexts, onlyTheDateIsPadded) {
-    const QDateTime time(QDate(2006, 7, 4), QTime(4, 7, 3, 25));
-    EXPECT_EQ(FormatSystemTimeTime(time), u"4:7:3.25"_s);
-    EXPECT_EQ(FormatSystemTimeDate(time), u"2006/07/04"_s);
-}
-
-TEST(Existence, aFolderTestCleansTheCallersText) {
-    const test::TemporaryFolder folder;
-    NativeFileSystem files;
-    writeFile(folder / u"a.flt", "[Main]");
-    const QString path = folder.path().native();
-    const std::tuple<QString, bool, QString> cases[] = {
-        {u"  "_s + path + u"\\ "_s, true, path},
-        {path + u"/a.flt"_s, false, path + u"/a.flt"_s},
-        {path + u"/none\\"_s, false, path + u"/none"_s},
-        {u" \\ "_s, false, {}},
-    };
-    for (const auto& [given, found, after] : cases) {
-        QString text = given;
-        EXPECT_EQ(FolderExists(files, text), found) << given.toStdString();
-        EXPECT_EQ(text, after);
-    }
-    EXPECT_TRUE(FileExists(files, folder.path())); // a folder counts, too
-    EXPECT_FALSE(FileExists(files, folder / u"b.flt"));
-}
-
 TEST(FileVersion, isReadFromTheFixedRecord) {
     const test::TemporaryFolder folder;
     NativeFileSystem files;

@@ -5,10 +5,13 @@
 #include "night/night_texture_sets.h"
 #include "sets/resource_folders.h"
 #include "simulator/backups.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
+#include "simulator/option_table.h"
+#include "simulator/options.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
-#include "weather/wx_finders.h"
+#include "weather/report_rows.h"
+#include "weather/reports.h"
 
 #include "support/faulty_store.h"
 #include "support/scripted_services.h"
@@ -162,11 +165,9 @@ TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
     EXPECT_FALSE(clsTextureSets::reload(session));
     EXPECT_FALSE(clsWxFinders::reload(session));
     session.adoConn.reset(); // as when no store was found at all
-    EXPECT_FALSE(clsConfigs(session).GetHaloVal());
-    EXPECT_FALSE(clsWxFinderData(session).insertDecodedMetar({}));
-    EXPECT_EQ(user.told().join(u'/'),
-              u"Error|Morvane Error|%1/Exclamation|Metar Database Error!|%1/"
-              "Error|Morvane Error|%1/Exclamation|Metar Decode Error!|%1"_s.arg(closed));
+    EXPECT_FALSE(storedSwitch(session, &OptionsInForce::IsHalo));
+    EXPECT_EQ(user.told().join(u'/'), u"Error|Morvane Error|%1/Exclamation|Metar Database Error!|%1/"
+                                      "Error|Morvane Error|%1"_s.arg(closed));
 }
 
 TEST_F(RecordsTest, positionsAndKeys) {
@@ -187,15 +188,11 @@ TEST_F(RecordsTest, positionsAndKeys) {
     EXPECT_EQ(groundSets().join(u' '), "a c");
 }
 
-TEST_F(RecordsTest, namesAreFoundAsTextOrAsNumbers) {
+TEST_F(RecordsTest, namesAreFoundAsTheyAreSpelt) {
     addRows("TEXTURE_SETS(TEXTURE_SET)", {"Storm", "storm"});
     clsTextureSets::reload(session);
     EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("storm"), 2); // exactly, with regard to case
     EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("calm"), 0);
-    addBackups({u"12.0"_s, u"2-Backup"_s});
-    clsBackups::reload(session);
-    EXPECT_EQ(session.rows<clsBackups>()->findIndex(12), 1);
-    EXPECT_THROW(session.rows<clsBackups>()->findIndex(2), Error);
 }
 
 TEST_F(RecordsTest, oneSetIsInstalled) {
@@ -223,34 +220,28 @@ TEST_F(RecordsTest, configurationsAreFoundByTheirTitle) {
 
 TEST_F(RecordsTest, eachSwitchWritesItsOwnColumn) {
     execute(u"INSERT INTO TEXTURE_SWITCH(ISDUTCH) VALUES (False)"_s);
-    const std::tuple<bool (clsConfigs::*)(bool), bool (clsConfigs::*)(), QString> switches[] = {
-        {&clsConfigs::UpdateDutch, &clsConfigs::GetDutchVal, "1|1|0|0|0"},
-        {&clsConfigs::UpdateTropical, &clsConfigs::GetTropicalVal, "1|0|1|0|0"},
-        {&clsConfigs::UpdateHalo, &clsConfigs::GetHaloVal, "1|0|0|1|0"},
-        {&clsConfigs::UpdateFastExit, &clsConfigs::GetFastExitVal, "1|0|0|0|1"}};
-    clsConfigs configs(session);
-    for (const auto& [update, get, row] : switches) {
-        EXPECT_TRUE(!(configs.*get)() && (configs.*update)(true) && (configs.*get)());
-        EXPECT_EQ(rowsOf("TEXTURE_SWITCH"), QStringList{row});
-        EXPECT_TRUE((configs.*update)(false));
+    for (const SimulatorOption& option : simulatorOptions()) {
+        if (!option.column) continue;
+        EXPECT_TRUE(!storedSwitch(session, option.flag) && storeSwitch(session, option.flag, true) &&
+                    storedSwitch(session, option.flag));
+        EXPECT_EQ(rowsOf("TEXTURE_SWITCH").first().count(u'1'), 2) << "the key and one of the switches";
+        EXPECT_TRUE(storeSwitch(session, option.flag, false));
     }
 }
 
 TEST_F(RecordsTest, oneReportAStation) {
-    clsWxFinderData data(session);
     const auto report = [&](const QString& code, const QString& year, const QString& latitude) {
-        DecodedMetarRow row{{}, latitude, {}};
-        row.report.WxFinderIcao = code;
-        row.report.WxFinderYear = year;
-        EXPECT_TRUE(data.insertDecodedMetar(row));
+        clsWxFinder finder;
+        finder.WxFinderIcao = code;
+        finder.WxFinderYear = year;
+        storeReport(session, finder, {latitude, {}});
     };
     report(u" KSEA "_s, u"1998"_s, u"47.45"_s);
     report(u"EGLL"_s, u"1999"_s, u""_s);
     report(u"ksea"_s, u""_s, u""_s); // takes the row's place; its latitude stays
     EXPECT_EQ(column(u"METAR_LAT"_s, u"DECODED_METAR"_s), (QStringList{u"47.45"_s, QString()}));
     EXPECT_TRUE(clsWxFinders::reload(session));
-    EXPECT_EQ(session.rows<clsWxFinders>()->GetItem(1)->WxFinderYear, "1999"); // by code, not by row
-    EXPECT_EQ(session.rows<clsWxFinders>()->findIndex(u"ksea"_s), 2);
+    EXPECT_EQ(session.rows<clsWxFinders>()->GetItem(1)->WxFinderYear, "1999");        // by code, not by row
     EXPECT_EQ(session.rows<clsWxFinders>()->GetKey(u"KSEA"_s)->WxFinderYear, "2007"); // none: the present one
 }
 

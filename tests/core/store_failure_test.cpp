@@ -80,6 +80,50 @@ TEST_F(StoreFailureTest, failedWritesLeaveASoundStore) {
     }
 }
 
+/// A table and a column of a later version, and an upgrade of old that is still to come.
+Schema laterSchema() {
+    Schema schema = programSchema();
+    schema[1].columns.push_back({.name = u"BACKUP_NOTE"_s, .width = 9, .isLookedUp = true, .since = 2});
+    schema[1].columns.push_back({.name = u"BACKUP_KEPT"_s, .kind = ColumnKind::flag, .since = 3});
+    schema.push_back({u"NOTES"_s, {{.name = u"NOTE"_s, .width = 9}}, 2});
+    schema.push_back({u"NOT_YET"_s, {{.name = u"NOTE"_s}, {.name = u"LATER"_s, .since = 3}}, 1});
+    return schema;
+}
+
+/// Every operation fails in its turn: the rows stand, and the step before is whole or not there at all.
+TEST_F(StoreFailureTest, aPresentStoreIsBroughtUpToDateStepByStep) {
+    store.open(file);
+    execute(u"PRAGMA user_version = 0"_s); // as before stores had a number
+    updateSchema(store);
+    EXPECT_FALSE(store.hasTable(u"NOTES"_s)) << "the program's own schema has no later version";
+    store.close();
+    bool wasHit = true;
+    int n = 0;
+    while (wasHit) {
+        test::FaultyStoreDisk disk(SQLITE_FULL);
+        store.open(file);
+        disk.failAt(++n, true);
+        const QString raised = test::descriptionRaisedBy([&] { updateSchema(store, laterSchema()); });
+        wasHit = disk.operations() >= n;
+        EXPECT_EQ(raised, wasHit ? u"Disk full: "_s + file.text() : QString()) << n;
+        store.close();
+        disk.heal();
+        ASSERT_EQ(test::integrityOf(file), "ok") << n;
+        store.open(file);
+        EXPECT_EQ(backups(), QStringList{u"old"_s}) << n;
+        EXPECT_EQ(store.hasTable(u"NOTES"_s), store.hasColumn(u"MV_BACKUP"_s, u"BACKUP_NOTE"_s)) << n;
+        store.close();
+    }
+    EXPECT_GT(n, 4);
+    store.open(file);
+    execute(u"INSERT INTO MV_BACKUP(BACKUP_NOTE) VALUES ('new')"_s);
+    EXPECT_EQ(rowsOf(u"MV_BACKUP"_s), (QStringList{u"1|old|||0"_s, u"2|||new|0"_s}));
+    EXPECT_FALSE(store.hasTable(u"NOT_YET"_s)) << "a table of old is its upgrade's";
+    updateSchema(store); // by a program of before
+    updateSchema(store, laterSchema());
+    EXPECT_EQ(backups().size(), 2);
+}
+
 #ifndef Q_OS_WIN // the writer is a fork of the test
 /// A process is killed between any two steps of its writing: what it was told is stored is stored.
 TEST_F(StoreFailureTest, aKilledWriterLeavesAllItFinished) {

@@ -232,12 +232,8 @@ struct FirstRunTest : BackupTest {
                 writeFile(install.home() / u"Flights" / (name + ending), name.toUtf8());
         setFirstTime(u"True"_s);
     }
-    void setFirstTime(const QString& text) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime, text);
-    }
-    bool isDone() {
-        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime) == u"False";
-    }
+    void setFirstTime(const QString& text) { storeOwnValue(install.registry, firstTime, text); }
+    bool isDone() { return ownValue(install.registry, firstTime) == u"False"; }
     const QString firstTime = u"FirstTime"_s;
     FilePath keptSplash = install.home() / u"Media\\dlgsplash.bmp";
     FilePath flights = install.simulator() / u"Flights\\Morvane";

@@ -1,6 +1,6 @@
 #include "core/store.h"
 #include "simulator/base_install.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
 #include "support/failing_operations.h"
 #include "support/night_install.h"
 #include "support/printing.h"

@@ -25,9 +25,7 @@ struct FlightsTest : testing::Test {
     FilePath kept = install.simulator() / u"Flights\\Morvane";
     FilePath user = install.folder / u"Çhosen flights";
 
-    void storeUserFolder(const QString& path) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, "NonEnglishPath", path);
-    }
+    void storeUserFolder(const QString& path) { storeOwnValue(install.registry, "NonEnglishPath", path); }
     /// A flight of its folder's own contents in each of the files.
     void save(const FilePath& folder, const QStringList& names) {
         for (const QString& name : names)

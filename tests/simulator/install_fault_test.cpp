@@ -2,6 +2,7 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
+#include "sets/originals.h"
 #include "support/failing_operations.h"
 #include "support/faulty_store.h"
 #include "support/printing.h"
@@ -115,22 +116,44 @@ TEST_F(InstallFaults, everyFileOperationFailsOnceAndFromThenOn) {
 
 /// Whatever was replaced is kept, byte for byte, and comes back.
 TEST_F(InstallFaults, firstInstallKeepsThePilotsFilesWhateverFails) {
+    const auto restore = [this] {
+        Originals(install.files, install.session.FSPath, install.session.AppPath).restore();
+        EXPECT_EQ(contentsBelow(install.simulator()), pilots);
+    };
     int failures = 0;
-    for (const bool forever : {false, true})
-        for (int n = 1;; ++n, ++failures) {
-            SmallInstall fresh({{"GENERIC WORLD\\029h2su6.bmp", "UTIND\\034b2su4.bmp"}, 16});
-            fresh.addGroundSet("2-Á", "Overcast", true, dozenFiles);
-            const Contents own = contentsBelow(fresh.simulator());
-            fresh.session.state<GroundSelection>().SelectedGroundSet = "2-Á";
-            fresh.files.failAt(n, forever);
-            GroundInstallation(fresh.session).installTextureSet(true);
-            if (!fresh.files.hasFailed()) break;
-            fresh.files.failAt(0, false);
-            GroundInstallation(fresh.session).installTextureSet(true);
-            Originals(fresh.files, fresh.session.FSPath, fresh.session.AppPath).restore();
-            EXPECT_EQ(contentsBelow(fresh.simulator()), own) << n << forever;
-        }
+    for (const bool forever : {false, true}) {
+        restore();
+        failures += test::failEachOperation(
+            install.files, forever, [this] { put("2-Á"); },
+            [&](int n) {
+                SCOPED_TRACE(n);
+                put("2-Á");
+                restore();
+            });
+    }
     EXPECT_GT(failures, 100);
+}
+
+/// A kill leaves half a copy behind.
+TEST_F(InstallFaults, aKillAtAnyOperationLeavesWholeFilesAndNothingStray) {
+    put("2-Á");
+    int kills = 0;
+    for (bool wasKilled = true; wasKilled; ++kills) {
+        SCOPED_TRACE(kills + 1);
+        wasKilled = false;
+        install.files.killAt(kills + 1);
+        try {
+            put("3-B");
+        } catch (const test::Killed&) {
+            wasKilled = true;
+        }
+        install.files.failAt(0, false);
+        expectWholeTargets();
+        expectOriginals();
+        expectSoundStore();
+        recover();
+    }
+    EXPECT_GT(kills, 100);
 }
 
 TEST_F(InstallFaults, everyStoreWriteFailsOnceAndFromThenOn) {

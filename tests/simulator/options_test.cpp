@@ -23,12 +23,8 @@ struct OptionsTest : testing::Test {
     Session& session = install.session;
     test::ScriptedUser& user = install.user;
 
-    void store(const QString& name, const QString& text) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, text);
-    }
-    QString stored(const QString& name) {
-        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name);
-    }
+    void store(const QString& name, const QString& text) { storeOwnValue(install.registry, name, text); }
+    QString stored(const QString& name) { return ownValue(install.registry, name); }
 };
 
 TEST_F(OptionsTest, theSplashOptionTakesTwoWordsAndRepairsTheRest) {

@@ -34,9 +34,7 @@ struct SimulatorLaunchTest : testing::Test {
         install.files.copyContents(standIn, file);
         install.files.copyMode(standIn, file);
     }
-    void setRunner(const QString& command) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, "SimulatorRunner", command);
-    }
+    void setRunner(const QString& command) { storeOwnValue(install.registry, "SimulatorRunner", command); }
     void chooseFlight(const QString& name, bool isConfirmed) {
         install.user.onModal = [this, name, isConfirmed](Screen) {
             choice.SelectedFlightName = name;

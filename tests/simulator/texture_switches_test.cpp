@@ -3,10 +3,8 @@
 #include "ground/texture_sets.h"
 #include "night/night_texture_sets.h"
 #include "sets/options_in_force.h"
-#include "sets/originals.h"
-#include "simulator/configs.h"
+#include "simulator/options.h"
 #include "simulator/texture_switches.h"
-#include "support/failing_operations.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -45,6 +43,11 @@ struct TextureSwitches : testing::Test {
                              {u"Texture\\029b2su6.bmp"_s, u"Texture\\029H2SU6.bmp"_s,
                               u"Texture\\005a2su2.bmp"_s, u"Texture\\003b2su1.bmp"_s,
                               u"Dutch\\005a2su2.bmp"_s});
+    }
+    /// In force and in the store.
+    void expectOption(bool OptionsInForce::*flag, bool isOn) {
+        EXPECT_EQ(session.state<OptionsInForce>().*flag, isOn);
+        EXPECT_EQ(storedSwitch(session, flag), isOn);
     }
     void installDefaults() {
         session.rows<clsTextureSets>()->markInstalled(u"Default"_s);
@@ -104,13 +107,12 @@ TEST_F(TextureSwitches, eachReachesReadOnlyFilesAndTheStore) {
     const struct {
         bool (*change)(Session&, bool);
         bool OptionsInForce::*flag;
-        bool (clsConfigs::*stored)();
         FilePath file;
         QByteArray on, off;
     } cases[] = {
-        {switchDutch, &OptionsInForce::IsDutch, &clsConfigs::GetDutchVal, world / u"005A2SU2.BMP",
-         "body of DUTCH\\005a2su2.bmp", "body of GENERIC WORLD\\005a2su2.bmp"},
-        {switchTropical, &OptionsInForce::IsTropical, &clsConfigs::GetTropicalVal, world / u"029H2SU6.BMP",
+        {switchDutch, &OptionsInForce::IsDutch, world / u"005A2SU2.BMP", "body of DUTCH\\005a2su2.bmp",
+         "body of GENERIC WORLD\\005a2su2.bmp"},
+        {switchTropical, &OptionsInForce::IsTropical, world / u"029H2SU6.BMP",
          "body of GENERIC WORLD\\029b2su6.bmp", "body of GENERIC WORLD\\029h2su6.bmp"},
     };
     for (const auto& road : cases)
@@ -119,9 +121,7 @@ TEST_F(TextureSwitches, eachReachesReadOnlyFilesAndTheStore) {
             EXPECT_TRUE(road.change(session, isOn));
             EXPECT_EQ(readFile(road.file), isOn ? road.on : road.off);
             EXPECT_FALSE(install.files.isReadOnly(road.file));
-            clsConfigs configs(session);
-            EXPECT_TRUE(session.state<OptionsInForce>().*road.flag == isOn &&
-                        (configs.*road.stored)() == isOn);
+            expectOption(road.flag, isOn);
             EXPECT_EQ(install.user.messages.back().title, "File Copy");
         }
 }
@@ -135,21 +135,11 @@ TEST_F(TextureSwitches, aMissingTargetEndsTheList) {
     ASSERT_EQ(install.user.countOfKind(MessageKind::error), 1);
     EXPECT_TRUE(install.user.messages.back().text.startsWith(u"File not found: "_s));
     EXPECT_EQ(readFile(world / u"005A2LM2.BMP"), "the pilot's DUTCH NIGHT\\005a2lm2.bmp");
-    EXPECT_TRUE(session.state<OptionsInForce>().IsDutch && clsConfigs(session).GetDutchVal());
+    expectOption(&OptionsInForce::IsDutch, true);
     install.files.remove(world / u"029H2WI1.BMP");
     EXPECT_THROW(switchTropical(session, true), Error);
     EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "body of GENERIC WORLD\\029b2su6.bmp");
-    EXPECT_FALSE(session.state<OptionsInForce>().IsTropical || clsConfigs(session).GetTropicalVal());
-}
-
-TEST_F(TextureSwitches, tropicalGoesOnAndOff) {
-    installDefaults();
-    EXPECT_TRUE(switchTropical(session, true));
-    EXPECT_EQ(readFile(world / u"045H2SP1.BMP"), "body of GENERIC WORLD\\045B2sp1.bmp");
-    EXPECT_TRUE(session.state<OptionsInForce>().IsTropical && clsConfigs(session).GetTropicalVal());
-    EXPECT_TRUE(switchTropical(session, false));
-    EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "body of GENERIC WORLD\\029h2su6.bmp");
-    EXPECT_FALSE(session.state<OptionsInForce>().IsTropical || clsConfigs(session).GetTropicalVal());
+    expectOption(&OptionsInForce::IsTropical, false);
 }
 
 TEST_F(TextureSwitches, withoutGroundSetsNothingIsStored) {
@@ -161,8 +151,8 @@ TEST_F(TextureSwitches, withoutGroundSetsNothingIsStored) {
                   QStringList{u"Exclamation|No Texture Sets Installed|There are no texture sets installed.  "
                               "You must have at least one texture set installed to use this function."_s});
     }
-    EXPECT_FALSE(session.state<OptionsInForce>().IsDutch || session.state<OptionsInForce>().IsTropical ||
-                 clsConfigs(session).GetDutchVal());
+    for (const auto flag : {&OptionsInForce::IsDutch, &OptionsInForce::IsTropical})
+        expectOption(flag, false);
 }
 
 TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
@@ -174,10 +164,8 @@ TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
         switchHalo(session, isOn);
         switchFastExit(session, isOn);
         EXPECT_EQ(readFile(halo), isOn ? "ours" : "default");
-        EXPECT_EQ(clsConfigs(session).GetHaloVal(), isOn);
-        EXPECT_EQ(clsConfigs(session).GetFastExitVal(), isOn);
-        EXPECT_TRUE(session.state<OptionsInForce>().IsHalo == isOn &&
-                    session.state<OptionsInForce>().IsFastExit == isOn);
+        for (const auto flag : {&OptionsInForce::IsHalo, &OptionsInForce::IsFastExit})
+            expectOption(flag, isOn);
         const QStringList told = install.user.told();
         ASSERT_EQ(told.size(), 2);
         const QString copied = "Information|File Copied|The %1 halo file has been copied to flight simulator";
@@ -186,28 +174,6 @@ TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
     }
     install.files.remove(install.home() / u"Media\\halo.bmp");
     EXPECT_THROW(switchHalo(session, true), Error);
-}
-
-/// Whatever fails, each file of the simulator is the old one or the new one, and the old ones can be put
-/// back.
-TEST_F(TextureSwitches, everyFailingOperationOfTheDutchSwitchLeavesWholeFiles) {
-    installDefaults();
-    const auto before = test::contentsBelow(install.simulator());
-    switchDutch(session, true);
-    const auto switched = test::contentsBelow(install.simulator());
-    EXPECT_NE(switched, before);
-    const auto restore = [&] { Originals(install.files, session.FSPath, session.AppPath).restore(); };
-    restore();
-    const auto expectWholeFiles = [&](int n) {
-        const auto after = test::contentsBelow(install.simulator());
-        for (auto file = before.begin(); file != before.end(); ++file)
-            EXPECT_TRUE(after[file.key()] == *file || after[file.key()] == switched[file.key()])
-                << n << ' ' << file.key().toStdString();
-        restore();
-        EXPECT_EQ(test::contentsBelow(install.simulator()), before) << n;
-    };
-    const auto work = [&] { switchDutch(session, true); };
-    EXPECT_GT(test::failEachOperation(install.files, false, work, expectWholeFiles), 15);
 }
 
 } // namespace

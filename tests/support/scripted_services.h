@@ -54,6 +54,9 @@ public:
         return act(folder).list(folder, mask);
     }
     QStringList listFolders(const FilePath& folder) override { return act(folder).listFolders(folder); }
+    int namelessFiles(const FilePath& folder, const QString& ending) override {
+        return act(folder).namelessFiles(folder, ending);
+    }
     void makeFolder(const FilePath& folder) override { act(folder).makeFolder(folder); }
     void copyContents(const FilePath& source, const FilePath& target) override;
     void rename(const FilePath& source, const FilePath& target) override {

@@ -76,7 +76,6 @@ QByteArray makeStore() {
     addResourceRow(resources, u"DUTCH"_s, u"Dutch"_s, u"Scenery\\World\\texture"_s);
     RowSet switches(store, u"SELECT * FROM TEXTURE_SWITCH"_s);
     switches.addNew();
-    switches.setFlag(u"ISDUTCH", false);
     switches.update();
     RowSet sets(store, u"SELECT * FROM TEXTURE_SETS"_s);
     addSetRow(sets, u"Default"_s, u"Partly Cloudy"_s, true);

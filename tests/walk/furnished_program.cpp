@@ -8,6 +8,7 @@
 #include "simulator/texture_switches.h"
 #include "sky/sky_sets.h"
 #include "weather/directory_rows.h"
+#include "weather/reports.h"
 #include "weather/stored_reports.h"
 
 namespace morvane::test {

@@ -3,10 +3,10 @@
 #include "walk/walk_tables.h"
 #include "weather/cover_choice.h"
 #include "weather/decoded_lines.h"
+#include "weather/report_filter.h"
 #include "weather/screens/filter_choice.h"
 #include "weather/weather_refresh.h"
 #include "weather/weather_state.h"
-#include "weather/wx_filter.h"
 
 namespace morvane::test {
 
@@ -111,9 +111,7 @@ std::vector<WalkScreen> weatherScreens() {
         {"decoded_report",
          u"frm_metar"_s,
          dialog(Screen::frm_metar,
-                [](Session& session) {
-                    session.state<DecodedReportLines>().decodedMetarLines = QStringList{u"One"_s};
-                }),
+                [](Session& session) { session.state<DecodedReportLines>().decodedMetarLines = {u"One"_s}; }),
          true,
          {{u"btn_Ok"_s, closes([](Session&) { return true; }, true)},
           {u"(Enter)"_s, closes([](Session&) { return true; }, true)},

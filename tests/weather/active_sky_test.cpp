@@ -3,9 +3,9 @@
 #include "core/file_helpers.h"
 #include "support/printing.h"
 #include "support/small_install.h"
+#include "weather/reports.h"
 #include "weather/weather_refresh.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -107,7 +107,7 @@ TEST_F(ActiveSkyTest, isFoundStepByStep) {
         writeProgram(major, minor, build);
         EXPECT_EQ(found(), isSupported ? u"present supported"_s : u"present refused"_s) << major << build;
     }
-    EXPECT_EQ(FormatSystemTimeDate(session.state<WeatherState>().ASv6ExportDate), u"1900/01/01"_s);
+    EXPECT_EQ(session.state<WeatherState>().ASv6ExportDate.date(), QDate(1900, 1, 1));
     writeExport("EHAM", {14, 7});
     EXPECT_EQ(found(), u"present supported"_s);
     EXPECT_EQ(session.state<WeatherState>().ASv6ExportDate, QDateTime(QDate(2007, 10, 14), QTime(14, 7)));
@@ -130,7 +130,7 @@ TEST_F(ActiveSkyTest, itsFileGivesAllItsLinesAndTheCycleItsOwnTime) {
     for (const auto& [text, count] : cases) {
         writeExport(text, {14, 7});
         session.rows<clsWxFinders>() = std::make_unique<clsWxFinders>(session);
-        ASSERT_TRUE(session.rows<clsWxFinders>()->getMetarsFromASv6());
+        ASSERT_TRUE(clsWxFinderData(session).GetWeatherFromASv6());
         EXPECT_EQ(session.rows<clsWxFinders>()->Count(), count) << "no empty line, and the last one too";
     }
     const auto ksea = session.rows<clsWxFinders>()->GetKey(u"KSEA"_s);
@@ -143,7 +143,7 @@ TEST_F(ActiveSkyTest, itsFileGivesAllItsLinesAndTheCycleItsOwnTime) {
                            u"done 4 reports, the youngest of 13:53Z 14 May, 16 days old"_s}));
     install.files.remove(exported);
     const auto* before = session.rows<clsWxFinders>().get();
-    EXPECT_FALSE(session.rows<clsWxFinders>()->getMetarsFromASv6());
+    EXPECT_FALSE(clsWxFinderData(session).GetWeatherFromASv6());
     EXPECT_EQ(session.rows<clsWxFinders>().get(), before);
     ASSERT_EQ(user.told().size(), 1);
     EXPECT_TRUE(user.told()[0].startsWith(u"Exclamation|File Download Error!|File not found"_s));

@@ -4,6 +4,7 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/decoded_lines.h"
+#include "weather/metar_decoder.h"
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
@@ -18,13 +19,13 @@ struct WeatherControlTest : testing::Test {
         test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
         test::addStation(session, u"EHAM"_s, 1, 52.31, 4.76);
     }
-    void store(const clsWxFinder& report) {
-        ASSERT_TRUE(clsWxFinderData(session).insertDecodedMetar({report, {}, {}}));
+    QStringList lines() const {
+        const ReportLines& lines = session.state<DecodedReportLines>().decodedMetarLines;
+        return {lines.begin(), lines.end()};
     }
     QString reportOf(const QString& icao, const QString& latitude = {}, const QString& longitude = {}) {
-        QString metar = u"as it was"_s;
-        getMetar(session, icao, latitude, longitude, u"A City"_s, u"A Field"_s, metar);
-        return metar;
+        return getMetar(session, {icao, u"A Field"_s, u"A City"_s, {}, {}, latitude, longitude})
+            .value_or(u"none"_s);
     }
 
     test::SmallInstall install;
@@ -35,9 +36,8 @@ struct WeatherControlTest : testing::Test {
 TEST_F(WeatherControlTest, anAirportWithoutAReportReadsItsNeighboursAsItsOwn) {
     EXPECT_EQ(reportOf(u"ksea"_s), u"KSEA 010000Z 00000KT"_s);
     EXPECT_EQ(reportOf(u" KBFI "_s, u"47.53"_s, u"-122.30"_s), u"KBFI 010000Z 00000KT"_s);
-    EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.first(),
-              u"ICAO Code: KBFI, City: A City, Airport Name: A Field"_s);
-    EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.last(), u"KBFI 010000Z 00000KT"_s);
+    EXPECT_EQ(lines().first(), u"ICAO Code: KBFI, City: A City, Airport Name: A Field"_s);
+    EXPECT_EQ(lines().last(), u"KBFI 010000Z 00000KT"_s);
     EXPECT_EQ(reportOf(u"O'HA"_s, u"52"_s, u"5"_s), u"O'HA 010000Z 00000KT"_s);
 }
 
@@ -64,11 +64,11 @@ TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
     install.user.messages.clear();
     const QString told = u"Exclamation|Metar Error!|The METAR requested cannot be accessed at this time or "
                          u"is not available please try again later"_s;
-    store({}); // a line that was no report stands under an empty code
-    EXPECT_EQ(reportOf({}, u"47"_s, u"-122"_s), u"as it was"_s) << "an empty code is no station";
-    EXPECT_EQ(reportOf(u"KBFI"_s, u"north"_s, u"-122"_s), u"as it was"_s);
+    storeReport(session, {}); // a line that was no report stands under an empty code
+    EXPECT_EQ(reportOf({}, u"47"_s, u"-122"_s), u"none"_s) << "an empty code is no station";
+    EXPECT_EQ(reportOf(u"KBFI"_s, u"north"_s, u"-122"_s), u"none"_s);
     session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = '', METAR_LONG = ''"_s);
-    EXPECT_EQ(reportOf(u"KBFI"_s, u"47"_s, u"-122"_s), u"as it was"_s) << "nobody has a position";
+    EXPECT_EQ(reportOf(u"KBFI"_s, u"47"_s, u"-122"_s), u"none"_s) << "nobody has a position";
     EXPECT_FALSE(chooseAirport(session, {u"KBFI"_s, u"BOEING"_s, {}, {}, {}, u"47"_s, u"-122"_s}));
     EXPECT_EQ(install.user.told(), QStringList(4, told));
     EXPECT_EQ(weather.DepMetar, u"KSEA 010000Z 00000KT"_s);
@@ -78,35 +78,21 @@ TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
 // The lines, slips and all.
 
 TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
-    clsWxFinder full, empty;
+    clsWxFinder full = clsDecodeMetar(install.user)
+                           .decodeMetarString(u"LOWI 141453Z 24015G025KT 210V270 10SM -RA BR OVC030 18/M01 "
+                                              "A2992"_s),
+                empty;
     full.WxFinderMetar = u"LOWI 141453Z"_s;
-    full.WxFinderWindSpeed = u"015"_s;
-    full.WxFinderWindDirection = u"240 degrees"_s;
-    full.WxFinderWindGust = u"025"_s;
-    full.WxFinderWindVaryingFrom = u"210"_s;
-    full.WxFinderWindVaryingTo = u"270"_s;
-    full.WxFinderWindSpeedMeasurement = u"kts"_s;
-    full.WxFinderCloudCover = u"Overcast"_s;
-    full.WxFinderVisibility = u"10 Mile(s)"_s;
-    full.WxFinderWeatherStrength = u"Light "_s;
-    full.WxFinderWeather = u"Rain"_s;
-    full.WxFinderFog = u"Mist"_s;
-    full.WxFinderTemperature = u"18"_s;
-    full.WxFinderDewpoint = u"M01"_s;
-    full.WxFinderPressure = u"29.92 Inches of Mercury"_s;
-    full.WxFinderDate = u"14"_s;
     full.WxFinderMonth = u"June"_s;
     full.WxFinderYear = u"2006"_s;
-    full.WxFinderTime = u"1453"_s;
-    full.WxFinderIcao = empty.WxFinderIcao = u"LOWI"_s;
-    full.WxFinderWindGusting = full.WxFinderWindVarying = true;
+    empty.WxFinderIcao = u"LOWI"_s;
     empty.WxFinderMetar = u"LOWI NIL"_s;
     empty.WxFinderWeatherStrength = u"Moderate "_s; // of nothing
     const std::pair<clsWxFinder, QString> cases[] = {
         {full, u"Date: 14 June 2006 Time: 1453Z|Wind from: 240 degrees at 015kts, Gusting 025kts, Varying "
                "between 210 degrees and 270 degrees|Visibility: 10 Mile(s)|Precipitation: Light  "
                "Rain|Obscuration: Mist|Sky Conditions: Overcast|Temperature: 18 degree(s) Celcius|Dewpoint: "
-               "M01 degree(s) Celcius|Pressure: 29.92 Inches of Mercury|LOWI 141453Z"_s},
+               "Minus 01 degree(s) Celcius|Pressure: 29.92 Inches of Mercury|LOWI 141453Z"_s},
         // Month and year are the clock's.
         {empty, u"Date:  May 2007 Time: Z|Wind: No wind data avialable|Visibility: No visibility data "
                 "available|Precipitation: No precipitation type recorded|Obscuration: No obscuration "
@@ -114,9 +100,9 @@ TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
                 "data available|Dewpoint: No Dewpoint data available|Pressure: No Pressure data "
                 "available|LOWI NIL"_s}};
     for (const auto& [report, lines] : cases) {
-        store(report);
+        storeReport(session, report);
         reportOf(u"LOWI"_s);
-        EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines.sliced(1).join(u'|'), lines);
+        EXPECT_EQ(this->lines().sliced(1).join(u'|'), lines);
     }
     const struct {
         QString direction, speed;
@@ -134,9 +120,9 @@ TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
         full.WxFinderWindDirection = direction;
         full.WxFinderWindSpeed = speed;
         full.WxFinderWindGusting = isGusting;
-        store(full);
+        storeReport(session, full);
         reportOf(u"LOWI"_s);
-        EXPECT_EQ(session.state<DecodedReportLines>().decodedMetarLines[2], line);
+        EXPECT_EQ(lines()[2], line);
     }
 }
 

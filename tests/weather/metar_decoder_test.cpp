@@ -3,20 +3,58 @@
 #include "core/error.h"
 #include "support/printing.h"
 #include "support/scripted_user.h"
-#include "weather/decoded_fields.h"
 #include "weather/sample_reports.h"
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <random>
+
 namespace morvane {
 namespace {
 
-QStringList decoded(const QString& report) {
+/// Every property that is not empty, False or 0, as "WindSpeed=015", in the order of the class; but
+/// the strength, which ends in a blank, stands before the weather so that it seldom ends a line of a table.
+QStringList decodedFields(const clsWxFinder& report) {
+    const auto flag = [](bool value) { return value ? u"True"_s : QString(); };
+    const std::pair<QString, QString> properties[] = {
+        {u"MetarICAO"_s, report.WxFinderIcao},
+        {u"WindSpeedMeasurement"_s, report.WxFinderWindSpeedMeasurement},
+        {u"WindDirection"_s, report.WxFinderWindDirection},
+        {u"WindSpeed"_s, report.WxFinderWindSpeed},
+        {u"WindGusting"_s, flag(report.WxFinderWindGusting)},
+        {u"WindGust"_s, report.WxFinderWindGust},
+        {u"WindVarying"_s, flag(report.WxFinderWindVarying)},
+        {u"WindVaryingFrom"_s, report.WxFinderWindVaryingFrom},
+        {u"WindVaryingTo"_s, report.WxFinderWindVaryingTo},
+        {u"MetarDate"_s, report.WxFinderDate},
+        {u"MetarTime"_s, report.WxFinderTime},
+        {u"MetarMonth"_s, report.WxFinderMonth},
+        {u"MetarYear"_s, report.WxFinderYear},
+        {u"MetarVisiblity"_s, report.WxFinderVisibility},
+        {u"MetarVisibilityFormat"_s, report.WxFinderVisibilityFormat},
+        {u"MetarWeatherStrength"_s, report.WxFinderWeatherStrength},
+        {u"MetarWeather"_s, report.WxFinderWeather},
+        {u"MetarObscuration"_s, report.WxFinderFog},
+        {u"MetarCloud"_s, report.WxFinderCloudCover},
+        {u"MetarMaxCloud"_s,
+         report.WxFinderMaxCloud == 0 ? QString() : QString::number(report.WxFinderMaxCloud)},
+        {u"MetarTemp"_s, report.WxFinderTemperature},
+        {u"MetarDewpoint"_s, report.WxFinderDewpoint},
+        {u"MetarPressure"_s, report.WxFinderPressure},
+    };
+    QStringList fields;
+    for (const auto& [name, value] : properties)
+        if (!value.isEmpty()) fields << name + u'=' + value;
+    return fields;
+}
+
+/// No report is a reason for a message.
+clsWxFinder decodedReport(const QString& report) {
     test::ScriptedUser user;
-    clsDecodeMetar metar(user);
-    metar.decodeMetarString(report);
+    clsWxFinder decoded = clsDecodeMetar(user).decodeMetarString(report);
     EXPECT_TRUE(user.messages.empty()) << report.toStdString();
-    return test::decodedFields(metar);
+    return decoded;
 }
 
 /// Decodes the rows of a table beside this file: a text to put behind `station`, and all fields that it
@@ -29,7 +67,7 @@ int decodeTable(const QString& name, const QString& station, const QStringList& 
         if (line.startsWith(u'#')) heading = line;
         if (line.isEmpty() || line == heading) continue;
         const QStringList cells = line.split(u'\t');
-        const QStringList fields = decoded(station + cells[0]);
+        const QStringList fields = decodedFields(decodedReport(station + cells[0]));
         EXPECT_EQ(fields, stationFields + cells.mid(1)) << (heading + u'\n' + cells[0]).toStdString();
         ++rows;
     }
@@ -56,23 +94,7 @@ TEST(MetarDecoder, placeOfTheStation) {
          {u"MetarICAO=Q1012"_s, u"MetarTemp=18"_s, u"MetarDewpoint=11"_s, u"MetarPressure=1012 Millibars"_s}},
     };
     for (const auto& [report, fields] : cases)
-        EXPECT_EQ(decoded(report), fields);
-}
-
-TEST(MetarDecoder, datesAndCodes) {
-    test::ScriptedUser user;
-    clsDecodeMetar metar(user);
-    metar.decodeMetarDate(u"2007/03/12"_s);
-    EXPECT_EQ(test::decodedFields(metar), (QStringList{u"MetarMonth=March"_s, u"MetarYear=2007"_s}));
-    for (const char* date : {"2007-03-12", "2007/March/12"})
-        EXPECT_THROW(metar.decodeMetarDate(QString(date)), Error) << date;
-    QStringList months;
-    for (int month = -1; month <= 13; ++month)
-        months << clsDecodeMetar::getMonthName(month);
-    EXPECT_EQ(months.join(u','), u",,January,February,March,April,May,June,July,August,September,October,"
-                                 u"November,December,"_s);
-    EXPECT_EQ(clsDecodeMetar::decodeWeatherCode(u"Gr"), "Hail");
-    EXPECT_EQ(clsDecodeMetar::decodeObscurationCode(u"VA"), "Volcanic Ash");
+        EXPECT_EQ(decodedFields(decodedReport(report)), fields);
 }
 
 /// Fails in every pass.
@@ -94,14 +116,160 @@ private:
 
 TEST(MetarDecoder, everyPassTellsItsFailureAndTheNextRuns) {
     test::ScriptedUser user;
-    FailingDecoder metar(user);
-    metar.decodeMetarString(u"EGLL 141520Z 17005KT CAVOK 18/11 Q1018"_s);
+    const QString line = u"EGLL 141520Z 17005KT CAVOK 18/11 Q1018"_s;
+    const clsWxFinder report = FailingDecoder(user).decodeMetarString(line);
     QStringList expected;
     for (const char* pass : {"Wind", "DateTime", "Visibility", "Weather", "Obscuration", "CloudCover",
                              "TempDewpoint", "Pressure"})
         expected << u"Error|METAR Error|clsDecodeMetar, sub %1: Overflow"_s.arg(QLatin1String(pass));
     EXPECT_EQ(user.told(), expected);
-    EXPECT_EQ(test::decodedFields(metar), QStringList{u"MetarICAO=EGLL"_s});
+    EXPECT_EQ(decodedFields(report), QStringList{u"MetarICAO=EGLL"_s});
+}
+
+QRegularExpression whole(const QString& pattern) {
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
+}
+
+const std::pair<QString clsWxFinder::*, QRegularExpression> textShapes[] = {
+    {&clsWxFinder::WxFinderWindDirection, whole(u"|Variable|Calm|[0-9]+ degrees"_s)},
+    {&clsWxFinder::WxFinderWindSpeed, whole(u"[0-9]*"_s)},
+    {&clsWxFinder::WxFinderWindSpeedMeasurement, whole(u"|kts|mps"_s)},
+    {&clsWxFinder::WxFinderVisibilityFormat, whole(u"|km|mph|cavok"_s)},
+    {&clsWxFinder::WxFinderCloudCover,
+     whole(u"|(Sky Clear|Mostly Clear|Partly Cloudy|Mostly Cloudy|Overcast|Sky obscured|"
+           "No significant cloud below 5000 feet \\(CAVOK\\)|No Cloud Data Available)"
+           "(: Cumulonimbus observed)?(: Towering Cumulonimbus observed)?(: Cumulus observed)?"_s)},
+};
+
+/// Decodes any text, a report or not, and checks what always holds.
+QStringList decodedSoundly(const QString& report) {
+    SCOPED_TRACE(report.toStdString());
+    const clsWxFinder metar = decodedReport(report);
+    EXPECT_EQ(metar.WxFinderIcao, report.section(u' ', 0, 0));
+    for (const auto& [value, shape] : textShapes)
+        EXPECT_TRUE(shape.match(metar.*value).hasMatch()) << (metar.*value).toStdString();
+    EXPECT_EQ(metar.WxFinderWindVarying, metar.WxFinderWindVaryingFrom.size() == 3);
+    EXPECT_TRUE(metar.WxFinderDate.size() == 2 || metar.WxFinderTime.isEmpty());
+    EXPECT_EQ(metar.WxFinderCloudCover.isEmpty(), metar.WxFinderMaxCloud == 0);
+    EXPECT_EQ(metar.WxFinderVisibility.isEmpty(), metar.WxFinderVisibilityFormat.isEmpty());
+    return decodedFields(metar);
+}
+
+TEST(MetarSamples, allReportsDecodeWithoutAMessage) {
+    QMap<QString, int> set;
+    for (const QString& report : test::sampleReports())
+        for (const QString& field : decodedSoundly(report))
+            ++set[field.section(u'=', 0, 0)];
+    EXPECT_EQ(set[u"MetarICAO"_s], 2761);
+    EXPECT_EQ(set.size(), 21) << "every property but month and year is met in the samples";
+}
+
+/// One change to a text: a character replaced, removed, doubled, or the rest cut away.
+QString mutated(QString report, std::mt19937& random) {
+    static const QString alphabet = u"/ kKgGvVmMqQaAsSzZ0129-+\t\r\n\0é\u0130\u212A\U0001F327"_s;
+    const auto draw = [&random](qsizetype bound) {
+        return static_cast<qsizetype>(random() % static_cast<std::uint32_t>(bound));
+    };
+    if (report.isEmpty()) return alphabet;
+    const qsizetype place = draw(report.size());
+    switch (draw(4)) {
+    case 0:
+        return report.replace(place, 1, alphabet[draw(alphabet.size())]);
+    case 1:
+        return report.remove(place, 1 + draw(4));
+    case 2:
+        return report.insert(place, report.mid(draw(report.size()), 3));
+    default:
+        return report.left(place);
+    }
+}
+
+TEST(MetarSamples, changedReportsNeverBreakTheDecoder) {
+    std::mt19937 random(20111123);
+    for (QString report : test::sampleReports())
+        for (int change = 0; change < 12; ++change)
+            decodedSoundly(report = mutated(report, random));
+}
+
+TEST(MetarSamples, longLinesOfOneKind) {
+    for (const QString& unit : {u"/"_s, u"G"_s, u" "_s, u"RE"_s, u" 1"_s, u"24010KT "_s})
+        EXPECT_EQ(decodedReport(u"EGLL "_s + unit.repeated(100'000)).WxFinderIcao, u"EGLL");
+}
+
+// The weather service's own reading of the sample reports, compared in meaning wherever both sides say
+// something.
+
+using Ours = const clsWxFinder&;
+
+/// Compares a number of ours with the first group of the pattern in one column of the service's table.
+struct Comparison {
+    const char* figure;
+    int count; ///< reports in which both give the figure
+    int column;
+    QString pattern;
+    QString (*ours)(Ours);
+    double tolerance = 0;
+    QString setAside = {}; ///< how the reports begin that are read differently for a reason, joined by "|"
+};
+
+QString inKnots(Ours ours, const QString& speed) {
+    return ours.WxFinderWindSpeedMeasurement == u"kts" ? speed : QString();
+}
+QString signedDegrees(QString degrees) {
+    return degrees.replace(u"Minus "_s, u"-"_s);
+}
+QString pressureIn(Ours ours, QStringView unit) {
+    return ours.WxFinderPressure.endsWith(unit) ? ours.WxFinderPressure.section(u' ', 0, 0) : QString();
+}
+
+// A cloud group without a height, or a heading, stands where a temperature is looked for.
+const QString noTemperature =
+    u"FQTT 161200Z|KEKA 041600Z|LIBE 030905Z|RJNW 290700Z|SCBP 240300Z|TEDF 101600Z|WIND 090008KT"_s;
+// Groups that are not five characters; two pressures, of which the service takes the other.
+const QString otherPressure =
+    u"HLLS 091750Z|KQYQ 302055Z|MHTG 171200Z|OPPS 171055Z|SAST 121630Z|VILD 290700Z"_s;
+
+const Comparison comparisons[] = {
+    {"wind direction", 310, 3, u"\\((\\d+) degrees\\)"_s,
+     [](Ours ours) { return ours.WxFinderWindDirection.section(u' ', 0, 0); }, 0,
+     u"SVJP 151100KT"_s}, // its time
+    {"wind speed", 305, 3, u"at \\d+ MPH \\((\\d+) KT\\)"_s,
+     [](Ours ours) { return inKnots(ours, ours.WxFinderWindSpeed); }},
+    {"gust", 16, 3, u"to \\d+ MPH \\((\\d+) KT\\)"_s,
+     [](Ours ours) { return inKnots(ours, ours.WxFinderWindGust); }},
+    // Half a degree apart: the service takes tenths from the remarks where there are some.
+    {"temperature", 376, 8, u"\\((-?[\\d.]+) C\\)"_s,
+     [](Ours ours) { return signedDegrees(ours.WxFinderTemperature); }, 0.5, noTemperature},
+    {"dewpoint", 367, 11, u"\\((-?[\\d.]+) C\\)"_s,
+     [](Ours ours) { return signedDegrees(ours.WxFinderDewpoint); }, 0.5, noTemperature},
+    {"inches", 142, 13, u"^([\\d.]+) in. Hg"_s, [](Ours ours) { return pressureIn(ours, u"Mercury"); }, 0,
+     otherPressure},
+    {"millibars", 196, 13, u"\\((\\d+) hPa\\)"_s, [](Ours ours) { return pressureIn(ours, u"Millibars"); }, 0,
+     otherPressure},
+    {"cloud class", 304, 5, u"^([1-6])$"_s, [](Ours ours) { return QString::number(ours.WxFinderMaxCloud); }},
+};
+
+TEST(MetarService, readsEveryFigureLikeTheDecoder) {
+    const QStringList skies =
+        u"|clear|mostly clear|partly cloudy|mostly cloudy|overcast|obscured"_s.split(u'|');
+    std::map<std::string, int> made;
+    for (const QString& line : splitLines(test::dataText(u"metar/noaa_decoded.tsv"_s)).mid(1)) {
+        QStringList theirs = line.split(u'\t');
+        if (theirs.size() < 14) continue;
+        theirs[5] = QString::number(skies.indexOf(theirs[5]));
+        const clsWxFinder report = decodedReport(theirs[0]);
+        for (const Comparison& comparison : comparisons) {
+            const auto match = QRegularExpression(comparison.pattern).match(theirs[comparison.column]);
+            const QString ours = comparison.ours(report);
+            if (!match.hasMatch() || ours.isEmpty()) continue;
+            if (comparison.setAside.split(u'|').contains(theirs[0].section(u' ', 0, 1))) continue;
+            ++made[comparison.figure];
+            EXPECT_NEAR(ours.toDouble(), match.captured(1).toDouble(), comparison.tolerance)
+                << comparison.figure << " of " << theirs[0].toStdString();
+        }
+    }
+    for (const Comparison& comparison : comparisons)
+        EXPECT_EQ(made[comparison.figure], comparison.count) << comparison.figure;
 }
 
 } // namespace

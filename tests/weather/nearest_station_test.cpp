@@ -1,19 +1,13 @@
 #include "weather/nearest_station.h"
 
 #include "core/error.h"
-#include "core/numbers.h"
 #include "core/store.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/coordinates.h"
-#include "weather/sample_reports.h"
-#include "weather/station_list.h"
 #include "weather/stored_reports.h"
 
 #include <gtest/gtest.h>
-
-#include <cmath>
-#include <numbers>
 
 namespace morvane {
 namespace {
@@ -46,50 +40,11 @@ TEST(Coordinates, distances) {
     EXPECT_NEAR(getDistanceNM(0, 0, 0, 180), 10800.1, 0.1) << "antipodes: less than half way round";
 }
 
-/// The angle between two directions, by their dot product: another way to the same order of distances.
-double cosineBetween(double latitude1, double longitude1, double latitude2, double longitude2) {
-    const double radian = std::numbers::pi / 180;
-    return std::sin(latitude1 * radian) * std::sin(latitude2 * radian) +
-           std::cos(latitude1 * radian) * std::cos(latitude2 * radian) *
-               std::cos((longitude1 - longitude2) * radian);
-}
-
-TEST(NearestStation, isThatOfAPlainSearchOverTheStationList) {
-    test::SmallInstall install;
-    struct Place {
-        QString icao;
-        double latitude, longitude;
-    };
-    std::vector<Place> places;
-    const StationList list = parseStationList(test::dataText(u"stations/nsd_cccc.txt"_s));
-    for (auto station = list.begin(); station != list.end(); ++station)
-        if (!station->latitude.isEmpty() && !station->longitude.isEmpty())
-            places.push_back(
-                {station.key(), textToNumber(station->latitude), textToNumber(station->longitude)});
-    ASSERT_GT(places.size(), 3000u);
-    StoreTransaction transaction(*install.session.adoConn);
-    for (const auto& [icao, latitude, longitude] : places)
-        test::addStation(install.session, icao, 1, latitude, longitude);
-    transaction.commit();
-    const StationIndex stations(install.session);
-    for (int step = 0; step < 200; ++step) {
-        const double latitude = -85 + 0.85 * step, longitude = std::fmod(step * 37.7, 360) - 180;
-        const QString found = stations.closestTo(latitude, longitude);
-        double best = -2, ofFound = -2;
-        for (const Place& place : places) {
-            const double cosine = cosineBetween(latitude, longitude, place.latitude, place.longitude);
-            best = std::max(best, cosine);
-            if (place.icao == found) ofFound = cosine;
-        }
-        EXPECT_NEAR(ofFound, best, 1e-9) << found.toStdString() << " at " << latitude << ' ' << longitude;
-    }
-}
-
 TEST(NearestStation, whichRowsCount) {
     test::SmallInstall install;
     Session& session = install.session;
     const auto nearest = [&](const QString& latitude, const QString& longitude) {
-        return getClosestMetarStation(session, u"XXXX"_s, latitude, longitude);
+        return getClosestMetarStation(session, latitude, longitude);
     };
     test::addStation(session, u"NONE"_s, 3);
     EXPECT_EQ(nearest(u"10"_s, u"10"_s), "") << "no row has a position";

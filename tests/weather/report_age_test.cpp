@@ -3,8 +3,9 @@
 #include "core/registry.h"
 #include "support/printing.h"
 #include "support/small_install.h"
+#include "weather/report_rows.h"
+#include "weather/reports.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
 #include <gtest/gtest.h>
 
@@ -42,11 +43,11 @@ TEST(ReportAge, theLineCountsFromTheYoungestByWhatTheReportsSay) {
     Session& session = install.session;
     EXPECT_EQ(reportAgeText(session), "No reports yet");
     const auto add = [&](const QString& icao, const QString& day, const QString& time) {
-        DecodedMetarRow row;
-        row.report.WxFinderIcao = icao;
-        row.report.WxFinderDate = day;
-        row.report.WxFinderTime = time;
-        clsWxFinderData(session).insertDecodedMetar(row);
+        clsWxFinder report;
+        report.WxFinderIcao = icao;
+        report.WxFinderDate = day;
+        report.WxFinderTime = time;
+        storeReport(session, report);
         clsWxFinders::reload(session);
     };
     install.clock.now = utc(u"2026-11-21 03:04"_s);
@@ -72,7 +73,7 @@ TEST(ReportAge, theSourceIsTheOneThatIsSet) {
     test::SmallInstall install;
     Session& session = install.session;
     const auto setServer = [&](const QString& address) {
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"WeatherServer"_s, address);
+        storeOwnValue(install.registry, u"WeatherServer"_s, address);
         return reportSourceText(session);
     };
     EXPECT_EQ(setServer({}), "Source: no weather server is set");

@@ -1,8 +1,8 @@
 #include "weather/station_list.h"
 
-#include "core/literals.h"
+#include "core/error.h"
 #include "support/printing.h"
-#include "support/temporary_folder.h"
+#include "weather/airport_rows.h"
 
 #include <gtest/gtest.h>
 
@@ -40,6 +40,16 @@ TEST(StationList, takesPositionAndNumbersAndLivesWithMisprints) {
     EXPECT_EQ(told(u"AGGH"_s), u"-9.416667 160.05 5 91 520"_s);
     EXPECT_EQ(told(u"CWXX"_s), u" -79 4 0 0"_s);
     EXPECT_EQ(told(u"XLOS"_s), u"37.064444 1 0 1 234"_s);
+}
+
+TEST(AirportTable, formsOfText) {
+    EXPECT_TRUE(parseAirportTable(u"heading\n"_s).empty());
+    const auto rows = parseAirportTable(u"heading\r\nABCD\tName\t\tRegion\tLand\t1\t-2\t\r\n"_s);
+    ASSERT_EQ(rows.size(), 1u);
+    const auto& [code, name, city, region, country, latitude, longitude, elevation] = rows[0];
+    EXPECT_EQ((QStringList{code, name, city, region, country, latitude, longitude, elevation}.join(u'|')),
+              u"ABCD|Name||Region|Land|1|-2|"_s);
+    EXPECT_THROW(parseAirportTable(u"heading\nABCD\tName"_s), Error);
 }
 
 } // namespace

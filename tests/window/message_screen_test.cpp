@@ -1,7 +1,7 @@
 #include "support/window_program.h"
 
 #include "core/job.h"
-#include "simulator/configs.h"
+#include "simulator/options.h"
 #include "ui/controls/skinned_progress_bar.h"
 #include "weather/weather_state.h"
 #include "window/message_screen.h"
@@ -187,7 +187,7 @@ TEST_F(MessageScreenTest, storesTheWishForAFastExitAtOnce) {
         dialog.cancel();
     });
     program.user.showMessage(question);
-    EXPECT_TRUE(clsConfigs(program.session).GetFastExitVal()) << "clearing it writes nothing";
+    EXPECT_TRUE(storedSwitch(program.session, &OptionsInForce::IsFastExit)) << "clearing it writes nothing";
 }
 
 } // namespace

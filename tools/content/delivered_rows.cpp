@@ -78,7 +78,7 @@ void addConfigs(Store& store) {
 
 void addSwitches(Store& store) {
     RowSet table(store, u"SELECT * FROM TEXTURE_SWITCH"_s);
-    addRow(table, {{u"ISDUTCH", false}, {u"ISTROPICAL", false}, {u"ISHALO", false}, {u"ISFASTEXIT", false}});
+    addRow(table, {}); // all off
 }
 
 void addDefaultGroundSet(Store& store) {

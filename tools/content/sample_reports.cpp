@@ -1,9 +1,9 @@
 #include "sample_reports.h"
 
-#include "core/error.h"
 #include "core/text_decoding.h"
 #include "weather/cycle_lines.h"
-#include "weather/decoded_report.h"
+#include "weather/metar_decoder.h"
+#include "weather/report_rows.h"
 
 #include <QHash>
 
@@ -17,10 +17,7 @@ struct SampleCycle {
     QString cycle, month, year;
 };
 
-struct Position {
-    QString latitude, longitude;
-};
-using Positions = QHash<QString, Position>;
+using Positions = QHash<QString, StationPlace>;
 
 Positions positionsOf(const std::vector<AirportRow>& airports, const StationList& stations) {
     Positions positions;
@@ -32,25 +29,19 @@ Positions positionsOf(const std::vector<AirportRow>& airports, const StationList
     return positions;
 }
 
-DecodedMetarRow decodedRow(Session& session, const SampleCycle& cycle, const QString& line) {
-    clsDecodeMetar decoded(session.user);
-    decoded.decodeMetarString(line);
-    DecodedMetarRow row{toWxFinder(decoded, line), {}, {}};
-    row.report.WxFinderCycle = cycle.cycle;
-    row.report.WxFinderMonth = cycle.month;
-    row.report.WxFinderYear = cycle.year;
-    return row;
+clsWxFinder decodedReport(Session& session, const SampleCycle& cycle, const QString& line) {
+    clsWxFinder report = clsDecodeMetar(session.user).decodeMetarString(line);
+    report.WxFinderCycle = cycle.cycle;
+    report.WxFinderMonth = cycle.month;
+    report.WxFinderYear = cycle.year;
+    return report;
 }
 
 void addCycle(Session& session, const FilePath& data, const SampleCycle& cycle, const Positions& positions) {
-    clsWxFinderData rows(session);
     for (const QString& line : newestReports(splitLines(decodeText(session.files.read(data / cycle.file))))) {
         if (line.isEmpty()) continue;
-        DecodedMetarRow row = decodedRow(session, cycle, line);
-        const Position position = positions.value(row.report.WxFinderIcao);
-        row.latitude = position.latitude;
-        row.longitude = position.longitude;
-        if (!rows.insertDecodedMetar(row)) throw Error(ErrorCode::storeFailure, line);
+        const clsWxFinder report = decodedReport(session, cycle, line);
+        storeReport(session, report, positions.value(report.WxFinderIcao));
     }
 }
 

@@ -40,10 +40,10 @@ void addOwnSet(Session& session, const QString& name, const QString& colours, co
 }
 
 /// The table as the upgrade reads it; the names of its columns are the heading.
-QByteArray tableText(Store& store, const QString& table, const std::vector<ImportedColumn>& columns) {
+QByteArray tableText(Store& store, const QString& table) {
     QStringList heading{u"ID"_s};
-    for (const ImportedColumn& column : columns)
-        heading << QStringView(column.name).toString();
+    for (const SchemaColumn& column : shippedColumns(table))
+        heading << column.name;
     QString text = heading.join(u';') + u"\r\n"_s;
     for (RowSet rows(store, u"SELECT * FROM "_s + table); !rows.atEnd(); rows.next()) {
         QStringList fields;
@@ -56,9 +56,8 @@ QByteArray tableText(Store& store, const QString& table, const std::vector<Impor
 
 void writeImportFiles(Session& session) {
     Store& store = *session.adoConn;
-    session.files.write(airportFile(session), tableText(store, u"AIRPORTDATA"_s, airportColumns()));
-    session.files.write(decodedMetarFile(session),
-                        tableText(store, u"DECODED_METAR"_s, decodedMetarColumns()));
+    session.files.write(airportFile(session), tableText(store, u"AIRPORTDATA"_s));
+    session.files.write(decodedMetarFile(session), tableText(store, u"DECODED_METAR"_s));
 }
 
 void makeTablesOld(Store& store) {

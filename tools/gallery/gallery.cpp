@@ -1,5 +1,6 @@
 #include "gallery.h"
 
+#include "app/exit_flow.h"
 #include "core/session.h"
 #include "sets/set_removal.h"
 #include "simulator/backup_restore.h"
@@ -236,14 +237,7 @@ void Gallery::saveNight() {
 }
 
 void Gallery::saveMessages() {
-    const QString reset =
-        u"Morvane has detected that you have 'Mostly Cloudy' Ground Texture Set installed and 'Overcast' Sky "
-        "Texture Set installed. Please select the check button if you wish to reset Morvane textures to a "
-        "nominal "
-        "weather condition of Partly Cloudy before exiting."_s;
-    Message question{MessageKind::question, u"Reset MV Textures?"_s, reset, true, true};
-    question.offersFastExit = true;
-    saveMessage(u"message-exit-question"_s, question);
+    saveMessage(u"message-exit-question"_s, resetQuestion(u"Mostly Cloudy"_s, u"Overcast"_s));
     const std::pair<MessageKind, const char16_t*> kinds[] = {
         {MessageKind::information, u"message-information"},
         {MessageKind::exclamation, u"message-exclamation"},

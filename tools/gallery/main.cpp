@@ -13,7 +13,7 @@
 #include "simulator/flights.h"
 #include "ui/controls/paper_style.h"
 #include "ui/skin.h"
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 #include "window/window_user.h"
 
 #include <QApplication>

@@ -8,9 +8,9 @@
 #include "weather/decoded_lines.h"
 #include "weather/flight_plan.h"
 #include "weather/metar_decoder.h"
+#include "weather/reports.h"
 #include "weather/weather_refresh.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
 #include <QFileInfo>
 
@@ -18,15 +18,16 @@ namespace morvane {
 
 namespace {
 
-void describe(const clsDecodeMetar& report) {
+void describe(const clsWxFinder& report) {
     const std::pair<const char16_t*, QString> lines[] = {
-        {u"Station", report.MetarICAO},
-        {u"Wind", report.WindDirection + u' ' + report.WindSpeed + report.WindSpeedMeasurement},
-        {u"Visibility", report.MetarVisiblity},
-        {u"Weather", report.MetarWeatherStrength + report.MetarWeather},
-        {u"Sky", report.MetarCloud},
-        {u"Temperature", report.MetarTemp},
-        {u"Pressure", report.MetarPressure},
+        {u"Station", report.WxFinderIcao},
+        {u"Wind", report.WxFinderWindDirection + u' ' + report.WxFinderWindSpeed +
+                      report.WxFinderWindSpeedMeasurement},
+        {u"Visibility", report.WxFinderVisibility},
+        {u"Weather", report.WxFinderWeatherStrength + report.WxFinderWeather},
+        {u"Sky", report.WxFinderCloudCover},
+        {u"Temperature", report.WxFinderTemperature},
+        {u"Pressure", report.WxFinderPressure},
     };
     for (const auto& [name, value] : lines)
         if (!trimmedBlanks(value).isEmpty())
@@ -70,9 +71,7 @@ void say(const QString& text) {
 
 bool takeWeatherOfReport(Session& session, const QString& metar) {
     say(u"METAR: "_s + metar);
-    clsDecodeMetar report(session.user);
-    report.decodeMetarString(metar);
-    describe(report);
+    describe(clsDecodeMetar(session.user).decodeMetarString(metar));
     return processMetarString(session, metar);
 }
 

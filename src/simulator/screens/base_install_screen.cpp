@@ -3,7 +3,7 @@
 #include "core/failure_report.h"
 #include "core/session.h"
 #include "simulator/base_install.h"
-#include "simulator/configs.h"
+#include "simulator/base_install_rows.h"
 #include "simulator/stock_requests.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/picture_frame.h"
@@ -115,7 +115,7 @@ void frm_Config::format() {
 
 void frm_Config::showStock() {
     bool isImported = false;
-    reportFailures(session().user, {}, [&] { isImported = hasKeptStock(session()); });
+    reportFailures(session().user, morvaneError, [&] { isImported = hasKeptStock(session()); });
     lblStock_->setText(isImported ? u"New sets are made from my simulator's textures"_s
                                   : u"New sets are made from the delivered textures"_s);
     cmdUseDelivered_->setEnabled(isImported);

@@ -4,13 +4,13 @@
 #include "core/flights_folder.h"
 #include "core/session.h"
 #include "sets/options_in_force.h"
-#include "simulator/options.h"
-#include "simulator/texture_switches.h"
+#include "simulator/option_table.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/palette.h"
 #include "ui/controls/paper_style.h"
 
 #include <QCheckBox>
+#include <algorithm>
 
 namespace morvane {
 
@@ -18,84 +18,42 @@ namespace {
 
 constexpr int columns[] = {14, 306}, firstRow = 44, rowPitch = 115, deckTop = 388, pathWidth = 500;
 
-/// An option that cannot be refused.
-template <void (*set)(Session&, bool)>
-bool always(Session& session, bool isTicked) {
-    set(session, isTicked);
-    return true;
+/// Row by row, from the left.
+std::vector<const SimulatorOption*> optionsOfPage() {
+    std::vector<const SimulatorOption*> options;
+    for (const SimulatorOption& option : simulatorOptions())
+        options.push_back(&option);
+    std::ranges::sort(options, {}, &SimulatorOption::place);
+    return options;
+}
+
+QString text(const char16_t* characters) {
+    return QString::fromUtf16(characters);
 }
 
 } // namespace
 
-struct frm_Switcher::Option {
-    QString box, caption, label, text;
-    bool OptionsInForce::*flag;
-    bool (*take)(Session&, bool); ///< false: the box may not be ticked
-};
-
-/// Row by row, from the left.
-const std::vector<frm_Switcher::Option>& frm_Switcher::options() {
-    static const std::vector<Option> table{
-        {u"chkWideFS"_s, u"This PC is a WideClient"_s, u"lblWideClient"_s,
-         u"If you are a WideFS user and Morvane is installed on the WideClient PC then ensure the above "
-         "checkbox is selected to prevent Morvane from attempting to start FS9.  If this is a "
-         "WideServer/Stand Alone installation please remove the checkmark to allow Morvane to start FS9 when "
-         "required."_s,
-         &OptionsInForce::IsWideClient, always<setSideFSVal>},
-        {u"chkDutch"_s, u"Use Dutch rural textures"_s, u"lblDutch"_s,
-         u"Morvane now includes specially designed Dutch rural textures. These texures depict Dutch style "
-         "crops and rural areas over Europe.  Select the above checkbox to specify these Dutch textures as "
-         "your prefered rural textures for Europe.  This functionality can be reversed by removing the "
-         "checkmark from the checkbox."_s,
-         &OptionsInForce::IsDutch, switchDutch},
-        {u"chkNonTropical"_s, u"Use tropical dawn/dusk blending"_s, u"lblTropical"_s,
-         u"This controls whether custom tropical textures are installed.  If you wish to fly at night and "
-         "wish to have correctly aligned autogen over tropical regions you should select this option.  To "
-         "view custom tropical textures during the day you should uncheck this option."_s,
-         &OptionsInForce::IsTropical, switchTropical},
-        {u"chkHalo"_s, u"Use customized halo"_s, u"lblHalo"_s,
-         u"Select this option if you wish Morvane to install a custom halo.bmp.  This file will customize "
-         "the look of aircraft and airport lighting.  You can revert to the default halo.bmp at any time by "
-         "removing the checkmark from the above checkbox."_s,
-         &OptionsInForce::IsHalo, always<switchHalo>},
-        {u"chkFastExit"_s, u"FastExit Enabled"_s, u"lblFastExit"_s,
-         u"This controls whether the dialog screen asking whether you wish to install default texture sets "
-         u"on "
-         "exiting Morvane is shown.  Place a check in the above checkbox if you do not wish to see this "
-         "screen in the future.  This functionality can be reversed by removing the checkmark from the "
-         "checkbox."_s,
-         &OptionsInForce::IsFastExit, always<switchFastExit>},
-        {u"chkCustomSplash"_s, u"Inhibit FS splash"_s, u"lblInhibitFSSplash"_s,
-         u"This controls whether or not Morvane installs custom splash screens which indicate the cloud "
-         "cover of the currently installed texture set.  To inhibit this functionality place a check in the "
-         "above checkbox."_s,
-         &OptionsInForce::InhibitCustomSplash, always<setCustomSplashVal>},
-    };
-    return table;
-}
-
 frm_Switcher::frm_Switcher(Shell& shellOfPages)
     : PageForm(shellOfPages, u"frm_Switcher"_s, u"page_colour.bmp"_s, Paper::Title::compact) {
-    for (const Option& option : options())
-        addOption(option);
+    for (const SimulatorOption* option : optionsOfPage())
+        addOption(*option);
     addFlightsFolder();
 }
 
-void frm_Switcher::addOption(const Option& option) {
-    const int place = static_cast<int>(boxes_.size());
-    const int left = columns[place % 2], top = firstRow + place / 2 * rowPitch;
-    auto* box = new QCheckBox(option.caption, paper());
-    box->setObjectName(option.box);
-    box->setAccessibleName(option.caption);
-    box->setAccessibleDescription(option.text);
+void frm_Switcher::addOption(const SimulatorOption& option) {
+    const int left = columns[option.place % 2], top = firstRow + option.place / 2 * rowPitch;
+    auto* box = new QCheckBox(text(option.caption), paper());
+    box->setObjectName(text(option.box));
+    box->setAccessibleName(text(option.caption));
+    box->setAccessibleDescription(text(option.text));
     box->setFont(fontOf(TextRole::optionCaption));
     setCaptionOffset(*box, 23);
     box->setGeometry(left, top, 276, 18);
-    makeLabel(paper(), option.text, {left, top + 18, 276, 92}, TextRole::longHelp)
-        ->setObjectName(option.label);
+    makeLabel(paper(), text(option.text), {left, top + 18, 276, 92}, TextRole::longHelp)
+        ->setObjectName(text(option.label));
     if (top + rowPitch < deckTop) makeHair(paper(), {left, top + 110, 276, 1});
     connect(box, &QCheckBox::toggled, this, [this, &option](bool isTicked) { takeOption(option, isTicked); });
-    boxes_.push_back(box);
+    boxes_.emplace_back(&option, box);
 }
 
 void frm_Switcher::addFlightsFolder() {
@@ -122,8 +80,8 @@ void frm_Switcher::formatSwitcherScreen() {
 
 void frm_Switcher::loadSwitcherValues() {
     SwitcherPopulating = true;
-    for (std::size_t i = 0; i < boxes_.size(); ++i)
-        boxes_[i]->setChecked(session().state<OptionsInForce>().*options()[i].flag);
+    for (const auto& [option, box] : boxes_)
+        box->setChecked(session().state<OptionsInForce>().*option->flag);
     SwitcherPopulating = false;
     const bool isWideClient = session().state<OptionsInForce>().IsWideClient;
     lblFSFilesPath_->setVisible(!isWideClient);
@@ -136,11 +94,11 @@ void frm_Switcher::loadSwitcherValues() {
 }
 
 /// After a failure, and when another program writes, the boxes say what is in force.
-void frm_Switcher::takeOption(const Option& option, bool isTicked) {
+void frm_Switcher::takeOption(const SimulatorOption& option, bool isTicked) {
     if (SwitcherPopulating) return;
     bool isTaken = false;
     const bool isDone =
-        reportFailures(session().user, {}, [&] { isTaken = option.take(session(), isTicked); });
+        reportFailures(session().user, morvaneError, [&] { isTaken = option.set(session(), isTicked); });
     if (isDone && !isTaken)
         clearBox(option);
     else if (session().state<OptionsInForce>().*option.flag != isTicked)
@@ -148,9 +106,9 @@ void frm_Switcher::takeOption(const Option& option, bool isTicked) {
 }
 
 /// Clearing a box is a click like any other to its handler, so that its refusal is told twice: wanted.
-void frm_Switcher::clearBox(const Option& option) {
+void frm_Switcher::clearBox(const SimulatorOption& option) {
     session().StartingUp = true;
-    findChild<QCheckBox*>(option.box)->setChecked(false);
+    findChild<QCheckBox*>(text(option.box))->setChecked(false);
     session().StartingUp = false;
 }
 

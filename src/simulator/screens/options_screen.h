@@ -6,6 +6,8 @@ class QCheckBox;
 
 namespace morvane {
 
+struct SimulatorOption;
+
 /// The options. Each box takes effect when it is clicked; there is nothing to confirm.
 class frm_Switcher : public PageForm {
     Q_OBJECT
@@ -16,19 +18,16 @@ public:
     void refresh() override { loadSwitcherValues(); }
 
 private:
-    struct Option;
-    static const std::vector<Option>& options();
-
-    void addOption(const Option& option);
+    void addOption(const SimulatorOption& option);
     void addFlightsFolder();
     void formatSwitcherScreen();
     /// Shows the flags and the flights' folder, without any effect and without a question.
     void loadSwitcherValues();
-    void takeOption(const Option& option, bool isTicked);
-    void clearBox(const Option& option);
+    void takeOption(const SimulatorOption& option, bool isTicked);
+    void clearBox(const SimulatorOption& option);
 
     bool SwitcherPopulating = false; ///< the boxes are filled: their clicks do nothing
-    std::vector<QCheckBox*> boxes_;  ///< as `options()`
+    std::vector<std::pair<const SimulatorOption*, QCheckBox*>> boxes_;
     QLabel *lblFSFilesPath_, *lblFSFilesPathVal_;
 };
 

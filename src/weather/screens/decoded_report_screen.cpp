@@ -2,8 +2,6 @@
 
 #include "core/session.h"
 #include "ui/controls/labels.h"
-#include "weather/decoded_lines.h"
-
 #include <QVBoxLayout>
 
 namespace morvane {
@@ -41,9 +39,9 @@ frm_metar::frm_metar(Shell& shell)
 }
 
 void frm_metar::prepare() {
-    const QStringList& lines = session().state<DecodedReportLines>().decodedMetarLines;
-    for (qsizetype index = 0; QLabel * label : lblDecodedMetar_)
-        label->setText(lines.value(index++));
+    const ReportLines& lines = session().state<DecodedReportLines>().decodedMetarLines;
+    for (std::size_t index = 0; index < lines.size(); ++index)
+        lblDecodedMetar_[index]->setText(lines[index]);
 }
 
 } // namespace morvane

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "ui/dialog_form.h"
+#include "weather/decoded_lines.h"
 
 #include <QLabel>
-#include <array>
 
 namespace morvane {
 
@@ -18,7 +18,7 @@ protected:
     void confirm() override {}
 
 private:
-    std::array<QLabel*, 11> lblDecodedMetar_;
+    std::array<QLabel*, reportLineCount> lblDecodedMetar_;
 };
 
 } // namespace morvane

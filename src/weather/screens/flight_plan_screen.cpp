@@ -90,7 +90,7 @@ void frm_FlightPlan::prepare() {
     clearPlan();
     lvwFPList_->clearRows();
     QStringList names;
-    reportFailures(session().user, {}, [&] {
+    reportFailures(session().user, morvaneError, [&] {
         folder_ = userFlightsFolder(session());
         names = flightPlanNames(session(), folder_);
     });
@@ -128,7 +128,7 @@ void frm_FlightPlan::openPlan() {
     clearPlan();
     openPlan_ = selected;
     setEnabled(false); // a click meanwhile would open a plan inside this one
-    reportFailures(session().user, {}, [&] { readFlightPlan(selected); });
+    reportFailures(session().user, morvaneError, [&] { readFlightPlan(selected); });
     setEnabled(true);
     lvwFPList_->setFocus();
     allowOk(lvwFlightPlan_->rowCount() > 0);

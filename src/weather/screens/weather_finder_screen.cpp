@@ -4,8 +4,8 @@
 #include "core/session.h"
 #include "ui/controls/labels.h"
 #include "ui/count_edit.h"
+#include "weather/report_filter.h"
 #include "weather/screens/report_list.h"
-#include "weather/wx_filter.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>

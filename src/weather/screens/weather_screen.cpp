@@ -171,7 +171,7 @@ void frm_WxControl::format() {
     paper()->setTitle(u"icon_WxFinder.bmp"_s, u"Weather Control Settings Page"_s);
     if (!isLoaded_) {
         isLoaded_ = true;
-        reportFailures(session().user, {}, [this] { fillLists({}); });
+        reportFailures(session().user, morvaneError, [this] { fillLists({}); });
         lblAirportCount_->setText(u"Search Not Initiated Yet"_s); // no airport is listed before a search
     }
     refresh();
@@ -204,7 +204,7 @@ void frm_WxControl::search(SearchBox box, const QLineEdit& edit) {
 }
 
 void frm_WxControl::ClearFilter() {
-    reportFailures(session().user, {}, [this] {
+    reportFailures(session().user, morvaneError, [this] {
         fillLists(session().state<WeatherState>().AirportQueryWhere);
         fillAirports({});
         button(u"btn_ClearFilter"_s)->setState(ButtonState::disabled);
@@ -214,7 +214,7 @@ void frm_WxControl::ClearFilter() {
 /// The lists behind the one that was clicked show what is left for them, or everything again when nothing
 /// narrows them.
 void frm_WxControl::applyFilter(FilterList list) {
-    reportFailures(session().user, {}, [this, list] {
+    reportFailures(session().user, morvaneError, [this, list] {
         button(u"btn_ClearFilter"_s)->setState(ButtonState::enabled);
         AirportFilter filter{cboCountry_->value(), {}, {}};
         const auto where = [&] {

@@ -2,8 +2,8 @@
 #include "core/registry.h"
 #include "core/row_set.h"
 #include "core/store.h"
-#include "sets/options_in_force.h"
 #include "simulator/backup_restore.h"
+#include "simulator/option_table.h"
 #include "support/printing.h"
 #include "support/window_program.h"
 #include "ui/controls/set_table.h"
@@ -39,12 +39,9 @@ struct OptionsScreens : testing::Test {
 
 TEST_F(OptionsScreens, openingThePageCopiesNothingAndAsksNothing) {
     const auto before = contentsBelow(program.install.folder.path());
-    bool OptionsInForce::*const flags[] = {&OptionsInForce::IsWideClient,        &OptionsInForce::IsDutch,
-                                           &OptionsInForce::IsTropical,          &OptionsInForce::IsHalo,
-                                           &OptionsInForce::InhibitCustomSplash, &OptionsInForce::IsFastExit};
     for (const bool isSet : {true, false}) {
-        for (const auto flag : flags)
-            session.state<OptionsInForce>().*flag = isSet;
+        for (const SimulatorOption& option : simulatorOptions())
+            session.state<OptionsInForce>().*option.flag = isSet;
         const QStringList titles = program.toldDuring([&] { program.shell.goToPage(u"frm_Switcher"_s); });
         EXPECT_TRUE(titles.isEmpty()) << titles.join(u'|').toStdString();
         for (const auto* option : program.shell.form(u"frm_Switcher"_s)->findChildren<QCheckBox*>())
@@ -54,8 +51,7 @@ TEST_F(OptionsScreens, openingThePageCopiesNothingAndAsksNothing) {
 }
 
 TEST_F(OptionsScreens, theFlightsFolderIsShownUnlessThisIsAWideClient) {
-    program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s,
-                                          u"/gone/Flüge"_s);
+    storeOwnValue(program.install.registry, u"NonEnglishPath"_s, u"/gone/Flüge"_s);
     program.shell.goToPage(u"frm_Switcher"_s);
     EXPECT_EQ(program.text(u"frm_Switcher"_s, u"lblFSFilesPathVal"_s), u"/gone/Flüge"_s);
     for (const bool isClient : {true, false}) {
@@ -140,7 +136,7 @@ TEST_F(OptionsScreens, aBackupIsChosenBeforeOkAndAPartialOneIsMarked) {
 
 TEST_F(OptionsScreens, theFolderBrowserOpensInTheFolderShown) {
     const QString shown = program.install.home().native();
-    session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s, shown);
+    storeOwnValue(session.registry, u"NonEnglishPath"_s, shown);
     program.shell.goToPage(u"frm_Switcher"_s);
     QTimer timer;
     QString opened;

@@ -2,9 +2,9 @@
 #include "support/printing.h"
 #include "support/window_program.h"
 #include "weather/airport_report.h"
+#include "weather/reports.h"
 #include "weather/weather_refresh.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ struct CycleToScreen : testing::Test {
         const std::pair<QString, QString> values[] = {{u"WeatherServer"_s, server.address()},
                                                       {u"WeatherFormat"_s, u"noaa"_s}};
         for (const auto& [name, text] : values)
-            program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, text);
+            storeOwnValue(program.install.registry, name, text);
         session.state<WeatherState>().InhibitWeatherReports = false;
     }
     /// The texts of the screen but for its first, joined by "|".
@@ -30,8 +30,7 @@ struct CycleToScreen : testing::Test {
                 lines << program.text(u"frm_metar"_s, u"lblDecodedMetar_%1"_s.arg(index));
             form.ok();
         });
-        QString metar;
-        EXPECT_TRUE(getMetar(session, icao, {}, {}, {}, {}, metar));
+        EXPECT_TRUE(getMetar(session, {icao, {}, {}, {}, {}, {}, {}}));
         return lines.join(u'|');
     }
 

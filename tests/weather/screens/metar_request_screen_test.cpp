@@ -1,7 +1,8 @@
 #include "loopback_server.h"
 #include "support/printing.h"
 #include "support/window_program.h"
-#include "weather/wx_finders.h"
+#include "weather/report_rows.h"
+#include "weather/reports.h"
 #include "window/splash_screen.h"
 
 #include <QLabel>
@@ -21,8 +22,7 @@ struct MetarRequestTest : testing::Test {
 };
 
 TEST_F(MetarRequestTest, yesFetchesAndNoDoesNot) {
-    program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"WeatherServer"_s,
-                                          server.address());
+    storeOwnValue(program.install.registry, u"WeatherServer"_s, server.address());
     pressRefresh(); // nothing is loaded, so nothing is asked
     EXPECT_EQ(server.requests(), 1);
     EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 2);
@@ -42,9 +42,9 @@ TEST_F(MetarRequestTest, aStartShowsTheTableOnTheSplash) {
     splash.showStep(u"before"_s, 1);
     EXPECT_TRUE(clsWxFinders::reload(session));
     EXPECT_EQ(text.text(), u"before"_s) << "an empty table is passed over";
-    DecodedMetarRow row;
-    row.report.WxFinderIcao = u"KSEA"_s;
-    clsWxFinderData(session).insertDecodedMetar(row);
+    clsWxFinder report;
+    report.WxFinderIcao = u"KSEA"_s;
+    storeReport(session, report);
     EXPECT_TRUE(clsWxFinders::reload(session));
     EXPECT_EQ(text.text(), u"Loading Metars from Database. Please Wait............."_s);
     EXPECT_FALSE(program.user.isMessageVisible());

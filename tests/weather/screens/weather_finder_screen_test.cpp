@@ -1,10 +1,10 @@
 #include "core/store.h"
 #include "support/printing.h"
 #include "support/window_program.h"
+#include "weather/report_filter.h"
 #include "weather/screens/report_list.h"
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
-#include "weather/wx_filter.h"
 
 #include <QCheckBox>
 #include <QComboBox>

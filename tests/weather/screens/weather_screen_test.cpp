@@ -2,6 +2,7 @@
 #include "support/window_program.h"
 #include "ui/controls/foot_line.h"
 #include "weather/directory_rows.h"
+#include "weather/reports.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/filter_choice.h"
 #include "weather/screens/link_label.h"

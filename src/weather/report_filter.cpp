@@ -1,4 +1,4 @@
-#include "weather/wx_filter.h"
+#include "weather/report_filter.h"
 
 #include "core/failure_report.h"
 #include "core/session.h"

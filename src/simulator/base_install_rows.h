@@ -24,28 +24,17 @@ inline const QString& nameOf(const clsConfig& record) {
     return record.ConfigName;
 }
 
-/// The rows of `MV_CONFIG`, and the four switches of `TEXTURE_SWITCH`. Operations that reach the store give
-/// false after the message of a failure; so does a switch that cannot be read.
+/// The rows of `MV_CONFIG`: the bodies of files of the base install. Operations that reach the store give
+/// false after the message of a failure.
 class clsConfigs : public KeyedCollection<clsConfig> {
 public:
     explicit clsConfigs(Session& session) : session_(session) {}
     /// A fresh, loaded collection in the session's rows.
     static bool reload(Session& session);
 
-    const KeyedCollection<clsConfig>& GetConfig() const { return *this; }
-    std::int16_t findIndex(double number) const { return findNumber(number); }
     bool getConfigs();
     /// Rows are only ever changed, found by their title; none is added.
     bool UpdateConfig(const clsConfig& record);
-
-    bool UpdateDutch(bool value);
-    bool GetDutchVal();
-    bool UpdateTropical(bool value);
-    bool GetTropicalVal();
-    bool UpdateHalo(bool value);
-    bool GetHaloVal();
-    bool UpdateFastExit(bool value);
-    bool GetFastExitVal();
 
 private:
     Session& session_;
@@ -59,19 +48,7 @@ public:
     bool getConfigData();
     bool Save(const clsConfig& record);
 
-    bool UpdateDutchConfig(bool value);
-    bool GetDutchVal();
-    bool UpdateTropicalConfig(bool value);
-    bool GetTropicalVal();
-    bool UpdateHaloConfig(bool value);
-    bool GetHaloVal();
-    bool UpdateFastExitConfig(bool value);
-    bool GetFastExitVal();
-
 private:
-    bool readSwitch(const QString& column);
-    bool writeSwitch(const QString& column, bool value);
-
     Session& session_;
 };
 

@@ -1,10 +1,10 @@
-#include "weather/wx_filter.h"
+#include "weather/report_filter.h"
 
 #include "core/session.h"
 #include "core/store.h"
 #include "support/printing.h"
 #include "support/small_install.h"
-#include "weather/stored_reports.h"
+#include "weather/report_rows.h"
 #include "weather/weather_state.h"
 
 #include <gtest/gtest.h>
@@ -22,14 +22,14 @@ struct WxFilterTest : testing::Test {
               u"KSEA|Heavy |Snow Grains|Fog|Mostly Cloudy: Towering Cumulonimbus observed"_s,
               u"LSZH|||Haze|Partly Cloudy"_s}) {
             const QStringList fields = line.split(u'|');
-            DecodedMetarRow row;
-            row.report.WxFinderIcao = fields[0];
-            row.report.WxFinderMetar = fields[0] + u" 241225Z"_s;
-            row.report.WxFinderWeatherStrength = fields[1];
-            row.report.WxFinderWeather = fields[2];
-            row.report.WxFinderFog = fields[3];
-            row.report.WxFinderCloudCover = fields[4];
-            clsWxFinderData(session).insertDecodedMetar(row);
+            clsWxFinder report;
+            report.WxFinderIcao = fields[0];
+            report.WxFinderMetar = fields[0] + u" 241225Z"_s;
+            report.WxFinderWeatherStrength = fields[1];
+            report.WxFinderWeather = fields[2];
+            report.WxFinderFog = fields[3];
+            report.WxFinderCloudCover = fields[4];
+            storeReport(session, report);
         }
     }
     /// The first letter of each station found.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "weather/wx_finders.h"
+#include "weather/reports.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-// Where a cycle's lines come from, and how they reach the table.
+#include "weather/reports.h"
 
 #include "core/failure_report.h"
 #include "core/file_helpers.h"
@@ -9,21 +9,30 @@
 #include "weather/cycle_contents.h"
 #include "weather/cycle_download.h"
 #include "weather/cycle_progress.h"
-#include "weather/decoded_report.h"
+#include "weather/metar_decoder.h"
 #include "weather/report_age.h"
+#include "weather/report_rows.h"
 #include "weather/weather_endpoint.h"
 #include "weather/weather_state.h"
-#include "weather/wx_finders.h"
 
+#include <QLocale>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace morvane {
 
+/// Date and hour of a cycle, and the year that its rows get.
+struct CycleMoment {
+    QDate day;
+    std::int16_t hour;
+    QString year;
+};
+
 namespace {
 
 const FailureReport loadFailure{u"File Download Error!"_s, MessageKind::exclamation};
+const FailureReport rowFailure{u"Metar Decode Error!"_s, MessageKind::exclamation};
 
 /// The store itself waits a quarter of a second at each: two seconds in all.
 constexpr int triesToWrite = 8;
@@ -43,6 +52,20 @@ void takeCycle(WeatherState& weather, const CycleMoment& cycle) {
     weather.MetarCycleDay = toInteger(cycle.day.day());
     weather.MetarCycleMonth = toInteger(cycle.day.month());
     weather.MetarCycleYear = toInteger(cycle.day.year());
+}
+
+/// 1 to 12 for an English month's name; 0 for anything else.
+std::int16_t monthNumber(const QString& name) {
+    const QString wanted = trimmedBlanks(name);
+    for (std::int16_t month = 1; month <= 12; ++month)
+        if (QLocale::c().monthName(month) == wanted) return month;
+    return 0;
+}
+
+/// A row that the table does not take costs that row; a store that cannot be written any more would cost a
+/// message a row.
+bool endsTheLoad(ErrorCode code) {
+    return code == ErrorCode::diskFull || code == ErrorCode::ioFailure || code == ErrorCode::permissionDenied;
 }
 
 /// The lines of a cycle file, packed or not.
@@ -68,6 +91,50 @@ std::optional<StoreTransaction> transactionOfLoad(Session& session) {
 }
 
 } // namespace
+
+bool clsWxFinders::reload(Session& session) {
+    return reloadCollection(session, session.rows<clsWxFinders>(), &clsWxFinders::getMetarsFromDB);
+}
+
+bool clsWxFinders::getMetarsFromDB() {
+    return clsWxFinderData(session_).GetWeatherFromDb();
+}
+
+bool clsWxFinderData::GetWeatherFromDb() {
+    const FailureReport report{u"Metar Database Error!"_s, MessageKind::exclamation};
+    return reportFailures(session_.user, report, [&] {
+        clsWxFinders& finders = required(session_.rows<clsWxFinders>());
+        const QString presentYear = QString::number(session_.clock.localTime().date().year());
+        RowSet rows(connectedStore(session_), u"SELECT * FROM DECODED_METAR ORDER BY METAR_ICAO"_s);
+        // While the program starts the bar is the splash's, which stays silent about an empty table.
+        const QString text = session_.StartingUp ? u"Loading Metars from Database. Please Wait............."_s
+                                                 : u"Morvane is loading the Metar cycle from from the "
+                                                   "database.  Please wait....."_s;
+        if (!session_.StartingUp) showProgress(text);
+        CycleProgress progress(session_.user, text, 100.0 / (rows.count() + 2));
+        if (!rows.atEnd()) session_.state<WeatherState>().MetarDataLoaded = true;
+        for (; !rows.atEnd(); rows.next(), progress.advance()) {
+            clsWxFinder finder = reportOf(rows);
+            // Rows of a server's cycle have no year.
+            if (trimmedBlanks(finder.WxFinderYear).isEmpty()) finder.WxFinderYear = presentYear;
+            if (trimmedBlanks(finder.WxFinderIcao) == u"KSEA") takeCycleOf(finder);
+            finders.AddItem(std::move(finder));
+        }
+        if (!session_.StartingUp) session_.user.hideMessage();
+    });
+}
+
+/// Wanted: one fixed station tells a session that was started from the stored table which cycle it holds,
+/// and without its row there is none.
+void clsWxFinderData::takeCycleOf(const clsWxFinder& reference) {
+    WeatherState& weather = session_.state<WeatherState>();
+    if (weather.MetarCycleDay != 0) return;
+    // A report without a date leaves the cycle unknown.
+    weather.MetarCycleDay = trimmedBlanks(reference.WxFinderDate).toShort();
+    weather.MetarCycleMonth = monthNumber(reference.WxFinderMonth);
+    weather.MetarCycleYear = trimmedBlanks(reference.WxFinderYear).toShort();
+    weather.MetarCycleHour = trimmedBlanks(reference.WxFinderCycle).toShort();
+}
 
 void clsWxFinderData::showProgress(const QString& text, bool withCancel) const {
     Message message{MessageKind::progress, u"Morvane Information"_s, text, false, withCancel, true};
@@ -175,20 +242,27 @@ bool clsWxFinderData::takeReports(const QStringList& lines, const CycleMoment& c
 /// name stay, however old they are: wanted, nothing is aged out.
 void clsWxFinderData::storeReports(const QStringList& lines, const CycleMoment& cycle, double step) {
     // Wanted: the month is today's, even where a report's day belongs to the last one.
-    const QString month = clsDecodeMetar::getMonthName(session_.clock.localTime().date().month());
+    const QString month = QLocale::c().monthName(session_.clock.localTime().date().month());
     CycleProgress progress(session_.user, {}, step);
     auto transaction = transactionOfLoad(session_);
     for (const QString& line : lines) {
-        clsDecodeMetar decoded(session_.user);
-        decoded.decodeMetarString(line);
-        DecodedMetarRow row{toWxFinder(decoded, line)};
-        row.report.WxFinderCycle = QString::number(cycle.hour);
-        row.report.WxFinderMonth = month;
-        row.report.WxFinderYear = cycle.year;
-        storeReport(row);
+        clsWxFinder report = clsDecodeMetar(session_.user).decodeMetarString(line);
+        report.WxFinderCycle = QString::number(cycle.hour);
+        report.WxFinderMonth = month;
+        report.WxFinderYear = cycle.year;
+        storeOrTell(report);
         progress.advance();
     }
     transaction->commit();
+}
+
+void clsWxFinderData::storeOrTell(const clsWxFinder& report) {
+    try {
+        storeReport(session_, report);
+    } catch (const Error& error) {
+        if (endsTheLoad(error.code())) throw;
+        showFailure(session_.user, rowFailure, error.description());
+    }
 }
 
 } // namespace morvane

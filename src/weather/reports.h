@@ -1,0 +1,64 @@
+#pragma once
+
+#include "core/keyed_collection.h"
+#include "weather/cycle_lines.h"
+#include "weather/weather_report.h"
+
+namespace morvane {
+
+struct CycleMoment;
+class FilePath;
+class Session;
+struct WeatherEndpoint;
+
+/// The whole of `DECODED_METAR` in memory, in the order of the station codes.
+class clsWxFinders : public KeyedCollection<clsWxFinder> {
+public:
+    explicit clsWxFinders(Session& session) : session_(session) {}
+    /// A fresh, loaded collection in the session's rows.
+    static bool reload(Session& session);
+
+    /// False after the message of a failure; the collection then holds what was read so far.
+    bool getMetarsFromDB();
+
+private:
+    Session& session_;
+};
+
+/// The loads. They fill the session's collection, and each is false after a cancel or the message of a
+/// failure.
+class clsWxFinderData {
+public:
+    /// For `picture` see Message.
+    explicit clsWxFinderData(Session& session, const QString& picture = {})
+        : session_(session), picture_(picture) {}
+
+    /// Adds every row of the table to the collection; a session that knows no cycle yet takes its fields from
+    /// the row of KSEA.
+    bool GetWeatherFromDb();
+    // A load ends with the line that tells number and age of the reports. One that fails leaves the
+    // collection in memory as it was; a store that another program writes is waited for, two seconds.
+    /// Fetches the last hour's cycle file into "\\METAR", stores its reports and reloads the collection.
+    bool GetWeatherFromNOAA();
+    /// Stores the reports of Active Sky's export file and reloads the collection.
+    bool GetWeatherFromASv6();
+    /// The same two with a file that is there already: a cycle file of that form as of this hour, an export
+    /// file as of its own time.
+    bool importCycleFile(const FilePath& file, CycleForm form);
+    bool importExportFile(const FilePath& file);
+
+private:
+    bool downloadCycle(const WeatherEndpoint& endpoint, const FilePath& file);
+    bool loadCycleFile(const FilePath& file, CycleForm form);
+    bool loadExportFile(const FilePath& file);
+    bool takeReports(const QStringList& lines, const CycleMoment& cycle, double step);
+    void storeReports(const QStringList& lines, const CycleMoment& cycle, double step);
+    void storeOrTell(const clsWxFinder& report);
+    void showProgress(const QString& text, bool withCancel = false) const;
+    void takeCycleOf(const clsWxFinder& reference);
+
+    Session& session_;
+    QString picture_; ///< beside the progress messages
+};
+
+} // namespace morvane
