@@ -28,12 +28,6 @@ TEST(Splash, skyGreysWithTheCover) {
     }
 }
 
-TEST(Splash, wordStandsInTheLowerRightCorner) {
-    const QImage sky = drawSplash({}), lettered = drawSplash(u"SCT"_s);
-    EXPECT_NE(lettered.copy(350, 290, 150, 60), sky.copy(350, 290, 150, 60));
-    EXPECT_EQ(lettered.copy(0, 0, 500, 200), sky.copy(0, 0, 500, 200));
-}
-
 TEST(SplashLettering, hasEveryLetterOfFileNamesAndCaptions) {
     const QString letters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789.,:-_/()%&"_s;
     for (const QChar letter : letters)
