@@ -73,6 +73,14 @@ public:
     QStringList setFolders() const;
 };
 
+/// A command, its words parted by "|", how it ends, and what it says among other things, on either road.
+struct ConsoleStep {
+    QString words;
+    QStringList said = {};
+    int status = 0;
+};
+void expectSteps(ConsoleInstall& install, const std::vector<ConsoleStep>& steps);
+
 /// Names of textures in a folder, for a work that takes its time.
 QStringList manyFiles(const QString& folder, int count);
 

@@ -34,10 +34,8 @@ TEST(CycleCommands, importAFileInEachForm) {
 
 TEST(CycleCommands, tellWhatCannotBeHad) {
     test::ConsoleInstall install;
-    EXPECT_EQ(install.run(u"metar import missing.txt"_s).status, 1);
-    const auto run = install.run(u"metar download"_s);
-    EXPECT_EQ(run.status, 1);
-    EXPECT_TRUE(run.messages.contains(u"No weather server is set."_s)) << run.messages.toStdString();
+    test::expectSteps(install, {{u"metar|import|missing.txt"_s, {}, 1},
+                                {u"metar|download"_s, {u"No weather server is set."_s}, 1}});
     EXPECT_EQ(install.run(u"metar rows"_s).output, "");
 }
 
