@@ -11,11 +11,12 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QTreeView>
+#include <QTreeWidget>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -64,6 +65,63 @@ QAccessible::Role roleOf(const QWidget& widget) {
     if (qobject_cast<const QTreeView*>(&widget)) return QAccessible::Tree;
     if (qobject_cast<const PictureFrame*>(&widget)) return QAccessible::Graphic;
     return QAccessible::NoRole;
+}
+
+/// What the control says, whatever kind it is.
+QString textOf(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
+    if (const auto* key = qobject_cast<const SkinnedButton*>(&widget))
+        return key->ButtonText() + u" <%1>"_s.arg(static_cast<int>(key->state()));
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->text() + (button->isChecked() ? u" <x>"_s : QString());
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
+        return edit->text() + edit->placeholderText();
+    if (const auto* list = qobject_cast<const QComboBox*>(&widget))
+        return list->currentText() + u" of "_s + QString::number(list->count());
+    const auto* table = qobject_cast<const QTreeWidget*>(&widget);
+    if (!table) return {};
+    QStringList heads;
+    for (int column = 0; column < table->columnCount(); ++column)
+        heads << table->headerItem()->text(column) + u'/' + table->headerItem()->toolTip(column);
+    return heads.join(u',');
+}
+
+/// A line for each control of a screen that has a name or says something; what differs from run to run left
+/// out.
+QStringList linesOf(const Form& form, const QString& folder) {
+    QStringList lines{u"== "_s + form.objectName() + u'|' + form.windowTitle()};
+    for (const QWidget* widget : form.findChildren<QWidget*>()) {
+        const QString text = textOf(*widget);
+        if ((widget->objectName().isEmpty() && text.isEmpty()) || widget->objectName().startsWith(u"qt_"))
+            continue;
+        QStringList cells{widget->objectName(), text, widget->accessibleName(), widget->toolTip()};
+        if (widget->isHidden()) cells << u"hidden"_s;
+        if (!widget->isEnabled()) cells << u"dead"_s;
+        lines << cells.join(u'|').replace(folder, u"FOLDER"_s).replace(u'\n', u'~');
+    }
+    return lines;
+}
+
+/// Every text, name, tip and state as a start leaves it. Whoever changes one on purpose takes over the file
+/// that the failure names.
+TEST_F(EveryScreen, saysWhatStandsInTheList) {
+    QStringList found;
+    for (const QString& name : formNames()) {
+        Form* form = program.shell.form(name);
+        found += linesOf(*form, program.install.folder.path().native());
+        form->show();
+        form->focusFirst();
+        found << u"begins at "_s + (form->focusWidget() ? form->focusWidget()->objectName() : QString());
+        form->hide();
+    }
+    const QStringList listed =
+        QString::fromUtf8(test::readFile(FilePath(QStringLiteral(MORVANE_SCREEN_TEXTS)))).split(u'\n');
+    const QString taken = QDir::temp().filePath(u"screen_texts.txt"_s);
+    found << QString();
+    if (found != listed) test::writeFile(FilePath(taken), found.join(u'\n').toUtf8());
+    for (qsizetype i = 0; i < std::max(found.size(), listed.size()); ++i)
+        ASSERT_EQ(found.value(i).toStdString(), listed.value(i).toStdString())
+            << "all of it: " << taken.toStdString();
 }
 
 TEST_F(EveryScreen, tellsWhatEachControlIsAndWhatCanBeDoneWithIt) {

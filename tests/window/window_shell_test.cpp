@@ -1,3 +1,4 @@
+#include "support/printing.h"
 #include "support/window_program.h"
 
 #include "app/exit_flow.h"
@@ -66,26 +67,6 @@ TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
     program.press(u"frm_Main"_s, u"btn_Home"_s);
     EXPECT_FALSE(weather->isVisible());
     EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
-}
-
-/// The keyboard is on the page and not on the key that led to it, and no window is a stop of its own.
-TEST_F(ShellTest, givesEachPageAFirstFocus) {
-    const std::pair<QString, QString> pages[] = {{u"frm_WxControl"_s, u"txtICAO"_s},
-                                                 {u"frm_About"_s, u"btn_Home"_s},
-                                                 {u"frm_MVTextures"_s, u"lstTextureSets"_s},
-                                                 {u"frm_GroundColorize"_s, u"optCloudCover0"_s}};
-    for (const auto& [page, control] : pages) {
-        if (childPage(page))
-            shell.goToPage(page);
-        else
-            shell.showHost(page);
-        const QWidget* window = shell.form(page)->window();
-        ASSERT_NE(window->focusWidget(), nullptr) << page.toStdString();
-        EXPECT_EQ(window->focusWidget()->objectName(), control) << page.toStdString();
-        EXPECT_EQ(window->focusPolicy(), Qt::NoFocus);
-    }
-    shell.goHome();
-    EXPECT_EQ(shell.form(u"frm_Main"_s)->focusWidget()->objectName(), u"btn_GroundInstall"_s);
 }
 
 TEST_F(ShellTest, theStatusPageCountsSetsAndTellsOfAWideClient) {
@@ -159,14 +140,32 @@ TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
 }
 
-TEST_F(ShellTest, saysOnItsKeyThatALinkHasNoAddress) {
-    shell.goToPage(u"frm_Links"_s);
-    const auto keys = shell.form(u"frm_Links"_s)->findChildren<QPushButton*>();
-    EXPECT_EQ(keys.first()->text(), u"No address"_s);
-    EXPECT_FALSE(keys.first()->isEnabled());
-    EXPECT_TRUE(keys.last()->isEnabled());
+TEST_F(ShellTest, opensNoAddressThatIsNoWebPage) {
     for (const QString& address : {u"file:///etc/passwd"_s, u"javascript:1"_s, u""_s, u"C:\\x.exe"_s})
         EXPECT_FALSE(isWebAddress(address));
+}
+
+TEST_F(ShellTest, theInstallKeyOfEachWindowInstallsWhatIsSelected) {
+    program.install.addGroundSet(u"2-Storm"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s});
+    program.install.addSkySet(u"2-Storm"_s, u"Overcast"_s, true, {u"day.bmp"_s});
+    test::addNightSet(program.install, u"2-Storm"_s, true, {u"Texture\\008b2lm1.bmp"_s});
+    const std::tuple<QString, QString, QString, QString> windows[] = {
+        {u"btn_MVTextures"_s, u"frm_MVTextures"_s, u"lstTextureSets"_s, u"btn_TextureInstall"_s},
+        {u"btn_KMTextures"_s, u"frm_KMTextures"_s, u"lstSkyTextureSets"_s, u"btn_SkyTextureInstall"_s},
+        {u"btn_NightTextures"_s, u"frm_NightTextures"_s, u"lstTextureSets"_s, u"btn_TextureInstall"_s}};
+    for (const auto& [way, window, list, key] : windows) {
+        shell.goHome();
+        program.press(u"frm_Main"_s, way);
+        auto& table = program.control<SetTable>(window, list);
+        test::clickRow(table, table.rowOf(u"2-Storm"_s), {60});
+        program.toldDuring([&] { program.press(window, key); },
+                           {u"Launch Flight Simulator?"_s, u"Install Matching Ground Texture Set?"_s,
+                            u"Install Matching Sky Texture Set?"_s});
+    }
+    const QStringList storm{u"2-Storm"_s};
+    EXPECT_EQ(program.install.installedSets(), storm);
+    EXPECT_EQ(program.install.installedSkySets(), storm);
+    EXPECT_EQ(test::nightSets(program.install.session), u"2-Storm+*"_s);
 }
 
 /// What a process does, from its main loop on. A box that comes is answered with that button.

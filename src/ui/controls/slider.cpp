@@ -53,7 +53,6 @@ QRectF onPixels(const QRectF& place, double ratio) {
 
 ucSlider::ucSlider(int min, int max, QWidget* parent) : QWidget(parent), min_(min), max_(max), value_(min) {
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(u"Slider"_s);
 }
 
 void ucSlider::setValue(int value) {
