@@ -8,9 +8,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTest>
@@ -22,18 +20,6 @@ namespace {
 
 QImage picture(QWidget& widget) {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
-TEST(PaperStyle, aRowsPictureKeepsClearOfItsText) {
-    const QStyle& style = *QApplication::style();
-    QStyleOptionViewItem row;
-    row.rect = {0, 0, 200, 20};
-    row.text = u"Flights"_s;
-    row.decorationSize = {16, 16};
-    row.features = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration;
-    const QRect picture = style.subElementRect(QStyle::SE_ItemViewItemDecoration, &row);
-    EXPECT_GT(style.subElementRect(QStyle::SE_ItemViewItemText, &row).left(), picture.right());
-    EXPECT_GE(picture.width(), 16);
 }
 
 TEST(PaperStyle, aListOfThousandsIsFourteenRowsHigh) {
@@ -83,24 +69,6 @@ TEST(PaperStyle, scrollBarIsAllGrooveAndItsHandleReachesBothEnds) {
     EXPECT_EQ(bar.value(), 10) << "a click below the handle goes on by a page";
     bar.setValue(5000);
     EXPECT_EQ(part(QStyle::SC_ScrollBarSlider).bottom(), 199);
-}
-
-TEST(PaperStyle, stateShowsInBoxesAndTheFocusInEdits) {
-    QCheckBox box;
-    box.resize(20, 20);
-    EXPECT_EQ(picture(box).pixel(3, 5), palette::field);
-    box.setChecked(true);
-    EXPECT_EQ(picture(box).pixel(3, 5), palette::textBlue);
-
-    QWidget page;
-    QLineEdit first(&page), second(&page);
-    first.setGeometry(0, 0, 90, 22);
-    second.setGeometry(0, 30, 90, 22);
-    page.show();
-    QApplication::setActiveWindow(&page);
-    first.setFocus();
-    EXPECT_EQ(picture(first).pixel(45, 0), palette::accentOnPaper);
-    EXPECT_EQ(picture(second).pixel(45, 0), palette::fieldLine);
 }
 
 TEST(SkinnedProgressBar, fillsByItsValueAndHoldsItWithinTheEnds) {

@@ -10,16 +10,13 @@
 #include "ground/ground_sets.h"
 #include "ground/screens/ground_sets_screen.h"
 #include "ground/texture_sets.h"
-#include "imaging/window_region.h"
 #include "sets/options_in_force.h"
 #include "ui/controls/foot_line.h"
-#include "ui/controls/palette.h"
 #include "ui/host_form.h"
 #include "weather/weather_state.h"
 #include "window/form_table.h"
 
 #include <QMessageBox>
-#include <QPainter>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
@@ -98,20 +95,6 @@ TEST_F(ShellTest, startsWithoutASkinAndSaysSoOnce) {
     EXPECT_TRUE(shell.form(u"frm_Main"_s)->mask().isEmpty()) << "a plain window";
     EXPECT_FALSE(shell.form(u"frm_Main"_s)->windowFlags() & Qt::FramelessWindowHint);
     shell.reportMissingSkin(); // would wait for an answer that never comes
-}
-
-/// A picture of twice the size has a finer edge than the outline; what shows between them must not be white.
-TEST_F(ShellTest, isDarkUpToItsOutline) {
-    QImage picture(880, 580, QImage::Format_RGB888);
-    picture.fill(qRgb(255, 0, 255));
-    QPainter(&picture).fillRect(picture.rect().adjusted(2, 2, -2, -2), QColor::fromRgb(palette::bezel));
-    const FilePath media = program.install.home() / u"Media";
-    ASSERT_TRUE(picture.save((media / u"MVSkyInterface.bmp").native()));
-    WindowRegion whole{picture.rect(), {picture.rect()}};
-    test::writeFile(media / u"MainRegion.dat", writeWindowRegion(whole));
-    const QImage shown = shell.form(u"frm_KMTextures"_s)->grab().toImage();
-    EXPECT_EQ(shown.pixel(0, 0), palette::outline);
-    EXPECT_EQ(shown.pixel(shown.width() / 2, shown.height() - 8), palette::bezel);
 }
 
 /// A page's own text goes and comes with the page; what a job said is on whichever window is shown next.
