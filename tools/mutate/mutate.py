@@ -58,8 +58,9 @@ inline bool morvaneMutant(int number) {
 
 COMPARISONS = {" < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > ", " == ": " != ", " != ": " == ",
                " && ": " || ", " || ": " && "}
-LOOKS = re.compile(r"^\s*(?:if \(.*\) )?(?:painter\w*\.|[\w.\->]*\b(?:setFont|setPalette|setPixmap|setGeometry|setFixedSize|"
-                   r"setPen|setBrush|resize|move|place[A-Z]?\w*|draw[A-Z]?\w*|update)\()")
+LOOKS = re.compile(r"^\s*(?:if \(.*\) )?(?:painter\w*\.|[\w.\->()]*\b(?:set(?:Font|Palette|Color|Pixmap|Geometry|FixedSize|Pen|"
+                   r"Brush|Alignment|OnDark|SizeAdjustPolicy)|resize|move|place[A-Z]?\w*|draw[A-Z]?\w*|make(?:Hair|Rule)|"
+                   r"addRect|applyPaperStyle|update)\()")
 STEPS = {" + ": " - ", " - ": " + "}
 
 
