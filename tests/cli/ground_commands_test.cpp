@@ -115,11 +115,11 @@ TEST_F(GroundCommands, refusalsOfEveryKindOfSetAreToldAndChangeNothing) {
 TEST_F(GroundCommands, aFavouriteIsMadeActivatedInstalledSwitchedOffAndDeleted) {
     addNight("Default", true);
     const QString name = u"2-Cold lights"_s;
-    expectNights(u"night|favourite|Cold lights|0:-30:-30:80:0:0"_s, u"Default+ "_s + name);
+    expectNights(u"night|favourite|Cold lights|-100:-30:-30:80:0:0"_s, u"Default+ "_s + name);
     test::expectSteps(
         install,
         {{u"night|list"_s,
-          {u"{\"Actvated\":\"False\",\"ColorSettings\":\"0:-6:-6:16:0:0\",\"Description\":\"\","
+          {u"{\"Actvated\":\"False\",\"ColorSettings\":\"-100:-6:-6:16:0:0\",\"Description\":\"\","
            "\"Installed\":false,\"IsNew\":false,\"NtsID\":2,\"TextureSet\":\"2-Cold lights\"}]"_s}}});
     expectNights(u"night|activate|"_s + name, u"Default+ "_s + name + u'+');
     expectNights(u"night|install|"_s + name, u"Default+ "_s + name + u"+*"_s);

@@ -22,6 +22,17 @@ QImage picture(QWidget& widget) {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
+TEST(PaperStyle, aRowsPictureKeepsClearOfItsText) {
+    const QStyle& style = *QApplication::style();
+    QStyleOptionViewItem row;
+    row.rect = {0, 0, 200, 20};
+    row.text = u"Flights"_s;
+    row.decorationSize = {16, 16};
+    row.features = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration;
+    const QRect picture = style.subElementRect(QStyle::SE_ItemViewItemDecoration, &row);
+    EXPECT_GT(style.subElementRect(QStyle::SE_ItemViewItemText, &row).left(), picture.right());
+}
+
 TEST(PaperStyle, aListOfThousandsIsFourteenRowsHigh) {
     QWidget page;
     auto* choice = new QComboBox(&page);

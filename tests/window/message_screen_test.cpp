@@ -149,6 +149,18 @@ TEST_F(MessageScreenTest, updatesTitleTextAndFileLine) {
     program.user.hideMessage();
 }
 
+TEST_F(MessageScreenTest, anUnattendedRunTellsItsMessagesOnStandardError) {
+    program.session.writing->isUnattended = true;
+    testing::internal::CaptureStderr();
+    program.confirmNext(name);
+    program.user.showMessage(plain);
+    program.user.showMessage(progress);
+    program.user.hideMessage();
+    const QString told = QString::fromStdString(testing::internal::GetCapturedStderr());
+    EXPECT_TRUE(told.contains(u"t: x\n"_s)) << told.toStdString();
+    EXPECT_FALSE(told.contains(u"Working"_s)) << "nobody is there to watch it";
+}
+
 TEST_F(MessageScreenTest, storesTheWishForAFastExitAtOnce) {
     question.offersFastExit = true;
     program.whenShown(name, [&](DialogForm& dialog) {

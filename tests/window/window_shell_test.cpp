@@ -140,6 +140,7 @@ TEST_F(ShellTest, theInstallKeyOfEachWindowInstallsWhatIsSelected) {
         shell.goHome();
         program.press(u"frm_Main"_s, way);
         auto& table = program.control<SetTable>(window, list);
+        EXPECT_EQ(shell.form(window)->focusWidget(), &table) << "the keyboard is on the page";
         test::clickRow(table, table.rowOf(u"2-Storm"_s), {60});
         program.toldDuring([&] { program.press(window, key); },
                            {u"Launch Flight Simulator?"_s, u"Install Matching Ground Texture Set?"_s,

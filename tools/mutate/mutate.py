@@ -177,14 +177,22 @@ def all_places(names):
 
 
 def read_again(report, names):
-    """The places of an earlier report that still stand; it says how many do not."""
+    """The places of an earlier report that still stand, equal lines by the nearest number; it says how many do not."""
     standing = {}
     for place in all_places(names):
-        standing.setdefault(place.key(), place)
+        standing.setdefault(place.key(), []).append(place)
+    found, gone = [], 0
     with report.open(encoding="utf-8") as file:
-        keys = [(row["file"], row["old"], row["new"]) for row in csv.DictReader(file, delimiter="\t")]
-    print(f"{sum(key not in standing for key in keys)} of {len(keys)} places are gone", flush=True)
-    return [standing[key] for key in keys if key in standing]
+        for row in csv.DictReader(file, delimiter="\t"):
+            alike = standing.get((row["file"], row["old"], row["new"]))
+            if alike:
+                nearest = min(alike, key=lambda place: abs(place.line - int(row["line"])))
+                alike.remove(nearest)
+                found.append(nearest)
+            else:
+                gone += 1
+    print(f"{gone} of {gone + len(found)} places are gone", flush=True)
+    return found
 
 
 def drawn(places, count, seed):
