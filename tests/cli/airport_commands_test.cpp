@@ -72,7 +72,7 @@ TEST(MetarFindCommand, takesTheFiltersByName) {
         const auto run = install.run(command);
         EXPECT_EQ(run.status, 0);
         QStringList stations;
-        for (const QJsonValue& report : run.array())
+        for (const auto& report : run.array())
             stations << report[u"WxFinderIcao"].toString();
         EXPECT_EQ(stations, expected) << command.toStdString();
     }

@@ -120,7 +120,7 @@ QStringList ConsoleInstall::withHome(const QString& commandLine) const {
     return QStringList{u"--answer"_s, u"yes"_s, u"--home"_s, home().native()} + wordsOf(commandLine);
 }
 
-ConsoleRun ConsoleInstall::run(const QString& commandLine, const QStringList& more) {
+ConsoleRun ConsoleInstall::run(const QString& commandLine, const QStringList& more) const {
     return Console(withHome(commandLine) + more).finish();
 }
 

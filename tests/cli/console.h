@@ -52,7 +52,7 @@ public:
     explicit ConsoleInstall(const SmallInstallOptions& options = {});
 
     /// Runs a command on the install, questions answered with yes unless the command line says otherwise.
-    ConsoleRun run(const QString& commandLine, const QStringList& more = {});
+    ConsoleRun run(const QString& commandLine, const QStringList& more = {}) const;
     QStringList withHome(const QString& commandLine) const;
     /// Does something while the test has the store open.
     template <class Action>

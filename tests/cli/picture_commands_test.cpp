@@ -19,7 +19,7 @@ struct PictureCommands : testing::Test {
     const QString in = inFile.native(), out = outFile.native();
 
     /// The run ends in one line of an error and leaves what was there.
-    void expectError(const QString& command, const QStringList& files, const QString& said) {
+    void expectError(const QString& command, const QStringList& files, const QString& said) const {
         const auto before = test::contentsBelow(folder.path());
         const auto run = runConsole(command, files);
         SCOPED_TRACE((command + u' ' + files.join(u' ') + run.messages).toStdString());

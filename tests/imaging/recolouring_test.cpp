@@ -117,7 +117,8 @@ TEST(Recolouring, RaisesForBuffersThatDoNotFit) {
     };
     for (const float saturation : {0.0f, 37.0f, 250.0f})
         for (const auto& [from, to, code] : pairs)
-            EXPECT_EQ(test::codeRaisedBy([&] { recolour({saturation}, from, to); }), code);
+            EXPECT_EQ(test::codeRaisedBy([&, &from = from, &to = to] { recolour({saturation}, from, to); }),
+                      code);
 }
 
 TEST(Recolouring, OverflowLeavesTheColumnsBeforeItWritten) {

@@ -141,6 +141,10 @@ hasFocus() {
     [ "$(xdotool getwindowfocus 2>/dev/null)" = "$1" ]
 }
 
+moveMouse() {
+    xdotool mousemove --window "$1" "$2" "$3"
+}
+
 click() {
     xdotool mousemove --window "$1" "$2" "$3" click 1
 }

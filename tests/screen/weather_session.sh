@@ -61,6 +61,8 @@ dragMainWindow() {
     startWindows
     expect "the main window lies on the screen" isOnScreen "$mainWindow"
     expect "the main window has an outline" hasOutline "$mainWindow"
+    waitFor "the keyboard in the main window" hasFocus "$mainWindow" # a press before it would be lost
+    moveMouse "$mainWindow" 300 78
     dragBy "$mainWindow" 300 78 -60 45
 }
 
