@@ -6,6 +6,7 @@
 #include "ui/host_form.h"
 #include "window/form_table.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QComboBox>
 #include <QDir>

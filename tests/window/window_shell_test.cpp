@@ -142,7 +142,7 @@ TEST_F(ShellTest, theInstallKeyOfEachWindowInstallsWhatIsSelected) {
         auto& table = program.control<SetTable>(window, list);
         EXPECT_EQ(shell.form(window)->focusWidget(), &table) << "the keyboard is on the page";
         test::clickRow(table, table.rowOf(u"2-Storm"_s), {60});
-        program.toldDuring([&] { program.press(window, key); },
+        program.toldDuring([&, &window = window, &key = key] { program.press(window, key); },
                            {u"Launch Flight Simulator?"_s, u"Install Matching Ground Texture Set?"_s,
                             u"Install Matching Sky Texture Set?"_s});
     }
