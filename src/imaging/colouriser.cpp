@@ -6,19 +6,6 @@
 
 namespace morvane {
 
-namespace {
-
-/// Green stands alone in the first condition. Not to be evened out: autogen's pictures were drawn for it.
-bool isKeyColour(const RgbColour& pixel) {
-    const auto [red, green, blue] = pixel;
-    const bool first = red == 0 || green == 255 || blue == 0;
-    const bool anyFull = red == 255 || green == 255 || blue == 255;
-    const bool anyEmpty = red == 0 || green == 0 || blue == 0;
-    return first && anyFull && anyEmpty;
-}
-
-} // namespace
-
 void cColourise::report(const std::function<void()>& operation) {
     reportFailures(user_, {}, operation);
 }
@@ -30,19 +17,6 @@ const Recolouring& cColourise::recolouring() {
 
 void cColourise::process(const cDIBSection& source, cDIBSection& destination) {
     report([&] { recolouring().apply(source, destination); });
-}
-
-void cColourise::process8Bit(const cDIBSection& source, cDIBSection& destination) {
-    process(source, destination);
-}
-
-void cColourise::processAutogen(const cDIBSection& source, cDIBSection& destination) {
-    const ColourValues colours = values();
-    report([&] {
-        walkPixels(source, destination, [&](const RgbColour& colour, std::uint8_t* target, int, int) {
-            if (!isKeyColour(colour)) storeClamped(recolouredPixel(colours, colour), target);
-        });
-    });
 }
 
 void cColourise::processSkyTexture(const cDIBSection& source, cDIBSection& destination) {

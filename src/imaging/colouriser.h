@@ -27,10 +27,6 @@ public:
     SkyGroups skyPaletteGroups;
 
     void process(const cDIBSection& source, cDIBSection& destination);
-    /// The same operation; the name is a relic of pictures with palettes.
-    void process8Bit(const cDIBSection& source, cDIBSection& destination);
-    /// `process` without the pixels that autogen uses as key colours.
-    void processAutogen(const cDIBSection& source, cDIBSection& destination);
     /// Applies `skyTextureGroups`, each to its own pixels; the six properties have no part in it.
     void processSkyTexture(const cDIBSection& source, cDIBSection& destination);
     /// The same with `skyPaletteGroups`.

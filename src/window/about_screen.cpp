@@ -24,7 +24,7 @@ constexpr Section sections[] = {
                       u"a METAR reports it. "
                       u"Whatever it replaces for the first time is kept, and can be put back."},
     {u"WHAT IT IS MADE OF",
-     u"Qt 6 (LGPL 3), SQLite (public domain), stb_dxt (public domain), the font Roboto (Apache License 2.0). "
+     u"Qt 6 (LGPL 3), SQLite (public domain), the font Roboto (Apache License 2.0). "
      u"Airports and stations come from public lists; their sources and licences stand in the folder of the "
      u"program's data."},
     {u"NOT FOR NAVIGATION", u"Weather shown here serves a simulator. Never plan a real flight with it."},

@@ -17,16 +17,9 @@ const QStringList commandsOnAnInstall =
     u"catalogue 2-Storm|ground create 1 0 0 0 0|ground list|ground activate 2-Storm|"
     u"ground deactivate 2-Storm|ground delete 2-Storm|ground install 2-Storm|originals list|"
     u"originals restore|fly OVC"_s.split(u'|');
-const QString createASet = u"ground create 0 0 0 0 1"_s;
 
 struct BadInstall : testing::Test {
     ConsoleInstall install;
-
-    void expectTold(const QString& command, const QString& said) {
-        const auto run = install.run(command);
-        EXPECT_EQ(run.status, 1) << command.toStdString();
-        EXPECT_EQ(run.messages.count(said), 1) << run.messages.toStdString();
-    }
 };
 
 TEST_F(BadInstall, aMissingOneIsToldAndNotMade) {
@@ -77,26 +70,12 @@ TEST_F(BadInstall, aLockedStoreIsToldAndNothingChanges) {
         const StoreTransaction lock(holder);
         EXPECT_EQ(install.run(u"ground list"_s).array().size(), 2); // reading goes on
         for (const QString& action : {u"deactivate"_s, u"delete"_s, u"install"_s})
-            expectTold(u"ground %1 2-Storm"_s.arg(action), u"the database is locked"_s);
+            test::expectSteps(install,
+                              {{u"ground|%1|2-Storm"_s.arg(action), {u"the database is locked"_s}, 1}});
     }
     EXPECT_EQ(install.sets(), u"Default+ 2-Storm+"_s);
     EXPECT_EQ(install.setFolders(), QStringList{u"2-Storm"_s});
     EXPECT_EQ(contentsBelow(install.simulator()), simulator);
-}
-
-TEST_F(BadInstall, aSpoiltBaseImageIsToldAndTheOthersAreMadeAsIsAFileInTheFoldersPlace) {
-    const FilePath image = install.home() / u"Resources\\GENERIC WORLD\\029b2su6.bmp";
-    const QByteArray good = test::readFile(image);
-    writeFile(image, "BM, and no more");
-    expectTold(createASet, "Error: Morvane Error");
-    const FilePath sets = install.home() / u"Texture Sets",
-                   made = sets / install.setFolders().value(0) / u"Texture";
-    EXPECT_TRUE(install.files.exists(made / u"029h2su6.bmp"));
-    EXPECT_TRUE(install.files.exists(made / u"002c2wi1.bmp"));
-    writeFile(image, good);
-    install.files.rename(sets, install.folder / u"aside");
-    writeFile(sets, "a file in the folder's place");
-    expectTold(createASet, "Error: Morvane Error");
 }
 
 } // namespace

@@ -37,17 +37,14 @@ struct ConfigCommands : testing::Test {
 TEST_F(ConfigCommands, theSimulatorIsNamedWithoutAQuestion) {
     forget(simulatorKey, u"EXE Path"_s);
     const QString simulator = install.simulator().native();
-    const auto lost = install.run(u"ground list"_s);
-    EXPECT_EQ(lost.status, 1);
-    EXPECT_TRUE(lost.messages.contains(u"config set simulator"_s)) << lost.messages.toStdString();
-    EXPECT_EQ(install.run(u"config set simulator"_s, {install.home().native()}).status, 1) << "no fs9.exe";
+    test::expectSteps(install, {{u"ground|list"_s, {u"config set simulator"_s}, 1},
+                                {u"config|set|simulator|"_s + install.home().native(), {}, 1}}); // no fs9.exe
     EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), QString());
 
-    const auto set = install.run(u"config set simulator"_s, {QDir::current().relativeFilePath(simulator)});
-    EXPECT_EQ(set.status, 0) << set.messages.toStdString();
-    EXPECT_EQ(set.objects().at(0), (QJsonObject{{u"simulator"_s, simulator}}));
+    test::expectSteps(install, {{u"config|set|simulator|"_s + QDir::current().relativeFilePath(simulator),
+                                 {u"{\"simulator\":\"%1\"}"_s.arg(simulator)}},
+                                {u"ground|list"_s}});
     EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), simulator);
-    EXPECT_EQ(install.run(u"ground list"_s).status, 0);
 }
 
 TEST_F(ConfigCommands, theSimulatorFoundAtTheTerminalIsStoredInFull) {
@@ -87,9 +84,7 @@ TEST_F(ConfigCommands, everythingIsShownWithoutASimulatorToo) {
     store.open(install.home() / u"Morvane.mdb");
     store.execute(u"DROP TABLE TEXTURE_SWITCH"_s);
     store.close();
-    const auto old = install.run(u"config show"_s);
-    EXPECT_EQ(old.status, 0) << old.messages.toStdString();
-    EXPECT_TRUE(old.objects().at(0)[u"switches"_s].toObject()[u"halo"_s].isNull());
+    test::expectSteps(install, {{u"config|show"_s, {u"\"halo\":null"_s}}});
 }
 
 TEST_F(ConfigCommands, ownFlightsAreNoSavedFlights) {

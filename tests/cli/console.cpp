@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <csignal>
+#include <gtest/gtest.h>
 
 namespace morvane::test {
 
@@ -119,7 +120,7 @@ QStringList ConsoleInstall::withHome(const QString& commandLine) const {
     return QStringList{u"--answer"_s, u"yes"_s, u"--home"_s, home().native()} + wordsOf(commandLine);
 }
 
-ConsoleRun ConsoleInstall::run(const QString& commandLine, const QStringList& more) {
+ConsoleRun ConsoleInstall::run(const QString& commandLine, const QStringList& more) const {
     return Console(withHome(commandLine) + more).finish();
 }
 
@@ -153,6 +154,18 @@ QString ConsoleInstall::skies() {
 
 QStringList ConsoleInstall::setFolders() const {
     return QDir((home() / u"Texture Sets").native()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+}
+
+void expectSteps(ConsoleInstall& install, const std::vector<ConsoleStep>& steps) {
+    for (const auto& [words, said, status] : steps) {
+        const auto run = install.run({}, words.split(u'|'));
+        const QString all = QString::fromUtf8(run.output) + run.messages;
+        EXPECT_EQ(run.status, status) << words.toStdString() << '\n' << all.toStdString();
+        for (const QString& part : said)
+            EXPECT_TRUE(all.contains(part)) << words.toStdString() << '\n'
+                                            << part.toStdString() << '\n'
+                                            << all.toStdString();
+    }
 }
 
 QStringList manyFiles(const QString& folder, int count) {

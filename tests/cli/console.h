@@ -52,7 +52,7 @@ public:
     explicit ConsoleInstall(const SmallInstallOptions& options = {});
 
     /// Runs a command on the install, questions answered with yes unless the command line says otherwise.
-    ConsoleRun run(const QString& commandLine, const QStringList& more = {});
+    ConsoleRun run(const QString& commandLine, const QStringList& more = {}) const;
     QStringList withHome(const QString& commandLine) const;
     /// Does something while the test has the store open.
     template <class Action>
@@ -72,6 +72,14 @@ public:
     /// Names of the folders of sets.
     QStringList setFolders() const;
 };
+
+/// A command, its words parted by "|", how it ends, and what it says among other things, on either road.
+struct ConsoleStep {
+    QString words;
+    QStringList said = {};
+    int status = 0;
+};
+void expectSteps(ConsoleInstall& install, const std::vector<ConsoleStep>& steps);
 
 /// Names of textures in a folder, for a work that takes its time.
 QStringList manyFiles(const QString& folder, int count);

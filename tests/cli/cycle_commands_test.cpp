@@ -34,10 +34,8 @@ TEST(CycleCommands, importAFileInEachForm) {
 
 TEST(CycleCommands, tellWhatCannotBeHad) {
     test::ConsoleInstall install;
-    EXPECT_EQ(install.run(u"metar import missing.txt"_s).status, 1);
-    const auto run = install.run(u"metar download"_s);
-    EXPECT_EQ(run.status, 1);
-    EXPECT_TRUE(run.messages.contains(u"No weather server is set."_s)) << run.messages.toStdString();
+    test::expectSteps(install, {{u"metar|import|missing.txt"_s, {}, 1},
+                                {u"metar|download"_s, {u"No weather server is set."_s}, 1}});
     EXPECT_EQ(install.run(u"metar rows"_s).output, "");
 }
 
@@ -59,16 +57,10 @@ TEST(DecodeCommand, givesEveryPropertyByItsName) {
     const auto run = runConsole(u"decode"_s, {}, "EHAM 241225Z 24015G28KT 9999 BKN030 18/M09 Q1012\n");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.messages, QString());
-    const QJsonObject report = run.objects().at(0);
-    EXPECT_EQ(report.keys().join(u' '),
-              u"MetarCloud MetarDate MetarDewpoint MetarICAO MetarMaxCloud MetarMonth MetarObscuration "
-              u"MetarPressure MetarTemp MetarTime MetarVisibilityFormat MetarVisiblity MetarWeather "
-              u"MetarWeatherStrength MetarYear WindDirection WindGust WindGusting WindSpeed "
-              u"WindSpeedMeasurement WindVarying WindVaryingFrom WindVaryingTo"_s);
-    EXPECT_EQ(report[u"WindGusting"], QJsonValue(true));
-    EXPECT_EQ(report[u"MetarMaxCloud"], QJsonValue(4));
-    EXPECT_EQ(report[u"WindSpeed"], QJsonValue(u"015"_s));
-    EXPECT_EQ(report[u"MetarDewpoint"], QJsonValue(u"Minus 09"_s));
+    EXPECT_EQ(run.objects().at(0).size(), 23);
+    for (const char* part : {"\"WindGusting\":true", "\"MetarMaxCloud\":4", "\"WindSpeed\":\"015\"",
+                             "\"MetarDewpoint\":\"Minus 09\""})
+        EXPECT_TRUE(run.output.contains(part)) << part;
 }
 
 TEST(DecodeCommand, answersEveryLineWhateverItsBytes) {

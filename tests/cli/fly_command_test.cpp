@@ -106,17 +106,14 @@ TEST_F(FlyCommand, theSplashOptionIsReadBeforeAnyInstall) {
 
 TEST(FlightsCommand, loadsTheUsersFlightsAndListsThem) {
     test::ConsoleInstall install;
-    EXPECT_EQ(install.run("flights list").status, 1) << "nothing was loaded yet";
-    EXPECT_EQ(install.run("flights load").status, 0) << "nobody is asked where nobody is";
-    EXPECT_EQ(install.run("flights list").array().size(), 0);
+    test::expectSteps(install, {{u"flights|list"_s, {}, 1}, // nothing was loaded yet
+                                {u"flights|load"_s},        // nobody is asked where nobody is
+                                {u"flights|list"_s, {u"[]"_s}}});
     const FilePath user = install.folder / u"Own flights";
     test::writeFile(user / u"Evening.flt", "flight");
     test::writeFile(user / u"Ünten.FLT", "flight");
     install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s, user.native());
-    EXPECT_EQ(install.run(u"flights load"_s).status, 0);
-    const auto listed = install.run(u"flights list"_s);
-    EXPECT_EQ(listed.status, 0);
-    EXPECT_EQ(listed.array().toVariantList(), (QVariantList{u"Evening"_s, u"Ünten"_s}));
+    test::expectSteps(install, {{u"flights|load"_s}, {u"flights|list"_s, {u"[\"Evening\",\"Ünten\"]"_s}}});
 }
 
 } // namespace

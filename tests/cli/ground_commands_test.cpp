@@ -15,10 +15,9 @@ struct GroundCommands : testing::Test {
     test::ConsoleInstall install;
 
     void SetUp() override { test::addNightStock(install); }
-    void expectDone(const QString& command, const QString& setsAfterwards) {
-        const auto run = install.run(command);
-        EXPECT_EQ(run.status, 0) << command.toStdString() << '\n' << run.messages.toStdString();
-        EXPECT_EQ(install.sets(), setsAfterwards);
+    void expectDone(const QString& words, const QString& setsAfterwards) {
+        test::expectSteps(install, {{words}});
+        EXPECT_EQ(install.sets(), setsAfterwards) << words.toStdString();
     }
     void addNight(const QString& name, bool activated) {
         install.withStore([&](Session&) { test::addNightSet(install, name, activated); });
@@ -28,10 +27,9 @@ struct GroundCommands : testing::Test {
         install.withStore([&](Session& session) { names = test::nightSets(session); });
         return names;
     }
-    void expectNights(const QString& command, const QString& name, const QString& nightsAfterwards) {
-        const auto run = install.run("night " + command, {name});
-        EXPECT_EQ(run.status, 0) << command.toStdString() << '\n' << run.messages.toStdString();
-        EXPECT_EQ(nights(), nightsAfterwards);
+    void expectNights(const QString& words, const QString& nightsAfterwards) {
+        test::expectSteps(install, {{words}});
+        EXPECT_EQ(nights(), nightsAfterwards) << words.toStdString();
     }
 };
 
@@ -45,50 +43,32 @@ TEST_F(GroundCommands, theCatalogueGivesFourArraysForTheSet) {
 }
 
 TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
-    const auto created = install.run(u"ground create 0 1 0 0 0"_s);
-    EXPECT_EQ(created.status, 0);
-    EXPECT_EQ(created.messages.count(u"Information: Average minutes per texture set"_s), 1);
-
-    const QJsonArray list = install.run("ground list").array();
-    ASSERT_EQ(list.size(), 2);
-    QJsonObject made = list[1].toObject();
-    const QString name = made.take("TextureSet").toString();
-    EXPECT_FALSE(made.take("ColorSettings").toString().isEmpty());
-    EXPECT_FALSE(made.take("Description").toString().isEmpty());
-    EXPECT_EQ(made, (QJsonObject{{"TsID", 2},
-                                 {"CloudCover", "Mostly Clear"},
-                                 {"Actvated", "True"},
-                                 {"Installed", false},
-                                 {"IsDutch", true},
-                                 {"IsNew", false}}));
+    test::expectSteps(install,
+                      {{u"ground|create|0|1|0|0|0"_s, {u"Information: Average minutes per texture set"_s}},
+                       {u"ground|list"_s,
+                        {u"\"Actvated\":\"True\",\"CloudCover\":\"Mostly Clear\",\"ColorSettings\":\""_s,
+                         u"\"Installed\":false,\"IsDutch\":true,\"IsNew\":false,"_s, u"\"TsID\":2}]"_s}}});
+    const QString name = install.setFolders().value(0);
     EXPECT_TRUE(QRegularExpression(u"^2-\\d\\d-\\d\\d-\\d{4} \\d\\d-\\d\\d-\\d\\d$"_s).match(name).hasMatch())
         << name.toStdString();
-    EXPECT_EQ(install.setFolders(), QStringList{name});
     const auto files = contentsBelow(install.home() / u"Texture Sets");
     EXPECT_EQ(files.size(), 5);
-
-    EXPECT_EQ(install.run(u"ground deactivate"_s, {name}).status, 0);
-    EXPECT_EQ(install.sets(), u"Default+ "_s + name);
+    expectDone(u"ground|deactivate|"_s + name, u"Default+ "_s + name);
     EXPECT_TRUE(contentsBelow(install.home() / u"Texture Sets").isEmpty());
-    EXPECT_EQ(install.run(u"ground activate"_s, {name}).status, 0);
+    expectDone(u"ground|activate|"_s + name, u"Default+ "_s + name + u'+');
     EXPECT_EQ(contentsBelow(install.home() / u"Texture Sets"), files); // the colours were kept
-    EXPECT_EQ(install.run(u"ground delete"_s, {name}).status, 0);
-    EXPECT_EQ(install.sets(), u"Default+"_s);
+    expectDone(u"ground|delete|"_s + name, u"Default+"_s);
     EXPECT_TRUE(install.setFolders().isEmpty());
 }
 
 TEST_F(GroundCommands, wrongCountsAreToldApart) {
-    const std::tuple<QString, int, QString> cases[] = {
-        {"one", 2, "N5 takes a whole number"},   {"1.5", 2, "N5 takes a whole number"},
-        {{}, 2, "N5 takes a whole number"},      {"40000", 1, "Overflow"}, // more than the counter holds
-        {"99999999999999999999", 1, "Overflow"}, {"0", 1, "Division by zero"},
-    };
-    for (const auto& [count, status, said] : cases) {
-        const auto run = install.run(u"ground create 0 0 0 0"_s, {count});
-        EXPECT_EQ(run.status, status) << count.toStdString() << '\n' << run.messages.toStdString();
-        EXPECT_EQ(install.sets(), u"Default+"_s) << count.toStdString();
-        EXPECT_TRUE(run.messages.contains(said)) << run.messages.toStdString();
-    }
+    test::expectSteps(install,
+                      {{u"ground|create|0|0|0|0|1.5"_s, {u"N5 takes a whole number"_s}, 2},
+                       {u"ground|create|0|0|0|0|"_s, {u"N5 takes a whole number"_s}, 2},
+                       {u"ground|create|0|0|0|0|40000"_s, {u"Overflow"_s}, 1}, // more than the counter holds
+                       {u"ground|create|0|0|0|0|99999999999999999999"_s, {u"Overflow"_s}, 1},
+                       {u"ground|create|0|0|0|0|0"_s, {u"Division by zero"_s}, 1}});
+    EXPECT_EQ(install.sets(), u"Default+"_s);
 }
 
 TEST_F(GroundCommands, refusalsOfEveryKindOfSetAreToldAndChangeNothing) {
@@ -134,25 +114,19 @@ TEST_F(GroundCommands, refusalsOfEveryKindOfSetAreToldAndChangeNothing) {
 
 TEST_F(GroundCommands, aFavouriteIsMadeActivatedInstalledSwitchedOffAndDeleted) {
     addNight("Default", true);
-    const auto made = install.run(u"night favourite"_s, {u"Cold lights"_s, u"0:-30:-30:80:0:0"_s});
-    EXPECT_EQ(made.status, 0) << made.messages.toStdString();
     const QString name = u"2-Cold lights"_s;
-    EXPECT_EQ(nights(), u"Default+ "_s + name);
-    const QJsonObject set = install.run(u"night list"_s).array().at(1).toObject();
-    EXPECT_EQ(set, (QJsonObject{{u"Installed"_s, false},
-                                {u"IsNew"_s, false},
-                                {u"NtsID"_s, 2},
-                                {u"ColorSettings"_s, u"0:-6:-6:16:0:0"_s},
-                                {u"TextureSet"_s, name},
-                                {u"Actvated"_s, u"False"_s},
-                                {u"Description"_s, u""_s}}));
-    expectNights("activate", name, u"Default+ "_s + name + u'+');
-    expectNights("install", name, u"Default+ "_s + name + u"+*"_s);
-    expectNights("install", u"Default"_s, u"Default+* "_s + name + u'+');
-    EXPECT_EQ(install.run(u"originals restore"_s).status, 0);
-    EXPECT_EQ(nights(), u"Default+ "_s + name + u'+') << "none is installed any more";
-    expectNights("deactivate", name, u"Default+ "_s + name);
-    expectNights("delete", name, u"Default+"_s);
+    expectNights(u"night|favourite|Cold lights|-100:-30:-30:80:0:0"_s, u"Default+ "_s + name);
+    test::expectSteps(
+        install,
+        {{u"night|list"_s,
+          {u"{\"Actvated\":\"False\",\"ColorSettings\":\"-100:-6:-6:16:0:0\",\"Description\":\"\","
+           "\"Installed\":false,\"IsNew\":false,\"NtsID\":2,\"TextureSet\":\"2-Cold lights\"}]"_s}}});
+    expectNights(u"night|activate|"_s + name, u"Default+ "_s + name + u'+');
+    expectNights(u"night|install|"_s + name, u"Default+ "_s + name + u"+*"_s);
+    expectNights(u"night|install|Default"_s, u"Default+* "_s + name + u'+');
+    expectNights(u"originals|restore"_s, u"Default+ "_s + name + u'+'); // none is installed any more
+    expectNights(u"night|deactivate|"_s + name, u"Default+ "_s + name);
+    expectNights(u"night|delete|"_s + name, u"Default+"_s);
 }
 
 TEST_F(GroundCommands, aNoOrNobodyToAskDeletesNothing) {
@@ -179,20 +153,15 @@ TEST_F(GroundCommands, thePilotsFilesAreListedAndRestored) {
     install.addSet("2-Storm", "Overcast", true, {"Texture\\029h2su6.bmp", "Texture\\new.bmp"});
     const auto before = contentsBelow(install.simulator());
     EXPECT_TRUE(install.run("originals list").array().isEmpty());
-    expectDone("ground install 2-Storm", "Default+ 2-Storm+*");
+    expectDone("ground|install|2-Storm", "Default+ 2-Storm+*");
     EXPECT_EQ(test::readFile(texture), "2-Storm Texture\\029h2su6.bmp");
 
-    const QJsonArray list = install.run("originals list").array();
-    ASSERT_EQ(list.size(), 2); // "new.bmp" replaced nothing
-    EXPECT_EQ(list[0].toObject()["path"], path);
-    QJsonObject splash = list[1].toObject();
-    EXPECT_FALSE(splash.take("kept").toString().isEmpty() || splash.take("mode").toString().isEmpty());
-    EXPECT_EQ(splash, (QJsonObject{{"copy", "Uires\\dlgsplash.bmp"},
-                                   {"number", 1},
-                                   {"path", "Uires\\dlgsplash.bmp"},
-                                   {"sha1", "74a0a683fa9a9bd35ff624fad775b1f42cc4b897"},
-                                   {"size", 18}}));
-    expectDone("originals restore", "Default+ 2-Storm+"); // none is installed any more
+    EXPECT_EQ(install.run("originals list").array().size(), 2); // "new.bmp" replaced nothing
+    test::expectSteps(install, {{"originals|list",
+                                 {"\"path\":\"Scenery\\\\World\\\\texture\\\\029H2SU6.BMP\"",
+                                  "\"copy\":\"Uires\\\\dlgsplash.bmp\"", "\"number\":1",
+                                  "\"sha1\":\"74a0a683fa9a9bd35ff624fad775b1f42cc4b897\",\"size\":18"}}});
+    expectDone("originals|restore", "Default+ 2-Storm+"); // none is installed any more
     EXPECT_EQ(contentsBelow(install.simulator()), before);
 
     const std::tuple<FilePath, int, QString, QString> cases[] = {

@@ -33,31 +33,11 @@ protected:
 TEST_F(Colouriser, TellsTheUserOfFailuresAndGoesOn) {
     cDIBSection never, created = test::createdBuffer(2, 2);
     colouriser.process(never, created);
-    colouriser.processAutogen(created, never);
     colouriser.processSky(never, created);
     colouriser.Red = 1e10f;
     colouriser.process(test::filledBuffer(2, 2, {255, 255, 254}), created);
     const QString invalid = u"Error|Morvane Error|Invalid procedure call or argument"_s;
-    EXPECT_EQ(user.told(), (QStringList{invalid, invalid, invalid, u"Error|Morvane Error|Overflow"_s}));
-}
-
-// Operations that the program offers and nothing calls.
-TEST_F(Colouriser, EightBitIsTheSameAndAutogenPassesKeyColoursOver) {
-    colouriser.brightness = 10;
-    const RgbColour held = {7, 8, 9};
-    const std::pair<RgbColour, bool> cases[] = {
-        {{255, 0, 0}, true},    {{0, 255, 0}, true},   {{0, 0, 255}, true},     {{255, 255, 0}, true},
-        {{0, 0, 0}, false},     {{255, 100, 0}, true}, {{255, 0, 100}, false}, // green stands alone
-        {{100, 0, 255}, false}, {{0, 100, 255}, true}, {{90, 120, 140}, false},
-    };
-    for (const auto& [pixel, isSkipped] : cases) {
-        const cDIBSection source = test::filledBuffer(1, 1, pixel);
-        cDIBSection autogen = test::filledBuffer(1, 1, held), eightBit = test::createdBuffer(1, 1);
-        colouriser.processAutogen(source, autogen);
-        EXPECT_EQ(test::pixelAt(autogen, 0, 0), isSkipped ? held : processed(pixel));
-        colouriser.process8Bit(source, eightBit);
-        EXPECT_EQ(test::pixelAt(eightBit, 0, 0), processed(pixel));
-    }
+    EXPECT_EQ(user.told(), (QStringList{invalid, invalid, u"Error|Morvane Error|Overflow"_s}));
 }
 
 // Columns and rows of groups count from 1; row 255 is the band of rows 2 to 30, whatever the columns.

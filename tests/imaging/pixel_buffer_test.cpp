@@ -2,9 +2,7 @@
 
 #include "core/literals.h"
 #include "imaging/pixel_patterns.h"
-#include "support/printing.h"
 #include "support/raised_error.h"
-#include "support/scripted_services.h"
 #include "support/temporary_folder.h"
 
 #include <QImage>
@@ -22,9 +20,8 @@ TEST(PixelBuffer, LivesFromCreateToClearUpAndRefusesImpossibleSizes) {
     const std::uint8_t* address = buffer.DIBSectionBitsPtr();
     cDIBSection moved = std::move(buffer);
     EXPECT_EQ(moved.DIBSectionBitsPtr(), address);
-    moved.UseDrawDib(true);
     moved.ClearUp();
-    EXPECT_TRUE(moved.Width() == 0 && !moved.UseDrawDib());
+    EXPECT_EQ(moved.Width(), 0);
     const std::pair<int, int> sizes[] = {{0, 5}, {5, 0}, {-1, 5}, {5, -5}, {40000, 40000}, {2147483647, 1}};
     for (const auto& [width, height] : sizes) {
         moved.Create(4, 4);
@@ -58,56 +55,16 @@ TEST(PixelBuffer, TellsWhyASaveFailed) {
     EXPECT_FALSE(cDIBSection().SavePicture(folder / u"empty.bmp"));
 }
 
-/// Pixels whose red is the column and whose green is the row, counted from the top.
-cDIBSection rulerBuffer(int width, int height) {
-    cDIBSection buffer = test::createdBuffer(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            test::setPixel(buffer, x, height - 1 - y, {x, y, 200});
-    return buffer;
-}
-
-TEST(PixelBuffer, LoadsARegionIntoItsTopLeftCorner) {
-    const cDIBSection source = rulerBuffer(6, 5);
-    cDIBSection part = test::filledBuffer(4, 4, {9, 9, 9});
-    part.LoadPictureBlt(source, 4, 3, 3, 1);
-    EXPECT_EQ(test::pixelAt(part, 0, 3), (RgbColour{4, 3, 200}));
-    EXPECT_EQ(test::pixelAt(part, 1, 3), (RgbColour{5, 3, 200}));
-    EXPECT_EQ(test::pixelAt(part, 2, 3), (RgbColour{9, 9, 9})); // beyond the source
-    EXPECT_EQ(test::pixelAt(part, 0, 2), (RgbColour{9, 9, 9})); // one row was asked for
-    part.LoadPictureBlt(source, -3, -3);
-    EXPECT_EQ(test::pixelAt(part, 3, 0), (RgbColour{0, 0, 200}));
-}
-
-TEST(PixelBuffer, PaintsIntoAnImage) {
+/// Rows stand bottom-up in the buffer, and not in the image.
+TEST(PixelBuffer, PaintsIntoAnImageTheRightWayUp) {
+    cDIBSection buffer = test::filledBuffer(6, 5, {0, 0, 200});
+    test::setPixel(buffer, 3, 0, {10, 20, 30});
     QImage image(8, 8, QImage::Format_RGB32);
     image.fill(Qt::black);
-    rulerBuffer(6, 5).PaintPicture(image, 1, 2, 2, 1, 3, 4);
-    EXPECT_EQ(image.pixel(2, 2), qRgb(4, 4, 200));
-    EXPECT_EQ(image.pixel(3, 2), qRgb(0, 0, 0));
-}
-
-// Operations that the program offers and nothing calls.
-TEST(PixelBuffer, OffersWhatNothingCalls) {
-    cDIBSection wide;
-    ASSERT_TRUE(wide.CreateDIB32(2, 2));
-    EXPECT_EQ(wide.BytesPerScanLine(), 8); // too small for 32 bits, as ever
-
-    cDIBSection noise = test::createdBuffer(2, 2);
-    test::ScriptedRandom rows, columns;
-    rows.numbers = columns.numbers = {1 / 255.0, 2 / 255.0, 3 / 255.0, 4 / 255.0};
-    noise.RandomiseBits(true, rows);
-    EXPECT_EQ(test::pixelAt(noise, 1, 0), (RgbColour{2, 2, 2}));
-    noise.RandomiseBits(false, columns);
-    EXPECT_EQ(test::pixelAt(noise, 0, 1), (RgbColour{4, 3, 0}));
-
-    const cDIBSection source = rulerBuffer(5, 3);
-    const auto larger = source.Resample(4, 10);
-    // Row 1 of 4 lies at 0.5 of the rows 0 and 1, which are 2 and 1: 1.5 becomes 2. Column 9 lies at 3.6.
-    EXPECT_EQ(test::pixelAt(larger.value(), 9, 1), (RgbColour{4, 2, 200}));
-    EXPECT_EQ(test::pixelAt(*source.Resample(3, 5), 4, 2), (RgbColour{4, 0, 200}));
-    EXPECT_FALSE(source.Resample(0, 5));
-    EXPECT_FALSE(cDIBSection().Resample(2, 2));
+    buffer.PaintPicture(image);
+    EXPECT_EQ(image.pixel(3, 4), qRgb(10, 20, 30));
+    EXPECT_EQ(image.pixel(3, 0), qRgb(0, 0, 200));
+    EXPECT_EQ(image.pixel(6, 0), qRgb(0, 0, 0));
 }
 
 } // namespace

@@ -130,23 +130,6 @@ TEST(TextureCodec, averagesAreRoundedToNearestAndASideOfOneStays) {
     }
 }
 
-TEST(TextureCodec, noBlockHasAHole) {
-    std::mt19937 random(3);
-    for (const unsigned range : {1U, 2U, 3U, 5U, 9U, 40U, 256U}) {
-        const QByteArray texture = compressTexture(painted(64, 64, [&](int x, int) {
-            const auto channel = [&] {
-                return std::min(255, x / 4 * 16 + static_cast<int>(random() % range));
-            };
-            return Colour{channel(), channel(), channel()};
-        }));
-        for (int at = 74; at < texture.size(); at += 8) {
-            const quint32 ends = longIn(texture, at), indexes = longIn(texture, at + 4);
-            const bool hasThreeColours = (ends & 0xFFFF) <= ends >> 16;
-            EXPECT_FALSE(hasThreeColours && (indexes & indexes >> 1 & 0x55555555) != 0) << range << ' ' << at;
-        }
-    }
-}
-
 // Some readers take a block with equal ends as one of three colours: only index 0 is safe there.
 TEST(TextureCodec, oneColourStaysOneAndEqualEndsHaveIndexZeroOnly) {
     for (int value = 0; value < 256; ++value) {

@@ -82,6 +82,8 @@ TEST(WindowRegion, damagedFilesAreRefused) {
         {"a far end", withLong(good, 40, 0x80000000)},
         {"an empty rectangle", withLong(good, 40, 2)},
         {"a rectangle out of bounds", withLong(good, 40, 7)},
+        {"one that reaches into the next row", withLong(good, 32 + 16 + 12, 4)},
+        {"two that touch", withLong(good, 32 + 3 * 16 + 8, 5)},
         {"two that overlap", withLong(good, 32 + 3 * 16 + 8, 6)},
         {"one out of its row", withLong(good, 32 + 16 + 4, 0)},
     };

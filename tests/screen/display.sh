@@ -141,26 +141,6 @@ hasFocus() {
     [ "$(xdotool getwindowfocus 2>/dev/null)" = "$1" ]
 }
 
-# Is there nothing but the screen itself, so that a click goes past all windows?
-isMouseOverNothing() {
-    local under screen
-    under=$(xdotool getmouselocation --shell | sed -n 's/^WINDOW=//p')
-    screen=$(xwininfo -root -int | sed -n 's/^xwininfo: Window id: \([0-9]*\).*/\1/p')
-    [ "$under" = "$screen" ]
-}
-
-isMouseOverWindow() {
-    ! isMouseOverNothing
-}
-
-hasTip() {
-    local id
-    for id in $(visibleWindows); do
-        if xprop -id "$id" _NET_WM_WINDOW_TYPE 2>/dev/null | grep -q TOOLTIP; then return 0; fi
-    done
-    return 1
-}
-
 moveMouse() {
     xdotool mousemove --window "$1" "$2" "$3"
 }

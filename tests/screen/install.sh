@@ -24,31 +24,8 @@ setNames() {
     groundSets | cut -d'|' -f1 | grep -vx Default
 }
 
-setsWithCover() {
-    groundSets | grep -v '^Default|' | grep -c "|$1|"
-}
-
 installedSets() {
     groundSets | grep '|true$' | cut -d'|' -f1
-}
-
-# fileNames FOLDER...: as the simulator reads them, without regard to case.
-fileNames() {
-    find "$@" -type f -printf '%f\n' | tr '[:upper:]' '[:lower:]' | sort
-}
-
-# A finished set has a texture for each base image of the two folders that fill its "Texture".
-isWhole() {
-    local textures="$home/Texture Sets/$1/Texture"
-    [ -z "$(find "$textures" -type f -empty)" ] &&
-        [ "$(fileNames "$textures")" = "$(fileNames "$home/Resources/GENERIC WORLD" "$home/Resources/UT EUROPE")" ]
-}
-
-areAllWhole() {
-    local name
-    while read -r name; do
-        isWhole "$name" || return 1
-    done < <(setNames)
 }
 
 # No folder without its row, no row without its folder.
@@ -65,9 +42,3 @@ isInSimulator() {
     done
 }
 
-# Paths of the install's files but those that a session may bring: sets, intermediate files, the saved flights that a
-# start gathers, and the simulator's files that were kept before an install.
-otherFiles() {
-    find "$home" -type f -not -path '*/Texture Sets/*' -not -path '*/Backup/Originals/*' \
-        -not -path '*/TempBitmaps/*' -not -path '*/Flights/*' -printf '%P\n' | sort
-}

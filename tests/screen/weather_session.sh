@@ -56,9 +56,18 @@ serveCycle() {
     "$programs/morvane-cli" --home "$home" sky create "Pro Sky" 0 0 0 1 0 2>/dev/null || fail "no sky sets"
 }
 
+dragMainWindow() {
+    say "The main window has an outline and is dragged by its background"
+    startWindows
+    expect "the main window lies on the screen" isOnScreen "$mainWindow"
+    expect "the main window has an outline" hasOutline "$mainWindow"
+    waitFor "the keyboard in the main window" hasFocus "$mainWindow" # a press before it would be lost
+    moveMouse "$mainWindow" 300 78
+    dragBy "$mainWindow" 300 78 -60 45
+}
+
 refreshCycle() {
     say "The weather page refreshes the cycle over HTTP, after a question"
-    startWindows
     click "$mainWindow" $weatherKey
     click "$mainWindow" $inhibitBox
     expect "no cycle file yet" hasNoCycleFile
@@ -153,6 +162,7 @@ flyBetweenAirports() {
     expect "the simulator has not started yet" test ! -e "$simulator/fs9.starts.jsonl"
     press "$way" Return
     expectInstall "Mostly Cloudy" Return
+    expect "its files are in the simulator" isInSimulator "$(setFor "Mostly Cloudy")"
     waitFor "the simulator's start" hasStarted
     waitFor "the main window to go" isHidden "$mainWindow"
 }
@@ -160,6 +170,7 @@ flyBetweenAirports() {
 makeInstall || fail "no install"
 serveCycle
 startDisplay
+dragMainWindow
 refreshCycle
 chooseAirports
 flyByReport

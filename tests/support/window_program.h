@@ -133,7 +133,7 @@ public:
     }
 
     /// A sky texture for every base set and for the other times of day, no two alike.
-    void addSkyStock() {
+    void addSkyStock() const {
         const FilePath stock = install.home() / u"Resources\\Sky";
         int shade = 30;
         for (const QString& base : skyBaseSetBoxes())

@@ -16,7 +16,6 @@ using InstallContent = MadeInstall;
 
 TEST_F(InstallContent, hasTheFoldersThatTheProgramReadsOrWrites) {
     const QString folders = files.read(test::testFile(u"install_folders.txt"));
-    EXPECT_EQ(folders.count(u'\n'), 39);
     for (const QString& folder : folders.split(u'\n', Qt::SkipEmptyParts))
         EXPECT_TRUE(files.isFolder(beside(folder))) << folder.toStdString();
 }

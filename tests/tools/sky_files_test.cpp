@@ -35,17 +35,6 @@ TEST_F(SkyFiles, everyFolderHoldsSkyMapsAndTheDefaultSetThoseOfItsBase) {
                 test::contentsBelow(sky / u"Default"));
 }
 
-TEST_F(SkyFiles, theSimulatorHasMapsOfItsOwnUnderAllTheNames) {
-    const FilePath own = simulator() / u"Texture";
-    EXPECT_EQ(files.list(own, u"SKY_*.BMP"_s).size(), 3 * 24);
-    for (const char16_t* folder : {u"Default", u"Sunrise", u"Sunset"}) {
-        const FilePath base = home() / u"Resources\\Sky" / folder;
-        for (const QString& name : files.list(base, u"*.bmp"_s))
-            EXPECT_NE(files.read(own.child(name.toUpper())), files.read(base.child(name)))
-                << name.toStdString();
-    }
-}
-
 TEST_F(SampleFlights, areGatheredWithoutAQuestionAndThePilotsWin) {
     const auto delivered = test::contentsBelow(home() / u"Flights");
     EXPECT_EQ(delivered.size(), 6);

@@ -5,13 +5,10 @@
 #include "imaging/bitmap_header.h"
 #include "imaging/picture_reader.h"
 #include "night/night_files.h"
-#include "night/night_samples.h"
 #include "night/night_sets.h"
 #include "sets/catalogue_file.h"
-#include "sets/sample_choice.h"
 #include "support/printing.h"
 
-#include <QImage>
 #include <QSet>
 #include <cmath>
 
@@ -64,51 +61,22 @@ TEST_F(StockFiles, everyBaseImageHasItsBodyAndTheBodyShowsIt) {
     }
 }
 
+/// A change of the ground must be seen; and the options replace only what is there: both forms of the
+/// tropics.
 TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
-    // The options replace only what is there: every Dutch file and both forms of the tropics.
-    const auto namesForTheOptions = [this] {
-        QStringList names =
-            files.list(home() / u"DUTCH", u"*"_s) + files.list(home() / u"DUTCH NIGHT", u"*"_s);
-        for (const QString& pattern : tropicalPatterns(TropicalForm::b))
-            names += files.list(home() / u"GENERIC WORLD", pattern + u"*"_s);
-        for (QString& name : names)
-            name = (name.contains(u"b2") ? tropicalName(name) : name).toUpper();
-        return names;
-    };
-    const std::pair<const char16_t*, QStringList> places[] = {
-        {u"Scenery\\World\\Texture", {u"GENERIC WORLD"_s, u"UT EUROPE"_s, u"GENERIC WORLD NIGHT"_s}},
-        {u"Scenery\\UTEurLC\\Texture", {u"UTIND"_s}}};
-    for (const auto& [place, folders] : places) {
-        QStringList expected;
-        for (const QString& folder : folders) {
-            for (const QString& name : files.list(home().child(folder), u"*.*"_s)) {
-                expected << name.toUpper();
-                const QByteArray own = files.read((simulator() / place).child(name.toUpper()));
-                const QByteArray body = files.read(home().child(folder).child(name));
-                EXPECT_EQ(own.size(), textureSize);
-                EXPECT_EQ(headerOf(own).kind, PixelKind::dxt1);
-                // A change of the ground must be seen.
-                EXPECT_NE(own, body) << name.toStdString();
-                // Near black differs by little, whatever its colour.
-                if (isSampled(name) && !folder.endsWith(u" NIGHT")) {
-                    EXPECT_LT(likeness(readPicture(own), readPicture(body)), 32) << name.toStdString();
-                }
-            }
+    const FilePath world = simulator() / u"Scenery\\World\\Texture";
+    for (const QString& folder : resourceFolders) {
+        const FilePath target = folder == u"UTIND" ? simulator() / u"Scenery\\UTEurLC\\Texture" : world;
+        for (const QString& name : files.list(home().child(folder), u"*.*"_s)) {
+            const QByteArray own = files.read(target.child(name.toUpper()));
+            EXPECT_EQ(own.size(), textureSize) << name.toStdString();
+            EXPECT_EQ(headerOf(own).kind, PixelKind::dxt1);
+            EXPECT_NE(own, files.read(home().child(folder).child(name))) << name.toStdString();
         }
-        if (place == places[0].first) expected += namesForTheOptions();
-        expected.removeDuplicates();
-        expected.sort();
-        // Spelled in upper case on the disk, one file a name.
-        QStringList found = files.list(simulator() / place, u"*.*"_s);
-        found.sort();
-        EXPECT_EQ(found, expected);
     }
-}
-
-TEST_F(StockCatalogue, everySampleOfTheNightIsThere) {
-    for (const SampleChoice& sample : nightSamples())
-        EXPECT_TRUE(files.exists(nightSampleTexture(session.AppPath, sample.key)))
-            << sample.key.toStdString();
+    for (const QString& pattern : tropicalPatterns(TropicalForm::b))
+        for (const QString& name : files.list(home() / u"GENERIC WORLD", pattern + u"*"_s))
+            EXPECT_TRUE(files.exists(world.child(tropicalName(name).toUpper()))) << name.toStdString();
 }
 
 TEST_F(StockCatalogue, deliveredNightSetsHaveTheirFiles) {
@@ -124,36 +92,6 @@ TEST_F(StockCatalogue, deliveredNightSetsHaveTheirFiles) {
     EXPECT_EQ(contents.size(), 4) << "no two have the same colours";
     for (const QString& folder : NightKind::facts().subfolders)
         EXPECT_TRUE(files.list(home() / u"TempBitmaps" / folder, u"*.*"_s).isEmpty());
-}
-
-TEST_F(StockFiles, splashesAreDifferentBitmapsOf24Bits) {
-    QSet<QByteArray> contents;
-    for (const char16_t* name : {u"SKC", u"FEW", u"SCT", u"BKN", u"OVC"}) {
-        const FilePath file = home() / u"Media" / u"dlgSplash%1.bmp"_s.arg(QStringView(name));
-        const QByteArray splash = files.read(file);
-        EXPECT_EQ(splash.at(28), 24); // bits a pixel
-        EXPECT_EQ(readPicture(splash).rows.size(), std::size_t{1500} * 350);
-        contents << splash;
-    }
-    const QByteArray own = files.read(home() / u"Media\\dlgsplash.bmp");
-    contents << own;
-    EXPECT_EQ(contents.size(), 6);
-    EXPECT_EQ(files.read(simulator() / u"Uires\\dlgsplash.bmp"), own);
-}
-
-TEST_F(StockFiles, halosAreBrightInTheMiddleAndBlackAtTheirEdge) {
-    QSet<QByteArray> contents;
-    for (const char16_t* name : {u"halo.bmp", u"halodefault.bmp"}) {
-        const QByteArray halo = files.read(home() / u"Media" / name);
-        const QImage picture = QImage::fromData(halo);
-        EXPECT_EQ(picture.size(), QSize(64, 64));
-        EXPECT_GT(qGray(picture.pixel(32, 32)), 240);
-        for (int x = 0; x < 64; ++x)
-            EXPECT_EQ(qGray(picture.pixel(x, 0)), 0) << "a square would stand round each lamp";
-        contents << halo;
-    }
-    EXPECT_EQ(contents.size(), 2);
-    EXPECT_EQ(files.read(simulator() / u"Texture\\halo.bmp"), files.read(home() / u"Media\\halodefault.bmp"));
 }
 
 TEST_F(StockCatalogue, noBaseImageIsWithoutUse) {

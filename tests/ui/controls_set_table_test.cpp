@@ -116,19 +116,6 @@ TEST_F(SetTableTest, storedRedAndBluePaintAsTheDesignsOwn) {
     EXPECT_EQ(table.topLevelItem(1)->toolTip(0), u"a tip"_s);
 }
 
-TEST_F(SetTableTest, aSelectedRowKeepsItsColour) {
-    table.selectRow(2);
-    const QImage shown = table.viewport()->grab().toImage();
-    const QRect row = cell(2, 2);
-    EXPECT_EQ(shown.pixel(row.left() + 2, row.top() + 10), palette::selectedRow);
-    EXPECT_EQ(shown.pixel(1, row.top() + 10), palette::accentOnPaper) << "the bar at its left";
-    int leastGreen = 255; // of the text: dark only where it is red
-    for (int x = row.left(); x < row.right(); ++x)
-        if (const QRgb pixel = shown.pixel(x, row.top() + 10); qRed(pixel) > 190)
-            leastGreen = std::min(leastGreen, qGreen(pixel));
-    EXPECT_LT(leastGreen, 80);
-}
-
 TEST_F(SetTableTest, aRowSelectedFromCodeIsBroughtIntoView) {
     for (int number = 4; number <= 40; ++number)
         table.addRow({u"Key:%1"_s.arg(number), {u"set"_s}, {}});

@@ -1,5 +1,5 @@
 #include "core/literals.h"
-#include "support/printing.h"
+#include "support/raised_error.h"
 #include "ui/controls/slider.h"
 #include "ui/controls/slider_tip.h"
 
@@ -11,49 +11,26 @@
 namespace morvane {
 namespace {
 
-TEST(SliderScale, valueAndPositionAgreeOnBothAxes) {
-    const SliderScale across{SliderOrientation::horizontal, 89, -100, 100};
-    const SliderScale upright{SliderOrientation::vertical, 89, -100, 100};
-    EXPECT_DOUBLE_EQ(across.positionOf(-100), 0);
-    EXPECT_DOUBLE_EQ(across.positionOf(0), 44.5);
-    EXPECT_DOUBLE_EQ(upright.positionOf(100), 0) << "the highest value is at the top";
-    EXPECT_DOUBLE_EQ(upright.positionOf(-100), 89);
-    for (int value = -100; value <= 100; ++value) {
-        ASSERT_EQ(across.valueAt(across.positionOf(value)), value);
-        ASSERT_EQ(upright.valueAt(upright.positionOf(value)), value);
-    }
-}
-
 TEST(SliderScale, roundsHalvesToTheEvenNeighbourAndStaysOnTheRail) {
-    const SliderScale scale{SliderOrientation::horizontal, 20, -5, 5}; // half a step every pixel
+    const SliderScale scale{20, -5, 5}; // half a step every pixel
     const std::pair<double, int> cases[] = {{1, -4}, {3, -4}, {5, -2}, {11, 0}, {13, 2}, {15, 2}};
     for (const auto& [position, value] : cases)
         EXPECT_EQ(scale.valueAt(position), value) << position;
+    EXPECT_DOUBLE_EQ(scale.positionOf(2), 14);
     EXPECT_DOUBLE_EQ(scale.onRail(-3), 0);
     EXPECT_DOUBLE_EQ(scale.onRail(20.5), 20);
-    EXPECT_DOUBLE_EQ(scale.positionOf(9), 20) << "a value above the range lies at its end";
-    EXPECT_EQ((SliderScale{SliderOrientation::horizontal, 0, -5, 5}.valueAt(0)), -5) << "no room to move";
+    EXPECT_EQ((SliderScale{0, -5, 5}.valueAt(0)), -5) << "no room to move";
 }
 
-/// A slider as the colour pages have it, with the names of its events in the
-/// order told.
+/// A slider as the colour pages have it; it counts what it tells.
 class SliderTest : public testing::Test {
 protected:
     SliderTest() {
-        slider.readProperties({{u"Min"_s, -100}, {u"Max"_s, 100}, {u"Orientation"_s, 0}});
         slider.resize(100, 20);
         slider.show();
-        note(&ucSlider::Click, u"Click"_s);
-        note(&ucSlider::ArrivedFirst, u"ArrivedFirst"_s);
-        note(&ucSlider::ArrivedLast, u"ArrivedLast"_s);
-        note(&ucSlider::Change, u"Change"_s);
-        note(&ucSlider::MouseDown, u"MouseDown"_s);
-        note(&ucSlider::MouseUp, u"MouseUp"_s);
+        slider.setValue(0);
+        QObject::connect(&slider, &ucSlider::Change, [this] { ++changes; });
     }
-    void note(void (ucSlider::*signal)(), const QString& name) {
-        QObject::connect(&slider, signal, [this, name] { events += name; });
-    }
-    QStringList takeEvents() { return std::exchange(events, {}); }
     const ucSliderTip* tip() const { return slider.findChild<ucSliderTip*>(); }
     void press(const QPoint& place) { QTest::mousePress(&slider, Qt::LeftButton, {}, place); }
     void release(const QPoint& place) { QTest::mouseRelease(&slider, Qt::LeftButton, {}, place); }
@@ -64,53 +41,17 @@ protected:
         QApplication::sendEvent(&slider, &move);
     }
 
-    ucSlider slider;
-    QStringList events;
+    ucSlider slider{-100, 100};
+    int changes = 0;
 };
 
-TEST_F(SliderTest, settingTheValueTellsChangeAndThenTheEndItArrivedAt) {
-    const std::pair<int, QStringList> cases[] = {{0, {}},
-                                                 {100, {u"Change"_s, u"ArrivedLast"_s}},
-                                                 {100, {}},
-                                                 {-100, {u"Change"_s, u"ArrivedFirst"_s}},
-                                                 {7, {u"Change"_s}}};
-    for (const auto& [value, told] : cases) {
+TEST_F(SliderTest, tellsOfANewValueAndRefusesOneOutside) {
+    for (const int value : {7, 7, 100, -100})
         slider.setValue(value);
-        EXPECT_EQ(takeEvents(), told) << value;
-    }
-}
-
-// Wanted: a new `min` takes the value along, a new `max` does not, even when it
-// leaves the value outside.
-TEST_F(SliderTest, minMovesTheValueAndMaxDoesNot) {
-    slider.setValue(5);
-    takeEvents();
-    slider.setMin(-50);
-    EXPECT_EQ(slider.value(), -50);
-    EXPECT_EQ(takeEvents(), (QStringList{u"Change"_s, u"ArrivedFirst"_s}));
-    slider.setValue(80);
-    takeEvents();
-    slider.setMax(60);
-    EXPECT_EQ(slider.value(), 80);
-    EXPECT_EQ(takeEvents(), QStringList());
-    EXPECT_LE(slider.thumbPlace().right(), 100) << "the thumb stays on the rail all the same";
-}
-
-TEST_F(SliderTest, refusesWhatLeavesNoRangeOrLiesOutside) {
-    slider.setValue(5);
-    takeEvents();
+    EXPECT_EQ(changes, 3);
     for (const int outside : {101, -101})
-        EXPECT_THROW(slider.setValue(outside), InvalidPropertyValue);
-    for (const int tooMuch : {100, 101})
-        EXPECT_THROW(slider.setMin(tooMuch), InvalidPropertyValue);
-    EXPECT_THROW(slider.setMax(-100), InvalidPropertyValue);
-    for (const QVariantMap& stored : {QVariantMap{{u"Value"_s, 11}}, QVariantMap{{u"Min"_s, 10}}})
-        EXPECT_THROW(slider.readProperties(stored), InvalidPropertyValue);
-    EXPECT_EQ(static_cast<int>(InvalidPropertyValue().code()), 380);
-    EXPECT_EQ(slider.min(), -100);
-    EXPECT_EQ(slider.max(), 100);
-    EXPECT_EQ(slider.value(), 5);
-    EXPECT_EQ(takeEvents(), QStringList());
+        EXPECT_EQ(test::codeRaisedBy([&] { slider.setValue(outside); }), ErrorCode::invalidPropertyValue);
+    EXPECT_EQ(slider.value(), -100);
 }
 
 TEST_F(SliderTest, theWheelMovesItByOneStepANotch) {
@@ -130,19 +71,16 @@ TEST_F(SliderTest, theWheelMovesItByOneStepANotch) {
 
 TEST_F(SliderTest, clickOnTheRailCentresTheThumbAndMovesTheValueAtOnce) {
     press({77, 10});
-    EXPECT_EQ(takeEvents(), (QStringList{u"Change"_s, u"MouseDown"_s}));
     EXPECT_EQ(slider.value(), 61); // (77 - 5.5) / 89 of 200, less 100, is 60.67
     EXPECT_NEAR(slider.thumbPlace().center().x(), 77, 0.25) << "at the step next to the pointer";
     release({77, 10});
-    EXPECT_EQ(takeEvents(), (QStringList{u"MouseUp"_s, u"Click"_s}));
     QTest::mousePress(&slider, Qt::RightButton, {}, QPoint(10, 10));
-    EXPECT_EQ(takeEvents(), QStringList());
+    EXPECT_EQ(slider.value(), 61);
 }
 
 TEST_F(SliderTest, dragKeepsTheGrabbedPointAndStopsAtTheEnds) {
     press({48, 10}); // inside the thumb of 44.5 to 55.5
     EXPECT_EQ(slider.value(), 0) << "grabbing the thumb moves nothing";
-    EXPECT_EQ(takeEvents(), QStringList{u"MouseDown"_s});
     drag({56.9, 10});
     EXPECT_EQ(slider.value(), 20);
     drag({400, -30});
@@ -150,9 +88,7 @@ TEST_F(SliderTest, dragKeepsTheGrabbedPointAndStopsAtTheEnds) {
     EXPECT_DOUBLE_EQ(slider.thumbPlace().right(), 100);
     drag({-400, 30});
     EXPECT_DOUBLE_EQ(slider.thumbPlace().left(), 0);
-    takeEvents();
     release({-400, 30});
-    EXPECT_EQ(takeEvents(), QStringList{u"MouseUp"_s}) << "let go elsewhere is no click";
     drag({50, 10});
     EXPECT_EQ(slider.value(), -100) << "the drag is over";
 }
@@ -186,29 +122,6 @@ TEST_F(SliderTest, keysMoveTheValueWithinItsLimits) {
         QTest::keyClick(&slider, key);
         EXPECT_EQ(slider.value(), value) << key;
     }
-}
-
-TEST_F(SliderTest, verticalSliderHasItsMaximumAtTheTop) {
-    slider.setOrientation(SliderOrientation::vertical);
-    slider.resize(20, 100);
-    QTest::mouseClick(&slider, Qt::LeftButton, {}, QPoint(10, 1));
-    EXPECT_EQ(slider.value(), 100);
-    EXPECT_DOUBLE_EQ(slider.thumbPlace().top(), 0);
-}
-
-TEST_F(SliderTest, picturesTakeThePlaceOfTheDrawnRailAndThumb) {
-    QPixmap rail(100, 6), thumb(20, 10);
-    rail.fill(Qt::green);
-    thumb.fill(Qt::red);
-    slider.setBackColor(Qt::white);
-    slider.setRailStyle(SliderRail::picture);
-    slider.setRailImage(rail);
-    slider.setSliderImage(thumb);
-    EXPECT_EQ(slider.thumbPlace(), QRectF(40, 5, 20, 10));
-    const QImage shown = slider.grab().toImage();
-    EXPECT_EQ(shown.pixelColor(10, 6), QColor(Qt::white));
-    EXPECT_EQ(shown.pixelColor(10, 7), QColor(Qt::green)) << "half of the spare height above it";
-    EXPECT_EQ(shown.pixelColor(50, 7), QColor(Qt::red)) << "the thumb lies over the rail";
 }
 
 } // namespace

@@ -100,18 +100,20 @@ TEST_F(SkinnedButtonTest, isPressedByTheKeysAndByCode) {
     EXPECT_EQ(clicks.count(), 3);
 }
 
-TEST_F(SkinnedButtonTest, movesItsStripByItsHeight) {
-    for (int frame = 0; frame < 4; ++frame) {
-        key.setState(static_cast<ButtonState>(frame));
-        EXPECT_EQ(key.frameOffset(), -43 * frame);
+TEST_F(SkinnedButtonTest, showsTheFrameOfItsStateAndKeepsItsStripWhereAPictureIsMissing) {
+    const QColor frames[] = {Qt::red, Qt::green, Qt::blue, Qt::white};
+    QImage strip(key.width(), 4 * key.height(), QImage::Format_RGB888);
+    for (int y = 0; y < strip.height(); ++y)
+        for (int x = 0; x < strip.width(); ++x)
+            strip.setPixelColor(x, y, frames[y / key.height()]);
+    ASSERT_TRUE(strip.save((folder / u"four.bmp").native()));
+    for (const QString& picture : {u"four"_s, u"missing"_s}) {
+        key.setPicture(picture);
+        for (int frame = 0; frame < 4; ++frame) {
+            key.setState(static_cast<ButtonState>(frame));
+            EXPECT_EQ(key.grab().toImage().pixelColor(2, 2), frames[frame]) << frame;
+        }
     }
-}
-
-TEST_F(SkinnedButtonTest, isNamedForThoseWhoCannotSeeIt) {
-    key.setToolTip(u"Click to create texture sets."_s);
-    EXPECT_EQ(key.accessibleName(), u"Click to create texture sets."_s);
-    key.setButtonText(u" Create\nGround Sets "_s);
-    EXPECT_EQ(key.accessibleName(), u"Create Ground Sets"_s);
 }
 
 TEST(DispatchTable, comparesFormsExactlyAndKeysInAnyCase) {

@@ -23,15 +23,6 @@ struct MessageScreenTest : testing::Test {
     Control& control(const QString& part) {
         return program.control<Control>(name, part);
     }
-    /// Which of OK, Cancel, bar's cancel and the box show, as letters.
-    QString shown() {
-        QString letters;
-        for (const auto& [part, letter] :
-             {std::pair(u"btn_Ok"_s, u'o'), std::pair(u"btn_Cancel"_s, u'c'), std::pair(u"cmdCancel"_s, u'p'),
-              std::pair(u"chkFastExit"_s, u'x')})
-            if (!control<QWidget>(part).isHidden()) letters += letter;
-        return letters;
-    }
     /// Answers the system box that comes next.
     void answerBox(QMessageBox::StandardButton button) {
         auto* timer = new QTimer(&program.shell);
@@ -51,25 +42,6 @@ struct MessageScreenTest : testing::Test {
     Message question{MessageKind::question, u"t"_s, u"x"_s, true, true};
     Message progress{MessageKind::progress, u"Working"_s, u"Please wait"_s, false, true, true};
 };
-
-TEST_F(MessageScreenTest, laysOutItsKeysByTheMessage) {
-    Message exitQuestion = question;
-    exitQuestion.offersFastExit = true;
-    const std::tuple<Message, QString, QPoint> cases[] = {
-        {plain, u"o"_s, {335, 242}},
-        {question, u"oc"_s, {280, 242}},
-        {{MessageKind::exlamation, u"t"_s, u"x"_s, false, true}, u"c"_s, {280, 242}},
-        {exitQuestion, u"ocx"_s, {280, 242}},
-    };
-    for (const auto& [message, keys, okPlace] : cases) {
-        program.whenShown(name, [&, keys = keys, place = okPlace](DialogForm& dialog) {
-            EXPECT_EQ(shown(), keys);
-            EXPECT_EQ(dialog.button(u"btn_Ok"_s)->pos(), place);
-            dialog.cancel();
-        });
-        program.user.showMessage(message);
-    }
-}
 
 TEST_F(MessageScreenTest, answersThroughTheFirstQuestionThatIsAsked) {
     for (const bool ok : {true, false}) {
@@ -175,6 +147,18 @@ TEST_F(MessageScreenTest, updatesTitleTextAndFileLine) {
     EXPECT_EQ(program.text(name, u"lbl_Message"_s), u"Please wait"_s);
     EXPECT_EQ(program.text(name, u"lblProcessFile"_s), u"Processing file 3 of 9 files"_s);
     program.user.hideMessage();
+}
+
+TEST_F(MessageScreenTest, anUnattendedRunTellsItsMessagesOnStandardError) {
+    program.session.writing->isUnattended = true;
+    testing::internal::CaptureStderr();
+    program.confirmNext(name);
+    program.user.showMessage(plain);
+    program.user.showMessage(progress);
+    program.user.hideMessage();
+    const QString told = QString::fromStdString(testing::internal::GetCapturedStderr());
+    EXPECT_TRUE(told.contains(u"t: x\n"_s)) << told.toStdString();
+    EXPECT_FALSE(told.contains(u"Working"_s)) << "nobody is there to watch it";
 }
 
 TEST_F(MessageScreenTest, storesTheWishForAFastExitAtOnce) {

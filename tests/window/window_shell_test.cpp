@@ -1,3 +1,4 @@
+#include "support/printing.h"
 #include "support/window_program.h"
 
 #include "app/exit_flow.h"
@@ -9,16 +10,13 @@
 #include "ground/ground_sets.h"
 #include "ground/screens/ground_sets_screen.h"
 #include "ground/texture_sets.h"
-#include "imaging/window_region.h"
 #include "sets/options_in_force.h"
 #include "ui/controls/foot_line.h"
-#include "ui/controls/palette.h"
 #include "ui/host_form.h"
 #include "weather/weather_state.h"
 #include "window/form_table.h"
 
 #include <QMessageBox>
-#include <QPainter>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
@@ -68,26 +66,6 @@ TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
     EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
 }
 
-/// The keyboard is on the page and not on the key that led to it, and no window is a stop of its own.
-TEST_F(ShellTest, givesEachPageAFirstFocus) {
-    const std::pair<QString, QString> pages[] = {{u"frm_WxControl"_s, u"txtICAO"_s},
-                                                 {u"frm_About"_s, u"btn_Home"_s},
-                                                 {u"frm_MVTextures"_s, u"lstTextureSets"_s},
-                                                 {u"frm_GroundColorize"_s, u"optCloudCover0"_s}};
-    for (const auto& [page, control] : pages) {
-        if (childPage(page))
-            shell.goToPage(page);
-        else
-            shell.showHost(page);
-        const QWidget* window = shell.form(page)->window();
-        ASSERT_NE(window->focusWidget(), nullptr) << page.toStdString();
-        EXPECT_EQ(window->focusWidget()->objectName(), control) << page.toStdString();
-        EXPECT_EQ(window->focusPolicy(), Qt::NoFocus);
-    }
-    shell.goHome();
-    EXPECT_EQ(shell.form(u"frm_Main"_s)->focusWidget()->objectName(), u"btn_GroundInstall"_s);
-}
-
 TEST_F(ShellTest, theStatusPageCountsSetsAndTellsOfAWideClient) {
     program.install.addGroundSet(u"7-Fair"_s, u"Sky Clear"_s, true);
     program.install.addGroundSet(u"8-Fair"_s, u"Sky Clear"_s, false);
@@ -119,20 +97,6 @@ TEST_F(ShellTest, startsWithoutASkinAndSaysSoOnce) {
     shell.reportMissingSkin(); // would wait for an answer that never comes
 }
 
-/// A picture of twice the size has a finer edge than the outline; what shows between them must not be white.
-TEST_F(ShellTest, isDarkUpToItsOutline) {
-    QImage picture(880, 580, QImage::Format_RGB888);
-    picture.fill(qRgb(255, 0, 255));
-    QPainter(&picture).fillRect(picture.rect().adjusted(2, 2, -2, -2), QColor::fromRgb(palette::bezel));
-    const FilePath media = program.install.home() / u"Media";
-    ASSERT_TRUE(picture.save((media / u"MVSkyInterface.bmp").native()));
-    WindowRegion whole{picture.rect(), {picture.rect()}};
-    test::writeFile(media / u"MainRegion.dat", writeWindowRegion(whole));
-    const QImage shown = shell.form(u"frm_KMTextures"_s)->grab().toImage();
-    EXPECT_EQ(shown.pixel(0, 0), palette::outline);
-    EXPECT_EQ(shown.pixel(shown.width() / 2, shown.height() - 8), palette::bezel);
-}
-
 /// A page's own text goes and comes with the page; what a job said is on whichever window is shown next.
 TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     const auto lineOf = [this](const QString& window) {
@@ -159,14 +123,33 @@ TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
 }
 
-TEST_F(ShellTest, saysOnItsKeyThatALinkHasNoAddress) {
-    shell.goToPage(u"frm_Links"_s);
-    const auto keys = shell.form(u"frm_Links"_s)->findChildren<QPushButton*>();
-    EXPECT_EQ(keys.first()->text(), u"No address"_s);
-    EXPECT_FALSE(keys.first()->isEnabled());
-    EXPECT_TRUE(keys.last()->isEnabled());
+TEST_F(ShellTest, opensNoAddressThatIsNoWebPage) {
     for (const QString& address : {u"file:///etc/passwd"_s, u"javascript:1"_s, u""_s, u"C:\\x.exe"_s})
         EXPECT_FALSE(isWebAddress(address));
+}
+
+TEST_F(ShellTest, theInstallKeyOfEachWindowInstallsWhatIsSelected) {
+    program.install.addGroundSet(u"2-Storm"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s});
+    program.install.addSkySet(u"2-Storm"_s, u"Overcast"_s, true, {u"day.bmp"_s});
+    test::addNightSet(program.install, u"2-Storm"_s, true, {u"Texture\\008b2lm1.bmp"_s});
+    const std::tuple<QString, QString, QString, QString> windows[] = {
+        {u"btn_MVTextures"_s, u"frm_MVTextures"_s, u"lstTextureSets"_s, u"btn_TextureInstall"_s},
+        {u"btn_KMTextures"_s, u"frm_KMTextures"_s, u"lstSkyTextureSets"_s, u"btn_SkyTextureInstall"_s},
+        {u"btn_NightTextures"_s, u"frm_NightTextures"_s, u"lstTextureSets"_s, u"btn_TextureInstall"_s}};
+    for (const auto& [way, window, list, key] : windows) {
+        shell.goHome();
+        program.press(u"frm_Main"_s, way);
+        auto& table = program.control<SetTable>(window, list);
+        EXPECT_EQ(shell.form(window)->focusWidget(), &table) << "the keyboard is on the page";
+        test::clickRow(table, table.rowOf(u"2-Storm"_s), {60});
+        program.toldDuring([&, &window = window, &key = key] { program.press(window, key); },
+                           {u"Launch Flight Simulator?"_s, u"Install Matching Ground Texture Set?"_s,
+                            u"Install Matching Sky Texture Set?"_s});
+    }
+    const QStringList storm{u"2-Storm"_s};
+    EXPECT_EQ(program.install.installedSets(), storm);
+    EXPECT_EQ(program.install.installedSkySets(), storm);
+    EXPECT_EQ(test::nightSets(program.install.session), u"2-Storm+*"_s);
 }
 
 /// What a process does, from its main loop on. A box that comes is answered with that button.

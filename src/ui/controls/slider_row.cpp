@@ -20,15 +20,14 @@ int resetValue(int) {
 } // namespace
 
 SliderRow::SliderRow(const SliderRowSetup& setup, QWidget* parent)
-    : QWidget(parent), slider_(new ucSlider(this)) {
+    : QWidget(parent), slider_(new ucSlider(sliderLowest, sliderHighest, this)) {
     setGeometry({setup.place, rowSize});
     QLabel* name = makeLabel(this, setup.caption, {0, 0, 62, 20}, TextRole::value);
     name->setFont(fontOf(TextRole::body));
     addButton(ButtonSign::minus, setup, {u"Minus"_s, u"Decrement by 5%"_s, 62}, decremented);
     slider_->setObjectName(setup.slider);
     slider_->setAccessibleName(setup.caption);
-    slider_->readProperties({{u"Min"_s, sliderLowest}, {u"Max"_s, sliderHighest}, {u"Value"_s, 0}});
-    slider_->setOrientation(SliderOrientation::horizontal);
+    slider_->setValue(0);
     slider_->setGeometry(87, 0, 100, 20);
     addButton(ButtonSign::plus, setup, {u"Plus"_s, u"Increment by 5%"_s, 192}, incremented);
     label_ = makeLabel(this, sliderLabel(0), {212, 0, 42, 20}, TextRole::number);

@@ -7,14 +7,12 @@
 namespace morvane {
 
 double SliderScale::positionOf(int value) const {
-    const double along = travel * (static_cast<double>(value) - min) / range();
-    return onRail(orientation == SliderOrientation::horizontal ? along : travel - along);
+    return onRail(travel * (static_cast<double>(value) - min) / range());
 }
 
 int SliderScale::valueAt(double position) const {
     if (travel <= 0) return min;
-    const double along = orientation == SliderOrientation::horizontal ? position : travel - position;
-    return roundToLong(along / travel * range() + min);
+    return roundToLong(position / travel * range() + min);
 }
 
 double SliderScale::onRail(double position) const {

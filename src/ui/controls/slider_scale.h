@@ -2,17 +2,14 @@
 
 namespace morvane {
 
-enum class SliderOrientation { horizontal = 0, vertical = 1 };
-
-/// The arithmetic of a slider along the one axis on which its thumb moves. Positions are those of the thumb's
-/// left or top edge in logical pixels from the control's own, fractions kept.
+/// The arithmetic of a slider. Positions are those of the thumb's
+/// left edge in logical pixels from the control's own, fractions kept.
 struct SliderScale {
-    SliderOrientation orientation = SliderOrientation::vertical;
     double travel = 0; ///< length of the control less that of the thumb
     int min = 0;
     int max = 10; ///< above `min`
 
-    /// Where the thumb lies for that value; the highest is at the right, or at the top.
+    /// Where the thumb lies for that value; the highest is at the right.
     /// A value outside the range gives the end of the rail that is next to it.
     double positionOf(int value) const;
     /// The value of a thumb at that position on the rail: the nearest whole one, halves to the even

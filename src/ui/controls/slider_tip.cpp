@@ -12,7 +12,7 @@ namespace morvane {
 namespace {
 
 constexpr QSize spareSize(4, 3), labelPadding(16, 1);
-constexpr int gapAbove = 5, gapBeside = 6;
+constexpr int gapAbove = 5;
 
 } // namespace
 
@@ -39,13 +39,8 @@ void ucSliderTip::setValue(int value) {
     setMask(outline);
 }
 
-void ucSliderTip::showBeside(const QRect& thumb, bool isVertical) {
-    const QPoint centred(thumb.left() + (thumb.width() - width() - spareSize.width()) / 2,
-                         thumb.top() + (thumb.height() - height() - spareSize.width()) / 2);
-    if (isVertical)
-        move(thumb.left() - width() - gapBeside, centred.y());
-    else
-        move(centred.x(), thumb.top() - height() - gapAbove);
+void ucSliderTip::showAbove(const QRect& thumb) {
+    move(thumb.left() + (thumb.width() - width() - spareSize.width()) / 2, thumb.top() - height() - gapAbove);
     show();
 }
 

@@ -15,8 +15,8 @@ public:
 
     /// Writes the value and sizes the window to it.
     void setValue(int value);
-    /// Shows the tip above a thumb at that place on the screen, or left of it for a vertical slider.
-    void showBeside(const QRect& thumb, bool isVertical);
+    /// Shows the tip above a thumb at that place on the screen.
+    void showAbove(const QRect& thumb);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
