@@ -12,6 +12,7 @@
 #include "night/night_texture_sets.h"
 #include "sets/options_in_force.h"
 #include "sets/resource_folders.h"
+#include "sets/set_names.h"
 #include "simulator/backups.h"
 #include "simulator/base_install_rows.h"
 #include "sky/sky_installation.h"
@@ -28,14 +29,12 @@ namespace morvane {
 
 namespace {
 
-const QString defaultSet = u"Default"_s;
-
 /// The cover of the installed set; empty when it is "Default" or when none is installed.
 template <class Sets, class Name>
 QString installedCover(const Sets& sets, Name name) {
     const auto installed =
         std::find_if(sets.begin(), sets.end(), [](const auto& set) { return set->Installed; });
-    if (installed == sets.end() || (**installed).*name == defaultSet) return {};
+    if (installed == sets.end() || (**installed).*name == defaultSetName) return {};
     return (*installed)->CloudCover;
 }
 
@@ -86,11 +85,11 @@ void checkResetTextures(Session& session) {
     if (ground.isEmpty() && sky.isEmpty()) return;
     if (!session.user.ask(Question::reset, resetQuestion(ground, sky))) return;
     if (!ground.isEmpty()) {
-        session.state<GroundSelection>().SelectedGroundSet = defaultSet;
+        session.state<GroundSelection>().SelectedGroundSet = defaultSetName;
         GroundInstallation(session).installTextureSet(true);
     }
     if (!sky.isEmpty()) {
-        session.state<SkySelection>().SelectedSkySet = defaultSet;
+        session.state<SkySelection>().SelectedSkySet = defaultSetName;
         SkyInstallation(session).installSkySet(true);
     }
 }

@@ -65,21 +65,6 @@ bool hasStore(const Session& session);
 /// The session's store; raises when none was ever connected.
 Store& connectedStore(const Session& session);
 
-/// The collection of that name in the session; raises when it was not made yet.
-template <class Collection>
-Collection& required(const std::unique_ptr<Collection>& global) {
-    if (!global) throw Error(ErrorCode::invalidCall);
-    return *global;
-}
-
-/// A reload is always a fresh collection: who holds a record from before keeps it.
-template <class Collection, class... Arguments>
-bool reloadCollection(Session& session, std::unique_ptr<Collection>& global,
-                      bool (Collection::*load)(Arguments...), Arguments... arguments) {
-    global = std::make_unique<Collection>(session);
-    return (*global.*load)(arguments...);
-}
-
 /// Runs the routine; a failure is told in a plain system box without title, as the oldest loaders do.
 bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine);
 

@@ -55,7 +55,7 @@ GroundGeneration::GroundGeneration(Session& session)
 void GroundGeneration::createTextureSets(bool fromMain) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         session_.state<GroundSetCounts>().setCountsConfirmed = false;
         session_.user.showModal(Screen::frm_TsRequired);
         if (!session_.state<GroundSetCounts>().setCountsConfirmed || !job.begin()) return;
@@ -107,7 +107,7 @@ bool GroundGeneration::createRandomSet(const Job& job, int cloudNumber, Counters
 bool GroundGeneration::createSet(const Job& job, int cloudNumber, const SliderValues& sliders,
                                  Counters counters, bool fromMain) {
     bool isStored = false;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         session_.state<GroundSelection>().colours = effectiveColours(sliders);
         clsTextureSet record;
         record.ColorSettings = colourSettingsText(session_.state<GroundSelection>().colours);

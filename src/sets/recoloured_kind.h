@@ -12,7 +12,7 @@ namespace morvane {
 /// in hand all the same, with neutral ones.
 template <class Kind>
 bool loadSelection(Session& session, const QString& listKey) {
-    return reportFailures(session.user, {}, [&] {
+    return reportFailures(session.user, morvaneError, [&] {
         const auto set = findListKey(loadedSets<Kind>(session), listKey);
         auto& selection = session.state<typename Kind::Selection>();
         Kind::takeInHand(selection, *set);

@@ -22,7 +22,7 @@ void SetGeneration::activateInHand() {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
     const SetInHand inHand = set_.inHand(session_);
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         if (!set_.refresh(session_)) return;
         if (const QStringList names = changeableNames(inHand.selection.selectedRows); names.size() > 1)
             activateSeveral(job, names);
@@ -49,7 +49,7 @@ void SetGeneration::activateSeveral(Job& job, const QStringList& names) {
 
 /// Everything that a damaged row makes fail, before anything is stored.
 bool SetGeneration::takeInHand(const StoredSet& set) {
-    return reportFailures(session_.user, {}, [&] {
+    return reportFailures(session_.user, morvaneError, [&] {
         const ColourValues colours = parseColourSettings(set.colourSettings, session_.DecimalSep);
         set_.setFolder(session_, set.name);
         colours_ = colours;
@@ -71,7 +71,7 @@ bool SetGeneration::activate(const Job& job, const StoredSet& set, Counters coun
 void SetGeneration::deleteInHand(bool deactivateMode) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         if (!set_.refresh(session_)) return;
         removeSetsInHand(session_, set_, job, deactivateMode);
         set_.inHand(session_).refreshList = true;

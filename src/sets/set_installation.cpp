@@ -21,7 +21,7 @@ bool SetInstallation::install(bool automatic) {
 SetInstallation::Outcome SetInstallation::run(Job& job, bool automatic) {
     filesCopied_ = 0;
     Outcome outcome = Outcome::failed;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         if (!automatic && !prepareByHand(job)) return;
         if (!job.begin()) return;
         outcome = installSelectedSet() ? Outcome::installed : Outcome::storeRefused;

@@ -90,7 +90,7 @@ void Removal::tellRemoved(qsizetype removed, qsizetype left) {
 
 bool Removal::removeOne(const QString& name) {
     if (name == defaultSetName) {
-        refuse(u"Default"_s);
+        refuse(name);
         return false;
     }
     if (kind_.facts.protectsInstalled && isInstalled(name)) {
@@ -140,7 +140,7 @@ bool removeSetsInHand(Session& session, const SetKind& kind, Job& job, bool deac
 
 bool removeSet(Session& session, const SetKind& kind, const QString& name, bool keepRecord) {
     bool stored = false;
-    reportFailures(session.user, {}, [&] {
+    reportFailures(session.user, morvaneError, [&] {
         const auto set = kind.find(session, name);
         if (!set) return;
         // The record goes first: a failure in between leaves files without a row, never a row without a set.

@@ -82,7 +82,7 @@ public:
     bool RemoveItem(const QString& key) {
         const QString id = keyOf(*this->Item(key));
         this->remove(key);
-        return reportFailures(session_.user, {}, [&] {
+        return reportFailures(session_.user, morvaneError, [&] {
             Store& store = connectedStore(session_);
             StoreTransaction transaction(store);
             store.execute(u"DELETE FROM "_s + table().name + u" WHERE ID = "_s + id);
@@ -92,12 +92,13 @@ public:
     }
     /// A new record gets its key and its final name ("12-Storm") and joins the collection.
     bool Save(Record& record) {
-        return reportFailures(session_.user, {}, [&] { saveRecord(session_, table().rows, record, *this); });
+        return reportFailures(session_.user, morvaneError,
+                              [&] { saveRecord(session_, table().rows, record, *this); });
     }
     /// Writes every set back, the one of that name as installed and all others as not: at most one is at any
     /// time, the first where two rows were given one name. All rows or none.
     bool markInstalled(const QString& name) {
-        return reportFailures(session_.user, {}, [&] {
+        return reportFailures(session_.user, morvaneError, [&] {
             const auto installed = findTrimmedName(*this, name);
             StoreTransaction transaction(connectedStore(session_));
             for (const auto& kept : *this) {
@@ -119,7 +120,7 @@ private:
     bool load(const QString& statement) {
         const auto read = [&] { loadRecords(session_, statement, table().rows, *this); };
         return table().tellsLoadInSystemBox ? reportInSystemBox(session_.user, read)
-                                            : reportFailures(session_.user, {}, read);
+                                            : reportFailures(session_.user, morvaneError, read);
     }
 
     Session& session_;

@@ -63,7 +63,7 @@ void TexturePasses::saveColoured(const CatalogueFile& file) {
 }
 
 void TexturePasses::colourFiles(const std::vector<CatalogueFile>& files, const ColourValues& colours) {
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         session_.user.hideScreen(description_.hiddenScreen);
         Progress progress = openProgress(u"Colorizing"_s, 1, files.size());
         makeTempFolders(files);
@@ -92,7 +92,7 @@ void TexturePasses::makeSetFolders() {
 }
 
 void TexturePasses::convertFiles(const std::vector<CatalogueFile>& files) {
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         Progress progress = openProgress(u"Converting"_s, 2, files.size());
         makeSetFolders();
         OrderedWork<QByteArray> work(static_cast<int>(files.size()), [&](int i) {

@@ -5,8 +5,8 @@
 namespace morvane {
 
 bool PictureSample::openImage(const FilePath& path) {
-    const bool loaded =
-        reportFailures(session_.user, {}, [&] { pictures_ = loadPicturePair(session_.files, path); });
+    const bool loaded = reportFailures(session_.user, morvaneError,
+                                       [&] { pictures_ = loadPicturePair(session_.files, path); });
     process();
     return loaded;
 }

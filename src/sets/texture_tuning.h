@@ -28,7 +28,8 @@ public:
     /// Asks for name and description (frm_AddFav) and saves the favourite.
     void newFavourite() {
         if (askFavouriteName(session_))
-            reportFailures(session_.user, {}, [this] { saveFavourite(session_.state<FavouriteAnswer>()); });
+            reportFailures(session_.user, morvaneError,
+                           [this] { saveFavourite(session_.state<FavouriteAnswer>()); });
     }
 
 protected:

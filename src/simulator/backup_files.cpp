@@ -65,7 +65,7 @@ void clearTheWay(Session& session, const QString& name) {
 /// A new row; nothing after the message of a failure.
 std::optional<clsBackup> addBackup(Session& session) {
     clsBackup backup{u"Backup"_s, 0, session.clock.localTime(), true};
-    if (!session.rows<clsBackups>()->UpdateBackups(backup)) return std::nullopt;
+    if (!session.rows<clsBackups>()->Save(backup)) return std::nullopt;
     clearTheWay(session, backup.BackupName);
     return backup;
 }

@@ -10,6 +10,7 @@
 #include "night/night_selection.h"
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
+#include "sets/set_names.h"
 #include "sets/simulator_copy.h"
 #include "sets/stored_rows.h"
 #include "simulator/base_install_rows.h"
@@ -19,7 +20,7 @@ namespace morvane {
 
 namespace {
 
-const QString defaultSet = u"Default"_s, unchangedColours = u"0:0:0:0:0:0"_s;
+const QString unchangedColours = u"0:0:0:0:0:0"_s;
 const QString copyingTitle = u"Copying Files to Flight Simulator"_s;
 
 void showCopying(Session& session, const QString& text) {
@@ -29,7 +30,7 @@ void showCopying(Session& session, const QString& text) {
 /// One set stays installed, read anew first: no other row may get back what it was when it was loaded.
 void installDefaultGround(Session& session) {
     if (!refreshGroundSets(session)) return;
-    const auto found = findGroundSet(session, defaultSet);
+    const auto found = findGroundSet(session, defaultSetName);
     if (!found) return;
     clsTextureSet set = *found;
     set.CloudCover = u"Partly Cloudy"_s;
@@ -38,14 +39,14 @@ void installDefaultGround(Session& session) {
     set.ColorSettings = unchangedColours;
     set.Installed = true;
     if (session.rows<clsTextureSets>()->Save(set) && refreshGroundSets(session))
-        session.rows<clsTextureSets>()->markInstalled(defaultSet);
+        session.rows<clsTextureSets>()->markInstalled(defaultSetName);
     refreshGroundSets(session);
     session.state<GroundSelection>().RefreshGroundList = true;
 }
 
 void installDefaultNight(Session& session) {
     if (!refreshNightSets(session)) return;
-    const auto found = findNightSet(session, defaultSet);
+    const auto found = findNightSet(session, defaultSetName);
     if (!found) return;
     clsNightTextureSet set = *found;
     set.Description = u"Default Morvane Night Texture Set with no extra settings"_s;
@@ -53,7 +54,7 @@ void installDefaultNight(Session& session) {
     set.ColorSettings = unchangedColours;
     set.Installed = true;
     if (session.rows<clsNightTextureSets>()->Save(set) && refreshNightSets(session))
-        session.rows<clsNightTextureSets>()->markInstalled(defaultSet);
+        session.rows<clsNightTextureSets>()->markInstalled(defaultSetName);
     refreshNightSets(session);
     session.state<NightSelection>().RefreshNightList = true;
 }
@@ -67,7 +68,7 @@ void collectConfig(Session& session, clsConfig config, std::vector<FileCopy>& co
     collectFolderFiles(session, session.AppPath / config.ConfigMVFolder,
                        session.FSPath / config.ConfigFSFolder, copies);
     config.ConfigInstalled = true;
-    session.rows<clsConfigs>()->UpdateConfig(config);
+    writeConfig(session, config);
 }
 
 /// Returns how many came; a source or a target in use is passed over and costs no other.

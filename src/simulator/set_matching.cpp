@@ -8,6 +8,7 @@
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "sets/cloud_cover.h"
+#include "sets/set_names.h"
 #include "simulator/simulator_launch.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
@@ -99,7 +100,7 @@ QString SetMatching::closestSet(const std::vector<ActivatedSet>& sets, ClosestSe
         if (!names.isEmpty()) return names.front();
         current = next;
     }
-    return u"Default"_s;
+    return defaultSetName;
 }
 
 void SetMatching::installMatchingSets(const QString& cover) {

@@ -29,7 +29,7 @@ bool forgetBodies(Session& session) {
         if (!body->ConfigInstalled) continue;
         clsConfig changed = *body;
         changed.ConfigInstalled = false;
-        if (!session.rows<clsConfigs>()->UpdateConfig(changed)) return false;
+        if (!writeConfig(session, changed)) return false;
     }
     return clsConfigs::reload(session);
 }

@@ -8,14 +8,13 @@
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
 #include "sets/options_in_force.h"
+#include "sets/set_names.h"
 #include "sets/simulator_copy.h"
 #include "simulator/options.h"
 
 namespace morvane {
 
 namespace {
-
-const QString defaultSet = u"Default"_s;
 
 FilePath worldTarget(const Session& session) {
     return session.FSPath / u"Scenery\\WORLD\\Texture";
@@ -24,7 +23,7 @@ FilePath worldTarget(const Session& session) {
 /// The base folder for "Default", else the set's. Without an installed set this is a folder that no set has.
 FilePath sourceFolder(const Session& session, const char16_t* baseFolder, const char16_t* sets,
                       const QString& name, const char16_t* subfolder) {
-    if (name == defaultSet) return session.AppPath / baseFolder;
+    if (name == defaultSetName) return session.AppPath / baseFolder;
     const FilePath folder = session.AppPath / sets;
     return (name.isEmpty() ? folder : folder.child(name)) / subfolder;
 }

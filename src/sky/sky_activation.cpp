@@ -14,7 +14,7 @@ namespace morvane {
 void SkyActivation::activateInHand() {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         if (!refreshSkySets(session_)) return;
         const QStringList names = changeableNames(session_.state<SkySelection>().selectedRows);
         // One set gets all three families of files, several get the day's alone, as a generated set does:
@@ -46,7 +46,7 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
                              Counters counters) {
     FilePath folder;
     bool hasColours = false;
-    const bool isWhole = reportFailures(session_.user, {}, [&] {
+    const bool isWhole = reportFailures(session_.user, morvaneError, [&] {
         folder = skySetFolder(session_, set.SkyTextureSet);
         skyStockFolder(session_, set.TextureSetGroup);
         // The colours are the day's whatever the time: the other families are plain copies.
@@ -70,7 +70,7 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
 void SkyActivation::deleteInHand(bool deactivateMode) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         if (!refreshSkySets(session_)) return;
         if (!removeSetsInHand(session_, setKind<SkyKind>(), job, deactivateMode)) return;
         cleanTempBitmaps(session_);

@@ -62,7 +62,7 @@ RunSize runSize(Session& session) {
 void SkyGeneration::createSkySets(bool fromHomeScreen) {
     Job job(session_, Job::Start::behindQuestions);
     if (!job) return;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         session_.state<SkySetCounts>().skySetsConfirmed = false;
         session_.user.showModal(Screen::frm_SelectSkyTexture);
         if (!session_.state<SkySetCounts>().skySetsConfirmed || !session_.user.allowsRun(runSize(session_)))
@@ -117,7 +117,7 @@ void SkyGeneration::takeNewestSet() {
 
 bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal) {
     bool isStored = false;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         const CloudCover* cover = cloudCover(cloudIndex);
         if (!cover) throw Error(ErrorCode::subscript);
         clsSkyTextureSet set;
@@ -158,7 +158,7 @@ bool SkyGeneration::colourSkySetFiles(const QString& setName, const QString& bas
                                       const QString& timeOfDay, const QString& message, int setNumber,
                                       int setTotal) {
     bool done = false;
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         const bool coloured = timeOfDay == skyDay;
         const FilePath target = skySetFolder(session_, setName);
         const FilePath source = skyStockFolder(session_, coloured ? baseSet : timeOfDay);
@@ -206,7 +206,7 @@ void SkyGeneration::newFavSky() {
 
 /// The rows are written before the folder: when it cannot be made they stand.
 void SkyGeneration::saveSkySetFromTuning(const QString& name) {
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         loadSkyTuning(session_);
         const SkyTuningState& tuning = session_.state<SkyTuningState>();
         clsSkyTextureSet set;

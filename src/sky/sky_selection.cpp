@@ -23,7 +23,7 @@ bool loadSkyTextureGroups(Session& session, std::int16_t setKey, const QString& 
 
 bool loadSkySubSet(Session& session, const QString& listKey, const QString& timeOfDay) {
     bool loaded = false;
-    reportFailures(session.user, {}, [&] {
+    reportFailures(session.user, morvaneError, [&] {
         session.state<SkyColourTables>().skyTextureGroups = {};
         const auto set = findListKey(loadedSkySets(session), listKey);
         SkyKind::takeInHand(session.state<SkySelection>(), *set);

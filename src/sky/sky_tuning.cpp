@@ -23,7 +23,7 @@ constexpr auto lowest = static_cast<float>(sliderLowest), highest = static_cast<
 } // namespace
 
 SliderValues SkyTuning::open() {
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         const bool isFirst = !session_.state<SkyTuningState>().isLoaded;
         loadSkyTuning(session_);
         if (isFirst || !sample_.sourceDib().isCreated()) openSelectedBaseSky();
@@ -44,7 +44,7 @@ bool SkyTuning::openSelectedBaseSky() {
 }
 
 void SkyTuning::openBaseSkyImage() {
-    reportFailures(session_.user, {}, [&] {
+    reportFailures(session_.user, morvaneError, [&] {
         session_.state<BaseSkyAnswer>().baseSkyConfirmed = false;
         session_.user.showModal(Screen::frm_SelectBaseSky);
         // For some base sets the sample is loaded whatever the answer, as their choice is in force at its

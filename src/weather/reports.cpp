@@ -93,7 +93,8 @@ std::optional<StoreTransaction> transactionOfLoad(Session& session) {
 } // namespace
 
 bool clsWxFinders::reload(Session& session) {
-    return reloadCollection(session, session.rows<clsWxFinders>(), &clsWxFinders::getMetarsFromDB);
+    session.rows<clsWxFinders>() = std::make_unique<clsWxFinders>(session);
+    return session.rows<clsWxFinders>()->getMetarsFromDB();
 }
 
 bool clsWxFinders::getMetarsFromDB() {
@@ -103,7 +104,7 @@ bool clsWxFinders::getMetarsFromDB() {
 bool clsWxFinderData::GetWeatherFromDb() {
     const FailureReport report{u"Metar Database Error!"_s, MessageKind::exclamation};
     return reportFailures(session_.user, report, [&] {
-        clsWxFinders& finders = required(session_.rows<clsWxFinders>());
+        clsWxFinders& finders = *session_.rows<clsWxFinders>();
         const QString presentYear = QString::number(session_.clock.localTime().date().year());
         RowSet rows(connectedStore(session_), u"SELECT * FROM DECODED_METAR ORDER BY METAR_ICAO"_s);
         // While the program starts the bar is the splash's, which stays silent about an empty table.

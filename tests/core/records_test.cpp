@@ -82,7 +82,7 @@ TEST_F(RecordsTest, everyKindOfRecordSurvivesAReload) {
                 session.rows<clsSkyTextureSets>(), clsSkyTextureSets::reload, &clsSkyTextureSets::Save,
                 u"SKY_TEXTURE_SETS"_s, u"12|12-Storm på Ålborg's 1.5|Overcast|True|d|Pro Sky|1"_s);
     saveAndLoad(clsBackup{u"Backup"_s, 0, clock.now, true}, session.rows<clsBackups>(), clsBackups::reload,
-                &clsBackups::UpdateBackups, u"MV_BACKUP"_s, u"12|12-Backup|2007/05/30 21:14:09"_s);
+                &clsBackups::Save, u"MV_BACKUP"_s, u"12|12-Backup|2007/05/30 21:14:09"_s);
     // A category's name gets no key.
     saveAndLoad(clsResourceFolder{true, 0, u"DUTCH"_s, u"source"_s, u"Scenery\\World"_s, u"Dutch"_s},
                 session.rows<clsResourceFolders>(), clsResourceFolders::reload, &clsResourceFolders::Save,
@@ -212,9 +212,9 @@ TEST_F(RecordsTest, configurationsAreFoundByTheirTitle) {
     clsConfigs::reload(session);
     clsConfig config = *session.rows<clsConfigs>()->GetItem(1);
     config.ConfigInstalled = true;
-    EXPECT_TRUE(session.rows<clsConfigs>()->UpdateConfig(config));
+    EXPECT_TRUE(writeConfig(session, config));
     config.ConfigName = u"No such title"_s;
-    EXPECT_FALSE(session.rows<clsConfigs>()->UpdateConfig(config)); // no row is made
+    EXPECT_FALSE(writeConfig(session, config)); // no row is made
     EXPECT_EQ(rowsOf(u"MV_CONFIG"_s).join(u'/'), "1|Golf's||a.bmp|||1/2|Other||b.bmp|||0");
 }
 
