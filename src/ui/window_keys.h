@@ -15,7 +15,7 @@ struct HostKeys {
     QString colourPicture;
     QString minimiseTip;
 };
-std::vector<ButtonSetup> hostWindowKeys(const HostKeys& keys);
+std::vector<ButtonSetup> hostWindowKeys(const HostKeys& host);
 
 /// Sets every medium key of the window to "enabled" and the one of that key to "disabled", which is how the
 /// current page is marked.

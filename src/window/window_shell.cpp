@@ -174,12 +174,12 @@ void WindowShell::openUpdatePage() {
                 value);
 }
 
-void WindowShell::minimiseProgram() {
+void WindowShell::minimiseProgram() const {
     for (const QString& name : windowNames)
         if (Form* window = loadedForm(name); window && window->isVisible()) return window->showMinimized();
 }
 
-void WindowShell::bringToFront() {
+void WindowShell::bringToFront() const {
     QWidget* modal = QApplication::activeModalWidget();
     QWidget* front = modal ? modal->window() : messageAnchor();
     if (!front || !front->isVisible()) return; // the program is just starting

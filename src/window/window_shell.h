@@ -58,10 +58,10 @@ public:
     void openWebPage(const QString& address, const QString& registryValue = {}) override;
     /// Asks the maker's server for newer versions.
     void openUpdatePage();
-    void minimiseProgram();
+    void minimiseProgram() const;
     /// Brings the program to the front, out of the taskbar where it lies there: the dialog that waits, or the
     /// window.
-    void bringToFront();
+    void bringToFront() const;
 
     void exitProgram() override;
     void exitAfterQuestion(const QString& question) override;

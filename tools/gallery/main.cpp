@@ -1,4 +1,5 @@
-// morvane-gallery: a picture of every screen, made without a display, at 100, 150 and 200 per cent.
+// morvane-gallery: a picture of every screen, made without a display, at 100, 150 and 200 per cent. With
+// --against it names those that differ from earlier ones, which shows what a change did to the screens.
 
 #include "app/start_up.h"
 #include "core/clock.h"
@@ -19,12 +20,41 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QProcess>
+#include <QTimer>
+#include <algorithm>
 #include <cstdio>
+#include <functional>
 
 using namespace morvane;
 
 namespace {
+
+/// Nobody is there to answer what a first start tells.
+bool startUnattended(Session& session) {
+    QTimer timer;
+    timer.callOnTimeout([] {
+        auto* dialog = qobject_cast<Form*>(QApplication::activeModalWidget());
+        const auto* ok = dialog ? dialog->findChild<QWidget*>(u"btn_Ok"_s) : nullptr;
+        if (ok && ok->isVisible()) dialog->cancel(); // progress ends by itself
+    });
+    timer.start(0);
+    return startUp(session);
+}
+
+/// Tells of each picture that is not, pixel for pixel, the one of its name in the folder of earlier ones.
+bool isLike(const QDir& folder, const QDir& earlier) {
+    QStringList names = folder.entryList({u"*.png"_s}) + earlier.entryList({u"*.png"_s});
+    names.removeDuplicates();
+    const auto isOther = [&](const QString& name) {
+        return QImage(folder.filePath(name)) != QImage(earlier.filePath(name));
+    };
+    names.erase(std::remove_if(names.begin(), names.end(), std::not_fn(isOther)), names.end());
+    for (const QString& name : names)
+        std::printf("differs: %s\n", qPrintable(folder.filePath(name)));
+    return names.isEmpty();
+}
 
 int run(const FilePath& home, const QString& folder) {
     NativeFileSystem files;
@@ -36,7 +66,7 @@ int run(const FilePath& home, const QString& folder) {
     Skin skin(files, home / u"Media");
     WindowShell shell(session, skin);
     user.setShell(&shell);
-    if (!startUp(session)) return 1;
+    if (!startUnattended(session)) return 1;
     clsResourceFolders::reload(session);
     clsWxFinders::reload(session);
     loadFlightFiles(session);
@@ -49,18 +79,20 @@ int run(const FilePath& home, const QString& folder) {
 }
 
 /// The scale of a program is fixed when it starts, so the dense ones are runs of their own, in folders below.
-int runScaled(const QString& home, const QString& folder) {
+int runScaled(const QString& home, const QString& folder, const QString& earlier) {
+    int status = 0;
     for (const auto& [scale, name] : {std::pair(u"1.5"_s, u"at-150"_s), std::pair(u"2"_s, u"at-200"_s)}) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"QT_SCALE_FACTOR"_s, scale);
         QProcess process;
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::ForwardedChannels);
-        process.start(QCoreApplication::applicationFilePath(),
-                      {u"--home"_s, home, QDir(folder).filePath(name)});
-        if (!process.waitForFinished(-1) || process.exitCode() != 0) return 1;
+        QStringList arguments{u"--home"_s, home, QDir(folder).filePath(name)};
+        if (!earlier.isEmpty()) arguments << u"--against"_s << QDir(earlier).filePath(name);
+        process.start(QCoreApplication::applicationFilePath(), arguments);
+        if (!process.waitForFinished(-1) || process.exitCode() != 0) status = 1;
     }
-    return 0;
+    return status;
 }
 
 } // namespace
@@ -76,11 +108,15 @@ int main(int argc, char** argv) {
     parser.setApplicationDescription(u"Saves a picture of every screen."_s);
     parser.addHelpOption();
     parser.addOption({u"home"_s, u"The install folder."_s, u"DIR"_s, defaultInstallFolder()});
+    parser.addOption({u"against"_s, u"Earlier pictures; those that differ are named."_s, u"DIR"_s});
     parser.addPositionalArgument(u"OUTDIR"_s, u"Where the pictures go."_s);
     parser.process(application);
     if (parser.positionalArguments().size() != 1) parser.showHelp(2);
     const QString home = QFileInfo(parser.value(u"home"_s)).absoluteFilePath();
     const QString folder = parser.positionalArguments()[0];
-    const int status = run(FilePath(home), folder);
-    return status != 0 || qEnvironmentVariableIsSet("QT_SCALE_FACTOR") ? status : runScaled(home, folder);
+    const QString earlier = parser.value(u"against"_s);
+    int status = run(FilePath(home), folder);
+    if (status == 0 && !earlier.isEmpty() && !isLike(folder, earlier)) status = 1;
+    if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) return status;
+    return std::max(status, runScaled(home, folder, earlier));
 }
