@@ -202,7 +202,7 @@ StoreTransaction::~StoreTransaction() {
             store_.run(u"ROLLBACK TO "_s + savepointName(level_));
             store_.run(u"RELEASE "_s + savepointName(level_));
         }
-    } catch (const Error&) {
+    } catch (...) {
         // After a full disk or a failed write SQLite has taken everything back itself.
     }
 }

@@ -35,7 +35,6 @@ public:
     /// The window that messages are centred over: the first visible one, else the main window's place.
     virtual QWidget* messageAnchor() const = 0;
 
-public Q_SLOTS:
     /// Does what a click on that key does.
     virtual void dispatch(SkinnedButton* button) = 0;
 

@@ -8,6 +8,7 @@ namespace {
 constexpr int longestShadow = 40;
 
 std::uint8_t toByte(float value) {
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative
     return static_cast<std::uint8_t>(std::clamp(value, 0.0f, 255.0f) + 0.5f);
 }
 

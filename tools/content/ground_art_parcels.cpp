@@ -23,8 +23,7 @@ std::vector<Vector2> cellCorners(GridShape shape) {
 } // namespace
 
 ParcelPlan::ParcelPlan(const Scene& scene, GridShape shape, float bend)
-    : shape_(shape), cellSide_(0),
-      axis_(unitVector({static_cast<float>(shape.stepX), static_cast<float>(shape.stepY)})),
+    : shape_(shape), axis_(unitVector({static_cast<float>(shape.stepX), static_cast<float>(shape.stepY)})),
       corners_(cellCorners(shape)), bendX_(scene.noise({4, 2, 0.35f}, 901)),
       bendY_(scene.noise({4, 2, 0.35f}, 902)), bend_(bend) {
     const Vector2 steps{static_cast<float>(shape.stepX), static_cast<float>(shape.stepY)};

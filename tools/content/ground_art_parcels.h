@@ -51,7 +51,7 @@ private:
     void cut(Scene& scene, const Division& division, const Patch& patch, std::vector<Patch>& parcels) const;
 
     GridShape shape_;
-    float cellSide_;
+    float cellSide_ = 0;
     Vector2 axis_;
     std::vector<Vector2> corners_;
     NoiseField bendX_;

@@ -2,7 +2,7 @@
 
 namespace morvane::skin {
 
-QByteArray helpPage() {
+QByteArray helpPage() { // NOLINT(readability-function-size): a page of text
     return R"html(<!DOCTYPE html>
 <html lang="en">
 <head>

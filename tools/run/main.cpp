@@ -177,17 +177,7 @@ void addOptions(QCommandLineParser& parser) {
     add(u"flight"_s, u"A saved flight to start the simulator with; else none."_s, u"NAME"_s);
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-    QCommandLineParser parser;
-    parser.setApplicationDescription(u"From a METAR to an installed ground set, on a sample install."_s);
-    parser.addHelpOption();
-    addOptions(parser);
-    parser.process(application);
-    if (!parser.isSet(u"home"_s) || !parser.isSet(u"sheet"_s)) parser.showHelp(2);
-
+int runSample(const QCommandLineParser& parser) {
     NativeFileSystem files;
     SystemClock clock;
     ReseedingRandomSource random;
@@ -204,9 +194,25 @@ int main(int argc, char** argv) {
         parser.value(u"to"_s),     parser.value(u"plan"_s),
         parser.value(u"flight"_s), QFileInfo(parser.value(u"sheet"_s)).absoluteFilePath(),
         sample.has_value()};
+    return run(session, user, request);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"From a METAR to an installed ground set, on a sample install."_s);
+    parser.addHelpOption();
+    addOptions(parser);
+    parser.process(application);
+    if (!parser.isSet(u"home"_s) || !parser.isSet(u"sheet"_s)) parser.showHelp(2);
     try {
-        return run(session, user, request);
+        return runSample(parser);
     } catch (const RoadEnded&) {
+        return 1;
+    } catch (const Error& error) {
+        say(error.description());
         return 1;
     }
 }
