@@ -14,7 +14,7 @@ namespace {
 const QString ending = u".bmp"_s;
 
 /// Textures whose names are no text on this system: no listing has them and no path reaches them.
-int namelessTextures(const FilePath& folder) {
+int namelessTextures([[maybe_unused]] const FilePath& folder) {
     int count = 0;
 #ifndef Q_OS_WIN
     std::error_code error;

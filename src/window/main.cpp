@@ -65,7 +65,8 @@ int main(int argc, char** argv) {
     SystemClock clock;
     ReseedingRandomSource random;
     WindowUser user;
-    const auto registry = openRegistry(files, folder);
+    const auto registry =
+        openRegistry(files, folder, line.home.isEmpty() ? FolderChoice::usual : FolderChoice::named);
     Session session({user, files, clock, random, *registry}, folder);
     Skin skin(files, folder / u"Media");
     QApplication::setWindowIcon(skin.picture(u"morvane.png"_s));

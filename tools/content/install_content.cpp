@@ -86,7 +86,9 @@ void refuseUnlessEmpty(FileSystem& files, const FilePath& folder) {
 }
 
 void writeRegistry(FileSystem& files, const ContentRequest& request) {
-    const auto registry = openRegistry(files, request.home);
+    // A sample with a simulator of its own leaves the machine's registry alone.
+    const FolderChoice choice = request.simulator.isEmpty() ? FolderChoice::usual : FolderChoice::named;
+    const auto registry = openRegistry(files, request.home, choice);
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, u"True"_s);
