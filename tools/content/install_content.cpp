@@ -100,9 +100,9 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
         registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, value);
     if (request.simulator.isEmpty()) return;
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s,
-                           (request.simulator / u"Flights").native());
+                           (request.simulator / u"Flights").text());
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
-    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, request.simulator.native());
+    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, request.simulator.text());
 }
 
 void makeSimulator(FileSystem& files, const ContentRequest& request) {
