@@ -10,8 +10,9 @@ foreach(part Core Gui Network Widgets)
 endforeach()
 install(FILES ${qt_folder}/plugins/platforms/qwindows.dll ${qt_folder}/plugins/platforms/qoffscreen.dll
     DESTINATION platforms)
-install(FILES ${qt_folder}/plugins/imageformats/qgif.dll ${qt_folder}/plugins/imageformats/qico.dll
-    DESTINATION imageformats)
+foreach(format gif ico jpeg)
+    install(FILES ${qt_folder}/plugins/imageformats/q${format}.dll DESTINATION imageformats)
+endforeach()
 install(FILES ${qt_folder}/plugins/styles/qwindowsvistastyle.dll DESTINATION styles)
 install(FILES ${qt_folder}/plugins/tls/qschannelbackend.dll DESTINATION tls)
 
@@ -25,7 +26,7 @@ foreach(library libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
     install(FILES ${file} DESTINATION .)
 endforeach()
 
-foreach(part airports/airports.tsv stations/nsd_cccc.txt metar/02Z.TXT)
+foreach(part airports/airports.tsv stations/nsd_cccc.txt metar/02Z.TXT metar/Export_Cycle.dat)
     cmake_path(GET part PARENT_PATH folder)
     install(FILES ${CMAKE_SOURCE_DIR}/data/${part} DESTINATION data/${folder})
 endforeach()

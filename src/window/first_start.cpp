@@ -59,7 +59,7 @@ bool makeInstallFolder(const QString& home) {
     QDir().mkpath(home);
     QTemporaryDir folder(home + u"/first start.XXXXXX"_s);
     QProgressDialog progress(u"Morvane is started for the first time and draws its base images into\n"_s +
-                                 home,
+                                 QDir::toNativeSeparators(home),
                              u"Cancel"_s, 0, 100);
     progress.setWindowTitle(u"Morvane"_s);
     progress.setMinimumDuration(0);
@@ -78,9 +78,12 @@ bool makeInstallFolder(const QString& home) {
     QDir().rmdir(home); // where nothing else is in it
     if (progress.wasCanceled()) return false;
     progress.hide();
+    const bool hasStarted = tool.error() == QProcess::UnknownError;
+    const QString cause =
+        hasStarted ? QString::fromLocal8Bit(tool.readAllStandardError()) : tool.errorString();
     QMessageBox::critical(nullptr, u"Morvane"_s,
-                          u"The install folder could not be made: "_s + home + u'\n' +
-                              QString::fromLocal8Bit(tool.readAllStandardError()) + tool.errorString());
+                          u"The install folder could not be made: "_s + QDir::toNativeSeparators(home) +
+                              u'\n' + cause.trimmed());
     return false;
 }
 
