@@ -25,3 +25,15 @@ function(morvane_room room)
         morvane_precompile(${name} engine)
     endif()
 endfunction()
+
+# morvane_native(ROOM NAMES...): of each matter for which every system has a way of its own, NAME_windows.cpp or
+# NAME_posix.cpp.
+function(morvane_native room)
+    if(WIN32)
+        set(system windows)
+    else()
+        set(system posix)
+    endif()
+    list(TRANSFORM ARGN REPLACE "(.+)" "\\1_${system}.cpp" OUTPUT_VARIABLE files)
+    target_sources(morvane_${room} PRIVATE ${files})
+endfunction()

@@ -70,7 +70,7 @@ void set(CommandContext& context) {
     const Setting& setting = settingOf(context);
     Session& session = context.session;
     const QString& typed = context.arguments[1];
-    const QString text = setting.isFolder ? pathOfArgument(typed).native() : typed;
+    const QString text = setting.isFolder ? pathOfArgument(typed).text() : typed;
     if (const QString problem = setting.problem(session, text); !problem.isEmpty())
         return fail(context, problem);
     session.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, setting.key);
@@ -100,7 +100,7 @@ QJsonObject switchesOf(Session& session) {
 /// Works without a simulator, too: it is what one looks at when something is not found.
 void show(CommandContext& context) {
     Session& session = context.session;
-    QJsonObject shown{{u"home"_s, session.AppPath.native()}};
+    QJsonObject shown{{u"home"_s, session.AppPath.text()}};
     for (const Setting& setting : settings())
         shown.insert(setting.name, textOf(session, setting));
     shown.insert(u"activesky"_s,

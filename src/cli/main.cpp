@@ -1,4 +1,5 @@
 #include "cli/command_line.h"
+#include "cli/native_terminal.h"
 #include "cli/terminal.h"
 #include "core/install_folder.h"
 #include "core/registry.h"
@@ -30,7 +31,8 @@ int run(const CommandLine& line) {
     ConsoleUser user({policy, false});
     const QString home = line.options.value(u"--home"_s, defaultInstallFolder());
     const FilePath folder(QFileInfo(home).absoluteFilePath());
-    const auto registry = openRegistry(files, folder);
+    const bool isNamed = line.options.contains(u"--home"_s);
+    const auto registry = openRegistry(files, folder, isNamed ? FolderChoice::named : FolderChoice::usual);
     Session session({user, files, clock, random, *registry}, folder);
     if (isAnsweredBeforehand(policy)) session.writing->beUnattended();
     return runCommand(*line.command, {session, user, line.operands, line.options});
@@ -49,6 +51,7 @@ int runLine(const QStringList& words) {
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
+    leaveBytesAlone();
     const int status = runLine(QCoreApplication::arguments().mid(1));
     if (isOutputWhole()) return status;
     writeStandardError(u"morvane-cli: what was printed could not be written in full\n"_s);

@@ -1,6 +1,7 @@
 #include "core/file_path.h"
 
 #include "core/error.h"
+#include "core/native_spelling.h"
 #include "core/numbers.h"
 
 #include <QDir>
@@ -9,44 +10,12 @@
 #include <algorithm>
 #include <memory>
 
-#ifndef Q_OS_WIN
-#include <dirent.h>
-#include <sys/stat.h>
-#endif
-
 namespace morvane {
 
 namespace {
 
 bool isSeparator(QChar c) {
     return c == u'\\' || c == u'/';
-}
-
-#ifndef Q_OS_WIN
-/// A dangling link is there, too. Asked before every operation on a file, so in one call to the system.
-bool existsExactly(const QString& path) {
-    struct stat properties {};
-    return lstat(QFile::encodeName(path).constData(), &properties) == 0;
-}
-
-/// The name as the folder spells it, or as given when the folder has no such name in any case. Folders have
-/// thousands of names, and this is asked for every new file of an install: no file's properties are read.
-QString spellingOnDisk(const QString& folder, const QString& name) {
-    const std::unique_ptr<DIR, int (*)(DIR*)> directory(opendir(QFile::encodeName(folder).constData()),
-                                                        closedir);
-    QString found;
-    while (const dirent* entry = directory ? readdir(directory.get()) : nullptr) {
-        const QString spelling = QFile::decodeName(entry->d_name);
-        const bool same = spelling.compare(name, Qt::CaseInsensitive) == 0;
-        if (same && (found.isEmpty() || spelling < found)) found = spelling;
-    }
-    return found.isEmpty() ? name : found;
-}
-#endif
-
-/// "/" and "C:/" bring their separator with them.
-QString withSeparator(const QString& root) {
-    return root.endsWith(u'/') ? root : root + u'/';
 }
 
 bool isSafe(QStringView name) {
@@ -57,10 +26,7 @@ bool isSafe(QStringView name) {
 
 } // namespace
 
-FilePath::FilePath(const QString& systemPath) : root_(systemPath) {
-#ifdef Q_OS_WIN
-    root_.replace(u'\\', u'/');
-#endif
+FilePath::FilePath(const QString& systemPath) : root_(QDir::fromNativeSeparators(systemPath)) {
     while (root_.size() > 1 && root_.endsWith(u'/') && !root_.endsWith(u":/"))
         root_.chop(1);
 }
@@ -129,19 +95,7 @@ FilePath FilePath::resolved() const {
 QString FilePath::native() const {
     if (!resolved_.isEmpty()) return resolved_;
     if (names_.isEmpty()) return root_;
-    const QString asJoined = withSeparator(root_) + names_.join(u'/');
-#ifdef Q_OS_WIN
-    return asJoined;
-#else
-    if (existsExactly(asJoined)) return asJoined;
-    QString path = root_;
-    for (const QString& name : names_) {
-        const QString folder = withSeparator(path);
-        path = folder + name;
-        if (!existsExactly(path)) path = folder + spellingOnDisk(folder, name);
-    }
-    return path;
-#endif
+    return spelledAsOnDisk(root_, names_);
 }
 
 bool matchesMask(QStringView name, QStringView mask) {

@@ -73,6 +73,14 @@ bool IniRegistry::RegValueIsDword(int root, const QString& key, const QString& n
     return isDword(rawValue(root, key, name, machine));
 }
 
+bool IniRegistry::hasValue(int root, const QString& key, const QString& name) const {
+    try {
+        return readRegistry(files_, file_).rawValue(sectionOf(root, key), name).has_value();
+    } catch (const Error&) {
+        return false;
+    }
+}
+
 bool IniRegistry::CreateRegKey(int root, const QString& key) {
     if (rootName(root).isEmpty()) return false;
     try {
@@ -85,11 +93,5 @@ bool IniRegistry::CreateRegKey(int root, const QString& key) {
         return false;
     }
 }
-
-#ifndef Q_OS_WIN
-std::unique_ptr<Registry> openRegistry(FileSystem& files, const FilePath& installFolder) {
-    return std::make_unique<IniRegistry>(files, installFolder / u"registry.ini");
-}
-#endif
 
 } // namespace morvane

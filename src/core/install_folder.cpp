@@ -2,6 +2,7 @@
 
 #include "core/file_system.h"
 #include "core/literals.h"
+#include "core/registry.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -10,16 +11,24 @@
 
 namespace morvane {
 
+namespace {
+
+QString installedDataFolder() {
+    NativeFileSystem files;
+    std::unique_ptr<Registry> system = systemRegistry();
+    return system ? ownValue(UserRegistry(files, std::move(system)), u"DataFolder"_s) : QString();
+}
+
+} // namespace
+
 QString defaultInstallFolder() {
     const QString home = QProcessEnvironment::systemEnvironment().value(u"MORVANE_HOME"_s);
     if (!home.isEmpty()) return home;
     const QString beside = QCoreApplication::applicationDirPath();
-#ifdef Q_OS_WIN
-    return beside;
-#else
-    if (QFileInfo::exists(beside + u"/Morvane.mdb"_s)) return beside;
-    return userInstallFolder();
-#endif
+    for (const QString& mark : {u"/Morvane.mdb"_s, u"/registry.ini"_s})
+        if (QFileInfo::exists(beside + mark)) return beside;
+    const QString installed = installedDataFolder();
+    return installed.isEmpty() ? userInstallFolder() : installed;
 }
 
 QString userInstallFolder() {

@@ -7,11 +7,11 @@ namespace morvane {
 class FileSystem;
 
 /// The folder of the program's data: MORVANE_HOME when the environment has it; else the folder of the
-/// executable where a store lies in it, and on Windows in any case; elsewhere "Morvane" among the user's data
-/// (`~/.local/share/Morvane`), as an executable in a system folder has no data beside it.
+/// executable where a store or a registry file lies in it; else the value "DataFolder" that an installer left
+/// in the system's registry; else the user's own.
 QString defaultInstallFolder();
 
-/// The last of these.
+/// "Morvane" among the user's data: `~/.local/share/Morvane`, `%LOCALAPPDATA%\Morvane`.
 QString userInstallFolder();
 
 /// Why the program cannot work in that folder, with what to do about it; empty when it can.

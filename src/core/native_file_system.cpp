@@ -1,5 +1,7 @@
 #include "core/error.h"
 #include "core/file_system.h"
+#include "core/native_file_calls.h"
+#include "core/native_spelling.h"
 #include "core/safe_copy.h"
 
 #include <QDir>
@@ -8,10 +10,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
-
-#ifdef Q_OS_WIN
-#include <windows.h>
-#endif
 
 namespace morvane {
 
@@ -69,31 +67,6 @@ void openForWriting(QFile& file, const FilePath& path, QIODevice::OpenMode mode)
     throw Error(codeOf(file.error(), otherwise), path.text());
 }
 
-std::error_code renameInOneStep(const std::filesystem::path& source, const std::filesystem::path& target) {
-    std::error_code error;
-#ifdef Q_OS_WIN
-    // The library's rename may copy from drive to drive, which is not one step, and says of most failures no
-    // more than that there was one.
-    if (!MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING))
-        error.assign(static_cast<int>(GetLastError()), std::system_category());
-#else
-    std::filesystem::rename(source, target, error);
-#endif
-    return error;
-}
-
-std::error_code removeEmptyFolder(const std::filesystem::path& folder) {
-    std::error_code error;
-#ifdef Q_OS_WIN
-    // The library's own tries to remove a file next and tells of that.
-    if (!RemoveDirectoryW(folder.c_str()))
-        error.assign(static_cast<int>(GetLastError()), std::system_category());
-#else
-    std::filesystem::remove(folder, error); // refuses a folder that is not empty
-#endif
-    return error;
-}
-
 void writeAll(QFileDevice& file, const char* bytes, qint64 count, const FilePath& path) {
     if (file.write(bytes, count) != count)
         throw Error(codeOf(file.error(), ErrorCode::diskFull), path.text());
@@ -128,20 +101,8 @@ QStringList NativeFileSystem::list(const FilePath& folder, const QString& mask) 
     return sortedByUpperName(taken);
 }
 
-int NativeFileSystem::namelessFiles([[maybe_unused]] const FilePath& folder,
-                                    [[maybe_unused]] const QString& ending) {
-    int count = 0;
-#ifndef Q_OS_WIN
-    std::error_code error;
-    const std::filesystem::directory_iterator end;
-    for (auto entry = std::filesystem::directory_iterator(folder.native().toStdU16String(), error);
-         !error && entry != end; entry.increment(error)) {
-        const QByteArray name = QByteArray::fromStdString(entry->path().filename().native());
-        const QString text = QFile::decodeName(name);
-        count += QFile::encodeName(text) != name && text.endsWith(ending, Qt::CaseInsensitive);
-    }
-#endif
-    return count;
+int NativeFileSystem::namelessFiles(const FilePath& folder, const QString& ending) {
+    return countNamelessFiles(folder.native(), ending);
 }
 
 QStringList NativeFileSystem::listFolders(const FilePath& folder) {

@@ -31,6 +31,8 @@ public:
     /// The value exists with type DWORD, whatever it holds.
     virtual bool RegValueIsDword(int root, const QString& key, const QString& name,
                                  const QString& machine = {}) const = 0;
+    /// The value exists, whatever it holds.
+    virtual bool hasValue(int root, const QString& key, const QString& name) const = 0;
     /// Makes the key or finds it; false when that cannot be.
     virtual bool CreateRegKey(int root, const QString& key) = 0;
 };
@@ -40,8 +42,42 @@ QString ownValue(const Registry& registry, const QString& name);
 /// Writes one, and makes the key where it is missing.
 void storeOwnValue(Registry& registry, const QString& name, const QString& text);
 
-/// The system's own registry on Windows; elsewhere `registry.ini` in the install folder.
-std::unique_ptr<Registry> openRegistry(FileSystem& files, const FilePath& installFolder);
+/// Who chose the install folder: one that was named for this start keeps what it knows to itself.
+enum class FolderChoice { usual, named };
+
+/// `registry.ini` in the install folder where it is there, where the folder was named or where the system has
+/// no registry: everything in one folder, and the machine untouched. Else the system's, as a `UserRegistry`.
+std::unique_ptr<Registry> openRegistry(FileSystem& files, const FilePath& installFolder,
+                                       FolderChoice choice = FolderChoice::usual);
+
+/// The system's own; null where it has none.
+std::unique_ptr<Registry> systemRegistry();
+
+/// A registry as a user without an administrator's rights works with it. The program's own values below
+/// HKEY_LOCAL_MACHINE are written to HKEY_CURRENT_USER and read from there first. The simulator's path is
+/// read where its installer left it; the user's own counts while that one names no folder with fs9.exe, and
+/// is written where the machine's refuses.
+class UserRegistry : public Registry {
+public:
+    UserRegistry(FileSystem& files, std::unique_ptr<Registry> system)
+        : files_(files), system_(std::move(system)) {}
+
+    QString GetRegString(int root, const QString& key, const QString& name,
+                         const QString& machine = {}) const override;
+    void SetRegString(int root, const QString& key, const QString& name, const QString& text,
+                      const QString& machine = {}) override;
+    bool RegValueIsDword(int root, const QString& key, const QString& name,
+                         const QString& machine = {}) const override;
+    bool hasValue(int root, const QString& key, const QString& name) const override;
+    bool CreateRegKey(int root, const QString& key) override;
+
+private:
+    int rootOf(int root, const QString& key, const QString& name, const QString& machine) const;
+    bool holdsSimulator(const QString& folder) const;
+
+    FileSystem& files_;
+    std::unique_ptr<Registry> system_;
+};
 
 /// A registry in one INI file: a section a key ("[HKEY_LOCAL_MACHINE\Software\...]"), texts in double quotes
 /// or bare, DWORDs as "dword:" and hexadecimal digits.
@@ -55,6 +91,7 @@ public:
                       const QString& machine = {}) override;
     bool RegValueIsDword(int root, const QString& key, const QString& name,
                          const QString& machine = {}) const override;
+    bool hasValue(int root, const QString& key, const QString& name) const override;
     bool CreateRegKey(int root, const QString& key) override;
 
 private:

@@ -1,17 +1,10 @@
 #include "window/end_requests.h"
 
 #include "window/close_request.h"
+#include "window/end_signals.h"
 #include "window/window_shell.h"
 
 #include <QApplication>
-
-#ifndef Q_OS_WIN
-#include <QSocketNotifier>
-
-#include <csignal>
-#include <sys/socket.h>
-#include <unistd.h>
-#endif
 
 namespace morvane {
 
@@ -22,38 +15,13 @@ bool isBlocked(const QWidget* window) {
     return modal && modal->window() != window;
 }
 
-#ifndef Q_OS_WIN
-
-int signalSockets[2]; ///< a handler may do no more than write
-
-void onSignal(int number) {
-    const char byte = 0;
-    [[maybe_unused]] const auto written = write(signalSockets[0], &byte, 1);
-    std::signal(number, SIG_DFL); // a second one kills
-}
-
-#endif
-
 } // namespace
 
 EndRequests::EndRequests() {
     connect(qApp, &QGuiApplication::commitDataRequest, this, &EndRequests::end);
     qApp->installEventFilter(this);
     qApp->installNativeEventFilter(this);
-    listenToSignals();
-}
-
-void EndRequests::listenToSignals() {
-#ifndef Q_OS_WIN
-    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, signalSockets) != 0) return;
-    auto* notifier = new QSocketNotifier(signalSockets[1], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
-        notifier->setEnabled(false);
-        end();
-    });
-    for (const int number : {SIGTERM, SIGHUP, SIGINT})
-        std::signal(number, onSignal);
-#endif
+    listenToEndSignals(*this, [this] { end(); });
 }
 
 void EndRequests::end() {

@@ -25,7 +25,6 @@ public:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
 private:
-    void listenToSignals();
     void end();
 
     QPointer<WindowShell> shell_;

@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QProgressDialog>
 #include <QTemporaryDir>
+#include <algorithm>
 
 namespace morvane {
 
@@ -33,13 +34,32 @@ bool runTool(QProcess& tool, QProgressDialog& progress) {
            tool.exitCode() == 0;
 }
 
+const QString storeName = u"Morvane.mdb"_s, madeName = u"first start"_s;
+
+/// What one start could not move the next one does.
+bool moveUp(const QString& home) {
+    QDir made(home + u'/' + madeName), place(home);
+    const auto move = [&](const QString& name) {
+        return place.exists(name) || made.rename(name, place.filePath(name));
+    };
+    QStringList names = made.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    names.removeOne(storeName);
+    return std::all_of(names.begin(), names.end(), move) && move(storeName) && made.removeRecursively();
+}
+
 } // namespace
 
+bool awaitsFirstStart(const QString& home) {
+    const QDir place(home);
+    return !place.exists(storeName) && (!place.exists(u"Media"_s) || place.exists(madeName));
+}
+
 bool makeInstallFolder(const QString& home) {
-    QDir().mkpath(QFileInfo(home).path());
-    QTemporaryDir folder(home + u".XXXXXX"_s);
+    if (QDir(home).exists(madeName)) return moveUp(home);
+    QDir().mkpath(home);
+    QTemporaryDir folder(home + u"/first start.XXXXXX"_s);
     QProgressDialog progress(u"Morvane is started for the first time and draws its base images into\n"_s +
-                                 home,
+                                 QDir::toNativeSeparators(home),
                              u"Cancel"_s, 0, 100);
     progress.setWindowTitle(u"Morvane"_s);
     progress.setMinimumDuration(0);
@@ -49,15 +69,21 @@ bool makeInstallFolder(const QString& home) {
     tool.start(QCoreApplication::applicationDirPath() + u"/morvane-content"_s,
                {u"--home"_s, folder.path(), u"--progress"_s});
     const bool isMade = runTool(tool, progress);
-    if (isMade && !progress.wasCanceled() && QDir().rename(folder.path(), home)) {
+    if (isMade && !progress.wasCanceled() &&
+        QDir(home).rename(QFileInfo(folder.path()).fileName(), madeName) && moveUp(home)) {
         folder.setAutoRemove(false);
         return true;
     }
+    folder.remove();
+    QDir().rmdir(home); // where nothing else is in it
     if (progress.wasCanceled()) return false;
     progress.hide();
+    const bool hasStarted = tool.error() == QProcess::UnknownError;
+    const QString cause =
+        hasStarted ? QString::fromLocal8Bit(tool.readAllStandardError()) : tool.errorString();
     QMessageBox::critical(nullptr, u"Morvane"_s,
-                          u"The install folder could not be made: "_s + home + u'\n' +
-                              QString::fromLocal8Bit(tool.readAllStandardError()) + tool.errorString());
+                          u"The install folder could not be made: "_s + QDir::toNativeSeparators(home) +
+                              u'\n' + cause.trimmed());
     return false;
 }
 

@@ -55,7 +55,8 @@ int main(int argc, char** argv) {
     applyPaperStyle(application);
 
     const QString home = line.home.isEmpty() ? defaultInstallFolder() : line.home;
-    const bool isFirstStart = home == userInstallFolder() && !QFileInfo::exists(home);
+    const bool isUsual = line.home.isEmpty() && !qEnvironmentVariableIsSet("MORVANE_HOME");
+    const bool isFirstStart = isUsual && awaitsFirstStart(home);
     EndRequests requests;
     if (isFirstStart && !makeInstallFolder(home)) return requests.hasEnded() ? 0 : 1;
     const FilePath folder(QFileInfo(home).absoluteFilePath());
@@ -65,7 +66,8 @@ int main(int argc, char** argv) {
     SystemClock clock;
     ReseedingRandomSource random;
     WindowUser user;
-    const auto registry = openRegistry(files, folder);
+    const auto registry =
+        openRegistry(files, folder, line.home.isEmpty() ? FolderChoice::usual : FolderChoice::named);
     Session session({user, files, clock, random, *registry}, folder);
     Skin skin(files, folder / u"Media");
     QApplication::setWindowIcon(skin.picture(u"morvane.png"_s));

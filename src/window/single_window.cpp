@@ -1,6 +1,7 @@
 #include "window/single_window.h"
 
 #include "core/literals.h"
+#include "window/foreground.h"
 #include "window/window_shell.h"
 
 #include <QCryptographicHash>
@@ -10,10 +11,6 @@
 #include <QThread>
 
 #include <cstdio>
-
-#ifdef Q_OS_WIN
-#include <windows.h>
-#endif
 
 namespace morvane {
 
@@ -52,9 +49,7 @@ bool SingleWindow::take() {
 }
 
 bool SingleWindow::callOther() const {
-#ifdef Q_OS_WIN
-    AllowSetForegroundWindow(ASFW_ANY);
-#endif
+    letOthersComeToFront();
     QLocalSocket socket;
     socket.connectToServer(name_);
     return socket.waitForConnected(connectMilliseconds);

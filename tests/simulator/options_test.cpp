@@ -107,6 +107,7 @@ struct BrokenRegistry : Registry {
         fail();
     }
     bool RegValueIsDword(int, const QString&, const QString&, const QString&) const override { fail(); }
+    bool hasValue(int, const QString&, const QString&) const override { fail(); }
     bool CreateRegKey(int, const QString&) override { fail(); }
 
 private:

@@ -1,6 +1,7 @@
 #include "simulator/simulator_launch.h"
 
 #include "core/program_start.h"
+#include "core/wine_call.h"
 #include "sets/options_in_force.h"
 #include "simulator/set_matching.h"
 #include "start_record.h"

@@ -37,6 +37,25 @@ TEST(FirstStart, leavesNothingWhenItIsCancelled) {
         QDir((folder / u"Deep").native()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
 }
 
+TEST(FirstStart, goesOnWhereItsFilesWereBeingPutInPlace) {
+    const test::TemporaryFolder folder;
+    const FilePath home = folder / u"Mörvane";
+    EXPECT_TRUE(awaitsFirstStart(home.native()));
+    test::writeFile(home / u"registry.ini", "the pilot's");
+    EXPECT_TRUE(awaitsFirstStart(home.native())) << "a program that has everything in one folder";
+    test::writeFile(home / u"Media\\one.bmp", "1");
+    EXPECT_FALSE(awaitsFirstStart(home.native()));
+    for (const QString& name : {u"registry.ini"_s, u"Backup\\two.bmp"_s, u"Morvane.mdb"_s})
+        test::writeFile(home / u"first start" / name, "made");
+    EXPECT_TRUE(awaitsFirstStart(home.native()));
+    EXPECT_TRUE(makeInstallFolder(home.native()));
+    EXPECT_FALSE(awaitsFirstStart(home.native()));
+    NativeFileSystem files;
+    EXPECT_EQ(files.read(home / u"registry.ini"), "the pilot's");
+    EXPECT_EQ(files.read(home / u"Backup\\two.bmp"), "made");
+    EXPECT_EQ(files.listFolders(home), QStringList({u"Backup"_s, u"Media"_s}));
+}
+
 TEST(FirstStart, withAStoreThatIsNoneSaysSoOnceAndKeepsItsFirstRunForLater) {
     test::SmallInstall install;
     closeDatabase(install.session);

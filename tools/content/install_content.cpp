@@ -86,7 +86,9 @@ void refuseUnlessEmpty(FileSystem& files, const FilePath& folder) {
 }
 
 void writeRegistry(FileSystem& files, const ContentRequest& request) {
-    const auto registry = openRegistry(files, request.home);
+    // A sample with a simulator of its own leaves the machine's registry alone.
+    const FolderChoice choice = request.simulator.isEmpty() ? FolderChoice::usual : FolderChoice::named;
+    const auto registry = openRegistry(files, request.home, choice);
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, u"True"_s);
@@ -98,9 +100,9 @@ void writeRegistry(FileSystem& files, const ContentRequest& request) {
         registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, value);
     if (request.simulator.isEmpty()) return;
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s,
-                           (request.simulator / u"Flights").native());
+                           (request.simulator / u"Flights").text());
     registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
-    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, request.simulator.native());
+    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, request.simulator.text());
 }
 
 void makeSimulator(FileSystem& files, const ContentRequest& request) {

@@ -5,9 +5,11 @@
 #include "core/literals.h"
 #include "install_content.h"
 #include "skin_emblems.h"
+#include "skin_icon_file.h"
 
 #include <QCommandLineParser>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -29,10 +31,24 @@ bool isUsageRight(const QCommandLineParser& parser) {
            density >= lowestStockDensity && density <= highestStockDensity;
 }
 
-/// The data that were installed with the program, else those of the source tree it was built from.
+/// The data that were installed with the program, in its own folder or in the system's, else those of the
+/// source tree it was built from.
 QString defaultDataFolder() {
-    const QString installed = QCoreApplication::applicationDirPath() + u"/../share/morvane/data"_s;
-    return QFileInfo::exists(installed) ? installed : QStringLiteral(MORVANE_DATA_DIR);
+    const QString programs = QCoreApplication::applicationDirPath();
+    for (const QString& installed : {programs + u"/data"_s, programs + u"/../share/morvane/data"_s})
+        if (QFileInfo::exists(installed + u"/airports"_s)) return installed;
+    return QStringLiteral(MORVANE_DATA_DIR);
+}
+
+/// Its ending tells the form.
+bool writeIcon(const QString& file) {
+    if (!file.endsWith(u".ico", Qt::CaseInsensitive)) return skin::drawProgramIcon(128).save(file);
+    std::vector<QImage> pictures;
+    for (const int side : {16, 24, 32, 48, 64, 256})
+        pictures.push_back(skin::drawProgramIcon(side));
+    QFile icon(file);
+    const QByteArray bytes = skin::iconFile(pictures);
+    return icon.open(QIODevice::WriteOnly) && icon.write(bytes) == bytes.size();
 }
 
 /// It lies beside this one.
@@ -49,7 +65,7 @@ void setDefault(const char* variable, const QString& value) {
 }
 
 int run(const QCommandLineParser& parser) {
-    if (parser.isSet(u"icon"_s)) return skin::drawProgramIcon(128).save(parser.value(u"icon"_s)) ? 0 : 1;
+    if (parser.isSet(u"icon"_s)) return writeIcon(parser.value(u"icon"_s)) ? 0 : 1;
     NativeFileSystem files;
     ContentRequest request{
         folder(parser, u"home"_s), folder(parser, u"simulator"_s),     simulatorProgram(),
@@ -87,7 +103,8 @@ int main(int argc, char** argv) {
                       u"N"_s, u"1"_s});
     parser.addOption({u"old-version"_s, u"Make an install of version 2 that its next start upgrades."_s});
     parser.addOption({u"check"_s, u"Make nothing; the exit status is 0 when the install is current."_s});
-    parser.addOption({u"icon"_s, u"Draw the program's icon into that file, and nothing else."_s, u"PNG"_s});
+    parser.addOption(
+        {u"icon"_s, u"Draw the program's icon into that file, .png or .ico, and nothing else."_s, u"FILE"_s});
     parser.process(application);
     if (!isUsageRight(parser)) parser.showHelp(2);
     try {

@@ -61,7 +61,7 @@ int run(const FilePath& home, const QString& folder) {
     SystemClock clock;
     ReseedingRandomSource random;
     WindowUser user;
-    const auto registry = openRegistry(files, home);
+    const auto registry = openRegistry(files, home, FolderChoice::named);
     Session session({user, files, clock, random, *registry}, home);
     Skin skin(files, home / u"Media");
     WindowShell shell(session, skin);

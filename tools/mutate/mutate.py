@@ -89,7 +89,6 @@ def room_of(file, names):
     return max(found, key=len) if found else None
 
 
-ELSEWHERE = re.compile(r"^#ifdef _WIN32\n(?s:.*?)^#(?:else|endif)", re.MULTILINE)
 LITERALS = re.compile(r"//[^\n]*|R\"\((?s:.*?)\)\"|\"(?:\\.|[^\"\\\n])*\"|(?<![0-9a-fA-F])'(?:\\.|[^'\\\n])+'")
 
 
@@ -100,7 +99,7 @@ def masked(text):
         letter = " " if match.group().startswith("//") else "#"
         return re.sub(r"[^\n]", letter, match.group())
 
-    return LITERALS.sub(cover, ELSEWHERE.sub(lambda match: re.sub(r"[^\n]", " ", match.group()), text))
+    return LITERALS.sub(cover, text)
 
 
 def conditions(line):
@@ -167,7 +166,7 @@ def all_places(names):
     tracked = subprocess.run(["git", "ls-files", "src"], cwd=ROOT, capture_output=True, text=True, check=True)
     for file in tracked.stdout.split():
         room = room_of(file, names)
-        if room is None or not file.endswith(".cpp") or "/windows_" in file:
+        if room is None or not file.endswith(".cpp") or file.endswith("_windows.cpp"):
             continue
         is_seen = re.match("ui|window|.*screens", room) is not None
         text = (ROOT / file).read_text(encoding="utf-8")

@@ -185,7 +185,7 @@ int runSample(const QCommandLineParser& parser) {
                       true,
                       {{Question::savedFlight, parser.isSet(u"flight"_s)}}});
     const FilePath home(QFileInfo(parser.value(u"home"_s)).absoluteFilePath());
-    const auto registry = openRegistry(files, home);
+    const auto registry = openRegistry(files, home, FolderChoice::named);
     std::optional<SampleEndpoint> sample;
     if (parser.isSet(u"serve-sample"_s)) say(u"Weather server: "_s + sample.emplace(*registry).address());
     Session session({user, files, clock, random, sample ? *sample : *registry}, home);

@@ -24,6 +24,10 @@ bool SampleEndpoint::RegValueIsDword(int root, const QString& key, const QString
     return real_.RegValueIsDword(root, key, name, machine);
 }
 
+bool SampleEndpoint::hasValue(int root, const QString& key, const QString& name) const {
+    return name.startsWith(u"Weather") || real_.hasValue(root, key, name);
+}
+
 bool SampleEndpoint::CreateRegKey(int root, const QString& key) {
     return real_.CreateRegKey(root, key);
 }

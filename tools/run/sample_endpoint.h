@@ -19,6 +19,7 @@ public:
                       const QString& machine = {}) override;
     bool RegValueIsDword(int root, const QString& key, const QString& name,
                          const QString& machine = {}) const override;
+    bool hasValue(int root, const QString& key, const QString& name) const override;
     bool CreateRegKey(int root, const QString& key) override;
 
 private:

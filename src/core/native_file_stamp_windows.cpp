@@ -1,17 +1,9 @@
 #include "core/error.h"
 #include "core/file_system.h"
 
-#ifdef Q_OS_WIN
 #include <windows.h>
-#else
-#include <QFile>
-#include <cerrno>
-#include <sys/stat.h>
-#endif
 
 namespace morvane {
-
-#ifdef Q_OS_WIN
 
 namespace {
 
@@ -48,21 +40,5 @@ FileStamp NativeFileSystem::stamp(const FilePath& path) {
             nanosecondsSince1970(known.ftLastWriteTime), joined(known.nFileIndexHigh, known.nFileIndexLow),
             known.dwVolumeSerialNumber, isReadOnly ? 0444U : 0666U};
 }
-
-#else
-
-FileStamp NativeFileSystem::stamp(const FilePath& path) {
-    struct stat known {};
-    if (::stat(QFile::encodeName(path.native()).constData(), &known) != 0) {
-        const bool isMissing = errno == ENOENT || errno == ENOTDIR;
-        throw Error(isMissing ? ErrorCode::fileNotFound : ErrorCode::permissionDenied, path.text());
-    }
-    constexpr std::int64_t nanoseconds = 1'000'000'000;
-    constexpr unsigned permissionBits = 07777;
-    return {known.st_size, known.st_mtim.tv_sec * nanoseconds + known.st_mtim.tv_nsec, known.st_ino,
-            known.st_dev, known.st_mode & permissionBits};
-}
-
-#endif
 
 } // namespace morvane

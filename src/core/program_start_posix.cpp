@@ -1,6 +1,7 @@
 #include "core/program_start.h"
 
 #include "core/literals.h"
+#include "core/wine_call.h"
 
 #include <QDir>
 #include <QFile>

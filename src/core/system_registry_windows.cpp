@@ -109,6 +109,11 @@ public:
         return opened && readValue(opened, name).type == REG_DWORD;
     }
 
+    bool hasValue(int root, const QString& key, const QString& name) const override {
+        const Key opened = openKey(root, key, KEY_QUERY_VALUE, {});
+        return opened && readValue(opened, name).type != REG_NONE;
+    }
+
     bool CreateRegKey(int root, const QString& key) override {
         HKEY made = nullptr;
         const auto status = RegCreateKeyExW(rootOf(root), wide(key), 0, nullptr, REG_OPTION_NON_VOLATILE,
@@ -120,7 +125,7 @@ public:
 
 } // namespace
 
-std::unique_ptr<Registry> openRegistry(FileSystem&, const FilePath&) {
+std::unique_ptr<Registry> systemRegistry() {
     return std::make_unique<WindowsRegistry>();
 }
 

@@ -1,14 +1,10 @@
 #include "window/message_sounds.h"
 
-#ifdef Q_OS_WIN
 #include <windows.h>
 
 #include <mmsystem.h>
-#endif
 
 namespace morvane {
-
-#ifdef Q_OS_WIN
 
 namespace {
 
@@ -33,11 +29,5 @@ void playMessageSound(MessageKind kind) {
     if (const wchar_t* alias = soundAlias(kind))
         PlaySoundW(alias, nullptr, SND_ALIAS | SND_ASYNC | SND_NODEFAULT);
 }
-
-#else
-
-void playMessageSound(MessageKind) {}
-
-#endif
 
 } // namespace morvane

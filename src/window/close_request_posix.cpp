@@ -1,27 +1,12 @@
 #include "window/close_request.h"
 
-#ifdef Q_OS_WIN
-#include <windows.h>
-#else
 #include <QGuiApplication>
 #include <xcb/xcb.h>
 
 #include <cstdlib>
 #include <memory>
-#endif
 
 namespace morvane {
-
-#ifdef Q_OS_WIN
-
-WId windowToClose(const QByteArray&, const void* event) {
-    const auto* sent = static_cast<const MSG*>(event);
-    const bool isClose =
-        sent->message == WM_CLOSE || (sent->message == WM_SYSCOMMAND && (sent->wParam & 0xFFF0) == SC_CLOSE);
-    return isClose ? reinterpret_cast<WId>(sent->hwnd) : 0;
-}
-
-#else
 
 namespace {
 
@@ -46,7 +31,5 @@ WId windowToClose(const QByteArray& type, const void* event) {
     const auto* sent = static_cast<const xcb_client_message_event_t*>(event);
     return sent->type == protocols && sent->data.data32[0] == close ? sent->window : 0;
 }
-
-#endif
 
 } // namespace morvane

@@ -1,0 +1,44 @@
+#include "cli/native_terminal.h"
+
+#include <csignal>
+#include <unistd.h>
+
+namespace morvane {
+
+namespace {
+
+void (*interruptListener)() = nullptr;
+
+void onSignal(int) {
+    interruptListener();
+    std::signal(SIGINT, SIG_DFL);
+}
+
+} // namespace
+
+void leaveBytesAlone() {}
+
+bool isTerminalFile(FILE* file) {
+    return isatty(fileno(file)) == 1;
+}
+
+bool writeToTerminal(FILE*, const QString&) {
+    return false;
+}
+
+bool hasOwnInput() {
+    return false;
+}
+
+std::optional<QString> readTerminalLine() {
+    return std::nullopt;
+}
+
+void listenToInterrupts(void (*onInterrupt)()) {
+    interruptListener = onInterrupt;
+    struct sigaction action = {};
+    action.sa_handler = onSignal; // without SA_RESTART, so that a waiting question ends
+    sigaction(SIGINT, &action, nullptr);
+}
+
+} // namespace morvane

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+#include <system_error>
+
+namespace morvane {
+
+// Where the library's own calls do something else on one of the systems, or tell too little.
+
+/// Replaces a file of that name; from drive to drive it fails.
+std::error_code renameInOneStep(const std::filesystem::path& source, const std::filesystem::path& target);
+
+/// Refuses a folder that is not empty, and what is no folder.
+std::error_code removeEmptyFolder(const std::filesystem::path& folder);
+
+} // namespace morvane

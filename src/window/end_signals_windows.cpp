@@ -1,0 +1,7 @@
+#include "window/end_signals.h"
+
+namespace morvane {
+
+void listenToEndSignals(QObject&, const std::function<void()>&) {}
+
+} // namespace morvane

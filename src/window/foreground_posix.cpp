@@ -1,0 +1,7 @@
+#include "window/foreground.h"
+
+namespace morvane {
+
+void letOthersComeToFront() {}
+
+} // namespace morvane

@@ -1,0 +1,11 @@
+#include "window/foreground.h"
+
+#include <windows.h>
+
+namespace morvane {
+
+void letOthersComeToFront() {
+    AllowSetForegroundWindow(ASFW_ANY);
+}
+
+} // namespace morvane
