@@ -3,7 +3,7 @@
 # $windowsPrefix.
 windowsPackages=(g++-mingw-w64-x86-64-posix mingw-w64-tools libz-mingw-w64-dev cmake ninja-build ccache dpkg-dev
     xz-utils qt6-base-dev qt6-base-dev-tools libstb-dev libcli11-dev libgtest-dev libgmock-dev googletest
-    fonts-roboto-hinted nsis icoutils zip)
+    fonts-roboto-hinted nsis zip)
 
 windowsFolder=$PWD/build/windows
 windowsPrefix=$windowsFolder/prefix
