@@ -106,22 +106,6 @@ TEST_F(SkySetsScreenTest, hasRoomForTheLongestDescription) {
               label.height());
 }
 
-TEST_F(SkySetsScreenTest, createsSetsFromTheHomeScreenAndFromTheList) {
-    program.whenShown(u"frm_SelectSkyTexture"_s, [](DialogForm& dialog) {
-        dialog.findChild<QCheckBox*>(u"chkStsGroup1"_s)->click();
-        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txtLightClouds"_s), u"2"_s);
-        dialog.ok();
-    });
-    program.press(u"frm_Main"_s, u"btn_SkyInstall"_s);
-    open();
-    EXPECT_EQ(test::columnOf(*list, 3).mid(3), QStringList(2, u"Sunny"_s));
-    EXPECT_EQ(list->selectedNames(), QStringList{list->textOf(5, 0)}) << "the last one made";
-    program.confirmNext(u"frm_SelectSkyTexture"_s); // what was entered stands
-    program.press(hostName, u"btn_SkytextureCreate"_s);
-    ASSERT_EQ(list->rowCount(), 7);
-    EXPECT_EQ(list->selectedNames(), QStringList{list->textOf(7, 0)}) << "the last one";
-}
-
 // The colour page -------------------------------------------------------------------------------------------
 
 struct SkyColourScreenTest : testing::Test {
@@ -175,17 +159,6 @@ TEST_F(SkyColourScreenTest, clicksAndArrowKeysTakeAGroupInHand) {
     }
     QTest::keyClick(palette, Qt::Key_Left);
     EXPECT_EQ(palette->accessibleDescription(), skyGroup(9).text);
-}
-
-TEST_F(SkyColourScreenTest, theTabKeyComesToThePaletteBeforeTheSliders) {
-    open();
-    const QWidget* window = program.shell.form(hostName);
-    QApplication::setActiveWindow(program.shell.form(hostName));
-    program.control<QPushButton>(pageName, u"cmdSkyResetAll"_s).setFocus();
-    for (const QString& next : {u"picSkySource"_s, u"vcSkySat"_s, u"cmdSkySatMinus"_s}) {
-        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(window->focusWidget()->objectName(), next);
-    }
 }
 
 TEST_F(SkyColourScreenTest, theTipTellsWhatLiesUnderThePointer) {
@@ -250,29 +223,6 @@ TEST_F(SkyColourScreenTest, theStateIsLoadedOnce) {
     EXPECT_EQ(tuning.cloudIndex, 1);
 }
 
-TEST_F(SkyColourScreenTest, aForeignCoverLeavesTheOptionsAsTheyAre) {
-    test::writeFile(program.install.home() / u"LastSkySettings.cfg",
-                    "[Cloud Cover]\n1=Foggy\n[Texture Set Group]\n1=Tropical\n");
-    open();
-    for (int index = 0; index < 5; ++index)
-        EXPECT_FALSE(cover(index).isChecked()) << index;
-}
-
-TEST_F(SkyColourScreenTest, aBaseSetIsChosenByItsClick) {
-    open();
-    const QImage before = source();
-    for (const bool isTaken : {false, true}) {
-        program.whenShown(u"frm_SelectBaseSky"_s, [=](DialogForm& dialog) {
-            auto* horizons = dialog.findChild<QRadioButton*>(u"optBaseSky1"_s);
-            EXPECT_EQ(horizons->isChecked(), isTaken) << "in force at once";
-            horizons->click();
-            isTaken ? dialog.ok() : dialog.cancel();
-        });
-        program.press(pageName, u"btn_LoadSkyTexture"_s);
-        EXPECT_EQ(source() != before, isTaken);
-    }
-}
-
 // The quantities --------------------------------------------------------------------------------------------
 
 TEST(SkySetCounts, theBoxesOfTheBaseSetsEnableTheirCounts) {
@@ -293,14 +243,6 @@ TEST(SkySetCounts, theBoxesOfTheBaseSetsEnableTheirCounts) {
             EXPECT_EQ(isEnabled(u"txtNoClouds"_s), index != 3);
             EXPECT_EQ(isEnabled(u"txtLightOvcClouds"_s), index != 3);
             box(index)->click();
-        }
-        box(3)->click();
-        box(6)->click();
-        box(6)->setFocus();
-        for (const QString& next : {u"txtNoClouds"_s, u"txtLightClouds"_s, u"txtMediumClouds"_s,
-                                    u"txtLightOvcClouds"_s, u"txtOvercastClouds"_s, u"btn_Ok"_s}) {
-            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
-            EXPECT_EQ(dialog.focusWidget()->objectName(), next);
         }
         dialog.cancel();
     });
