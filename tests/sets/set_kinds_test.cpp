@@ -180,21 +180,6 @@ TYPED_TEST(SetKindTest, aRemovalShowsThatItIsBusyAndCanBeEnded) {
     }
 }
 
-TYPED_TEST(SetKindTest, aListKeyAndAClickTakeARowInHand) {
-    const auto set = findSet<TypeParam>(this->session, u" 3-B "_s);
-    ASSERT_TRUE(set);
-    EXPECT_EQ(findListKey(loadedSets<TypeParam>(this->session), listKeyOf(*set)), set);
-    this->select({u"2-A"_s, u"4-C"_s});
-    this->click(u"3-B"_s);
-    const SetInHand inHand = setKind<TypeParam>().inHand(this->session);
-    EXPECT_EQ(inHand.name, "3-B");
-    EXPECT_EQ(inHand.cover, coverOf(*set));
-    EXPECT_EQ(inHand.selection.selectedRows.size(), TypeParam::hasTicks ? 2 : 1) << "ticks stay";
-    EXPECT_TRUE(this->session.template state<typename TypeParam::Selection>().*TypeParam::descriptionInHand ==
-                set->Description);
-    EXPECT_FALSE(clickSetNamed<TypeParam>(this->session, u"3-b"_s));
-}
-
 TYPED_TEST(SetKindTest, severalRowsAreNotInstalled) {
     this->click(u"2-A"_s);
     this->select({u"2-A"_s, u"Default"_s});

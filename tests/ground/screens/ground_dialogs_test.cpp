@@ -5,8 +5,6 @@
 #include "support/window_program.h"
 #include "ui/controls/set_table.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <gtest/gtest.h>
@@ -36,31 +34,6 @@ TEST_F(GroundDialogsTest, countsTakeDigitsAndAFullStopOnly) {
             dialog.cancel();
             EXPECT_FALSE(box->text().isEmpty()) << "it is not left empty";
         });
-}
-
-TEST_F(GroundDialogsTest, aClickSelectsACountAndTheClipboardServesIt) {
-    counts.setCounts = {15, 0, 0, 0, 8};
-    program.show(Screen::frm_TsRequired, [&](DialogForm& dialog) {
-        EXPECT_EQ(dialog.findChild<QLineEdit*>(u"txtOvercastClouds"_s)->text(), u"8"_s);
-        auto* box = dialog.findChild<QLineEdit*>(u"txtNoClouds"_s);
-        auto* other = dialog.findChild<QLineEdit*>(u"txtLightClouds"_s);
-        for (QLineEdit* before : {other, box}) { // a box that has the focus already is no other
-            before->setFocus();
-            QTest::mouseClick(box, Qt::LeftButton, {}, {4, 11});
-            EXPECT_EQ(box->selectedText(), u"15"_s);
-        }
-        QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
-        QTest::mouseClick(other, Qt::LeftButton);
-        QTest::keyClick(other, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(counts.setCounts[1], 15);
-        for (const auto& [pasted, count] : {std::pair(u" 7 sets\n"_s, 7), std::pair(u"many"_s, 0)}) {
-            QGuiApplication::clipboard()->setText(pasted);
-            other->selectAll();
-            other->paste();
-            EXPECT_EQ(counts.setCounts[1], count) << "only what may be typed gets in";
-        }
-        dialog.cancel();
-    });
 }
 
 /// A text that gets in by another way than the keys, or is more than a count can be.
