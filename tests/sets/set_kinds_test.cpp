@@ -71,14 +71,7 @@ struct SetKindTest : testing::Test {
     }
     bool& refreshList() { return setKind<Kind>().inHand(session).refreshList; }
     /// All sets behind "Default", "+" behind an activated and "*" behind an installed one.
-    QString stored() {
-        refreshSets<Kind>(session);
-        QStringList names;
-        for (const auto& set : loadedSets<Kind>(session))
-            names << nameOf(*set) + (activationOf(*set) == u"True" ? u"+"_s : QString()) +
-                         (set->Installed ? u"*"_s : QString());
-        return names.mid(1).join(u' ');
-    }
+    QString stored() { return test::setStates<Kind>(session).section(u' ', 1); }
     FilePath sets() const { return install.home() / Kind::facts().folder; }
     auto files() const { return test::contentsBelow(sets()); }
 
