@@ -107,21 +107,6 @@ TEST_F(SkyTuningTest, settingsOfAnotherHandAreTakenAsTheyAre) {
     EXPECT_EQ(GetIniString(install.files, u"Kept"_s, u"as"_s, settings), "it is");
 }
 
-TEST_F(SkyTuningTest, settingsWithoutACoverAreAFirstRunAndWithoutABaseShowNoSample) {
-    test::writeFile(settings, "[Cloud Cover]\r\n1=  \r\n[Texture Set Group]\r\n1=Sunny\r\n[Red]\r\n1=5\r\n");
-    EXPECT_EQ(tuning.open(), SliderValues{});
-    EXPECT_EQ(session.state<SkyTuningState>().baseSet + session.state<SkyTuningState>().cloudCover,
-              "DefaultSky Clear");
-
-    session.state<SkyTuningState>() = {};
-    test::writeFile(settings, "[Cloud Cover]\r\n1=Overcast\r\n[Red]\r\n1=5\r\n");
-    SkyTuning withoutBase(session);
-    EXPECT_EQ(withoutBase.open(), (SliderValues{0, 5, 0, 0, 0, 0}));
-    EXPECT_EQ(session.state<SkyTuningState>().cloudIndex, 5);
-    EXPECT_EQ(install.user.told().size(), 1);
-    EXPECT_FALSE(withoutBase.sourceDib().isCreated());
-}
-
 TEST_F(SkyTuningTest, exitWritesOnlyWhatWasLoaded) {
     const QByteArray contents = "[Cloud Cover]\r\n1=Overcast\r\n[Texture Set Group]\r\n1=Sunny\r\n";
     test::writeFile(settings, contents);

@@ -75,18 +75,6 @@ TEST_F(MessageScreenTest, showsMarkUpAsItReads) {
     program.user.showMessage({MessageKind::error, u"<b>12-Storm</b>"_s, u"<i>x</i>"_s});
 }
 
-TEST_F(MessageScreenTest, endsAMessageThatANewOneMeets) {
-    QStringList order;
-    program.whenShown(name, [&](DialogForm&) {
-        program.confirmNext(name);
-        program.user.showMessage(plain);
-        order << u"second"_s;
-    });
-    program.user.showMessage(plain);
-    order << u"first"_s;
-    EXPECT_EQ(order, (QStringList{u"second"_s, u"first"_s})) << "last in, first out";
-}
-
 TEST_F(MessageScreenTest, asksBeforeItCancelsAndOnlyWhereThatIsOffered) {
     Job job(program.session);
     program.user.showMessage(progress);
