@@ -20,14 +20,6 @@ struct SkyTuningTest : testing::Test {
     SkyGroup& group(int number) {
         return skyRecord(session.state<SkyColourTables>().skyPaletteGroups, number);
     }
-    void chooseBase(const QString& name, bool confirmed) {
-        install.user.onModal = [=, this](Screen screen) {
-            ASSERT_EQ(screen, Screen::frm_SelectBaseSky);
-            session.state<SkyTuningState>().baseSet = name; // in force at its click
-            session.state<BaseSkyAnswer>().baseSkyConfirmed = confirmed;
-        };
-        tuning.openBaseSkyImage();
-    }
     bool shows(const QString& baseSet) {
         SkySample sample(session, SkyTable::palette);
         EXPECT_TRUE(sample.openImage(skySampleFile(session, baseSet)));
@@ -42,22 +34,6 @@ struct SkyTuningTest : testing::Test {
 
 // A place on the palette picture.
 constexpr float topRow = 3, water = 100;
-
-TEST_F(SkyTuningTest, aChosenBaseIsInForceAtItsClick) {
-    tuning.open();
-    chooseBase(u"Horizons"_s, false);
-    EXPECT_TRUE(shows(u"Default"_s));
-    chooseBase(u"Horizons"_s, true);
-    EXPECT_TRUE(shows(u"Horizons"_s));
-    for (const QString& name : {u"Sunny"_s, u"Tropical"_s, u"Overcast"_s}) { // shown even after a cancel
-        chooseBase(name, false);
-        EXPECT_TRUE(shows(name)) << name.toStdString();
-    }
-    EXPECT_TRUE(install.user.told().isEmpty());
-    chooseBase(u"Average"_s, false); // of which this install has no folder
-    EXPECT_EQ(install.user.told().size(), 1);
-    EXPECT_TRUE(shows(u"Overcast"_s));
-}
 
 TEST_F(SkyTuningTest, settingsComeBackWithTheMapsRegions) {
     tuning.open();

@@ -41,6 +41,7 @@ TEST_F(GroundDialogsTest, whatIsNoCountIsToldAndTakenBack) {
     counts.setCounts = {6, 0, 0, 0, 0};
     program.show(Screen::frm_TsRequired, [&](DialogForm& dialog) {
         auto* box = dialog.findChild<QLineEdit*>(u"txtNoClouds"_s);
+        EXPECT_EQ(box->text(), u"6"_s);
         for (const QString& text : {u"40000"_s, u"1.2.3"_s}) {
             EXPECT_EQ(program.toldDuring([&] { box->setText(text); }), QStringList{u"Morvane Error"_s});
             EXPECT_EQ(box->text(), u"6"_s);

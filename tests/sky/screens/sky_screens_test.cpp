@@ -220,6 +220,24 @@ TEST_F(SkyColourScreenTest, theStateIsLoadedOnce) {
     EXPECT_EQ(tuning.cloudIndex, 1);
 }
 
+/// It is in force at its click and shown by OK, some even after a cancel: wanted.
+TEST_F(SkyColourScreenTest, aBaseSetIsChosenByItsClick) {
+    open();
+    const std::tuple<int, bool, bool> choices[] = {
+        {1, false, false}, {1, true, true}, {2, false, true}, {3, false, true}, {4, false, true}};
+    for (const auto& [number, isTaken, isShown] : choices) {
+        const QImage before = source();
+        program.whenShown(u"frm_SelectBaseSky"_s, [number = number, isTaken = isTaken](DialogForm& dialog) {
+            auto* option = dialog.findChild<QRadioButton*>(u"optBaseSky%1"_s.arg(number));
+            EXPECT_EQ(option->isChecked(), isTaken);
+            option->click();
+            isTaken ? dialog.ok() : dialog.cancel();
+        });
+        program.press(pageName, u"btn_LoadSkyTexture"_s);
+        EXPECT_EQ(source() != before, isShown) << number;
+    }
+}
+
 // The quantities --------------------------------------------------------------------------------------------
 
 TEST(SkySetCounts, theBoxesOfTheBaseSetsEnableTheirCounts) {
