@@ -175,6 +175,7 @@ TEST_F(SkyColourScreenTest, theTipTellsWhatLiesUnderThePointer) {
 
 TEST_F(SkyColourScreenTest, slidersWriteTheGroupInHandAndNoOther) {
     open();
+    EXPECT_FALSE(isChanged());
     slider(u"vcSkyRed"_s).setValue(30);
     EXPECT_EQ(record(1).red, 30);
     EXPECT_FALSE(isChanged()) << "no region applies before it was clicked";
