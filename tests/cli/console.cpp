@@ -2,9 +2,8 @@
 
 #include "core/store_connection.h"
 #include "ground/ground_sets.h"
-#include "ground/texture_sets.h"
 #include "sky/sky_sets.h"
-#include "sky/sky_texture_sets.h"
+#include "support/set_states.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -27,15 +26,6 @@ bool catchesInterrupts(qint64 process) {
         if (line.startsWith("SigCgt:"))
             return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGINT - 1) & 1) != 0;
     return false;
-}
-
-template <class Record>
-QString statesOf(const KeyedCollection<Record>& sets, QString Record::*activated) {
-    QStringList names;
-    for (const auto& set : sets)
-        names << nameOf(*set) + ((*set).*activated == u"True" ? u"+"_s : QString()) +
-                     (set->Installed ? u"*"_s : QString());
-    return names.join(u' ');
 }
 
 QStringList wordsOf(const QString& commandLine) {
@@ -131,10 +121,7 @@ void ConsoleInstall::addSet(const QString& name, const QString& cover, bool acti
 
 QString ConsoleInstall::sets() {
     QString names;
-    withStore([&](Session&) {
-        reload();
-        names = statesOf(*session.rows<clsTextureSets>(), &clsTextureSet::Actvated);
-    });
+    withStore([&](Session&) { names = setStates<GroundKind>(session); });
     return names;
 }
 
@@ -145,10 +132,7 @@ void ConsoleInstall::addSky(const QString& name, const QString& cover, bool acti
 
 QString ConsoleInstall::skies() {
     QString names;
-    withStore([&](Session&) {
-        reload();
-        names = statesOf(*session.rows<clsSkyTextureSets>(), &clsSkyTextureSet::Activated);
-    });
+    withStore([&](Session&) { names = setStates<SkyKind>(session); });
     return names;
 }
 

@@ -4,7 +4,6 @@
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "imaging/picture_reader.h"
-#include "sets/colour_settings.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -173,15 +172,6 @@ TEST(GroundGeneration, aLockedStoreEndsARunWithOneMessageBeforeItMakesAnyFile) {
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
     EXPECT_TRUE(install.user.calls.contains("show frm_Main"));
     EXPECT_TRUE(setFolders(install).isEmpty());
-}
-
-TEST(ColourSettings, textAndValues) {
-    EXPECT_EQ(colourSettingsText(effectiveColours({0, 7, 0, -5, 10, -5})), "0:1.4:0:-1:3:-1.5");
-    const ColourValues values = parseColourSettings("13:0:16:18,2:-8,4:0", ",");
-    EXPECT_FLOAT_EQ(values.blue, 18.2f);
-    EXPECT_FLOAT_EQ(values.brightness, -8.4f);
-    EXPECT_THROW(parseColourSettings("1:2:3"), Error);
-    EXPECT_THROW(parseColourSettings("1:2:3:x:5:6"), Error);
 }
 
 } // namespace

@@ -54,15 +54,6 @@ TEST_F(GroundInstall, copiesTheSetAndRecordsIt) {
               QStringList({"002C2WI1.BMP", "005A2SU2.BMP", "029B2SU6.BMP", "029H2SU6.BMP", "new.bmp"}));
 }
 
-TEST_F(GroundInstall, storeThenSplashThenFiles) {
-    // A splash that cannot be copied: the store names the set already, no texture has come yet.
-    install.files.remove(install.home() / u"Media\\dlgSplashOVC.bmp");
-    installSet("2-Storm");
-    EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
-    EXPECT_EQ(world(u"029h2su6.bmp"), "the pilot's GENERIC WORLD\\029h2su6.bmp");
-    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-}
-
 TEST_F(GroundInstall, dutchAndTropicalFollowTheirSwitches) {
     session.state<OptionsInForce>().IsDutch = true;
     installSet("2-Storm");

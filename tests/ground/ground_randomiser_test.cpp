@@ -1,9 +1,6 @@
 #include "ground/ground_randomiser.h"
-#include "sets/no_repeat.h"
 #include "sets/slider_values.h"
 #include "support/printing.h"
-#include "support/scripted_services.h"
-#include "support/scripted_user.h"
 #include "support/small_install.h"
 
 #include <algorithm>
@@ -12,36 +9,7 @@
 namespace morvane {
 namespace {
 
-using test::ScriptedRandom;
-using test::ScriptedUser;
-
-struct Draws : testing::Test {
-    ScriptedUser user;
-    ScriptedRandom random;
-    clsNoRepeat draws{user, random};
-};
-
 constexpr double nearlyOne = 0.99999999999999989;
-
-TEST_F(Draws, stayBelowTheUpperBoundAndTheFifthOfFiveRoundsStands) {
-    const std::tuple<int, int, double, int> cases[] = {
-        {-22, -10, 0, -22}, {-22, -10, nearlyOne, -11}, {0, 1, nearlyOne, 0}, {0, 32767, nearlyOne, 32766}};
-    for (const auto& [low, high, fraction, expected] : cases) {
-        random.numbers = {0.1, 0.2, 0.3, 0.4, fraction};
-        EXPECT_EQ(draws.Non_Repeating_Numbers(high, low), expected) << high;
-    }
-    EXPECT_EQ(random.draws, 20);
-}
-
-TEST_F(Draws, boundsOutOfOrderAreTold) {
-    EXPECT_FALSE(draws.Non_Repeating_Numbers(3, 3));
-    EXPECT_FALSE(draws.Non_Repeating_Numbers(-100, 0));
-    EXPECT_EQ(
-        user.told(),
-        QStringList({"Error|Morvane Error|The lowest possible number is greater than or equal to the maximum "
-                     "value.",
-                     "Error|Morvane Error|Cannot process values less than - minus one hundred."}));
-}
 
 TEST(GroundRandomiser, drawsEachFieldInItsRange) {
     // The cloud number, and the lowest and highest: saturation, red, green, blue, brightness, contrast.

@@ -63,21 +63,5 @@ TEST(TextureCatalogue, industrialAreasAreFiveRuns) {
                 catalogue.flags.popWinter); // put back after the summer-only runs
 }
 
-TEST(TextureCatalogue, targetsAreTheSetsOrTheSimulatorsFolders) {
-    SmallInstall install({{u"DUTCH\\008a2su2.bmp"_s, u"GENERIC WORLD\\022a2su1.bmp"_s}});
-    TextureCatalogue catalogue(install.session);
-    EXPECT_EQ(namesOf(catalogue.popTextureList(0, 0, true, "x")),
-              QStringList({"022a2su1.bmp", "008a2su2.bmp"}));
-    EXPECT_FALSE(catalogue.flags.categories[14]) << "the upgrade's category is never switched on";
-    catalogue.flags.categories = {};
-    catalogue.flags.categories[13] = true;
-    const auto forSet = catalogue.popTextureList(0, 1, true, "7-Storm");
-    const auto forSimulator = catalogue.popTextureList(0, 1, false, "");
-    ASSERT_EQ(forSet.size(), 1u);
-    EXPECT_EQ(forSet[0].targetFolder.relative(), "Texture Sets\\7-Storm\\Dutch");
-    EXPECT_EQ(forSimulator[0].targetFolder.relative(), "Scenery\\World\\texture");
-    EXPECT_EQ(forSimulator[0].tempFolder.relative(), "TempBitmaps\\Dutch");
-}
-
 } // namespace
 } // namespace morvane

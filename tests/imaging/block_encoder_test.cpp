@@ -1,9 +1,6 @@
 #include "imaging/block_encoder.h"
 
-#include "imaging/single_colour_ends.h"
-
 #include <QCryptographicHash>
-#include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
@@ -68,26 +65,6 @@ TEST(BlockEncoder, everyInstructionSetGivesTheBytesOfThePlainArithmetic) {
             digest.addData(first);
         }
     EXPECT_EQ(digest.result().toHex().toStdString(), "c228ff0e14193bf5f5237364762ffed6491cd45d");
-}
-
-/// Looks at all pairs, where the table's maker looks at near ones: a third of a step may be lost to keep the
-/// ends close, as readers round what lies between in different ways.
-TEST(BlockEncoder, noEndsComeMuchNearerToAValueThanThoseOfTheTable) {
-    for (const auto& [table, bits] : {std::pair{&fiveBitEnds, 5}, {&sixBitEnds, 6}}) {
-        const auto thirdsOff = [bits = bits](int value, int first, int second) {
-            const auto wide = [bits](int end) { return end << (8 - bits) | end >> (2 * bits - 8); };
-            return std::abs(2 * wide(first) + wide(second) - 3 * value);
-        };
-        for (int value = 0; value < 256; ++value) {
-            const EndPair ends = table->of[value];
-            int nearest = 1000;
-            for (int first = 0; first < 1 << bits; ++first)
-                for (int second = 0; second < 1 << bits; ++second)
-                    nearest = std::min(nearest, thirdsOff(value, first, second));
-            EXPECT_LE(thirdsOff(value, ends.first, ends.second), nearest + (bits == 5 ? 2 : 1))
-                << bits << ' ' << value;
-        }
-    }
 }
 
 } // namespace

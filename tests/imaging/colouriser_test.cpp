@@ -82,18 +82,6 @@ TEST_F(Colouriser, LaterSkyGroupsWorkOnUnclampedChannels) {
     EXPECT_EQ(test::pixelAt(skyOf({250, 100, 100}), 0, 0), (RgbColour{240, 100, 100}));
 }
 
-TEST_F(Colouriser, SkyHasTwoTablesAndNoPartInTheSixValues) {
-    colouriser.skyTextureGroups[0] = {.PixelXLow = 1, .PixelXHigh = 1, .PixelY = 1, .red = 100};
-    colouriser.skyPaletteGroups[0] = {.PixelXLow = 2, .PixelXHigh = 2, .PixelY = 1, .red = -100};
-    colouriser.Red = 20;
-    const cDIBSection sky = skyOf({100, 0, 0});
-    cDIBSection palette = test::createdBuffer(3, 1);
-    colouriser.processSky(test::filledBuffer(3, 1, {100, 0, 0}), palette);
-    const std::array reds{test::pixelAt(sky, 0, 0).red, test::pixelAt(sky, 1, 0).red,
-                          test::pixelAt(palette, 0, 0).red, test::pixelAt(palette, 1, 0).red};
-    EXPECT_EQ(reds, (std::array{120, 100, 100, 80}));
-}
-
 } // namespace
 
 } // namespace morvane

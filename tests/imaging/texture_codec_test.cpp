@@ -111,25 +111,6 @@ TEST(TextureCodec, everyLevelIsTheAverageOfTheOneBefore) {
     }
 }
 
-TEST(TextureCodec, averagesAreRoundedToNearestAndASideOfOneStays) {
-    const struct {
-        int width, height;
-        std::vector<std::uint8_t> levels, averages;
-    } cases[] = {
-        {4, 4, {0, 0, 1, 2, 0, 1, 2, 2, 255, 255, 0, 0, 255, 254, 1, 1}, {0, 2, 255, 1}}, // 2/4 goes up
-        {4, 1, {0, 10, 20, 40}, {5, 30}},
-        {1, 4, {0, 10, 20, 41}, {5, 31}},
-        {1, 1, {18}, {18}},
-    };
-    for (const auto& [width, height, levels, averages] : cases) {
-        const std::vector<std::uint8_t> green(levels.size(), 10), blue(levels.size(), 20);
-        const TextureLevel half = halved({width, height, {levels, green, blue}});
-        EXPECT_EQ(half.planes[0], averages);
-        EXPECT_EQ(half.planes[1], std::vector<std::uint8_t>(averages.size(), 10));
-        EXPECT_EQ(half.planes[2], std::vector<std::uint8_t>(averages.size(), 20));
-    }
-}
-
 // Some readers take a block with equal ends as one of three colours: only index 0 is safe there.
 TEST(TextureCodec, oneColourStaysOneAndEqualEndsHaveIndexZeroOnly) {
     for (int value = 0; value < 256; ++value) {

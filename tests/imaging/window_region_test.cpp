@@ -54,16 +54,6 @@ TEST(WindowRegion, blockHasTheLayoutOfTheSystem) {
               u"Unable to determine size of region in SaveRegionDataToFile");
 }
 
-TEST(WindowRegion, readingAndWritingGivesTheSameBytes) {
-    WindowRegion region = scanRegion(pictureOf(lippedWindow), key);
-    EXPECT_EQ(readWindowRegion(writeWindowRegion(region)), region);
-    // Foreign files may tell wider bounds, and bands that another scan would have joined.
-    region.bounds = QRect(-5, -5, 40, 40);
-    region.rectangles = {QRect(-5, 0, 2, 1), QRect(-5, 1, 2, 1)};
-    const QByteArray foreign = writeWindowRegion(region);
-    EXPECT_EQ(writeWindowRegion(readWindowRegion(foreign)), foreign);
-}
-
 TEST(WindowRegion, damagedFilesAreRefused) {
     const QByteArray good = writeWindowRegion(scanRegion(pictureOf(lippedWindow), key));
     const std::pair<const char*, QByteArray> damages[] = {

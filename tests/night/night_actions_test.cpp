@@ -1,10 +1,7 @@
 #include "imaging/picture_reader.h"
-#include "night/night_files.h"
 #include "night/night_generation.h"
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
-#include "sets/catalogue_file.h"
-#include "sets/options_in_force.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -29,19 +26,6 @@ struct NightActions : testing::Test {
     test::SmallInstall install;
     Session& session = install.session;
 };
-
-TEST_F(NightActions, theListTakesEveryBitmapWhateverTheDutchSwitch) {
-    QStringList lines;
-    for (const CatalogueFile& file : popNightTextureList(session, u"2-Blue"_s))
-        lines << file.sourceFolder.text().section(u'/', -1) + u'/' + file.fileName + u' ' +
-                     file.targetFolder.text().section(u'/', -2) + u' ' +
-                     file.tempFolder.text().section(u'/', -2);
-    const QString generic = u"GENERIC WORLD NIGHT/0%1b2lm1.bmp 2-Blue/Texture TempBitmaps/Texture"_s,
-                  dutch = u"DUTCH NIGHT/00%1.bmp 2-Blue/Dutch TempBitmaps/Dutch"_s;
-    EXPECT_FALSE(session.state<OptionsInForce>().IsDutch);
-    EXPECT_EQ(lines, (QStringList{generic.arg(u"08"), generic.arg(u"29"), generic.arg(u"45"),
-                                  dutch.arg(u"5a2lm2"), dutch.arg(u"8b2lm1")}));
-}
 
 TEST_F(NightActions, activationMakesEveryFileInTheColoursOfTheSet) {
     addNightSet(install, u"2-Red"_s, false);

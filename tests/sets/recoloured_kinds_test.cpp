@@ -1,8 +1,5 @@
 #include "core/store.h"
 #include "ground/ground_tuning.h"
-#include "ground/sample_textures.h"
-#include "imaging/pixel_patterns.h"
-#include "night/night_samples.h"
 #include "night/night_tuning.h"
 #include "sets/set_removal.h"
 #include "support/night_install.h"
@@ -13,17 +10,12 @@
 namespace morvane {
 namespace {
 
-/// How a test makes a deactivated set of the kind, and what it finds behind its colour page.
+/// How a test makes a deactivated set of the kind, and its colour page.
 struct Ground {
     using Kind = GroundKind;
     using Tuning = GroundTuning;
     static void add(test::SmallInstall& install, const QString& name) {
         install.addGroundSet(name, u"Overcast"_s, false);
-    }
-    static void chooseSample(Session& session, bool isKnown) {
-        auto& choice = session.state<GroundSampleChoice>();
-        choice.selectedTextureType = isKnown ? u"utind"_s : u"ocean"_s;
-        choice.sampleConfirmed = true;
     }
 };
 
@@ -32,11 +24,6 @@ struct Night {
     using Tuning = NightTuning;
     static void add(test::SmallInstall& install, const QString& name) {
         test::addNightSet(install, name, false);
-    }
-    static void chooseSample(Session& session, bool isKnown) {
-        auto& choice = session.state<NightSampleChoice>();
-        choice.selectedNightTexture = isKnown ? u"rural"_s : u"ocean"_s;
-        choice.sampleConfirmed = true;
     }
 };
 
@@ -103,32 +90,6 @@ TYPED_TEST(RecolouredKindTest, aCancelLeavesTheSetDeactivatedInBothPasses) {
         EXPECT_TRUE(test::contentsBelow(this->sets()).isEmpty());
         EXPECT_TRUE(test::contentsBelow(this->install.home() / u"TempBitmaps\\Texture").isEmpty());
     }
-}
-
-TYPED_TEST(RecolouredKindTest, aListKeyTakesTheColoursInHand) {
-    TypeParam::add(this->install, u"2-A"_s);
-    const auto set = this->record(u"2-A"_s);
-    ASSERT_TRUE(loadSelection<typename TestFixture::Kind>(this->session, listKeyOf(*set)));
-    EXPECT_EQ(this->selection().*TestFixture::Kind::nameInHand, "2-A");
-    EXPECT_EQ(this->selection().colours, parseColourSettings(set->ColorSettings));
-    EXPECT_FALSE(loadSelection<typename TestFixture::Kind>(this->session, u"Key:999"_s));
-    EXPECT_EQ(this->install.user.countOfKind(MessageKind::error), 1);
-}
-
-TYPED_TEST(RecolouredKindTest, aSampleIsOpenedInTheColoursOfTheLastPreview) {
-    this->tuning.showColourPreview({0, 0, 0, 0, 100, 0}); // with no sample yet: nothing to tell
-    bool isKnown = true;
-    this->install.user.onModal = [&](Screen) { TypeParam::chooseSample(this->session, isKnown); };
-    EXPECT_TRUE(this->tuning.openSample());
-    const QByteArray bright = test::bytesOf(this->tuning.resultDib());
-    ASSERT_FALSE(bright.isEmpty());
-    EXPECT_NE(bright, test::bytesOf(this->tuning.sourceDib()));
-    isKnown = false; // the sample stays
-    EXPECT_FALSE(this->tuning.openSample());
-    this->install.user.onModal = [](Screen) {};
-    EXPECT_FALSE(this->tuning.openSample()) << "cancelled";
-    EXPECT_EQ(test::bytesOf(this->tuning.resultDib()), bright);
-    EXPECT_TRUE(this->install.user.told().isEmpty());
 }
 
 TYPED_TEST(RecolouredKindTest, aFavouriteIsARowAndEmptyFolders) {

@@ -71,14 +71,7 @@ struct SetKindTest : testing::Test {
     }
     bool& refreshList() { return setKind<Kind>().inHand(session).refreshList; }
     /// All sets behind "Default", "+" behind an activated and "*" behind an installed one.
-    QString stored() {
-        refreshSets<Kind>(session);
-        QStringList names;
-        for (const auto& set : loadedSets<Kind>(session))
-            names << nameOf(*set) + (activationOf(*set) == u"True" ? u"+"_s : QString()) +
-                         (set->Installed ? u"*"_s : QString());
-        return names.mid(1).join(u' ');
-    }
+    QString stored() { return test::setStates<Kind>(session).section(u' ', 1); }
     FilePath sets() const { return install.home() / Kind::facts().folder; }
     auto files() const { return test::contentsBelow(sets()); }
 
@@ -178,21 +171,6 @@ TYPED_TEST(SetKindTest, aRemovalShowsThatItIsBusyAndCanBeEnded) {
                          text.arg("progress 50", example.verb, "2", "3-B"), "hide message", example.done}));
         EXPECT_EQ(this->stored(), example.stored);
     }
-}
-
-TYPED_TEST(SetKindTest, aListKeyAndAClickTakeARowInHand) {
-    const auto set = findSet<TypeParam>(this->session, u" 3-B "_s);
-    ASSERT_TRUE(set);
-    EXPECT_EQ(findListKey(loadedSets<TypeParam>(this->session), listKeyOf(*set)), set);
-    this->select({u"2-A"_s, u"4-C"_s});
-    this->click(u"3-B"_s);
-    const SetInHand inHand = setKind<TypeParam>().inHand(this->session);
-    EXPECT_EQ(inHand.name, "3-B");
-    EXPECT_EQ(inHand.cover, coverOf(*set));
-    EXPECT_EQ(inHand.selection.selectedRows.size(), TypeParam::hasTicks ? 2 : 1) << "ticks stay";
-    EXPECT_TRUE(this->session.template state<typename TypeParam::Selection>().*TypeParam::descriptionInHand ==
-                set->Description);
-    EXPECT_FALSE(clickSetNamed<TypeParam>(this->session, u"3-b"_s));
 }
 
 TYPED_TEST(SetKindTest, severalRowsAreNotInstalled) {

@@ -98,33 +98,5 @@ TEST_F(SkyActions, severalSetsGetTheDayOnlyAndACancelEndsThemBeforeTheNext) {
     EXPECT_TRUE(filesOf("4-D").isEmpty() && install.user.told().isEmpty());
 }
 
-TEST_F(SkyActions, defaultIsActivatedLikeAnyOther) {
-    install.addSkySet("Default", "Partly Cloudy", true, {"day.bmp"});
-    click("Default", {"Default"});
-    SkyActivation(session).activateInHand();
-    EXPECT_EQ(filesOf("Default"), QStringList({"day.bmp", "rise.bmp", "set.bmp"}));
-    EXPECT_NE(test::readFile(sets / u"Default\\day.bmp"), "Default day.bmp");
-    EXPECT_TRUE(install.user.told().isEmpty());
-}
-
-TEST_F(SkyActions, aRemovalLeavesTheLastRowInHand) {
-    install.addSkySet("1-Störm", "Overcast", true, {"day.bmp", "notes.txt"}, "Sunny");
-    install.addSkySet("2-Calm", "Sky Clear", true);
-    writeFile(install.home() / u"TempBitmaps\\left.bmp", "over");
-    click("1-Störm", {"1-Störm"});
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkyGroup, "Sunny");
-    install.user.answersToGive = {false, true};
-    SkyActivation(session).deleteInHand(true);
-    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList) << "refused";
-    SkyActivation(session).deleteInHand(true);
-    EXPECT_TRUE(filesOf("1-Störm").isEmpty());
-    EXPECT_FALSE(install.files.exists(install.home() / u"TempBitmaps\\left.bmp"));
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "2-Calm");
-    EXPECT_TRUE(session.state<SkySelection>().selectedRows.isEmpty());
-    click("1-Störm");
-    ASSERT_TRUE(loadSkySubSet(session, session.state<SkySelection>().SelectedSkyKey, skyDay));
-    EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].red, 50) << "its colours stay";
-}
-
 } // namespace
 } // namespace morvane

@@ -2,7 +2,6 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
-#include "sets/options_in_force.h"
 #include "simulator/simulator_launch.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
@@ -72,25 +71,6 @@ TEST_F(SkyInstall, copiesTheBitmapsAndRecordsTheSet) {
     EXPECT_EQ(readFile(install.home() / u"Backup\\Originals\\Texture\\sky_1.bmp"), "the pilot's sky");
 }
 
-TEST_F(SkyInstall, anEmptyFolderChangesRowsAndSplashOnly) {
-    const std::tuple<QString, QString, QByteArray> sets[] = {
-        {"2-Odd", "Odd", "the pilot's splash"}, {"3-Calm", "Sky Clear", "splash SKC"}}; // "Odd" has no splash
-    for (const auto& [name, cover, expected] : sets) {
-        install.addSkySet(name, cover, true);
-        installSky(name);
-        EXPECT_EQ(install.installedSkySets(), QStringList{name});
-        EXPECT_EQ(splash(), expected);
-    }
-    EXPECT_EQ(texture(u"sky_1.bmp"), "the pilot's sky");
-    // "Default" is a set like any other: the ground's would replace the splash whatever the option.
-    install.addSkySet("Default", "Partly Cloudy", true, {"sky_1.bmp"});
-    session.state<OptionsInForce>().InhibitCustomSplash = true;
-    installSky("Default");
-    EXPECT_EQ(texture(u"sky_1.bmp"), "Default sky_1.bmp");
-    EXPECT_EQ(splash(), "splash SKC");
-    EXPECT_TRUE(install.user.told().isEmpty());
-}
-
 TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
     install.user.answersToGive = {false};
     installSky("1-Storm", false);
@@ -103,15 +83,6 @@ TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
     EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
     EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
     EXPECT_TRUE(install.user.calls.contains("refresh frm_KMTextures"));
-
-    session.CommandLineRun = true;
-    session.state<SkySelection>().RefreshSkyList = false;
-    install.user.calls.clear();
-    install.user.messages.clear();
-    installSky("1-Storm", false);
-    EXPECT_FALSE(session.state<SkySelection>().RefreshSkyList);
-    EXPECT_EQ(install.user.countOfKind(MessageKind::question), 1) << "no start of the simulator is offered";
-    EXPECT_FALSE(install.user.calls.contains("refresh frm_Main"));
 }
 
 TEST_F(SkyInstall, aStoreThatRefusesEndsAnInstallByHand) {
@@ -181,19 +152,10 @@ TEST_F(MatchingSky, isDrawnFromAllOfTheCover) {
     EXPECT_EQ(texture(u"cloud.bmp"), "3-Rain cloud.bmp");
 }
 
-TEST_F(MatchingSky, isDefaultWithoutOneOfTheCoverAndNoneWithoutAny) {
+TEST_F(MatchingSky, isDefaultWithoutOneOfTheCover) {
     install.addGroundSet("2-A", "Sky Clear", true, {"Texture\\029h2su6.bmp"});
     install.addSkySet("Default", "Partly Cloudy", true);
     EXPECT_EQ(installGround(0), QStringList{"Default"});
-
-    install.user.calls.clear();
-    for (const QString& name : {u"Default"_s, u"1-Storm"_s})
-        loadedSkySets(session).RemoveItem(keyOf(*findSkySet(session, name)));
-    install.reload();
-    session.state<SkySelection>().SelectedSkySet = "untouched";
-    EXPECT_TRUE(installGround(0).isEmpty());
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "untouched");
-    EXPECT_EQ(install.user.calls.filter("sky textures").size(), 0);
 }
 
 } // namespace

@@ -44,13 +44,5 @@ TEST(PaletteMap, groupsUnderThePointer) {
     EXPECT_FALSE(SkyTuning::tipAt(7.55f, topRow)); // the last one stays
 }
 
-TEST(PaletteMap, gapsBetweenRowsAreSkyAndGapsBetweenColumnsNothing) {
-    for (const float gap : {7.55f, 101.05f, 241.0f}) {
-        EXPECT_FALSE(skyGroupAt(gap, 3)) << gap;
-        EXPECT_EQ(skyGroupAt(3, gap)->number, 10) << gap;
-    }
-    EXPECT_FALSE(skyGroupAt(7.55f, 7.55f));
-}
-
 } // namespace
 } // namespace morvane

@@ -48,13 +48,5 @@ TEST_F(SkyRandomiser, everyFieldReachesItsEnds) {
     EXPECT_TRUE(install.user.messages.empty());
 }
 
-TEST_F(SkyRandomiser, fieldsAreDrawnOneAfterTheOther) {
-    install.random.numbers.clear();
-    for (const double fraction : {0.11, 0.21, 0.31, 0.41, 0.51, 0.61})
-        install.random.numbers.insert(install.random.numbers.end(), 5, fraction); // a draw has five rounds
-    EXPECT_EQ(draw(3, u"Horizons"_s, 9), (SliderValues{-26, -12, 3, -4, -15, 12}));
-    EXPECT_EQ(install.random.draws, 30);
-}
-
 } // namespace
 } // namespace morvane

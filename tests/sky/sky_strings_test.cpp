@@ -1,7 +1,5 @@
 #include "sky/sky_strings.h"
 
-#include "core/error.h"
-#include "sky/sky_groups.h"
 #include "sky/sky_install.h"
 #include "support/printing.h"
 
@@ -46,31 +44,6 @@ TEST_F(StringsTest, everyGroupFollowsItsRule) {
             EXPECT_EQ(qChecksum(sets.join(u' ').toLatin1()), familyA.contains(base) ? sumOfA : sumOfB)
                 << cloudIndex << base.toStdString();
         }
-}
-
-TEST_F(StringsTest, textsAndTableSayTheSame) {
-    const SkyStrings strings = drawSkyStrings(session, 5, u"Horizons"_s);
-    for (const SkyGroupConstants& group : skyGroups()) {
-        const QString& text = strings[static_cast<std::size_t>(group.number - 1)];
-        const auto read = parseSkyColourString(text);
-        EXPECT_TRUE(text.endsWith(u':' + skyRegionSuffix(group))) << text.toStdString();
-        for (const SkyField& field : skyFields())
-            EXPECT_EQ(skyRecord(session.state<SkyColourTables>().skyTextureGroups, group.number).*field.value,
-                      (*read).*field.value);
-    }
-}
-
-TEST_F(StringsTest, aBaseSetWithoutRulesGetsItsRegionsAlone) {
-    session.state<SkyColourTables>().skyTextureGroups[9].red = 50;
-    for (int cloudIndex = 1; cloudIndex <= 4; ++cloudIndex) {
-        const SkyStrings strings = drawSkyStrings(session, cloudIndex, u"Overcast"_s);
-        EXPECT_EQ(strings[5], "6:31:32");
-        EXPECT_EQ(strings[9], "1:32:255");
-        EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].red, 0);
-        EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[9].PixelY, 255);
-    }
-    EXPECT_THROW(drawSkyStrings(session, 0, u"Default"_s), Error);
-    EXPECT_THROW(drawSkyStrings(session, 6, u"Default"_s), Error);
 }
 
 } // namespace

@@ -20,14 +20,6 @@ struct SkyTuningTest : testing::Test {
     SkyGroup& group(int number) {
         return skyRecord(session.state<SkyColourTables>().skyPaletteGroups, number);
     }
-    void chooseBase(const QString& name, bool confirmed) {
-        install.user.onModal = [=, this](Screen screen) {
-            ASSERT_EQ(screen, Screen::frm_SelectBaseSky);
-            session.state<SkyTuningState>().baseSet = name; // in force at its click
-            session.state<BaseSkyAnswer>().baseSkyConfirmed = confirmed;
-        };
-        tuning.openBaseSkyImage();
-    }
     bool shows(const QString& baseSet) {
         SkySample sample(session, SkyTable::palette);
         EXPECT_TRUE(sample.openImage(skySampleFile(session, baseSet)));
@@ -40,91 +32,8 @@ struct SkyTuningTest : testing::Test {
     const FilePath settings = install.home() / u"LastSkySettings.cfg";
 };
 
-// Places on the palette picture.
-constexpr float topRow = 3, bottomRow = 237, skyRow = 120;
-constexpr float shadow = 3, water = 100, gap = 7.55f;
-
-TEST_F(SkyTuningTest, firstRunAppliesNoRegionUntilItIsClicked) {
-    EXPECT_EQ(tuning.open(), SliderValues{});
-    EXPECT_EQ(session.state<SkyTuningState>().cloudCover, "Sky Clear");
-    EXPECT_EQ(session.state<SkyTuningState>().baseSet, "Default");
-    EXPECT_EQ(tuning.selectedText(), "The aircraft/ground dark shadowing pixel is currently selected");
-    ASSERT_EQ(tuning.sourceDib().Width(), 32);
-    EXPECT_TRUE(shows(u"Default"_s));
-
-    tuning.SkyProcess({0, 100, 0, 0, 50, 0});
-    EXPECT_EQ(group(1).red, 100);
-    EXPECT_FALSE(isColoured());
-    EXPECT_EQ(tuning.clickPalette(shadow, topRow), (SliderValues{0, 100, 0, 0, 50, 0}));
-    EXPECT_TRUE(isColoured());
-    EXPECT_TRUE(install.user.told().isEmpty());
-}
-
-TEST_F(SkyTuningTest, noGroupsNumbersLeakIntoAnother) {
-    tuning.open();
-    tuning.clickPalette(water, topRow);
-    EXPECT_EQ(tuning.selectedText(), "The main water selection of pixels is currently selected");
-    const SliderValues waterValues{1, 2, 3, 4, 5, 6};
-    tuning.SkyProcess(waterValues);
-    EXPECT_EQ(tuning.clickPalette(water, skyRow), SliderValues{});
-    EXPECT_EQ(tuning.selectedText(), "The main sky block of pixels is currently selected");
-    tuning.SkyProcess({60, 50, 40, 30, 20, 10});
-    EXPECT_EQ(tuning.clickPalette(water, bottomRow), SliderValues{});
-    EXPECT_EQ(tuning.clickPalette(water, topRow), waterValues);
-    EXPECT_EQ(tuning.open(), waterValues) << "a later visit keeps the state";
-    EXPECT_EQ(SkyTuning(session).open(), waterValues);
-    EXPECT_EQ(skyColourString(group(6), skyGroup(6)), "1:2:3:4:5:6:6:31:32");
-    EXPECT_EQ(skyColourString(group(10), skyGroup(10)), "60:50:40:30:20:10:1:32:255");
-    EXPECT_EQ(group(8).PixelY, 0); // never clicked
-    const QByteArray before = test::bytesOf(tuning.resultDib());
-    EXPECT_EQ(tuning.clickPalette(gap, topRow), waterValues) << "between two columns";
-    EXPECT_EQ(session.state<SkyTuningState>().selectedGroup, 6);
-    EXPECT_EQ(test::bytesOf(tuning.resultDib()), before);
-}
-
-TEST_F(SkyTuningTest, previewShowsAllGroupsAtOnce) {
-    tuning.open();
-    tuning.clickPalette(water, topRow);
-    tuning.SkyProcess({0, 0, 0, 0, -100, 0});
-    tuning.clickPalette(water, bottomRow);
-    tuning.SkyProcess({0, 0, 0, 0, -100, 0});
-    for (const auto& [x, y, isIn] : {std::tuple(10, 31, true), {10, 0, true}, {10, 1, false}, {4, 31, false}})
-        EXPECT_EQ(test::pixelAt(tuning.resultDib(), x, y) != test::pixelAt(tuning.sourceDib(), x, y), isIn)
-            << x << ' ' << y;
-}
-
-TEST_F(SkyTuningTest, randomNumbersGoToTheGroupInHand) {
-    tuning.open();
-    tuning.optCloudCover(4);
-    EXPECT_EQ(session.state<SkyTuningState>().cloudCover, "Overcast");
-    install.random.numbers = {0};
-    tuning.clickPalette(water, skyRow);
-    EXPECT_EQ(tuning.randomizeSky(), (SliderValues{-30, -30, -30, -30, -30, -30}));
-    EXPECT_EQ(group(10).contrast, -30);
-    EXPECT_TRUE(isColoured());
-    tuning.clickPalette(water, topRow);
-    tuning.SkyProcess({1, 2, 3, 4, 5, 6});
-    EXPECT_EQ(tuning.randomizeSky(), SliderValues{}); // water has no rule
-    EXPECT_EQ(SkyTuning::drawnLabel(0), "0%");
-    EXPECT_EQ(SkyTuning::drawnLabel(-35), "-35%");
-    EXPECT_THROW(tuning.optCloudCover(5), Error);
-}
-
-TEST_F(SkyTuningTest, aChosenBaseIsInForceAtItsClick) {
-    tuning.open();
-    chooseBase(u"Horizons"_s, false);
-    EXPECT_TRUE(shows(u"Default"_s));
-    chooseBase(u"Horizons"_s, true);
-    EXPECT_TRUE(shows(u"Horizons"_s));
-    for (const QString& name : {u"Sunny"_s, u"Tropical"_s, u"Overcast"_s}) { // shown even after a cancel
-        chooseBase(name, false);
-        EXPECT_TRUE(shows(name)) << name.toStdString();
-    }
-    EXPECT_TRUE(install.user.told().isEmpty());
-    chooseBase(u"Average"_s, false); // of which this install has no folder
-    EXPECT_EQ(install.user.told().size(), 1);
-    EXPECT_TRUE(shows(u"Overcast"_s));
-}
+// A place on the palette picture.
+constexpr float topRow = 3, water = 100;
 
 TEST_F(SkyTuningTest, settingsComeBackWithTheMapsRegions) {
     tuning.open();
@@ -172,21 +81,6 @@ TEST_F(SkyTuningTest, settingsOfAnotherHandAreTakenAsTheyAre) {
     saveLastSkySettings(session);
     EXPECT_EQ(GetIniString(install.files, u"Cloud Cover"_s, u"1"_s, settings), "A very foggy mo");
     EXPECT_EQ(GetIniString(install.files, u"Kept"_s, u"as"_s, settings), "it is");
-}
-
-TEST_F(SkyTuningTest, settingsWithoutACoverAreAFirstRunAndWithoutABaseShowNoSample) {
-    test::writeFile(settings, "[Cloud Cover]\r\n1=  \r\n[Texture Set Group]\r\n1=Sunny\r\n[Red]\r\n1=5\r\n");
-    EXPECT_EQ(tuning.open(), SliderValues{});
-    EXPECT_EQ(session.state<SkyTuningState>().baseSet + session.state<SkyTuningState>().cloudCover,
-              "DefaultSky Clear");
-
-    session.state<SkyTuningState>() = {};
-    test::writeFile(settings, "[Cloud Cover]\r\n1=Overcast\r\n[Red]\r\n1=5\r\n");
-    SkyTuning withoutBase(session);
-    EXPECT_EQ(withoutBase.open(), (SliderValues{0, 5, 0, 0, 0, 0}));
-    EXPECT_EQ(session.state<SkyTuningState>().cloudIndex, 5);
-    EXPECT_EQ(install.user.told().size(), 1);
-    EXPECT_FALSE(withoutBase.sourceDib().isCreated());
 }
 
 TEST_F(SkyTuningTest, exitWritesOnlyWhatWasLoaded) {

@@ -4,6 +4,7 @@
 #include "core/row_set.h"
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
+#include "support/set_states.h"
 #include "support/small_install.h"
 
 namespace morvane::test {
@@ -39,14 +40,8 @@ inline void addNightSet(SmallInstall& install, const QString& name, bool activat
     refreshNightSets(install.session);
 }
 
-/// All night sets in the store, "+" behind an activated and "*" behind an installed one.
 inline QString nightSets(Session& session) {
-    refreshNightSets(session);
-    QStringList names;
-    for (const auto& set : *session.rows<clsNightTextureSets>())
-        names << set->TextureSet + (set->Actvated == flagText(true) ? u"+"_s : QString()) +
-                     (set->Installed ? u"*"_s : QString());
-    return names.join(u' ');
+    return setStates<NightKind>(session);
 }
 
 } // namespace morvane::test

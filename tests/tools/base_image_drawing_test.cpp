@@ -1,4 +1,3 @@
-#include "base_image_contact_sheet.h"
 #include "base_image_drawing.h"
 
 #include "core/literals.h"
@@ -45,21 +44,6 @@ TEST(BaseImageDrawing, givesEveryFileAPictureOfItsOwnAndTheSameOnEverySystemAndI
     other.join();
     EXPECT_EQ(there, here);
     EXPECT_EQ(all, 11002042008063319927u);
-}
-
-TEST(ContactSheet, showsPicturesUprightAndAtOneSize) {
-    Picture blueBelow{8, 8, std::vector<std::uint8_t>(8 * 24, 40)};
-    std::fill_n(blueBelow.rows.begin(), 24, 200);
-    const QImage sheet = contactSheet({{u"029h2su6.bmp"_s, {blueBelow, {}}}}, {u"Base"_s, u"Sky Clear"_s});
-    QRect dark, bright;
-    for (int y = 0; y < sheet.height(); ++y)
-        for (int x = 0; x < sheet.width(); ++x) {
-            if (sheet.pixel(x, y) == qRgb(40, 40, 40)) dark |= QRect(x, y, 1, 1);
-            if (sheet.pixel(x, y) == qRgb(200, 200, 200)) bright |= QRect(x, y, 1, 1);
-        }
-    EXPECT_EQ(dark.width(), 144);
-    EXPECT_EQ(bright.width(), 144);
-    EXPECT_GT(bright.top(), dark.bottom());
 }
 
 } // namespace

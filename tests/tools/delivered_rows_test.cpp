@@ -2,11 +2,7 @@
 
 #include "core/row_set.h"
 #include "core/store.h"
-#include "core/text_decoding.h"
 #include "support/printing.h"
-
-#include <QRegularExpression>
-#include <QSet>
 
 namespace morvane {
 namespace {
@@ -28,7 +24,7 @@ TEST_F(DeliveredRows, everyTableHoldsItsCountBehindAFirstRunWithoutAQuestion) {
 }
 
 TEST_F(DeliveredRows, haveTheirTexts) {
-    const QString delivered = files.read(test::testFile(u"delivered_rows.txt"));
+    const QString delivered = files.read(FilePath(QStringLiteral(MORVANE_TEST_FOLDER "/delivered_rows.txt")));
     const QStringList blocks = delivered.trimmed().split(u"\n\n"_s).mid(1); // behind the file's own words
     EXPECT_EQ(blocks.size(), 10);
     for (const QString& block : blocks) {
@@ -43,43 +39,6 @@ TEST_F(DeliveredRows, haveTheirTexts) {
         }
         EXPECT_EQ(found, lines);
     }
-}
-
-/// The position of a row; told when it is not in signed decimal degrees.
-QString positionOf(const RowSet& row) {
-    static const QRegularExpression form(u"^-?\\d{1,2}(\\.\\d{1,6})? -?1?\\d{1,2}(\\.\\d{1,6})?$"_s);
-    const QString position = row.text(u"METAR_LAT") + u' ' + row.text(u"METAR_LONG");
-    EXPECT_TRUE(position == u" " || form.match(position).hasMatch()) << position.toStdString();
-    return position;
-}
-
-/// Every station of the sample cycles.
-QSet<QString> reportingStations(FileSystem& files) {
-    const FilePath data(QStringLiteral(MORVANE_DATA_DIR));
-    QSet<QString> stations;
-    for (const char16_t* file : {u"metar\\Export_Cycle.dat", u"metar\\02Z.TXT"})
-        for (const QString& line : splitLines(decodeText(files.read(data / file))))
-            if (const QString word = line.section(u' ', 0, 0); !word.isEmpty() && !word.contains(u'/'))
-                stations << word;
-    return stations;
-}
-
-TEST_F(DeliveredRows, reportsAreThoseOfTheSampleCyclesOneAStationWithItsPosition) {
-    QSet<QString> stations;
-    int placed = 0;
-    RowSet rows(*session.adoConn, u"SELECT * FROM DECODED_METAR"_s);
-    for (; !rows.atEnd(); rows.next()) {
-        const QString station = rows.text(u"METAR_ICAO");
-        stations << station;
-        EXPECT_TRUE(rows.text(u"METAR_STRING").startsWith(station + u' '));
-        const QString cycle =
-            rows.text(u"METAR_CYCLE") + rows.text(u"METAR_MONTH") + rows.text(u"METAR_YEAR");
-        EXPECT_TRUE(cycle == u"2November2011" || cycle == u"16October2007") << cycle.toStdString();
-        placed += positionOf(rows) != u" ";
-    }
-    EXPECT_EQ(stations.size(), rows.count());
-    EXPECT_EQ(stations, reportingStations(files));
-    EXPECT_EQ(placed, 571); // no public list knows the other forty
 }
 
 } // namespace

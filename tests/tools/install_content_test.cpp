@@ -14,12 +14,6 @@ using test::ToolRun;
 
 using InstallContent = MadeInstall;
 
-TEST_F(InstallContent, hasTheFoldersThatTheProgramReadsOrWrites) {
-    const QString folders = files.read(test::testFile(u"install_folders.txt"));
-    for (const QString& folder : folders.split(u'\n', Qt::SkipEmptyParts))
-        EXPECT_TRUE(files.isFolder(beside(folder))) << folder.toStdString();
-}
-
 TEST_F(InstallContent, isCurrentForItsOwnVersionAndDensityAndOnlyWhenWhole) {
     const auto check = [&](const FilePath& simulator, const QString& density) {
         return runContentTool(home(), simulator, {u"--check"_s, u"--density"_s, density}).status;

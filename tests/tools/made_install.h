@@ -11,11 +11,6 @@
 
 namespace morvane::test {
 
-/// A file of data beside the tests.
-inline FilePath testFile(QStringView name) {
-    return FilePath(QStringLiteral(MORVANE_TEST_FOLDER)) / name;
-}
-
 /// How a run of the content tool ended and what it said.
 struct ToolRun {
     int status = -1;

@@ -5,7 +5,6 @@
 #include "skin_palette.h"
 #include "support/temporary_folder.h"
 
-#include <QImageReader>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -99,32 +98,6 @@ TEST_F(SkinFiles, regionsAreThoseOfTheirPictures) {
         EXPECT_EQ(read, scanRegion(imageOf(picture), skin::keyColour.rgb()))
             << picture.toString().toStdString();
         EXPECT_GT(read.rectangles.size(), 1U) << "it is no rectangle";
-    }
-}
-
-TEST_F(SkinFiles, animationIconAndCursorsHoldWhatTheyTell) {
-    QImageReader animation(media().child(u"ASv6Process.gif"_s).native());
-    QImage last;
-    int frames = 0;
-    for (QImage frame = animation.read(); !frame.isNull(); frame = animation.read()) {
-        EXPECT_EQ(frame.size(), QSize(27, 27));
-        EXPECT_NE(frame, last);
-        last = frame;
-        ++frames;
-    }
-    EXPECT_EQ(frames, 8);
-
-    QImageReader icon(media().child(u"morvane.ico"_s).native());
-    for (const int side : {16, 32, 48}) {
-        EXPECT_EQ(icon.read().size(), QSize(side, side));
-        icon.jumpToNextImage();
-    }
-    for (const QString& name : {u"Hand.cur"_s, u"HMOVE.cur"_s}) {
-        const QByteArray file = files.read(media().child(name));
-        const QImage cursor = QImage::fromData(file, "ICO");
-        ASSERT_EQ(cursor.size(), QSize(32, 32));
-        EXPECT_EQ(qAlpha(cursor.pixel(0, 0)), 0);
-        EXPECT_EQ(qAlpha(cursor.pixel(file.at(10), file.at(12))), 255) << "the hot spot is on the drawing";
     }
 }
 

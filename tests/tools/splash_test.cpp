@@ -1,4 +1,3 @@
-#include "splash_lettering.h"
 #include "splash_screen.h"
 
 #include "core/literals.h"
@@ -18,12 +17,6 @@ TEST(Splash, isOfTheSizeAndDepthThatTheSimulatorShows) {
         pictures << QByteArray(reinterpret_cast<const char*>(splash.constBits()), splash.sizeInBytes());
     }
     EXPECT_EQ(pictures.size(), 5);
-}
-
-TEST(SplashLettering, hasEveryLetterOfFileNamesAndCaptions) {
-    const QString letters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789.,:-_/()%&"_s;
-    for (const QChar letter : letters)
-        EXPECT_FALSE(letteringPath(letter, 20).isEmpty()) << letter.toLatin1();
 }
 
 } // namespace

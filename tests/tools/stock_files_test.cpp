@@ -1,6 +1,5 @@
 #include "made_install.h"
 
-#include "ground/texture_catalogue.h"
 #include "ground/tropical_files.h"
 #include "imaging/bitmap_header.h"
 #include "imaging/picture_reader.h"
@@ -9,7 +8,6 @@
 #include "sets/catalogue_file.h"
 #include "support/printing.h"
 
-#include <QSet>
 #include <cmath>
 
 namespace morvane {
@@ -92,20 +90,6 @@ TEST_F(StockCatalogue, deliveredNightSetsHaveTheirFiles) {
     EXPECT_EQ(contents.size(), 4) << "no two have the same colours";
     for (const QString& folder : NightKind::facts().subfolders)
         EXPECT_TRUE(files.list(home() / u"TempBitmaps" / folder, u"*.*"_s).isEmpty());
-}
-
-TEST_F(StockCatalogue, noBaseImageIsWithoutUse) {
-    QSet<QString> used, there;
-    for (const CatalogueFile& file : TextureCatalogue(session).popTextureList(0, 0, true, u"7-Storm"_s))
-        used << file.sourceFolder.child(file.fileName).text();
-    for (const CatalogueFile& file : popNightTextureList(session, u"7-Storm"_s))
-        used << file.sourceFolder.child(file.fileName).text();
-    for (const QString& folder : resourceFolders) {
-        const FilePath resources = (home() / u"Resources").child(folder);
-        for (const QString& name : files.list(resources, u"*.*"_s))
-            there << resources.child(name).text();
-    }
-    EXPECT_EQ(used, there);
 }
 
 } // namespace

@@ -116,12 +116,5 @@ TEST_F(SetTableTest, storedRedAndBluePaintAsTheDesignsOwn) {
     EXPECT_EQ(table.topLevelItem(1)->toolTip(0), u"a tip"_s);
 }
 
-TEST_F(SetTableTest, aRowSelectedFromCodeIsBroughtIntoView) {
-    for (int number = 4; number <= 40; ++number)
-        table.addRow({u"Key:%1"_s.arg(number), {u"set"_s}, {}});
-    table.selectRow(40);
-    EXPECT_TRUE(table.viewport()->rect().contains(cell(40).center()));
-}
-
 } // namespace
 } // namespace morvane

@@ -4,7 +4,6 @@
 
 #include "core/literals.h"
 
-#include <QFontDatabase>
 #include <QImage>
 #include <gtest/gtest.h>
 
@@ -41,10 +40,6 @@ TEST_F(SkinTest, livesWithFilesThatAreMissingOrBroken) {
             EXPECT_EQ(skin.cursor(name, Qt::SizeAllCursor).shape(), Qt::SizeAllCursor);
         }
     EXPECT_EQ(skin.missing(), wanted) << "each is told once";
-}
-
-TEST(ProgramFont, comesWithTheProgram) {
-    EXPECT_EQ(QFontDatabase::applicationFontFamilies(0), QStringList{u"Roboto"_s});
 }
 
 TEST(ScreenScale, isTheLargestAtWhichTheMainWindowFits) {

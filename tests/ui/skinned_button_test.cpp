@@ -1,7 +1,6 @@
 #include "support/temporary_folder.h"
 #include "ui/skin.h"
 #include "ui/skinned_button.h"
-#include "window/dispatch_table.h"
 
 #include "core/literals.h"
 
@@ -91,15 +90,6 @@ TEST_F(SkinnedButtonTest, survivesAClickThatTakesItAway) {
     SUCCEED();
 }
 
-TEST_F(SkinnedButtonTest, isPressedByTheKeysAndByCode) {
-    for (const Qt::Key press : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
-        QTest::keyClick(&key, press);
-    EXPECT_EQ(clicks.count(), 3);
-    key.click_event();
-    EXPECT_EQ(key.state(), ButtonState::down) << "it is pressed and not let go";
-    EXPECT_EQ(clicks.count(), 3);
-}
-
 TEST_F(SkinnedButtonTest, showsTheFrameOfItsStateAndKeepsItsStripWhereAPictureIsMissing) {
     const QColor frames[] = {Qt::red, Qt::green, Qt::blue, Qt::white};
     QImage strip(key.width(), 4 * key.height(), QImage::Format_RGB888);
@@ -114,17 +104,6 @@ TEST_F(SkinnedButtonTest, showsTheFrameOfItsStateAndKeepsItsStripWhereAPictureIs
             EXPECT_EQ(key.grab().toImage().pixelColor(2, 2), frames[frame]) << frame;
         }
     }
-}
-
-TEST(DispatchTable, comparesFormsExactlyAndKeysInAnyCase) {
-    constexpr auto large = ButtonFamily::LargeButton;
-    const ButtonAction remove = actionOf(large, u"frm_MVTextures"_s, u"delete ts"_s);
-    EXPECT_NE(remove, nullptr);
-    EXPECT_EQ(actionOf(large, u"frm_MVTextures"_s, u"DELETE Ts"_s), remove);
-    EXPECT_EQ(actionOf(large, u"frm_mvtextures"_s, u"delete ts"_s), nullptr);
-    EXPECT_EQ(actionOf(ButtonFamily::MediumButton, u"frm_MVTextures"_s, u"delete ts"_s), nullptr);
-    EXPECT_EQ(actionOf(large, u"frm_MVTextures"_s, u"delete"_s), nullptr);
-    EXPECT_NE(actionOf(ButtonFamily::smallButton, {}, u"exit"_s), nullptr) << "small keys work on any parent";
 }
 
 } // namespace

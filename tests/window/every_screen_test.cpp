@@ -80,12 +80,21 @@ QString toldOf(QWidget& widget) {
     return words.join(u' ');
 }
 
+/// Pages stand in their windows, and have lines of their own.
+bool isOfItsPage(const QWidget& widget, const Form& form) {
+    const QWidget* parent = widget.parentWidget();
+    while (parent != &form && !qobject_cast<const Form*>(parent))
+        parent = parent->parentWidget();
+    return parent != &form;
+}
+
 /// A line for each control of a screen that has a name or says something; what differs from run to run left
 /// out.
 QStringList linesOf(Form& form, const QString& folder) {
     QStringList lines{u"== "_s + form.objectName() + u'|' + form.windowTitle() + u'|' + toldOf(form)};
     for (QWidget* widget : form.findChildren<QWidget*>()) {
         const QString text = textOf(*widget);
+        if (isOfItsPage(*widget, form)) continue;
         if ((widget->objectName().isEmpty() && text.isEmpty()) || widget->objectName().startsWith(u"qt_"))
             continue;
         const QStringList cells{widget->objectName(), text, toldOf(*widget), widget->toolTip(),

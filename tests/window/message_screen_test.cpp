@@ -8,7 +8,6 @@
 
 #include <QCheckBox>
 #include <QMessageBox>
-#include <QMovie>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
@@ -76,18 +75,6 @@ TEST_F(MessageScreenTest, showsMarkUpAsItReads) {
     program.user.showMessage({MessageKind::error, u"<b>12-Storm</b>"_s, u"<i>x</i>"_s});
 }
 
-TEST_F(MessageScreenTest, endsAMessageThatANewOneMeets) {
-    QStringList order;
-    program.whenShown(name, [&](DialogForm&) {
-        program.confirmNext(name);
-        program.user.showMessage(plain);
-        order << u"second"_s;
-    });
-    program.user.showMessage(plain);
-    order << u"first"_s;
-    EXPECT_EQ(order, (QStringList{u"second"_s, u"first"_s})) << "last in, first out";
-}
-
 TEST_F(MessageScreenTest, asksBeforeItCancelsAndOnlyWhereThatIsOffered) {
     Job job(program.session);
     program.user.showMessage(progress);
@@ -107,26 +94,6 @@ TEST_F(MessageScreenTest, asksBeforeItCancelsAndOnlyWhereThatIsOffered) {
     program.user.hideMessage();
 }
 
-TEST_F(MessageScreenTest, showsAPictureOrAnAnimationBelowTheIcon) {
-    const FilePath media = program.install.home() / u"Media";
-    test::writeFile(media / u"server.bmp", test::smallBitmap(27, 90));
-    test::writeFile(media / u"wait.gif",
-                    QByteArray::fromBase64("R0lGODlhAQABAIAAAAAAAP///ywAAAAAAQABAAACAUwAOw=="));
-    const auto& picture = control<QLabel>(u"picASv6"_s);
-    const auto shownFor = [&](const QString& file) {
-        progress.picture = file;
-        program.user.showMessage(progress);
-        if (picture.isHidden()) return u"nothing"_s;
-        if (picture.movie()) return picture.movie()->isValid() ? u"animation"_s : u"broken"_s;
-        return picture.pixmap().isNull() ? u"empty"_s : u"picture"_s;
-    };
-    EXPECT_EQ(shownFor(u"server.bmp"_s), u"picture"_s);
-    EXPECT_EQ(shownFor(u"wait.gif"_s), u"animation"_s);
-    EXPECT_EQ(shownFor({}), u"nothing"_s);
-    EXPECT_EQ(shownFor(u"missing.gif"_s), u"broken"_s) << "and no harm done";
-    program.user.hideMessage();
-}
-
 TEST_F(MessageScreenTest, hasNoBarWhileActiveSkyWorksAndIsCancelledWithoutAQuestion) {
     for (const bool isBusy : {false, true}) {
         program.session.state<WeatherState>().ASv6Busy = isBusy;
@@ -136,16 +103,6 @@ TEST_F(MessageScreenTest, hasNoBarWhileActiveSkyWorksAndIsCancelledWithoutAQuest
     EXPECT_EQ(control<QPushButton>(u"cmdCancel"_s).text(), u"Cancel"_s);
     QTest::keyClick(&form(), Qt::Key_Escape);
     EXPECT_TRUE(answers.cancelRequested);
-    program.user.hideMessage();
-}
-
-TEST_F(MessageScreenTest, updatesTitleTextAndFileLine) {
-    program.user.showMessage(progress);
-    program.user.setProgressFile(u"Processing file 3 of 9 files"_s);
-    program.user.updateProgress(u" New "_s, {}, 40);
-    EXPECT_EQ(program.text(name, u"lbl_Title"_s), u"New"_s);
-    EXPECT_EQ(program.text(name, u"lbl_Message"_s), u"Please wait"_s);
-    EXPECT_EQ(program.text(name, u"lblProcessFile"_s), u"Processing file 3 of 9 files"_s);
     program.user.hideMessage();
 }
 

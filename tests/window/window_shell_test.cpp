@@ -37,24 +37,6 @@ struct ShellTest : testing::Test {
     }
 };
 
-/// A page in front of another one hides it: nothing of it can be reached or read.
-TEST_F(ShellTest, showsOnePageOfAWindowAtATime) {
-    const auto& ownKey = program.control<SkinnedButton>(u"frm_Main"_s, u"btn_GroundInstall"_s);
-    program.press(u"frm_Main"_s, u"btn_About"_s);
-    program.press(u"frm_Main"_s, u"btn_MainLinks"_s);
-    EXPECT_FALSE(ownKey.isVisible());
-    EXPECT_EQ(shell.CurrentChildScreen, u"frm_Links"_s);
-    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"links"_s});
-    const Form *links = shell.loadedForm(u"FRM_LINKS"_s), *about = shell.loadedForm(u"frm_About"_s);
-    EXPECT_EQ(links->parentWidget(), shell.form(u"frm_Main"_s));
-    EXPECT_TRUE(links->isVisible());
-    EXPECT_EQ(about->parentWidget(), nullptr) << "it got its former parent back";
-    EXPECT_FALSE(about->isVisible());
-    program.press(u"frm_Main"_s, u"btn_Home"_s);
-    EXPECT_TRUE(ownKey.isVisible());
-    EXPECT_EQ(links->parentWidget(), nullptr);
-}
-
 TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
     program.press(u"frm_Main"_s, u"btn_FlightConfig"_s);
     program.press(u"frm_Main"_s, u"btn_MVTextures"_s);

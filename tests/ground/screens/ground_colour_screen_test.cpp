@@ -1,10 +1,8 @@
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
-#include "imaging/slider_steps.h"
 #include "sets/colour_settings.h"
 #include "support/printing.h"
 #include "support/window_program.h"
-#include "ui/controls/option_picture.h"
 #include "ui/controls/slider.h"
 
 #include <QPushButton>
@@ -81,20 +79,6 @@ TEST_F(GroundColourScreenTest, everySliderSetsItsLabelAndItsColour) {
     }
 }
 
-TEST_F(GroundColourScreenTest, randomSetsAllSlidersAndResetAllClearsThem) {
-    slider(u"vcSaturation"_s).setValue(40);
-    chooseCover(4);
-    EXPECT_EQ(label(u"lblSat"_s), u"40%"_s) << "a cover changes no slider";
-    program.press(pageName, u"btn_Random"_s);
-    EXPECT_EQ(label(u"lblSat"_s), u"default"_s) << "saturation is never drawn";
-    EXPECT_LT(slider(u"vcRed"_s).value(), -9) << "an overcast sky takes red out";
-    EXPECT_EQ(label(u"lblRed"_s), sliderLabel(slider(u"vcRed"_s).value()));
-    EXPECT_NE(colours(), u"0:0:0:0:0:0"_s);
-    click(u"cmdResetAll"_s);
-    EXPECT_EQ(labels(), QStringList(6, u"default"_s));
-    EXPECT_EQ(colours(), u"0:0:0:0:0:0"_s);
-}
-
 TEST_F(GroundColourScreenTest, openTextureShowsTheChosenSample) {
     test::writeFile(program.install.home() / u"Resources\\GENERIC WORLD\\003b2wi3.bmp",
                     test::smallBitmap(32, 90));
@@ -134,17 +118,12 @@ TEST_F(GroundColourScreenTest, aFavouriteIsNamedByKeysAndListed) {
     ASSERT_TRUE(set);
     EXPECT_TRUE(set->TextureSet.endsWith(u"-Golden_ hour"_s)) << set->TextureSet.toStdString();
     EXPECT_EQ(set->Description, u"low sun"_s);
+    EXPECT_TRUE(set->IsDutch && !set->Installed);
     EXPECT_EQ(set->ColorSettings, u"0:10:0:0:0:0"_s);
     EXPECT_EQ(list.selectedNames(), QStringList{set->TextureSet}) << "as if it had been clicked";
     EXPECT_EQ(program.session.state<GroundSelection>().SelectedGroundSet, set->TextureSet);
     EXPECT_EQ(program.session.state<GroundSelection>().SelectedGroundCover, u"Mostly Clear"_s);
     EXPECT_EQ(program.stateOf(hostName, u"btn_TextureActivate"_s), ButtonState::enabled);
-}
-
-TEST_F(GroundColourScreenTest, aClickOnItsDiscChoosesACover) {
-    for (auto* disc : page.findChildren<OptionPicture*>())
-        QTest::mouseClick(disc, Qt::LeftButton);
-    EXPECT_TRUE(program.control<QRadioButton>(pageName, u"optCloudCover4"_s).isChecked());
 }
 
 } // namespace

@@ -47,18 +47,6 @@ struct GroundSetsScreenTest : testing::Test {
     static constexpr auto alive = ButtonState::enabled, dead = ButtonState::disabled;
 };
 
-TEST_F(GroundSetsScreenTest, listsEverySetAndShowsTheFirstOnItsSample) {
-    open();
-    EXPECT_EQ(test::columnOf(*list, 0), (QStringList{u"Default"_s, u"2-Storm"_s, u"3-Haze"_s}));
-    EXPECT_EQ(test::columnOf(*list, 1), (QStringList{u"True"_s, u"True"_s, u"False"_s}));
-    EXPECT_EQ(test::columnOf(*list, 2), (QStringList{u"Partly Cloudy"_s, u"Overcast"_s, u"Sky Clear"_s}));
-    EXPECT_EQ(list->topLevelItem(1)->toolTip(1), u"Activated?"_s);
-    EXPECT_EQ(list->selectedNames(), QStringList{u"Default"_s});
-    EXPECT_EQ(description(), u"A set of a test"_s);
-    EXPECT_EQ(picture(u"picTextureSetSource"_s).size(), QSize(16, 16));
-    EXPECT_NE(picture(u"picTextureSetSource"_s), picture(u"picTextureSetResult"_s));
-}
-
 /// The asymmetry is wanted: after the list was built anew a set can be deactivated only once it was clicked.
 TEST_F(GroundSetsScreenTest, onlyAClickOffersDeactivation) {
     open();
