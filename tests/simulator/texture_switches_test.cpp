@@ -69,9 +69,6 @@ TEST_F(TextureSwitches, goldenListsOfDutchTextures) {
     const QString base = "Default", ground = "2-Storm", night = "2-Red", none;
     const std::tuple<bool, QString, QString, QString> cases[] = {
         {true, none, none, "DUTCH\\005a2an1.agn|DUTCH NIGHT\\005a2an2.agn"},
-        {true, base, base,
-         "DUTCH\\005a2su2.bmp|DUTCH\\005a2an1.agn|DUTCH NIGHT\\005a2lm2.bmp|DUTCH NIGHT\\008b2lm1.bmp|"
-         "DUTCH NIGHT\\005a2an2.agn"},
         {true, ground, night,
          "Texture Sets\\2-Storm\\Dutch\\005a2su2.bmp|DUTCH\\005a2an1.agn|"
          "Night Texture Sets\\2-Red\\Dutch\\005a2lm2.bmp|DUTCH NIGHT\\005a2an2.agn"},
@@ -79,9 +76,6 @@ TEST_F(TextureSwitches, goldenListsOfDutchTextures) {
         {false, base, base,
          "GENERIC WORLD\\005a2su2.bmp|GENERIC WORLD\\005a2an1.agn|GENERIC WORLD\\008a2su1.bmp|"
          "DUTCH NIGHT\\005a2lm2.bmp|DUTCH NIGHT\\005a2an2.agn"},
-        {false, ground, night,
-         "Texture Sets\\2-Storm\\Texture\\005a2su2.bmp|GENERIC WORLD\\005a2an1.agn|DUTCH NIGHT\\005a2an2.agn|"
-         "Night Texture Sets\\2-Red\\Texture\\008a2lm1.bmp"},
     };
     for (const auto& [isOn, groundSet, nightSet, copies] : cases)
         EXPECT_EQ(lines(dutchCopies(session, isOn, groundSet, nightSet)).join(u'|'), copies);
@@ -93,9 +87,6 @@ TEST_F(TextureSwitches, goldenListsOfTropicalTextures) {
               (QStringList{"GENERIC WORLD\\045B2sp1.bmp > 045h2sp1.bmp",
                            "GENERIC WORLD\\029b2su6.bmp > 029h2su6.bmp",
                            "GENERIC WORLD\\029b2wi1.bmp > 029h2wi1.bmp",
-                           "GENERIC WORLD\\029b2an1.agn > 029h2an1.agn"}));
-    EXPECT_EQ(lines(tropicalCopies(session, true, "2-Storm")),
-              (QStringList{"Texture Sets\\2-Storm\\Texture\\029b2su6.bmp > 029h2su6.bmp",
                            "GENERIC WORLD\\029b2an1.agn > 029h2an1.agn"}));
     EXPECT_EQ(lines(tropicalCopies(session, false, "2-Storm")),
               (QStringList{"Texture Sets\\2-Storm\\Texture\\029H2SU6.bmp", "GENERIC WORLD\\029h2an1.agn"}));

@@ -1,7 +1,6 @@
 #include "core/literals.h"
 #include "core/text_decoding.h"
 #include "support/printing.h"
-#include "weather/metar_text.h"
 
 #include <gtest/gtest.h>
 
@@ -18,28 +17,6 @@ TEST(TextDecoding, utf8WhereAllOfItIsValid) {
     };
     for (const auto& [bytes, text] : cases)
         EXPECT_EQ(decodeText(bytes), text) << bytes.toHex().toStdString();
-}
-
-TEST(TextDecoding, linesOfBothKinds) {
-    const std::pair<QString, QStringList> cases[] = {
-        {u""_s, {}},
-        {u"a\r\nb\n"_s, {u"a"_s, u"b"_s, u""_s}},
-        {u"\n\r\n\na"_s, {u""_s, u""_s, u""_s, u"a"_s}},
-        {u"a\rb\r\r\nc\r"_s, {u"a\rb\r"_s, u"c\r"_s}},
-    };
-    for (const auto& [text, lines] : cases)
-        EXPECT_EQ(splitLines(text), lines);
-}
-
-TEST(MetarText, endsWithThePressure) {
-    const std::pair<QString, QString> cases[] = {
-        {u"KSEA 03007KT A2992 RMK AO2"_s, u"KSEA 03007KT A2992"_s},
-        {u"EGLL  18/11 q1018 NOSIG Q1019"_s, u"EGLL  18/11 q1018"_s},
-        {u"EGLL Q////  ABOVE Q10181 Q101"_s, u"EGLL Q////  ABOVE Q10181 Q101 "_s},
-        {u""_s, u""_s},
-    };
-    for (const auto& [report, stored] : cases)
-        EXPECT_EQ(trimMetarString(report), stored);
 }
 
 } // namespace

@@ -1,11 +1,8 @@
 #include "loopback_server.h"
 #include "support/printing.h"
 #include "support/window_program.h"
-#include "weather/report_rows.h"
 #include "weather/reports.h"
-#include "window/splash_screen.h"
 
-#include <QLabel>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -32,21 +29,6 @@ TEST_F(MetarRequestTest, yesFetchesAndNoDoesNot) {
         pressRefresh();
         EXPECT_EQ(server.requests(), ok ? 2 : 1);
     }
-    EXPECT_FALSE(program.user.isMessageVisible());
-}
-
-TEST_F(MetarRequestTest, aStartShowsTheTableOnTheSplash) {
-    auto& splash = program.shell.screen<frm_Splash>(u"frm_Splash"_s);
-    auto& text = program.control<QLabel>(u"frm_Splash"_s, u"lblScanning"_s);
-    session.StartingUp = true;
-    splash.showStep(u"before"_s, 1);
-    EXPECT_TRUE(clsWxFinders::reload(session));
-    EXPECT_EQ(text.text(), u"before"_s) << "an empty table is passed over";
-    clsWxFinder report;
-    report.WxFinderIcao = u"KSEA"_s;
-    storeReport(session, report);
-    EXPECT_TRUE(clsWxFinders::reload(session));
-    EXPECT_EQ(text.text(), u"Loading Metars from Database. Please Wait............."_s);
     EXPECT_FALSE(program.user.isMessageVisible());
 }
 
