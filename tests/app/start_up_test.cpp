@@ -70,24 +70,6 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
     EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
 }
 
-TEST_F(ApplicationTest, aStoreThatCannotBeBroughtUpToDateIsToldAndUsed) {
-    Schema later = programSchema();
-    later.push_back({u"NOTES"_s, {{.name = u"NOTE"_s, .width = 9}}, 2});
-    updateDatabase(session, later); // without a store
-    ASSERT_TRUE(startUp(session));
-    Store other;
-    other.open(install.home() / u"Morvane.mdb");
-    std::optional<StoreTransaction> lock(std::in_place, other);
-    for (const bool isLocked : {true, false}) {
-        if (!isLocked) lock.reset();
-        updateDatabase(session, later);
-        ASSERT_EQ(user.told().size(), 1) << isLocked;
-        EXPECT_TRUE(
-            user.told()[0].startsWith(u"Error|Morvane Error|Permission denied: the database is locked"_s));
-        EXPECT_EQ(session.adoConn->hasTable(u"NOTES"_s), !isLocked);
-    }
-}
-
 TEST_F(ApplicationTest, theCommandLineTakesTheFiveCodesExactly) {
     ASSERT_TRUE(startUp(session));
     session.CommandLineRun = true;

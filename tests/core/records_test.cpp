@@ -99,17 +99,6 @@ TEST_F(RecordsTest, everyKindOfRecordSurvivesAReload) {
     EXPECT_TRUE(user.calls.isEmpty());
 }
 
-TEST_F(RecordsTest, aSkySetGoesWithItsColours) {
-    execute(u"INSERT INTO SKY_TEXTURE_SETS(ID) VALUES (12)"_s);
-    execute(u"INSERT INTO SKY_TEXTURE_SUB_SETS(TEXTURE_SET_ID) VALUES (3), (12), (12)"_s);
-    clsSkyTextureSubSets::reload(session, 12);
-    EXPECT_EQ(session.rows<clsSkyTextureSubSets>()->Count(), 2);
-    clsSkyTextureSets::reload(session);
-    EXPECT_TRUE(session.rows<clsSkyTextureSets>()->RemoveItem(u"12"_s));
-    EXPECT_EQ(rowsOf(u"SKY_TEXTURE_SETS"_s), QStringList());
-    EXPECT_EQ(column(u"TEXTURE_SET_ID"_s, u"SKY_TEXTURE_SUB_SETS"_s), QStringList{u"3"_s});
-}
-
 TEST_F(RecordsTest, aKeyBeyondSixteenBitsFails) {
     setNextKey("TEXTURE_SETS", 32768);
     EXPECT_FALSE(session.rows<clsTextureSets>()->Save(storm));
@@ -162,13 +151,6 @@ TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
     EXPECT_FALSE(storedSwitch(session, &OptionsInForce::IsHalo));
     EXPECT_EQ(user.told().join(u'/'), u"Error|Morvane Error|%1/Exclamation|Metar Database Error!|%1/"
                                       "Error|Morvane Error|%1"_s.arg(closed));
-}
-
-TEST_F(RecordsTest, namesAreFoundAsTheyAreSpelt) {
-    addRows("TEXTURE_SETS(TEXTURE_SET)", {"Storm", "storm"});
-    clsTextureSets::reload(session);
-    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("storm"), 2); // exactly, with regard to case
-    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("calm"), 0);
 }
 
 TEST_F(RecordsTest, oneSetIsInstalled) {

@@ -89,18 +89,6 @@ TEST_F(StoreTest, oneStatementAtATime) {
     EXPECT_TRUE(store.hasTable(u"mv_backup"_s));
 }
 
-TEST_F(StoreTest, anUpdateOfARowSetWritesTheRowAtHandOnly) {
-    addBackups({u"Default"_s, u"Storm"_s, u"Calm"_s});
-    RowSet rows(store, u"SELECT BACKUP_NAME FROM MV_BACKUP WHERE BACKUP_NAME <> 'Calm'"_s);
-    rows.next();
-    rows.setText(u"BACKUP_NAME", u"Gale"_s);
-    EXPECT_EQ(rows.text(u"BACKUP_NAME"), "Storm"); // not before the update
-    rows.update();
-    rows.update(); // nothing was set: nothing to write
-    EXPECT_EQ(rows.text(u"BACKUP_NAME"), "Gale");
-    EXPECT_EQ(backups().join(u' '), "Default Gale Calm");
-}
-
 TEST_F(StoreTest, numbersAreCheckedForTheirWidth) {
     execute(
         u"INSERT INTO DECODED_METAR(ID, METAR_STRING, METAR_MAX_CLOUD) VALUES (40000, '12', 3000000000)"_s);

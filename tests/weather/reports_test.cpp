@@ -6,7 +6,6 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/reports.h"
-#include "weather/weather_endpoint.h"
 #include "weather/weather_refresh.h"
 #include "weather/weather_state.h"
 
@@ -241,12 +240,6 @@ TEST_F(CycleLoading, aCancelEndsTheDownloadWithoutAWordAndAnEmptyCycleEndsFlyNow
     EXPECT_TRUE(user.calls.filter(u"done"_s).isEmpty()) << "there is no age to tell";
     EXPECT_TRUE(session.state<WeatherState>().FlyNowDisabled);
     EXPECT_TRUE(user.calls.endsWith(u"refresh frm_WxControl"_s));
-}
-
-TEST_F(CycleLoading, onlyTheLoopbackIsReachedWithoutANetwork) {
-    for (const char16_t* address : {u"http://127.0.0.1:80", u"http://[::1]", u"http://localhost"})
-        EXPECT_TRUE(isOnline({QUrl(QString::fromUtf16(address)), {}, {}}, {}));
-    EXPECT_FALSE(isOnline({QUrl(u"https://example.org"_s), {}, {}}, {}));
 }
 
 } // namespace

@@ -71,6 +71,7 @@ TEST_F(CoverScreensTest, noKeyGoesRoundADeadOk) {
         EXPECT_TRUE(dialog.isVisible()) << "Enter is no way round a dead key";
         dialog.cancel();
     });
+    writePlan(u"note.txt"_s, "none");
     program.show(Screen::frm_FlightPlan, [](DialogForm& dialog) {
         QTest::keyClick(&dialog, Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible()) << "there are no plans";
