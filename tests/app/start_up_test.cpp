@@ -4,7 +4,6 @@
 #include "app/start_up.h"
 #include "core/store.h"
 #include "core/store_connection.h"
-#include "ground/ground_sets.h"
 #include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"

@@ -7,9 +7,7 @@
 #include "support/raised_error.h"
 #include "support/temporary_folder.h"
 
-#include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
 #include <functional>
 #include <gtest/gtest.h>
 

@@ -5,12 +5,9 @@
 #include "night/night_texture_sets.h"
 #include "sets/resource_folders.h"
 #include "simulator/backups.h"
-#include "simulator/base_install_rows.h"
-#include "simulator/option_table.h"
 #include "simulator/options.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
-#include "weather/report_rows.h"
 #include "weather/reports.h"
 
 #include "support/faulty_store.h"
@@ -163,17 +160,6 @@ TEST_F(RecordsTest, oneSetIsInstalled) {
             "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
     EXPECT_FALSE(session.rows<clsTextureSets>()->markInstalled(u"Default"_s));
     EXPECT_EQ(installed(), "0 1 0 0"); // not two, not none
-}
-
-TEST_F(RecordsTest, eachSwitchWritesItsOwnColumn) {
-    execute(u"INSERT INTO TEXTURE_SWITCH(ISDUTCH) VALUES (False)"_s);
-    for (const SimulatorOption& option : simulatorOptions()) {
-        if (!option.column) continue;
-        EXPECT_TRUE(!storedSwitch(session, option.flag) && storeSwitch(session, option.flag, true) &&
-                    storedSwitch(session, option.flag));
-        EXPECT_EQ(rowsOf("TEXTURE_SWITCH").first().count(u'1'), 2) << "the key and one of the switches";
-        EXPECT_TRUE(storeSwitch(session, option.flag, false));
-    }
 }
 
 /// Each write of a save fails in its turn: one message, and neither half a row nor a record without one.

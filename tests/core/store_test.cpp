@@ -89,16 +89,5 @@ TEST_F(StoreTest, oneStatementAtATime) {
     EXPECT_TRUE(store.hasTable(u"mv_backup"_s));
 }
 
-TEST_F(StoreTest, numbersAreCheckedForTheirWidth) {
-    execute(
-        u"INSERT INTO DECODED_METAR(ID, METAR_STRING, METAR_MAX_CLOUD) VALUES (40000, '12', 3000000000)"_s);
-    const RowSet row(store, u"SELECT * FROM DECODED_METAR"_s);
-    EXPECT_EQ(test::descriptionRaisedBy([&] { row.integer(u"ID"); }), "Overflow");
-    EXPECT_EQ(row.longInteger(u"ID"), 40000);
-    EXPECT_EQ(test::descriptionRaisedBy([&] { row.longInteger(u"METAR_MAX_CLOUD"); }), "Overflow");
-    EXPECT_EQ(test::descriptionRaisedBy([&] { row.integer(u"METAR_YEAR"); }), "Type mismatch"); // a null
-    EXPECT_EQ(row.integer(u"METAR_STRING"), 12); // a text of digits is a number
-}
-
 } // namespace
 } // namespace morvane

@@ -1,6 +1,5 @@
 #include "weather/active_sky.h"
 
-#include "core/file_helpers.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/reports.h"

@@ -1,7 +1,6 @@
 #include "weather/report_filter.h"
 
 #include "core/session.h"
-#include "core/store.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/report_rows.h"

@@ -9,7 +9,6 @@
 #include "ui/controls/set_table.h"
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
