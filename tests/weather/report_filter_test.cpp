@@ -55,8 +55,6 @@ TEST_F(WxFilterTest, whatEachWordFinds) {
         {"snow is in snow grains", u"Snow|Any|Any|Any"_s, false, false, false, u"GS"_s},
         {"no weather", u"None|Any|Any|Any"_s, false, false, false, u"HS"_s},
         {"moderate rain", u"Rain|Moderate|Any|Any"_s, false, false, false, u"G"_s},
-        {"none has no intensity", u"None|Heavy|Any|Any"_s, false, false, false, u"HS"_s},
-        {"no obscuration", u"Any|Any|None|Any"_s, false, false, false, u"DH"_s},
         {"clear with cumulus", u"Any|Any|Any|Sky Clear"_s, false, false, true, u"H"_s},
         {"cumulonimbus, not towering", u"Any|Any|Any|Any"_s, false, true, false, u"G"_s},
         {"towering", u"Any|Any|Any|Any"_s, true, false, false, u"S"_s},
