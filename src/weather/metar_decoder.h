@@ -16,22 +16,20 @@ struct MetarToken;
 class clsDecodeMetar {
 public:
     explicit clsDecodeMetar(UserInterface& user) : user_(user) {}
-    virtual ~clsDecodeMetar() = default;
 
     /// The report of a line; of an empty or blank one only the line itself. A failing pass shows its message
     /// and the next ones still run.
     clsWxFinder decodeMetarString(const QString& metar);
 
 private:
-    // Virtual so that a test can make one fail: no report is known to.
-    virtual void Wind(const MetarTokens& tokens);
-    virtual void DateTime(const MetarTokens& tokens);
-    virtual void Visibility(const MetarTokens& tokens);
-    virtual void Weather(const MetarTokens& tokens);
-    virtual void Obscuration(const MetarTokens& tokens);
-    virtual void CloudCover(const MetarTokens& tokens);
-    virtual void TempDewpoint(const MetarTokens& tokens);
-    virtual void Pressure(const MetarTokens& tokens);
+    void Wind(const MetarTokens& tokens);
+    void DateTime(const MetarTokens& tokens);
+    void Visibility(const MetarTokens& tokens);
+    void Weather(const MetarTokens& tokens);
+    void Obscuration(const MetarTokens& tokens);
+    void CloudCover(const MetarTokens& tokens);
+    void TempDewpoint(const MetarTokens& tokens);
+    void Pressure(const MetarTokens& tokens);
 
     void setDirectionAndSpeed(QStringView wind);
     void setVariation(const MetarTokens& tokens);

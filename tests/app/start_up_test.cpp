@@ -4,7 +4,6 @@
 #include "app/start_up.h"
 #include "core/store.h"
 #include "core/store_connection.h"
-#include "ground/ground_sets.h"
 #include "sets/options_in_force.h"
 #include "support/printing.h"
 #include "support/small_install.h"
@@ -68,46 +67,6 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
               QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s}));
     EXPECT_EQ(session.FSPath.native(), right);
     EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
-}
-
-TEST_F(ApplicationTest, whoGivesUpLeavesNothingBehind) {
-    install.files.remove(install.simulator() / u"fs9.exe");
-    const auto before = test::contentsBelow(install.home());
-    user.foldersToChoose = {install.home().native()};
-    user.otherwise = false;
-    EXPECT_FALSE(startUp(session));
-    EXPECT_EQ(user.calls, QStringList({firstBox, u"browse"_s, retryBox}));
-    EXPECT_EQ(session.adoConn, nullptr);
-    EXPECT_EQ(test::contentsBelow(install.home()), before);
-}
-
-TEST_F(ApplicationTest, goesOnWithoutAStoreAndEachLoadTellsForItself) {
-    install.files.remove(install.home() / u"Morvane.mdb");
-    EXPECT_TRUE(startUp(session));
-    const QStringList boxes = user.calls.filter(u"box "_s);
-    ASSERT_EQ(boxes.size(), 1);
-    EXPECT_TRUE(boxes[0].contains(u"file not found"_s) && !boxes[0].contains(u'\n')) << qPrintable(boxes[0]);
-    const int told = user.countOfKind(MessageKind::error);
-    EXPECT_FALSE(refreshGroundSets(session));
-    EXPECT_EQ(user.countOfKind(MessageKind::error), told + 1);
-}
-
-TEST_F(ApplicationTest, aStoreThatCannotBeBroughtUpToDateIsToldAndUsed) {
-    Schema later = programSchema();
-    later.push_back({u"NOTES"_s, {{.name = u"NOTE"_s, .width = 9}}, 2});
-    updateDatabase(session, later); // without a store
-    ASSERT_TRUE(startUp(session));
-    Store other;
-    other.open(install.home() / u"Morvane.mdb");
-    std::optional<StoreTransaction> lock(std::in_place, other);
-    for (const bool isLocked : {true, false}) {
-        if (!isLocked) lock.reset();
-        updateDatabase(session, later);
-        ASSERT_EQ(user.told().size(), 1) << isLocked;
-        EXPECT_TRUE(
-            user.told()[0].startsWith(u"Error|Morvane Error|Permission denied: the database is locked"_s));
-        EXPECT_EQ(session.adoConn->hasTable(u"NOTES"_s), !isLocked);
-    }
 }
 
 TEST_F(ApplicationTest, theCommandLineTakesTheFiveCodesExactly) {

@@ -1,33 +1,14 @@
 #include "core/file_helpers.h"
 
 #include "support/printing.h"
-#include "support/small_install.h"
+#include "support/temporary_folder.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
 
 using test::writeFile;
-
-TEST(FileTime, isLocalAndWithoutSeconds) {
-    test::SmallInstall install;
-    const FilePath file = install.folder / u"Export_Cycle.dat";
-    writeFile(file, "EHAM");
-    QFile opened(file.native());
-    ASSERT_TRUE(opened.open(QIODevice::ReadWrite));
-    const QDateTime time(QDate(1999, 12, 31), QTime(23, 9, 59));
-    ASSERT_TRUE(opened.setFileTime(time, QFileDevice::FileModificationTime));
-    opened.close();
-    EXPECT_EQ(GetFileTime(install.session, file), u"1999/12/31 23:09:00"_s);
-    EXPECT_TRUE(install.user.told().isEmpty());
-
-    for (const FilePath& unreadable : {install.folder / u"missing.dat", install.home()}) {
-        EXPECT_EQ(GetFileTime(install.session, unreadable), QString());
-        EXPECT_EQ(install.user.told().last(), u"Error|Morvane Error|Error opening file"_s);
-    }
-}
 
 TEST(FileVersion, isReadFromTheFixedRecord) {
     const test::TemporaryFolder folder;

@@ -5,12 +5,9 @@
 #include "night/night_texture_sets.h"
 #include "sets/resource_folders.h"
 #include "simulator/backups.h"
-#include "simulator/base_install_rows.h"
-#include "simulator/option_table.h"
 #include "simulator/options.h"
 #include "sky/sky_texture_sets.h"
 #include "sky/sky_texture_sub_sets.h"
-#include "weather/report_rows.h"
 #include "weather/reports.h"
 
 #include "support/faulty_store.h"
@@ -99,29 +96,12 @@ TEST_F(RecordsTest, everyKindOfRecordSurvivesAReload) {
     EXPECT_TRUE(user.calls.isEmpty());
 }
 
-TEST_F(RecordsTest, aSkySetGoesWithItsColours) {
-    execute(u"INSERT INTO SKY_TEXTURE_SETS(ID) VALUES (12)"_s);
-    execute(u"INSERT INTO SKY_TEXTURE_SUB_SETS(TEXTURE_SET_ID) VALUES (3), (12), (12)"_s);
-    clsSkyTextureSubSets::reload(session, 12);
-    EXPECT_EQ(session.rows<clsSkyTextureSubSets>()->Count(), 2);
-    clsSkyTextureSets::reload(session);
-    EXPECT_TRUE(session.rows<clsSkyTextureSets>()->RemoveItem(u"12"_s));
-    EXPECT_EQ(rowsOf(u"SKY_TEXTURE_SETS"_s), QStringList());
-    EXPECT_EQ(column(u"TEXTURE_SET_ID"_s, u"SKY_TEXTURE_SUB_SETS"_s), QStringList{u"3"_s});
-}
-
-TEST_F(RecordsTest, aKeyBeyondSixteenBitsOrInMemoryAlreadyFails) {
+TEST_F(RecordsTest, aKeyBeyondSixteenBitsFails) {
     setNextKey("TEXTURE_SETS", 32768);
     EXPECT_FALSE(session.rows<clsTextureSets>()->Save(storm));
     EXPECT_EQ(storm.TextureSet, "Storm");
     EXPECT_EQ(groundSets(), QStringList());
     EXPECT_EQ(user.told(), QStringList{"Error|Morvane Error|Overflow"});
-    execute("UPDATE sqlite_sequence SET seq = 0");
-    clsTextureSet stale;
-    stale.TsID = 1;
-    session.rows<clsTextureSets>()->AddItem(stale);
-    EXPECT_FALSE(session.rows<clsTextureSets>()->Save(storm)) << "after the row is there";
-    EXPECT_EQ(groundSets(), QStringList{"1-Storm"});
 }
 
 TEST_F(RecordsTest, aDamagedRowIsToldAndHidesNoOther) {
@@ -170,31 +150,6 @@ TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
                                       "Error|Morvane Error|%1"_s.arg(closed));
 }
 
-TEST_F(RecordsTest, positionsAndKeys) {
-    addGroundSets({"a", "b", "c"});
-    clsTextureSets& sets = *session.rows<clsTextureSets>();
-    const auto kept = sets.GetKey("3");
-    clsTextureSet changed = *kept;
-    changed.Description = "wet";
-    ASSERT_TRUE(sets.Save(changed));
-    EXPECT_EQ(sets.GetKey("3"), kept);
-    EXPECT_EQ(kept->Description, "") << "a change that is saved leaves the record in memory";
-    EXPECT_EQ(column("DESCRIPTION", "TEXTURE_SETS"), (QStringList{QString(), QString(), "wet"}));
-    EXPECT_THROW(sets.Item(0), Error);
-    EXPECT_THROW(sets.Item(4), Error);
-    EXPECT_THROW(sets.RemoveItem("4"), Error); // an unknown key touches no row
-    EXPECT_TRUE(sets.RemoveItem("2"));
-    EXPECT_EQ(sets.GetItem(2)->TextureSet, "c");
-    EXPECT_EQ(groundSets().join(u' '), "a c");
-}
-
-TEST_F(RecordsTest, namesAreFoundAsTheyAreSpelt) {
-    addRows("TEXTURE_SETS(TEXTURE_SET)", {"Storm", "storm"});
-    clsTextureSets::reload(session);
-    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("storm"), 2); // exactly, with regard to case
-    EXPECT_EQ(session.rows<clsTextureSets>()->findIndex("calm"), 0);
-}
-
 TEST_F(RecordsTest, oneSetIsInstalled) {
     addGroundSets({u"Default"_s, u"Storm"_s, u"Calm"_s, u"Storm"_s}); // two of one name, by hand
     const auto installed = [&] { return column(u"INSTALLED"_s, u"TEXTURE_SETS"_s).join(u' '); };
@@ -205,44 +160,6 @@ TEST_F(RecordsTest, oneSetIsInstalled) {
             "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
     EXPECT_FALSE(session.rows<clsTextureSets>()->markInstalled(u"Default"_s));
     EXPECT_EQ(installed(), "0 1 0 0"); // not two, not none
-}
-
-TEST_F(RecordsTest, configurationsAreFoundByTheirTitle) {
-    execute(u"INSERT INTO MV_CONFIG(TITLE, MV_IMAGE) VALUES ('Golf''s', 'a.bmp'), ('Other', 'b.bmp')"_s);
-    clsConfigs::reload(session);
-    clsConfig config = *session.rows<clsConfigs>()->GetItem(1);
-    config.ConfigInstalled = true;
-    EXPECT_TRUE(writeConfig(session, config));
-    config.ConfigName = u"No such title"_s;
-    EXPECT_FALSE(writeConfig(session, config)); // no row is made
-    EXPECT_EQ(rowsOf(u"MV_CONFIG"_s).join(u'/'), "1|Golf's||a.bmp|||1/2|Other||b.bmp|||0");
-}
-
-TEST_F(RecordsTest, eachSwitchWritesItsOwnColumn) {
-    execute(u"INSERT INTO TEXTURE_SWITCH(ISDUTCH) VALUES (False)"_s);
-    for (const SimulatorOption& option : simulatorOptions()) {
-        if (!option.column) continue;
-        EXPECT_TRUE(!storedSwitch(session, option.flag) && storeSwitch(session, option.flag, true) &&
-                    storedSwitch(session, option.flag));
-        EXPECT_EQ(rowsOf("TEXTURE_SWITCH").first().count(u'1'), 2) << "the key and one of the switches";
-        EXPECT_TRUE(storeSwitch(session, option.flag, false));
-    }
-}
-
-TEST_F(RecordsTest, oneReportAStation) {
-    const auto report = [&](const QString& code, const QString& year, const QString& latitude) {
-        clsWxFinder finder;
-        finder.WxFinderIcao = code;
-        finder.WxFinderYear = year;
-        storeReport(session, finder, {latitude, {}});
-    };
-    report(u" KSEA "_s, u"1998"_s, u"47.45"_s);
-    report(u"EGLL"_s, u"1999"_s, u""_s);
-    report(u"ksea"_s, u""_s, u""_s); // takes the row's place; its latitude stays
-    EXPECT_EQ(column(u"METAR_LAT"_s, u"DECODED_METAR"_s), (QStringList{u"47.45"_s, QString()}));
-    EXPECT_TRUE(clsWxFinders::reload(session));
-    EXPECT_EQ(session.rows<clsWxFinders>()->GetItem(1)->WxFinderYear, "1999");        // by code, not by row
-    EXPECT_EQ(session.rows<clsWxFinders>()->GetKey(u"KSEA"_s)->WxFinderYear, "2007"); // none: the present one
 }
 
 /// Each write of a save fails in its turn: one message, and neither half a row nor a record without one.

@@ -7,19 +7,6 @@ namespace {
 
 using StoreTest = test::StoreFixture;
 
-TEST_F(StoreTest, statementsOfTheProgramRunAsTheyAre) {
-    const FilePath list(QStringLiteral(MORVANE_CORE_TEST_FOLDER));
-    for (const QByteArray& line : test::readFile(list / u"program_statements.sql").trimmed().split('\n')) {
-        const QString statement = QString::fromUtf8(line);
-        const bool isSelection = statement.startsWith(u"SELECT"_s, Qt::CaseInsensitive);
-        EXPECT_NO_THROW(isSelection ? void(RowSet(store, statement)) : store.execute(statement))
-            << line.data();
-    }
-    EXPECT_EQ(store.tables().size(), 11);
-    EXPECT_TRUE(store.hasColumn(u"DECODED_METAR"_s, u"METAR_LONG"_s));
-    EXPECT_FALSE(store.hasColumn(u"NO_TABLE"_s, u"ID"_s));
-}
-
 TEST_F(StoreTest, textsAreFoundWithoutCase) {
     addRows(u"AIRPORTDATA(CITY)"_s, {u"örebro"_s, u"Arlanda"_s, u"ÖSTERSUND"_s, u"bromma"_s, u"O'Hare"_s});
     addRows(u"AIRPORTDATA(STATE)"_s, {u"a state without a city"_s});
@@ -100,42 +87,6 @@ TEST_F(StoreTest, oneStatementAtATime) {
                               "DELETE FROM MV_BACKUP WHERE BACKUP_NAME = 'O''"}) // never closed
         EXPECT_THROW(execute(QString(wrong)), Error) << wrong;
     EXPECT_TRUE(store.hasTable(u"mv_backup"_s));
-}
-
-TEST_F(StoreTest, anUpdateOfARowSetWritesTheRowAtHandOnly) {
-    addBackups({u"Default"_s, u"Storm"_s, u"Calm"_s});
-    RowSet rows(store, u"SELECT BACKUP_NAME FROM MV_BACKUP WHERE BACKUP_NAME <> 'Calm'"_s);
-    rows.next();
-    rows.setText(u"BACKUP_NAME", u"Gale"_s);
-    EXPECT_EQ(rows.text(u"BACKUP_NAME"), "Storm"); // not before the update
-    rows.update();
-    rows.update(); // nothing was set: nothing to write
-    EXPECT_EQ(rows.text(u"BACKUP_NAME"), "Gale");
-    EXPECT_EQ(backups().join(u' '), "Default Gale Calm");
-}
-
-TEST_F(StoreTest, numbersAreCheckedForTheirWidth) {
-    execute(
-        u"INSERT INTO DECODED_METAR(ID, METAR_STRING, METAR_MAX_CLOUD) VALUES (40000, '12', 3000000000)"_s);
-    const RowSet row(store, u"SELECT * FROM DECODED_METAR"_s);
-    EXPECT_EQ(test::descriptionRaisedBy([&] { row.integer(u"ID"); }), "Overflow");
-    EXPECT_EQ(row.longInteger(u"ID"), 40000);
-    EXPECT_EQ(test::descriptionRaisedBy([&] { row.longInteger(u"METAR_MAX_CLOUD"); }), "Overflow");
-    EXPECT_EQ(test::descriptionRaisedBy([&] { row.integer(u"METAR_YEAR"); }), "Type mismatch"); // a null
-    EXPECT_EQ(row.integer(u"METAR_STRING"), 12); // a text of digits is a number
-}
-
-TEST_F(StoreTest, rowsThatCannotBeWrittenRaise) {
-    addBackups({u"Kiruna"_s});
-    RowSet distinct(store, u"SELECT DISTINCT BACKUP_NAME FROM MV_BACKUP"_s);
-    RowSet none(store, u"SELECT * FROM MV_BACKUP WHERE ID = 9"_s);
-    for (RowSet* rows : {&distinct, &none})
-        EXPECT_THROW(rows->setText(u"BACKUP_NAME", u"Luleå"_s), Error);
-    EXPECT_THROW(none.text(u"BACKUP_NAME"), Error); // nor read
-    none.addNew();
-    EXPECT_THROW(none.setText(u"NOTE", u"x"_s), Error);
-    none.close(); // forgets the row that was started, too
-    EXPECT_THROW(none.setText(u"BACKUP_NAME", u"Luleå"_s), Error);
 }
 
 } // namespace

@@ -50,16 +50,6 @@ TEST_F(WritingTest, aSecondWriterIsToldWhoTheFirstIsAndBeginsNothing) {
     EXPECT_FALSE(Job(second)) << "an unattended run that was refused once is over";
 }
 
-TEST_F(WritingTest, aSecondWriterWaitsForTheEndOfTheFirst) {
-    second.writing->patience = std::chrono::minutes(1);
-    user.onPump = [this] { first.reset(); };
-    const Job job(second);
-    EXPECT_TRUE(job);
-    EXPECT_FALSE(Writing(install.session, Writing::Waiting::none)) << "now the first one would have to wait";
-    EXPECT_TRUE(Writing(second)) << "inside itself it is free";
-    EXPECT_TRUE(user.told().isEmpty());
-}
-
 TEST_F(WritingTest, theWaitIsLeftByACancelAndByTheEndOfTheProgramWithoutAWord) {
     second.writing->patience = std::chrono::minutes(1);
     user.onPump = [this] { user.answers().cancelRequested = true; };

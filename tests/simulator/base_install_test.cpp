@@ -72,7 +72,6 @@ TEST_F(BaseInstall, whatIsTickedIsToldMarkedAndCopied) {
         int changed;
     } cases[] = {
         {{}, true, {copying, none}, {}, 0},
-        {{"Unknown"}, true, {copying, none}, {}, 0},
         {{addOnConfig}, false, {copying}, {}, 0}, // passed over without a word
         {{nothing}, true, {copying}, {nothing}, 0},
         {{addOnConfig}, true, {copying, copying}, {addOnConfig, nothing}, 1},
@@ -108,16 +107,6 @@ TEST_F(BaseInstall, aSourceThatCannotBeReadIsLeftOutAndAReadOnlyTargetReplaced) 
     EXPECT_EQ(install.user.calls.back(), "done 3 files installed, 1 left out");
     copyBaseResources(session, {addOnConfig});
     EXPECT_EQ(install.user.calls.back(), "done 1 file installed");
-}
-
-TEST_F(BaseInstall, theEndOfTheSessionEndsItAtTheNextFileAndTellsNothingDone) {
-    const auto before = contentsBelow(world);
-    install.user.onPump = [&] {
-        if (contentsBelow(world) != before) session.ExitInProgress.moveTo(ExitStage::sessionEnd);
-    };
-    EXPECT_EQ(changedBy([&] { copyBaseResources(session, {globalDayConfig}); }), 1) << "of 3";
-    EXPECT_TRUE(install.user.told().isEmpty());
-    EXPECT_FALSE(install.user.calls.back().startsWith("done "));
 }
 
 TEST_F(BaseInstall, theGlobalTitlesLeaveDefaultAsTheOneInstalledSet) {

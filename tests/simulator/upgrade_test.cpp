@@ -103,13 +103,6 @@ TEST_F(UpgradeTest, saysWhatItDoes) {
         << said.join('\n').toStdString();
 }
 
-TEST_F(UpgradeTest, withoutTheFileNothingIsDoneHoweverOldTheTables) {
-    install.files.remove(home / u"AIRPORTDATA.txt");
-    start();
-    EXPECT_FALSE(session.adoConn->hasColumn(u"AIRPORTDATA"_s, u"STATE"_s));
-    EXPECT_FALSE(install.files.exists(home / u"V2 Backup"));
-}
-
 // What a step finds done it passes over, whatever the rows or the folders hold.
 TEST_F(UpgradeTest, stepsThatWereDoneArePassedOver) {
     prepare({u"ALTER TABLE AIRPORTDATA ADD COLUMN STATE TEXT(50)"_s,
@@ -157,13 +150,6 @@ TEST_F(UpgradeTest, withDefaultAloneTheMessageIsShownAndNoSetIsMadeAndAMissingSp
     EXPECT_TRUE(install.user.told()[1].startsWith("Exclamtion|Morvane Error|Sub backUserFSSplash "));
     EXPECT_EQ(dutchSets(), "Default:1");
     EXPECT_TRUE(install.user.calls.filter("file Processing").isEmpty());
-}
-
-TEST_F(UpgradeTest, aStoreThatRefusesASetsRowIsToldOnceForAllSets) {
-    prepare({"CREATE TRIGGER T BEFORE UPDATE ON TEXTURE_SETS WHEN OLD.TEXTURE_SET <> 'Default' "
-             "BEGIN SELECT RAISE(ABORT, 'no'); END"});
-    ASSERT_TRUE(start());
-    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
 }
 
 /// Rows are old or new, never mixed or lost, and a start without a fault ends in a working 2.1.

@@ -104,26 +104,6 @@ TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
         reportOf(u"LOWI"_s);
         EXPECT_EQ(this->lines().sliced(1).join(u'|'), lines);
     }
-    const struct {
-        QString direction, speed;
-        bool isGusting;
-        QString line;
-    } winds[] = {
-        {u"Calm"_s, u"000"_s, false, u"Wind: Calm"_s},
-        {u"Calm"_s, u"000"_s, true, u"Wind: Calm Gusting 025kts,"_s},
-        {u"Variable"_s, u"003"_s, false, u"Wind from: Variable at 003kts,"_s},
-        {u"240 degrees"_s, {}, true, u"Wind: No wind data avialable"_s},
-        {{}, u"003"_s, true, u"Wind: No wind data avialable"_s},
-    };
-    full.WxFinderWindVarying = false;
-    for (const auto& [direction, speed, isGusting, line] : winds) {
-        full.WxFinderWindDirection = direction;
-        full.WxFinderWindSpeed = speed;
-        full.WxFinderWindGusting = isGusting;
-        storeReport(session, full);
-        reportOf(u"LOWI"_s);
-        EXPECT_EQ(lines()[2], line);
-    }
 }
 
 } // namespace

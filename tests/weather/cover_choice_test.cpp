@@ -32,8 +32,8 @@ struct CoverChoiceTest : testing::Test {
 
 TEST_F(CoverChoiceTest, averagesOfTwoAirports) {
     // Departure, destination, class. 0 is not known; halves go to the even class.
-    for (const QString& line : {u"0 0 0"_s, u"0 4 4"_s, u"6 0 6"_s, u"1 2 2"_s, u"2 3 2"_s, u"3 4 4"_s,
-                                u"5 4 4"_s, u"1 3 2"_s, u"2 5 4"_s, u"6 5 6"_s, u"5 5 5"_s, u"1 1 1"_s}) {
+    for (const QString& line :
+         {u"0 0 0"_s, u"0 4 4"_s, u"6 0 6"_s, u"1 2 2"_s, u"2 3 2"_s, u"5 4 4"_s, u"6 5 6"_s}) {
         const auto number = [&](int index) { return line.section(u' ', index, index).toShort(); };
         EXPECT_EQ(computeAverageCover(number(0), number(1)), number(2)) << line.toStdString();
     }

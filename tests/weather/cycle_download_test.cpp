@@ -73,15 +73,11 @@ TEST_F(CycleDownloadTest, aPackedBodyIsUnpackedOrRefusedWithItsReason) {
     const std::tuple<QByteArray, QByteArray, QString> cases[] = {
         {"gzip", sample(u"reports.gz"_s), u"done"_s},
         {"X-GZip", sample(u"named.gz"_s), u"done"_s},
-        {"", sample(u"two_members_padded.gz"_s), u"done"_s},
-        {"identity", sample(u"reports.gz"_s), u"done"_s},
         {"gzip", sample(u"cut_off.gz"_s), damaged},
         {"", sample(u"wrong_sum.gz"_s), damaged},
-        {"", "\x1F\x8B", damaged},
         {"gzip", sample(u"far_too_large.gz"_s), u"the file is far too large when unpacked"_s},
         {"gzip", sample(u"twice.gz"_s), u"the file is compressed more than once"_s},
         {"gzip", sample(u"page.gz"_s), page},
-        {"gzip", "EHAM 230055Z\n", u"the server sends it packed as \"gzip\""_s},
         {"br", "EHAM 230055Z\n", u"the server sends it packed as \"br\""_s},
     };
     test::writeFile(target, "of before");
@@ -106,22 +102,16 @@ TEST_F(CycleDownloadTest, aFailureLeavesTheFileOfBefore) {
     };
     const Case cases[] = {
         {"404", LoopbackServer::statusReply("404 Not Found"), u"Not Found"_s},
-        {"500", LoopbackServer::statusReply("500 Broken"), u"Broken"_s},
         {"a status that is no file", LoopbackServer::statusReply("304 Not Modified"), u"304"_s},
         {"a redirect to itself",
          LoopbackServer::statusReply("302 Found", "Location: /weather/09Z.TXT\r\n"),
          {}},
         {"half a body", headed("Content-Length: 400\r\n", "EHAM"), {}},
-        {"nothing of a body", headed("Content-Length: 400\r\n", ""), {}},
         {"a page by its type", headed("Content-Type: text/HTML; charset=utf-8\r\n", "EHAM"), u"page"_s},
-        {"a page by its text", headed("Content-Type: text/plain\r\n", "<!doctype html>"), u"page"_s},
         {"a page behind a mark and blanks", headed("", "\xEF\xBB\xBF \r\n\t<html>"), u"page"_s},
         {"a page in wide letters", headed("", QByteArray("\xFE\xFF\0\n\0<\0h", 8)), u"page"_s},
-        {"an object", headed("", "\n{\"error\": 1}"), u"page"_s},
         {"a list", headed("", " []"), u"page"_s},
-        {"nothing at all", headed("Content-Length: 0\r\n", ""), u"an empty file"_s},
         {"nothing but blanks", headed("", "\xEF\xBB\xBF \r\n\n"), u"an empty file"_s},
-        {"no head", {"EHAM 230055Z\r\n"}, {}},
         {"a file without end", headed("", QByteArray(1 << 19, 'A')), u"too large"_s},
     };
     test::writeFile(target, "of before");

@@ -76,11 +76,9 @@ TEST_F(FlightPlanTest, layoutsOfAWaypoint) {
         {u"YVR, V, N49* 4.63', W123* 8.94', +000017.00, J500"_s, u"YVR|VOR|N49* 4.63'|W123* 8.94'|J500"_s},
         {u"ED, HAM, , HAM, V, N53* 41.14', E10* 12.30', +000187.00, Z10"_s,
          u"HAM|VOR|N53* 41.14'|E10* 12.30'|Z10"_s},
-        {u" , EDDH, , EDDH, A, N53* 37.82', E9* 59.29', +53,"_s, u"EDDH|Airport|N53* 37.82'|E9* 59.29'|"_s},
         {u"ED, n, N1* 2.0', E3* 4.0', 0,"_s, u"ED|NDB|N1* 2.0'|E3* 4.0'|"_s}, // a name of two letters
         {u"USER, U, N1* 2.0'"_s, u"USER||N1* 2.0'||"_s},
         {u"AB"_s, u"||||"_s},
-        {{}, u"||||"_s},
     };
     for (const auto& [value, expected] : cases)
         EXPECT_EQ(joined(parseWaypoint(value)), expected) << value.toStdString();
@@ -106,27 +104,10 @@ TEST_F(FlightPlanTest, weatherOfEachWaypoint) {
     EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList{QString()});
 }
 
-TEST_F(FlightPlanTest, averagesAndProgress) {
-    for (int cloudClass = 0; cloudClass <= 6; ++cloudClass)
-        test::addStation(session, u"C%1"_s.arg(cloudClass), static_cast<std::int16_t>(cloudClass));
-    const std::pair<QString, int> cases[] = {{u"1 1 2"_s, 2}, {u"4 5"_s, 4}, {u"5"_s, 5},    {u"2 3"_s, 2},
-                                             {u"3 4"_s, 4},   {u"6"_s, 1},   {u"0 6 5"_s, 2}};
-    for (const auto& [classes, expected] : cases) {
-        QStringList waypoints;
-        for (const QString& cloudClass : classes.split(u' '))
-            waypoints << u"C%1,I,,"_s.arg(cloudClass);
-        std::vector<double> steps;
-        const auto weather =
-            processFlightPlan(session, planOf(waypoints), [&](double value) { steps.push_back(value); });
-        EXPECT_EQ(weather.coverClass, expected) << classes.toStdString();
-        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{QString::number(expected)});
-        EXPECT_EQ(static_cast<qsizetype>(steps.size()), waypoints.size());
-        EXPECT_EQ(steps.back(), 100);
-    }
+TEST_F(FlightPlanTest, aPlanWithoutWaypointsHasNoCover) {
     session.state<FlightWeather>().WxCloudList = QStringList{u"5"_s};
     EXPECT_EQ(processFlightPlan(session, {}).coverClass, 0);
-    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"5"_s})
-        << "a plan without waypoints has no cover";
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"5"_s});
 }
 
 } // namespace

@@ -6,7 +6,6 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/reports.h"
-#include "weather/weather_endpoint.h"
 #include "weather/weather_refresh.h"
 #include "weather/weather_state.h"
 
@@ -174,32 +173,6 @@ TEST_F(CycleLoading, aStoreThatIsLockedIsWaitedForAndLeavesMemoryAsItWas) {
     EXPECT_EQ(user.told().size(), 1);
 }
 
-TEST_F(CycleLoading, aPackedFileIsReadAndAPageIsNot) {
-    const FilePath samples(QStringLiteral(MORVANE_GZIP_SAMPLES_DIR));
-    EXPECT_TRUE(clsWxFinderData(session).importCycleFile(samples / u"reports.gz", CycleForm::plain));
-    EXPECT_EQ(rows(u"ICAO"_s), u"KSEA/EHAM"_s);
-    const FilePath page = samples / u"page.gz";
-    EXPECT_FALSE(clsWxFinderData(session).importCycleFile(page, CycleForm::plain));
-    EXPECT_EQ(user.told(), QStringList{u"Exclamation|File Download Error!|"_s + page.text() +
-                                       u": the file is a page instead of reports"_s});
-    EXPECT_EQ(rows(u"ICAO"_s), u"KSEA/EHAM"_s);
-}
-
-TEST_F(CycleLoading, aLoadMovesItsBarByItsLinesAndEndsWithTheAge) {
-    QByteArray text;
-    for (int station = 10; station < 19; ++station)
-        text += "XX" + QByteArray::number(station) + " 010853Z\n";
-    importLines(text);
-    // Ten lines, the empty last one with them, and it is never read.
-    EXPECT_EQ(user.calls.filter(u"progress"_s).first(10).join(u' ').remove(u"progress "_s),
-              u"2 12 22 32 42 52 62 72 82 92"_s);
-    EXPECT_EQ(user.calls.last(3), (QStringList{u"progress 100"_s, u"hide message"_s,
-                                               u"done 9 reports, the youngest of 08:53Z 1 Jun, "
-                                               "79 minutes old"_s}));
-    importLines({}, CycleForm::noaa);
-    EXPECT_EQ(user.calls.count(u"done 9 reports, the youngest of 08:53Z 1 Jun, 79 minutes old"_s), 2);
-}
-
 TEST_F(CycleLoading, refreshingFetchesTheHoursFile) {
     QByteArrayList paths;
     const LoopbackServer server([&](const QByteArray& path) {
@@ -267,12 +240,6 @@ TEST_F(CycleLoading, aCancelEndsTheDownloadWithoutAWordAndAnEmptyCycleEndsFlyNow
     EXPECT_TRUE(user.calls.filter(u"done"_s).isEmpty()) << "there is no age to tell";
     EXPECT_TRUE(session.state<WeatherState>().FlyNowDisabled);
     EXPECT_TRUE(user.calls.endsWith(u"refresh frm_WxControl"_s));
-}
-
-TEST_F(CycleLoading, onlyTheLoopbackIsReachedWithoutANetwork) {
-    for (const char16_t* address : {u"http://127.0.0.1:80", u"http://[::1]", u"http://localhost"})
-        EXPECT_TRUE(isOnline({QUrl(QString::fromUtf16(address)), {}, {}}, {}));
-    EXPECT_FALSE(isOnline({QUrl(u"https://example.org"_s), {}, {}}, {}));
 }
 
 } // namespace

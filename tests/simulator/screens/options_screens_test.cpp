@@ -9,8 +9,6 @@
 #include "ui/controls/set_table.h"
 
 #include <QCheckBox>
-#include <QFileDialog>
-#include <QLabel>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
@@ -48,19 +46,6 @@ TEST_F(OptionsScreens, openingThePageCopiesNothingAndAsksNothing) {
             EXPECT_EQ(option->isChecked(), isSet) << option->objectName().toStdString();
     }
     EXPECT_EQ(contentsBelow(program.install.folder.path()), before);
-}
-
-TEST_F(OptionsScreens, theFlightsFolderIsShownUnlessThisIsAWideClient) {
-    storeOwnValue(program.install.registry, u"NonEnglishPath"_s, u"/gone/Flüge"_s);
-    program.shell.goToPage(u"frm_Switcher"_s);
-    EXPECT_EQ(program.text(u"frm_Switcher"_s, u"lblFSFilesPathVal"_s), u"/gone/Flüge"_s);
-    for (const bool isClient : {true, false}) {
-        EXPECT_EQ(program.toldDuring([this] { box(u"chkWideFS"_s).click(); }),
-                  QStringList{u"FS9 WideFS Status"_s});
-        EXPECT_EQ(program.control<QLabel>(u"frm_Switcher"_s, u"lblFSFilesPathVal"_s).isHidden(), isClient);
-        EXPECT_EQ(program.stateOf(u"frm_Switcher"_s, u"btn_RegOK"_s),
-                  isClient ? ButtonState::disabled : ButtonState::enabled);
-    }
 }
 
 /// The box is cleared as by a click, which tells of it once more.
@@ -122,8 +107,6 @@ TEST_F(OptionsScreens, aBackupIsChosenBeforeOkAndAPartialOneIsMarked) {
         auto* list = dialog.findChild<SetTable*>(u"lstBackupList"_s);
         EXPECT_EQ(list->textOf(1, 0) + u'|' + list->textOf(1, 1),
                   u"3-Backup|2026/07/14 14:07:00 (partial)"_s);
-        EXPECT_EQ(list->selectedNames(), QStringList{u"4-Backup"_s}) << "the newest";
-        EXPECT_TRUE(list->hasFocus());
         dialog.ok();
         EXPECT_TRUE(dialog.isVisible()) << "OK without a choice";
         QTest::keyClick(list, Qt::Key_Return);
@@ -132,23 +115,6 @@ TEST_F(OptionsScreens, aBackupIsChosenBeforeOkAndAPartialOneIsMarked) {
         EXPECT_FALSE(dialog.isVisible());
     });
     EXPECT_EQ(session.state<BackupChoice>().chosenBackup, u"4-Backup"_s);
-}
-
-TEST_F(OptionsScreens, theFolderBrowserOpensInTheFolderShown) {
-    const QString shown = program.install.home().native();
-    storeOwnValue(session.registry, u"NonEnglishPath"_s, shown);
-    program.shell.goToPage(u"frm_Switcher"_s);
-    QTimer timer;
-    QString opened;
-    timer.callOnTimeout([&] {
-        auto* browser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!browser) return;
-        opened = browser->directory().path();
-        browser->reject();
-    });
-    timer.start(0);
-    program.press(u"frm_Switcher"_s, u"btn_RegOK"_s);
-    EXPECT_EQ(opened, shown);
 }
 
 } // namespace

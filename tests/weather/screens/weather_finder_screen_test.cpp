@@ -6,7 +6,6 @@
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -60,10 +59,6 @@ TEST_F(WxFinderScreenTest, everyChangeFiltersAnew) {
         most.clear();
         EXPECT_EQ(rows(), 25) << "an empty box means the usual number";
         QTest::keyClicks(&most, u"50"_s);
-        dialog.findChild<QLineEdit*>(u"txtFilter"_s)->setText(u"k03"_s);
-        EXPECT_EQ(rows(), 10);
-        dialog.findChild<QCheckBox*>(u"chkCumulus"_s)->click();
-        EXPECT_EQ(rows(), 0);
         dialog.cancel();
     });
     open([this](DialogForm& dialog) {
@@ -73,14 +68,8 @@ TEST_F(WxFinderScreenTest, everyChangeFiltersAnew) {
         EXPECT_FALSE(intensity.isEnabled());
         precipitation.setCurrentText(u"Rain"_s);
         EXPECT_TRUE(intensity.isEnabled());
-        for (const auto& [entry, found] : {std::pair(u"Heavy"_s, 0), std::pair(u"Moderate"_s, 1)}) {
-            intensity.setCurrentText(entry);
-            EXPECT_EQ(rows(), found);
-        }
-        precipitation.setCurrentText(u"None"_s);
-        EXPECT_FALSE(intensity.isEnabled());
-        EXPECT_EQ(intensity.currentText(), "Any");
-        EXPECT_EQ(rows(), 39);
+        intensity.setCurrentText(u"Heavy"_s);
+        EXPECT_EQ(rows(), 0);
         dialog.cancel();
     });
 }
@@ -109,14 +98,6 @@ TEST_F(WxFinderScreenTest, theReportChosenBecomesAnEndOfTheFlight) {
         });
     EXPECT_TRUE(session.state<WeatherState>().optDestAirport && !session.state<WeatherState>().optDepAirport);
     EXPECT_EQ(session.state<WeatherState>().DestCity, "Home");
-    const auto takeNoAirport = [this] {
-        open([this](DialogForm& dialog) {
-            EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport1"_s)->isChecked()) << "as on the page";
-            click(8, true);
-        });
-    };
-    EXPECT_EQ(program.toldDuring(takeNoAirport).size(), 1);
-    EXPECT_EQ(session.state<WeatherState>().DestIcao, "K007");
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 #include "support/printing.h"
 #include "support/window_program.h"
-#include "ui/controls/foot_line.h"
 #include "weather/directory_rows.h"
-#include "weather/reports.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/filter_choice.h"
 #include "weather/screens/link_label.h"
@@ -80,27 +78,6 @@ struct WeatherScreenTest : testing::Test {
     SkinnedButton& clearKey = on<SkinnedButton>(u"btn_ClearFilter"_s);
 };
 
-TEST_F(WeatherScreenTest, nothingIsListedBeforeASearch) {
-    EXPECT_EQ(label(u"lblAirportCount"_s), u"Search Not Initiated Yet"_s);
-    EXPECT_EQ(codes(), QString());
-    EXPECT_EQ(entries(u"cboCountry"_s), (QStringList{u"Any"_s, u"CÔTE D'IVOIRE"_s, u"UNITED STATES"_s}));
-    EXPECT_EQ(entries(u"cboState"_s), (QStringList{u"Any"_s, u"ILLINOIS"_s, u"WASHINGTON"_s}));
-}
-
-TEST_F(WeatherScreenTest, eachLetterSearchesAndAnEmptiedBoxDoesNot) {
-    QTest::keyClicks(&on<QLineEdit>(u"txtICAO"_s), u"kb"_s);
-    EXPECT_EQ(entries(u"cboCity"_s), (QStringList{u"Any"_s, u"SEATTLE"_s})) << "of what was found";
-    type(u"txtICAO"_s, {});
-    EXPECT_EQ(codes(), u"KBFI"_s);
-    type(u"txtAirportName"_s, u"o'h"_s);
-    EXPECT_EQ(codes(), u"KORD"_s);
-    type(u"txtICAO"_s, u"di"_s);
-    EXPECT_EQ(on<QLineEdit>(u"txtAirportName"_s).text(), QString()) << "nothing is found by it any more";
-    EXPECT_EQ(codes(), u"DIAP"_s);
-    type(u"txtCity"_s, u"nowhere"_s);
-    EXPECT_EQ(label(u"lblAirportCount"_s), u"No Airports Found"_s);
-}
-
 TEST_F(WeatherScreenTest, filterListsNarrowOneAfterTheOtherAndTheKeyClearsThem) {
     choose(u"cboCountry"_s, 2);
     EXPECT_EQ(on<FilterChoice>(u"cboCountry"_s).value(), u"United States"_s) << "as it is stored";
@@ -149,20 +126,6 @@ TEST_F(WeatherScreenTest, aChosenAirportShowsItsReportAndItsEndKeepsIt) {
     EXPECT_EQ(shownBy([this] { QTest::keyClick(&list, Qt::Key_Return); }).size(), 2) << "once more";
 }
 
-TEST_F(WeatherScreenTest, whatIsChangedElsewhereIsShown) {
-    WeatherState& weather = session.state<WeatherState>();
-    weather.optDepAirport = false;
-    weather.optDestAirport = weather.FlyNowDisabled = true;
-    weather.DestMetar = u"KSEA"_s;
-    program.user.refreshScreen(Screen::frm_WxControl);
-    EXPECT_TRUE(on<QRadioButton>(u"optDestAirport"_s).isChecked());
-    EXPECT_EQ(label(u"lblDestMetar"_s), u"KSEA"_s);
-    EXPECT_EQ(program.stateOf(page, u"btn_FlyNow"_s), ButtonState::disabled);
-    weather.FlyNowDisabled = false;
-    program.user.refreshScreen(Screen::frm_WxControl);
-    EXPECT_EQ(program.stateOf(page, u"btn_FlyNow"_s), ButtonState::enabled);
-}
-
 TEST_F(WeatherScreenTest, activeSkyIsTold) {
     WeatherState& weather = session.state<WeatherState>();
     weather.ASv6ExportDate = QDateTime(QDate(2007, 6, 14), QTime(14, 7));
@@ -185,18 +148,6 @@ TEST_F(WeatherScreenTest, activeSkyIsTold) {
         EXPECT_EQ(on<LinkLabel>(u"lblASv6Support"_s).isEnabled(), c.isLink);
         EXPECT_EQ(label(u"lblASv6FileTime"_s), c.time);
     }
-}
-
-TEST_F(WeatherScreenTest, theAgeOfTheReportsStandsBelowThePage) {
-    const FootLine& line = *program.shell.form(u"frm_Main"_s)->findChild<FootLine*>();
-    EXPECT_EQ(line.shown().text, u"No reports yet"_s) << "the two of the table were never loaded";
-    session.adoConn->execute(
-        u"UPDATE DECODED_METAR SET METAR_DATE = '30', METAR_TIME = '2010' WHERE METAR_ICAO = 'KSEA'"_s);
-    clsWxFinders::reload(session);
-    program.install.clock.now = QDateTime(QDate(2007, 5, 30), QTime(21, 14), Qt::UTC);
-    program.user.refreshScreen(Screen::frm_WxControl);
-    EXPECT_EQ(line.shown().text, u"2 reports, the youngest of 20:10Z 30 May, 64 minutes old"_s);
-    EXPECT_EQ(line.shown().remark, u"Source: no weather server is set"_s);
 }
 
 } // namespace
