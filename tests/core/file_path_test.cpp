@@ -154,5 +154,17 @@ TEST(DiskSpelling, findsFilesAsTheDiskSpellsThem) {
     EXPECT_THROW(spelling.find(u"..\\a.bmp"_s), Error);
 }
 
+TEST(NativeFileSystem, aMoveToAnotherDriveIsNoMatterOfPermission) {
+    TemporaryFolder folder;
+    NativeFileSystem files;
+    const FilePath memory(u"/dev/shm"_s), file = folder / u"a.txt", there = memory / u"Morvane test.txt";
+    files.write(file, "x");
+    if (!files.isFolder(memory) || files.stamp(memory).drive == files.stamp(file).drive)
+        GTEST_SKIP() << "there is no second drive here";
+    EXPECT_EQ(test::descriptionRaisedBy([&] { files.rename(file, there); }),
+              u"Can't move to another drive: "_s + there.text());
+    EXPECT_FALSE(files.exists(there));
+}
+
 } // namespace
 } // namespace morvane

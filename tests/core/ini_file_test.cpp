@@ -57,5 +57,14 @@ TEST_F(IniFileTest, theRegistryKeepsTextsAndTypes) {
     EXPECT_FALSE(registry.CreateRegKey(4, key)); // no such root
 }
 
+TEST_F(IniFileTest, theRegistryReadsWhatAHandWrote) {
+    test::writeFile(folder / u"registry.ini",
+                    QByteArrayLiteral("[HKEY_USERS\\Asv6]\nLocal=dword:0000001f\nPath=C:\\Asv6\0junk\n"));
+    EXPECT_TRUE(registry.RegValueIsDword(2, "Asv6", "local"));
+    EXPECT_EQ(registry.GetRegString(2, "Asv6", "Local"), "31");
+    EXPECT_EQ(registry.GetRegString(2, "Asv6", "Path"), "C:\\Asv6");
+    EXPECT_EQ(registry.GetRegString(2, "Asv6", "Path", "OTHERPC"), "");
+}
+
 } // namespace
 } // namespace morvane

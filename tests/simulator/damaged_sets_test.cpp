@@ -209,5 +209,23 @@ TEST(DamagedSets, amongSeveralArePassedOverAndARefusingStoreEndsTheRun) {
     }
 }
 
+TEST(DamagedSets, foldersThatAreMissingAreMadeAgain) {
+    for (const Kind& kind : kinds)
+        for (const QString& missing : {QString(), u"Texture"_s}) {
+            SCOPED_TRACE((kind.table + u' ' + missing).toStdString());
+            OddSet set(kind);
+            set.remove(set.odd, true);
+            set.activate(set.odd);
+            const auto made = set.files();
+            EXPECT_FALSE(made.isEmpty());
+            set.remove(set.odd, true);
+            removeTree(set.folder() / missing);
+            removeTree(set.install.home() / u"TempBitmaps");
+            set.activate(set.odd);
+            EXPECT_EQ(set.files(), made);
+            EXPECT_EQ(set.errors(), 0);
+        }
+}
+
 } // namespace
 } // namespace morvane
