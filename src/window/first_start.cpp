@@ -74,6 +74,8 @@ bool makeInstallFolder(const QString& home) {
         folder.setAutoRemove(false);
         return true;
     }
+    tool.kill(); // one that still draws would leave something behind
+    tool.waitForFinished();
     folder.remove();
     QDir().rmdir(home); // where nothing else is in it
     if (progress.wasCanceled()) return false;
