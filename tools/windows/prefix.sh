@@ -35,6 +35,11 @@ makeOnce() {
     touch "$done"
 }
 
+# SQLite as one file, from its sources in the folder at hand.
+makeAmalgamation() {
+    mkdir amalgamation && (cd amalgamation && ../sqlite3-*/configure --disable-tcl && make sqlite3.c)
+}
+
 make_toolchain() {
     cat >"$windowsFolder/toolchain.cmake" <<EOF
 set(CMAKE_SYSTEM_NAME Windows)
@@ -59,8 +64,7 @@ make_qt() {
         return
     fi
     fetchSource qt6-base sqlite3
-    # Debian's package leaves SQLite's own copy out.
-    mkdir amalgamation && (cd amalgamation && ../sqlite3-*/configure --disable-tcl && make sqlite3.c)
+    makeAmalgamation # Debian's package leaves SQLite's own copy out
     local source
     source=$(echo "$PWD"/qt6-base-*/)
     mkdir -p "$source/src/3rdparty/sqlite"
@@ -78,10 +82,9 @@ make_qt() {
     cmake --install build --strip
 }
 
-# Sqlite from the amalgamation that its source package makes.
 make_sqlite() {
     fetchSource sqlite3
-    mkdir amalgamation && (cd amalgamation && ../sqlite3-*/configure --disable-tcl && make sqlite3.c)
+    makeAmalgamation
     $crossTriple-gcc-posix -O2 -DSQLITE_THREADSAFE=1 -DSQLITE_ENABLE_COLUMN_METADATA=1 -c amalgamation/sqlite3.c
     $crossTriple-ar rcs "$windowsPrefix/lib/libsqlite3.a" sqlite3.o
     cp amalgamation/sqlite3.h "$windowsPrefix/include/"
