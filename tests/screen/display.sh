@@ -156,16 +156,27 @@ press() {
     xdotool key "$@"
 }
 
-# dragBy ID X Y RIGHT DOWN: grabs the window at X, Y. The window manager takes over some time after the press,
-# so the mouse goes on moving until the window has come along.
+# dragBy ID X Y RIGHT DOWN: grabs the window at X, Y, as often as a hand would: a window manager that is not done
+# with the window's coming up ignores a grab.
 dragBy() {
-    local id=$1 left top target=()
-    read -r left top _ <<<"$(geometryOf "$id")"
+    local left top target=()
+    read -r left top _ <<<"$(geometryOf "$1")"
     target=($((left + $4)) $((top + $5)))
-    xdotool mousemove --window "$id" "$2" "$3" mousedown 1
-    waitFor "the window to follow the mouse" followsMouse "$id" $((target[0] + $2)) $((target[1] + $3)) "${target[@]}"
+    waitFor "the window to follow the mouse" comesAlong "$1" "$2" "$3" "${target[@]}"
+    waitFor "the window where it was dropped" isAt "$1" "${target[@]}"
+}
+
+# comesAlong ID X Y LEFT TOP: grabs the window at X, Y and drags it to LEFT, TOP. The window manager takes over some
+# time after the press, so the mouse goes on moving until the window has come along, or for some seconds in vain.
+comesAlong() {
+    local end=$((SECONDS + 5)) isThere=1
+    xdotool mousemove --window "$1" "$2" "$3" mousedown 1
+    until followsMouse "$1" $(($4 + $2)) $(($5 + $3)) "$4" "$5"; do
+        [ "$SECONDS" -lt "$end" ] || { isThere=0 && break; }
+        sleep 0.05
+    done
     xdotool mouseup 1
-    waitFor "the window where it was dropped" isAt "$id" "${target[@]}"
+    [ "$isThere" = 1 ]
 }
 
 followsMouse() {

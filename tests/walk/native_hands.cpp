@@ -17,11 +17,14 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace morvane::test {
 
 namespace {
 
 constexpr int longestTabRoad = 120;
+constexpr int keyboardPatience = 1'000; ///< milliseconds
 
 QWindow& nativeWindow(const QWidget& widget) {
     return *widget.window()->windowHandle();
@@ -140,6 +143,8 @@ std::vector<Way> waysOf(const QWidget& control, const QString& part) {
 
 void use(QWidget& control, const QString& part, Way way, const QString& typed) {
     if (way == Way::mouse) return useMouse(control, part, typed);
+    // An arrow among options asks the application who has the keyboard, and does nothing while nobody has.
+    std::ignore = QTest::qWaitFor([] { return QApplication::focusWidget(); }, keyboardPatience);
     tabTo(control);
     if (way == Way::arrows) return useArrows(control);
     if (way == Way::space) return pressKey(control, Qt::Key_Space);

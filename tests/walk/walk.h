@@ -121,7 +121,7 @@ private:
     QUrl address_;
     int failures_ = 0;
     bool isLost_ = false; ///< the keyboard
-    int timesLost_ = 0;
+    int repeats_ = 0;
     QPointer<QWidget> window_, control_;
 };
 
