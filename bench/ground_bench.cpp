@@ -4,6 +4,7 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
+#include "process_usage.h"
 
 #include <QDirIterator>
 #include <QFileInfo>
@@ -12,7 +13,6 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <filesystem>
-#include <sys/resource.h>
 
 namespace morvane {
 namespace {
@@ -157,20 +157,6 @@ struct Effort {
     double wall = 0;
     double processor = 0; ///< of all threads together: says something even on a busy machine
 };
-
-double processorSeconds() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-           static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
-}
-
-/// Largest memory of the process so far, in MB.
-double peakMemory() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<double>(usage.ru_maxrss) / 1024; // kilobytes on Linux
-}
 
 Effort effortOf(const std::function<void()>& work) {
     const double processor = processorSeconds();

@@ -11,12 +11,35 @@ function(morvane_test_target target group)
     morvane_precompile(${target} ${group})
 endfunction()
 
-# morvane_test(NAME FILES...): one GoogleTest program for one folder of tests, each case a ctest of its own.
+# The project's folder as the tests are told of it; where they run under Wine, the machine's root is a drive.
+set(morvane_test_root ${CMAKE_SOURCE_DIR})
+set(morvane_test_programs ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+if(CMAKE_CROSSCOMPILING)
+    string(PREPEND morvane_test_root Z:)
+    string(PREPEND morvane_test_programs Z:)
+endif()
+
+# morvane_whole_test(NAME): the program as one test of ctest.
+function(morvane_whole_test name)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+endfunction()
+
+# morvane_cases(NAME): each case a test of ctest; under Wine a start takes longer than most cases do.
+function(morvane_cases name)
+    if(CMAKE_CROSSCOMPILING)
+        morvane_whole_test(${name})
+    else()
+        gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+    endif()
+endfunction()
+
+# morvane_test(NAME FILES...): one GoogleTest program for one folder of tests.
 function(morvane_test name)
     add_executable(${name} ${ARGN})
     target_link_libraries(${name} PRIVATE morvane_test_support)
     morvane_test_target(${name} test)
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+    morvane_cases(${name})
 endfunction()
 
 # morvane_bench(NAME FILES...): one Google Benchmark program.
@@ -31,5 +54,5 @@ function(morvane_ui_test name)
     add_executable(${name} ${ARGN} ${CMAKE_SOURCE_DIR}/tests/support/ui_main.cpp)
     target_link_libraries(${name} PRIVATE morvane_window morvane_font morvane_test_support Qt6::Test)
     morvane_test_target(${name} window_test)
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+    morvane_cases(${name})
 endfunction()

@@ -26,14 +26,14 @@ function(morvane_room room)
     endif()
 endfunction()
 
-# morvane_native(ROOM NAMES...): of each matter for which every system has a way of its own, NAME_windows.cpp or
+# morvane_native(TARGET NAMES...): of each matter for which every system has a way of its own, NAME_windows.cpp or
 # NAME_posix.cpp.
-function(morvane_native room)
+function(morvane_native target)
     if(WIN32)
         set(system windows)
     else()
         set(system posix)
     endif()
     list(TRANSFORM ARGN REPLACE "(.+)" "\\1_${system}.cpp" OUTPUT_VARIABLE files)
-    target_sources(morvane_${room} PRIVATE ${files})
+    target_sources(${target} PRIVATE ${files})
 endfunction()

@@ -8,6 +8,7 @@
 #include "ui/skin.h"
 #include "window/end_requests.h"
 #include "window/first_start.h"
+#include "window/letter_engine.h"
 #include "window/program.h"
 #include "window/screen_scale.h"
 #include "window/single_window.h"
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(u"Morvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
     if (showsHelp(argc, argv)) return 0;
+    chooseLetterEngine();
     fitScaleToScreen(argc, argv);
     QApplication application(argc, argv);
     const WindowLine line = readWindowLine(QApplication::arguments().mid(1));

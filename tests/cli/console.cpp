@@ -1,5 +1,6 @@
 #include "cli/console.h"
 
+#include "cli/process_interrupt.h"
 #include "core/store_connection.h"
 #include "ground/ground_sets.h"
 #include "sky/sky_sets.h"
@@ -7,9 +8,7 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
-#include <csignal>
 #include <gtest/gtest.h>
 
 namespace morvane::test {
@@ -17,16 +16,6 @@ namespace morvane::test {
 namespace {
 
 constexpr int watchdogMilliseconds = 60000;
-
-/// The system's list of the signals that a process catches has one bit for each.
-bool catchesInterrupts(qint64 process) {
-    QFile status(u"/proc/%1/status"_s.arg(process));
-    if (!status.open(QIODevice::ReadOnly)) return false;
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("SigCgt:"))
-            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGINT - 1) & 1) != 0;
-    return false;
-}
 
 QStringList wordsOf(const QString& commandLine) {
     return commandLine.split(u' ', Qt::SkipEmptyParts);
@@ -53,6 +42,7 @@ Console::Console(const QString& program, const QStringList& arguments) {
     environment.remove(u"MORVANE_HOME"_s);
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     process_.setProcessEnvironment(environment);
+    allowInterrupts(process_);
     process_.start(program, arguments);
     if (!process_.waitForStarted(watchdogMilliseconds)) throw std::runtime_error("no console program");
 }
@@ -67,9 +57,7 @@ bool Console::waitForMessage(const QString& text) {
 }
 
 void Console::interrupt() {
-    const auto id = static_cast<pid_t>(process_.processId());
-    if (id <= 0) throw std::runtime_error("the console program has ended");
-    ::kill(id, SIGINT); // to 0 it would go to the test and all its kin
+    sendInterrupt(process_.processId());
 }
 
 void Console::kill() {
@@ -79,7 +67,7 @@ void Console::kill() {
 
 bool Console::waitUntilInterruptsAre(bool caught) {
     const QDeadlineTimer watchdog(watchdogMilliseconds);
-    while (catchesInterrupts(process_.processId()) != caught)
+    while (catchesInterrupts(process_.processId()).value_or(caught) != caught)
         if (watchdog.hasExpired()) return false;
     return true;
 }

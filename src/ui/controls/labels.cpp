@@ -54,6 +54,7 @@ QFont fontOf(TextRole role) {
     const RoleStyle& style = styleOf(role);
     QFont font(u"Roboto"_s);
     font.setPixelSize(style.pixels);
+    font.setHintingPreference(QFont::PreferNoHinting); // whole-pixel widths would cut words
     font.setWeight(style.weight);
     if (role == TextRole::sectionHeading) {
         font.setCapitalization(QFont::AllUppercase);

@@ -1,0 +1,7 @@
+#include "window/letter_engine.h"
+
+namespace morvane {
+
+void chooseLetterEngine() {}
+
+} // namespace morvane
