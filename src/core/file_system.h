@@ -1,10 +1,14 @@
 #pragma once
 
 #include "core/file_path.h"
+#include "core/held_files.h"
 
 #include <QByteArray>
+#include <QIODevice>
 #include <cstdint>
 #include <optional>
+
+class QFile;
 
 namespace morvane {
 
@@ -90,6 +94,10 @@ public:
     QByteArray read(const FilePath& file) override;
     void write(const FilePath& file, const QByteArray& contents) override;
     void append(const FilePath& file, const QByteArray& contents) override;
+
+private:
+    void open(QFile& file, const FilePath& path, QIODevice::OpenMode mode);
+    HeldFiles heldFiles_;
 };
 
 } // namespace morvane

@@ -10,6 +10,12 @@ namespace morvane {
 /// Replaces a file of that name; from drive to drive it fails.
 std::error_code renameInOneStep(const std::filesystem::path& source, const std::filesystem::path& target);
 
+/// Whether it may be written to or not, as the folder alone decides.
+std::error_code removeFile(const std::filesystem::path& file);
+
+/// Whether another program has it open and keeps all others from replacing it.
+bool isHeldByOther(const std::filesystem::path& file);
+
 /// Refuses a folder that is not empty, and what is no folder.
 std::error_code removeEmptyFolder(const std::filesystem::path& folder);
 

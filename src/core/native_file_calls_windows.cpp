@@ -19,6 +19,28 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
     return lastErrorUnless(MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING));
 }
 
+std::error_code removeFile(const std::filesystem::path& file) {
+    if (DeleteFileW(file.c_str())) return {};
+    const std::error_code error = lastErrorUnless(false);
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    const bool isReadOnly = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+    if (!isReadOnly || !SetFileAttributesW(file.c_str(), attributes & ~FILE_ATTRIBUTE_READONLY)) return error;
+    if (DeleteFileW(file.c_str())) return {};
+    const std::error_code second = lastErrorUnless(false);
+    SetFileAttributesW(file.c_str(), attributes);
+    return second;
+}
+
+/// A rename's own error does not tell: it is the same as that of a lack of rights.
+bool isHeldByOther(const std::filesystem::path& file) {
+    constexpr DWORD everyShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE handle =
+        CreateFileW(file.c_str(), GENERIC_READ | DELETE, everyShare, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return GetLastError() == ERROR_SHARING_VIOLATION;
+    CloseHandle(handle);
+    return false;
+}
+
 // The library's own tries to remove a file next and tells of that.
 std::error_code removeEmptyFolder(const std::filesystem::path& folder) {
     return lastErrorUnless(RemoveDirectoryW(folder.c_str()));

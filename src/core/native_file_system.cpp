@@ -54,17 +54,9 @@ ErrorCode missingOrDenied(const FilePath& path) {
     return QFileInfo::exists(path.native()) ? ErrorCode::permissionDenied : ErrorCode::fileNotFound;
 }
 
-// Opening has one error for what is missing and what is closed to this user: a look at what is there tells
-// them apart.
-void openForReading(QFile& file, const FilePath& path, QIODevice::OpenMode mode) {
-    if (!file.open(mode)) throw Error(codeOf(file.error(), missingOrDenied(path)), path.text());
-}
-
-void openForWriting(QFile& file, const FilePath& path, QIODevice::OpenMode mode) {
-    if (file.open(mode | QIODevice::Unbuffered)) return;
+ErrorCode noFolderOrDenied(const QFile& file) {
     const bool hasFolder = QFileInfo::exists(QFileInfo(file.fileName()).path());
-    const ErrorCode otherwise = hasFolder ? ErrorCode::permissionDenied : ErrorCode::pathNotFound;
-    throw Error(codeOf(file.error(), otherwise), path.text());
+    return hasFolder ? ErrorCode::permissionDenied : ErrorCode::pathNotFound;
 }
 
 void writeAll(QFileDevice& file, const char* bytes, qint64 count, const FilePath& path) {
@@ -81,6 +73,15 @@ QStringList sortedByUpperName(QStringList names) {
 }
 
 } // namespace
+
+// Opening has one error for what is missing and what is closed to this user: a look at what is there tells
+// them apart.
+void NativeFileSystem::open(QFile& file, const FilePath& path, QIODevice::OpenMode mode) {
+    if (file.open(mode) || (heldFiles_.outlast(path) && file.open(mode))) return;
+    const bool isWriting = mode.testFlag(QIODevice::WriteOnly);
+    throw Error(codeOf(file.error(), isWriting ? noFolderOrDenied(file) : missingOrDenied(path)),
+                path.text());
+}
 
 bool NativeFileSystem::exists(const FilePath& path) {
     return QFileInfo::exists(path.native());
@@ -121,9 +122,9 @@ void NativeFileSystem::makeFolder(const FilePath& folder) {
 
 void NativeFileSystem::copyContents(const FilePath& source, const FilePath& target) {
     QFile in(source.native());
-    openForReading(in, source, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    open(in, source, QIODevice::ReadOnly | QIODevice::Unbuffered);
     QFile out(target.native());
-    openForWriting(out, target, QIODevice::WriteOnly | QIODevice::Truncate);
+    open(out, target, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
     QByteArray block(std::min(copyBlockSize, std::max<qint64>(in.size(), 1)), Qt::Uninitialized);
     while (true) {
         const qint64 count = in.read(block.data(), block.size());
@@ -134,11 +135,16 @@ void NativeFileSystem::copyContents(const FilePath& source, const FilePath& targ
 }
 
 void NativeFileSystem::rename(const FilePath& source, const FilePath& target) {
-    raise(renameInOneStep(systemPath(source), systemPath(target)), target);
+    std::error_code error = renameInOneStep(systemPath(source), systemPath(target));
+    if (error && (heldFiles_.outlast(target) || heldFiles_.outlast(source)))
+        error = renameInOneStep(systemPath(source), systemPath(target));
+    raise(error, target);
 }
 
 void NativeFileSystem::remove(const FilePath& file) {
-    if (!QFile::remove(file.native())) throw Error(missingOrDenied(file), file.text());
+    std::error_code error = removeFile(systemPath(file));
+    if (error && heldFiles_.outlast(file)) error = removeFile(systemPath(file));
+    if (error) throw Error(missingOrDenied(file), file.text());
 }
 
 void NativeFileSystem::removeFolder(const FilePath& folder) {
@@ -148,7 +154,8 @@ void NativeFileSystem::removeFolder(const FilePath& folder) {
 }
 
 bool NativeFileSystem::isLink(const FilePath& path) {
-    return QFileInfo(path.native()).isSymLink();
+    const QFileInfo info(path.native());
+    return info.isSymbolicLink() || info.isJunction(); // what Windows calls a shortcut is a file
 }
 
 bool NativeFileSystem::isReadOnly(const FilePath& file) {
@@ -191,7 +198,7 @@ std::int64_t NativeFileSystem::freeSpace(const FilePath& folder) {
 
 QByteArray NativeFileSystem::read(const FilePath& file) {
     QFile in(file.native());
-    openForReading(in, file, QIODevice::ReadOnly);
+    open(in, file, QIODevice::ReadOnly);
     const QByteArray contents = in.readAll();
     if (in.error() != QFileDevice::NoError) throw Error(ErrorCode::ioFailure, file.text());
     return contents;
@@ -201,7 +208,7 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
     const FilePath placed = file.resolved(), part = partOf(placed);
     try {
         QFile out(part.native());
-        openForWriting(out, part, QIODevice::WriteOnly);
+        open(out, part, QIODevice::WriteOnly | QIODevice::Unbuffered);
         writeAll(out, contents.constData(), contents.size(), part);
         out.close();
         rename(part, placed);
@@ -213,7 +220,7 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {
     QFile out(file.native());
-    openForWriting(out, file, QIODevice::Append);
+    open(out, file, QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered);
     writeAll(out, contents.constData(), contents.size(), file);
 }
 

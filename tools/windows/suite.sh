@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# suite.sh [CTEST ARGUMENT...]: builds all for Windows and runs the tests under Wine, whole programs side by side, in a
+# prefix of the project's own that is made anew. At the end it names the cases that are tests of Linux alone.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+. tools/windows/prefix.sh
+(targets=none && . tools/packages.sh && installMissing wine wine64 "${screenTools[@]}")
+./build-windows all 1>&2
+rm -rf "$windowsFolder/wine"
+export WINEPREFIX=$windowsFolder/wine
+stopWine() {
+    wineserver -k 2>/dev/null || true
+}
+trap stopWine EXIT
+tools/windows/under_wine wineboot -u >/dev/null 2>&1
+# A server that a test started would keep that test's pipes open, and so the test from ending.
+wineserver -w
+wineserver -p >/dev/null 2>&1
+tools/windows/under_wine wineboot >/dev/null 2>&1 </dev/null
+
+casesOf() {
+    local program
+    for program in "$1"/bin/*_tests"$2"; do
+        "${@:3}" "$program" --gtest_list_tests 2>/dev/null | tr -d '\r' | awk -v p="$(basename "$program" "$2")" \
+            '/^[^ ].*\.$/ { suite = $1 } /^ / { print p ": " suite $1 }'
+    done | sort
+}
+
+status=0
+ctest --test-dir build/windows/release -j "$(nproc)" --output-on-failure "$@" || status=$?
+if compgen -G 'build/release/bin/*_tests' >/dev/null; then
+    comm -23 <(casesOf build/release "") <(casesOf build/windows/release .exe tools/windows/under_wine) \
+        >"$windowsFolder/linux_alone.txt"
+    echo "$(wc -l <"$windowsFolder/linux_alone.txt") cases are of Linux alone:"
+    cat "$windowsFolder/linux_alone.txt"
+fi
+exit $status
