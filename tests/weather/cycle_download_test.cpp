@@ -44,16 +44,14 @@ protected:
 };
 
 TEST_F(CycleDownloadTest, keepsTheBytesAsTheyAreBehindARedirect) {
-    for (const QByteArray& bytes : {QByteArray("KSEA\0\xFF\xE9\n", 8), QByteArray(1 << 18, 'A')}) {
-        EXPECT_EQ(fetchFrom([&](const QByteArray& path) {
-                      return path == "/moved"
-                                 ? LoopbackServer::textReply(bytes)
-                                 : LoopbackServer::statusReply("302 Found", "Location: /moved\r\n");
-                  }),
-                  "done");
-        EXPECT_EQ(test::readFile(target), bytes);
-        EXPECT_EQ(progress, std::pair(std::int64_t{bytes.size()}, std::int64_t{bytes.size()}));
-    }
+    const QByteArray bytes = QByteArray("KSEA\0\xFF\xE9\n", 8) + QByteArray(1 << 18, 'A');
+    EXPECT_EQ(fetchFrom([&](const QByteArray& path) {
+                  return path == "/moved" ? LoopbackServer::textReply(bytes)
+                                          : LoopbackServer::statusReply("302 Found", "Location: /moved\r\n");
+              }),
+              "done");
+    EXPECT_EQ(test::readFile(target), bytes);
+    EXPECT_EQ(progress, std::pair(std::int64_t{bytes.size()}, std::int64_t{bytes.size()}));
 }
 
 /// A kept sample of packed bytes.
@@ -101,7 +99,6 @@ TEST_F(CycleDownloadTest, aFailureLeavesTheFileOfBefore) {
         QString reason; ///< a part of it; where it is empty the reason is Qt's own
     };
     const Case cases[] = {
-        {"404", LoopbackServer::statusReply("404 Not Found"), u"Not Found"_s},
         {"a status that is no file", LoopbackServer::statusReply("304 Not Modified"), u"304"_s},
         {"a redirect to itself",
          LoopbackServer::statusReply("302 Found", "Location: /weather/09Z.TXT\r\n"),
@@ -110,7 +107,6 @@ TEST_F(CycleDownloadTest, aFailureLeavesTheFileOfBefore) {
         {"a page by its type", headed("Content-Type: text/HTML; charset=utf-8\r\n", "EHAM"), u"page"_s},
         {"a page behind a mark and blanks", headed("", "\xEF\xBB\xBF \r\n\t<html>"), u"page"_s},
         {"a page in wide letters", headed("", QByteArray("\xFE\xFF\0\n\0<\0h", 8)), u"page"_s},
-        {"a list", headed("", " []"), u"page"_s},
         {"nothing but blanks", headed("", "\xEF\xBB\xBF \r\n\n"), u"an empty file"_s},
         {"a file without end", headed("", QByteArray(1 << 19, 'A')), u"too large"_s},
     };

@@ -60,7 +60,7 @@ TEST(MetarDecoder, groupsAndWantedOddities) {
 }
 
 /// Decodes any text, a report or not, and checks what always holds.
-QStringList decodedSoundly(const QString& report) {
+void decodeSoundly(const QString& report) {
     SCOPED_TRACE(report.toStdString());
     const clsWxFinder metar = decodedReport(report);
     EXPECT_EQ(metar.WxFinderIcao, report.section(u' ', 0, 0));
@@ -68,16 +68,6 @@ QStringList decodedSoundly(const QString& report) {
     EXPECT_TRUE(metar.WxFinderDate.size() == 2 || metar.WxFinderTime.isEmpty());
     EXPECT_EQ(metar.WxFinderCloudCover.isEmpty(), metar.WxFinderMaxCloud == 0);
     EXPECT_EQ(metar.WxFinderVisibility.isEmpty(), metar.WxFinderVisibilityFormat.isEmpty());
-    return decodedFields(metar);
-}
-
-TEST(MetarSamples, allReportsDecodeWithoutAMessage) {
-    QMap<QString, int> set;
-    for (const QString& report : test::sampleReports())
-        for (const QString& field : decodedSoundly(report))
-            ++set[field.section(u'=', 0, 0)];
-    EXPECT_EQ(set[u"MetarICAO"_s], 2761);
-    EXPECT_EQ(set.size(), 21) << "every property but month and year is met in the samples";
 }
 
 /// One change to a text: a character replaced, removed, doubled, or the rest cut away.
@@ -100,16 +90,11 @@ QString mutated(QString report, std::mt19937& random) {
     }
 }
 
-TEST(MetarSamples, changedReportsNeverBreakTheDecoder) {
+TEST(MetarSamples, neitherTheyNorChangedOnesBreakTheDecoder) {
     std::mt19937 random(20111123);
     for (QString report : test::sampleReports())
-        for (int change = 0; change < 12; ++change)
-            decodedSoundly(report = mutated(report, random));
-}
-
-TEST(MetarSamples, longLinesOfOneKind) {
-    for (const QString& unit : {u"/"_s, u"G"_s, u" "_s, u"RE"_s, u" 1"_s, u"24010KT "_s})
-        EXPECT_EQ(decodedReport(u"EGLL "_s + unit.repeated(100'000)).WxFinderIcao, u"EGLL");
+        for (int change = 0; change < 12; ++change, report = mutated(report, random))
+            decodeSoundly(report);
 }
 
 // The weather service's own reading of the sample reports, compared in meaning wherever both sides say
