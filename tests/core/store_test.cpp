@@ -7,20 +7,6 @@ namespace {
 
 using StoreTest = test::StoreFixture;
 
-TEST_F(StoreTest, textsAreFoundWithoutCase) {
-    addRows(u"AIRPORTDATA(CITY)"_s, {u"örebro"_s, u"Arlanda"_s, u"ÖSTERSUND"_s, u"bromma"_s, u"O'Hare"_s});
-    addRows(u"AIRPORTDATA(STATE)"_s, {u"a state without a city"_s});
-    const std::pair<QString, QString> cases[] = {
-        {u"AIRPORTDATA WHERE CITY = 'ÖREBRO'"_s, u"örebro"_s},
-        {u"AIRPORTDATA WHERE CITY = 'o''hare'"_s, u"O'Hare"_s},
-        {u"AIRPORTDATA WHERE CITY LIKE 'Ö%' ORDER BY CITY"_s, u"örebro ÖSTERSUND"_s},
-        {u"AIRPORTDATA WHERE NOT ISNULL (trim(upper(CITY))) ORDER BY CITY"_s,
-         u"Arlanda bromma O'Hare örebro ÖSTERSUND"_s},
-    };
-    for (const auto& [from, cities] : cases)
-        EXPECT_EQ(column(u"city"_s, from).join(u' '), cities);
-}
-
 TEST_F(StoreTest, nothingInsideQuotesIsAWordOfTheLanguage) {
     const QString name = u"ISNULL(x) YESNO ?, COUNTER; from 'y'"_s;
     addBackups({name});

@@ -25,13 +25,11 @@ TEST(TextCollation, orderWithoutRegardToCase) {
 }
 
 TEST(TextCollation, patternsOfLike) {
-    const TextPair fitting[] = {
-        {"Örebro", "ö%"}, {"Malmö", "%MÖ"}, {"Amsterdam", "a%d_m"}, {"abcabd", "%abd"},
-        {"", "%"},        {"Å", "_"},       {"[a-z]", "[a-z]"},     {"\xc3", "_"},
-    };
+    const TextPair fitting[] = {{"Örebro", "ö%"}, {"Amsterdam", "a%d_m"}, {"abcabd", "%abd"}, {"", "%"},
+                                {"Å", "_"},       {"\xc3", "_"}};
     for (const auto& [text, pattern] : fitting)
         EXPECT_TRUE(isLike(text, pattern)) << text << " LIKE " << pattern;
-    const TextPair others[] = {{"Amsterdam", "a%d"}, {"", "_"}, {"ab", "_"}, {"aXbXc", "%x%x%x%"}};
+    const TextPair others[] = {{"Amsterdam", "a%d"}, {"", "_"}, {"ab", "_"}};
     for (const auto& [text, pattern] : others)
         EXPECT_FALSE(isLike(text, pattern)) << text << " LIKE " << pattern;
 }

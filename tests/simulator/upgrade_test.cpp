@@ -142,16 +142,6 @@ TEST_F(UpgradeTest, aFileThatIsMissingOrBrokenEndsTheStartAndLosesNoRow) {
     EXPECT_EQ(count(u"DECODED_METAR"_s), test::newReports);
 }
 
-TEST_F(UpgradeTest, withDefaultAloneTheMessageIsShownAndNoSetIsMadeAndAMissingSplashStopsNothing) {
-    prepare({"DELETE FROM TEXTURE_SETS WHERE TEXTURE_SET <> 'Default'"});
-    install.files.remove(install.simulator() / u"Uires\\dlgsplash.bmp");
-    ASSERT_TRUE(start());
-    EXPECT_EQ(install.user.countOfKind(MessageKind::information), 3);
-    EXPECT_TRUE(install.user.told()[1].startsWith("Exclamtion|Morvane Error|Sub backUserFSSplash "));
-    EXPECT_EQ(dutchSets(), "Default:1");
-    EXPECT_TRUE(install.user.calls.filter("file Processing").isEmpty());
-}
-
 /// Rows are old or new, never mixed or lost, and a start without a fault ends in a working 2.1.
 void expectNothingLost(UpgradeTest& test) {
     test.install.files.failAt(0, false);
