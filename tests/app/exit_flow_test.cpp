@@ -48,12 +48,20 @@ TEST_F(ExitQuestion, namesWhatStandsThereAndResetsThatOnly) {
         EXPECT_EQ(install.installedSets(), QStringList{"Default"});
         EXPECT_EQ(install.installedSkySets(), QStringList(sky.isEmpty() ? 0 : 1, "Default"));
         EXPECT_EQ(install.user.calls.filter("ground textures").isEmpty(), ground == "Default");
-        EXPECT_EQ(install.user.calls.filter("sky textures").isEmpty(), sky.isEmpty());
+        install.user.messages.clear();
     }
+    checkResetTextures(session); // "Default" stands there
     put("2-Storm");
+    session.state<OptionsInForce>().IsFastExit = true;
+    checkResetTextures(session);
+    session.state<OptionsInForce>().IsFastExit = false;
+    EXPECT_TRUE(install.user.told().isEmpty()) << "without need it is not asked";
     install.user.otherwise = false;
     checkResetTextures(session);
     EXPECT_EQ(install.installedSets(), QStringList{"2-Storm"}) << "a No keeps the set";
+    session.CommandLineRun = true;
+    exitProgram(session);
+    EXPECT_EQ(install.user.told().size(), 1);
 }
 
 TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndResetsNothing) {
@@ -73,20 +81,6 @@ TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndReset
     EXPECT_EQ(session.adoConn, nullptr);
     connectDatabase(session);
     EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
-}
-
-TEST_F(ExitQuestion, isNotAskedWithoutNeed) {
-    checkResetTextures(session); // nothing installed
-    put("Default");
-    checkResetTextures(session);
-    install.addGroundSet("2-Storm", "Overcast", true);
-    put("2-Storm");
-    session.state<OptionsInForce>().IsFastExit = true;
-    checkResetTextures(session);
-    session.state<OptionsInForce>().IsFastExit = false;
-    session.CommandLineRun = true;
-    exitProgram(session);
-    EXPECT_TRUE(install.user.told().isEmpty());
 }
 
 } // namespace

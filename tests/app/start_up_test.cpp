@@ -29,16 +29,6 @@ struct ApplicationTest : testing::Test {
     }
 };
 
-/// Of the two boxes of the simulator's folder: the browser comes behind either.
-const QString firstBox =
-    "box Your registry does not contain the proper path to FS9.EXE. Please browse to your main "
-    "Flight Simulator 2004 folder (it needs to contain FS9.EXE).";
-const QString retryBox =
-    "box The folder path you selected does not contain FS9.EXE. Please verify your FS2004 path and "
-    "try again. You can do this by right-clicking your shortcut to Flight Simulator, and select "
-    "Properties. You will see the folder listed. Would you like to try to locate the folder "
-    "again? If you select no, we will exit.";
-
 TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
     install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s,
                                   install.simulator().native() + u'\\');
@@ -49,11 +39,9 @@ TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
     store.close();
     ASSERT_TRUE(startUp(session));
     EXPECT_EQ(session.FSPath.native(), install.simulator().native());
-    EXPECT_TRUE(session.adoConn->isOpen());
-    EXPECT_TRUE(install.files.isFolder(session.BackupPath));
-    EXPECT_FALSE(session.state<OptionsInForce>().IsWideClient || session.state<OptionsInForce>().IsDutch ||
-                 session.state<OptionsInForce>().IsHalo);
-    EXPECT_TRUE(session.state<OptionsInForce>().IsTropical && session.state<OptionsInForce>().IsFastExit);
+    EXPECT_TRUE(session.adoConn->isOpen() && install.files.isFolder(session.BackupPath));
+    const OptionsInForce& options = session.state<OptionsInForce>();
+    EXPECT_TRUE(options.IsTropical && options.IsFastExit && !options.IsDutch && !options.IsHalo);
     EXPECT_TRUE(user.calls.isEmpty());
 }
 
@@ -63,22 +51,28 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
     user.foldersToChoose = {install.home().native(), {}, right}; // a wrong one, a cancelled browser
     user.answersToGive = {true, true, false};                    // again, again, and no WideFS client
     ASSERT_TRUE(startUp(session));
-    EXPECT_EQ(user.calls.mid(0, 6),
+    const QString firstBox =
+        "box Your registry does not contain the proper path to FS9.EXE. Please browse to your main "
+        "Flight Simulator 2004 folder (it needs to contain FS9.EXE).";
+    const QString retryBox =
+        "box The folder path you selected does not contain FS9.EXE. Please verify your FS2004 path and "
+        "try again. You can do this by right-clicking your shortcut to Flight Simulator, and select "
+        "Properties. You will see the folder listed. Would you like to try to locate the folder "
+        "again? If you select no, we will exit.";
+    EXPECT_EQ(user.calls.mid(0, 6), // the browser comes behind either
               QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s}));
     EXPECT_EQ(session.FSPath.native(), right);
     EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
 }
 
-TEST_F(ApplicationTest, theCommandLineTakesTheFiveCodesExactly) {
+TEST_F(ApplicationTest, theCommandLineTakesTheCodesExactly) {
     ASSERT_TRUE(startUp(session));
     session.CommandLineRun = true;
     user.otherwise = false;
-    const QStringList words = u"|CLR|FEW|SCT|BKN|OVC|ovc| OVC|SKC"_s.split(u'|');
-    for (qsizetype number = 1; number < words.size(); ++number) {
+    for (const auto& [word, clouds] : {std::pair("CLR", QStringList{"1"}), {"OVC", {"5"}}, {"ovc", {}}}) {
         session.state<FlightWeather>().WxCloudList = QStringList{u"1"_s, u"2"_s};
-        runCommandLine(session, words[number]);
-        const QStringList clouds = number <= 5 ? QStringList{QString::number(number)} : QStringList{};
-        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, clouds) << qPrintable(words[number]);
+        runCommandLine(session, word);
+        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, clouds) << word;
         EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList(clouds.size(), QString()));
     }
     EXPECT_TRUE(user.messages.front().text.endsWith(u"obtained from Active Sky?"_s));
@@ -91,7 +85,6 @@ TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
         int failing; ///< of the file operations, and all behind it; the third comes behind the two listings
         QStringList left;
     } cases[] = {
-        {{}, 0, {}},
         {{"02Z.TXT", "Export_Cycle.dat", "noending"}, 0, {}},
         {{"Export_Cycle.dat"}, 0, {"Export_Cycle.dat"}},
         {{"02Z.TXT"}, 3, {"02Z.TXT", "Export_Cycle.dat"}},
