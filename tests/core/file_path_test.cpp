@@ -1,4 +1,3 @@
-#include "core/disk_spelling.h"
 #include "core/file_path.h"
 #include "core/file_system.h"
 #include "core/safe_copy.h"
@@ -113,29 +112,6 @@ TEST(NativeFileSystem, aFailedWriteLeavesNothingAndNamesTheFile) {
 }
 
 #endif
-
-/// What a listing knows is asked once, and names that are met on the way are known from then on.
-TEST(DiskSpelling, findsFilesAsTheDiskSpellsThem) {
-    TemporaryFolder folder;
-    NativeFileSystem files;
-    const FilePath world = folder / u"Scenery\\World\\texture";
-    for (const char16_t* name : {u"A.BMP", u"Größe.bmp"})
-        writeFile(world / name, "x");
-    DiskSpelling spelling(files, folder.path());
-    const std::pair<QString, QString> cases[] = {
-        {u"scenery\\WORLD\\Texture\\a.bmp"_s, u"Scenery\\World\\texture\\A.BMP"_s},
-        {u"Scenery\\World\\texture\\GRÖSSE.bmp"_s, u"Scenery\\World\\texture\\GRÖSSE.bmp"_s}, // another name
-        {u"Scenery\\World\\texture\\New.bmp"_s, u"Scenery\\World\\texture\\New.bmp"_s},
-        {u"Scenery\\World\\TEXTURE\\NEW.BMP"_s, u"Scenery\\World\\texture\\New.bmp"_s},
-        {u"None\\a.bmp"_s, u"None\\a.bmp"_s}};
-    for (const auto& [asked, found] : cases)
-        EXPECT_EQ(spelling.find(asked).relative(), found);
-    const QString exact = u"Scenery\\World\\texture\\a.bmp"_s;
-    const bool isOneFile = files.exists(world.exactChild(u"a.bmp"_s));
-    EXPECT_EQ(spelling.findExactly(exact).relative(),
-              isOneFile ? u"Scenery\\World\\texture\\A.BMP"_s : exact);
-    EXPECT_THROW(spelling.find(u"..\\a.bmp"_s), Error);
-}
 
 } // namespace
 } // namespace morvane

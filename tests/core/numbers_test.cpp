@@ -9,14 +9,6 @@
 namespace morvane {
 namespace {
 
-TEST(Numbers, roundToNearestTiesToEven) {
-    const std::pair<double, int> cases[] = {{2.5, 2}, {3.5, 4}, {-2.5, -2}, {0.5, 0}, {1.4999, 1}};
-    for (const auto& [value, rounded] : cases)
-        EXPECT_EQ(roundToLong(value), rounded) << value;
-    EXPECT_THROW(roundToInteger(32767.5), Error);
-    EXPECT_THROW(roundToLong(2147483647.6), Error);
-}
-
 TEST(Numbers, floatsAsShortestText) {
     const std::pair<float, QString> cases[] = {
         {7 * 0.2f, "1.4"}, {-0.0f, "0"},       {-1.5f, "-1.5"},          {100.0f, "100"},

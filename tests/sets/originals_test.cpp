@@ -162,18 +162,6 @@ TEST_F(OriginalsTest, aKillAnywhereInTheListLosesNothing) {
     }
 }
 
-TEST_F(OriginalsTest, aFileKeptWithoutItsLineServesTheNextInstall) {
-    writeFile(target(a), "the pilot's");
-    writeFile(keptFiles / a, "the pilot's");
-    // A copy cut short beside it is not taken for the file.
-    writeFile(keptFiles / (a + partialCopySuffix), "the pi");
-    EXPECT_EQ(keptPaths(), QStringList());
-    install("ours", {a});
-    EXPECT_EQ(originals().list().at(0).copy, a);
-    originals().restore();
-    EXPECT_EQ(contents(a), "the pilot's");
-}
-
 TEST_F(OriginalsTest, namesAreOneWhateverTheirCaseUnlessTheDiskHasBoth) {
     const FilePath world = simulator / u"Scenery\\World\\texture", texture = simulator / u"Texture";
     writeFile(world / u"ÖSTERSUND.BMP", "the pilot's");

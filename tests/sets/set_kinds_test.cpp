@@ -8,7 +8,9 @@
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
 #include "night/night_tuning.h"
+#include "sets/set_names.h"
 #include "sets/set_removal.h"
+#include "sets/temp_bitmaps.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
 #include "support/night_install.h"
@@ -394,6 +396,37 @@ TEST_P(RecolouredKindTest, aRefusedSaveChangesNothingAndARowStandsWithoutItsFold
     EXPECT_EQ(errors(), 2);
     EXPECT_TRUE(inHand().refreshList);
     EXPECT_EQ(stored(), "2-A+ 3-B+ 4-C+ 5-Calm");
+}
+
+TEST(SetNames, nothingThatAPathDoesNotTake) {
+    const QString fifty = u"12-"_s + QString(47, u'n');
+    const QString emoji = u"\U0001F324"_s;
+    const QString cases[][2] = {
+        {u"a:b*c?d<e>f|g\"h"_s, u"12-a_b_c_d_e_f_g_h"_s},
+        {u"a\r\nb\tc"_s + QChar(0) + QChar(0x7f) + QChar(0x85), u"12-a__b_c___"_s},
+        {QString(300, u'n'), fifty},
+        {QString(44, u'n') + u" . storm"_s,
+         u"12-"_s + QString(44, u'n')}, // the cut lays bare a dot and a blank
+        {QString(46, u'n') + emoji, u"12-"_s + QString(46, u'n')},
+        {QString(45, u'n') + emoji, u"12-"_s + QString(45, u'n') + emoji},
+    };
+    for (const auto& [title, name] : cases)
+        EXPECT_EQ(newSetName(12, title), name) << title.toStdString();
+}
+
+TEST(CleanTempBitmaps, leavesTheDutchFolderWhatIsNoBitmapAndWhatCannotBeRemoved) {
+    test::SmallInstall install;
+    const FilePath folder = install.home() / u"TempBitmaps";
+    for (const char16_t* name :
+         {u"a.bmp", u"Texture\\b.BMP", u"Texture\\notes.txt", u"UTEurLC\\c.bmp", u"Dutch\\d.bmp"})
+        writeFile(folder / name, "pixels");
+    const auto left = [&] { return contentsBelow(folder).keys().join(u' '); };
+    install.files.failAt(4, false); // list, remove, list, and the removal of "b.BMP"
+    cleanTempBitmaps(install.session);
+    EXPECT_EQ(left(), "Dutch/d.bmp Texture/b.BMP Texture/notes.txt");
+    cleanTempBitmaps(install.session);
+    EXPECT_EQ(left(), "Dutch/d.bmp Texture/notes.txt");
+    EXPECT_TRUE(install.user.told().isEmpty());
 }
 
 } // namespace

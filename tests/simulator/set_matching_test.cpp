@@ -105,21 +105,6 @@ TEST_F(SetMatchingTest, theAverageCountsCloudsAndStrengths) {
     EXPECT_EQ(SetMatching::coverWord(7), "Overcast") << "inside the scale";
 }
 
-TEST_F(SetMatchingTest, aFarGroundAndAFittingSkyAreToldOfTheGroundOnly) {
-    install.addSkySet("Rain", "Overcast", true, {"cloud.bmp", "sky.bmp"});
-    session.state<FlightWeather>().WxCloudList = QStringList{"5"};
-    session.state<FlightWeather>().WxStrengthList = QStringList{QString()};
-    install.user.answersToGive = {true}; // no flight, no start
-    install.user.otherwise = false;
-    EXPECT_EQ(flyWithCover(session).filesCopied, 6) << "four of the ground's \"Default\", two of the sky";
-    EXPECT_EQ(install.installedSets() + install.installedSkySets(), (QStringList{"Default", "Rain"}));
-    EXPECT_EQ(install.user.countOfKind(MessageKind::information), 1);
-    EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "splash OVC");
-    EXPECT_EQ(install.user.calls.filter("file Installing"),
-              (QStringList{"file Installing Partly Cloudy (SCT) ground textures",
-                           "file Installing Overcast (OVC) sky textures"}));
-}
-
 /// A random source that fails, so that the choice of a set does.
 struct BrokenRandom : RandomSource {
     double draw() override { throw Error(ErrorCode::overflow); }

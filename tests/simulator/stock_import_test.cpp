@@ -102,31 +102,6 @@ TEST_F(StockImportTest, whatHoldsNoTextureIsNamedAndCostsNothingElse) {
     EXPECT_EQ(stock(), before);
 }
 
-/// A folder stands where the part of one file would be made: that ends the import there.
-TEST_F(StockImportTest, anEndInTheMiddleTellsWhatWasReplacedAndLeavesNoParts) {
-    const auto before = stock();
-    QFile::remove((world / u"002C2WI1.BMP").native());
-    const StockPlan plan = planStockImport(session, {world, addOn});
-    for (int n = 0; n < static_cast<int>(plan.files.size()); ++n) {
-        const FilePath target = install.home() / plan.files[n].target.path();
-        const FilePath obstacle(target.native() + u".morvane-part"_s);
-        install.files.makeFolder(obstacle);
-        const auto report = importSimulatorStock(session);
-        install.files.removeFolder(obstacle);
-        ASSERT_TRUE(report);
-        EXPECT_EQ(report->files, n);
-        EXPECT_TRUE(report->failure.endsWith(target.fileName())) << report->failure.toStdString();
-        const QString told = install.user.told().back();
-        EXPECT_TRUE(told.startsWith(u"Error|"_s) && told.contains(u"after %1 of 12 files."_s.arg(n)))
-            << told.toStdString();
-        for (const QString& path : contentsBelow(install.home()).keys())
-            EXPECT_FALSE(path.endsWith(u".morvane-part"_s)) << path.toStdString();
-        EXPECT_EQ(hasKeptStock(session), n > 0);
-        restoreStock(session);
-        ASSERT_EQ(stock(), before) << n;
-    }
-}
-
 TEST_F(StockImportTest, aCancelledImportCanBeUndoneAtEveryFile) {
     const auto before = stock();
     for (int files = 1;; ++files) {

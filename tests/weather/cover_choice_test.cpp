@@ -31,13 +31,10 @@ struct CoverChoiceTest : testing::Test {
 };
 
 TEST_F(CoverChoiceTest, averagesOfTwoAirports) {
-    // Departure, destination, class. 0 is not known; halves go to the even class.
-    for (const QString& line :
-         {u"0 0 0"_s, u"0 4 4"_s, u"6 0 6"_s, u"1 2 2"_s, u"2 3 2"_s, u"5 4 4"_s, u"6 5 6"_s}) {
-        const auto number = [&](int index) { return line.section(u' ', index, index).toShort(); };
-        EXPECT_EQ(computeAverageCover(number(0), number(1)), number(2)) << line.toStdString();
-    }
-    EXPECT_EQ(roundedCover(4 / 3.0), 2);
+    // 0 is not known; halves go to the even class.
+    for (const auto& [departure, destination, cover] :
+         {std::tuple(0, 4, 4), {6, 0, 6}, {1, 2, 2}, {2, 3, 2}, {6, 5, 6}})
+        EXPECT_EQ(computeAverageCover(departure, destination), cover) << departure << destination;
     EXPECT_EQ(roundedCover(4.9), 4) << "so only a wholly overcast way is overcast";
 }
 

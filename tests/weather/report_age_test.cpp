@@ -62,19 +62,5 @@ TEST(ReportAge, theLineCountsFromTheYoungestByWhatTheReportsSay) {
     }
 }
 
-TEST(ReportAge, theSourceIsTheOneThatIsSet) {
-    test::SmallInstall install;
-    Session& session = install.session;
-    const auto setServer = [&](const QString& address) {
-        storeOwnValue(install.registry, u"WeatherServer"_s, address);
-        return reportSourceText(session);
-    };
-    EXPECT_EQ(setServer({}), "Source: no weather server is set");
-    EXPECT_EQ(setServer(u"https://weather.example.org:81"_s), "Source: weather.example.org");
-    EXPECT_EQ(setServer(u"weather"_s), "Source: the weather server's address is damaged");
-    session.state<WeatherState>().ASv6VersionOK = true;
-    EXPECT_EQ(reportSourceText(session), "Source: Active Sky");
-}
-
 } // namespace
 } // namespace morvane

@@ -7,7 +7,6 @@
 #include "weather/weather_state.h"
 
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <gtest/gtest.h>
 
@@ -62,24 +61,6 @@ struct CoverScreensTest : testing::Test {
     test::WindowProgram program;
     Session& session = program.session;
 };
-
-TEST_F(CoverScreensTest, aReportTypedIn) {
-    // The report, and its cover; OK before it was processed keeps the cover.
-    const std::pair<QString, QString> cases[] = {
-        {{}, u"9"_s}, {u"  EGLL 241220Z VV001\n18/18 Q1012 "_s, u"6"_s}, {u"EGLL 18/18 Q1012"_s, u"0"_s}};
-    for (const auto& [report, cover] : cases)
-        EXPECT_EQ(coverBy(3, u"frm_CC_From_Metar_String"_s,
-                          [&, report = report, cover = cover](DialogForm& dialog) {
-                              if (report.isEmpty()) return;
-                              dialog.findChild<QPlainTextEdit*>(u"txtMetarString"_s)->setPlainText(report);
-                              const auto told =
-                                  program.toldDuring([&] { press(dialog, u"btn_MetarProcess"_s); });
-                              EXPECT_EQ(told.isEmpty(), cover == u"6");
-                              EXPECT_EQ(textOf(dialog, u"lblCloudCover"_s),
-                                        told.isEmpty() ? u"Scattered Clouds"_s : QString());
-                          }),
-                  cover);
-}
 
 TEST_F(CoverScreensTest, aFlightPlan) {
     writePlan(u"a north.pln"_s,

@@ -26,7 +26,7 @@ struct WeatherScreenTest : testing::Test {
               u"-122.30"_s},
              {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41,98"_s,
               u"-87.9"_s},
-             {u"DIAP"_s, u"Abidjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
+             {u"DIAP"_s, u"Abïdjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
         test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
         test::addStation(session, u"DIAP"_s, 3, 5.26, -3.93);
         program.shell.goToPage(page);
@@ -71,6 +71,11 @@ TEST_F(WeatherScreenTest, filterListsNarrowOneAfterTheOtherAndAHeadSortsByDegree
     EXPECT_EQ(codes(), u"DIAP"_s) << "the lists behind it are at \"Any\" again";
     choose(u"cboCountry"_s, 0);
     EXPECT_EQ(entries(u"cboState"_s), (QStringList{u"Any"_s, u"ILLINOIS"_s, u"WASHINGTON"_s}));
+    for (const auto& [text, found] :
+         {std::pair(u"o'h"_s, u"KORD"_s), {u" ABÏ"_s, u"DIAP"_s}, {u"n%b"_s, {}}}) {
+        type(u"txtAirportName"_s, text);
+        EXPECT_EQ(codes(), found) << text.toStdString();
+    }
     type(u"txtAirportName"_s, u"%"_s);
     list.setCurrentIndex(list.airports().index(0, 0));
     const QHeaderView& head = *list.header();
