@@ -19,20 +19,6 @@ namespace morvane {
 namespace {
 
 using test::TemporaryFolder;
-using test::writeFile;
-
-TEST(FilePath, findsTheSpellingOnTheDisk) {
-    TemporaryFolder folder;
-    const QString root = folder.path().native();
-    writeFile(folder / u"Scenery/World/texture/029H2SU6.BMP", "old");
-    writeFile(folder / u"Ünï.txt", "x");
-    const FilePath world = folder / u"scenery\\WORLD\\Texture\\";
-    EXPECT_EQ((world / u"029h2su6.bmp").native(), root + u"/Scenery/World/texture/029H2SU6.BMP"_s);
-    EXPECT_EQ((folder / u"üNÏ.TXT").native(), root + u"/Ünï.txt"_s);
-    QFile other(root + u"/üNÏ.TXT"_s); // the exact spelling wins over another
-    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
-    EXPECT_EQ((folder / u"üNÏ.TXT").native(), other.fileName());
-}
 
 TEST(FilePath, noTextLeadsOutOfTheRoot) {
     const FilePath root("/somewhere");
@@ -41,18 +27,6 @@ TEST(FilePath, noTextLeadsOutOfTheRoot) {
     for (const char* name : {"", ".", "..", " ", "a\\b", "a/b", "C:"})
         EXPECT_THROW(root.child(QString(name)), Error) << name;
     EXPECT_EQ((root / u"\\a\\\\b\\").text(), "/somewhere/a/b");
-}
-
-TEST(NativeFileSystem, listsFilesByUpperCasedNameAndSeesTheOwnersMode) {
-    TemporaryFolder folder;
-    for (const char16_t* name : {u"b.bmp", u"A.BMP", u".hidden.bmp", u"_.bmp", u"c.txt"})
-        writeFile(folder / name, "x");
-    NativeFileSystem files;
-    files.makeFolder(folder / u"folder.bmp");
-    EXPECT_EQ(files.list(folder.path(), "*.bmp"), QStringList({".hidden.bmp", "A.BMP", "b.bmp", "_.bmp"}));
-    EXPECT_TRUE(files.list(folder / u"missing", "*.*").isEmpty());
-    files.setReadOnly(folder / u"b.bmp", true);
-    EXPECT_TRUE(files.isReadOnly(folder / u"B.BMP")); // also for root, who may write to it all the same
 }
 
 TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {

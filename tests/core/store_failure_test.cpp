@@ -2,13 +2,7 @@
 #include "core/store_fixture.h"
 #include "support/faulty_store.h"
 
-#include <csignal>
 #include <gtest/gtest.h>
-
-#ifndef Q_OS_WIN
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
 
 namespace morvane {
 namespace {
@@ -123,33 +117,6 @@ TEST_F(StoreFailureTest, aPresentStoreIsBroughtUpToDateStepByStep) {
     updateSchema(store, laterSchema());
     EXPECT_EQ(backups().size(), 2);
 }
-
-#ifndef Q_OS_WIN // the writer is a fork of the test
-/// A process is killed between any two steps of its writing: what it was told is stored is stored.
-TEST_F(StoreFailureTest, aKilledWriterLeavesAllItFinished) {
-    int pipeEnds[2];
-    ASSERT_EQ(pipe(pipeEnds), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        store.open(file);
-        while (true) {
-            addBackups({u"new"_s});
-            if (write(pipeEnds[1], "+", 1) != 1) _exit(1);
-        }
-    }
-    close(pipeEnds[1]);
-    char byte = 0;
-    int finished = 0;
-    while (read(pipeEnds[0], &byte, 1) == 1)
-        if (++finished == 60) kill(child, SIGKILL);
-    close(pipeEnds[0]);
-    waitpid(child, nullptr, 0);
-    EXPECT_GE(finished, 60);
-    EXPECT_EQ(test::integrityOf(file), "ok");
-    store.open(file);
-    EXPECT_GE(backups().size(), 1 + finished);
-}
-#endif
 
 } // namespace
 } // namespace morvane

@@ -17,15 +17,6 @@ TEST_F(StoreTest, nothingInsideQuotesIsAWordOfTheLanguage) {
     EXPECT_EQ(backups(), QStringList{u"plain"_s});
 }
 
-TEST_F(StoreTest, widthsAreEnforced) {
-    const QString insert = u"INSERT INTO NIGHT_TEXTURE_SETS(TEXTURE_SET) VALUES ('%1')"_s;
-    const QString fitting(50, u'Ö');
-    execute(insert.arg(fitting));
-    EXPECT_EQ(test::descriptionRaisedBy([&] { execute(insert.arg(fitting + u'x')); }),
-              "CHECK constraint failed: TEXTURE_SET takes at most 50 characters");
-    EXPECT_EQ(column(u"TEXTURE_SET"_s, u"NIGHT_TEXTURE_SETS"_s), QStringList{fitting});
-}
-
 TEST_F(StoreTest, keysAreNeverUsedTwiceAndClosingLeavesOneFile) {
     addBackups({"a", "b"});
     execute("DELETE FROM MV_BACKUP WHERE ID = 2");

@@ -350,26 +350,6 @@ TEST_P(RecolouredKindTest, aCancelLeavesTheSetDeactivatedInBothPasses) {
     }
 }
 
-TEST_P(RecolouredKindTest, aFavouriteIsARowAndEmptyFolders) {
-    nameFavourite(u"  Pilot's: storm "_s, u" wet & windy "_s);
-    const QString name = u"5-Pilot's_ storm"_s;
-    EXPECT_EQ(inHand().name, name);
-    EXPECT_EQ(inHand().selection.madeSet, name);
-    EXPECT_TRUE(inHand().refreshList && install.user.calls.last().startsWith(u"show frm_"));
-    EXPECT_EQ(stored(), "2-A+ 3-B+ 4-C+ " + name);
-    RowSet row(*session.adoConn, u"SELECT * FROM %1 WHERE ID = 5"_s.arg(kind.table));
-    EXPECT_EQ(row.text(u"COLOR_SETTINGS") + u'|' + row.text(u"DESCRIPTION"), "5:0:-1.4:0:0:3|wet & windy");
-    QStringList subfolders = kind.kind.facts.subfolders;
-    subfolders.sort();
-    EXPECT_EQ(install.files.listFolders(sets() / name), subfolders);
-    EXPECT_TRUE(filesOf(name).isEmpty() && install.user.told().isEmpty());
-
-    session.state<FavouriteAnswer>().favConfirmed = true; // an OK of last time
-    install.user.onModal = [](Screen) {};
-    kind.nameFavourite(session, {});
-    EXPECT_EQ(stored(), "2-A+ 3-B+ 4-C+ " + name);
-}
-
 TEST_P(RecolouredKindTest, noTitleLeadsOutOfTheSetsFolder) {
     const QStringList before = install.files.listFolders(install.home());
     for (const QString& title : {u""_s, u"..\\..\\Resources"_s, u"../../../evil"_s, u"con."_s,

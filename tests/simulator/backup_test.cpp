@@ -130,21 +130,13 @@ TEST_F(BackupTest, whatIsCutShortIsMarkedAndNothingIsOverwritten) {
     EXPECT_FALSE(install.user.calls.contains(restoring)) << "the list was left with Cancel";
 }
 
-TEST_F(BackupTest, aNoAndAnEmptyListDoNothingAndADamagedRowHidesNoOther) {
+TEST_F(BackupTest, aNoAndAnEmptyListDoNothing) {
     restore("1-Backup");
     EXPECT_FALSE(install.user.calls.contains("modal frm_BackupList"));
     install.user.otherwise = false;
     backupOnRequest(session);
     EXPECT_TRUE(backupNames().isEmpty());
     EXPECT_FALSE(install.files.exists(folder));
-    session.adoConn->execute(
-        u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('..', 'yesterday'), (NULL, NULL)"_s);
-    clsBackups::reload(session);
-    createBackup(session, true);
-    restore("3-Backup");
-    EXPECT_EQ(session.state<BackupChoice>().backups.size(), 3U);
-    EXPECT_TRUE(session.state<BackupChoice>().backups.at(2).isComplete);
-    EXPECT_TRUE(install.user.calls.filter("box ").isEmpty());
 }
 
 TEST_F(BackupTest, aBackupWithoutTheAddOnTouchesNothingOfIt) {

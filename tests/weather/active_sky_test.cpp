@@ -160,14 +160,6 @@ TEST_F(ActiveSkyTest, whatARunnerRunsIsKnownByItsName) {
     EXPECT_FALSE(systemActiveSky().isWindowOpen(title));
 }
 
-TEST_F(ActiveSkyTest, withoutARunnerNothingIsStartedOrWaitedFor) {
-    makeSupported();
-    session.state<WeatherState>().ASv6Local = true;
-    user.onPump = [this] { user.answers().cancelRequested = true; }; // not to hang
-    refreshWeather(session, systemActiveSky());
-    EXPECT_TRUE(user.told().value(0).startsWith(u"Exclamation|Active Sky Not Started|"_s));
-    EXPECT_FALSE(user.calls.contains(u"message Progress ASv6 Processing Wx Data"_s));
-}
 #endif
 
 TEST_F(ActiveSkyTest, aMissingFileIsWaitedForUntilACancelOrTheEndOfTheProgram) {

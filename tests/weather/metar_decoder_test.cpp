@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <random>
 
 namespace morvane {
 namespace {
@@ -70,31 +69,14 @@ void decodeSoundly(const QString& report) {
     EXPECT_EQ(metar.WxFinderVisibility.isEmpty(), metar.WxFinderVisibilityFormat.isEmpty());
 }
 
-/// One change to a text: a character replaced, removed, doubled, or the rest cut away.
-QString mutated(QString report, std::mt19937& random) {
-    static const QString alphabet = u"/ kKgGvVmMqQaAsSzZ0129-+\t\r\n\0é\u0130\u212A\U0001F327"_s;
-    const auto draw = [&random](qsizetype bound) {
-        return static_cast<qsizetype>(random() % static_cast<std::uint32_t>(bound));
-    };
-    if (report.isEmpty()) return alphabet;
-    const qsizetype place = draw(report.size());
-    switch (draw(4)) {
-    case 0:
-        return report.replace(place, 1, alphabet[draw(alphabet.size())]);
-    case 1:
-        return report.remove(place, 1 + draw(4));
-    case 2:
-        return report.insert(place, report.mid(draw(report.size()), 3));
-    default:
-        return report.left(place);
-    }
-}
-
-TEST(MetarSamples, neitherTheyNorChangedOnesBreakTheDecoder) {
-    std::mt19937 random(20111123);
-    for (QString report : test::sampleReports())
-        for (int change = 0; change < 12; ++change, report = mutated(report, random))
-            decodeSoundly(report);
+TEST(MetarSamples, neitherTheyNorDamagedOnesBreakTheDecoder) {
+    const QString strange = u"/ kKgGvVmMqQaAsSzZ0129-+\t\r\n\0é\u0130\u212A\U0001F327"_s;
+    for (const QString& report : test::sampleReports())
+        for (qsizetype n = 0; n < report.size(); n += 5) {
+            decodeSoundly(report.left(n));
+            decodeSoundly(report.left(n) + strange[(n + report.size()) % strange.size()] + report.mid(n));
+            decodeSoundly(report.left(n) + report.mid(n + 1));
+        }
 }
 
 // The weather service's own reading of the sample reports, compared in meaning wherever both sides say

@@ -1,15 +1,65 @@
-#include "weather/flight_plan.h"
-
+#include "core/session.h"
+#include "simulator/set_matching.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 #include "weather/cover_choice.h"
-#include "weather/sample_reports.h"
+#include "weather/flight_plan.h"
 #include "weather/stored_reports.h"
+#include "weather/weather_state.h"
 
 #include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
+
+struct CoverChoiceTest : testing::Test {
+    /// The ways that the user takes, one after another: the method, then whether its screen is confirmed. "0-
+    /// 2+" is a cancelled plan and a cover by hand.
+    void take(const QString& ways) {
+        install.user.onModal = [this, ways, shown = 0](Screen screen) mutable {
+            shownScreens << screenName(screen);
+            const QString way = ways.section(u' ', shown / 2, shown / 2);
+            if (shown++ % 2 == 0)
+                session.state<CoverChoice>().coverMethod = way.left(1).toShort();
+            else if ((session.state<CoverChoice>().coverConfirmed = way.endsWith(u'+')))
+                setCover(session, 5);
+        };
+    }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    QStringList shownScreens;
+};
+
+TEST_F(CoverChoiceTest, reportsOfTheAirports) {
+    session.state<FlightWeather>().WxCloudList = QStringList{u"3"_s, u"4"_s};
+    EXPECT_EQ(takeCoverOfAirports(session), 0);
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList.size(), 2) << "nothing known: the cover stays";
+    session.state<WeatherState>().DepMetar = u" EHAM 241225Z 24015KT 9999 FEW030 18/09 Q1012 "_s;
+    EXPECT_EQ(takeCoverOfAirports(session), 2);
+    session.state<WeatherState>().DestMetar = u"EGLL 241220Z 24015KT 0100 VV001 18/18 Q1012"_s;
+    EXPECT_EQ(takeCoverOfAirports(session), 4);
+    session.state<WeatherState>().DepMetar.clear();
+    EXPECT_EQ(takeCoverOfAirports(session), 6);
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"6"_s});
+}
+
+TEST_F(CoverChoiceTest, aCancelledWayLeadsBackToTheChoice) {
+    take(u"0- 1- 3- 2+"_s);
+    selectCloudCoverMethod(session);
+    const QString choice = u"frm_Select_CC_Method"_s;
+    EXPECT_EQ(shownScreens, (QStringList{choice, u"frm_FlightPlan"_s, choice, u"frm_FromDepDestVal"_s, choice,
+                                         u"frm_CC_From_Metar_String"_s, choice, u"frm_CC_From_Option"_s}));
+    EXPECT_FALSE(session.state<FlightWeather>().CoverCancelled);
+}
+
+TEST_F(CoverChoiceTest, aCancelledChoiceEndsTheRoad) {
+    take(u"2- 4"_s);
+    EXPECT_EQ(flyNow(session).filesCopied, -1);
+    EXPECT_TRUE(install.user.told().isEmpty()) << "nothing is asked";
+    take(u"2+"_s);
+    EXPECT_GT(flyNow(session).filesCopied, 0) << "and the next road is free again";
+}
 
 QString joined(const Waypoint& waypoint) {
     const auto& [name, type, latitude, longitude, airway, cloudClass] = waypoint;
@@ -20,52 +70,31 @@ struct FlightPlanTest : testing::Test {
     std::optional<FlightPlan> delivered(const QString& name) {
         return readFlightPlan(session, FilePath(QStringLiteral(MORVANE_DATA_DIR "/plans/") + name));
     }
-    std::optional<FlightPlan> read(const QByteArray& contents) {
-        const FilePath file = install.folder / u"Plän one.pln";
-        test::writeFile(file, contents);
-        return readFlightPlan(session, file);
-    }
-
     test::SmallInstall install;
     Session& session = install.session;
 };
 
 TEST_F(FlightPlanTest, deliveredPlans) {
-    struct Case {
-        QString file, heading, first, last;
-        int count;
-    };
-    const Case cases[] = {
+    const std::tuple<QString, QString, QString, QString, int> cases[] = {
         {u"TBPBEGCC06R.PLN"_s, u"Grantley Adams Intl>Manchester>41000"_s,
          u"TBPB|Airport|N13* 04.48'|W059* 29.53'|"_s, u"EGCC|Airport|N53* 21.22'|W002* 16.50'|"_s, 11},
         {u"c04_planner_form_south_west_kinds.pln"_s,
          u"Guarulhos (São Paulo)>Ministro Pistarini (Ezeiza)>35000"_s,
          u"SBGR|Airport|S23* 25.88'|W46* 28.20'|"_s, u"SAEZ|Airport|S34* 49.33'|W58* 32.15'|"_s, 5},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.file.toStdString());
-        const auto plan = delivered(each.file);
-        ASSERT_TRUE(plan);
-        EXPECT_EQ(plan->departure + u'>' + plan->destination + u'>' + plan->altitude, each.heading);
-        ASSERT_EQ(plan->waypoints.size(), each.count);
-        EXPECT_EQ(joined(parseWaypoint(plan->waypoints.front())), each.first);
-        EXPECT_EQ(joined(parseWaypoint(plan->waypoints.back())), each.last);
+    for (const auto& [file, heading, first, last, count] : cases) {
+        const auto plan = delivered(file);
+        ASSERT_TRUE(plan) << file.toStdString();
+        EXPECT_EQ(plan->departure + u'>' + plan->destination + u'>' + plan->altitude, heading);
+        ASSERT_EQ(plan->waypoints.size(), count);
+        EXPECT_EQ(joined(parseWaypoint(plan->waypoints.front())), first);
+        EXPECT_EQ(joined(parseWaypoint(plan->waypoints.back())), last);
     }
     EXPECT_TRUE(install.user.told().isEmpty());
     EXPECT_FALSE(delivered(u"fsx IFR Vaasa to Arlanda.PLN"_s));
-    EXPECT_FALSE(read("waypoint.0=KSEA, A\n  a <?XML x\n"));
     EXPECT_EQ(install.user.told(),
-              QStringList(2, u"Exclamation|FSX Flight Plan|FSX flight plan format is not supported by "
-                             "Morvane, please try another Flight Plan"_s));
-}
-
-TEST_F(FlightPlanTest, linesOfAPlan) {
-    const auto plan = read("  departure_name=A=B \r\n\tdestination_name=no\r\n destination_name=C\r\n"
-                           " waypoint.0=LEFT\r\nwaypoint.9=first\nwaypoint.1=second\r\nwaypoint.2\r\n");
-    ASSERT_TRUE(plan);
-    EXPECT_EQ(plan->departure + u'>' + plan->destination + u'>' + plan->altitude, "A=B>C>");
-    EXPECT_EQ(plan->waypoints, (QStringList{u"first"_s, u"second"_s, {}})) << "in file order";
-    EXPECT_TRUE(read(QByteArray("\0\1\2\xff waypoint=\0", 14))->waypoints.isEmpty()) << "a binary file";
+              QStringList(u"Exclamation|FSX Flight Plan|FSX flight plan format is not supported by "
+                          "Morvane, please try another Flight Plan"_s));
 }
 
 TEST_F(FlightPlanTest, layoutsOfAWaypoint) {

@@ -1,9 +1,13 @@
-#include "simulator/simulator_launch.h"
-
+#include "core/error.h"
 #include "core/program_start.h"
+#include "core/store.h"
 #include "core/wine_call.h"
+#include "ground/ground_selection.h"
 #include "sets/options_in_force.h"
 #include "simulator/set_matching.h"
+#include "simulator/simulator_launch.h"
+#include "sky/sky_selection.h"
+#include "sky/sky_sets.h"
 #include "start_record.h"
 #include "support/printing.h"
 #include "support/small_install.h"
@@ -20,7 +24,107 @@
 namespace morvane {
 namespace {
 
+using test::SmallInstall;
 using test::writeFile;
+
+using Sets = std::vector<ActivatedSet>; ///< names and covers
+
+struct SetMatchingTest : testing::Test {
+    SmallInstall install;
+    Session& session = install.session;
+
+    void addGrounds(const Sets& sets) {
+        for (const auto& [name, cover] : sets)
+            install.addGroundSet(name, cover, true, {"Texture\\029h2su6.bmp"});
+    }
+    void addSkies(const Sets& sets) {
+        for (const auto& [name, cover] : sets)
+            install.addSkySet(name, cover, true, {"sky.bmp"});
+    }
+    /// "Default" is an activated one for "Partly Cloudy"; some searches need it away.
+    void setActivation(const QString& name, const QString& word) {
+        const QString statement = u"UPDATE TEXTURE_SETS SET ACTIVATED = '%1' WHERE TEXTURE_SET = '%2'"_s;
+        session.adoConn->execute(statement.arg(word, name));
+        install.reload();
+    }
+    /// Ground and sky that an install for the cover left.
+    QStringList matched(const QString& cover) {
+        SetMatching(session).installMatchingSets(cover);
+        const QStringList chosen{session.state<GroundSelection>().SelectedGroundSet,
+                                 session.state<SkySelection>().SelectedSkySet};
+        EXPECT_EQ(install.installedSets() + install.installedSkySets(), chosen) << cover.toStdString();
+        return chosen;
+    }
+};
+
+TEST_F(SetMatchingTest, candidatesAreDrawnButNeverTheLast) {
+    addGrounds({{"A", "Overcast"}, {"B", " Overcast "}, {"C", "Overcast"}, {"G", "Overcast"}});
+    setActivation("G", "true"); // only the exact word activates
+    addSkies({{"a", "Overcast"}, {"b", " Overcast"}, {"c", "Overcast"}, {"h", "Partly Cloudy"}});
+    install.addSkySet("d", "Overcast", false);
+    install.random.numbers = {0.49};
+    EXPECT_EQ(matched("Overcast"), (QStringList{"A", "a"}));
+    install.random.numbers = {0.9999999999};
+    EXPECT_EQ(matched(" Overcast"), (QStringList{"B", "b"}));
+    EXPECT_EQ(matched("Partly Cloudy"), (QStringList{"Default", "h"})) << "\"Default\" takes part";
+    EXPECT_TRUE(install.user.told().isEmpty());
+}
+
+/// The ground's search compares the next word, the sky's the present one.
+TEST(ClosestSet, isSearchedUpwardsAndNeverBackAtTheEnds) {
+    using Search = SetMatching::ClosestSearch;
+    const Sets wet{{"Rain", "Overcast"}, {"Drizzle", "Mostly Cloudy"}, {"Sun", "Sky Clear"}},
+        ends{wet[0], wet[2]};
+    const std::tuple<const char*, Sets, const char*, const char*> cases[] = {
+        {"Mostly Clear", wet, "Drizzle", "Drizzle"}, // up, though "Sky Clear" is nearer
+        {"Sky Clear", wet, "Drizzle", "Sun"},
+        {"Mostly Clear", ends, "Default", "Default"}, // however near they are
+        {"Foggy", wet, "Default", "Default"},
+    };
+    for (const auto& [cover, sets, ground, sky] : cases) {
+        EXPECT_EQ(SetMatching::closestSet(sets, Search::nextWord, cover), ground) << cover;
+        EXPECT_EQ(SetMatching::closestSet(sets, Search::currentWord, cover), sky) << cover;
+    }
+}
+
+TEST_F(SetMatchingTest, theClosestSetsAreToldAndNotDrawn) {
+    setActivation("Default", "False");
+    addGrounds({{"Rain", "Mostly Cloudy"}, {"Drizzle", "Mostly Cloudy"}});
+    addSkies({{"Sun", "Sky Clear"}, {"Haze", "Mostly Cloudy"}});
+    EXPECT_EQ(matched("Overcast"), (QStringList{"Rain", "Haze"}));
+    EXPECT_EQ(install.random.draws, 0);
+    const QString told =
+        "Information|No Activated %1 Texture Sets|you have no activated %2 texture sets equivalent "
+        "to Overcast MV will now install the closest %2 texture set to Overcast";
+    EXPECT_EQ(install.user.told(), (QStringList{told.arg("Ground", "ground"), told.arg("Sky", "sky")}));
+}
+
+TEST_F(SetMatchingTest, theAverageCountsCloudsAndStrengths) {
+    // Clouds, strengths, average. An obscured sky, 6, counts as scattered, and so does everything unknown;
+    // halves go to the even number.
+    for (const QString& line : QStringList{"5||5", "6||3", "many||3", " 4 | Light |5", "1|Moderate|2",
+                                           "3|heavy|3", "5|Heavy|7", "1,2|,|2", "2,3|,|2", "4,5|,Heavy|6"}) {
+        const QStringList parts = line.split(u'|');
+        session.state<FlightWeather>().WxCloudList = parts[0].split(u',');
+        session.state<FlightWeather>().WxStrengthList = parts[1].split(u',');
+        EXPECT_EQ(SetMatching(session).getAverageCloudCover(), parts[2].toInt()) << line.toStdString();
+    }
+    EXPECT_EQ(SetMatching::coverWord(7), "Overcast") << "inside the scale";
+}
+
+/// A random source that fails, so that the choice of a set does.
+struct BrokenRandom : RandomSource {
+    double draw() override { throw Error(ErrorCode::overflow); }
+};
+
+TEST_F(SetMatchingTest, aFailureIsToldUnderAWordOfItsOwnSpelling) {
+    addGrounds({{"A", "Overcast"}, {"B", "Overcast"}, {"C", "Overcast"}});
+    BrokenRandom broken;
+    Session failing({install.user, install.files, install.clock, broken, install.registry}, install.home());
+    failing.adoConn = std::move(session.adoConn);
+    SetMatching(failing).installMatchingSets("Overcast");
+    EXPECT_EQ(install.user.told(), QStringList{"Exlamation|getIcaoWxDetails Error|Overflow"});
+}
 
 struct SimulatorLaunchTest : testing::Test {
     test::SmallInstall install;
@@ -61,9 +165,6 @@ struct SimulatorLaunchTest : testing::Test {
 
 const QString flightQuestion = "Question|Start Predefined Flight|Do you wish Morvane to start one of your "
                                "previously saved flights?";
-const QString launchQuestion =
-    "Question|Launch Flight Simulator?|Would you like Morvane to start Flight Simulator now?";
-
 TEST_F(SimulatorLaunchTest, startsWhatWasChosenAndMinimisesButAnUnattendedRun) {
     placeStandIn(program);
     const std::tuple<bool, QString, bool, bool> cases[] = {
@@ -121,29 +222,6 @@ TEST_F(SimulatorLaunchTest, aWindowsSimulatorIsStartedByTheRunner) {
     startSavedFlight(session);
     const QString onDrive = "Z:" + flight.native().replace(u'/', u'\\');
     EXPECT_EQ(startsIn(runner, 1), QStringList{"--quiet|" + program.native() + u'|' + onDrive});
-}
-
-TEST_F(SimulatorLaunchTest, whatDoesNotStartIsToldOf) {
-    const std::tuple<QByteArray, QString, QString> cases[] = {
-        // The simulator, the runner, and what is told; nothing for a start.
-        {"MZ", {}, "SimulatorRunner"},
-        {"MZ", "false", "The runner is false"},
-        {"#!/bin/sh\nexec sleep 3\n", {}, {}}, // longer than a failure takes to show
-    };
-    for (const auto& [contents, runner, told] : cases) {
-        writeFile(program, contents);
-        QFile::setPermissions(program.native(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        setRunner(runner);
-        install.user.messages.clear();
-        install.user.calls.clear();
-        EXPECT_EQ(launchFlightSimulator(session), told.isEmpty()) << contents.constData();
-        EXPECT_EQ(install.user.told()[0], launchQuestion);
-        EXPECT_EQ(install.user.calls.contains("minimise"), told.isEmpty())
-            << "the program stays if nothing starts";
-        const QString last = install.user.told().last();
-        EXPECT_TRUE(last.contains(told)) << last.toStdString();
-        EXPECT_EQ(last.startsWith("Exclamation|Flight Simulator Not Started|"), !told.isEmpty());
-    }
 }
 
 TEST_F(SimulatorLaunchTest, aFlightInThePrefixHasItsDrivesLetter) {

@@ -1,0 +1,235 @@
+#include "core/error.h"
+#include "core/registry.h"
+#include "core/session.h"
+#include "core/store.h"
+#include "support/printing.h"
+#include "support/small_install.h"
+#include "weather/airport_report.h"
+#include "weather/coordinates.h"
+#include "weather/decoded_lines.h"
+#include "weather/metar_decoder.h"
+#include "weather/nearest_station.h"
+#include "weather/report_age.h"
+#include "weather/report_filter.h"
+#include "weather/report_rows.h"
+#include "weather/reports.h"
+#include "weather/stored_reports.h"
+#include "weather/weather_state.h"
+
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+struct WeatherControlTest : testing::Test {
+    WeatherControlTest() {
+        weather.InhibitWeatherReports = false;
+        test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
+        test::addStation(session, u"EHAM"_s, 1, 52.31, 4.76);
+    }
+    QStringList lines() const {
+        const ReportLines& lines = session.state<DecodedReportLines>().decodedMetarLines;
+        return {lines.begin(), lines.end()};
+    }
+    QString reportOf(const QString& icao, const QString& latitude = {}, const QString& longitude = {}) {
+        return getMetar(session, {icao, u"A Field"_s, u"A City"_s, {}, {}, latitude, longitude})
+            .value_or(u"none"_s);
+    }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    WeatherState& weather = session.state<WeatherState>();
+};
+
+TEST_F(WeatherControlTest, anAirportWithoutAReportReadsItsNeighboursAsItsOwn) {
+    EXPECT_EQ(reportOf(u"ksea"_s), u"KSEA 010000Z 00000KT"_s);
+    EXPECT_EQ(reportOf(u" KBFI "_s, u"47.53"_s, u"-122.30"_s), u"KBFI 010000Z 00000KT"_s);
+    EXPECT_EQ(lines().first() + u'|' + lines().last(),
+              u"ICAO Code: KBFI, City: A City, Airport Name: A Field|KBFI 010000Z 00000KT"_s);
+    EXPECT_EQ(reportOf(u"O'HA"_s, u"52"_s, u"5"_s), u"O'HA 010000Z 00000KT"_s);
+}
+
+TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
+    const QString told = u"Exclamation|Metar Error!|The METAR requested cannot be accessed at this time or "
+                         u"is not available please try again later"_s;
+    storeReport(session, {}); // a line that was no report stands under an empty code
+    EXPECT_EQ(reportOf({}, u"47"_s, u"-122"_s), u"none"_s) << "an empty code is no station";
+    EXPECT_EQ(reportOf(u"KBFI"_s, u"north"_s, u"-122"_s), u"none"_s);
+    session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = '', METAR_LONG = ''"_s);
+    EXPECT_EQ(reportOf(u"KBFI"_s, u"47"_s, u"-122"_s), u"none"_s) << "nobody has a position";
+    EXPECT_FALSE(chooseAirport(session, {u"KBFI"_s, u"BOEING"_s, {}, {}, {}, u"47"_s, u"-122"_s}));
+    EXPECT_EQ(install.user.told(), QStringList(4, told));
+    EXPECT_EQ(weather.DepMetar + weather.DepAirportName, QString()) << "name and report never part";
+}
+
+// The lines, slips and all.
+
+TEST_F(WeatherControlTest, theLinesOfAFullReportAndOfAnEmptyOne) {
+    clsWxFinder full = clsDecodeMetar(install.user)
+                           .decodeMetarString(u"LOWI 141453Z 24015G025KT 210V270 10SM -RA BR OVC030 18/M01 "
+                                              "A2992"_s),
+                empty;
+    full.WxFinderMetar = u"LOWI 141453Z"_s;
+    full.WxFinderMonth = u"June"_s;
+    full.WxFinderYear = u"2006"_s;
+    empty.WxFinderIcao = u"LOWI"_s;
+    empty.WxFinderMetar = u"LOWI NIL"_s;
+    empty.WxFinderWeatherStrength = u"Moderate "_s; // of nothing
+    const std::pair<clsWxFinder, QString> cases[] = {
+        {full, u"Date: 14 June 2006 Time: 1453Z|Wind from: 240 degrees at 015kts, Gusting 025kts, Varying "
+               "between 210 degrees and 270 degrees|Visibility: 10 Mile(s)|Precipitation: Light  "
+               "Rain|Obscuration: Mist|Sky Conditions: Overcast|Temperature: 18 degree(s) Celcius|Dewpoint: "
+               "Minus 01 degree(s) Celcius|Pressure: 29.92 Inches of Mercury|LOWI 141453Z"_s},
+        // Month and year are the clock's.
+        {empty, u"Date:  May 2007 Time: Z|Wind: No wind data avialable|Visibility: No visibility data "
+                "available|Precipitation: No precipitation type recorded|Obscuration: No obscuration "
+                "phenomina recorded|Sky Conditions: No cloud data available|Temperature: No temperature "
+                "data available|Dewpoint: No Dewpoint data available|Pressure: No Pressure data "
+                "available|LOWI NIL"_s}};
+    for (const auto& [report, lines] : cases) {
+        storeReport(session, report);
+        reportOf(u"LOWI"_s);
+        EXPECT_EQ(this->lines().sliced(1).join(u'|'), lines);
+    }
+}
+
+TEST(Coordinates, distances) {
+    EXPECT_NEAR(getDistanceNM(52.31, 4.76, 47.45, -122.31), 4231, 4) << "EHAM to KSEA";
+    EXPECT_NEAR(getDistanceNM(10, 179.5, 10, -179.5), 59.1, 0.1) << "across the date line";
+}
+
+TEST(NearestStation, whichRowsCount) {
+    test::SmallInstall install;
+    Session& session = install.session;
+    const auto nearest = [&](const QString& latitude, const QString& longitude) {
+        return getClosestMetarStation(session, latitude, longitude);
+    };
+    test::addStation(session, u"NONE"_s, 3);
+    test::addStation(session, u"FAR1"_s, 3, -10, -170);
+    EXPECT_EQ(nearest(u"10"_s, u"10"_s), "") << "only the antipode";
+    test::addStation(session, u"TWIN"_s, 3, 10.5, 10);
+    test::addStation(session, u"ALSO"_s, 3, 9.5, 10);
+    EXPECT_EQ(nearest(u"10"_s, u"10"_s), "TWIN") << "the first of equals";
+    session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = 'x' WHERE METAR_ICAO = 'TWIN'"_s);
+    EXPECT_EQ(nearest(u"10"_s, u"10"_s), "ALSO");
+    EXPECT_THROW(nearest(u""_s, u"10"_s), Error);
+    session.adoConn->execute(
+        u"UPDATE DECODED_METAR SET METAR_LAT = '10,4', METAR_LONG = ' 9,75 ' WHERE METAR_ICAO = 'TWIN'"_s);
+    for (const QString& separator : {u","_s, u"."_s}) {
+        session.DecimalSep = separator;
+        EXPECT_EQ(nearest(u"10,3"_s, u"9,7"_s), "TWIN") << "another hand filled these tables with \",\"";
+    }
+}
+
+QDateTime utc(const QString& text) {
+    QDateTime moment = QDateTime::fromString(text, u"yyyy-MM-dd hh:mm"_s);
+    moment.setTimeSpec(Qt::UTC);
+    return moment;
+}
+
+TEST(ReportAge, aReportIsOfTheLastSuchMomentUpToAnHourAhead) {
+    const struct {
+        QString clock, day, time, moment;
+    } cases[] = {
+        {u"2026-11-21 03:04"_s, u"21"_s, u"0404"_s, u"2026-11-21 04:04"_s},
+        {u"2026-11-21 03:04"_s, u"21"_s, u"0405"_s, u"2026-10-21 04:05"_s},
+        {u"2027-03-01 00:10"_s, u"31"_s, u"2350"_s, u"2027-01-31 23:50"_s}, // February has none
+        {u"2026-11-21 03:04"_s, u"32"_s, u"0200"_s, {}},
+        {u"2026-11-21 03:04"_s, u"21"_s, u"2400"_s, {}},
+    };
+    for (const auto& [clock, day, time, moment] : cases)
+        EXPECT_EQ(observationTime(day, time, utc(clock)).toString(u"yyyy-MM-dd hh:mm"), moment)
+            << (clock + u" / "_s + day + time).toStdString();
+}
+
+TEST(ReportAge, theLineCountsFromTheYoungestByWhatTheReportsSay) {
+    test::SmallInstall install;
+    Session& session = install.session;
+    EXPECT_EQ(reportAgeText(session), "No reports yet");
+    const auto add = [&](const QString& icao, const QString& day, const QString& time) {
+        clsWxFinder report;
+        report.WxFinderIcao = icao;
+        report.WxFinderDate = day;
+        report.WxFinderTime = time;
+        storeReport(session, report);
+        clsWxFinders::reload(session);
+    };
+    install.clock.now = utc(u"2026-11-21 03:04"_s);
+    add(u"AAAA"_s, {}, {});
+    EXPECT_EQ(reportAgeText(session), "1 report, none with a time");
+    add(u"CCCC"_s, u"03"_s, u"2350"_s);
+    add(u"DDDD"_s, u"21"_s, u"0200"_s);
+    add(u"EEEE"_s, u"21"_s, u"0150"_s);
+    const std::pair<QString, QString> ages[] = {
+        {u"2026-11-21 02:01"_s, u"1 minute"_s},
+        {u"2026-11-23 01:59"_s, u"47 hours"_s},
+        {u"2026-11-23 02:00"_s, u"2 days"_s},
+    };
+    for (const auto& [clock, age] : ages) {
+        install.clock.now = utc(clock);
+        EXPECT_EQ(reportAgeText(session), u"4 reports, the youngest of 02:00Z 21 Nov, "_s + age + u" old"_s);
+    }
+}
+
+struct WxFilterTest : testing::Test {
+    WxFilterTest() {
+        // Code, strength, weather, obscuration, clouds.
+        for (const QString& line :
+             {u"EDDF|Light |Rain||Overcast: Cumulus observed"_s,
+              u"EGLL|Moderate |Rain and Snow|Mist|Mostly Cloudy: Cumulonimbus observed"_s,
+              u"EHAM||||Sky Clear: Cumulus observed"_s,
+              u"KSEA|Heavy |Snow Grains|Fog|Mostly Cloudy: Towering Cumulonimbus observed"_s,
+              u"LSZH|||Haze|Partly Cloudy"_s}) {
+            const QStringList fields = line.split(u'|');
+            clsWxFinder report;
+            report.WxFinderIcao = fields[0];
+            report.WxFinderMetar = fields[0] + u" 241225Z"_s;
+            report.WxFinderWeatherStrength = fields[1];
+            report.WxFinderWeather = fields[2];
+            report.WxFinderFog = fields[3];
+            report.WxFinderCloudCover = fields[4];
+            storeReport(session, report);
+        }
+    }
+    /// The first letter of each station found.
+    QString found() {
+        QString letters;
+        for (const auto& finder : filterMetars(session))
+            letters += finder->WxFinderIcao.mid(1, 1);
+        return letters;
+    }
+
+    test::SmallInstall install;
+    Session& session = install.session;
+    WxFilter& filter = session.state<WxFilter>();
+};
+
+TEST_F(WxFilterTest, whatEachWordFinds) {
+    const struct {
+        const char* name;
+        QString lists; ///< precipitation, intensity, obscuration and clouds
+        bool towering, cumulonimbus, cumulus;
+        QString stations; ///< second letters of the codes
+    } cases[] = {
+        {"any", u"Any|Any|Any|Any"_s, false, false, false, u"DGHSS"_s},
+        {"snow is in snow grains", u"Snow|Any|Any|Any"_s, false, false, false, u"GS"_s},
+        {"no weather", u"None|Any|Any|Any"_s, false, false, false, u"HS"_s},
+        {"moderate rain", u"Rain|Moderate|Any|Any"_s, false, false, false, u"G"_s},
+        {"clear with cumulus", u"Any|Any|Any|Sky Clear"_s, false, false, true, u"H"_s},
+        {"cumulonimbus, not towering", u"Any|Any|Any|Any"_s, false, true, false, u"G"_s},
+        {"towering", u"Any|Any|Any|Any"_s, true, false, false, u"S"_s},
+    };
+    for (const auto& [name, lists, towering, cumulonimbus, cumulus, stations] : cases) {
+        const QStringList words = lists.split(u'|');
+        filter = {words[0], words[1], words[2], words[3], towering, cumulonimbus, cumulus, {}, 25, true, {}};
+        EXPECT_EQ(found(), stations) << name;
+    }
+    openWxFilter(session);
+    filter.WxFilterText = u"e"_s;
+    EXPECT_EQ(found(), u"DGH"_s) << "the code, any weather";
+    filter.WxMaxResults = 1;
+    EXPECT_EQ(found(), u"D"_s);
+}
+
+} // namespace
+} // namespace morvane
