@@ -9,11 +9,8 @@
 #include "sets/options_in_force.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
-#include "support/printing.h"
-#include "support/small_install.h"
+#include "support/install_test.h"
 #include "weather/cover_choice.h"
-
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -106,10 +103,7 @@ TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
     }
 }
 
-struct ExitQuestion : testing::Test {
-    test::SmallInstall install;
-    Session& session = install.session;
-
+struct ExitQuestion : test::InstallTest {
     void put(const QString& ground, const QString& sky = {}) {
         session.state<GroundSelection>().SelectedGroundSet = ground;
         GroundInstallation(session).installTextureSet(true);

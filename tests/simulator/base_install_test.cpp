@@ -2,8 +2,8 @@
 #include "simulator/base_install.h"
 #include "simulator/base_install_rows.h"
 #include "support/failing_operations.h"
+#include "support/install_test.h"
 #include "support/night_install.h"
-#include "support/printing.h"
 
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
@@ -12,7 +12,6 @@
 #include "night/night_texture_sets.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -21,9 +20,7 @@ using test::contentsBelow;
 using test::readFile;
 using test::writeFile;
 
-struct BaseInstall : testing::Test {
-    test::SmallInstall install;
-    Session& session = install.session;
+struct BaseInstall : test::InstallTest {
     FilePath world = install.simulator() / u"Scenery\\World\\texture";
 
     BaseInstall() {

@@ -9,8 +9,7 @@
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "start_record.h"
-#include "support/printing.h"
-#include "support/small_install.h"
+#include "support/install_test.h"
 #include "weather/cover_choice.h"
 
 #include <QDeadlineTimer>
@@ -19,7 +18,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -29,10 +27,7 @@ using test::writeFile;
 
 using Sets = std::vector<ActivatedSet>; ///< names and covers
 
-struct SetMatchingTest : testing::Test {
-    SmallInstall install;
-    Session& session = install.session;
-
+struct SetMatchingTest : test::InstallTest {
     void addGrounds(const Sets& sets) {
         for (const auto& [name, cover] : sets)
             install.addGroundSet(name, cover, true, {"Texture\\029h2su6.bmp"});
@@ -126,9 +121,7 @@ TEST_F(SetMatchingTest, aFailureIsToldUnderAWordOfItsOwnSpelling) {
     EXPECT_EQ(install.user.told(), QStringList{"Exlamation|getIcaoWxDetails Error|Overflow"});
 }
 
-struct SimulatorLaunchTest : testing::Test {
-    test::SmallInstall install;
-    Session& session = install.session;
+struct SimulatorLaunchTest : test::InstallTest {
     FlightChoice& choice = session.state<FlightChoice>();
     FilePath program = install.simulator() / u"fs9.exe";
     FilePath flight = install.home() / u"Flights\\Evening Rain.flt";

@@ -9,11 +9,8 @@
 #include "simulator/option_table.h"
 #include "simulator/options.h"
 #include "simulator/texture_switches.h"
+#include "support/install_test.h"
 #include "support/night_install.h"
-#include "support/printing.h"
-#include "support/small_install.h"
-
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -22,11 +19,7 @@ using test::readFile;
 using test::SmallInstall;
 using test::writeFile;
 
-struct OptionsTest : testing::Test {
-    SmallInstall install;
-    Session& session = install.session;
-    test::ScriptedUser& user = install.user;
-
+struct OptionsTest : test::InstallTest {
     void store(const QString& name, const QString& text) { storeOwnValue(install.registry, name, text); }
     QString stored(const QString& name) { return ownValue(install.registry, name); }
 };

@@ -4,11 +4,9 @@
 #include "simulator/backup_files.h"
 #include "simulator/stock_requests.h"
 #include "support/failing_operations.h"
-#include "support/printing.h"
-#include "support/small_install.h"
+#include "support/install_test.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -17,9 +15,7 @@ using test::contentsBelow;
 using test::readFile;
 using test::writeFile;
 
-struct StockImportTest : testing::Test {
-    test::SmallInstall install;
-    Session& session = install.session;
+struct StockImportTest : test::InstallTest {
     FilePath world = install.simulator() / u"Scenery\\World\\texture";
     FilePath addOn = install.simulator() / u"Scenery\\UTEurLC\\Texture";
     QByteArray texture;

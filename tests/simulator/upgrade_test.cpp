@@ -7,10 +7,8 @@
 #include "core/store_connection.h"
 #include "ground/ground_sets.h"
 #include "support/faulty_store.h"
-#include "support/printing.h"
+#include "support/install_test.h"
 #include "support/version_two_install.h"
-
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -19,9 +17,7 @@ using test::contentsBelow;
 using test::readFile;
 using test::SmallInstall;
 
-struct UpgradeTest : testing::Test {
-    SmallInstall install;
-    Session& session = install.session;
+struct UpgradeTest : test::InstallTest {
     FilePath home = install.home();
 
     void SetUp() override { test::makeVersionTwo(install); }
@@ -32,12 +28,6 @@ struct UpgradeTest : testing::Test {
         install.user.messages.clear();
         install.user.calls.clear();
         return startUp(session);
-    }
-    void prepare(const QStringList& statements) {
-        connectDatabase(session);
-        for (const QString& statement : statements)
-            session.adoConn->execute(statement);
-        closeDatabase(session);
     }
     int count(const QString& table) { return RowSet(*session.adoConn, u"SELECT * FROM "_s + table).count(); }
     /// The columns of every row; `from` is a table and what may follow its name.
@@ -95,8 +85,9 @@ TEST_F(UpgradeTest, anInstallOfVersionTwoBecomesAWorkingOne) {
 
 // What a step finds done it passes over, whatever the rows or the folders hold.
 TEST_F(UpgradeTest, stepsThatWereDoneArePassedOver) {
-    prepare({u"ALTER TABLE AIRPORTDATA ADD COLUMN STATE TEXT(50)"_s,
-             u"ALTER TABLE TEXTURE_SETS ADD COLUMN DUTCH YESNO"_s});
+    connectDatabase(session);
+    session.adoConn->execute(u"ALTER TABLE AIRPORTDATA ADD COLUMN STATE TEXT(50)"_s);
+    session.adoConn->execute(u"ALTER TABLE TEXTURE_SETS ADD COLUMN DUTCH YESNO"_s);
     test::writeFile(home / u"V2 Backup\\note.txt", "kept");
     ASSERT_TRUE(start());
     EXPECT_EQ(joined("AIRPORTDATA", "ICAO"), "OLD1|OLD2");

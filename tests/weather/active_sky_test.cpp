@@ -1,7 +1,6 @@
+#include "support/install_test.h"
 #include "weather/active_sky.h"
 
-#include "support/printing.h"
-#include "support/small_install.h"
 #include "weather/reports.h"
 #include "weather/weather_refresh.h"
 #include "weather/weather_state.h"
@@ -9,7 +8,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -36,8 +34,7 @@ private:
     test::ScriptedClock& clock_;
 };
 
-class ActiveSkyTest : public testing::Test {
-protected:
+struct ActiveSkyTest : test::InstallTest {
     ActiveSkyTest() {
         install.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey);
         install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Install_Path"_s,
@@ -74,9 +71,6 @@ protected:
         EXPECT_EQ(found(), u"present supported"_s);
     }
 
-    test::SmallInstall install;
-    test::ScriptedUser& user = install.user;
-    Session& session = install.session;
     FilePath folder = install.folder / u"ASv6 Ünï", exported = folder / u"Export_Cycle.dat";
     ScriptedPlatform platform{install.clock};
 };

@@ -1,18 +1,15 @@
 #include "core/session.h"
 #include "simulator/set_matching.h"
-#include "support/printing.h"
-#include "support/small_install.h"
+#include "support/install_test.h"
 #include "weather/cover_choice.h"
 #include "weather/flight_plan.h"
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
-#include <gtest/gtest.h>
-
 namespace morvane {
 namespace {
 
-struct CoverChoiceTest : testing::Test {
+struct CoverChoiceTest : test::InstallTest {
     /// The ways that the user takes, one after another: the method, then whether its screen is confirmed. "0-
     /// 2+" is a cancelled plan and a cover by hand.
     void take(const QString& ways) {
@@ -26,8 +23,6 @@ struct CoverChoiceTest : testing::Test {
         };
     }
 
-    test::SmallInstall install;
-    Session& session = install.session;
     QStringList shownScreens;
 };
 
@@ -66,12 +61,10 @@ QString joined(const Waypoint& waypoint) {
     return QStringList{name, type, latitude, longitude, airway}.join(u'|');
 }
 
-struct FlightPlanTest : testing::Test {
+struct FlightPlanTest : test::InstallTest {
     std::optional<FlightPlan> delivered(const QString& name) {
         return readFlightPlan(session, FilePath(QStringLiteral(MORVANE_DATA_DIR "/plans/") + name));
     }
-    test::SmallInstall install;
-    Session& session = install.session;
 };
 
 TEST_F(FlightPlanTest, deliveredPlans) {

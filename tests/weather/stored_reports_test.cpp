@@ -2,8 +2,7 @@
 #include "core/registry.h"
 #include "core/session.h"
 #include "core/store.h"
-#include "support/printing.h"
-#include "support/small_install.h"
+#include "support/install_test.h"
 #include "weather/airport_report.h"
 #include "weather/coordinates.h"
 #include "weather/decoded_lines.h"
@@ -16,12 +15,10 @@
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
-#include <gtest/gtest.h>
-
 namespace morvane {
 namespace {
 
-struct WeatherControlTest : testing::Test {
+struct WeatherControlTest : test::InstallTest {
     WeatherControlTest() {
         weather.InhibitWeatherReports = false;
         test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
@@ -36,8 +33,6 @@ struct WeatherControlTest : testing::Test {
             .value_or(u"none"_s);
     }
 
-    test::SmallInstall install;
-    Session& session = install.session;
     WeatherState& weather = session.state<WeatherState>();
 };
 
@@ -98,9 +93,9 @@ TEST(Coordinates, distances) {
     EXPECT_NEAR(getDistanceNM(10, 179.5, 10, -179.5), 59.1, 0.1) << "across the date line";
 }
 
-TEST(NearestStation, whichRowsCount) {
-    test::SmallInstall install;
-    Session& session = install.session;
+using StoredReports = test::InstallTest;
+
+TEST_F(StoredReports, whichRowsCountForTheNearestStation) {
     const auto nearest = [&](const QString& latitude, const QString& longitude) {
         return getClosestMetarStation(session, latitude, longitude);
     };
@@ -142,9 +137,7 @@ TEST(ReportAge, aReportIsOfTheLastSuchMomentUpToAnHourAhead) {
             << (clock + u" / "_s + day + time).toStdString();
 }
 
-TEST(ReportAge, theLineCountsFromTheYoungestByWhatTheReportsSay) {
-    test::SmallInstall install;
-    Session& session = install.session;
+TEST_F(StoredReports, theAgeCountsFromTheYoungestByWhatTheReportsSay) {
     EXPECT_EQ(reportAgeText(session), "No reports yet");
     const auto add = [&](const QString& icao, const QString& day, const QString& time) {
         clsWxFinder report;
@@ -171,7 +164,7 @@ TEST(ReportAge, theLineCountsFromTheYoungestByWhatTheReportsSay) {
     }
 }
 
-struct WxFilterTest : testing::Test {
+struct WxFilterTest : test::InstallTest {
     WxFilterTest() {
         // Code, strength, weather, obscuration, clouds.
         for (const QString& line :
@@ -199,30 +192,34 @@ struct WxFilterTest : testing::Test {
         return letters;
     }
 
-    test::SmallInstall install;
-    Session& session = install.session;
     WxFilter& filter = session.state<WxFilter>();
 };
 
 TEST_F(WxFilterTest, whatEachWordFinds) {
-    const struct {
-        const char* name;
-        QString lists; ///< precipitation, intensity, obscuration and clouds
-        bool towering, cumulonimbus, cumulus;
-        QString stations; ///< second letters of the codes
-    } cases[] = {
-        {"any", u"Any|Any|Any|Any"_s, false, false, false, u"DGHSS"_s},
-        {"snow is in snow grains", u"Snow|Any|Any|Any"_s, false, false, false, u"GS"_s},
-        {"no weather", u"None|Any|Any|Any"_s, false, false, false, u"HS"_s},
-        {"moderate rain", u"Rain|Moderate|Any|Any"_s, false, false, false, u"G"_s},
-        {"clear with cumulus", u"Any|Any|Any|Sky Clear"_s, false, false, true, u"H"_s},
-        {"cumulonimbus, not towering", u"Any|Any|Any|Any"_s, false, true, false, u"G"_s},
-        {"towering", u"Any|Any|Any|Any"_s, true, false, false, u"S"_s},
+    // Precipitation, intensity, obscuration and clouds; the ticks; second letters of the codes.
+    const std::tuple<QString, QString, QString> cases[] = {
+        {u"Any|Any|Any|Any"_s, {}, u"DGHSS"_s},
+        {u"Snow|Any|Any|Any"_s, {}, u"GS"_s}, // which is in snow grains
+        {u"None|Any|Any|Any"_s, {}, u"HS"_s},
+        {u"Rain|Moderate|Any|Any"_s, {}, u"G"_s},
+        {u"Any|Any|Any|Sky Clear"_s, u"cumulus"_s, u"H"_s},
+        {u"Any|Any|Any|Any"_s, u"cumulonimbus"_s, u"G"_s}, // not towering
+        {u"Any|Any|Any|Any"_s, u"towering"_s, u"S"_s},
     };
-    for (const auto& [name, lists, towering, cumulonimbus, cumulus, stations] : cases) {
+    for (const auto& [lists, tick, stations] : cases) {
         const QStringList words = lists.split(u'|');
-        filter = {words[0], words[1], words[2], words[3], towering, cumulonimbus, cumulus, {}, 25, true, {}};
-        EXPECT_EQ(found(), stations) << name;
+        filter = {words[0],
+                  words[1],
+                  words[2],
+                  words[3],
+                  tick == u"towering",
+                  tick == u"cumulonimbus",
+                  tick == u"cumulus",
+                  {},
+                  25,
+                  true,
+                  {}};
+        EXPECT_EQ(found(), stations) << (lists + tick).toStdString();
     }
     openWxFilter(session);
     filter.WxFilterText = u"e"_s;
