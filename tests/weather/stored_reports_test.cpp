@@ -36,14 +36,6 @@ struct WeatherControlTest : test::InstallTest {
     WeatherState& weather = session.state<WeatherState>();
 };
 
-TEST_F(WeatherControlTest, anAirportWithoutAReportReadsItsNeighboursAsItsOwn) {
-    EXPECT_EQ(reportOf(u"ksea"_s), u"KSEA 010000Z 00000KT"_s);
-    EXPECT_EQ(reportOf(u" KBFI "_s, u"47.53"_s, u"-122.30"_s), u"KBFI 010000Z 00000KT"_s);
-    EXPECT_EQ(lines().first() + u'|' + lines().last(),
-              u"ICAO Code: KBFI, City: A City, Airport Name: A Field|KBFI 010000Z 00000KT"_s);
-    EXPECT_EQ(reportOf(u"O'HA"_s, u"52"_s, u"5"_s), u"O'HA 010000Z 00000KT"_s);
-}
-
 TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
     const QString told = u"Exclamation|Metar Error!|The METAR requested cannot be accessed at this time or "
                          u"is not available please try again later"_s;
@@ -54,6 +46,10 @@ TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
     EXPECT_EQ(reportOf(u"KBFI"_s, u"47"_s, u"-122"_s), u"none"_s) << "nobody has a position";
     EXPECT_FALSE(chooseAirport(session, {u"KBFI"_s, u"BOEING"_s, {}, {}, {}, u"47"_s, u"-122"_s}));
     EXPECT_EQ(install.user.told(), QStringList(4, told));
+    weather.optDepAirport = false;
+    EXPECT_TRUE(chooseAirport(session, {u" EHAM "_s, u"SCHIPHOL"_s, {}, {}, {}, {}, {}}));
+    EXPECT_EQ((QStringList{weather.DestMetar, weather.DestIcao, weather.DestAirportName}),
+              (QStringList{u"EHAM 010000Z 00000KT"_s, u"EHAM"_s, u"SCHIPHOL"_s}));
     EXPECT_EQ(weather.DepMetar + weather.DepAirportName, QString()) << "name and report never part";
 }
 
