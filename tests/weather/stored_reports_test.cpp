@@ -47,6 +47,7 @@ TEST_F(WeatherControlTest, withoutAReportEverythingStaysAndOneMessageTellsSo) {
     EXPECT_FALSE(chooseAirport(session, {u"KBFI"_s, u"BOEING"_s, {}, {}, {}, u"47"_s, u"-122"_s}));
     EXPECT_EQ(install.user.told(), QStringList(4, told));
     weather.optDepAirport = false;
+    weather.optDestAirport = true;
     EXPECT_TRUE(chooseAirport(session, {u" EHAM "_s, u"SCHIPHOL"_s, {}, {}, {}, {}, {}}));
     EXPECT_EQ((QStringList{weather.DestMetar, weather.DestIcao, weather.DestAirportName}),
               (QStringList{u"EHAM 010000Z 00000KT"_s, u"EHAM"_s, u"SCHIPHOL"_s}));

@@ -1,9 +1,11 @@
 #include "support/printing.h"
 #include "support/window_program.h"
 #include "weather/directory_rows.h"
+#include "weather/report_filter.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/filter_choice.h"
 #include "weather/screens/link_label.h"
+#include "weather/screens/report_list.h"
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
@@ -104,6 +106,23 @@ TEST_F(WeatherScreenTest, aChosenAirportShowsItsReportAndItsEndKeepsIt) {
     }
     EXPECT_EQ(label(u"lblDepMetar"_s), u"DIAP 010000Z 00000KT"_s);
     EXPECT_EQ(label(u"lblDestMetar"_s), u"KBFI 010000Z 00000KT"_s);
+}
+
+TEST_F(WeatherScreenTest, theFinderFiltersAtEachKeyAndItsReportBecomesTheEndThatWasSet) {
+    const WeatherState& weather = session.state<WeatherState>();
+    program.whenShown(u"frm_WxFinder"_s, [&](DialogForm& dialog) {
+        const QAbstractItemModel& reports = *dialog.findChild<ReportList*>(u"lstMetar"_s)->model();
+        EXPECT_EQ(reports.rowCount(), 2);
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txtFilter"_s), u"d"_s);
+        EXPECT_EQ(reports.rowCount(), 1);
+        EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport0"_s)->isChecked());
+        dialog.findChild<QRadioButton*>(u"optAirport1"_s)->click();
+        EXPECT_TRUE(weather.optDepAirport) << "the page's choice waits for OK";
+        dialog.ok();
+    });
+    showWxFinder(session);
+    EXPECT_TRUE(weather.optDestAirport && !weather.optDepAirport);
+    EXPECT_EQ(weather.DestIcao, u"DIAP"_s);
 }
 
 TEST_F(WeatherScreenTest, anImportOfActiveSkysFileThatIsDueIsOffered) {
