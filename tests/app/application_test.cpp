@@ -49,6 +49,9 @@ TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
 TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
     install.files.remove(install.home() / u"registry.ini");
     const QString right = install.simulator().native();
+    user.answersToGive = {false};
+    EXPECT_FALSE(startUp(session)) << "a No to another try is the end";
+    user.calls.clear();
     user.foldersToChoose = {install.home().native(), {}, right}; // a wrong one, a cancelled browser
     user.answersToGive = {true, true, false};                    // again, again, and no WideFS client
     ASSERT_TRUE(startUp(session));

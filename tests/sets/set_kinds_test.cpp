@@ -185,6 +185,7 @@ TEST_P(SetKindTest, defaultAndTheInstalledSetAreProtected) {
                   "this set."_s.arg(words, kind.is(u"Sky"_s) ? u"\n\n"_s : u"\n"_s));
     }
     EXPECT_EQ(stored(), kind.is(u"Night"_s) ? "4-C+" : "3-B+* 4-C+");
+    EXPECT_EQ(install.user.calls.filter("done ").size(), kind.is(u"Night"_s) ? 2 : 1);
 }
 
 TEST_P(SetKindTest, aRemovalShowsThatItIsBusyAndCanBeEndedBeforeEachSet) {
