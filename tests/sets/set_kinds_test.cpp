@@ -233,7 +233,7 @@ TEST_P(SetKindTest, theStoreNamesTheSetBeforeTheFirstFile) {
 }
 
 TEST_P(SetKindTest, withoutReadableColoursIsDeactivatedAndDeletedAndNotMade) {
-    for (const auto& [name, colours] : {std::pair(u"2-A"_s, u"0:x:0:0:0:0:0:0:0"_s), {u"3-B"_s, u"1:2"_s}}) {
+    for (const auto& [name, colours] : {std::pair(u"2-A"_s, u"x:0:0:0:0:0:0:0:0"_s), {u"3-B"_s, u"1:2"_s}}) {
         execute(u"UPDATE %1 = '%2'"_s.arg(kind.coloursIn, colours));
         install.user.messages.clear();
         remove(name, true);
