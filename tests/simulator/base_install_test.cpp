@@ -75,6 +75,7 @@ TEST_F(BaseInstall, aSourceThatCannotBeReadIsLeftOutAndAReadOnlyTargetReplaced) 
     EXPECT_FALSE(install.files.isReadOnly(texture));
     EXPECT_TRUE(install.user.told().isEmpty());
     EXPECT_EQ(install.user.calls.back(), "done 3 files installed, 1 left out");
+    EXPECT_TRUE(install.user.calls.contains("refresh frm_Main"));
 }
 
 TEST_F(BaseInstall, theGlobalTitlesLeaveDefaultAsTheOneInstalledSet) {
