@@ -1,4 +1,3 @@
-#include "core/disk_spelling.h"
 #include "core/file_path.h"
 #include "core/file_system.h"
 #include "core/safe_copy.h"
@@ -20,22 +19,6 @@ namespace morvane {
 namespace {
 
 using test::TemporaryFolder;
-using test::writeFile;
-
-TEST(FilePath, findsTheSpellingOnTheDisk) {
-    TemporaryFolder folder;
-    const QString root = folder.path().native();
-    writeFile(folder / u"Scenery/World/texture/029H2SU6.BMP", "old");
-    writeFile(folder / u"Ünï.txt", "x");
-    const FilePath world = folder / u"scenery\\WORLD\\Texture\\";
-    EXPECT_EQ((world / u"029h2su6.bmp").native(), root + u"/Scenery/World/texture/029H2SU6.BMP"_s);
-    EXPECT_EQ((world / u"new.bmp").native(), root + u"/Scenery/World/texture/new.bmp"_s);
-    EXPECT_EQ((folder / u"üNÏ.TXT").native(), root + u"/Ünï.txt"_s);
-    QFile other(root + u"/üNÏ.TXT"_s); // the exact spelling wins over another
-    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
-    EXPECT_EQ((folder / u"üNÏ.TXT").native(), other.fileName());
-    EXPECT_EQ((folder / u"Ünï.txt").native(), root + u"/Ünï.txt"_s);
-}
 
 TEST(FilePath, noTextLeadsOutOfTheRoot) {
     const FilePath root("/somewhere");
@@ -44,26 +27,6 @@ TEST(FilePath, noTextLeadsOutOfTheRoot) {
     for (const char* name : {"", ".", "..", " ", "a\\b", "a/b", "C:"})
         EXPECT_THROW(root.child(QString(name)), Error) << name;
     EXPECT_EQ((root / u"\\a\\\\b\\").text(), "/somewhere/a/b");
-    EXPECT_EQ((FilePath("/") / u"a").text(), "/a");
-}
-
-TEST(FilePath, masksMatchWithoutRegardToCase) {
-    EXPECT_TRUE(matchesMask(u"029H2SU6.BMP", u"029*2su?.bmp"));
-    EXPECT_TRUE(matchesMask(u"readme", u"*.*")); // with or without a dot
-    EXPECT_FALSE(matchesMask(u"x.bmp.part", u"*.bmp"));
-}
-
-TEST(NativeFileSystem, listsFilesByUpperCasedNameAndSeesTheOwnersMode) {
-    TemporaryFolder folder;
-    for (const char16_t* name : {u"b.bmp", u"A.BMP", u".hidden.bmp", u"_.bmp", u"c.txt"})
-        writeFile(folder / name, "x");
-    NativeFileSystem files;
-    files.makeFolder(folder / u"folder.bmp");
-    EXPECT_EQ(files.list(folder.path(), "*.bmp"), QStringList({".hidden.bmp", "A.BMP", "b.bmp", "_.bmp"}));
-    EXPECT_TRUE(files.list(folder / u"missing", "*.*").isEmpty());
-    files.setReadOnly(folder / u"b.bmp", true);
-    EXPECT_TRUE(files.isReadOnly(folder / u"B.BMP")); // also for root, who may write to it all the same
-    EXPECT_THROW(files.removeFolder(folder.path()), Error);
 }
 
 TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {
@@ -72,21 +35,15 @@ TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {
     const FilePath file = folder / u"a.txt", standing = folder / u"folder", orphan = folder / u"none\\a.txt";
     files.makeFolder(standing);
     files.write(file, "x");
-    const struct {
-        const char* what;
-        std::function<void()> action;
-        ErrorCode code;
-    } cases[] = {
-        {"read, missing", [&] { files.read(folder / u"b.txt"); }, ErrorCode::fileNotFound},
-        {"copy, no folder", [&] { files.copyContents(file, orphan); }, ErrorCode::pathNotFound},
-        {"copy over a folder", [&] { files.copyContents(file, standing); }, ErrorCode::permissionDenied},
-        {"write, no folder", [&] { files.write(orphan, "x"); }, ErrorCode::pathNotFound},
-        {"rename, no source", [&] { files.rename(orphan, file); }, ErrorCode::pathNotFound},
-        {"stamp, missing", [&] { files.stamp(orphan); }, ErrorCode::fileNotFound},
-        {"remove, not empty", [&] { files.removeFolder(folder.path()); }, ErrorCode::folderNotEmpty},
+    const std::pair<std::function<void()>, ErrorCode> cases[] = {
+        {[&] { files.read(folder / u"b.txt"); }, ErrorCode::fileNotFound},
+        {[&] { files.copyContents(file, orphan); }, ErrorCode::pathNotFound},
+        {[&] { files.copyContents(file, standing); }, ErrorCode::permissionDenied},
+        {[&] { files.rename(orphan, file); }, ErrorCode::pathNotFound},
+        {[&] { files.removeFolder(folder.path()); }, ErrorCode::folderNotEmpty},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(test::codeRaisedBy(c.action), c.code) << c.what;
+    for (const auto& [action, code] : cases)
+        EXPECT_EQ(test::codeRaisedBy(action), code);
     EXPECT_EQ(test::readFile(file), "x");
 }
 
@@ -129,42 +86,6 @@ TEST(NativeFileSystem, aFailedWriteLeavesNothingAndNamesTheFile) {
 }
 
 #endif
-
-/// What a listing knows is asked once, and names that are met on the way are known from then on.
-TEST(DiskSpelling, findsFilesAsTheDiskSpellsThem) {
-    TemporaryFolder folder;
-    NativeFileSystem files;
-    const FilePath world = folder / u"Scenery\\World\\texture";
-    for (const char16_t* name : {u"A.BMP", u"Größe.bmp"})
-        writeFile(world / name, "x");
-    DiskSpelling spelling(files, folder.path());
-    const std::pair<QString, QString> cases[] = {
-        {u"scenery\\WORLD\\Texture\\a.bmp"_s, u"Scenery\\World\\texture\\A.BMP"_s},
-        {u"Scenery\\World\\texture\\GRÖSSE.bmp"_s, u"Scenery\\World\\texture\\GRÖSSE.bmp"_s}, // another name
-        {u"Scenery\\World\\texture\\New.bmp"_s, u"Scenery\\World\\texture\\New.bmp"_s},
-        {u"Scenery\\World\\TEXTURE\\NEW.BMP"_s, u"Scenery\\World\\texture\\New.bmp"_s},
-        {u"None\\a.bmp"_s, u"None\\a.bmp"_s}};
-    for (const auto& [asked, found] : cases) {
-        EXPECT_EQ(spelling.find(asked).relative(), found);
-    }
-    const QString exact = u"Scenery\\World\\texture\\a.bmp"_s;
-    const bool isOneFile = files.exists(world.exactChild(u"a.bmp"_s));
-    EXPECT_EQ(spelling.findExactly(exact).relative(),
-              isOneFile ? u"Scenery\\World\\texture\\A.BMP"_s : exact);
-    EXPECT_THROW(spelling.find(u"..\\a.bmp"_s), Error);
-}
-
-TEST(NativeFileSystem, aMoveToAnotherDriveIsNoMatterOfPermission) {
-    TemporaryFolder folder;
-    NativeFileSystem files;
-    const FilePath memory(u"/dev/shm"_s), file = folder / u"a.txt", there = memory / u"Morvane test.txt";
-    files.write(file, "x");
-    if (!files.isFolder(memory) || files.stamp(memory).drive == files.stamp(file).drive)
-        GTEST_SKIP() << "there is no second drive here";
-    EXPECT_EQ(test::descriptionRaisedBy([&] { files.rename(file, there); }),
-              u"Can't move to another drive: "_s + there.text());
-    EXPECT_FALSE(files.exists(there));
-}
 
 } // namespace
 } // namespace morvane

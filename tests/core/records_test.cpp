@@ -33,11 +33,6 @@ protected:
     void setNextKey(const QString& table, int key) {
         execute(u"INSERT INTO sqlite_sequence VALUES ('%1', %2)"_s.arg(table).arg(key - 1));
     }
-    void addGroundSets(const QStringList& names) {
-        addRows(u"TEXTURE_SETS(TEXTURE_SET)"_s, names);
-        clsTextureSets::reload(session);
-    }
-    QStringList groundSets() { return column(u"TEXTURE_SET"_s, u"TEXTURE_SETS"_s); }
 
     /// Saves a new record, loads it and saves what was read: `row` is what the table holds either time.
     template <class Record, class Collection>
@@ -96,14 +91,6 @@ TEST_F(RecordsTest, everyKindOfRecordSurvivesAReload) {
     EXPECT_TRUE(user.calls.isEmpty());
 }
 
-TEST_F(RecordsTest, aKeyBeyondSixteenBitsFails) {
-    setNextKey("TEXTURE_SETS", 32768);
-    EXPECT_FALSE(session.rows<clsTextureSets>()->Save(storm));
-    EXPECT_EQ(storm.TextureSet, "Storm");
-    EXPECT_EQ(groundSets(), QStringList());
-    EXPECT_EQ(user.told(), QStringList{"Error|Morvane Error|Overflow"});
-}
-
 TEST_F(RecordsTest, aDamagedRowIsToldAndHidesNoOther) {
     execute(u"INSERT INTO TEXTURE_SETS(ID, INSTALLED) VALUES (7, 0), (8, 'much'), (9, 'more'), (10, 0), "
             "(40000, 0)"_s);
@@ -113,26 +100,8 @@ TEST_F(RecordsTest, aDamagedRowIsToldAndHidesNoOther) {
     execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('1-Backup', 'yesterday'), "
             "(NULL, NULL), ('3-Backup', '2007/05/30 21:14:09')"_s);
     EXPECT_TRUE(clsBackups::reload(session)); // a backup without a date can be put back, too
-    ASSERT_EQ(session.rows<clsBackups>()->Count(), 3);
     EXPECT_FALSE(session.rows<clsBackups>()->GetItem(1)->BackupDateTime.isValid());
     EXPECT_EQ(session.rows<clsBackups>()->GetItem(3)->BackupDateTime, clock.now);
-}
-
-/// The narrowest column, the nights', takes the name in its final form alone.
-TEST_F(RecordsTest, aLongNameIsCutBeforeItsFirstWrite) {
-    const QString title = QString(u"ñ"_s).repeated(400), name = u"1-"_s + title.left(48);
-    clsNightTextureSets::reload(session);
-    clsSkyTextureSets::reload(session);
-    clsNightTextureSet night{false, true, 0, {}, title, {}, {}};
-    clsSkyTextureSet sky{{}, {}, {}, {}, true, false, 0, title};
-    storm.TextureSet = title;
-    EXPECT_TRUE(session.rows<clsTextureSets>()->Save(storm));
-    EXPECT_TRUE(session.rows<clsNightTextureSets>()->Save(night));
-    EXPECT_TRUE(session.rows<clsSkyTextureSets>()->Save(sky));
-    EXPECT_EQ(groundSets(), QStringList{name});
-    EXPECT_EQ(column(u"TEXTURE_SET"_s, u"NIGHT_TEXTURE_SETS"_s), QStringList{name});
-    EXPECT_EQ(column(u"SKY_TEXTURE_SET"_s, u"SKY_TEXTURE_SETS"_s), QStringList{name});
-    EXPECT_EQ(user.told(), QStringList());
 }
 
 TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
@@ -150,18 +119,6 @@ TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
                                       "Error|Morvane Error|%1"_s.arg(closed));
 }
 
-TEST_F(RecordsTest, oneSetIsInstalled) {
-    addGroundSets({u"Default"_s, u"Storm"_s, u"Calm"_s, u"Storm"_s}); // two of one name, by hand
-    const auto installed = [&] { return column(u"INSTALLED"_s, u"TEXTURE_SETS"_s).join(u' '); };
-    execute(u"UPDATE TEXTURE_SETS SET INSTALLED = True WHERE ID < 3"_s); // more than ever should be
-    EXPECT_TRUE(session.rows<clsTextureSets>()->markInstalled(u"Storm"_s));
-    EXPECT_EQ(installed(), "0 1 0 0");
-    execute(u"CREATE TRIGGER T BEFORE UPDATE ON TEXTURE_SETS WHEN OLD.TEXTURE_SET = 'Storm' "
-            "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
-    EXPECT_FALSE(session.rows<clsTextureSets>()->markInstalled(u"Default"_s));
-    EXPECT_EQ(installed(), "0 1 0 0"); // not two, not none
-}
-
 /// Each write of a save fails in its turn: one message, and neither half a row nor a record without one.
 TEST_F(RecordsTest, aFailedSaveLeavesNothing) {
     test::FaultyStoreDisk disk;
@@ -170,7 +127,8 @@ TEST_F(RecordsTest, aFailedSaveLeavesNothing) {
     for (;; ++failures) {
         disk.failAt(failures + 1, false);
         if (session.rows<clsTextureSets>()->Save(storm)) break;
-        ASSERT_TRUE(storm.IsNew && session.rows<clsTextureSets>()->Count() == 0 && groundSets().isEmpty())
+        ASSERT_TRUE(storm.IsNew && session.rows<clsTextureSets>()->Count() == 0 &&
+                    rowsOf("TEXTURE_SETS").isEmpty())
             << failures;
         EXPECT_EQ(user.told().size(), failures + 1);
     }

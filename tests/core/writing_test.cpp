@@ -38,13 +38,10 @@ TEST_F(WritingTest, aSecondWriterIsToldWhoTheFirstIsAndBeginsNothing) {
         second.writing->wasRefused = false;
         user.messages.clear();
         EXPECT_FALSE(Job(second));
-        ASSERT_EQ(user.told().size(), 1);
-        EXPECT_TRUE(user.told()[0].contains(u" (process "_s +
-                                            QString::number(QCoreApplication::applicationPid()) + u')'))
-            << user.told()[0].toStdString();
+        const QString process = QString::number(QCoreApplication::applicationPid());
+        EXPECT_TRUE(user.told().value(0).contains(u" (process %1)"_s.arg(process)));
         EXPECT_EQ(user.messages.back().isProgress, isUnattended) << "which waits for no click";
-        EXPECT_FALSE(second.jobRunning);
-        EXPECT_TRUE(second.writing->wasRefused);
+        EXPECT_TRUE(second.writing->wasRefused && !second.jobRunning);
     }
     first.reset();
     EXPECT_FALSE(Job(second)) << "an unattended run that was refused once is over";
@@ -58,17 +55,6 @@ TEST_F(WritingTest, theWaitIsLeftByACancelAndByTheEndOfTheProgramWithoutAWord) {
     EXPECT_FALSE(Job(second));
     EXPECT_TRUE(user.told().isEmpty());
     EXPECT_FALSE(user.isMessageVisible() || user.answers().cancelRequested);
-}
-
-TEST_F(WritingTest, aJobWithQuestionsWritesBehindThemAndReportsWithoutTheLock) {
-    Job job(second, Job::Start::behindQuestions);
-    EXPECT_TRUE(job) << "it may ask while the other one writes";
-    EXPECT_FALSE(job.begin());
-    first.reset();
-    Job other(install.session);
-    EXPECT_TRUE(other);
-    other.end();
-    EXPECT_TRUE(Writing(second));
 }
 
 TEST_F(WritingTest, rowsThatAnotherProgramChangedAreReadAnew) {

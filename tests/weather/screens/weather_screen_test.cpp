@@ -1,9 +1,11 @@
 #include "support/printing.h"
 #include "support/window_program.h"
 #include "weather/directory_rows.h"
+#include "weather/report_filter.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/filter_choice.h"
 #include "weather/screens/link_label.h"
+#include "weather/screens/report_list.h"
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
@@ -26,7 +28,7 @@ struct WeatherScreenTest : testing::Test {
               u"-122.30"_s},
              {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41,98"_s,
               u"-87.9"_s},
-             {u"DIAP"_s, u"Abidjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
+             {u"DIAP"_s, u"Abïdjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
         test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
         test::addStation(session, u"DIAP"_s, 3, 5.26, -3.93);
         program.shell.goToPage(page);
@@ -56,32 +58,14 @@ struct WeatherScreenTest : testing::Test {
         Q_EMIT choice.activated(entry);
     }
     void type(const QString& name, const QString& text) { on<QLineEdit>(name).setText(text); }
-    void clickRow(int row) {
-        const QPoint place = list.visualRect(list.airports().index(row, 1)).center();
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
-    }
-    /// What the decoded report says in its first and last line; it is then closed by its key.
-    QStringList shownBy(const std::function<void()>& action) {
-        QStringList lines;
-        program.whenShown(u"frm_metar"_s, [&](DialogForm& form) {
-            for (const QString& label : {u"lblDecodedMetar_0"_s, u"lblDecodedMetar_10"_s})
-                lines << program.text(u"frm_metar"_s, label);
-            form.ok();
-        });
-        action();
-        return lines;
-    }
 
     test::WindowProgram program;
     Session& session = program.session;
     AirportList& list = on<AirportList>(u"lvwAirports"_s);
-    SkinnedButton& clearKey = on<SkinnedButton>(u"btn_ClearFilter"_s);
 };
 
-TEST_F(WeatherScreenTest, filterListsNarrowOneAfterTheOtherAndTheKeyClearsThem) {
+TEST_F(WeatherScreenTest, filterListsNarrowOneAfterTheOtherAndAHeadSortsByDegrees) {
     choose(u"cboCountry"_s, 2);
-    EXPECT_EQ(on<FilterChoice>(u"cboCountry"_s).value(), u"United States"_s) << "as it is stored";
-    EXPECT_EQ(entries(u"cboCity"_s), (QStringList{u"Any"_s, u"CHICAGO"_s, u"SEATTLE"_s}));
     choose(u"cboState"_s, 1);
     EXPECT_EQ(entries(u"cboCity"_s), (QStringList{u"Any"_s, u"CHICAGO"_s}));
     EXPECT_EQ(codes(), u"KORD"_s);
@@ -89,65 +73,69 @@ TEST_F(WeatherScreenTest, filterListsNarrowOneAfterTheOtherAndTheKeyClearsThem) 
     EXPECT_EQ(codes(), u"DIAP"_s) << "the lists behind it are at \"Any\" again";
     choose(u"cboCountry"_s, 0);
     EXPECT_EQ(entries(u"cboState"_s), (QStringList{u"Any"_s, u"ILLINOIS"_s, u"WASHINGTON"_s}));
-    choose(u"cboCity"_s, 1);
-    EXPECT_EQ(clearKey.state(), ButtonState::enabled);
-    program.press(page, u"btn_ClearFilter"_s);
-    EXPECT_EQ(on<FilterChoice>(u"cboCity"_s).value(), QString());
-    EXPECT_EQ(label(u"lblAirportCount"_s), u"3 Airports Found"_s);
-    EXPECT_EQ(clearKey.state(), ButtonState::disabled);
-}
-
-TEST_F(WeatherScreenTest, aClickOnAHeadSortsAndTurnsTheOrder) {
+    for (const auto& [text, found] :
+         {std::pair(u"o'h"_s, u"KORD"_s), {u" ABÏ"_s, u"DIAP"_s}, {u"n%b"_s, {}}}) {
+        type(u"txtAirportName"_s, text);
+        EXPECT_EQ(codes(), found) << text.toStdString();
+    }
     type(u"txtAirportName"_s, u"%"_s);
     list.setCurrentIndex(list.airports().index(0, 0));
-    ASSERT_EQ(list.currentIndex().data(), QVariant(u"DIAP"_s));
-    const auto clickHead = [this](int column) {
-        const QHeaderView& head = *list.header();
-        const QPoint place(head.sectionViewportPosition(column) + 8, head.height() / 2);
-        QTest::mouseClick(head.viewport(), Qt::LeftButton, {}, place);
-    };
-    clickHead(2);
-    EXPECT_EQ(codes(), u"DIAP KORD KBFI"_s) << "by city";
-    clickHead(5);
-    EXPECT_EQ(codes(), u"KBFI KORD DIAP"_s) << "by degrees, 5 behind 41";
+    const QHeaderView& head = *list.header();
+    QTest::mouseClick(head.viewport(), Qt::LeftButton, {},
+                      QPoint(head.sectionViewportPosition(5) + 8, head.height() / 2));
+    EXPECT_EQ(codes(), u"DIAP KORD KBFI"_s) << "5 before 41";
     EXPECT_EQ(list.currentIndex().data(), QVariant(u"DIAP"_s)) << "the row in hand goes along";
 }
 
 TEST_F(WeatherScreenTest, aChosenAirportShowsItsReportAndItsEndKeepsIt) {
     type(u"txtAirportName"_s, u"%"_s); // DIAP, KBFI, KORD by name
-    clickRow(0);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualRect(list.airports().index(0, 1)).center());
     on<QRadioButton>(u"optDestAirport"_s).click();
     on<QCheckBox>(u"chkNoWeatherReports"_s).click();
-    EXPECT_EQ(shownBy([this] { QTest::keyClick(&list, Qt::Key_Down); }),
-              (QStringList{u"ICAO Code: KBFI, City: SEATTLE, Airport Name: BOEING FIELD"_s,
-                           u"KBFI 010000Z 00000KT"_s}));
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return}) { // chosen, and shown once more
+        QString first, last;
+        program.whenShown(u"frm_metar"_s, [&](DialogForm& form) {
+            first = program.text(u"frm_metar"_s, u"lblDecodedMetar_0"_s);
+            last = program.text(u"frm_metar"_s, u"lblDecodedMetar_10"_s);
+            form.ok();
+        });
+        QTest::keyClick(&list, key);
+        EXPECT_EQ(first, u"ICAO Code: KBFI, City: SEATTLE, Airport Name: BOEING FIELD"_s);
+        EXPECT_EQ(last, u"KBFI 010000Z 00000KT"_s);
+    }
     EXPECT_EQ(label(u"lblDepMetar"_s), u"DIAP 010000Z 00000KT"_s);
     EXPECT_EQ(label(u"lblDestMetar"_s), u"KBFI 010000Z 00000KT"_s);
-    EXPECT_EQ(shownBy([this] { QTest::keyClick(&list, Qt::Key_Return); }).size(), 2) << "once more";
 }
 
-TEST_F(WeatherScreenTest, activeSkyIsTold) {
+TEST_F(WeatherScreenTest, theFinderFiltersAtEachKeyAndItsReportBecomesTheEndThatWasSet) {
+    const WeatherState& weather = session.state<WeatherState>();
+    program.whenShown(u"frm_WxFinder"_s, [&](DialogForm& dialog) {
+        const QAbstractItemModel& reports = *dialog.findChild<ReportList*>(u"lstMetar"_s)->model();
+        EXPECT_EQ(reports.rowCount(), 2);
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txtFilter"_s), u"d"_s);
+        EXPECT_EQ(reports.rowCount(), 1);
+        EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optAirport0"_s)->isChecked());
+        dialog.findChild<QRadioButton*>(u"optAirport1"_s)->click();
+        EXPECT_TRUE(weather.optDepAirport) << "the page's choice waits for OK";
+        dialog.ok();
+    });
+    showWxFinder(session);
+    EXPECT_TRUE(weather.optDestAirport && !weather.optDepAirport);
+    EXPECT_EQ(weather.DestIcao, u"DIAP"_s);
+}
+
+TEST_F(WeatherScreenTest, anImportOfActiveSkysFileThatIsDueIsOffered) {
     WeatherState& weather = session.state<WeatherState>();
     weather.ASv6ExportDate = QDateTime(QDate(2007, 6, 14), QTime(14, 7));
-    struct Case {
-        bool isPresent, isVersionOK, isImported;
-        QString link, time;
-        bool isLink; ///< there is something to fetch
-    };
-    const QString updated = u"ASv6 File Updated 2007/06/14 14:07:00"_s;
-    const Case cases[] = {
-        {false, false, false, u"Click here for ASv6 Information"_s, {}, true},
-        {true, true, false, u"ASv6 Detected and version supported"_s, {}, false},
-        {true, false, true, u"ASv6 Detected, update required, click to update ASv6"_s, updated, true}};
-    for (const Case& c : cases) {
-        weather.ASv6Present = c.isPresent;
-        weather.ASv6VersionOK = c.isVersionOK;
-        weather.ASv6Imported = c.isImported;
-        program.user.refreshScreen(Screen::frm_WxControl);
-        EXPECT_EQ(on<LinkLabel>(u"lblASv6Support"_s).text(), c.link);
-        EXPECT_EQ(on<LinkLabel>(u"lblASv6Support"_s).isEnabled(), c.isLink);
-        EXPECT_EQ(label(u"lblASv6FileTime"_s), c.time);
-    }
+    weather.ASv6Present = weather.ASv6Imported = true;
+    program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_EQ(on<LinkLabel>(u"lblASv6Support"_s).text(),
+              u"ASv6 Detected, update required, click to update ASv6"_s);
+    EXPECT_EQ(label(u"lblASv6FileTime"_s), u"ASv6 File Updated 2007/06/14 14:07:00"_s);
+    weather.ASv6VersionOK = true;
+    program.user.refreshScreen(Screen::frm_WxControl);
+    EXPECT_EQ(on<LinkLabel>(u"lblASv6Support"_s).text(), u"ASv6 Detected and version supported"_s);
 }
 
 } // namespace

@@ -1,0 +1,176 @@
+#include "app/command_line_run.h"
+#include "app/exit_flow.h"
+#include "app/start_up.h"
+#include "core/store.h"
+#include "core/store_connection.h"
+#include "ground/ground_installation.h"
+#include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
+#include "sets/options_in_force.h"
+#include "sky/sky_installation.h"
+#include "sky/sky_selection.h"
+#include "support/install_test.h"
+#include "weather/cover_choice.h"
+
+namespace morvane {
+namespace {
+
+using test::SmallInstall;
+using test::writeFile;
+
+/// A complete install whose first session is over; the tests start the next one.
+struct ApplicationTest : testing::Test {
+    SmallInstall install;
+    test::ScriptedUser& user = install.user;
+    Session session{{user, install.files, install.clock, install.random, install.registry}, install.home()};
+
+    void SetUp() override {
+        closeDatabase(install.session);
+        user.calls.clear();
+    }
+};
+
+TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
+    install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s,
+                                  install.simulator().native() + u'\\');
+    install.files.removeFolder(install.home() / u"Backup");
+    Store store;
+    store.open(install.home() / u"Morvane.mdb");
+    store.execute(u"UPDATE TEXTURE_SWITCH SET ISTROPICAL = TRUE, ISFASTEXIT = TRUE"_s);
+    store.close();
+    ASSERT_TRUE(startUp(session));
+    EXPECT_EQ(session.FSPath.native(), install.simulator().native());
+    EXPECT_TRUE(session.adoConn->isOpen() && install.files.isFolder(session.BackupPath));
+    const OptionsInForce& options = session.state<OptionsInForce>();
+    EXPECT_TRUE(options.IsTropical && options.IsFastExit && !options.IsDutch && !options.IsHalo);
+    EXPECT_TRUE(user.calls.isEmpty());
+}
+
+TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
+    install.files.remove(install.home() / u"registry.ini");
+    const QString right = install.simulator().native();
+    user.answersToGive = {false};
+    EXPECT_FALSE(startUp(session)) << "a No to another try is the end";
+    user.calls.clear();
+    user.foldersToChoose = {install.home().native(), {}, right}; // a wrong one, a cancelled browser
+    user.answersToGive = {true, true, false};                    // again, again, and no WideFS client
+    ASSERT_TRUE(startUp(session));
+    const QString firstBox =
+        "box Your registry does not contain the proper path to FS9.EXE. Please browse to your main "
+        "Flight Simulator 2004 folder (it needs to contain FS9.EXE).";
+    const QString retryBox =
+        "box The folder path you selected does not contain FS9.EXE. Please verify your FS2004 path and "
+        "try again. You can do this by right-clicking your shortcut to Flight Simulator, and select "
+        "Properties. You will see the folder listed. Would you like to try to locate the folder "
+        "again? If you select no, we will exit.";
+    EXPECT_EQ(user.calls.mid(0, 6), // the browser comes behind either
+              QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s}));
+    EXPECT_EQ(session.FSPath.native(), right);
+    EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
+}
+
+TEST_F(ApplicationTest, theCommandLineTakesTheCodesExactly) {
+    ASSERT_TRUE(startUp(session));
+    session.CommandLineRun = true;
+    user.otherwise = false;
+    for (const auto& [word, clouds] : {std::pair("CLR", QStringList{"1"}), {"OVC", {"5"}}, {"ovc", {}}}) {
+        session.state<FlightWeather>().WxCloudList = QStringList{u"1"_s, u"2"_s};
+        runCommandLine(session, word);
+        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, clouds) << word;
+        EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList(clouds.size(), QString()));
+    }
+    EXPECT_TRUE(user.messages.front().text.endsWith(u"obtained from Active Sky?"_s));
+}
+
+/// What cannot be removed does not keep the store open.
+TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
+    const struct {
+        QStringList names;
+        int failing; ///< of the file operations, and all behind it; the third comes behind the two listings
+        QStringList left;
+    } cases[] = {
+        {{"02Z.TXT", "Export_Cycle.dat", "noending"}, 0, {}},
+        {{"Export_Cycle.dat"}, 0, {"Export_Cycle.dat"}},
+        {{"02Z.TXT"}, 3, {"02Z.TXT", "Export_Cycle.dat"}},
+    };
+    for (const auto& [names, failing, left] : cases) {
+        ASSERT_TRUE(startUp(session));
+        for (const QString& name : names)
+            writeFile(install.home() / u"METAR" / name, "EHAM");
+        install.files.failAt(failing, true);
+        exitProgram(session);
+        install.files.failAt(0, false);
+        EXPECT_EQ(test::contentsBelow(install.home() / u"METAR").keys(), left);
+        EXPECT_EQ(session.adoConn, nullptr);
+        EXPECT_EQ(user.countOfKind(MessageKind::error), failing == 0 ? 0 : 1);
+    }
+}
+
+struct ExitQuestion : test::InstallTest {
+    void put(const QString& ground, const QString& sky = {}) {
+        session.state<GroundSelection>().SelectedGroundSet = ground;
+        GroundInstallation(session).installTextureSet(true);
+        session.state<SkySelection>().SelectedSkySet = sky;
+        if (!sky.isEmpty()) SkyInstallation(session).installSkySet(true);
+        install.user.messages.clear();
+        install.user.calls.clear();
+    }
+};
+
+TEST_F(ExitQuestion, namesWhatStandsThereAndResetsThatOnly) {
+    install.addGroundSet("2-Storm", "Overcast", true);
+    install.addSkySet("Default", "Partly Cloudy", true);
+    install.addSkySet("2-Calm", "Sky Clear", true);
+    const QString start = "Question|Reset MV Textures?|Morvane has detected that you have ";
+    const QString end =
+        " Texture Set installed. Please select the check button if you wish to reset Morvane textures "
+        "to a nominal weather condition of Partly Cloudy before exiting.";
+    const std::tuple<QString, QString, QString> cases[] = {
+        {"2-Storm", {}, "'Overcast' Ground"},
+        {"Default", "2-Calm", "'Sky Clear' Sky"},
+        {"2-Storm", "2-Calm", "'Overcast' Ground Texture Set installed and 'Sky Clear' Sky"}};
+    for (const auto& [ground, sky, text] : cases) {
+        put(ground, sky);
+        checkResetTextures(session);
+        EXPECT_EQ(install.user.told(), QStringList{start + text + end});
+        EXPECT_TRUE(install.user.messages.front().offersFastExit);
+        EXPECT_EQ(install.installedSets(), QStringList{"Default"});
+        EXPECT_EQ(install.installedSkySets(), QStringList(sky.isEmpty() ? 0 : 1, "Default"));
+        EXPECT_EQ(install.user.calls.filter("ground textures").isEmpty(), ground == "Default");
+        install.user.messages.clear();
+    }
+    checkResetTextures(session); // "Default" stands there
+    put("2-Storm");
+    session.state<OptionsInForce>().IsFastExit = true;
+    checkResetTextures(session);
+    session.state<OptionsInForce>().IsFastExit = false;
+    EXPECT_TRUE(install.user.told().isEmpty()) << "without need it is not asked";
+    install.user.otherwise = false;
+    checkResetTextures(session);
+    EXPECT_EQ(install.installedSets(), QStringList{"2-Storm"}) << "a No keeps the set";
+    session.CommandLineRun = true;
+    exitProgram(session);
+    EXPECT_EQ(install.user.told().size(), 1);
+}
+
+TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndResetsNothing) {
+    const QStringList files{"Texture\\a.bmp", "Texture\\b.bmp", "Texture\\c.bmp", "Texture\\d.bmp"};
+    install.addGroundSet("2-Storm", "Overcast", true, files);
+    session.state<OptionsInForce>().InhibitCustomSplash = true;
+    const auto placed = [this] {
+        return session.files.list(session.FSPath / u"Scenery\\World\\texture", u"?.bmp"_s);
+    };
+    install.user.onPump = [&] {
+        if (placed().size() == 2) session.ExitInProgress.moveTo(ExitStage::sessionEnd);
+    };
+    put("2-Storm");
+    EXPECT_EQ(placed(), QStringList({"a.bmp", "b.bmp"}));
+    exitProgram(session);
+    EXPECT_EQ(install.user.told(), QStringList{});
+    EXPECT_EQ(session.adoConn, nullptr);
+    connectDatabase(session);
+    EXPECT_EQ(install.installedSets(), QStringList({"2-Storm"}));
+}
+
+} // namespace
+} // namespace morvane

@@ -1,0 +1,129 @@
+#include "core/session.h"
+#include "simulator/set_matching.h"
+#include "support/install_test.h"
+#include "weather/cover_choice.h"
+#include "weather/flight_plan.h"
+#include "weather/stored_reports.h"
+#include "weather/weather_state.h"
+
+namespace morvane {
+namespace {
+
+struct CoverChoiceTest : test::InstallTest {
+    /// The ways that the user takes, one after another: the method, then whether its screen is confirmed. "0-
+    /// 2+" is a cancelled plan and a cover by hand.
+    void take(const QString& ways) {
+        install.user.onModal = [this, ways, shown = 0](Screen screen) mutable {
+            shownScreens << screenName(screen);
+            const QString way = ways.section(u' ', shown / 2, shown / 2);
+            if (shown++ % 2 == 0)
+                session.state<CoverChoice>().coverMethod = way.left(1).toShort();
+            else if ((session.state<CoverChoice>().coverConfirmed = way.endsWith(u'+')))
+                setCover(session, 5);
+        };
+    }
+
+    QStringList shownScreens;
+};
+
+TEST_F(CoverChoiceTest, reportsOfTheAirports) {
+    session.state<FlightWeather>().WxCloudList = QStringList{u"3"_s, u"4"_s};
+    EXPECT_EQ(takeCoverOfAirports(session), 0);
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList.size(), 2) << "nothing known: the cover stays";
+    session.state<WeatherState>().DepMetar = u" EHAM 241225Z 24015KT 9999 FEW030 18/09 Q1012 "_s;
+    EXPECT_EQ(takeCoverOfAirports(session), 2);
+    session.state<WeatherState>().DestMetar = u"EGLL 241220Z 24015KT 0100 VV001 18/18 Q1012"_s;
+    EXPECT_EQ(takeCoverOfAirports(session), 4);
+    session.state<WeatherState>().DepMetar.clear();
+    EXPECT_EQ(takeCoverOfAirports(session), 6);
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"6"_s});
+}
+
+TEST_F(CoverChoiceTest, aCancelledWayLeadsBackToTheChoice) {
+    take(u"0- 1- 3- 2+"_s);
+    selectCloudCoverMethod(session);
+    const QString choice = u"frm_Select_CC_Method"_s;
+    EXPECT_EQ(shownScreens, (QStringList{choice, u"frm_FlightPlan"_s, choice, u"frm_FromDepDestVal"_s, choice,
+                                         u"frm_CC_From_Metar_String"_s, choice, u"frm_CC_From_Option"_s}));
+    EXPECT_FALSE(session.state<FlightWeather>().CoverCancelled);
+}
+
+TEST_F(CoverChoiceTest, aCancelledChoiceEndsTheRoad) {
+    take(u"2- 4"_s);
+    EXPECT_EQ(flyNow(session).filesCopied, -1);
+    EXPECT_TRUE(install.user.told().isEmpty()) << "nothing is asked";
+    take(u"2+"_s);
+    EXPECT_GT(flyNow(session).filesCopied, 0) << "and the next road is free again";
+}
+
+QString joined(const Waypoint& waypoint) {
+    const auto& [name, type, latitude, longitude, airway, cloudClass] = waypoint;
+    return QStringList{name, type, latitude, longitude, airway}.join(u'|');
+}
+
+struct FlightPlanTest : test::InstallTest {
+    std::optional<FlightPlan> delivered(const QString& name) {
+        return readFlightPlan(session, FilePath(QStringLiteral(MORVANE_DATA_DIR "/plans/") + name));
+    }
+};
+
+TEST_F(FlightPlanTest, deliveredPlans) {
+    const std::tuple<QString, QString, QString, QString, int> cases[] = {
+        {u"TBPBEGCC06R.PLN"_s, u"Grantley Adams Intl>Manchester>41000"_s,
+         u"TBPB|Airport|N13* 04.48'|W059* 29.53'|"_s, u"EGCC|Airport|N53* 21.22'|W002* 16.50'|"_s, 11},
+        {u"c04_planner_form_south_west_kinds.pln"_s,
+         u"Guarulhos (São Paulo)>Ministro Pistarini (Ezeiza)>35000"_s,
+         u"SBGR|Airport|S23* 25.88'|W46* 28.20'|"_s, u"SAEZ|Airport|S34* 49.33'|W58* 32.15'|"_s, 5},
+    };
+    for (const auto& [file, heading, first, last, count] : cases) {
+        const auto plan = delivered(file);
+        ASSERT_TRUE(plan) << file.toStdString();
+        EXPECT_EQ(plan->departure + u'>' + plan->destination + u'>' + plan->altitude, heading);
+        ASSERT_EQ(plan->waypoints.size(), count);
+        EXPECT_EQ(joined(parseWaypoint(plan->waypoints.front())), first);
+        EXPECT_EQ(joined(parseWaypoint(plan->waypoints.back())), last);
+    }
+    EXPECT_TRUE(install.user.told().isEmpty());
+    EXPECT_FALSE(delivered(u"fsx IFR Vaasa to Arlanda.PLN"_s));
+    EXPECT_EQ(install.user.told(),
+              QStringList(u"Exclamation|FSX Flight Plan|FSX flight plan format is not supported by "
+                          "Morvane, please try another Flight Plan"_s));
+}
+
+TEST_F(FlightPlanTest, layoutsOfAWaypoint) {
+    const std::pair<QString, QString> cases[] = {
+        {u"YVR, V, N49* 4.63', W123* 8.94', +000017.00, J500"_s, u"YVR|VOR|N49* 4.63'|W123* 8.94'|J500"_s},
+        {u"ED, HAM, , HAM, V, N53* 41.14', E10* 12.30', +000187.00, Z10"_s,
+         u"HAM|VOR|N53* 41.14'|E10* 12.30'|Z10"_s},
+        {u"ED, n, N1* 2.0', E3* 4.0', 0,"_s, u"ED|NDB|N1* 2.0'|E3* 4.0'|"_s}, // a name of two letters
+        {u"USER, U, N1* 2.0'"_s, u"USER||N1* 2.0'||"_s},
+        {u"AB"_s, u"||||"_s},
+    };
+    for (const auto& [value, expected] : cases)
+        EXPECT_EQ(joined(parseWaypoint(value)), expected) << value.toStdString();
+}
+
+TEST_F(FlightPlanTest, weatherOfEachWaypoint) {
+    test::addStation(session, u"KSEA"_s, 2, 47.45, -122.31);
+    test::addStation(session, u"KPDX"_s, 5, 45.59, -122.60);
+    test::addStation(session, u"VVVV"_s, 6, -30, -51);
+    test::addStation(session, u"  "_s, 4); // a line that was no report
+    const auto weather = processFlightPlan(
+        session, {{},
+                  {},
+                  {},
+                  {u"ksea,A,,"_s, u"FIX, I, N45* 50.0', W122* 30.0',"_s, u"S, V, S30* 3.0', W51* 6.0'"_s,
+                   u", , , , A, N47* 0.0', W122* 0.0'"_s, u"BAD, I, Nx* 50.0', W122* 30.0'"_s,
+                   u"FAR, I, N1e300* 0.0', E999* 0.0'"_s, u"SHORT"_s}});
+    QStringList classes;
+    for (const Waypoint& waypoint : weather.waypoints)
+        classes << QString::number(waypoint.cloudClass);
+    EXPECT_EQ(classes.join(u' '), "2 5 6 2 0 0 0");
+    EXPECT_FLOAT_EQ(static_cast<float>(weather.average), (2 + 5 + 1 + 2 + 1 + 1 + 1) / 7.0F)
+        << "what is not known and what is obscured count as clear here";
+    EXPECT_EQ(processFlightPlan(session, {}).coverClass, 0) << "without waypoints there is no cover";
+    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"2"_s});
+}
+
+} // namespace
+} // namespace morvane
