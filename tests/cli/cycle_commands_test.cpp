@@ -13,6 +13,9 @@ using test::runConsole;
 
 TEST(CycleCommands, importAFileInEachForm) {
     test::ConsoleInstall install;
+    test::expectSteps(install, {{u"metar|import|missing.txt"_s, {}, 1},
+                                {u"metar|download"_s, {u"No weather server is set."_s}, 1}});
+    EXPECT_EQ(install.run(u"metar rows"_s).output, "");
     const QString sample = QStringLiteral(MORVANE_DATA_DIR "/metar/");
     const std::pair<QStringList, qsizetype> cases[] = {
         {{sample + "Export_Cycle.dat", "asv6"}, 250},
@@ -32,13 +35,6 @@ TEST(CycleCommands, importAFileInEachForm) {
     EXPECT_EQ(gusty->size(), 28) << "every column";
 }
 
-TEST(CycleCommands, tellWhatCannotBeHad) {
-    test::ConsoleInstall install;
-    test::expectSteps(install, {{u"metar|import|missing.txt"_s, {}, 1},
-                                {u"metar|download"_s, {u"No weather server is set."_s}, 1}});
-    EXPECT_EQ(install.run(u"metar rows"_s).output, "");
-}
-
 TEST(CycleCommands, anActiveSkyOutOfReachFailsThemAlone) {
     test::ConsoleInstall install;
     install.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey);
@@ -51,16 +47,6 @@ TEST(CycleCommands, anActiveSkyOutOfReachFailsThemAlone) {
         EXPECT_EQ(run.status, status) << command.toStdString();
         EXPECT_EQ(run.messages.count(u"Exclamation: Path not found"_s), status) << run.messages.toStdString();
     }
-}
-
-TEST(DecodeCommand, givesEveryPropertyByItsName) {
-    const auto run = runConsole(u"decode"_s, {}, "EHAM 241225Z 24015G28KT 9999 BKN030 18/M09 Q1012\n");
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.messages, QString());
-    EXPECT_EQ(run.objects().at(0).size(), 23);
-    for (const char* part : {"\"WindGusting\":true", "\"MetarMaxCloud\":4", "\"WindSpeed\":\"015\"",
-                             "\"MetarDewpoint\":\"Minus 09\""})
-        EXPECT_TRUE(run.output.contains(part)) << part;
 }
 
 TEST(DecodeCommand, answersEveryLineWhateverItsBytes) {
