@@ -2,7 +2,6 @@
 
 #include "core/literals.h"
 #include "imaging/pixel_patterns.h"
-#include "support/raised_error.h"
 #include "support/temporary_folder.h"
 
 #include <QImage>
@@ -36,15 +35,6 @@ TEST(PixelBuffer, SavesAPictureAsItStandsBehindTheHeaderOfItsOwnLayout) {
     EXPECT_EQ(QImage(file.native()).pixel(1, 0), qRgb(12, 11, 10));
     EXPECT_THROW(buffer.CreateFromPicture({2, 2, {1, 2, 3}}), Error);
     EXPECT_FALSE(buffer.isCreated());
-}
-
-TEST(PixelBuffer, TellsWhyASaveFailed) {
-    test::TemporaryFolder folder;
-    const cDIBSection buffer = test::createdBuffer(256, 256);
-    EXPECT_EQ(test::codeRaisedBy([&] { buffer.SavePicture(folder / u"missing" / u"saved.bmp"); }),
-              ErrorCode::cannotOpenForWriting);
-    EXPECT_FALSE(buffer.SavePicture(FilePath(u"/dev/full"_s)));
-    EXPECT_FALSE(cDIBSection().SavePicture(folder / u"empty.bmp"));
 }
 
 /// Rows stand bottom-up in the buffer, and not in the image.

@@ -1,13 +1,12 @@
 #include "imaging/recolouring.h"
 
+#include "imaging/channel_steps.h"
 #include "imaging/pixel_patterns.h"
 #include "imaging/pixel_recolouring.h"
-#include "support/raised_error.h"
 
 #include <QCryptographicHash>
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <limits>
 #include <random>
 
 namespace morvane {
@@ -106,30 +105,15 @@ TEST(Recolouring, WorksInPlaceAndIntoALargerBuffer) {
     }
 }
 
-TEST(Recolouring, RaisesForBuffersThatDoNotFit) {
-    const cDIBSection source = test::filledBuffer(8, 8, {1, 2, 3});
-    cDIBSection never, narrow = test::createdBuffer(4, 8), low = test::createdBuffer(8, 7);
-    const std::tuple<const cDIBSection&, cDIBSection&, ErrorCode> pairs[] = {
-        {source, never, ErrorCode::invalidCall},
-        {never, low, ErrorCode::invalidCall},
-        {source, narrow, ErrorCode::subscript},
-        {source, low, ErrorCode::subscript},
-    };
-    for (const float saturation : {0.0f, 37.0f, 250.0f})
-        for (const auto& [from, to, code] : pairs)
-            EXPECT_EQ(test::codeRaisedBy([&, &from = from, &to = to] { recolour({saturation}, from, to); }),
-                      code);
-}
-
-TEST(Recolouring, OverflowLeavesTheColumnsBeforeItWritten) {
-    cDIBSection source = test::filledBuffer(2, 2, {0, 0, 0});
-    test::setPixel(source, 1, 1, {255, 0, 0});
-    cDIBSection destination = test::filledBuffer(2, 2, {9, 9, 9});
-    for (const float red : {1e10f, std::numeric_limits<float>::quiet_NaN()})
-        EXPECT_EQ(test::codeRaisedBy([&] { recolour({0, red}, source, destination); }), ErrorCode::overflow);
-    EXPECT_EQ(test::pixelAt(destination, 0, 1), (RgbColour{0, 0, 0}));
-    EXPECT_EQ(test::pixelAt(destination, 1, 0), (RgbColour{0, 0, 0}));
-    EXPECT_EQ(test::pixelAt(destination, 1, 1), (RgbColour{9, 9, 9}));
+// The fast paths have room for no more.
+TEST(ChannelSteps, StayWithinTheirBoundsAtTheSlidersEnds) {
+    const auto dark = steppedChannels({0, 0, 0, 0, 0, 30}), bright = steppedChannels({0, 20, 20, 20, 30, 30});
+    EXPECT_EQ(*std::min_element(dark[0].begin(), dark[0].end()), lowestStepped);
+    EXPECT_EQ(*std::max_element(bright[2].begin(), bright[2].end()), highestStepped);
+    EXPECT_TRUE(isWithinSliders({-100, 20, -20, 20, 30, -30}));
+    for (const ColourValues& beyond :
+         {ColourValues{101}, {0, 20.5f}, {0, 0, -21}, {0, 0, 0, 21}, {0, 0, 0, 0, 31}, {0, 0, 0, 0, 0, -31}})
+        EXPECT_FALSE(isWithinSliders(beyond));
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "imaging/picture_reader.h"
 #include "night/night_generation.h"
+#include "night/night_samples.h"
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
+#include "night/night_tuning.h"
 #include "support/night_install.h"
 #include "support/printing.h"
 
@@ -19,9 +21,6 @@ struct NightActions : testing::Test {
         test::addNightStock(install);
         addNightSet(install, u"Default"_s, true);
     }
-    void click(const QString& name) { ASSERT_TRUE(clickNightRow(session, name)); }
-    void activate() { NightGeneration(session).activateInHand(); }
-    FilePath sets() { return install.home() / u"Night Texture Sets"; }
 
     test::SmallInstall install;
     Session& session = install.session;
@@ -29,15 +28,16 @@ struct NightActions : testing::Test {
 
 TEST_F(NightActions, activationMakesEveryFileInTheColoursOfTheSet) {
     addNightSet(install, u"2-Red"_s, false);
-    click(u"2-Red"_s);
-    activate();
+    const FilePath sets = install.home() / u"Night Texture Sets";
+    ASSERT_TRUE(clickNightRow(session, u"2-Red"_s));
+    NightGeneration(session).activateInHand();
     EXPECT_EQ(nightSets(session), u"Default+ 2-Red+"_s);
-    EXPECT_EQ(contentsBelow(sets()).keys().join(u' '),
+    EXPECT_EQ(contentsBelow(sets).keys().join(u' '),
               u"2-Red/Dutch/005a2lm2.bmp 2-Red/Dutch/008b2lm1.bmp 2-Red/Texture/008b2lm1.bmp "
               "2-Red/Texture/029b2lm1.bmp 2-Red/Texture/045b2lm1.bmp"_s);
     const Picture base =
         loadPicture(install.files, install.home() / u"Resources\\GENERIC WORLD NIGHT\\029b2lm1.bmp");
-    const Picture made = loadPicture(install.files, sets() / u"2-Red\\Texture\\029b2lm1.bmp");
+    const Picture made = loadPicture(install.files, sets / u"2-Red\\Texture\\029b2lm1.bmp");
     EXPECT_GT(made.rows[5], base.rows[5]) << "the set is redder"; // the second pixel, off the marks
     EXPECT_TRUE(install.user.told().isEmpty());
     const Message& first = install.user.messages.front();
@@ -48,6 +48,33 @@ TEST_F(NightActions, activationMakesEveryFileInTheColoursOfTheSet) {
     EXPECT_TRUE(install.user.calls.contains(u"hide frm_NightTextures"_s));
     EXPECT_EQ(install.user.calls.last(), u"show frm_NightTextures"_s);
     EXPECT_TRUE(session.state<NightSelection>().RefreshNightList);
+}
+
+TEST(NightTuning, randomValuesKeepTheirRanges) {
+    test::SmallInstall install;
+    NightTuning tuning(install.session);
+    const std::pair<double, SliderValues> cases[] = {{0, {-30, -10, 0, -5, -25, -35}},
+                                                     {0.9999, {69, 29, 44, 49, 64, 44}}};
+    for (const auto& [fraction, expected] : cases) {
+        install.random.numbers = {fraction};
+        EXPECT_EQ(tuning.randomValues(), expected) << fraction;
+    }
+}
+
+/// "Green Lights" are blue: the captions do not tell the colours of all rows.
+TEST(NightTuning, lightsAndSamplesStandWhereTheyAlwaysStood) {
+    QString rows;
+    for (const LightsBias& bias : lightsBiases()) {
+        rows += bias.caption;
+        for (const int value : bias.sliders)
+            rows += u' ' + QString::number(value);
+    }
+    EXPECT_EQ(qChecksum(rows.toUtf8()), 24965) << rows.toStdString();
+    QString files;
+    for (const SampleChoice& sample : nightSamples())
+        files += nightSampleTexture({}, sample.key).relative();
+    EXPECT_EQ(qChecksum(files.toUtf8()), 25114) << files.toStdString();
+    EXPECT_TRUE(nightSampleTexture({}, u"ocean"_s).isEmpty());
 }
 
 } // namespace

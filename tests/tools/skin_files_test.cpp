@@ -81,12 +81,6 @@ TEST_F(SkinFiles, everyStateOfAKeyLooksDifferent) {
     }
 }
 
-// Wanted: two names are misspelt, as the program asks for them.
-TEST_F(SkinFiles, misspeltNamesShowTheExclamation) {
-    for (const QStringView name : {u"icon_Exlamation.bmp", u"icon_Exclamtion.bmp"})
-        EXPECT_EQ(imageOf(name), imageOf(u"icon_Exclamation.bmp"));
-}
-
 TEST_F(SkinFiles, regionsAreThoseOfTheirPictures) {
     const QStringView pairs[][2] = {{u"MainRegion.dat", u"MVMainInterface.bmp"},
                                     {u"MainRegion.dat", u"MVSkyInterface.bmp"},

@@ -7,6 +7,7 @@
 #include "night/night_sets.h"
 #include "sets/catalogue_file.h"
 #include "support/printing.h"
+#include "support/small_install.h"
 
 #include <cmath>
 
@@ -75,6 +76,16 @@ TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
     for (const QString& pattern : tropicalPatterns(TropicalForm::b))
         for (const QString& name : files.list(home() / u"GENERIC WORLD", pattern + u"*"_s))
             EXPECT_TRUE(files.exists(world.child(tropicalName(name).toUpper()))) << name.toStdString();
+}
+
+TEST_F(StockFiles, deliveredFlightsAndSkiesStandTwice) {
+    const std::tuple<FilePath, FilePath, int> copies[] = {
+        {home() / u"Resources\\Sky\\Default", home() / u"Sky Texture Sets\\Default", 24},
+        {home() / u"Flights", simulator() / u"Flights\\Morvane", 6}};
+    for (const auto& [one, other, count] : copies) {
+        EXPECT_EQ(test::contentsBelow(one).size(), count);
+        EXPECT_TRUE(test::contentsBelow(one) == test::contentsBelow(other)) << one.text().toStdString();
+    }
 }
 
 TEST_F(StockCatalogue, deliveredNightSetsHaveTheirFiles) {

@@ -45,22 +45,6 @@ TEST_F(FootLineTest, theNextClickOrKeyAnywhereTakesALineAway) {
     }
 }
 
-/// A page's own line waits behind what a job said, and may change meanwhile.
-TEST_F(FootLineTest, aStandingTextComesBack) {
-    line->setStanding({u"611 reports"_s});
-    EXPECT_EQ(line->shown().sign, FootSign::cloud);
-    for (const bool hasLeftOut : {false, true}) {
-        line->tellDone({u"done"_s, {}, hasLeftOut});
-        EXPECT_EQ(line->shown().sign, hasLeftOut ? FootSign::warning : FootSign::tick);
-        line->setStanding({u"612 reports"_s});
-        EXPECT_EQ(text(), u"done"_s);
-        QTest::keyPress(&elsewhere, Qt::Key_Escape);
-        EXPECT_EQ(text(), u"612 reports"_s);
-    }
-    line->setStanding({});
-    EXPECT_FALSE(line->isVisible());
-}
-
 TEST_F(FootLineTest, aLongTextIsCutAndItsTipHasTheWhole) {
     const QString whole = u"files put back, "_s.repeated(20);
     line->tellDone({whole, u"since 21 Nov 2026, 23:47"_s});

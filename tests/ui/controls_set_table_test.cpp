@@ -1,9 +1,7 @@
 #include "core/literals.h"
 #include "support/printing.h"
-#include "ui/controls/paper_style.h"
 #include "ui/controls/set_table.h"
 
-#include <QHeaderView>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -27,10 +25,6 @@ protected:
     }
     void click(int row, Qt::KeyboardModifiers keys = {}) {
         QTest::mouseClick(table.viewport(), Qt::LeftButton, keys, cell(row).topLeft() + QPoint(60, 10));
-    }
-    void clickHead(int column) {
-        QTest::mouseClick(table.header()->viewport(), Qt::LeftButton, {},
-                          QPoint(table.columnViewportPosition(column) + 20, 11));
     }
 
     SetTable table;
@@ -70,22 +64,6 @@ TEST_F(SetTableTest, aDragOverRowsTellsOfTheOneItEndsOn) {
     EXPECT_EQ(clicked, QStringList{u"Key:3"_s});
 }
 
-TEST_F(SetTableTest, everyClickOnAHeadTurnsTheOrderRound) {
-    table.selectRow(2);
-    const std::pair<int, QStringList> clicks[] = {{0, {u"alto"_s, u"Banks"_s, u"cirrus"_s}},
-                                                  {0, {u"cirrus"_s, u"Banks"_s, u"alto"_s}},
-                                                  {1, {u"alto"_s, u"cirrus"_s, u"Banks"_s}},
-                                                  {0, {u"cirrus"_s, u"Banks"_s, u"alto"_s}}};
-    for (const auto& [column, names] : clicks) {
-        clickHead(column);
-        for (int row = 1; row <= 3; ++row)
-            EXPECT_EQ(table.textOf(row, 0), names[row - 1]);
-        EXPECT_EQ(table.selectedNames(), QStringList{u"alto"_s}) << "the selection goes along";
-    }
-    EXPECT_EQ(table.keyOf(3), u"Key:2"_s) << "rows are numbered as shown";
-    EXPECT_EQ(takeClicked(), QStringList());
-}
-
 /// With a key held rows are being picked, and on a box each click ticks.
 TEST_F(SetTableTest, aDoubleClickTellsOfARowAndNotOfItsBox) {
     int told = 0;
@@ -104,16 +82,6 @@ TEST_F(SetTableTest, aDoubleClickTellsOfARowAndNotOfItsBox) {
         QTest::mouseRelease(table.viewport(), Qt::LeftButton, key, place);
         EXPECT_EQ(told, expected) << place.x() << ' ' << key;
     }
-}
-
-// Wanted: the stored colours are too faint on white, so they are kept and
-// others are painted.
-TEST_F(SetTableTest, storedRedAndBluePaintAsTheDesignsOwn) {
-    EXPECT_EQ(paintedColour(qRgb(0, 0, 255)), qRgb(0, 101, 161));
-    EXPECT_EQ(paintedColour(qRgb(254, 0, 0)), qRgb(254, 0, 0));
-    EXPECT_EQ(table.storedColour(2), qRgb(255, 0, 0));
-    EXPECT_EQ(table.topLevelItem(1)->foreground(2).color(), QColor(200, 0, 0));
-    EXPECT_EQ(table.topLevelItem(1)->toolTip(0), u"a tip"_s);
 }
 
 } // namespace

@@ -45,15 +45,6 @@ TEST_F(SliderTest, theWheelMovesItByOneStepANotch) {
     EXPECT_EQ(turn(600), 100) << "and no further";
 }
 
-TEST_F(SliderTest, clickOnTheRailCentresTheThumbAndMovesTheValueAtOnce) {
-    press({77, 10});
-    EXPECT_EQ(slider.value(), 61); // (77 - 5.5) / 89 of 200, less 100, is 60.67
-    EXPECT_NEAR(slider.thumbPlace().center().x(), 77, 0.25) << "at the step next to the pointer";
-    release({77, 10});
-    QTest::mousePress(&slider, Qt::RightButton, {}, QPoint(10, 10));
-    EXPECT_EQ(slider.value(), 61);
-}
-
 TEST_F(SliderTest, dragKeepsTheGrabbedPointAndStopsAtTheEnds) {
     press({48, 10}); // inside the thumb of 44.5 to 55.5
     EXPECT_EQ(slider.value(), 0) << "grabbing the thumb moves nothing";

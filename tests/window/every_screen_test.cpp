@@ -162,18 +162,6 @@ TEST_F(EveryScreen, hasRoomForEachText) {
     EXPECT_GT(texts, 100);
 }
 
-TEST_F(EveryScreen, keepsItsControlsOffTheFootOfADialogsPaper) {
-    constexpr int bandOfKeys = 70, margin = 4;
-    for (const QString& name : formNames()) {
-        const auto* dialog = qobject_cast<DialogForm*>(program.shell.form(name));
-        if (!dialog) continue;
-        const int foot = dialog->height() - bandOfKeys;
-        for (const auto* widget : dialog->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-            EXPECT_TRUE(widget->y() >= foot || widget->geometry().bottom() < foot - margin)
-                << (name + u'.' + widget->objectName()).toStdString();
-    }
-}
-
 TEST_F(EveryScreen, hasRoomForTheLongestMessage) {
     const QString text = u"Morvane has detected that you have 'Mostly Cloudy' Ground Texture Set installed "
                          "and 'Mostly Cloudy' Sky Texture Set installed. Please select the check button if "

@@ -58,23 +58,6 @@ TEST_F(MessageScreenTest, answersThroughTheFirstQuestionThatIsAsked) {
     EXPECT_FALSE(answers.flag(Question::weatherChoice)) << "this flag says cancelled";
 }
 
-TEST_F(MessageScreenTest, closingSaysOkWhereOnlyOkShows) {
-    answers.mark(Question::launch);
-    for (const bool isQuestion : {true, false}) {
-        program.whenShown(name, [](DialogForm& dialog) { dialog.close(); });
-        program.user.showMessage(isQuestion ? question : plain);
-        EXPECT_EQ(answers.flag(Question::launch), !isQuestion);
-    }
-}
-
-TEST_F(MessageScreenTest, showsMarkUpAsItReads) {
-    program.whenShown(name, [&](DialogForm& dialog) {
-        EXPECT_EQ(control<QLabel>(u"lbl_Message"_s).textFormat(), Qt::PlainText);
-        dialog.ok();
-    });
-    program.user.showMessage({MessageKind::error, u"<b>12-Storm</b>"_s, u"<i>x</i>"_s});
-}
-
 TEST_F(MessageScreenTest, asksBeforeItCancelsAndOnlyWhereThatIsOffered) {
     Job job(program.session);
     program.user.showMessage(progress);

@@ -47,21 +47,6 @@ struct GroundSetsScreenTest : testing::Test {
     static constexpr auto alive = ButtonState::enabled, dead = ButtonState::disabled;
 };
 
-/// The asymmetry is wanted: after the list was built anew a set can be deactivated only once it was clicked.
-TEST_F(GroundSetsScreenTest, onlyAClickOffersDeactivation) {
-    open();
-    EXPECT_EQ(keyStates(), (std::vector{alive, alive, dead, alive})) << "Default, selected by the page";
-    clickRow(2);
-    EXPECT_EQ(keyStates(), (std::vector{alive, alive, ButtonState::deactivate, alive}));
-    EXPECT_EQ(key(u"btn_TextureActivate"_s).ButtonText(), u"Deactivate"_s);
-    clickRow(3);
-    EXPECT_EQ(keyStates(), (std::vector{alive, alive, alive, dead}));
-    EXPECT_EQ(selection.SelectedGroundCover, u"Sky Clear"_s);
-    screen->selectSetRow(2);
-    EXPECT_EQ(keyStates(), (std::vector{alive, alive, dead, alive}));
-    EXPECT_EQ(selection.SelectedGroundSet, u"2-Storm"_s);
-}
-
 TEST_F(GroundSetsScreenTest, aDoubleClickInstallsWhatHasFilesAndActivatesWhatHasNone) {
     open();
     // The matching sky, the start of the simulator, and that folders are missing.
@@ -115,15 +100,6 @@ TEST_F(GroundSetsScreenTest, anEmptyTableLeavesOnlyCreate) {
     EXPECT_EQ(keyStates(), (std::vector{dead, alive, dead, dead}));
     EXPECT_EQ(description(), QString());
     EXPECT_FALSE(picture(u"picTextureSetSource"_s).isNull());
-}
-
-TEST_F(GroundSetsScreenTest, aMissingSampleIsToldAndLeavesTheListUsable) {
-    program.install.files.remove(program.install.home() / u"Resources\\GENERIC WORLD\\029h2su6.bmp");
-    EXPECT_EQ(program.toldDuring([this] { open(); }).size(), 1);
-    EXPECT_TRUE(picture(u"picTextureSetSource"_s).isNull());
-    program.confirmNext(u"frm_Msg"_s);
-    clickRow(2);
-    EXPECT_EQ(keyStates()[2], ButtonState::deactivate);
 }
 
 /// Each click shows one message, and the keys are never those of the row before.

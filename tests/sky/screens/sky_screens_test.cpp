@@ -96,15 +96,6 @@ TEST_F(SkySetsScreenTest, theClickedRowIsInHandAndTheTickedOnesAreSeveral) {
     EXPECT_EQ(list->selectedNames(), QStringList{u"3-Calm"_s}) << "and is the only row in hand";
 }
 
-TEST_F(SkySetsScreenTest, hasRoomForTheLongestDescription) {
-    open();
-    const auto& label = program.control<QLabel>(hostName, u"lblSkyTSDescription"_s);
-    const QString longest = u"a grey sky with a warm strip above hills "_s.repeated(7).left(255);
-    const QRect room(0, 0, label.width(), 1000);
-    EXPECT_LE(QFontMetrics(label.font()).boundingRect(room, Qt::TextWordWrap, longest).height(),
-              label.height());
-}
-
 // The colour page -------------------------------------------------------------------------------------------
 
 struct SkyColourScreenTest : testing::Test {
@@ -132,9 +123,6 @@ struct SkyColourScreenTest : testing::Test {
     }
     QImage source() { return program.picture(pageName, u"picSkySource"_s); }
     bool isChanged() { return source() != program.picture(pageName, u"picSkyResult"_s); }
-    QRadioButton& cover(int index) {
-        return program.control<QRadioButton>(pageName, u"optCloudCover%1"_s.arg(index));
-    }
 
     test::WindowProgram program;
     const SkyTuningState& tuning = program.session.state<SkyTuningState>();
@@ -187,7 +175,10 @@ TEST_F(SkyColourScreenTest, slidersWriteTheGroupInHandAndNoOther) {
     press(u"cmdSkyResetAll"_s);
     EXPECT_EQ(record(10).red, -35);
     clickPalette(120, 120);
-    EXPECT_EQ(label(u"lblSkyRed"_s), u"-35%"_s);
+    program.press(hostName, u"btn_TextureSets"_s);
+    program.press(hostName, u"btn_Ground"_s);
+    EXPECT_EQ(label(u"lblSkyRed"_s), u"-35%"_s) << "the state is loaded once";
+    EXPECT_EQ(label(u"lblSkyPixelSelected"_s), skyGroup(10).text);
 }
 
 TEST_F(SkyColourScreenTest, aDrawnZeroIsNoDefault) {
@@ -201,24 +192,6 @@ TEST_F(SkyColourScreenTest, aDrawnZeroIsNoDefault) {
     program.press(pageName, u"btn_SkyRandomize"_s);
     EXPECT_EQ(label(u"lblSkyBright"_s), u"100%"_s) << "a clear sky";
     EXPECT_EQ(record(1).brightness, 100);
-}
-
-TEST_F(SkyColourScreenTest, theStateIsLoadedOnce) {
-    test::writeFile(program.install.home() / u"LastSkySettings.cfg",
-                    "[Cloud Cover]\n1=Mostly Cloudy\n[Texture Set Group]\n1=Sunny\n[Red]\n1=15\n10=40\n"
-                    "[PixelXLow]\n10=1\n[PixelXHigh]\n10=32\n[PixelY]\n10=255\n");
-    open();
-    EXPECT_TRUE(cover(3).isChecked());
-    EXPECT_EQ(label(u"lblSkyRed"_s), u"15%"_s);
-    EXPECT_TRUE(isChanged()) << "all groups of the file apply at once";
-    clickPalette(120, 120);
-    slider(u"vcSkyRed"_s).setValue(-20);
-    cover(0).click();
-    program.press(hostName, u"btn_TextureSets"_s);
-    program.press(hostName, u"btn_Ground"_s);
-    EXPECT_EQ(label(u"lblSkyRed"_s), u"-20%"_s);
-    EXPECT_EQ(label(u"lblSkyPixelSelected"_s), skyGroup(10).text);
-    EXPECT_EQ(tuning.cloudIndex, 1);
 }
 
 /// It is in force at its click and shown by OK, some even after a cancel: wanted.
