@@ -1,13 +1,6 @@
 #include "cli/console.h"
 
-#include "core/store_connection.h"
-#include "ground/ground_sets.h"
-#include "sky/sky_sets.h"
-#include "support/set_states.h"
-
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <csignal>
 #include <gtest/gtest.h>
@@ -17,16 +10,6 @@ namespace morvane::test {
 namespace {
 
 constexpr int watchdogMilliseconds = 60000;
-
-/// The system's list of the signals that a process catches has one bit for each.
-bool catchesInterrupts(qint64 process) {
-    QFile status(u"/proc/%1/status"_s.arg(process));
-    if (!status.open(QIODevice::ReadOnly)) return false;
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("SigCgt:"))
-            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGINT - 1) & 1) != 0;
-    return false;
-}
 
 QStringList wordsOf(const QString& commandLine) {
     return commandLine.split(u' ', Qt::SkipEmptyParts);
@@ -77,13 +60,6 @@ void Console::kill() {
     process_.waitForFinished(watchdogMilliseconds);
 }
 
-bool Console::waitUntilInterruptsAre(bool caught) {
-    const QDeadlineTimer watchdog(watchdogMilliseconds);
-    while (catchesInterrupts(process_.processId()) != caught)
-        if (watchdog.hasExpired()) return false;
-    return true;
-}
-
 ConsoleRun Console::finish(const QByteArray& input) {
     process_.write(input);
     process_.closeWriteChannel();
@@ -119,21 +95,9 @@ void ConsoleInstall::addSet(const QString& name, const QString& cover, bool acti
     withStore([&](Session&) { addGroundSet(name, cover, activated, names); });
 }
 
-QString ConsoleInstall::sets() {
-    QString names;
-    withStore([&](Session&) { names = setStates<GroundKind>(session); });
-    return names;
-}
-
 void ConsoleInstall::addSky(const QString& name, const QString& cover, bool activated,
                             const QStringList& names) {
     withStore([&](Session&) { addSkySet(name, cover, activated, names); });
-}
-
-QString ConsoleInstall::skies() {
-    QString names;
-    withStore([&](Session&) { names = setStates<SkyKind>(session); });
-    return names;
 }
 
 QStringList ConsoleInstall::setFolders() const {

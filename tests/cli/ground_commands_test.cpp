@@ -22,14 +22,9 @@ struct GroundCommands : testing::Test {
     void addNight(const QString& name, bool activated) {
         install.withStore([&](Session&) { test::addNightSet(install, name, activated); });
     }
-    QString nights() {
-        QString names;
-        install.withStore([&](Session& session) { names = test::nightSets(session); });
-        return names;
-    }
     void expectNights(const QString& words, const QString& nightsAfterwards) {
         test::expectSteps(install, {{words}});
-        EXPECT_EQ(nights(), nightsAfterwards) << words.toStdString();
+        EXPECT_EQ(install.nights(), nightsAfterwards) << words.toStdString();
     }
 };
 
@@ -100,7 +95,7 @@ TEST_F(GroundCommands, refusalsOfEveryKindOfSetAreToldAndChangeNothing) {
         EXPECT_TRUE(contentsBelow(install.folder.path()) == before) << kind.toStdString();
     }
     EXPECT_EQ(install.run("sky show Fog").status, 1);
-    EXPECT_EQ(install.sets() + '|' + nights() + '|' + install.skies(),
+    EXPECT_EQ(install.sets() + '|' + install.nights() + '|' + install.skies(),
               "Default+ 2-Störm+* 3-Calm|Default+ 2-Störm+* 3-Calm|Default+ 2-Störm+* 3-Calm");
 }
 

@@ -68,14 +68,5 @@ TEST(Interrupt, atAQuestionEndsTheRoad) {
     EXPECT_EQ(install.sets(), u"Default+ 2-Storm+"_s);
 }
 
-TEST(Interrupt, aSecondOneKills) {
-    Console console({u"decode"_s}); // waits for its input
-    for (const bool caught : {true, false}) {
-        ASSERT_TRUE(console.waitUntilInterruptsAre(caught));
-        console.interrupt();
-    }
-    EXPECT_EQ(console.finish().status, -1);
-}
-
 } // namespace
 } // namespace morvane

@@ -1,5 +1,6 @@
 #include "imaging/pixel_buffer.h"
 
+#include "core/error.h"
 #include "core/literals.h"
 #include "imaging/pixel_patterns.h"
 #include "support/temporary_folder.h"

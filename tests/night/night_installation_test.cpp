@@ -92,7 +92,9 @@ TEST_F(NightInstall, showsOneMessageAsksNothingAndStartsNothing) {
     EXPECT_EQ(install.user.messages[0].text,
               "Processing your Night Texture Files.  Please wait until the process has finished.  This may "
               "take a few moments!");
-    EXPECT_EQ(install.user.calls.join(u'|'), "");
+    EXPECT_EQ(install.user.calls.join(u'|'),
+              "message Progress Morvane Information|progress 25|progress 50|progress 100|hide message|"
+              "refresh frm_Main|refresh frm_NightTextures");
     EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash");
 }
 

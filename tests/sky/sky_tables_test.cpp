@@ -51,7 +51,7 @@ TEST(PaletteMap, everyCellWithItsEndsAndTheGapBehindIt) {
                                                   {42, 3}, {240, 3}, {120, 228}, {60, 237}, {3, 12}};
     for (const auto& [x, y] : groups)
         tips += SkyTuning::tipAt(x, y).value_or(u""_s).toUtf8();
-    EXPECT_EQ(qChecksum(tips), 0)
+    EXPECT_EQ(qChecksum(tips), 25376)
         << "the tip of dark water speaks of light water, and one has a slip: wanted";
 }
 

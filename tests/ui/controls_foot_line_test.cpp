@@ -1,10 +1,12 @@
 #include "core/literals.h"
 #include "support/printing.h"
 #include "ui/controls/foot_line.h"
+#include "ui/controls/wrapped_tip.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QToolTip>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -54,6 +56,20 @@ TEST_F(FootLineTest, aLongTextIsCutAndItsTipHasTheWhole) {
     EXPECT_LE(label(u"lblFootText"_s).geometry().right(), label(u"lblFootRemark"_s).geometry().left());
     line->tellDone({u"short"_s});
     EXPECT_EQ(line->toolTip(), QString());
+}
+
+TEST(WrappedTip, linesAreNoWiderThanAskedAndKeepEveryWord) {
+    const QString words = u"Click to install selected texture set. "_s.repeated(8).trimmed();
+    for (const QString& text : {words, u"Documents"_s.repeated(30)}) {
+        const QString wrapped = wrappedTip(text);
+        EXPECT_GT(wrapped.count(u'\n'), 1);
+        for (const QString& line : wrapped.split(u'\n'))
+            EXPECT_LE(QFontMetrics(QToolTip::font()).horizontalAdvance(line), 400);
+        EXPECT_EQ(QString(wrapped).replace(u'\n', u' ').remove(u' '), QString(text).remove(u' '));
+    }
+    for (const QString& text : {u"Back"_s, u"one\n\ntwo"_s, QString()})
+        EXPECT_EQ(wrappedTip(text), text);
+    EXPECT_FALSE(wrappedTip(u"<b>Dusk</b>"_s).contains(u"<b>"_s)) << "a set's name is no mark-up";
 }
 
 } // namespace

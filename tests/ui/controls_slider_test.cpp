@@ -60,16 +60,5 @@ TEST_F(SliderTest, dragKeepsTheGrabbedPointAndStopsAtTheEnds) {
     EXPECT_EQ(slider.value(), -100) << "the drag is over";
 }
 
-TEST_F(SliderTest, keysMoveTheValueWithinItsLimits) {
-    const std::pair<Qt::Key, int> cases[] = {
-        {Qt::Key_Right, 1},     {Qt::Key_Up, 2},      {Qt::Key_Left, 1},    {Qt::Key_PageUp, 6},
-        {Qt::Key_PageDown, 1},  {Qt::Key_End, 100},   {Qt::Key_Up, 100},    {Qt::Key_PageUp, 100},
-        {Qt::Key_PageDown, 95}, {Qt::Key_Home, -100}, {Qt::Key_Down, -100}, {Qt::Key_A, -100}};
-    for (const auto& [key, value] : cases) {
-        QTest::keyClick(&slider, key);
-        EXPECT_EQ(slider.value(), value) << key;
-    }
-}
-
 } // namespace
 } // namespace morvane

@@ -69,8 +69,6 @@ std::vector<WalkScreen> mainScreens() {
         {"base_install", u"frm_Config"_s, page(u"frm_Config"_s), false,
          mainWindowRows(u"btn_Config"_s) +
              std::vector<WalkRow>{{u"lstMVMain"_s, label(u"lblMVDescription"_s, u"About Golf"_s)},
-                                  {u"lstMVMain|tick"_s, itself()},
-                                  {u"lstMVMain|head"_s, itself()},
                                   {u"cmdUseSimulator"_s, shows(u"message Use My Simulator's Textures"_s)},
                                   {u"btn_MVInstall"_s, shows(u"message No Options Selected"_s)},
                                   {u"btn_backup"_s, shows(u"message Create New Backup?"_s)},

@@ -50,8 +50,7 @@ std::vector<WalkScreen> messageScreens() {
     const auto gone = [](Session&) { return true; };
     return {
         {"question", u"frm_Msg"_s, question(false), true, answerRows(hasSaidYes)},
-        {"exit_question", u"frm_Msg"_s, question(true), true,
-         answerRows(hasSaidYes) + std::vector<WalkRow>{{u"chkFastExit"_s, itself()}}},
+        {"exit_question", u"frm_Msg"_s, question(true), true, answerRows(hasSaidYes)},
         {"information",
          u"frm_Msg"_s,
          openInformation,
@@ -76,15 +75,6 @@ std::vector<WalkScreen> messageScreens() {
           {u"Cancel"_s, closes(gone, true)},
           {u"(Enter)"_s, closes(gone, true)},
           {u"(Escape)"_s, closes(gone, true)}}},
-        {"folder_browser",
-         {},
-         [](Walk& walk) {
-             openHome(walk);
-             walk.session().user.browseForFolder({});
-         },
-         true,
-         {{u"(Escape)"_s, closes(gone, true)}},
-         true},
     };
 }
 

@@ -5,7 +5,6 @@
 #include "ui/form.h"
 
 #include <QAbstractItemView>
-#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
@@ -50,25 +49,6 @@ void addParts(const QTreeView& list, QStringList& names) {
     if (list.model()->index(0, 0).data(Qt::CheckStateRole).isValid()) names << list.objectName() + u"|tick"_s;
 }
 
-bool canBeUsed(QAccessibleInterface& told) {
-    const QAccessible::State state = told.state();
-    if (state.invisible || state.disabled) return false;
-    const QStringList actions =
-        told.actionInterface() ? told.actionInterface()->actionNames() : QStringList();
-    return state.focusable || actions.contains(QAccessibleActionInterface::pressAction()) ||
-           actions.contains(QAccessibleActionInterface::toggleAction());
-}
-
-void collect(QAccessibleInterface& told, QStringList& names) {
-    for (int index = 0; index < told.childCount(); ++index) {
-        QAccessibleInterface* child = told.child(index);
-        if (!child || !child->object()) continue;
-        const auto* widget = qobject_cast<const QWidget*>(child->object());
-        if (canBeUsed(*child) && widget && isControl(*widget)) names << nameOf(*widget);
-        collect(*child, names);
-    }
-}
-
 } // namespace
 
 QString nameOf(const QWidget& control) {
@@ -85,19 +65,6 @@ QStringList liveControls(const QWidget& window) {
         if (const auto* list = qobject_cast<const QTreeView*>(widget)) addParts(*list, names);
     }
     return names;
-}
-
-QStringList accessibleControls(QWidget& window) {
-    QStringList names;
-    collect(*QAccessible::queryAccessibleInterface(&window), names);
-    return names;
-}
-
-QList<QWidget*> hiddenControls(const QWidget& window) {
-    QList<QWidget*> controls;
-    for (QWidget* widget : window.findChildren<QWidget*>())
-        if (widget->window() == &window && !widget->isVisible() && isControl(*widget)) controls << widget;
-    return controls;
 }
 
 QPoint livePoint(const QWidget& control) {

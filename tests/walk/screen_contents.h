@@ -12,10 +12,6 @@ QString nameOf(const QWidget& control);
 /// The controls of a window that the user can use now, by their names and in no order. A list adds
 /// "NAME|head" where a click on its head sorts it, and "NAME|tick" where its rows have boxes.
 QStringList liveControls(const QWidget& window);
-/// The same, without those additions, as assistive programs are told.
-QStringList accessibleControls(QWidget& window);
-/// Controls that lie on the window and are not shown.
-QList<QWidget*> hiddenControls(const QWidget& window);
 
 /// Where a click reaches the control, in its own coordinates; for a box its mark.
 QPoint livePoint(const QWidget& control);

@@ -70,10 +70,6 @@ std::vector<WalkRow> hostRows(const QString& host, const QString& page) {
             {u"(Escape)"_s, nothing("a window has nothing to cancel")}};
 }
 
-std::vector<WalkRow> listRows(const QString& name, QString (*inHand)(Session&)) {
-    return {{name, becomes(inHand)}, {name + u"|head"_s, itself()}};
-}
-
 /// Every slider with its three buttons and the label that says its value. `prefix` is "Sky" for the sky's
 /// names.
 std::vector<WalkRow> sliderRows(const QString& prefix) {
@@ -140,8 +136,9 @@ QString nightInstalled(Session& session) {
 std::vector<WalkScreen> groundScreens() {
     const QString create = u"btn_textureCreate"_s, activate = u"btn_TextureActivate"_s,
                   install = u"btn_TextureInstall"_s, remove = u"btn_TextureDelete"_s;
-    const std::vector<WalkRow> always = hostRows(ground, {}) + listRows(u"lstTextureSets"_s, groundInHand) +
-                                        std::vector<WalkRow>{{create, shows(u"frm_TsRequired"_s)}};
+    const std::vector<WalkRow> always =
+        hostRows(ground, {}) + std::vector<WalkRow>{{u"lstTextureSets"_s, becomes(groundInHand)},
+                                                    {create, shows(u"frm_TsRequired"_s)}};
     return {
         {"list", ground, list(ground), false,
          always + std::vector<WalkRow>{{install, shows(matchQuestion)}, {remove, shows(information)}}},
@@ -156,8 +153,7 @@ std::vector<WalkScreen> groundScreens() {
                                   {remove, becomes(groundActivation, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", groundColours, colours(ground, groundColours), false,
          hostRows(ground, groundColours) + sliderRows({}) +
-             std::vector<WalkRow>{{u"optCloudCover*"_s, itself(), 5},
-                                  {u"btn_OpenTexture"_s, shows(u"frm_SelectTexture"_s)},
+             std::vector<WalkRow>{{u"btn_OpenTexture"_s, shows(u"frm_SelectTexture"_s)},
                                   {u"btn_Random"_s, label(u"lblRed"_s)},
                                   {u"btn_AddFavorite"_s, shows(u"frm_AddFav"_s)}}},
     };
@@ -166,9 +162,9 @@ std::vector<WalkScreen> groundScreens() {
 std::vector<WalkScreen> skyScreens() {
     const QString create = u"btn_SkytextureCreate"_s, activate = u"btn_SkyTextureActivate"_s,
                   install = u"btn_SkyTextureInstall"_s, remove = u"btn_SkyTextureDelete"_s;
-    const std::vector<WalkRow> always = hostRows(sky, {}) + listRows(u"lstSkyTextureSets"_s, skyInHand) +
-                                        std::vector<WalkRow>{{u"lstSkyTextureSets|tick"_s, itself()},
-                                                             {create, shows(u"frm_SelectSkyTexture"_s)}};
+    const std::vector<WalkRow> always =
+        hostRows(sky, {}) + std::vector<WalkRow>{{u"lstSkyTextureSets"_s, becomes(skyInHand)},
+                                                 {create, shows(u"frm_SelectSkyTexture"_s)}};
     return {
         {"list", sky, list(sky), false,
          always +
@@ -181,8 +177,7 @@ std::vector<WalkScreen> skyScreens() {
                                        {remove, becomes(skyActivation, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", skyColours, colours(sky, skyColours), false,
          hostRows(sky, skyColours) + sliderRows(u"Sky"_s) +
-             std::vector<WalkRow>{{u"optCloudCover*"_s, itself(), 5},
-                                  {u"picSkySource"_s, label(u"lblSkyPixelSelected"_s)},
+             std::vector<WalkRow>{{u"picSkySource"_s, label(u"lblSkyPixelSelected"_s)},
                                   {u"btn_LoadSkyTexture"_s, shows(u"frm_SelectBaseSky"_s)},
                                   {u"btn_SkyRandomize"_s, label(u"lblSkyRed"_s)},
                                   {u"btn_SkyFavorites"_s, shows(u"frm_AddFav"_s)}}},
@@ -192,7 +187,8 @@ std::vector<WalkScreen> skyScreens() {
 std::vector<WalkScreen> nightScreens() {
     const QString activate = u"btn_TextureActivate"_s, install = u"btn_TextureInstall"_s,
                   remove = u"btn_TextureDelete"_s;
-    const std::vector<WalkRow> always = hostRows(night, {}) + listRows(u"lstTextureSets"_s, nightInHand);
+    const std::vector<WalkRow> always =
+        hostRows(night, {}) + std::vector<WalkRow>{{u"lstTextureSets"_s, becomes(nightInHand)}};
     return {
         {"list_on_an_activated_set", night, listOn(night, 1), false,
          always + std::vector<WalkRow>{{activate, shows(information)},
@@ -204,8 +200,7 @@ std::vector<WalkScreen> nightScreens() {
                                   {remove, becomes(nightActivation, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", nightColours, colours(night, nightColours), false,
          hostRows(night, nightColours) + sliderRows({}) +
-             std::vector<WalkRow>{{u"opt_LightsBias*"_s, itself(), 4},
-                                  {u"btn_OpenTexture"_s, shows(u"frm_SelectNightTexture"_s)},
+             std::vector<WalkRow>{{u"btn_OpenTexture"_s, shows(u"frm_SelectNightTexture"_s)},
                                   {u"btn_Random"_s, label(u"lblRed"_s)},
                                   {u"btn_AddFavorite"_s, shows(u"frm_AddFav"_s)}}},
     };

@@ -59,7 +59,8 @@ struct WalkRow {
     QString typed = u"7"_s; ///< into an edit
 };
 
-/// A screen, and a row for every control that is alive on it when it opens.
+/// A screen, and a row for every control that is alive on it when it opens, but for those that only have to
+/// show themselves what was done to them.
 struct WalkScreen {
     const char* name;
     QString form; ///< which it is: a window, a page or a dialog; empty for one of the system's
@@ -67,7 +68,6 @@ struct WalkScreen {
     std::function<void(Walk&)> open;
     bool isDialog;
     std::vector<WalkRow> rows;
-    bool isSystems = false; ///< of the system's own; its inside is no matter of ours
 };
 
 /// Goes over screens by native events alone: a widget that is sent an event gets it even where a modal window
@@ -110,9 +110,9 @@ private:
     void untilTheEnd(const std::function<void()>& gesture);
     void settle();
     bool act(const std::function<void()>& gesture, const Effect& effect, QStringList& trail);
-    void checkContents(const WalkScreen& screen, const QStringList& live);
+    std::vector<WalkRow> withSilentRows(std::vector<WalkRow> rows, const QStringList& live) const;
+    void checkContents(const std::vector<WalkRow>& rows, const QStringList& live);
     void checkReach(const QStringList& live);
-    void checkBlocked();
     QStringList tabStops();
 
     FilePath skin_;

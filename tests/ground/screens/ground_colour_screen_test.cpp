@@ -1,5 +1,4 @@
 #include "ground/ground_selection.h"
-#include "ground/ground_sets.h"
 #include "sets/colour_settings.h"
 #include "support/printing.h"
 #include "support/window_program.h"
@@ -40,15 +39,10 @@ struct GroundColourScreenTest : testing::Test {
             texts << label(row.label);
         return texts;
     }
-    void chooseCover(int index) {
-        QTest::mouseClick(&program.control<QRadioButton>(pageName, u"optCloudCover%1"_s.arg(index)),
-                          Qt::LeftButton, {}, {7, 16});
-    }
     QString colours() { return colourSettingsText(program.session.state<GroundSelection>().colours); }
     QImage picture(const QString& name) { return program.picture(pageName, name); }
 
     test::WindowProgram program;
-    Form& page = *program.shell.form(pageName);
 };
 
 TEST_F(GroundColourScreenTest, aVisitPutsItsSlidersInHand) {
@@ -82,45 +76,22 @@ TEST_F(GroundColourScreenTest, everySliderSetsItsLabelAndItsColour) {
 TEST_F(GroundColourScreenTest, openTextureShowsTheChosenSample) {
     test::writeFile(program.install.home() / u"Resources\\GENERIC WORLD\\003b2wi3.bmp",
                     test::smallBitmap(32, 90));
-    const auto choose = [this](const QString& season, const QString& type, void (DialogForm::*end)()) {
+    const auto choose = [this](const QString& season, const QString& type) {
         program.whenShown(u"frm_SelectTexture"_s, [=](DialogForm& dialog) {
             EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optSeason_summer"_s)->isChecked());
             for (const QString& option : {u"optSeason_"_s + season, u"optTexture_"_s + type})
                 dialog.findChild<QRadioButton*>(option)->click();
-            (dialog.*end)();
+            dialog.ok();
         });
         program.press(pageName, u"btn_OpenTexture"_s);
     };
     EXPECT_EQ(label(u"lblSample"_s), u"Cities, Summer"_s);
-    choose(u"winter"_s, u"desert"_s, &DialogForm::cancel);
-    EXPECT_EQ(picture(u"picImage"_s).width(), 16);
-    choose(u"spring"_s, u"desert"_s, &DialogForm::ok);
+    choose(u"spring"_s, u"desert"_s);
     EXPECT_EQ(picture(u"picImage"_s).width(), 32) << "the desert's spring is its winter";
     EXPECT_EQ(label(u"lblSample"_s), u"Deserts, Spring"_s);
     program.confirmNext(u"frm_Msg"_s); // this install has no such file
-    choose(u"fall"_s, u"rocks"_s, &DialogForm::ok);
+    choose(u"fall"_s, u"rocks"_s);
     EXPECT_EQ(label(u"lblSample"_s), u"Deserts, Spring"_s) << "what still stands there";
-}
-
-TEST_F(GroundColourScreenTest, aFavouriteIsNamedByKeysAndListed) {
-    slider(u"vcRed"_s).setValue(50);
-    chooseCover(1);
-    program.whenShown(u"frm_AddFav"_s, [](DialogForm& dialog) {
-        QTest::keyClicks(dialog.findChild<QWidget*>(u"txtFavName"_s), u" Golden: hour "_s);
-        auto* text = dialog.findChild<QWidget*>(u"txtFavDesc"_s);
-        QTest::keyClicks(text, u"low sun "_s);
-        QTest::keyClick(text, Qt::Key_Return);
-    });
-    program.press(pageName, u"btn_AddFavorite"_s);
-    EXPECT_FALSE(page.isVisible()) << "the list takes the page's place";
-    auto& list = program.control<SetTable>(hostName, u"lstTextureSets"_s);
-    const auto set = findGroundSet(program.session, list.textOf(2, 0));
-    ASSERT_TRUE(set);
-    EXPECT_EQ(set->TextureSet.section(u'-', 1) + set->Description, u"Golden_ hourlow sun"_s);
-    EXPECT_EQ(list.selectedNames(), QStringList{set->TextureSet}) << "as if it had been clicked";
-    EXPECT_EQ(program.session.state<GroundSelection>().SelectedGroundSet, set->TextureSet);
-    EXPECT_EQ(program.session.state<GroundSelection>().SelectedGroundCover, u"Mostly Clear"_s);
-    EXPECT_EQ(program.stateOf(hostName, u"btn_TextureActivate"_s), ButtonState::enabled);
 }
 
 } // namespace
