@@ -36,7 +36,6 @@ struct SkyGenerationTest : testing::Test {
             sets << set->CloudCover + u" of "_s + set->TextureSetGroup;
         return sets;
     }
-    QStringList setFolders() { return install.files.listFolders(sets()); }
     QStringList filesOf(const QString& set) { return install.files.list(sets() / set, u"*.*"_s); }
     FilePath sets() const { return install.home() / u"Sky Texture Sets"; }
 
@@ -83,23 +82,6 @@ TEST_F(SkyGenerationTest, storesASetAndColoursEveryFileOfItsBase) {
                            "finished............",
                            "progress 20", "file Coloring sky_afternoon_3.bmp which is file 1 of 3"}));
     EXPECT_TRUE(install.user.told().isEmpty());
-}
-
-TEST_F(SkyGenerationTest, allSetsOfABaseComeBeforeTheNext) {
-    session.state<SkySelection>().selectedRows = QStringList{u"a row that was ticked"_s};
-    create({u"Sunny"_s, u"Default"_s}, {2, 1, 0, 0, 3}, false);
-    EXPECT_TRUE(session.state<SkySelection>().selectedRows.isEmpty());
-    EXPECT_EQ(stored(),
-              QStringList({"Sky Clear of Default", "Sky Clear of Default", "Mostly Clear of Default",
-                           "Sky Clear of Sunny", "Sky Clear of Sunny", "Mostly Clear of Sunny"}));
-    EXPECT_EQ(setFolders().size(), 6); // the same second, told apart by their keys
-    // The overcast sets are counted although none is made.
-    EXPECT_EQ(install.user.calls.filter(u"Processing Sky Texture Set 6 of 9."_s).size(), 1);
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, u"6"_s + first.mid(1));
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkyKey, "Key:6");
-    EXPECT_TRUE(session.state<SkySelection>().SelectedSkyActivated);
-    EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
-    EXPECT_EQ(install.user.calls.last(), "show frm_KMTextures");
 }
 
 TEST_F(SkyGenerationTest, tellsWhatItTakesBeforeItStarts) {
@@ -186,28 +168,21 @@ TEST_F(SkyGenerationTest, severalActivatedGetTheDayOnlyAndACancelEndsThemBeforeT
     EXPECT_TRUE(filesOf(u"3-C"_s).isEmpty()) << "it is activated already";
 }
 
-struct TunedSky : SkyGenerationTest {
-    void nameFavourite(const QString& name, const QString& description, bool confirmed = true) {
-        install.user.onModal = [=, this](Screen screen) {
-            ASSERT_EQ(screen, Screen::frm_AddFav);
-            EXPECT_EQ(session.state<FavouriteAnswer>().favName +
-                          session.state<FavouriteAnswer>().favDescription,
-                      u""_s); // not those of last time
-            session.state<FavouriteAnswer>().favName = name;
-            session.state<FavouriteAnswer>().favDescription = description;
-            session.state<FavouriteAnswer>().favConfirmed = confirmed;
+TEST_F(SkyGenerationTest, aTunedSkyIsStoredWithoutFiles) {
+    const auto nameFavourite = [this](const FavouriteAnswer& given) {
+        install.user.onModal = [=, this](Screen) {
+            auto& answer = session.state<FavouriteAnswer>();
+            EXPECT_EQ(answer.favName + answer.favDescription, u""_s) << "not those of last time";
+            answer = given;
         };
         SkyGeneration(session).newFavSky();
-    }
-};
-
-TEST_F(TunedSky, isStoredWithoutFiles) {
+    };
     loadSkyTuning(session);
     tuneCloudCover(session, 4);
     session.state<SkyTuningState>().baseSet = u"Pro Sky"_s;
     session.state<SkyColourTables>().skyPaletteGroups[5].saturation = 7; // never clicked: no region yet
     session.state<SkyColourTables>().skyPaletteGroups[8].contrast = -5;
-    nameFavourite(u"  ..\\..\\Pilot's storm "_s, u" wet & windy "_s);
+    nameFavourite({u"  ..\\..\\Pilot's storm "_s, u" wet & windy "_s, true});
 
     const auto set = install.reloadedSkySets().GetItem(1);
     EXPECT_EQ((QStringList{set->SkyTextureSet, set->Description, set->CloudCover, set->TextureSetGroup,
@@ -226,28 +201,21 @@ TEST_F(TunedSky, isStoredWithoutFiles) {
               "0:0:0:0:0:-5:1:32:1 -1:32:255");
     EXPECT_EQ(session.state<SkyColourTables>().skyPaletteGroups[5].PixelXHigh, 31);
 
-    EXPECT_EQ(setFolders(), QStringList{"1-.._.._Pilot's storm"});
-    EXPECT_TRUE(filesOf(u"1-.._.._Pilot's storm"_s).isEmpty());
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "1-.._.._Pilot's storm");
-    EXPECT_FALSE(session.state<SkySelection>().SelectedSkyActivated);
+    EXPECT_EQ(install.files.listFolders(sets()), QStringList{set->SkyTextureSet});
+    EXPECT_TRUE(filesOf(set->SkyTextureSet).isEmpty());
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, set->SkyTextureSet);
     EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[5].saturation, 7); // its preview
     EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
     EXPECT_EQ(install.user.calls.last(2), QStringList({"refresh frm_KMTextures", "show frm_KMTextures"}));
-    nameFavourite(u"Storm"_s, {}, false);
+    nameFavourite({u"Storm"_s, {}, false});
     EXPECT_EQ(stored().size(), 1) << "without OK nothing is stored";
 }
 
-struct StoredSky : SkyGenerationTest {
-    void put(const QString& column, const QString& text) {
-        session.adoConn->execute(u"UPDATE SKY_TEXTURE_SUB_SETS SET %1 = '%2'"_s.arg(column, text));
-    }
-    SkyGroup group(int number) {
-        return skyRecord(session.state<SkyColourTables>().skyTextureGroups, number);
-    }
-};
-
-TEST_F(StoredSky, isLoadedIntoTheTableAndTheSelection) {
+TEST_F(SkyGenerationTest, aStoredSkyIsLoadedIntoTheTableAndTheSelection) {
     create({u"Default"_s, u"Sunny"_s}, {1, 0, 0, 0, 0});
+    const auto group = [this](int number) {
+        return skyRecord(session.state<SkyColourTables>().skyTextureGroups, number);
+    };
     const SkyGroup sunny = group(10);
     ASSERT_TRUE(loadSkySubSet(session, u"Key:1"_s, u"Day"_s));
     EXPECT_EQ(session.state<SkySelection>().SelectedSkySet + u' ' +
@@ -260,8 +228,8 @@ TEST_F(StoredSky, isLoadedIntoTheTableAndTheSelection) {
     ASSERT_TRUE(loadSkySubSet(session, u"Key:1"_s, u"Sunrise"_s)); // no such sub set
     EXPECT_EQ(group(6).PixelXLow, 0);
 
-    put(u"MAIN_SKY"_s, u" "_s);
-    put(u"DARK_GROUND"_s, u"1:2:3:4:5:6,5:7:8:9"_s);
+    session.adoConn->execute(
+        u"UPDATE SKY_TEXTURE_SUB_SETS SET MAIN_SKY = ' ', DARK_GROUND = '1:2:3:4:5:6,5:7:8:9'"_s);
     ASSERT_TRUE(loadSkySubSet(session, u"Key:1"_s, u"Day"_s));
     EXPECT_EQ(skyColourString(group(10), skyGroup(10)), "0:0:0:0:0:0:1:32:255") << "an empty text";
     EXPECT_EQ(group(10).PixelY, 0);

@@ -84,9 +84,6 @@ TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     shell.goToPage(u"frm_Links"_s);
     EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
     shell.goToPage(u"frm_About"_s);
-    program.press(u"frm_Main"_s, u"btn_Home"_s);
-    EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
-    shell.goToPage(u"frm_About"_s);
     EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
 
     for (const QString& window : windowNames)
