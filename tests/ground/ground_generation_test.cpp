@@ -15,7 +15,6 @@
 namespace morvane {
 namespace {
 
-using test::contentsBelow;
 using test::SmallInstall;
 
 /// Makes as many sets of each cover as said, out of the base images.
@@ -74,30 +73,6 @@ TEST(GroundGeneration, makesARowAndAFileForEachBaseImage) {
         install.user.messages[0].text,
         "Colorizing texture set 1 of 1 texture sets.  Process 1 of 2 Be aware that this may take 20 - 30 "
         "minutes per set dependant on your system specification. \nPlease wait............");
-}
-
-/// The textures of all sets, and one set's bitmaps where no run before has left them.
-TEST(GroundGeneration, tellsWhatItTakesBeforeItStarts) {
-    SmallInstall install;
-    install.user.allowsRuns = false;
-    create(install, {10, 0, 0, 0, 11});
-    EXPECT_EQ(setFolders(install), QStringList());
-    install.user.allowsRuns = true;
-    create(install, {0, 0, 0, 0, 1});
-    create(install, {0, 0, 0, 0, 20});
-    double textures = 0;
-    for (const QByteArray& contents : contentsBelow(install.home() / u"Texture Sets"))
-        textures += static_cast<double>(contents.size()) / 21;
-    const double bitmaps = 5 * 16 * 16 * 3;
-    const std::tuple<QString, double, bool> expected[] = {{"21 ground sets", 21 * textures + bitmaps, true},
-                                                          {"1 ground set", textures + bitmaps, false},
-                                                          {"20 ground sets", 20 * textures, false}};
-    for (std::size_t i = 0; const auto& [what, bytes, isQuestionWanted] : expected) {
-        const RunSize& run = install.user.runs.at(i++);
-        EXPECT_EQ(run.what, what);
-        EXPECT_NEAR(static_cast<double>(run.bytes), bytes, bytes / 50);
-        EXPECT_EQ(run.isQuestionWanted, isQuestionWanted);
-    }
 }
 
 TEST(GroundGeneration, reportsItsDuration) {

@@ -38,18 +38,6 @@ TEST(PixelBuffer, SavesAPictureAsItStandsBehindTheHeaderOfItsOwnLayout) {
     EXPECT_FALSE(buffer.isCreated());
 }
 
-/// Rows stand bottom-up in the buffer, and not in the image.
-TEST(PixelBuffer, PaintsIntoAnImageTheRightWayUp) {
-    cDIBSection buffer = test::filledBuffer(6, 5, {0, 0, 200});
-    test::setPixel(buffer, 3, 0, {10, 20, 30});
-    QImage image(8, 8, QImage::Format_RGB32);
-    image.fill(Qt::black);
-    buffer.PaintPicture(image);
-    EXPECT_EQ(image.pixel(3, 4), qRgb(10, 20, 30));
-    EXPECT_EQ(image.pixel(3, 0), qRgb(0, 0, 200));
-    EXPECT_EQ(image.pixel(6, 0), qRgb(0, 0, 0));
-}
-
 } // namespace
 
 } // namespace morvane

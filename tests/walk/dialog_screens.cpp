@@ -12,22 +12,6 @@ namespace morvane::test {
 
 namespace {
 
-bool isSampleTaken(Session& session) {
-    return session.state<GroundSampleChoice>().sampleConfirmed;
-}
-
-bool isNightSampleTaken(Session& session) {
-    return session.state<NightSampleChoice>().sampleConfirmed;
-}
-
-bool isBackupTaken(Session& session) {
-    return session.state<BackupChoice>().backupConfirmed;
-}
-
-Effect chosenBackup() {
-    return becomes([](Session& session) { return session.state<BackupChoice>().chosenBackup; });
-}
-
 void giveBackups(Session& session) {
     const QDateTime first(QDate(2026, 7, 14), QTime(14, 7));
     session.state<BackupChoice>().backups = {{u"1-Backup"_s, first, true},
@@ -46,23 +30,23 @@ void giveBaseSets(Session& session) {
 } // namespace
 
 std::vector<WalkScreen> setDialogs() {
+    const auto isBackupTaken = isSet(&BackupChoice::backupConfirmed);
+    const Effect chosenBackup = becomes(&BackupChoice::chosenBackup);
     return {
         {"ground_counts", u"frm_TsRequired"_s, dialog(Screen::frm_TsRequired), true,
-         answerRows([](Session& session) { return session.state<GroundSetCounts>().setCountsConfirmed; })},
+         answerRows(isSet(&GroundSetCounts::setCountsConfirmed))},
         {"sky_counts", u"frm_SelectSkyTexture"_s, dialog(Screen::frm_SelectSkyTexture, giveBaseSets), true,
-         answerRows([](Session& session) { return session.state<SkySetCounts>().skySetsConfirmed; })},
+         answerRows(isSet(&SkySetCounts::skySetsConfirmed))},
         {"base_sky", u"frm_SelectBaseSky"_s, dialog(Screen::frm_SelectBaseSky), true,
-         answerRows([](Session& session) { return session.state<BaseSkyAnswer>().baseSkyConfirmed; })},
+         answerRows(isSet(&BaseSkyAnswer::baseSkyConfirmed))},
         {"sample", u"frm_SelectTexture"_s, dialog(Screen::frm_SelectTexture), true,
-         answerRows(isSampleTaken)},
+         answerRows(isSet(&GroundSampleChoice::sampleConfirmed))},
         {"night_sample", u"frm_SelectNightTexture"_s, dialog(Screen::frm_SelectNightTexture), true,
-         answerRows(isNightSampleTaken)},
+         answerRows(isSet(&NightSampleChoice::sampleConfirmed))},
         {"favourite", u"frm_AddFav"_s, dialog(Screen::frm_AddFav), true,
-         answerRows([](Session& session) { return session.state<FavouriteAnswer>().favConfirmed; }) +
-             std::vector<WalkRow>{
-                 {u"txtFavName"_s,
-                  becomes([](Session& session) { return session.state<FavouriteAnswer>().favName; }, u"7"_s)},
-                 {u"txtFavDesc"_s, label(u"lblLength"_s, u"1"_s)}}},
+         answerRows(isSet(&FavouriteAnswer::favConfirmed)) +
+             std::vector<WalkRow>{{u"txtFavName"_s, becomes(&FavouriteAnswer::favName, u"7"_s)},
+                                  {u"txtFavDesc"_s, label(u"lblLength"_s, u"1"_s)}}},
         {"names", u"frm_MultiDelete"_s, dialog(Screen::frm_MultiDelete, giveNames), true,
          answerRows(
              [](Session& session) { return session.state<MultiChoice>().multiConfirmed.size() == 3; })},
@@ -71,10 +55,10 @@ std::vector<WalkScreen> setDialogs() {
          dialog(Screen::frm_BackupList, giveBackups),
          true,
          {{u"btn_Cancel"_s, closes(isBackupTaken, false)},
-          {u"lstBackupList"_s, chosenBackup()},
+          {u"lstBackupList"_s, chosenBackup},
           {u"lstBackupList|twice"_s, closes(isBackupTaken, true)},
-          {u"(Enter)"_s, chosenBackup()},
-          {u"(Down)"_s, chosenBackup()},
+          {u"(Enter)"_s, chosenBackup},
+          {u"(Down)"_s, chosenBackup},
           {u"(Escape)"_s, closes(isBackupTaken, false)},
           {u"(close)"_s, closes(isBackupTaken, false)}}},
     };

@@ -33,19 +33,16 @@ std::function<void(Walk&)> page(const QString& name) {
     };
 }
 
-/// The option is taken, behind the message that says so.
-Effect option(bool OptionsInForce::*flag) {
-    return becomes([flag](Session& session) {
-               return session.state<OptionsInForce>().*flag ? u"on"_s : u"off"_s;
-           })
-        .after({Qt::Key_Return});
-}
-
 Effect takesOption(bool OptionsInForce::*flag) {
     return becomes([flag](Session& session) {
                return session.state<OptionsInForce>().*flag ? u"on"_s : u"off"_s;
            })
         .lasting();
+}
+
+/// Behind the message that says so.
+Effect option(bool OptionsInForce::*flag) {
+    return takesOption(flag).after({Qt::Key_Return});
 }
 
 } // namespace

@@ -89,46 +89,20 @@ std::vector<WalkRow> sliderRows(const QString& prefix) {
     return rows;
 }
 
-// What is in hand, and what became of a set ---------------------------------------------------------------
+// What became of a set --------------------------------------------------------------------------------------
 
-QString groundInHand(Session& session) {
-    return session.state<GroundSelection>().SelectedGroundSet;
-}
-
-QString skyInHand(Session& session) {
-    return session.state<SkySelection>().SelectedSkySet;
-}
-
-QString nightInHand(Session& session) {
-    return session.state<NightSelection>().SelectedNightSet;
-}
-
-/// "True", "False" or "gone".
-QString groundActivation(Session& session) {
-    const auto set = findGroundSet(session, u"3-Grey"_s);
-    return set ? set->Actvated : u"gone"_s;
-}
-
-QString skyActivation(Session& session) {
-    const auto set = findSkySet(session, u"3-Storm"_s);
-    return set ? set->Activated : u"gone"_s;
-}
-
-QString nightActivation(Session& session) {
-    const auto set = findNightSet(session, u"3-Blue"_s);
-    return set ? set->Actvated : u"gone"_s;
+/// "True" or "False" as it is activated, "*" behind an installed one; "gone".
+template <class Kind>
+Effect setBecomes(const QString& name, const QString& state) {
+    const auto stateNow = [name](Session& session) {
+        const auto set = findSet<Kind>(session, name);
+        return set ? activationOf(*set) + (set->Installed ? u"*"_s : QString()) : u"gone"_s;
+    };
+    return becomes(stateNow, state);
 }
 
 QString groundTexture(Session& session) {
     return QString::fromUtf8(readFile(session.FSPath / u"Scenery\\World\\texture\\029b2su6.bmp"));
-}
-
-QString skyInstalled(Session& session) {
-    return findSkySet(session, u"2-Calm"_s)->Installed ? u"installed"_s : u"not"_s;
-}
-
-QString nightInstalled(Session& session) {
-    return findNightSet(session, u"2-Red"_s)->Installed ? u"installed"_s : u"not"_s;
 }
 
 } // namespace
@@ -137,8 +111,9 @@ std::vector<WalkScreen> groundScreens() {
     const QString create = u"btn_textureCreate"_s, activate = u"btn_TextureActivate"_s,
                   install = u"btn_TextureInstall"_s, remove = u"btn_TextureDelete"_s;
     const std::vector<WalkRow> always =
-        hostRows(ground, {}) + std::vector<WalkRow>{{u"lstTextureSets"_s, becomes(groundInHand)},
-                                                    {create, shows(u"frm_TsRequired"_s)}};
+        hostRows(ground, {}) +
+        std::vector<WalkRow>{{u"lstTextureSets"_s, becomes(&GroundSelection::SelectedGroundSet)},
+                             {create, shows(u"frm_TsRequired"_s)}};
     return {
         {"list", ground, list(ground), false,
          always + std::vector<WalkRow>{{install, shows(matchQuestion)}, {remove, shows(information)}}},
@@ -149,8 +124,9 @@ std::vector<WalkScreen> groundScreens() {
                                        {remove, shows(information)}}},
         {"list_on_a_deactivated_set", ground, listOn(ground, 3), false,
          always +
-             std::vector<WalkRow>{{activate, becomes(groundActivation, u"True"_s).lasting()},
-                                  {remove, becomes(groundActivation, u"gone"_s).after({Qt::Key_Return})}}},
+             std::vector<WalkRow>{
+                 {activate, setBecomes<GroundKind>(u"3-Grey"_s, u"True"_s).lasting()},
+                 {remove, setBecomes<GroundKind>(u"3-Grey"_s, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", groundColours, colours(ground, groundColours), false,
          hostRows(ground, groundColours) + sliderRows({}) +
              std::vector<WalkRow>{{u"btn_OpenTexture"_s, shows(u"frm_SelectTexture"_s)},
@@ -163,18 +139,20 @@ std::vector<WalkScreen> skyScreens() {
     const QString create = u"btn_SkytextureCreate"_s, activate = u"btn_SkyTextureActivate"_s,
                   install = u"btn_SkyTextureInstall"_s, remove = u"btn_SkyTextureDelete"_s;
     const std::vector<WalkRow> always =
-        hostRows(sky, {}) + std::vector<WalkRow>{{u"lstSkyTextureSets"_s, becomes(skyInHand)},
-                                                 {create, shows(u"frm_SelectSkyTexture"_s)}};
+        hostRows(sky, {}) +
+        std::vector<WalkRow>{{u"lstSkyTextureSets"_s, becomes(&SkySelection::SelectedSkySet)},
+                             {create, shows(u"frm_SelectSkyTexture"_s)}};
     return {
         {"list", sky, list(sky), false,
+         always + std::vector<WalkRow>{{activate, shows(information)},
+                                       {install, setBecomes<SkyKind>(u"2-Calm"_s, u"True*"_s)
+                                                     .after({Qt::Key_Escape, Qt::Key_Escape})},
+                                       {remove, shows(information)}}},
+        {"list_on_a_deactivated_set", sky, listOn(sky, 2), false,
          always +
              std::vector<WalkRow>{
-                 {activate, shows(information)},
-                 {install, becomes(skyInstalled, u"installed"_s).after({Qt::Key_Escape, Qt::Key_Escape})},
-                 {remove, shows(information)}}},
-        {"list_on_a_deactivated_set", sky, listOn(sky, 2), false,
-         always + std::vector<WalkRow>{{activate, becomes(skyActivation, u"True"_s).lasting()},
-                                       {remove, becomes(skyActivation, u"gone"_s).after({Qt::Key_Return})}}},
+                 {activate, setBecomes<SkyKind>(u"3-Storm"_s, u"True"_s).lasting()},
+                 {remove, setBecomes<SkyKind>(u"3-Storm"_s, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", skyColours, colours(sky, skyColours), false,
          hostRows(sky, skyColours) + sliderRows(u"Sky"_s) +
              std::vector<WalkRow>{{u"picSkySource"_s, label(u"lblSkyPixelSelected"_s)},
@@ -188,16 +166,18 @@ std::vector<WalkScreen> nightScreens() {
     const QString activate = u"btn_TextureActivate"_s, install = u"btn_TextureInstall"_s,
                   remove = u"btn_TextureDelete"_s;
     const std::vector<WalkRow> always =
-        hostRows(night, {}) + std::vector<WalkRow>{{u"lstTextureSets"_s, becomes(nightInHand)}};
+        hostRows(night, {}) +
+        std::vector<WalkRow>{{u"lstTextureSets"_s, becomes(&NightSelection::SelectedNightSet)}};
     return {
         {"list_on_an_activated_set", night, listOn(night, 1), false,
          always + std::vector<WalkRow>{{activate, shows(information)},
-                                       {install, becomes(nightInstalled, u"installed"_s).lasting()},
+                                       {install, setBecomes<NightKind>(u"2-Red"_s, u"True*"_s).lasting()},
                                        {remove, shows(information)}}},
         {"list_on_a_deactivated_set", night, listOn(night, 2), false,
          always +
-             std::vector<WalkRow>{{activate, becomes(nightActivation, u"True"_s).lasting()},
-                                  {remove, becomes(nightActivation, u"gone"_s).after({Qt::Key_Return})}}},
+             std::vector<WalkRow>{
+                 {activate, setBecomes<NightKind>(u"3-Blue"_s, u"True"_s).lasting()},
+                 {remove, setBecomes<NightKind>(u"3-Blue"_s, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", nightColours, colours(night, nightColours), false,
          hostRows(night, nightColours) + sliderRows({}) +
              std::vector<WalkRow>{{u"btn_OpenTexture"_s, shows(u"frm_SelectNightTexture"_s)},

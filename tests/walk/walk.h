@@ -41,6 +41,15 @@ Effect opens(const QString& address);
 Effect opensHelp();
 /// Something of the session or on the disk becomes another thing, or just that.
 Effect becomes(const std::function<QString(Session&)>& what, const std::optional<QString>& expected = {});
+template <class State>
+Effect becomes(QString State::*text, const std::optional<QString>& expected = {}) {
+    return becomes([text](Session& session) { return session.state<State>().*text; }, expected);
+}
+/// For the answer of a dialog.
+template <class State>
+std::function<bool(Session&)> isSet(bool State::*flag) {
+    return [flag](Session& session) { return session.state<State>().*flag; };
+}
 /// The dialog closes, and the flag that says whether it was confirmed stands so.
 Effect closes(const std::function<bool(Session&)>& isConfirmed, bool expected);
 /// The process ends with status 0.

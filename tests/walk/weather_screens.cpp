@@ -32,14 +32,6 @@ bool isAirportTaken(Session& session) {
     return !session.state<WeatherState>().DepIcao.isEmpty();
 }
 
-bool isFlightTaken(Session& session) {
-    return session.state<FlightChoice>().FlightSelected;
-}
-
-bool isCoverTaken(Session& session) {
-    return session.state<CoverChoice>().coverConfirmed;
-}
-
 bool isMethodTaken(Session& session) {
     return session.state<CoverChoice>().coverMethod != static_cast<std::int16_t>(CoverMethod::cancelled);
 }
@@ -47,14 +39,6 @@ bool isMethodTaken(Session& session) {
 /// Airports, of which the next search would be another one.
 Effect found() {
     return label(u"lblAirportCount"_s).lasting();
-}
-
-Effect chosenFlight() {
-    return becomes([](Session& session) { return session.state<FlightChoice>().SelectedFlightName; });
-}
-
-Effect chosenReport() {
-    return becomes([](Session& session) { return session.state<WxFilter>().WxSelectedIcao; });
 }
 
 Effect coverList() {
@@ -70,6 +54,9 @@ void giveAirports(Session& session) {
 } // namespace
 
 std::vector<WalkScreen> weatherScreens() {
+    const auto isFlightTaken = isSet(&FlightChoice::FlightSelected);
+    const Effect chosenFlight = becomes(&FlightChoice::SelectedFlightName),
+                 chosenReport = becomes(&WxFilter::WxSelectedIcao);
     return {
         {"page", u"frm_WxControl"_s, openWeather, false,
          mainWindowRows(u"btn_FlightConfig"_s) +
@@ -89,14 +76,14 @@ std::vector<WalkScreen> weatherScreens() {
         {"finder", u"frm_WxFinder"_s, openFinder, true,
          answerRows(isAirportTaken) +
              std::vector<WalkRow>{{u"txtFilter"_s, itself(), 1, u"K"_s},
-                                  {u"lstMetar"_s, chosenReport()},
+                                  {u"lstMetar"_s, chosenReport},
                                   {u"lstMetar|twice"_s, closes(isAirportTaken, true)},
-                                  {u"(Down)"_s, chosenReport()}}},
+                                  {u"(Down)"_s, chosenReport}}},
         {"flights", u"frm_flight"_s, dialog(Screen::frm_flight), true,
          answerRows(isFlightTaken) +
-             std::vector<WalkRow>{{u"lstFlights"_s, chosenFlight()},
+             std::vector<WalkRow>{{u"lstFlights"_s, chosenFlight},
                                   {u"lstFlights|twice"_s, closes(isFlightTaken, true)},
-                                  {u"(Down)"_s, chosenFlight()}}},
+                                  {u"(Down)"_s, chosenFlight}}},
         {"decoded_report",
          u"frm_metar"_s,
          dialog(Screen::frm_metar,
@@ -107,11 +94,12 @@ std::vector<WalkScreen> weatherScreens() {
           {u"(Escape)"_s, closes([](Session&) { return true; }, true)},
           {u"(close)"_s, closes([](Session&) { return true; }, true)}}},
         {"new_cycle", u"frm_metar_request"_s, dialog(Screen::frm_metar_request), true,
-         answerRows([](Session& session) { return session.state<MetarRequest>().metarRequested; })},
+         answerRows(isSet(&MetarRequest::metarRequested))},
     };
 }
 
 std::vector<WalkScreen> coverScreens() {
+    const auto isCoverTaken = isSet(&CoverChoice::coverConfirmed);
     return {
         {"method", u"frm_Select_CC_Method"_s, dialog(Screen::frm_Select_CC_Method), true,
          answerRows(isMethodTaken)},

@@ -97,13 +97,23 @@ TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
 }
 
 TEST_F(ShellTest, theInstallKeyInstallsWhatIsSelected) {
-    test::addNightSet(program.install, u"2-Storm"_s, true, {u"Texture\\008b2lm1.bmp"_s});
+    const QString host = u"frm_NightTextures"_s;
+    test::addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\008b2lm1.bmp"_s});
+    test::addNightSet(program.install, u"3-Blue"_s, false);
     program.press(u"frm_Main"_s, u"btn_NightTextures"_s);
-    auto& table = program.control<SetTable>(u"frm_NightTextures"_s, u"lstTextureSets"_s);
-    EXPECT_EQ(shell.form(u"frm_NightTextures"_s)->focusWidget(), &table) << "the keyboard is on the page";
-    test::clickRow(table, 1, {60});
-    program.press(u"frm_NightTextures"_s, u"btn_TextureInstall"_s);
-    EXPECT_EQ(test::nightSets(program.install.session), u"2-Storm+*"_s);
+    auto& table = program.control<SetTable>(host, u"lstTextureSets"_s);
+    EXPECT_EQ(shell.form(host)->focusWidget(), &table) << "the keyboard is on the page";
+    test::clickRow(table, 1);
+    program.press(host, u"btn_TextureInstall"_s);
+    EXPECT_EQ(test::nightSets(program.install.session), u"2-Red+* 3-Blue"_s);
+    EXPECT_EQ(table.columnCount(), 2);
+    EXPECT_EQ(table.storedColour(1), qRgb(255, 0, 0));
+    EXPECT_EQ(table.storedColour(2), qRgb(0, 101, 161));
+    EXPECT_EQ(program.text(host, u"lblFavDescription"_s), u"A night of a test"_s);
+    EXPECT_NE(program.picture(host, u"picTextureSetSource"_s),
+              program.picture(host, u"picTextureSetResult"_s));
+    program.press(host, u"btn_Main"_s);
+    EXPECT_EQ(program.text(u"frm_Main"_s, u"lblCurrentNightTSName"_s), u"2-Red"_s);
 }
 
 TEST_F(ShellTest, asksBeforeMoreThanTwentySets) {

@@ -117,11 +117,6 @@ TEST_F(GroundSetsScreenTest, aSetOfDamagedColoursCanOnlyBeTakenAway) {
         EXPECT_EQ(keyStates(), (std::vector{alive, alive, activate, dead})) << row;
         EXPECT_EQ(picture(u"picTextureSetSource"_s), picture(u"picTextureSetResult"_s));
     }
-    clickRow(2);
-    program.confirmNext(u"frm_Msg"_s);
-    program.press(hostName, u"btn_TextureDelete"_s);
-    EXPECT_EQ(list->selectedNames(), QStringList{u"3-Haze"_s});
-    EXPECT_EQ(selection.SelectedGroundCover, u"Sky Clear"_s) << "after a removal as well";
 }
 
 } // namespace

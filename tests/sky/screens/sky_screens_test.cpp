@@ -1,4 +1,3 @@
-#include "core/store.h"
 #include "sky/screens/palette_picture.h"
 #include "sky/screens/sky_sets_screen.h"
 #include "sky/sky_base_sets.h"
@@ -48,20 +47,6 @@ struct SkySetsScreenTest : testing::Test {
 
     static constexpr auto alive = ButtonState::enabled, dead = ButtonState::disabled;
 };
-
-TEST_F(SkySetsScreenTest, aSetOfDamagedColoursCanOnlyBeTakenAway) {
-    Store& store = *program.install.session.adoConn;
-    store.execute(
-        u"UPDATE SKY_TEXTURE_SUB_SETS SET MAIN_SKY = '1:2' WHERE SKY_TEXTURE_SUB_SET LIKE '%3-Calm'"_s);
-    store.execute(u"UPDATE SKY_TEXTURE_SETS SET TEXTURE_SET_GROUP = '..' WHERE SKY_TEXTURE_SET = '2-Haze'"_s);
-    open();
-    EXPECT_EQ(program.toldDuring([this] { clickRow(3); }).size(), 1);
-    EXPECT_EQ(install(), dead);
-    EXPECT_EQ(picture(u"picSkyTextureSetSource"_s), picture(u"picSkyTextureSetResult"_s));
-    EXPECT_EQ(program.toldDuring([this] { clickRow(2); }).size(), 1) << "its base set is no folder's name";
-    EXPECT_EQ(selection.SelectedSkySet, u"2-Haze"_s);
-    EXPECT_EQ(activate(), alive);
-}
 
 TEST_F(SkySetsScreenTest, listsEverySkyAndShowsTheFirstOnItsOwnBase) {
     open();
