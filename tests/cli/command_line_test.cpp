@@ -32,7 +32,6 @@ TEST(CommandLine, aSlipIsNamedInOneLine) {
         {"--answer|maybe|decode", "--answer takes yes, no or ask, not 'maybe'"},
         {"fly", "WORD or --metar is missing: fly WORD, fly --metar TEXT"},
         {"fly|ovc", "WORD takes CLR, FEW, SCT, BKN or OVC, not 'ovc'; did you mean 'OVC'?"},
-        {"fly|--|--help", "WORD takes CLR, FEW, SCT, BKN or OVC, not '--help'"},
         {"fly|OVC|--metar|EHAM OVC010", "WORD and --metar exclude each other"},
         {"recolour|red|a.bmp|b.bmp",
          "COLOURS takes S:R:G:B:BR:C, saturation -100 to 100, red, green, blue -20 to 20, "

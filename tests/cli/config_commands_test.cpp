@@ -5,7 +5,6 @@
 #include "support/printing.h"
 
 #include <QDir>
-#include <QStandardPaths>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -21,15 +20,6 @@ struct ConfigCommands : testing::Test {
     }
     void forget(const QString& key, const QString& name) {
         install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, key, name, {});
-    }
-    /// The same at a terminal, where somebody types the lines.
-    test::ConsoleRun runAtTerminal(const QString& command, const QByteArray& typed) {
-        QStringList words{QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), u"--home"_s,
-                          install.home().native()};
-        for (QString& word : words)
-            word = u'\'' + word + u'\'';
-        Console console(u"script"_s, {u"-qec"_s, words.join(u' ') + u' ' + command, u"/dev/null"_s});
-        return console.finish(typed);
     }
 };
 
@@ -48,20 +38,6 @@ TEST_F(ConfigCommands, theSimulatorIsNamedWithoutAQuestion) {
                                  {u"{\"simulator\":\"%1\"}"_s.arg(simulator)}},
                                 {u"ground|list"_s}});
     EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), simulator);
-}
-
-TEST_F(ConfigCommands, theSimulatorFoundAtTheTerminalIsStoredInFull) {
-    if (QStandardPaths::findExecutable(u"script"_s).isEmpty())
-        GTEST_SKIP() << "nothing to make a terminal with";
-    forget(simulatorKey, u"EXE Path"_s);
-    const QString simulator = install.simulator().native();
-    const auto run =
-        runAtTerminal(u"ground list"_s, QDir::current().relativeFilePath(simulator).toUtf8() + '\n');
-    EXPECT_EQ(run.status, 0) << "it was found, and the work was done: " << run.output.constData();
-    EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), simulator);
-    forget(simulatorKey, u"EXE Path"_s);
-    EXPECT_EQ(runAtTerminal(u"ground list"_s, "/\nn\n").status, 1);
-    EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), QString());
 }
 
 TEST_F(ConfigCommands, everythingIsShownWithoutASimulatorToo) {

@@ -28,15 +28,12 @@ QJsonArray ConsoleRun::array() const {
     return QJsonDocument::fromJson(output).array();
 }
 
-Console::Console(const QStringList& arguments)
-    : Console(QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), arguments) {}
-
-Console::Console(const QString& program, const QStringList& arguments) {
+Console::Console(const QStringList& arguments) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(u"MORVANE_HOME"_s);
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     process_.setProcessEnvironment(environment);
-    process_.start(program, arguments);
+    process_.start(QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), arguments);
     if (!process_.waitForStarted(watchdogMilliseconds)) throw std::runtime_error("no console program");
 }
 

@@ -31,8 +31,6 @@ struct ConsoleRun {
 class Console {
 public:
     explicit Console(const QStringList& arguments);
-    /// Another program, such as one that gives it a terminal.
-    Console(const QString& program, const QStringList& arguments);
     /// Waits until stderr holds the text; false when the program ended before.
     bool waitForMessage(const QString& text);
     void interrupt();

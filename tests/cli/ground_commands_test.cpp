@@ -77,9 +77,7 @@ TEST_F(GroundCommands, refusalsOfEveryKindOfSetAreToldAndChangeNothing) {
         {"install Fog", unknown, all},
         {"install 3-Calm", "The %1 texture set '3-Calm' is not activated", all},
         {"deactivate Default", locked, all},
-        {"delete Default", locked, all},
         {"deactivate 2-Störm", locked, "ground sky"}, // an installed one
-        {"delete 2-Störm", locked, "ground sky"},
     };
     for (const QString& kind : {u"ground"_s, u"night"_s, u"sky"_s}) {
         EXPECT_EQ(install.run(kind + " install 2-Störm").status, 0);

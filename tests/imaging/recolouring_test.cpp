@@ -88,22 +88,6 @@ TEST(Recolouring, IsThePlainArithmeticAtEveryWidth) {
                 << "width " << width;
 }
 
-TEST(Recolouring, WorksInPlaceAndIntoALargerBuffer) {
-    for (const float saturation : {0.0f, 37.0f, 250.0f}) {
-        const ColourValues values = {saturation, 10, -4, 8, 6, -9};
-        cDIBSection source = randomBuffer(200, 5, 1);
-        const cDIBSection expected = plainlyRecoloured(values, source);
-        cDIBSection larger = test::filledBuffer(300, 7, {1, 2, 3});
-        recolour(values, source, larger);
-        for (int x = 0; x < 200; ++x)
-            ASSERT_EQ(test::pixelAt(larger, x, 4), test::pixelAt(expected, x, 4));
-        EXPECT_EQ(test::pixelAt(larger, 200, 4), (RgbColour{1, 2, 3}));
-        EXPECT_EQ(test::pixelAt(larger, 0, 5), (RgbColour{1, 2, 3}));
-        recolour(values, source, source);
-        EXPECT_EQ(test::bytesOf(source), test::bytesOf(expected));
-    }
-}
-
 } // namespace
 
 } // namespace morvane

@@ -45,22 +45,19 @@ std::vector<WalkScreen> setDialogs() {
          answerRows(isSet(&NightSampleChoice::sampleConfirmed))},
         {"favourite", u"frm_AddFav"_s, dialog(Screen::frm_AddFav), true,
          answerRows(isSet(&FavouriteAnswer::favConfirmed)) +
-             std::vector<WalkRow>{{u"txtFavName"_s, becomes(&FavouriteAnswer::favName, u"7"_s)},
-                                  {u"txtFavDesc"_s, label(u"lblLength"_s, u"1"_s)}}},
+             WalkRows{{u"txtFavName"_s, becomes(&FavouriteAnswer::favName, u"7"_s)},
+                      {u"txtFavDesc"_s, label(u"lblLength"_s, u"1"_s)}}},
         {"names", u"frm_MultiDelete"_s, dialog(Screen::frm_MultiDelete, giveNames), true,
          answerRows(
              [](Session& session) { return session.state<MultiChoice>().multiConfirmed.size() == 3; })},
-        {"backups",
-         u"frm_BackupList"_s,
-         dialog(Screen::frm_BackupList, giveBackups),
-         true,
-         {{u"btn_Cancel"_s, closes(isBackupTaken, false)},
-          {u"lstBackupList"_s, chosenBackup},
-          {u"lstBackupList|twice"_s, closes(isBackupTaken, true)},
-          {u"(Enter)"_s, chosenBackup},
-          {u"(Down)"_s, chosenBackup},
-          {u"(Escape)"_s, closes(isBackupTaken, false)},
-          {u"(close)"_s, closes(isBackupTaken, false)}}},
+        {"backups", u"frm_BackupList"_s, dialog(Screen::frm_BackupList, giveBackups), true,
+         WalkRows{{u"btn_Cancel"_s, closes(isBackupTaken, false)},
+                  {u"lstBackupList"_s, chosenBackup},
+                  {u"lstBackupList|twice"_s, closes(isBackupTaken, true)},
+                  {u"(Enter)"_s, chosenBackup},
+                  {u"(Down)"_s, chosenBackup},
+                  {u"(Escape)"_s, closes(isBackupTaken, false)},
+                  {u"(close)"_s, closes(isBackupTaken, false)}}},
     };
 }
 

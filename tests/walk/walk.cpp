@@ -331,7 +331,7 @@ void Walk::untilTheEnd(const std::function<void()>& gesture) {
 }
 
 /// What is in no row and holds something, shows what was done to it.
-std::vector<WalkRow> Walk::withSilentRows(std::vector<WalkRow> rows, const QStringList& live) const {
+WalkRows Walk::withSilentRows(WalkRows rows, const QStringList& live) const {
     QStringList told;
     for (const WalkRow& row : rows)
         told += controlsOf(row, live);
@@ -343,7 +343,7 @@ std::vector<WalkRow> Walk::withSilentRows(std::vector<WalkRow> rows, const QStri
 
 void Walk::everyRow(const WalkScreen& screen) {
     QStringList live;
-    std::vector<WalkRow> rows;
+    WalkRows rows;
     QMap<QString, std::vector<Way>> ways;
     onScreen(screen, [&] {
         live = liveControls(*window_);
@@ -397,7 +397,7 @@ void Walk::oneWay(const WalkScreen& screen, const WalkRow& row, const QString& n
                         << ", seen: " << trail.join(u" > "_s).toStdString();
 }
 
-void Walk::checkContents(const std::vector<WalkRow>& rows, const QStringList& live) {
+void Walk::checkContents(const WalkRows& rows, const QStringList& live) {
     QStringList told;
     for (const WalkRow& row : rows) {
         const QStringList names = controlsOf(row, live);

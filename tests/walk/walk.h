@@ -68,6 +68,8 @@ struct WalkRow {
     QString typed = u"7"_s; ///< into an edit
 };
 
+using WalkRows = std::vector<WalkRow>;
+
 /// A screen, and a row for every control that is alive on it when it opens, but for those that only have to
 /// show themselves what was done to them.
 struct WalkScreen {
@@ -76,7 +78,7 @@ struct WalkScreen {
     /// Brings the screen up; for a dialog, waits for its end.
     std::function<void(Walk&)> open;
     bool isDialog;
-    std::vector<WalkRow> rows;
+    WalkRows rows;
 };
 
 /// Goes over screens by native events alone: a widget that is sent an event gets it even where a modal window
@@ -119,8 +121,8 @@ private:
     void untilTheEnd(const std::function<void()>& gesture);
     void settle();
     bool act(const std::function<void()>& gesture, const Effect& effect, QStringList& trail);
-    std::vector<WalkRow> withSilentRows(std::vector<WalkRow> rows, const QStringList& live) const;
-    void checkContents(const std::vector<WalkRow>& rows, const QStringList& live);
+    WalkRows withSilentRows(WalkRows rows, const QStringList& live) const;
+    void checkContents(const WalkRows& rows, const QStringList& live);
     void checkReach(const QStringList& live);
     QStringList tabStops();
 

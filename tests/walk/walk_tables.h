@@ -22,9 +22,9 @@ void openHost(Walk& walk, const QString& name);
 std::function<void(Walk&)> dialog(
     Screen screen, const std::function<void(Session&)>& prepare = [](Session&) {});
 /// The main window's keys, but for the one of the page that stands, which is dead.
-std::vector<WalkRow> mainWindowRows(const QString& deadKey);
+WalkRows mainWindowRows(const QString& deadKey);
 /// What every dialog with OK and Cancel has.
-std::vector<WalkRow> answerRows(const std::function<bool(Session&)>& isConfirmed);
+WalkRows answerRows(const std::function<bool(Session&)>& isConfirmed);
 /// Both, one behind the other.
 template <class Entry>
 std::vector<Entry> operator+(std::vector<Entry> first, const std::vector<Entry>& second) {
