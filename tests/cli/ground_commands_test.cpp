@@ -15,16 +15,13 @@ struct GroundCommands : testing::Test {
     test::ConsoleInstall install;
 
     void SetUp() override { test::addNightStock(install); }
+    template <class Kind = GroundKind>
     void expectDone(const QString& words, const QString& setsAfterwards) {
         test::expectSteps(install, {{words}});
-        EXPECT_EQ(install.sets(), setsAfterwards) << words.toStdString();
+        EXPECT_EQ(install.states<Kind>(), setsAfterwards) << words.toStdString();
     }
     void addNight(const QString& name, bool activated) {
         install.withStore([&](Session&) { test::addNightSet(install, name, activated); });
-    }
-    void expectNights(const QString& words, const QString& nightsAfterwards) {
-        test::expectSteps(install, {{words}});
-        EXPECT_EQ(install.nights(), nightsAfterwards) << words.toStdString();
     }
 };
 
@@ -100,18 +97,18 @@ TEST_F(GroundCommands, refusalsOfEveryKindOfSetAreToldAndChangeNothing) {
 TEST_F(GroundCommands, aFavouriteIsMadeActivatedInstalledSwitchedOffAndDeleted) {
     addNight("Default", true);
     const QString name = u"2-Cold lights"_s;
-    expectNights(u"night|favourite|Cold lights|-100:-30:-30:80:0:0"_s, u"Default+ "_s + name);
+    expectDone<NightKind>(u"night|favourite|Cold lights|-100:-30:-30:80:0:0"_s, u"Default+ "_s + name);
     test::expectSteps(
         install,
         {{u"night|list"_s,
           {u"{\"Actvated\":\"False\",\"ColorSettings\":\"-100:-6:-6:16:0:0\",\"Description\":\"\","
            "\"Installed\":false,\"IsNew\":false,\"NtsID\":2,\"TextureSet\":\"2-Cold lights\"}]"_s}}});
-    expectNights(u"night|activate|"_s + name, u"Default+ "_s + name + u'+');
-    expectNights(u"night|install|"_s + name, u"Default+ "_s + name + u"+*"_s);
-    expectNights(u"night|install|Default"_s, u"Default+* "_s + name + u'+');
-    expectNights(u"originals|restore"_s, u"Default+ "_s + name + u'+'); // none is installed any more
-    expectNights(u"night|deactivate|"_s + name, u"Default+ "_s + name);
-    expectNights(u"night|delete|"_s + name, u"Default+"_s);
+    expectDone<NightKind>(u"night|activate|"_s + name, u"Default+ "_s + name + u'+');
+    expectDone<NightKind>(u"night|install|"_s + name, u"Default+ "_s + name + u"+*"_s);
+    expectDone<NightKind>(u"night|install|Default"_s, u"Default+* "_s + name + u'+');
+    expectDone<NightKind>(u"originals|restore"_s, u"Default+ "_s + name + u'+'); // none is installed any more
+    expectDone<NightKind>(u"night|deactivate|"_s + name, u"Default+ "_s + name);
+    expectDone<NightKind>(u"night|delete|"_s + name, u"Default+"_s);
 }
 
 TEST_F(GroundCommands, aNoOrNobodyToAskDeletesNothing) {

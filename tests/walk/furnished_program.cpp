@@ -1,11 +1,10 @@
-#include "walk/furnished_program.h"
-
 #include "core/registry.h"
 #include "core/store.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "simulator/texture_switches.h"
 #include "sky/sky_sets.h"
+#include "walk/walk_tables.h"
 #include "weather/directory_rows.h"
 #include "weather/reports.h"
 #include "weather/stored_reports.h"

@@ -141,10 +141,6 @@ Effect itself() {
     return {[](Walk& walk) { return stateOf(walk.control()); }};
 }
 
-Effect state(const QString& name) {
-    return {[name](Walk& walk) { return stateOf(walk.find(name)); }};
-}
-
 Effect label(const QString& name, const std::optional<QString>& text) {
     return {[name](Walk& walk) { return static_cast<QLabel&>(walk.find(name)).text(); }, text};
 }

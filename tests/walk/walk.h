@@ -32,8 +32,6 @@ struct Effect {
 Effect shows(const QString& screen);
 /// What the user sees of the control itself: its tick, text, value, row.
 Effect itself();
-/// The same of another control.
-Effect state(const QString& name);
 /// The named label says something else, or just that.
 Effect label(const QString& name, const std::optional<QString>& text = {});
 /// A browser or the help opens that address.

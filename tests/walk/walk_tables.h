@@ -14,6 +14,9 @@ std::vector<WalkScreen> coverScreens();
 std::vector<WalkScreen> setDialogs();
 std::vector<WalkScreen> messageScreens();
 
+/// Gives the program at least two of everything that a list can show, an address for every link, and an
+/// installed set of each kind, so that every control has something to do.
+void furnish(WindowProgram& program);
 /// The main window on its own page, whatever stood before.
 void openHome(Walk& walk);
 /// A list window, entered from there.

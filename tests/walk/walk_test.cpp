@@ -2,7 +2,6 @@
 // plug-in.
 
 #include "skin_files.h"
-#include "walk/furnished_program.h"
 #include "walk/walk_tables.h"
 #include "window/form_table.h"
 

@@ -66,13 +66,6 @@ TEST_F(ShellTest, theStatusPageCountsSetsAndTellsOfAWideClient) {
         EXPECT_EQ(program.text(u"frm_Main"_s, label), text);
 }
 
-TEST_F(ShellTest, startsWithoutASkinAndSaysSoOnce) {
-    EXPECT_FALSE(program.skin.missing().isEmpty());
-    EXPECT_TRUE(shell.form(u"frm_Main"_s)->mask().isEmpty()) << "a plain window";
-    EXPECT_FALSE(shell.form(u"frm_Main"_s)->windowFlags() & Qt::FramelessWindowHint);
-    shell.reportMissingSkin(); // would wait for an answer that never comes
-}
-
 /// A page's own text goes and comes with the page; what a job said is on whichever window is shown next.
 TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     const auto lineOf = [this](const QString& window) {
