@@ -62,13 +62,6 @@ TEST_F(SkinnedButtonTest, dispatchesFromDeactivateThoughItLooksDisabled) {
     EXPECT_EQ(clicks.count(), 1);
 }
 
-TEST_F(SkinnedButtonTest, survivesAClickThatTakesItAway) {
-    auto* gone = new SkinnedButton(ButtonFamily::smallButton, skin, nullptr);
-    QObject::connect(gone, &SkinnedButton::dispatched, [](SkinnedButton* clicked) { delete clicked; });
-    QTest::keyClick(gone, Qt::Key_Return);
-    SUCCEED();
-}
-
 TEST_F(SkinnedButtonTest, showsTheFrameOfItsStateAndKeepsItsStripWhereAPictureIsMissing) {
     const QColor frames[] = {Qt::red, Qt::green, Qt::blue, Qt::white};
     QImage strip(key.width(), 4 * key.height(), QImage::Format_RGB888);

@@ -66,6 +66,13 @@ TEST_F(GroundSetsScreenTest, clicksTakeRowsInHand) {
     EXPECT_EQ(selection.selectedRows, (QStringList{u"2-Storm"_s, u"3-Haze"_s}));
     QTest::keyClick(list, Qt::Key_Up);
     EXPECT_EQ(selection.selectedRows, QStringList{u"Default"_s}) << "the arrow keys select as clicks do";
+    const auto placeOf = [this](int row) {
+        return list->visualItemRect(list->topLevelItem(row - 1)).center();
+    };
+    QTest::mousePress(list->viewport(), Qt::LeftButton, {}, placeOf(1));
+    QTest::mouseMove(list->viewport(), placeOf(3));
+    QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, placeOf(3));
+    EXPECT_EQ(selection.SelectedGroundSet, u"3-Haze"_s) << "a drag ends on it";
 }
 
 TEST_F(GroundSetsScreenTest, keepsTheRowInHandWhenItIsFilledAnew) {

@@ -115,7 +115,7 @@ struct SkyColourScreenTest : testing::Test {
     PalettePicture* palette = nullptr;
 };
 
-TEST_F(SkyColourScreenTest, clicksAndArrowKeysTakeAGroupInHand) {
+TEST_F(SkyColourScreenTest, clicksAndArrowKeysTakeAGroupInHandAndTheTipTellsOfIt) {
     open();
     EXPECT_EQ(label(u"lblSkyPixelSelected"_s), skyGroup(1).text);
     const std::tuple<int, int, int> clicks[] = {{100, 3, 6}, {1, 237, 9}, {120, 120, 10}, {3, 3, 1}};
@@ -132,10 +132,7 @@ TEST_F(SkyColourScreenTest, clicksAndArrowKeysTakeAGroupInHand) {
     }
     QTest::keyClick(palette, Qt::Key_Left);
     EXPECT_EQ(palette->accessibleDescription(), skyGroup(9).text);
-}
 
-TEST_F(SkyColourScreenTest, theTipTellsWhatLiesUnderThePointer) {
-    open();
     const auto tipAt = [this](double x, double y) {
         const QPointF place = palette->picturePlace().topLeft() + QPointF(x, y);
         QMouseEvent move(QEvent::MouseMove, place, palette->mapToGlobal(place), Qt::NoButton, {}, {});
