@@ -150,6 +150,9 @@ TEST_F(SkyColourScreenTest, slidersWriteTheGroupInHandAndNoOther) {
     slider(u"vcSkyRed"_s).setValue(30);
     EXPECT_EQ(record(1).red, 30);
     EXPECT_FALSE(isChanged()) << "no region applies before it was clicked";
+    clickPalette(3, 3);
+    EXPECT_TRUE(isChanged());
+    slider(u"vcSkyRed"_s).setValue(0);
     clickPalette(120, 120);
     EXPECT_EQ(labels(), QStringList(6, u"default"_s));
     slider(u"vcSkyRed"_s).setValue(-35);
