@@ -54,7 +54,8 @@ TEST_F(FlyCommand, installsTheSetOfTheWordOrOfTheReport) {
     placeSimulator("MZ");
     test::expectSteps(
         install,
-        {{u"config|set|runner|false"_s},
+        {{u"config|set|runner|true"_s, {u"{\"runner\":\"true\"}"_s}},
+         {u"config|set|runner|false"_s},
          {u"fly|OVC"_s, {u"Exclamation: Flight Simulator Not Started"_s, u"\"start\":\"none\""_s}, 1}});
 }
 

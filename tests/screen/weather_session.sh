@@ -21,10 +21,6 @@ cycleFile() {
     find "$home/METAR" -iname '[0-2][0-9]Z.txt'
 }
 
-hasNoCycleFile() {
-    [ -z "$(cycleFile)" ]
-}
-
 # The delivered reports are of other years.
 isStored() {
     "$programs/morvane-cli" --home "$home" metar show EHAM 2>/dev/null | grep -q "^Date: .* $(date -u +%Y) "
@@ -62,7 +58,7 @@ refreshCycle() {
     say "The weather page refreshes the cycle over HTTP, after a question"
     click "$mainWindow" $weatherKey
     click "$mainWindow" $inhibitBox
-    expect "no cycle file yet" hasNoCycleFile
+    expect "no cycle file yet" test -z "$(cycleFile)"
     click "$mainWindow" $refreshKey
     waitFor "the question" hasWindow "Check For New METAR?" $messageSize
     press "$(windowOf "Check For New METAR?")" Return

@@ -110,9 +110,11 @@ struct GroundDialogsTest : testing::Test {
 TEST_F(GroundDialogsTest, countsTakeDigitsAndAFullStopOnly) {
     const std::pair<QString, int> cases[] = {{u"1-2"_s, 12}, {u"x7 e"_s, 7}, {u"2.5"_s, 2},
                                              {u"3.5"_s, 4},  {u""_s, 0},     {u"12."_s, 12}};
-    for (const auto& [typed, count] : cases)
+    for (const auto& [typed, count] : cases) {
+        counts.setCounts[2] = 6;
         program.show(Screen::frm_TsRequired, [&, keys = typed, count = count](DialogForm& dialog) {
             auto* box = dialog.findChild<QLineEdit*>(u"txtMediumClouds"_s);
+            EXPECT_EQ(box->text(), u"6"_s);
             box->setFocus();
             box->selectAll();
             QTest::keyClick(box, Qt::Key_Backspace);
@@ -128,6 +130,7 @@ TEST_F(GroundDialogsTest, countsTakeDigitsAndAFullStopOnly) {
             dialog.cancel();
             EXPECT_FALSE(box->text().isEmpty()) << "it is not left empty";
         });
+    }
 }
 
 TEST_F(GroundDialogsTest, aDescriptionEndsAfter255Letters) {
