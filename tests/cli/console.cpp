@@ -1,12 +1,7 @@
 #include "cli/console.h"
 
 #include "cli/process_interrupt.h"
-#include "core/store_connection.h"
-#include "ground/ground_sets.h"
-#include "sky/sky_sets.h"
-#include "support/set_states.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QJsonDocument>
 #include <gtest/gtest.h>
@@ -34,16 +29,13 @@ QJsonArray ConsoleRun::array() const {
     return QJsonDocument::fromJson(output).array();
 }
 
-Console::Console(const QStringList& arguments)
-    : Console(QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), arguments) {}
-
-Console::Console(const QString& program, const QStringList& arguments) {
+Console::Console(const QStringList& arguments) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(u"MORVANE_HOME"_s);
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     process_.setProcessEnvironment(environment);
     allowInterrupts(process_);
-    process_.start(program, arguments);
+    process_.start(QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), arguments);
     if (!process_.waitForStarted(watchdogMilliseconds)) throw std::runtime_error("no console program");
 }
 
@@ -57,19 +49,12 @@ bool Console::waitForMessage(const QString& text) {
 }
 
 void Console::interrupt() {
-    sendInterrupt(process_.processId());
+    test::interrupt(process_);
 }
 
 void Console::kill() {
     process_.kill();
     process_.waitForFinished(watchdogMilliseconds);
-}
-
-bool Console::waitUntilInterruptsAre(bool caught) {
-    const QDeadlineTimer watchdog(watchdogMilliseconds);
-    while (catchesInterrupts(process_.processId()).value_or(caught) != caught)
-        if (watchdog.hasExpired()) return false;
-    return true;
 }
 
 ConsoleRun Console::finish(const QByteArray& input) {
@@ -107,21 +92,9 @@ void ConsoleInstall::addSet(const QString& name, const QString& cover, bool acti
     withStore([&](Session&) { addGroundSet(name, cover, activated, names); });
 }
 
-QString ConsoleInstall::sets() {
-    QString names;
-    withStore([&](Session&) { names = setStates<GroundKind>(session); });
-    return names;
-}
-
 void ConsoleInstall::addSky(const QString& name, const QString& cover, bool activated,
                             const QStringList& names) {
     withStore([&](Session&) { addSkySet(name, cover, activated, names); });
-}
-
-QString ConsoleInstall::skies() {
-    QString names;
-    withStore([&](Session&) { names = setStates<SkyKind>(session); });
-    return names;
 }
 
 QStringList ConsoleInstall::setFolders() const {

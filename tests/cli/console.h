@@ -1,6 +1,10 @@
 #pragma once
 
 #include "core/store_connection.h"
+#include "ground/ground_sets.h"
+#include "night/night_sets.h"
+#include "sky/sky_sets.h"
+#include "support/set_states.h"
 #include "support/small_install.h"
 
 #include <QJsonArray>
@@ -27,15 +31,11 @@ struct ConsoleRun {
 class Console {
 public:
     explicit Console(const QStringList& arguments);
-    /// Another program, such as one that gives it a terminal.
-    Console(const QString& program, const QStringList& arguments);
     /// Waits until stderr holds the text; false when the program ended before.
     bool waitForMessage(const QString& text);
     void interrupt();
     /// At once, as a power cut would.
     void kill();
-    /// Waits until the program catches interrupts, or until it does no longer.
-    bool waitUntilInterruptsAre(bool caught);
     ConsoleRun finish(const QByteArray& input = {});
 
 private:
@@ -63,12 +63,18 @@ public:
     }
     void addSet(const QString& name, const QString& cover, bool activated = true,
                 const QStringList& names = {u"Texture\\029h2su6.bmp"_s});
-    /// Names of all sets in the store with "+" behind an activated and "*" behind an installed one.
-    QString sets();
+    /// Names of all sets of a kind in the store with "+" behind an activated and "*" behind an installed one.
+    template <class Kind>
+    QString states() {
+        QString names;
+        withStore([&](Session&) { names = setStates<Kind>(session); });
+        return names;
+    }
+    QString sets() { return states<GroundKind>(); }
+    QString skies() { return states<SkyKind>(); }
+    QString nights() { return states<NightKind>(); }
     void addSky(const QString& name, const QString& cover, bool activated = true,
                 const QStringList& names = {u"day.bmp"_s});
-    /// The same of the sky sets.
-    QString skies();
     /// Names of the folders of sets.
     QStringList setFolders() const;
 };

@@ -51,6 +51,12 @@ TEST_F(FlyCommand, installsTheSetOfTheWordOrOfTheReport) {
         EXPECT_EQ(told[u"start"_s], QJsonValue(u"simulator"_s));
     }
     EXPECT_EQ(test::readFile(install.home() / u"METAR\\02Z.txt"), "EHAM"); // no exit of the program
+    placeSimulator("MZ");
+    test::expectSteps(
+        install,
+        {{u"config|set|runner|true"_s, {u"{\"runner\":\"true\"}"_s}},
+         {u"config|set|runner|false"_s},
+         {u"fly|OVC"_s, {u"Exclamation: Flight Simulator Not Started"_s, u"\"start\":\"none\""_s}, 1}});
 }
 
 TEST_F(FlyCommand, aReportWithoutCloudsOrANoInstallsNothing) {
@@ -73,35 +79,6 @@ TEST_F(FlyCommand, aReportWithoutCloudsOrANoInstallsNothing) {
     EXPECT_EQ(unasked.messages.count(u"No; use --answer yes"_s), 3) << unasked.messages.toStdString();
     EXPECT_EQ(contentsBelow(install.simulator()), before);
     EXPECT_FALSE(install.sets().contains(u'*'));
-}
-
-TEST_F(FlyCommand, aStartThatFailsIsAFailure) {
-    const std::tuple<QByteArray, QString, int, QString> cases[] = {
-        {"MZ", "false", 1, "none"},
-        {"MZ", "true", 0, "simulator"},
-        {"#!/nowhere/sh\n", {}, 1, "none"},
-    };
-    for (const auto& [simulator, runner, status, start] : cases) {
-        placeSimulator(simulator);
-        EXPECT_EQ(install.run(u"config set runner"_s, {runner}).status, 0);
-        const auto run = install.run(u"fly OVC"_s);
-        EXPECT_EQ(run.status, status) << simulator.constData() << runner.toStdString();
-        EXPECT_EQ(run.messages.count(u"Exclamation: Flight Simulator Not Started"_s), status);
-        EXPECT_EQ(run.objects().at(0)[u"start"_s], QJsonValue(start));
-    }
-}
-
-TEST_F(FlyCommand, theSplashOptionIsReadBeforeAnyInstall) {
-    install.addSky(u"2-Grey"_s, u"Overcast"_s);
-    install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"InhibitCustomSplash"_s, u"True"_s);
-    const QStringList commands[] = {
-        {"fly", "OVC"}, {"ground", "install", "2-Storm"}, {"sky", "install", "2-Grey"}};
-    for (const QStringList& command : commands) {
-        const auto run = install.run({}, command);
-        EXPECT_EQ(run.status, 0) << run.messages.toStdString();
-        EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash")
-            << command.join(u' ').toStdString();
-    }
 }
 
 TEST(FlightsCommand, loadsTheUsersFlightsAndListsThem) {

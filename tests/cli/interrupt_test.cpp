@@ -1,4 +1,5 @@
 #include "cli/console.h"
+#include "cli/process_interrupt.h"
 
 #include "support/printing.h"
 
@@ -24,7 +25,13 @@ test::ConsoleRun interruptedRun(ConsoleInstall& install, const QString& command,
     return run;
 }
 
-TEST(Interrupt, endsAGenerationWithoutTheUnfinishedSet) {
+struct Interrupt : testing::Test {
+    void SetUp() override {
+        if (!test::canInterrupt()) GTEST_SKIP() << "no console here that a program could be interrupted by";
+    }
+};
+
+TEST_F(Interrupt, endsAGenerationWithoutTheUnfinishedSet) {
     ConsoleInstall install({manyFiles("GENERIC WORLD", fileCount), 64});
     for (const QString& moment : {u"Process 1 of 2"_s, u"Process 2 of 2"_s}) {
         SCOPED_TRACE(moment.toStdString());
@@ -43,7 +50,7 @@ TEST(Interrupt, endsAGenerationWithoutTheUnfinishedSet) {
     }
 }
 
-TEST(Interrupt, letsAnInstallFinishItsListAndEndsTheRoadBehindIt) {
+TEST_F(Interrupt, letsAnInstallFinishItsListAndEndsTheRoadBehindIt) {
     const std::pair<QString, int> cases[] = {{"ground install 2-Storm", 0}, {"fly OVC", 1}};
     for (const auto& [command, status] : cases) {
         ConsoleInstall install;
@@ -57,7 +64,7 @@ TEST(Interrupt, letsAnInstallFinishItsListAndEndsTheRoadBehindIt) {
     }
 }
 
-TEST(Interrupt, atAQuestionEndsTheRoad) {
+TEST_F(Interrupt, atAQuestionEndsTheRoad) {
     ConsoleInstall install;
     install.addSet(u"2-Storm"_s, u"Overcast"_s);
     for (const QString& command : {u"ground delete 2-Storm"_s, u"fly OVC"_s}) {
@@ -66,15 +73,6 @@ TEST(Interrupt, atAQuestionEndsTheRoad) {
         EXPECT_TRUE(run.output.isEmpty());
     }
     EXPECT_EQ(install.sets(), u"Default+ 2-Storm+"_s);
-}
-
-TEST(Interrupt, aSecondOneKills) {
-    Console console({u"decode"_s}); // waits for its input
-    for (const bool caught : {true, false}) {
-        ASSERT_TRUE(console.waitUntilInterruptsAre(caught));
-        console.interrupt();
-    }
-    EXPECT_EQ(console.finish().status, -1);
 }
 
 } // namespace

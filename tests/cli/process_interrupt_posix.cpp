@@ -1,29 +1,21 @@
 #include "cli/process_interrupt.h"
 
-#include "core/literals.h"
-
-#include <QFile>
 #include <csignal>
 #include <stdexcept>
 
 namespace morvane::test {
 
-void allowInterrupts(QProcess&) {}
-
-void sendInterrupt(qint64 process) {
-    if (process <= 0)
-        throw std::runtime_error("the program has ended"); // 0 would be the test and all its kin
-    ::kill(static_cast<pid_t>(process), SIGINT);
+bool canInterrupt() {
+    return true;
 }
 
-/// The system's list of the signals that a process catches has one bit for each.
-std::optional<bool> catchesInterrupts(qint64 process) {
-    QFile status(u"/proc/%1/status"_s.arg(process));
-    if (!status.open(QIODevice::ReadOnly)) return false;
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("SigCgt:"))
-            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGINT - 1) & 1) != 0;
-    return false;
+void allowInterrupts(QProcess&) {}
+
+void interrupt(const QProcess& process) {
+    const auto id = static_cast<pid_t>(process.processId());
+    if (id <= 0)
+        throw std::runtime_error("the program has ended"); // to 0 it would go to the test and all its kin
+    ::kill(id, SIGINT);
 }
 
 } // namespace morvane::test

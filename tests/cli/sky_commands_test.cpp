@@ -75,9 +75,8 @@ TEST_F(SkyCommands, onePictureIsRecolouredByTenGroups) {
     EXPECT_EQ(result.pixel(5, 31), base.pixel(5, 31)); // nor has the low horizon
 
     const auto before = contentsBelow(install.folder.path());
-    for (const QByteArray& wrong : {QByteArray("[]"), QByteArray("no JSON"), QByteArray(R"({"a":1})"),
-                                    QByteArray(R"(["1:2","","","","","","","","",""])"),
-                                    QByteArray(R"(["a:0:0:0:0:0:0:0:0","","","","","","","","",""])")}) {
+    for (const QByteArray& wrong :
+         {QByteArray("no JSON"), QByteArray(R"(["a:0:0:0:0:0:0:0:0","","","","","","","","",""])")}) {
         writeFile(groups, wrong);
         EXPECT_EQ(test::runConsole(u"recolour-sky"_s, files).status, 1) << wrong.toStdString();
         EXPECT_EQ(test::readFile(out), before.value(u"out.bmp"_s));

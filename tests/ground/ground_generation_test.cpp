@@ -1,18 +1,20 @@
 #include "core/store.h"
 #include "ground/ground_generation.h"
+#include "ground/ground_randomiser.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "imaging/picture_reader.h"
+#include "sets/slider_values.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace morvane {
 namespace {
 
-using test::contentsBelow;
 using test::SmallInstall;
 
 /// Makes as many sets of each cover as said, out of the base images.
@@ -62,46 +64,13 @@ TEST(GroundGeneration, makesARowAndAFileForEachBaseImage) {
     EXPECT_LT(texture.rows[5 * 48 + 2], base.rows[5 * 48 + 2] + 8); // darker in red, as an overcast is
     EXPECT_NE(texture.rows, base.rows);
 
-    EXPECT_TRUE(install.user.calls.contains("hide frm_Main"));
-    EXPECT_EQ(install.user.calls.mid(install.user.calls.size() - 2),
-              QStringList({"refresh frm_Main", "show frm_Main"}));
+    EXPECT_EQ(install.user.calls.last(2), QStringList({"refresh frm_Main", "show frm_Main"}));
     // Category 10's winter file stands twice: six list entries for five base images.
     EXPECT_TRUE(install.user.calls.contains("file Processing file 6 of 6 files"));
     EXPECT_EQ(
         install.user.messages[0].text,
         "Colorizing texture set 1 of 1 texture sets.  Process 1 of 2 Be aware that this may take 20 - 30 "
         "minutes per set dependant on your system specification. \nPlease wait............");
-}
-
-/// The textures of all sets, and one set's bitmaps where no run before has left them.
-TEST(GroundGeneration, tellsWhatItTakesBeforeItStarts) {
-    SmallInstall install;
-    install.user.allowsRuns = false;
-    create(install, {10, 0, 0, 0, 11});
-    EXPECT_EQ(setFolders(install), QStringList());
-    install.user.allowsRuns = true;
-    create(install, {0, 0, 0, 0, 1});
-    create(install, {0, 0, 0, 0, 20});
-    const auto sizeBelow = [&](const char16_t* folder) {
-        std::int64_t size = 0;
-        for (const QByteArray& contents : contentsBelow(install.home() / folder))
-            size += contents.size();
-        return size;
-    };
-    const double textures = static_cast<double>(sizeBelow(u"Texture Sets")) / 21, bitmaps = 5 * 16 * 16 * 3;
-    ASSERT_EQ(install.user.runs.size(), 3);
-    const std::tuple<QString, double, bool> expected[] = {{"21 ground sets", 21 * textures + bitmaps, true},
-                                                          {"1 ground set", textures + bitmaps, false},
-                                                          {"20 ground sets", 20 * textures, false}};
-    for (std::size_t i = 0; i < 3; ++i) {
-        const RunSize& run = install.user.runs[i];
-        const auto& [what, bytes, isQuestionWanted] = expected[i];
-        EXPECT_EQ(run.what, what);
-        EXPECT_NEAR(static_cast<double>(run.bytes), bytes, bytes / 50) << i;
-        EXPECT_EQ(run.isQuestionWanted, isQuestionWanted);
-        EXPECT_GT(run.freeBytes, run.bytes);
-        EXPECT_GT(run.seconds, 0);
-    }
 }
 
 TEST(GroundGeneration, reportsItsDuration) {
@@ -172,6 +141,36 @@ TEST(GroundGeneration, aLockedStoreEndsARunWithOneMessageBeforeItMakesAnyFile) {
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
     EXPECT_TRUE(install.user.calls.contains("show frm_Main"));
     EXPECT_TRUE(setFolders(install).isEmpty());
+}
+
+TEST(GroundRandomiser, drawsEachFieldInItsRange) {
+    // The cloud number, and the lowest and highest: saturation, red, green, blue, brightness, contrast.
+    const std::tuple<int, SliderValues, SliderValues> cases[] = {
+        {1, {0, 0, 0, 0, 10, 0}, {0, 9, 4, 0, 49, 29}},
+        {2, {0, 0, 0, 0, 0, -5}, {0, 9, 0, 0, 19, 14}},
+        {3, {0, -10, 0, -5, -5, -5}, {0, -1, 0, 4, 4, 4}},
+        {4, {0, -15, 0, 0, -5, -10}, {0, -6, 0, 24, 4, 4}},
+        {5, {0, -22, 0, 20, -10, -10}, {0, -11, 0, 49, -1, -1}},
+    };
+    SmallInstall install;
+    for (const auto& [cloudNumber, lowest, highest] : cases)
+        for (const double fraction : {0.0, 0.99999999999999989}) {
+            SliderValues values{};
+            install.random.numbers = {fraction};
+            getRandomGroundValues(install.session, cloudNumber, values);
+            EXPECT_EQ(values, fraction == 0 ? lowest : highest) << cloudNumber;
+        }
+}
+
+TEST(GroundRandomiser, realSourceGivesEachFieldAFractionOfItsOwn) {
+    ReseedingRandomSource source;
+    std::set<double> drawn;
+    for (int i = 0; i < 1000; ++i)
+        drawn.insert(source.draw());
+    EXPECT_EQ(drawn.size(), 1000);
+    EXPECT_LT(*drawn.begin(), 0.05);
+    EXPECT_GT(*drawn.rbegin(), 0.95);
+    EXPECT_LT(*drawn.rbegin(), 1);
 }
 
 } // namespace

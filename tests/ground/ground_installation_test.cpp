@@ -94,27 +94,20 @@ TEST_F(GroundInstall, defaultBringsTheBodiesAndItsSplashWhateverTheOption) {
     EXPECT_EQ(world(u"new.bmp"), "2-Storm Texture\\new.bmp"); // what the new set lacks keeps its content
 }
 
-TEST_F(GroundInstall, readOnlyTargetsRaiseLinksAreReplacedAndModesStay) {
-    const FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029h2su6.bmp";
-    const QString onDisk = (install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP").native();
-    install.files.setReadOnly(texture, true);
-    installSet("2-Storm");
-    EXPECT_EQ(world(u"029h2su6.bmp"), "the pilot's GENERIC WORLD\\029h2su6.bmp");
-    ASSERT_EQ(install.user.told().size(), 1);
-    EXPECT_TRUE(install.user.told()[0].startsWith("Error|Morvane Error|Permission denied: "));
-
+TEST_F(GroundInstall, linksAreReplacedAndModesStay) {
+    const FilePath world = install.simulator() / u"Scenery\\World\\texture",
+                   elsewhere = install.folder / u"else.bmp";
+    const QString onDisk = (world / u"029H2SU6.BMP").native();
     QFile::setPermissions(onDisk, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+    install.files.remove(world / u"029b2su6.bmp");
+    writeFile(elsewhere, "mine");
+    ASSERT_TRUE(QFile::link(elsewhere.native(), (world / u"029b2su6.bmp").native()));
     installSet("2-Storm");
-    EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Texture\\029h2su6.bmp");
+    EXPECT_EQ(readFile(world / u"029h2su6.bmp"), "2-Storm Texture\\029h2su6.bmp");
     EXPECT_TRUE(QFile::permissions(onDisk).testFlag(QFile::ReadGroup));
     EXPECT_FALSE(QFile::permissions(onDisk).testFlag(QFile::ReadOther));
-
-    install.files.remove(texture);
-    writeFile(install.folder / u"elsewhere.bmp", "mine");
-    ASSERT_TRUE(QFile::link((install.folder / u"elsewhere.bmp").native(), texture.native()));
-    installSet("2-Storm");
-    EXPECT_EQ(world(u"029h2su6.bmp"), "2-Storm Texture\\029h2su6.bmp");
-    EXPECT_EQ(readFile(install.folder / u"elsewhere.bmp"), "mine");
+    EXPECT_EQ(readFile(world / u"029b2su6.bmp"), "2-Storm Texture\\029B2SU6.BMP");
+    EXPECT_EQ(readFile(elsewhere), "mine");
 }
 
 } // namespace

@@ -32,21 +32,12 @@ TEST(BlockEncoder, everyInstructionSetGivesTheBytesOfThePlainArithmetic) {
     const auto noise = [&random](unsigned range) { return static_cast<unsigned>(random() % range); };
     const std::pair<const char*, Channel> pictures[] = {
         {"noise", [&](auto, auto, auto) { return noise(256); }},
-        {"little noise on a slope",
-         [&](auto block, auto pixel, auto channel) {
-             return static_cast<unsigned>(block * 3 + pixel * (channel + 1)) / 2 % 250 + noise(5);
-         }},
         {"one colour",
          [&](auto block, auto, auto channel) { return static_cast<unsigned>(block * (3 + channel)); }},
-        {"one colour but for a pixel",
-         [&](auto block, auto pixel, auto channel) {
-             return static_cast<unsigned>(pixel == 5 && channel == block % 3 ? block * 4 : block);
-         }},
         {"two colours",
          [&](auto block, auto pixel, auto channel) {
              return static_cast<unsigned>((pixel + block) % 2 != 0 ? 255 - block : block * channel % 256);
          }},
-        {"black and white", [&](auto, auto, auto) { return noise(2) * 255; }},
         {"channels against each other",
          [&](auto block, auto pixel, auto channel) {
              const auto rising = static_cast<unsigned>(pixel * 16 + block / 4);
@@ -64,7 +55,7 @@ TEST(BlockEncoder, everyInstructionSetGivesTheBytesOfThePlainArithmetic) {
                 EXPECT_EQ(bytesBy(encoders[encoder], group), first) << name << ' ' << encoder;
             digest.addData(first);
         }
-    EXPECT_EQ(digest.result().toHex().toStdString(), "c228ff0e14193bf5f5237364762ffed6491cd45d");
+    EXPECT_EQ(digest.result().toHex().toStdString(), "093b0170a6f8a512b3759b5c555d22e96e33d697");
 }
 
 } // namespace

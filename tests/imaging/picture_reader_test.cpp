@@ -3,9 +3,11 @@
 #include "core/error.h"
 #include "imaging/bitmap_builder.h"
 #include "imaging/picture_letters.h"
+#include "imaging/pixel_buffer.h"
 #include "support/printing.h"
 #include "support/temporary_folder.h"
 
+#include <QImage>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -98,6 +100,23 @@ TEST(PictureReader, rowEndsAreCleared) {
     const Picture picture = readPicture(bitmapFile({.pixels = QByteArray(24, '\xAA')}));
     for (const std::size_t at : {9, 10, 11, 21, 22, 23})
         EXPECT_EQ(picture.rows.at(at), 0) << at;
+}
+
+TEST(PixelBuffer, SavesAPictureAsItStandsBehindTheHeaderOfItsOwnLayout) {
+    test::TemporaryFolder folder;
+    const FilePath file = folder / u"saved.bmp";
+    test::writeFile(file, QByteArray(300000, 'x'));
+    cDIBSection buffer;
+    buffer.CreateFromPicture({2, 2, {1, 2, 3, 4, 5, 6, 0, 0, 7, 8, 9, 10, 11, 12, 0, 99}});
+    ASSERT_TRUE(buffer.SavePicture(file));
+    const QByteArray expected = QByteArray::fromHex("424d 4a000000 00000000 3a000000"
+                                                    "28000000 02000000 02000000 0100 1800 00000000 10000000"
+                                                    "00000000 00000000 00000000 00000000 00000000"
+                                                    "010203 040506 0000 070809 0a0b0c 0063");
+    EXPECT_EQ(test::readFile(file).toHex(' '), expected.toHex(' '));
+    EXPECT_EQ(QImage(file.native()).pixel(1, 0), qRgb(12, 11, 10));
+    EXPECT_THROW(buffer.CreateFromPicture({2, 2, {1, 2, 3}}), Error);
+    EXPECT_FALSE(buffer.isCreated());
 }
 
 } // namespace

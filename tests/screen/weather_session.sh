@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# weather_session.sh PROGRAMS: flights with the window program, as a user has them, with a real mouse and keyboard:
-# the cycle is refreshed over HTTP, airports are found and chosen, the cover comes from a report and from the
-# airports, the sets that match are installed and the simulator starts.
+# weather_session.sh PROGRAMS: a flight with the window program, as a user has it, with a real mouse and keyboard:
+# the cycle is refreshed over HTTP, the cover comes from a report, the sets that match are installed and the
+# simulator starts.
 # MORVANE_SCREENSHOTS=FOLDER gets a picture of a failure. Exit status 77: a tool is missing here.
 set -uo pipefail
 programs=$1
@@ -11,26 +11,14 @@ here=$(dirname "$0")
 # Places in the windows -----------------------------------------------------------------------------------
 
 readonly weatherKey="71 479"
-readonly icaoBox="182 167" firstAirport="240 262" destinationOption="435 367" inhibitBox="581 367"
-readonly flyKey="232 513" finderKey="508 513" refreshKey="646 513"
-readonly reportFilter="475 173" firstReport="240 228"
-readonly wideOk="604 464" messageOk="304 266"
-readonly finder="Select weather phenomena you require" decoded="Fully Decoded METAR"
-readonly choice="Select Method of obtaining Cloud Cover"
-
-# Two of the four ways to a cover: place in the choice, window and size.
-readonly airports="132|Values from Wx Control Screen|$wideSize"
-readonly report="192|Enter full METAR String for processing|$messageSize"
+readonly inhibitBox="581 367" flyKey="232 513" refreshKey="646 513" reportOption="60 192" messageOk="304 266"
+readonly choice="Select Method of obtaining Cloud Cover" report="Enter full METAR String for processing"
 
 # Steps ---------------------------------------------------------------------------------------------------
 
 # The last hour's name, as a download is called in the install.
 cycleFile() {
     find "$home/METAR" -iname '[0-2][0-9]Z.txt'
-}
-
-hasNoCycleFile() {
-    [ -z "$(cycleFile)" ]
 }
 
 # The delivered reports are of other years.
@@ -70,7 +58,7 @@ refreshCycle() {
     say "The weather page refreshes the cycle over HTTP, after a question"
     click "$mainWindow" $weatherKey
     click "$mainWindow" $inhibitBox
-    expect "no cycle file yet" hasNoCycleFile
+    expect "no cycle file yet" test -z "$(cycleFile)"
     click "$mainWindow" $refreshKey
     waitFor "the question" hasWindow "Check For New METAR?" $messageSize
     press "$(windowOf "Check For New METAR?")" Return
@@ -80,50 +68,6 @@ refreshCycle() {
     expect "the file is the served one" cmp -s "$here/../../data/metar/02Z.TXT" "$(cycleFile)"
 }
 
-readReport() {
-    waitFor "the report in plain words of $1" hasWindow "$decoded" $wideSize
-    press "$(windowOf "$decoded")" Return
-    waitFor "the report to go" hasNoWindow "$decoded"
-}
-
-# A click that comes while the cycle is being loaded is lost.
-openFinder() {
-    hasWindow "$finder" $wideSize && return
-    click "$mainWindow" $finderKey
-    return 1
-}
-
-chooseAirports() {
-    say "The finder gives the departure, the list of airports the destination; each report is shown in plain words"
-    local window
-    waitFor "the finder" openFinder
-    window=$(windowOf "$finder" $wideSize)
-    click "$window" $reportFilter
-    xdotool type --window "$window" EHAM
-    click "$window" $firstReport
-    click "$window" $wideOk
-    readReport EHAM
-    waitFor "the weather page" isVisible "$mainWindow"
-    click "$mainWindow" $destinationOption
-    click "$mainWindow" $icaoBox
-    xdotool type --window "$mainWindow" KSEA
-    click "$mainWindow" $firstAirport
-    readReport KSEA
-}
-
-# openWay WAY: from the choice to that way's window, which is $way afterwards.
-openWay() {
-    local window y name size
-    IFS='|' read -r y name size <<<"$1"
-    click "$mainWindow" $flyKey
-    waitFor "the choice of a way" hasWindow "$choice" $messageSize
-    window=$(windowOf "$choice" $messageSize)
-    click "$window" 60 "$y"
-    press "$window" Return
-    waitFor "$name" hasWindow "$name" "$size"
-    way=$(windowOf "$name" "$size")
-}
-
 # answer WINDOW KEY
 answer() {
     waitFor "$1" hasWindow "$1" $messageSize
@@ -131,38 +75,35 @@ answer() {
     waitFor "the end of $1" hasNoWindow "$1"
 }
 
-# expectInstall COVER LAUNCH-KEY: all the way behind a cover that was chosen.
-expectInstall() {
-    answer "Install Textures?" Return
-    answer "Start Predefined Flight" Escape
-    answer "Launch Flight Simulator?" "$2"
-    expect "the set for $1 is installed" test "$(installedSets)" = "$(setFor "$1")"
-}
-
-setFor() {
-    groundSets | awk -F'|' -v cover="$1" '$2 == cover { print $1 }'
-}
-
-flyByReport() {
-    say "The cover of a report that was typed in installs the set that matches"
-    openWay "$report"
-    xdotool type --window "$way" "EGLL 241220Z 24015KT 9999 SCT030 18/09 Q1012"
-    press "$way" Return
-    click "$way" $messageOk
-    expectInstall "Partly Cloudy" Escape
-}
-
 hasStarted() {
     [ "$(cat "$simulator/fs9.starts.jsonl" 2>/dev/null | wc -l)" = 1 ]
 }
 
-flyBetweenAirports() {
-    say "The cover between the airports; the simulator starts and the program makes room for it"
-    openWay "$airports"
-    expect "the simulator has not started yet" test ! -e "$simulator/fs9.starts.jsonl"
-    press "$way" Return
-    expectInstall "Mostly Cloudy" Return
-    expect "its files are in the simulator" isInSimulator "$(setFor "Mostly Cloudy")"
+# A click that comes while the cycle is being loaded is lost.
+openChoice() {
+    hasWindow "$choice" $messageSize && return
+    click "$mainWindow" $flyKey
+    return 1
+}
+
+flyByReport() {
+    say "The cover of a report that was typed in installs the set that matches; the simulator starts and has room"
+    local set
+    waitFor "the choice of a way" openChoice
+    window=$(windowOf "$choice" $messageSize)
+    click "$window" $reportOption
+    press "$window" Return
+    waitFor "$report" hasWindow "$report" $messageSize
+    window=$(windowOf "$report" $messageSize)
+    xdotool type --window "$window" "EGLL 241220Z 24015KT 9999 BKN030 18/09 Q1012"
+    press "$window" Return
+    click "$window" $messageOk
+    answer "Install Textures?" Return
+    answer "Start Predefined Flight" Escape
+    answer "Launch Flight Simulator?" Return
+    set=$(setNames)
+    expect "the set for the report is installed" test "$(installedSets)" = "$set"
+    expect "its files are in the simulator" isInSimulator "$set"
     waitFor "the simulator's start" hasStarted
     waitFor "the main window to go" isHidden "$mainWindow"
 }
@@ -172,7 +113,5 @@ serveCycle
 startDisplay
 dragMainWindow
 refreshCycle
-chooseAirports
 flyByReport
-flyBetweenAirports
 say "Done"

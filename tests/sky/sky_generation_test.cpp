@@ -1,14 +1,16 @@
 #include "sky/sky_generation.h"
 
 #include "core/store.h"
-#include "imaging/picture_reader.h"
 #include "sets/favourite_name.h"
+#include "sets/set_removal.h"
+#include "sky/sky_activation.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_install.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_texture_sub_sets.h"
 #include "sky/sky_tuning_state.h"
 #include "support/printing.h"
+#include "support/set_states.h"
 
 #include <gtest/gtest.h>
 
@@ -33,14 +35,7 @@ struct SkyGenerationTest : testing::Test {
             sets << set->CloudCover + u" of "_s + set->TextureSetGroup;
         return sets;
     }
-    QStringList setFolders() { return install.files.listFolders(sets()); }
     QStringList filesOf(const QString& set) { return install.files.list(sets() / set, u"*.*"_s); }
-    /// Runs `action` as the `n`-th file is told of.
-    void atFile(int n, const std::function<void()>& action) {
-        install.user.onPump = [=, this] {
-            if (install.user.calls.filter(u"file Coloring"_s).size() >= n) action();
-        };
-    }
     FilePath sets() const { return install.home() / u"Sky Texture Sets"; }
 
     test::SkyInstall install;
@@ -69,48 +64,18 @@ TEST_F(SkyGenerationTest, storesASetAndColoursEveryFileOfItsBase) {
 
     // "Day" alone, none of sunrise and sunset, and the simulator's own spelling of the names.
     EXPECT_EQ(filesOf(first), install.skyFiles);
-    SkySample sample(session, SkyTable::texture);
-    for (const QString& name : install.skyFiles) {
-        ASSERT_TRUE(sample.openImage(install.stock(u"Tropical"_s) / name));
-        const FilePath wanted = install.folder / name;
-        ASSERT_TRUE(sample.resultDib().SavePicture(wanted));
-        EXPECT_EQ(test::readFile(sets() / first / name), test::readFile(wanted)) << name.toStdString();
-        EXPECT_NE(loadPicture(install.files, wanted).rows,
-                  loadPicture(install.files, install.stock(u"Tropical"_s) / name).rows);
-    }
-    EXPECT_TRUE(install.user.told().isEmpty());
-}
-
-TEST_F(SkyGenerationTest, tellsHowFarItIs) {
-    create({u"Default"_s}, {1, 0, 0, 0, 0});
+    QByteArray made;
+    for (const QString& name : install.skyFiles)
+        made += test::readFile(sets() / first / name);
+    EXPECT_EQ(qChecksum(made), 24126) << "all groups of a partly cloudy sky, drawn in the middle";
     EXPECT_EQ(install.user.messages.front().text,
               "Processing your sky textures.  Please wait until the process has finished.  This may take a "
               "few minutes dependant on your system specification!");
-    EXPECT_EQ(install.user.calls,
-              QStringList({"modal frm_SelectSkyTexture", "message Progress Morvane Information",
-                           "progress 0 Processing Sky Texture Set 1 of 1.  Please wait until the process has "
+    EXPECT_EQ(install.user.calls.mid(2, 3),
+              QStringList({"progress 0 Processing Sky Texture Set 1 of 1.  Please wait until the process has "
                            "finished............",
-                           "progress 20", "file Coloring sky_afternoon_3.bmp which is file 1 of 3",
-                           "progress 40", "file Coloring sky_day_1.bmp which is file 2 of 3", "progress 60",
-                           "file Coloring Sky_Day_2.BMP which is file 3 of 3", "hide message", "hide message",
-                           "refresh frm_Main", "show frm_Main"}));
-}
-
-TEST_F(SkyGenerationTest, allSetsOfABaseComeBeforeTheNext) {
-    session.state<SkySelection>().selectedRows = QStringList{u"a row that was ticked"_s};
-    create({u"Sunny"_s, u"Default"_s}, {2, 1, 0, 0, 3}, false);
-    EXPECT_TRUE(session.state<SkySelection>().selectedRows.isEmpty());
-    EXPECT_EQ(stored(),
-              QStringList({"Sky Clear of Default", "Sky Clear of Default", "Mostly Clear of Default",
-                           "Sky Clear of Sunny", "Sky Clear of Sunny", "Mostly Clear of Sunny"}));
-    EXPECT_EQ(setFolders().size(), 6); // the same second, told apart by their keys
-    // The overcast sets are counted although none is made.
-    EXPECT_EQ(install.user.calls.filter(u"Processing Sky Texture Set 6 of 9."_s).size(), 1);
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, u"6"_s + first.mid(1));
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkyKey, "Key:6");
-    EXPECT_TRUE(session.state<SkySelection>().SelectedSkyActivated);
-    EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
-    EXPECT_EQ(install.user.calls.last(), "show frm_KMTextures");
+                           "progress 20", "file Coloring sky_afternoon_3.bmp which is file 1 of 3"}));
+    EXPECT_TRUE(install.user.told().isEmpty());
 }
 
 TEST_F(SkyGenerationTest, tellsWhatItTakesBeforeItStarts) {
@@ -128,7 +93,10 @@ TEST_F(SkyGenerationTest, tellsWhatItTakesBeforeItStarts) {
 }
 
 TEST_F(SkyGenerationTest, aCancelKeepsWhatIsThere) {
-    atFile(5, [this] { install.user.answers().cancelRequested = true; });
+    install.user.onPump = [this] {
+        if (install.user.calls.filter(u"file Coloring"_s).size() == 5)
+            install.user.answers().cancelRequested = true;
+    };
     create({u"Default"_s, u"Overcast"_s}, {4, 0, 0, 0, 1});
     EXPECT_EQ(stored().size(), 2);
     EXPECT_EQ(filesOf(first), install.skyFiles);
@@ -155,18 +123,6 @@ TEST_F(SkyGenerationTest, whatFailsIsToldOnceAndTheRowsStand) {
     EXPECT_FALSE(install.user.isMessageVisible());
 }
 
-TEST_F(SkyGenerationTest, aMissingStockLeavesAnEmptyFolderAndNoJobStartsInsideAnother) {
-    for (const QString& name : install.skyFiles)
-        install.files.remove(install.stock(u"Sunny"_s) / name);
-    atFile(0, [this] { SkyGeneration(session).createSkySets(true); });
-    create({u"Sunny"_s}, {1, 0, 0, 0, 0});
-    EXPECT_EQ(install.user.calls.filter(u"modal"_s).size(), 1);
-    EXPECT_EQ(setFolders(), QStringList{first});
-    EXPECT_TRUE(filesOf(first).isEmpty());
-    EXPECT_TRUE(install.user.calls.contains(
-        u"progress 0 There are no files available to process for the settings you selected....."_s));
-}
-
 TEST_F(SkyGenerationTest, aRefusedRowEndsTheRunWithOneMessageAndMakesNoFile) {
     for (const QString& table : {u"SKY_TEXTURE_SETS"_s, u"SKY_TEXTURE_SUB_SETS"_s}) {
         install.user.messages.clear();
@@ -183,28 +139,44 @@ TEST_F(SkyGenerationTest, aRefusedRowEndsTheRunWithOneMessageAndMakesNoFile) {
         EXPECT_FALSE(generation.colourSkySetFiles(QString::fromLatin1(name), u"Sunny"_s, skyDay, {}, 1, 1));
 }
 
-struct TunedSky : SkyGenerationTest {
-    void nameFavourite(const QString& name, const QString& description, bool confirmed = true) {
-        install.user.onModal = [=, this](Screen screen) {
-            ASSERT_EQ(screen, Screen::frm_AddFav);
-            EXPECT_EQ(session.state<FavouriteAnswer>().favName +
-                          session.state<FavouriteAnswer>().favDescription,
-                      u""_s); // not those of last time
-            session.state<FavouriteAnswer>().favName = name;
-            session.state<FavouriteAnswer>().favDescription = description;
-            session.state<FavouriteAnswer>().favConfirmed = confirmed;
+TEST_F(SkyGenerationTest, severalActivatedGetTheDayOnlyAndACancelEndsThemBeforeTheNext) {
+    for (const char* name : {"1-A", "2-B", "4-D"})
+        install.addSkySet(name, "Overcast", false);
+    install.addSkySet("3-C", "Overcast", true);
+    install.user.onModal = [this](Screen) { // all that is offered but for the last name
+        auto& choice = session.state<MultiChoice>();
+        choice.multiConfirmed = choice.multiNames.first(choice.multiNames.size() - 1);
+    };
+    const auto activate = [this](const QStringList& ticked) {
+        EXPECT_TRUE(clickSkyRow(session, "4-D"));
+        session.state<SkySelection>().selectedRows = ticked;
+        SkyActivation(session).activateInHand();
+        return test::setStates<SkyKind>(session);
+    };
+    install.user.onPump = [&] { install.user.answers().cancelRequested = true; };
+    EXPECT_EQ(activate({"1-A", "3-C", "2-B", "4-D"}), "1-A+ 2-B 4-D 3-C+");
+    install.user.onPump = [] {};
+    EXPECT_EQ(activate({"3-C", "2-B", "4-D"}), "1-A+ 2-B+ 4-D 3-C+");
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "2-B") << "the last one that was made";
+    EXPECT_EQ(filesOf(u"2-B"_s), install.skyFiles);
+    EXPECT_TRUE(filesOf(u"3-C"_s).isEmpty()) << "it is activated already";
+}
+
+TEST_F(SkyGenerationTest, aTunedSkyIsStoredWithoutFiles) {
+    const auto nameFavourite = [this](const FavouriteAnswer& given) {
+        install.user.onModal = [=, this](Screen) {
+            auto& answer = session.state<FavouriteAnswer>();
+            EXPECT_EQ(answer.favName + answer.favDescription, u""_s) << "not those of last time";
+            answer = given;
         };
         SkyGeneration(session).newFavSky();
-    }
-};
-
-TEST_F(TunedSky, isStoredWithoutFiles) {
+    };
     loadSkyTuning(session);
     tuneCloudCover(session, 4);
     session.state<SkyTuningState>().baseSet = u"Pro Sky"_s;
     session.state<SkyColourTables>().skyPaletteGroups[5].saturation = 7; // never clicked: no region yet
     session.state<SkyColourTables>().skyPaletteGroups[8].contrast = -5;
-    nameFavourite(u"  ..\\..\\Pilot's storm "_s, u" wet & windy "_s);
+    nameFavourite({u"  ..\\..\\Pilot's storm "_s, u" wet & windy "_s, true});
 
     const auto set = install.reloadedSkySets().GetItem(1);
     EXPECT_EQ((QStringList{set->SkyTextureSet, set->Description, set->CloudCover, set->TextureSetGroup,
@@ -223,28 +195,21 @@ TEST_F(TunedSky, isStoredWithoutFiles) {
               "0:0:0:0:0:-5:1:32:1 -1:32:255");
     EXPECT_EQ(session.state<SkyColourTables>().skyPaletteGroups[5].PixelXHigh, 31);
 
-    EXPECT_EQ(setFolders(), QStringList{"1-.._.._Pilot's storm"});
-    EXPECT_TRUE(filesOf(u"1-.._.._Pilot's storm"_s).isEmpty());
-    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, "1-.._.._Pilot's storm");
-    EXPECT_FALSE(session.state<SkySelection>().SelectedSkyActivated);
+    EXPECT_EQ(install.files.listFolders(sets()), QStringList{set->SkyTextureSet});
+    EXPECT_TRUE(filesOf(set->SkyTextureSet).isEmpty());
+    EXPECT_EQ(session.state<SkySelection>().SelectedSkySet, set->SkyTextureSet);
     EXPECT_EQ(session.state<SkyColourTables>().skyTextureGroups[5].saturation, 7); // its preview
     EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
     EXPECT_EQ(install.user.calls.last(2), QStringList({"refresh frm_KMTextures", "show frm_KMTextures"}));
-    nameFavourite(u"Storm"_s, {}, false);
+    nameFavourite({u"Storm"_s, {}, false});
     EXPECT_EQ(stored().size(), 1) << "without OK nothing is stored";
 }
 
-struct StoredSky : SkyGenerationTest {
-    void put(const QString& column, const QString& text) {
-        session.adoConn->execute(u"UPDATE SKY_TEXTURE_SUB_SETS SET %1 = '%2'"_s.arg(column, text));
-    }
-    SkyGroup group(int number) {
-        return skyRecord(session.state<SkyColourTables>().skyTextureGroups, number);
-    }
-};
-
-TEST_F(StoredSky, isLoadedIntoTheTableAndTheSelection) {
+TEST_F(SkyGenerationTest, aStoredSkyIsLoadedIntoTheTableAndTheSelection) {
     create({u"Default"_s, u"Sunny"_s}, {1, 0, 0, 0, 0});
+    const auto group = [this](int number) {
+        return skyRecord(session.state<SkyColourTables>().skyTextureGroups, number);
+    };
     const SkyGroup sunny = group(10);
     ASSERT_TRUE(loadSkySubSet(session, u"Key:1"_s, u"Day"_s));
     EXPECT_EQ(session.state<SkySelection>().SelectedSkySet + u' ' +
@@ -257,8 +222,8 @@ TEST_F(StoredSky, isLoadedIntoTheTableAndTheSelection) {
     ASSERT_TRUE(loadSkySubSet(session, u"Key:1"_s, u"Sunrise"_s)); // no such sub set
     EXPECT_EQ(group(6).PixelXLow, 0);
 
-    put(u"MAIN_SKY"_s, u" "_s);
-    put(u"DARK_GROUND"_s, u"1:2:3:4:5:6,5:7:8:9"_s);
+    session.adoConn->execute(
+        u"UPDATE SKY_TEXTURE_SUB_SETS SET MAIN_SKY = ' ', DARK_GROUND = '1:2:3:4:5:6,5:7:8:9'"_s);
     ASSERT_TRUE(loadSkySubSet(session, u"Key:1"_s, u"Day"_s));
     EXPECT_EQ(skyColourString(group(10), skyGroup(10)), "0:0:0:0:0:0:1:32:255") << "an empty text";
     EXPECT_EQ(group(10).PixelY, 0);

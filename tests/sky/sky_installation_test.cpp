@@ -2,7 +2,6 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
-#include "simulator/simulator_launch.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
@@ -19,30 +18,21 @@ using test::readFile;
 using test::SmallInstall;
 using test::writeFile;
 
-const QString launchQuestion =
-    "Question|Launch Flight Simulator?|Would you like Morvane to start Flight Simulator now?";
-
 struct SkyInstall : testing::Test {
     SmallInstall install;
     Session& session = install.session;
 
     void SetUp() override {
-        install.user.answersToGive = {true}; // the match is wanted, the simulator's start is not
-        install.user.otherwise = false;
+        install.user.answersToGive = {true}; // the match is wanted
         install.addSkySet("1-Storm", "Overcast", true, {"cloud.bmp", "SKY_1.BMP", "notes.txt"});
         writeFile(install.simulator() / u"Texture\\sky_1.bmp", "the pilot's sky");
         writeFile(install.simulator() / u"Texture\\sky_2.bmp", "the pilot's second sky");
     }
-    /// As the key does it; true when the start of the simulator was offered behind it.
-    bool installSky(const QString& name, bool automatic = true) {
+    void installSky(const QString& name, bool automatic = true) {
         session.state<SkySelection>().SelectedSkySet = name;
         if (const auto record = findSkySet(session, name))
             session.state<SkySelection>().SelectedSkyCover = record->CloudCover;
-        return offerStart(SkyInstallation(session).installSkySet(automatic));
-    }
-    bool offerStart(bool isDue) {
-        if (isDue) offerSimulatorStart(session);
-        return isDue;
+        SkyInstallation(session).installSkySet(automatic);
     }
     QByteArray texture(const char16_t* name) { return readFile(install.simulator() / u"Texture" / name); }
     QByteArray splash() { return readFile(install.simulator() / u"Uires\\dlgsplash.bmp"); }
@@ -71,41 +61,17 @@ TEST_F(SkyInstall, copiesTheBitmapsAndRecordsTheSet) {
     EXPECT_EQ(readFile(install.home() / u"Backup\\Originals\\Texture\\sky_1.bmp"), "the pilot's sky");
 }
 
-TEST_F(SkyInstall, byHandItOffersTheGroundAndRebuildsTheList) {
-    install.user.answersToGive = {false};
-    installSky("1-Storm", false);
-    EXPECT_EQ(
-        install.user.told(),
-        QStringList({"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
-                     "matching Ground Texture set?",
-                     launchQuestion}));
-    EXPECT_TRUE(install.installedSets().isEmpty());
-    EXPECT_EQ(install.installedSkySets(), QStringList{"1-Storm"});
-    EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
-    EXPECT_TRUE(install.user.calls.contains("refresh frm_KMTextures"));
-}
-
-TEST_F(SkyInstall, aStoreThatRefusesEndsAnInstallByHand) {
-    install.addGroundSet("2-A", "Overcast", true, {"Texture\\029h2su6.bmp"});
-    for (const char* refusing : {"TEXTURE_SETS", "SKY_TEXTURE_SETS"})
-        for (const bool isSky : {false, true}) {
-            session.adoConn->execute(
-                u"CREATE TRIGGER T BEFORE UPDATE ON %1 BEGIN SELECT RAISE(ABORT, 'no'); END"_s.arg(refusing));
-            install.user.messages.clear();
-            install.user.answersToGive = {true};
-            clickGroundRow(session, "2-A");
-            EXPECT_FALSE(isSky ? installSky("1-Storm", false)
-                               : GroundInstallation(session).installTextureSet(false));
-            EXPECT_EQ(install.user.told().size(), 2) << refusing << isSky << ": question and failure alone";
-            EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1) << refusing << isSky;
-            session.adoConn->execute(u"DROP TRIGGER T"_s);
-        }
-}
-
 TEST_F(SkyInstall, theMatchingGroundIsDrawnButNeverTheLast) {
     for (const char* name : {"2-A", "3-B", "4-C"})
         install.addGroundSet(name, " Overcast", true, {"Texture\\029h2su6.bmp"});
     install.addGroundSet("5-D", "Overcast", false);
+    install.user.answersToGive = {false};
+    installSky("1-Storm", false);
+    EXPECT_EQ(install.user.told(),
+              QStringList{"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
+                          "matching Ground Texture set?"});
+    EXPECT_TRUE(install.installedSets().isEmpty());
+    EXPECT_TRUE(session.state<SkySelection>().RefreshSkyList);
     const std::pair<double, QString> cases[] = {{0.49, "2-A"}, {0.5, "3-B"}, {0.999999, "3-B"}};
     for (const auto& [draw, expected] : cases) {
         install.random.numbers = {draw};
@@ -121,25 +87,20 @@ TEST_F(SkyInstall, theMatchingGroundIsDrawnButNeverTheLast) {
     EXPECT_EQ(install.installedSets(), QStringList{"Default"}) << "none of the cover";
 }
 
-struct MatchingSky : SkyInstall {
-    QStringList installGround(double draw, bool withMatch = true) {
+TEST_F(SkyInstall, theMatchingSkyIsDrawnFromAllOfTheCover) {
+    const auto installGround = [this](double draw, bool withMatch = true, const QString& name = u"2-A"_s) {
         install.random.numbers = {draw};
         install.user.answersToGive = {withMatch};
-        EXPECT_TRUE(clickGroundRow(session, "2-A"));
-        EXPECT_TRUE(offerStart(GroundInstallation(session).installTextureSet(false)));
-        EXPECT_EQ(install.installedSets(), QStringList{"2-A"});
+        EXPECT_TRUE(clickGroundRow(session, name));
+        EXPECT_TRUE(GroundInstallation(session).installTextureSet(false));
+        EXPECT_EQ(install.installedSets(), QStringList{name});
         return install.installedSkySets();
-    }
-};
-
-TEST_F(MatchingSky, isDrawnFromAllOfTheCover) {
+    };
     install.addGroundSet("2-A", "Overcast", true, {"Texture\\029h2su6.bmp"});
     EXPECT_TRUE(installGround(0, false).isEmpty()) << "not wanted";
-    EXPECT_EQ(
-        install.user.told(),
-        QStringList({"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
-                     "matching Sky Texture set?",
-                     launchQuestion}));
+    EXPECT_EQ(install.user.told(),
+              QStringList{"Question|Install Matching Ground Texture Set?|Would you like Morvane to install a "
+                          "matching Sky Texture set?"});
     EXPECT_EQ(installGround(0.9), QStringList{"1-Storm"});
     EXPECT_EQ(install.random.draws, 0) << "the only one needs no draw";
     install.addSkySet("2-Fog", "Overcast ", true, {"cloud.bmp"});
@@ -150,12 +111,9 @@ TEST_F(MatchingSky, isDrawnFromAllOfTheCover) {
     EXPECT_EQ(installGround(0.999999), QStringList{"3-Rain"})
         << "the last one comes, unlike in all other draws";
     EXPECT_EQ(texture(u"cloud.bmp"), "3-Rain cloud.bmp");
-}
-
-TEST_F(MatchingSky, isDefaultWithoutOneOfTheCover) {
-    install.addGroundSet("2-A", "Sky Clear", true, {"Texture\\029h2su6.bmp"});
     install.addSkySet("Default", "Partly Cloudy", true);
-    EXPECT_EQ(installGround(0), QStringList{"Default"});
+    install.addGroundSet("3-B", "Sky Clear", true);
+    EXPECT_EQ(installGround(0, true, "3-B"), QStringList{"Default"}) << "none of the cover";
 }
 
 } // namespace

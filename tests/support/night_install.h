@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/flag_text.h"
-#include "core/row_set.h"
+#include "core/store.h"
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
 #include "support/set_states.h"
@@ -27,14 +27,9 @@ inline void addNightStock(SmallInstall& install) {
 /// A row of NIGHT_TEXTURE_SETS; its folder holds `names`, each with its name as contents.
 inline void addNightSet(SmallInstall& install, const QString& name, bool activated,
                         const QStringList& names = {}) {
-    RowSet rows(*install.session.adoConn, u"SELECT * FROM NIGHT_TEXTURE_SETS"_s);
-    rows.addNew();
-    rows.setText(u"TEXTURE_SET", name);
-    rows.setText(u"COLOR_SETTINGS", u"0:10:0:-1:3:-1.5"_s);
-    rows.setText(u"ACTIVATED", flagText(activated));
-    rows.setText(u"DESCRIPTION", u"A night of a test"_s);
-    rows.setFlag(u"INSTALLED", false);
-    rows.update();
+    install.session.adoConn->execute(
+        u"INSERT INTO NIGHT_TEXTURE_SETS(TEXTURE_SET, COLOR_SETTINGS, ACTIVATED, DESCRIPTION, INSTALLED) "
+        "VALUES ('%1', '0:10:0:-1:3:-1.5', '%2', 'A night of a test', 0)"_s.arg(name, flagText(activated)));
     for (const QString& file : names)
         writeFile(install.home() / u"Night Texture Sets" / name / file, name.toUtf8() + ' ' + file.toUtf8());
     refreshNightSets(install.session);

@@ -1,6 +1,7 @@
 #include "support/small_install.h"
 
 #include "app/start_up.h"
+#include "core/flag_text.h"
 #include "core/row_set.h"
 #include "core/store.h"
 #include "core/store_schema.h"
@@ -17,41 +18,20 @@ namespace morvane::test {
 
 namespace {
 
-void addResourceRow(RowSet& rows, const QString& name, const QString& setFolder, const QString& destination) {
-    rows.addNew();
-    rows.setText(u"RESOURCE_NAME", name);
-    rows.setText(u"RESOURCE_SOURCE", name);
-    rows.setText(u"RESOURCE_TEXTURE_SET", setFolder);
-    rows.setText(u"RESOURCE_DESTINATION", destination);
-    rows.update();
-}
-
-void addSetRow(RowSet& rows, const QString& name, const QString& cover, bool activated) {
-    rows.addNew();
-    rows.setText(u"TEXTURE_SET", name);
-    rows.setText(u"CLOUD_COVER", cover);
-    rows.setText(u"ACTIVATED", activated ? u"True"_s : u"False"_s);
-    rows.setText(u"COLOR_SETTINGS", u"0:1.4:0:-1:3:-1.5"_s);
-    rows.setText(u"DESCRIPTION", u"A set of a test"_s);
-    rows.setFlag(u"DUTCH", true);
-    rows.setFlag(u"INSTALLED", false);
-    rows.update();
+void addSetRow(Store& store, const QString& name, const QString& cover, bool activated) {
+    store.execute(
+        u"INSERT INTO TEXTURE_SETS(TEXTURE_SET, CLOUD_COVER, ACTIVATED, COLOR_SETTINGS, DESCRIPTION, "
+        "DUTCH, INSTALLED) VALUES ('%1', '%2', '%3', '0:1.4:0:-1:3:-1.5', 'A set of a test', 1, 0)"_s.arg(
+            name, cover, flagText(activated)));
 }
 
 void addSkyColours(Store& store, int key, const QString& name) {
-    const std::pair<QString, QString> regions[] = {
-        {u"DARK_GROUND"_s, u"1:1:32"_s},   {u"LIGHT_GROUND"_s, u"2:2:32"_s}, {u"DARK_CLOUD"_s, u"3:3:32"_s},
-        {u"LIGHT_CLOUD"_s, u"4:4:32"_s},   {u"DARK_WATER"_s, u"5:5:32"_s},   {u"MAIN_WATER"_s, u"6:31:32"_s},
-        {u"LIGHT_WATER"_s, u"32:32:32"_s}, {u"HIGH_HORIZON"_s, u"1:32:2"_s}, {u"LOW_HORIZON"_s, u"1:32:1"_s}};
-    RowSet rows(store, u"SELECT * FROM SKY_TEXTURE_SUB_SETS"_s);
-    rows.addNew();
-    rows.setNumber(u"TEXTURE_SET_ID", key);
-    rows.setText(u"SKY_TEXTURE_SUB_SET", u"Day:"_s + name);
-    rows.setText(u"TIME_OF_DAY", u"Day"_s);
-    for (const auto& [column, region] : regions)
-        rows.setText(column, u"0:0:0:0:0:0:"_s + region);
-    rows.setText(u"MAIN_SKY", u"0:50:0:0:0:0:1:32:255"_s);
-    rows.update();
+    store.execute(u"INSERT INTO SKY_TEXTURE_SUB_SETS(TEXTURE_SET_ID, SKY_TEXTURE_SUB_SET, TIME_OF_DAY, "
+                  "DARK_GROUND, LIGHT_GROUND, DARK_CLOUD, LIGHT_CLOUD, DARK_WATER, MAIN_WATER, LIGHT_WATER, "
+                  "HIGH_HORIZON, LOW_HORIZON, MAIN_SKY) VALUES (%1, 'Day:%2', 'Day', '0:0:0:0:0:0:1:1:32', "
+                  "'0:0:0:0:0:0:2:2:32', '0:0:0:0:0:0:3:3:32', '0:0:0:0:0:0:4:4:32', '0:0:0:0:0:0:5:5:32', "
+                  "'0:0:0:0:0:0:6:31:32', '0:0:0:0:0:0:32:32:32', '0:0:0:0:0:0:1:32:2', "
+                  "'0:0:0:0:0:0:1:32:1', '0:50:0:0:0:0:1:32:255')"_s.arg(QString::number(key), name));
 }
 
 /// `column` is the name column of the table of nearly the same name.
@@ -69,16 +49,14 @@ QByteArray makeStore() {
     Store store;
     store.create(path);
     createSchema(store);
-    RowSet resources(store, u"SELECT * FROM RESOURCE_FOLDERS"_s);
-    addResourceRow(resources, u"GENERIC WORLD"_s, u"Texture"_s, u"Scenery\\World\\texture"_s);
-    addResourceRow(resources, u"UT EUROPE"_s, u"Texture"_s, u"Scenery\\World\\texture"_s);
-    addResourceRow(resources, u"UTIND"_s, u"UTEurLC"_s, u"Scenery\\UTEurLC\\Texture"_s);
-    addResourceRow(resources, u"DUTCH"_s, u"Dutch"_s, u"Scenery\\World\\texture"_s);
-    RowSet switches(store, u"SELECT * FROM TEXTURE_SWITCH"_s);
-    switches.addNew();
-    switches.update();
-    RowSet sets(store, u"SELECT * FROM TEXTURE_SETS"_s);
-    addSetRow(sets, u"Default"_s, u"Partly Cloudy"_s, true);
+    store.execute(u"INSERT INTO RESOURCE_FOLDERS(RESOURCE_NAME, RESOURCE_SOURCE, RESOURCE_TEXTURE_SET, "
+                  "RESOURCE_DESTINATION) VALUES "
+                  "('GENERIC WORLD', 'GENERIC WORLD', 'Texture', 'Scenery\\World\\texture'), "
+                  "('UT EUROPE', 'UT EUROPE', 'Texture', 'Scenery\\World\\texture'), "
+                  "('UTIND', 'UTIND', 'UTEurLC', 'Scenery\\UTEurLC\\Texture'), "
+                  "('DUTCH', 'DUTCH', 'Dutch', 'Scenery\\World\\texture')"_s);
+    store.execute(u"INSERT INTO TEXTURE_SWITCH DEFAULT VALUES"_s);
+    addSetRow(store, u"Default"_s, u"Partly Cloudy"_s, true);
     store.close();
     return readFile(path);
 }
@@ -160,8 +138,7 @@ SmallInstall::~SmallInstall() {
 
 int SmallInstall::addGroundSet(const QString& name, const QString& cover, bool activated,
                                const QStringList& names) {
-    RowSet rows(*session.adoConn, u"SELECT * FROM TEXTURE_SETS"_s);
-    addSetRow(rows, name, cover, activated);
+    addSetRow(*session.adoConn, name, cover, activated);
     for (const QString& file : names)
         writeFile(home() / u"Texture Sets" / name / file, name.toUtf8() + ' ' + file.toUtf8());
     reload();
@@ -170,15 +147,10 @@ int SmallInstall::addGroundSet(const QString& name, const QString& cover, bool a
 
 int SmallInstall::addSkySet(const QString& name, const QString& cover, bool activated,
                             const QStringList& names, const QString& baseSet) {
-    RowSet rows(*session.adoConn, u"SELECT * FROM SKY_TEXTURE_SETS"_s);
-    rows.addNew();
-    rows.setText(u"SKY_TEXTURE_SET", name);
-    rows.setText(u"CLOUD_COVER", cover);
-    rows.setText(u"ACTIVATED", activated ? u"True"_s : u"False"_s);
-    rows.setText(u"DESCRIPTION", u"A sky of a test"_s);
-    rows.setText(u"TEXTURE_SET_GROUP", baseSet);
-    rows.setFlag(u"INSTALLED", false);
-    rows.update();
+    session.adoConn->execute(u"INSERT INTO SKY_TEXTURE_SETS(SKY_TEXTURE_SET, CLOUD_COVER, ACTIVATED, "
+                             u"DESCRIPTION, TEXTURE_SET_GROUP, "
+                             "INSTALLED) VALUES ('%1', '%2', '%3', 'A sky of a test', '%4', 0)"_s.arg(
+                                 name, cover, flagText(activated), baseSet));
     for (const QString& file : names)
         writeFile(home() / u"Sky Texture Sets" / name / file, name.toUtf8() + ' ' + file.toUtf8());
     reload();

@@ -1,5 +1,7 @@
 #include "made_install.h"
 
+#include "core/row_set.h"
+#include "core/store.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -65,12 +67,26 @@ TEST_F(InstallContent, cutShortIsNotTakenForWhole) {
     expectRefusal(cut, cutSimulator, cut.text());
 }
 
-TEST_F(InstallContent, wrongUsageMakesNothing) {
-    const FilePath none = beside(u"None");
-    for (const char16_t* options :
-         {u"--density 0", u"--density 7", u"--density many", u"--check --density 0", u"extra"})
-        EXPECT_EQ(runContentTool(none, none, QString::fromUtf16(options).split(u' ')).status, 2);
-    EXPECT_FALSE(files.exists(none));
+using DeliveredRows = test::StartedInstall;
+
+TEST_F(DeliveredRows, haveTheirTextsBehindAFirstRunWithoutAQuestion) {
+    EXPECT_TRUE(hasStarted);
+    EXPECT_EQ(user.countOfKind(MessageKind::question), 0);
+    const QString delivered = files.read(FilePath(QStringLiteral(MORVANE_TEST_FOLDER "/delivered_rows.txt")));
+    const QStringList blocks = delivered.trimmed().split(u"\n\n"_s).mid(1); // behind the file's own words
+    EXPECT_EQ(blocks.size(), 11);
+    for (const QString& block : blocks) {
+        const QStringList lines = block.split(u'\n');
+        QStringList found = lines.mid(0, 2);
+        RowSet rows(*session.adoConn, u"SELECT * FROM "_s + lines[0] + u" ORDER BY ID"_s);
+        for (; !rows.atEnd(); rows.next()) {
+            QStringList fields;
+            for (const QString& column : lines[1].split(u'|'))
+                fields << rows.text(column);
+            found << fields.join(u'|');
+        }
+        EXPECT_EQ(found, lines);
+    }
 }
 
 } // namespace

@@ -68,25 +68,6 @@ TEST_F(SkinFiles, haveEveryPictureInBothSizesAsPlainBitmapsWithHardEdges) {
     EXPECT_EQ(files.list(media(), u"*.bmp"_s).size(), 2 * lines.count(u'\n') + 4); // and the previews
 }
 
-/// A key's strip shows the states one below the other, each by a look of its own.
-TEST_F(SkinFiles, everyStateOfAKeyLooksDifferent) {
-    for (const QString& name : files.list(media(), u"btn_*.bmp"_s)) {
-        const QImage strip = imageOf(name);
-        const QSize frame(strip.width(), strip.height() / 4);
-        for (int state = 0; state < 4; ++state)
-            for (int other = 0; other < state; ++other)
-                EXPECT_NE(strip.copy({{0, state * frame.height()}, frame}),
-                          strip.copy({{0, other * frame.height()}, frame}))
-                    << name.toStdString() << ' ' << state << other;
-    }
-}
-
-// Wanted: two names are misspelt, as the program asks for them.
-TEST_F(SkinFiles, misspeltNamesShowTheExclamation) {
-    for (const QStringView name : {u"icon_Exlamation.bmp", u"icon_Exclamtion.bmp"})
-        EXPECT_EQ(imageOf(name), imageOf(u"icon_Exclamation.bmp"));
-}
-
 TEST_F(SkinFiles, regionsAreThoseOfTheirPictures) {
     const QStringView pairs[][2] = {{u"MainRegion.dat", u"MVMainInterface.bmp"},
                                     {u"MainRegion.dat", u"MVSkyInterface.bmp"},

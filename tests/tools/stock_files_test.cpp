@@ -1,12 +1,12 @@
 #include "made_install.h"
 
-#include "ground/tropical_files.h"
 #include "imaging/bitmap_header.h"
 #include "imaging/picture_reader.h"
 #include "night/night_files.h"
 #include "night/night_sets.h"
 #include "sets/catalogue_file.h"
 #include "support/printing.h"
+#include "support/small_install.h"
 
 #include <cmath>
 
@@ -59,22 +59,14 @@ TEST_F(StockFiles, everyBaseImageHasItsBodyAndTheBodyShowsIt) {
     }
 }
 
-/// A change of the ground must be seen; and the options replace only what is there: both forms of the
-/// tropics.
-TEST_F(StockFiles, simulatorHasTexturesOfItsOwnUnderTheSameNames) {
-    const FilePath world = simulator() / u"Scenery\\World\\Texture";
-    for (const QString& folder : resourceFolders) {
-        const FilePath target = folder == u"UTIND" ? simulator() / u"Scenery\\UTEurLC\\Texture" : world;
-        for (const QString& name : files.list(home().child(folder), u"*.*"_s)) {
-            const QByteArray own = files.read(target.child(name.toUpper()));
-            EXPECT_EQ(own.size(), textureSize) << name.toStdString();
-            EXPECT_EQ(headerOf(own).kind, PixelKind::dxt1);
-            EXPECT_NE(own, files.read(home().child(folder).child(name))) << name.toStdString();
-        }
+TEST_F(StockFiles, deliveredFlightsAndSkiesStandTwice) {
+    const std::tuple<FilePath, FilePath, int> copies[] = {
+        {home() / u"Resources\\Sky\\Default", home() / u"Sky Texture Sets\\Default", 24},
+        {home() / u"Flights", simulator() / u"Flights\\Morvane", 6}};
+    for (const auto& [one, other, count] : copies) {
+        EXPECT_EQ(test::contentsBelow(one).size(), count);
+        EXPECT_TRUE(test::contentsBelow(one) == test::contentsBelow(other)) << one.text().toStdString();
     }
-    for (const QString& pattern : tropicalPatterns(TropicalForm::b))
-        for (const QString& name : files.list(home() / u"GENERIC WORLD", pattern + u"*"_s))
-            EXPECT_TRUE(files.exists(world.child(tropicalName(name).toUpper()))) << name.toStdString();
 }
 
 TEST_F(StockCatalogue, deliveredNightSetsHaveTheirFiles) {

@@ -48,17 +48,6 @@ TEST_F(SkinnedButtonTest, followsTheMouse) {
     EXPECT_EQ(clicks.count(), 2) << "wherever it is let go";
 }
 
-TEST_F(SkinnedButtonTest, isDeadWhenDisabled) {
-    key.setState(ButtonState::disabled);
-    enter();
-    QTest::mouseClick(&key, Qt::LeftButton);
-    QTest::keyClick(&key, Qt::Key_Space);
-    leave();
-    EXPECT_EQ(key.state(), ButtonState::disabled);
-    EXPECT_EQ(clicks.count(), 0);
-    EXPECT_EQ(key.focusPolicy(), Qt::NoFocus);
-}
-
 /// It looks disabled, takes no light, and is alive: that is how one key activates and deactivates.
 TEST_F(SkinnedButtonTest, dispatchesFromDeactivateThoughItLooksDisabled) {
     key.setState(ButtonState::deactivate);
@@ -71,23 +60,6 @@ TEST_F(SkinnedButtonTest, dispatchesFromDeactivateThoughItLooksDisabled) {
     QTest::mouseRelease(&key, Qt::LeftButton);
     EXPECT_EQ(key.state(), ButtonState::deactivate);
     EXPECT_EQ(clicks.count(), 1);
-}
-
-TEST_F(SkinnedButtonTest, keepsTheStateThatItsClickGaveItAndIsNotLeftLitByOne) {
-    QObject::connect(&key, &SkinnedButton::dispatched, [this] { leave(); });
-    QTest::mouseClick(&key, Qt::LeftButton);
-    EXPECT_EQ(key.state(), ButtonState::enabled) << "the click took the mouse away";
-    QObject::connect(&key, &SkinnedButton::dispatched,
-                     [](SkinnedButton* clicked) { clicked->setState(ButtonState::disabled); });
-    QTest::mouseClick(&key, Qt::LeftButton);
-    EXPECT_EQ(key.state(), ButtonState::disabled);
-}
-
-TEST_F(SkinnedButtonTest, survivesAClickThatTakesItAway) {
-    auto* gone = new SkinnedButton(ButtonFamily::smallButton, skin, nullptr);
-    QObject::connect(gone, &SkinnedButton::dispatched, [](SkinnedButton* clicked) { delete clicked; });
-    QTest::keyClick(gone, Qt::Key_Return);
-    SUCCEED();
 }
 
 TEST_F(SkinnedButtonTest, showsTheFrameOfItsStateAndKeepsItsStripWhereAPictureIsMissing) {
@@ -104,6 +76,31 @@ TEST_F(SkinnedButtonTest, showsTheFrameOfItsStateAndKeepsItsStripWhereAPictureIs
             EXPECT_EQ(key.grab().toImage().pixelColor(2, 2), frames[frame]) << frame;
         }
     }
+}
+
+TEST_F(SkinnedButtonTest, takesTheKeyColourOutOfAPicture) {
+    QImage drawn(4, 2, QImage::Format_RGB888);
+    drawn.fill(qRgb(255, 0, 255));
+    drawn.setPixelColor(1, 0, QColor(254, 0, 255));
+    ASSERT_TRUE(drawn.save((folder / u"btn_Exit.bmp").native()));
+    const QImage shown = Skin(files, folder.path()).picture(u"btn_Exit.bmp"_s).toImage();
+    EXPECT_EQ(qAlpha(shown.pixel(0, 0)), 0);
+    EXPECT_EQ(shown.pixel(1, 0), qRgb(254, 0, 255)) << "only that very colour";
+}
+
+TEST_F(SkinnedButtonTest, livesWithFilesThatAreMissingOrBroken) {
+    Skin own(files, folder.path());
+    const QStringList names{u"broken.bmp"_s, u"broken.dat"_s, u"broken.cur"_s, u"broken.jpg"_s};
+    for (const QString& name : names)
+        files.write(folder.path().child(name), "BM that is no picture, no region and no pointer");
+    const QStringList wanted = names + QStringList{u"gone.bmp"_s};
+    for (int round = 0; round < 2; ++round)
+        for (const QString& name : wanted) {
+            EXPECT_TRUE(own.picture(name).isNull());
+            EXPECT_TRUE(own.outline(name).isEmpty());
+            EXPECT_EQ(own.cursor(name, Qt::SizeAllCursor).shape(), Qt::SizeAllCursor);
+        }
+    EXPECT_EQ(own.missing(), wanted) << "each is told once";
 }
 
 } // namespace

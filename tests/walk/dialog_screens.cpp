@@ -12,22 +12,6 @@ namespace morvane::test {
 
 namespace {
 
-bool isSampleTaken(Session& session) {
-    return session.state<GroundSampleChoice>().sampleConfirmed;
-}
-
-bool isNightSampleTaken(Session& session) {
-    return session.state<NightSampleChoice>().sampleConfirmed;
-}
-
-bool isBackupTaken(Session& session) {
-    return session.state<BackupChoice>().backupConfirmed;
-}
-
-Effect chosenBackup() {
-    return becomes([](Session& session) { return session.state<BackupChoice>().chosenBackup; });
-}
-
 void giveBackups(Session& session) {
     const QDateTime first(QDate(2026, 7, 14), QTime(14, 7));
     session.state<BackupChoice>().backups = {{u"1-Backup"_s, first, true},
@@ -43,52 +27,37 @@ void giveBaseSets(Session& session) {
     session.state<SkySetCounts>().skyBaseSets = QStringList{u"Sunny"_s, overcastBaseSet};
 }
 
-std::vector<WalkRow> countRows() {
-    return {{u"txt*"_s, itself(), 5}};
-}
-
 } // namespace
 
 std::vector<WalkScreen> setDialogs() {
+    const auto isBackupTaken = isSet(&BackupChoice::backupConfirmed);
+    const Effect chosenBackup = becomes(&BackupChoice::chosenBackup);
     return {
         {"ground_counts", u"frm_TsRequired"_s, dialog(Screen::frm_TsRequired), true,
-         answerRows([](Session& session) { return session.state<GroundSetCounts>().setCountsConfirmed; }) +
-             countRows()},
+         answerRows(isSet(&GroundSetCounts::setCountsConfirmed))},
         {"sky_counts", u"frm_SelectSkyTexture"_s, dialog(Screen::frm_SelectSkyTexture, giveBaseSets), true,
-         answerRows([](Session& session) { return session.state<SkySetCounts>().skySetsConfirmed; }) +
-             countRows() + std::vector<WalkRow>{{u"chkStsGroup*"_s, itself(), 7}}},
+         answerRows(isSet(&SkySetCounts::skySetsConfirmed))},
         {"base_sky", u"frm_SelectBaseSky"_s, dialog(Screen::frm_SelectBaseSky), true,
-         answerRows([](Session& session) { return session.state<BaseSkyAnswer>().baseSkyConfirmed; }) +
-             std::vector<WalkRow>{{u"optBaseSky*"_s, itself(), 7}}},
+         answerRows(isSet(&BaseSkyAnswer::baseSkyConfirmed))},
         {"sample", u"frm_SelectTexture"_s, dialog(Screen::frm_SelectTexture), true,
-         answerRows(isSampleTaken) +
-             std::vector<WalkRow>{{u"optSeason_*"_s, itself(), 4}, {u"optTexture_*"_s, itself(), 12}}},
+         answerRows(isSet(&GroundSampleChoice::sampleConfirmed))},
         {"night_sample", u"frm_SelectNightTexture"_s, dialog(Screen::frm_SelectNightTexture), true,
-         answerRows(isNightSampleTaken) + std::vector<WalkRow>{{u"optNightTexture_*"_s, itself(), 5}}},
+         answerRows(isSet(&NightSampleChoice::sampleConfirmed))},
         {"favourite", u"frm_AddFav"_s, dialog(Screen::frm_AddFav), true,
-         answerRows([](Session& session) { return session.state<FavouriteAnswer>().favConfirmed; }) +
-             std::vector<WalkRow>{
-                 {u"txtFavName"_s,
-                  becomes([](Session& session) { return session.state<FavouriteAnswer>().favName; }, u"7"_s)},
-                 {u"txtFavDesc"_s, label(u"lblLength"_s, u"1"_s)}}},
+         answerRows(isSet(&FavouriteAnswer::favConfirmed)) +
+             WalkRows{{u"txtFavName"_s, becomes(&FavouriteAnswer::favName, u"7"_s)},
+                      {u"txtFavDesc"_s, label(u"lblLength"_s, u"1"_s)}}},
         {"names", u"frm_MultiDelete"_s, dialog(Screen::frm_MultiDelete, giveNames), true,
-         answerRows([](Session& session) {
-             return session.state<MultiChoice>().multiConfirmed.size() == 3;
-         }) + std::vector<WalkRow>{{u"lstNames"_s, itself()},
-                                   {u"lstNames|tick"_s, itself()},
-                                   {u"lstNames|head"_s, itself()}}},
-        {"backups",
-         u"frm_BackupList"_s,
-         dialog(Screen::frm_BackupList, giveBackups),
-         true,
-         {{u"btn_Cancel"_s, closes(isBackupTaken, false)},
-          {u"lstBackupList"_s, chosenBackup()},
-          {u"lstBackupList|head"_s, itself()},
-          {u"lstBackupList|twice"_s, closes(isBackupTaken, true)},
-          {u"(Enter)"_s, chosenBackup()},
-          {u"(Down)"_s, chosenBackup()},
-          {u"(Escape)"_s, closes(isBackupTaken, false)},
-          {u"(close)"_s, closes(isBackupTaken, false)}}},
+         answerRows(
+             [](Session& session) { return session.state<MultiChoice>().multiConfirmed.size() == 3; })},
+        {"backups", u"frm_BackupList"_s, dialog(Screen::frm_BackupList, giveBackups), true,
+         WalkRows{{u"btn_Cancel"_s, closes(isBackupTaken, false)},
+                  {u"lstBackupList"_s, chosenBackup},
+                  {u"lstBackupList|twice"_s, closes(isBackupTaken, true)},
+                  {u"(Enter)"_s, chosenBackup},
+                  {u"(Down)"_s, chosenBackup},
+                  {u"(Escape)"_s, closes(isBackupTaken, false)},
+                  {u"(close)"_s, closes(isBackupTaken, false)}}},
     };
 }
 

@@ -1,12 +1,10 @@
-#include "walk/furnished_program.h"
-
 #include "core/registry.h"
-#include "core/row_set.h"
 #include "core/store.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "simulator/texture_switches.h"
 #include "sky/sky_sets.h"
+#include "walk/walk_tables.h"
 #include "weather/directory_rows.h"
 #include "weather/reports.h"
 #include "weather/stored_reports.h"
@@ -27,17 +25,11 @@ void addSets(WindowProgram& program) {
 }
 
 void addBaseTextures(Session& session) {
-    RowSet rows(*session.adoConn, u"SELECT * FROM MV_CONFIG"_s);
-    for (const QString& title : {u"Global Coverage - Day"_s, u"Golf"_s}) {
-        rows.addNew();
-        rows.setText(u"TITLE", title);
-        rows.setText(u"MV_FOLDER", u"GENERIC WORLD"_s);
-        rows.setText(u"MV_IMAGE", u"MV_Day.bmp"_s);
-        rows.setText(u"FS_FOLDER", u"Scenery\\World\\texture"_s);
-        rows.setText(u"DESCRIPTION", u"About "_s + title);
-        rows.setFlag(u"INSTALLED", false);
-        rows.update();
-    }
+    for (const QString& title : {u"Global Coverage - Day"_s, u"Golf"_s})
+        session.adoConn->execute(
+            u"INSERT INTO MV_CONFIG(TITLE, MV_FOLDER, MV_IMAGE, FS_FOLDER, DESCRIPTION, INSTALLED) VALUES "
+            u"('%1', "
+            "'GENERIC WORLD', 'MV_Day.bmp', 'Scenery\\World\\texture', 'About %1', 0)"_s.arg(title));
 }
 
 /// What the options replace, which they only do where it is.
@@ -53,12 +45,10 @@ void addOptionFiles(WindowProgram& program) {
 }
 
 void addBackups(WindowProgram& program) {
-    RowSet rows(*program.session.adoConn, u"SELECT * FROM MV_BACKUP"_s);
     for (const QString& name : {u"1-Backup"_s, u"2-Backup"_s}) {
-        rows.addNew();
-        rows.setText(u"BACKUP_NAME", name);
-        rows.setText(u"BACKUP_DATE_TIME", u"2007/05/30 21:14:09"_s);
-        rows.update();
+        program.session.adoConn->execute(
+            u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('%1', '2007/05/30 21:14:09')"_s
+                .arg(name));
         writeFile(program.install.home() / u"Backup" / name / u"Texture\\029h2su6.bmp", name.toUtf8());
     }
 }

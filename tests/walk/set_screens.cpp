@@ -55,7 +55,7 @@ std::function<void(Walk&)> colours(const QString& host, const QString& page) {
 
 // Rows ----------------------------------------------------------------------------------------------------
 
-std::vector<WalkRow> hostRows(const QString& host, const QString& page) {
+WalkRows hostRows(const QString& host, const QString& page) {
     const bool isColourPage = !page.isEmpty();
     const QString other = isColourPage ? host
                                        : host + u'/' +
@@ -70,14 +70,10 @@ std::vector<WalkRow> hostRows(const QString& host, const QString& page) {
             {u"(Escape)"_s, nothing("a window has nothing to cancel")}};
 }
 
-std::vector<WalkRow> listRows(const QString& name, QString (*inHand)(Session&)) {
-    return {{name, becomes(inHand)}, {name + u"|head"_s, itself()}};
-}
-
 /// Every slider with its three buttons and the label that says its value. `prefix` is "Sky" for the sky's
 /// names.
-std::vector<WalkRow> sliderRows(const QString& prefix) {
-    std::vector<WalkRow> rows;
+WalkRows sliderRows(const QString& prefix) {
+    WalkRows rows;
     const std::pair<QString, QString> names[] = {{u"Saturation"_s, u"Sat"_s}, {u"Red"_s, u"Red"_s},
                                                  {u"Green"_s, u"Green"_s},    {u"Blue"_s, u"Blue"_s},
                                                  {u"Bright"_s, u"Bright"_s},  {u"Contrast"_s, u"Contrast"_s}};
@@ -93,46 +89,20 @@ std::vector<WalkRow> sliderRows(const QString& prefix) {
     return rows;
 }
 
-// What is in hand, and what became of a set ---------------------------------------------------------------
+// What became of a set --------------------------------------------------------------------------------------
 
-QString groundInHand(Session& session) {
-    return session.state<GroundSelection>().SelectedGroundSet;
-}
-
-QString skyInHand(Session& session) {
-    return session.state<SkySelection>().SelectedSkySet;
-}
-
-QString nightInHand(Session& session) {
-    return session.state<NightSelection>().SelectedNightSet;
-}
-
-/// "True", "False" or "gone".
-QString groundActivation(Session& session) {
-    const auto set = findGroundSet(session, u"3-Grey"_s);
-    return set ? set->Actvated : u"gone"_s;
-}
-
-QString skyActivation(Session& session) {
-    const auto set = findSkySet(session, u"3-Storm"_s);
-    return set ? set->Activated : u"gone"_s;
-}
-
-QString nightActivation(Session& session) {
-    const auto set = findNightSet(session, u"3-Blue"_s);
-    return set ? set->Actvated : u"gone"_s;
+/// "True" or "False" as it is activated, "*" behind an installed one; "gone".
+template <class Kind>
+Effect setBecomes(const QString& name, const QString& state) {
+    const auto stateNow = [name](Session& session) {
+        const auto set = findSet<Kind>(session, name);
+        return set ? activationOf(*set) + (set->Installed ? u"*"_s : QString()) : u"gone"_s;
+    };
+    return becomes(stateNow, state);
 }
 
 QString groundTexture(Session& session) {
     return QString::fromUtf8(readFile(session.FSPath / u"Scenery\\World\\texture\\029b2su6.bmp"));
-}
-
-QString skyInstalled(Session& session) {
-    return findSkySet(session, u"2-Calm"_s)->Installed ? u"installed"_s : u"not"_s;
-}
-
-QString nightInstalled(Session& session) {
-    return findNightSet(session, u"2-Red"_s)->Installed ? u"installed"_s : u"not"_s;
 }
 
 } // namespace
@@ -140,74 +110,71 @@ QString nightInstalled(Session& session) {
 std::vector<WalkScreen> groundScreens() {
     const QString create = u"btn_textureCreate"_s, activate = u"btn_TextureActivate"_s,
                   install = u"btn_TextureInstall"_s, remove = u"btn_TextureDelete"_s;
-    const std::vector<WalkRow> always = hostRows(ground, {}) + listRows(u"lstTextureSets"_s, groundInHand) +
-                                        std::vector<WalkRow>{{create, shows(u"frm_TsRequired"_s)}};
+    const WalkRows always =
+        hostRows(ground, {}) + WalkRows{{u"lstTextureSets"_s, becomes(&GroundSelection::SelectedGroundSet)},
+                                        {create, shows(u"frm_TsRequired"_s)}};
     return {
         {"list", ground, list(ground), false,
-         always + std::vector<WalkRow>{{install, shows(matchQuestion)}, {remove, shows(information)}}},
+         always + WalkRows{{install, shows(matchQuestion)}, {remove, shows(information)}}},
         {"list_on_an_activated_set", ground, listOn(ground, 2), false,
-         always + std::vector<WalkRow>{{activate, shows(information)},
-                                       {install, becomes(groundTexture, u"2-Fair Texture\\029b2su6.bmp"_s)
-                                                     .after({Qt::Key_Escape, Qt::Key_Escape})},
-                                       {remove, shows(information)}}},
+         always + WalkRows{{activate, shows(information)},
+                           {install, becomes(groundTexture, u"2-Fair Texture\\029b2su6.bmp"_s)
+                                         .after({Qt::Key_Escape, Qt::Key_Escape})},
+                           {remove, shows(information)}}},
         {"list_on_a_deactivated_set", ground, listOn(ground, 3), false,
-         always +
-             std::vector<WalkRow>{{activate, becomes(groundActivation, u"True"_s).lasting()},
-                                  {remove, becomes(groundActivation, u"gone"_s).after({Qt::Key_Return})}}},
+         always + WalkRows{{activate, setBecomes<GroundKind>(u"3-Grey"_s, u"True"_s).lasting()},
+                           {remove, setBecomes<GroundKind>(u"3-Grey"_s, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", groundColours, colours(ground, groundColours), false,
          hostRows(ground, groundColours) + sliderRows({}) +
-             std::vector<WalkRow>{{u"optCloudCover*"_s, itself(), 5},
-                                  {u"btn_OpenTexture"_s, shows(u"frm_SelectTexture"_s)},
-                                  {u"btn_Random"_s, label(u"lblRed"_s)},
-                                  {u"btn_AddFavorite"_s, shows(u"frm_AddFav"_s)}}},
+             WalkRows{{u"btn_OpenTexture"_s, shows(u"frm_SelectTexture"_s)},
+                      {u"btn_Random"_s, label(u"lblRed"_s)},
+                      {u"btn_AddFavorite"_s, shows(u"frm_AddFav"_s)}}},
     };
 }
 
 std::vector<WalkScreen> skyScreens() {
     const QString create = u"btn_SkytextureCreate"_s, activate = u"btn_SkyTextureActivate"_s,
                   install = u"btn_SkyTextureInstall"_s, remove = u"btn_SkyTextureDelete"_s;
-    const std::vector<WalkRow> always = hostRows(sky, {}) + listRows(u"lstSkyTextureSets"_s, skyInHand) +
-                                        std::vector<WalkRow>{{u"lstSkyTextureSets|tick"_s, itself()},
-                                                             {create, shows(u"frm_SelectSkyTexture"_s)}};
+    const WalkRows always =
+        hostRows(sky, {}) + WalkRows{{u"lstSkyTextureSets"_s, becomes(&SkySelection::SelectedSkySet)},
+                                     {create, shows(u"frm_SelectSkyTexture"_s)}};
     return {
         {"list", sky, list(sky), false,
          always +
-             std::vector<WalkRow>{
-                 {activate, shows(information)},
-                 {install, becomes(skyInstalled, u"installed"_s).after({Qt::Key_Escape, Qt::Key_Escape})},
-                 {remove, shows(information)}}},
+             WalkRows{{activate, shows(information)},
+                      {install,
+                       setBecomes<SkyKind>(u"2-Calm"_s, u"True*"_s).after({Qt::Key_Escape, Qt::Key_Escape})},
+                      {remove, shows(information)}}},
         {"list_on_a_deactivated_set", sky, listOn(sky, 2), false,
-         always + std::vector<WalkRow>{{activate, becomes(skyActivation, u"True"_s).lasting()},
-                                       {remove, becomes(skyActivation, u"gone"_s).after({Qt::Key_Return})}}},
+         always + WalkRows{{activate, setBecomes<SkyKind>(u"3-Storm"_s, u"True"_s).lasting()},
+                           {remove, setBecomes<SkyKind>(u"3-Storm"_s, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", skyColours, colours(sky, skyColours), false,
          hostRows(sky, skyColours) + sliderRows(u"Sky"_s) +
-             std::vector<WalkRow>{{u"optCloudCover*"_s, itself(), 5},
-                                  {u"picSkySource"_s, label(u"lblSkyPixelSelected"_s)},
-                                  {u"btn_LoadSkyTexture"_s, shows(u"frm_SelectBaseSky"_s)},
-                                  {u"btn_SkyRandomize"_s, label(u"lblSkyRed"_s)},
-                                  {u"btn_SkyFavorites"_s, shows(u"frm_AddFav"_s)}}},
+             WalkRows{{u"picSkySource"_s, label(u"lblSkyPixelSelected"_s)},
+                      {u"btn_LoadSkyTexture"_s, shows(u"frm_SelectBaseSky"_s)},
+                      {u"btn_SkyRandomize"_s, label(u"lblSkyRed"_s)},
+                      {u"btn_SkyFavorites"_s, shows(u"frm_AddFav"_s)}}},
     };
 }
 
 std::vector<WalkScreen> nightScreens() {
     const QString activate = u"btn_TextureActivate"_s, install = u"btn_TextureInstall"_s,
                   remove = u"btn_TextureDelete"_s;
-    const std::vector<WalkRow> always = hostRows(night, {}) + listRows(u"lstTextureSets"_s, nightInHand);
+    const WalkRows always =
+        hostRows(night, {}) + WalkRows{{u"lstTextureSets"_s, becomes(&NightSelection::SelectedNightSet)}};
     return {
         {"list_on_an_activated_set", night, listOn(night, 1), false,
-         always + std::vector<WalkRow>{{activate, shows(information)},
-                                       {install, becomes(nightInstalled, u"installed"_s).lasting()},
-                                       {remove, shows(information)}}},
+         always + WalkRows{{activate, shows(information)},
+                           {install, setBecomes<NightKind>(u"2-Red"_s, u"True*"_s).lasting()},
+                           {remove, shows(information)}}},
         {"list_on_a_deactivated_set", night, listOn(night, 2), false,
-         always +
-             std::vector<WalkRow>{{activate, becomes(nightActivation, u"True"_s).lasting()},
-                                  {remove, becomes(nightActivation, u"gone"_s).after({Qt::Key_Return})}}},
+         always + WalkRows{{activate, setBecomes<NightKind>(u"3-Blue"_s, u"True"_s).lasting()},
+                           {remove, setBecomes<NightKind>(u"3-Blue"_s, u"gone"_s).after({Qt::Key_Return})}}},
         {"colours", nightColours, colours(night, nightColours), false,
          hostRows(night, nightColours) + sliderRows({}) +
-             std::vector<WalkRow>{{u"opt_LightsBias*"_s, itself(), 4},
-                                  {u"btn_OpenTexture"_s, shows(u"frm_SelectNightTexture"_s)},
-                                  {u"btn_Random"_s, label(u"lblRed"_s)},
-                                  {u"btn_AddFavorite"_s, shows(u"frm_AddFav"_s)}}},
+             WalkRows{{u"btn_OpenTexture"_s, shows(u"frm_SelectNightTexture"_s)},
+                      {u"btn_Random"_s, label(u"lblRed"_s)},
+                      {u"btn_AddFavorite"_s, shows(u"frm_AddFav"_s)}}},
     };
 }
 

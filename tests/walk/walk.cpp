@@ -142,10 +142,6 @@ Effect itself() {
     return {[](Walk& walk) { return stateOf(walk.control()); }};
 }
 
-Effect state(const QString& name) {
-    return {[name](Walk& walk) { return stateOf(walk.find(name)); }};
-}
-
 Effect label(const QString& name, const std::optional<QString>& text) {
     return {[name](Walk& walk) { return static_cast<QLabel&>(walk.find(name)).text(); }, text};
 }
@@ -331,22 +327,36 @@ void Walk::untilTheEnd(const std::function<void()>& gesture) {
     EXPECT_EQ(QApplication::exec(), 0) << "the program goes on";
 }
 
+/// What is in no row and holds something, shows what was done to it.
+WalkRows Walk::withSilentRows(WalkRows rows, const QStringList& live) const {
+    QStringList told;
+    for (const WalkRow& row : rows)
+        told += controlsOf(row, live);
+    for (const QString& name : live)
+        if (!told.contains(name) && !stateOf(find(controlOf(name))).isEmpty())
+            rows.push_back({name, itself()});
+    return rows;
+}
+
 void Walk::everyRow(const WalkScreen& screen) {
     QStringList live;
+    WalkRows rows;
     QMap<QString, std::vector<Way>> ways;
     onScreen(screen, [&] {
         live = liveControls(*window_);
-        for (const WalkRow& row : screen.rows)
+        const bool isSystems = screen.form.isEmpty(); // its inside is no matter of ours
+        rows = isSystems ? screen.rows : withSilentRows(screen.rows, live);
+        for (const WalkRow& row : rows)
             for (const QString& name : controlsOf(row, live))
                 ways[name] =
                     isBracketed(name) ? std::vector{Way::key} : waysOf(find(controlOf(name)), partOf(name));
-        if (screen.isSystems) return;
+        if (isSystems) return;
         EXPECT_EQ(formOn(*window_), screen.form);
         EXPECT_NE(window_->focusWidget(), nullptr) << "nowhere for the keyboard to begin";
-        checkContents(screen, live);
+        checkContents(rows, live);
         checkReach(live);
     });
-    for (const WalkRow& row : screen.rows)
+    for (const WalkRow& row : rows)
         for (const QString& name : controlsOf(row, live))
             for (const Way way : ways[name])
                 if (failures_ < mostFailures) oneWay(screen, row, name, way);
@@ -386,9 +396,9 @@ void Walk::oneWay(const WalkScreen& screen, const WalkRow& row, const QString& n
 }
 
 /// The table, the widgets and the accessibility tree know of the same controls.
-void Walk::checkContents(const WalkScreen& screen, const QStringList& live) {
+void Walk::checkContents(const WalkRows& rows, const QStringList& live) {
     QStringList told, mainParts;
-    for (const WalkRow& row : screen.rows) {
+    for (const WalkRow& row : rows) {
         const QStringList names = controlsOf(row, live);
         EXPECT_EQ(names.size(), row.count) << row.control.toStdString();
         if (!isBracketed(row.control) && partOf(row.control) != u"twice") told += names;
@@ -443,9 +453,8 @@ void Walk::checkBlocked() {
             if (!isOnOther && !isHidden) continue;
             int taken = 0;
             const auto counting = connect(key, &SkinnedButton::dispatched, this, [&taken] { ++taken; });
-            Effect none = nothing("");
             QStringList trail;
-            act([key] { click(*key, livePoint(*key)); }, none, trail);
+            act([key] { click(*key, livePoint(*key)); }, nothing(""), trail);
             EXPECT_EQ(taken, 0) << key->objectName().toStdString();
             disconnect(counting);
         }

@@ -32,8 +32,6 @@ struct Effect {
 Effect shows(const QString& screen);
 /// What the user sees of the control itself: its tick, text, value, row.
 Effect itself();
-/// The same of another control.
-Effect state(const QString& name);
 /// The named label says something else, or just that.
 Effect label(const QString& name, const std::optional<QString>& text = {});
 /// A browser or the help opens that address.
@@ -41,6 +39,15 @@ Effect opens(const QString& address);
 Effect opensHelp();
 /// Something of the session or on the disk becomes another thing, or just that.
 Effect becomes(const std::function<QString(Session&)>& what, const std::optional<QString>& expected = {});
+template <class State>
+Effect becomes(QString State::*text, const std::optional<QString>& expected = {}) {
+    return becomes([text](Session& session) { return session.state<State>().*text; }, expected);
+}
+/// For the answer of a dialog.
+template <class State>
+std::function<bool(Session&)> isSet(bool State::*flag) {
+    return [flag](Session& session) { return session.state<State>().*flag; };
+}
 /// The dialog closes, and the flag that says whether it was confirmed stands so.
 Effect closes(const std::function<bool(Session&)>& isConfirmed, bool expected);
 /// The process ends with status 0.
@@ -59,15 +66,17 @@ struct WalkRow {
     QString typed = u"7"_s; ///< into an edit
 };
 
-/// A screen, and a row for every control that is alive on it when it opens.
+using WalkRows = std::vector<WalkRow>;
+
+/// A screen, and a row for every control that is alive on it when it opens, but for those that only have to
+/// show themselves what was done to them.
 struct WalkScreen {
     const char* name;
     QString form; ///< which it is: a window, a page or a dialog; empty for one of the system's
     /// Brings the screen up; for a dialog, waits for its end.
     std::function<void(Walk&)> open;
     bool isDialog;
-    std::vector<WalkRow> rows;
-    bool isSystems = false; ///< of the system's own; its inside is no matter of ours
+    WalkRows rows;
 };
 
 /// Goes over screens by native events alone: a widget that is sent an event gets it even where a modal window
@@ -110,7 +119,8 @@ private:
     void untilTheEnd(const std::function<void()>& gesture);
     void settle();
     bool act(const std::function<void()>& gesture, const Effect& effect, QStringList& trail);
-    void checkContents(const WalkScreen& screen, const QStringList& live);
+    WalkRows withSilentRows(WalkRows rows, const QStringList& live) const;
+    void checkContents(const WalkRows& rows, const QStringList& live);
     void checkReach(const QStringList& live);
     void checkBlocked();
     QStringList tabStops();

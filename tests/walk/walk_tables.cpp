@@ -65,7 +65,7 @@ std::function<void(Walk&)> dialog(Screen screen, const std::function<void(Sessio
     };
 }
 
-std::vector<WalkRow> answerRows(const std::function<bool(Session&)>& isConfirmed) {
+WalkRows answerRows(const std::function<bool(Session&)>& isConfirmed) {
     return {{u"btn_Ok"_s, closes(isConfirmed, true)},
             {u"btn_Cancel"_s, closes(isConfirmed, false)},
             {u"(Enter)"_s, closes(isConfirmed, true)},

@@ -14,6 +14,9 @@ std::vector<WalkScreen> coverScreens();
 std::vector<WalkScreen> setDialogs();
 std::vector<WalkScreen> messageScreens();
 
+/// Gives the program at least two of everything that a list can show, an address for every link, and an
+/// installed set of each kind, so that every control has something to do.
+void furnish(WindowProgram& program);
 /// The main window on its own page, whatever stood before.
 void openHome(Walk& walk);
 /// A list window, entered from there.
@@ -22,9 +25,9 @@ void openHost(Walk& walk, const QString& name);
 std::function<void(Walk&)> dialog(
     Screen screen, const std::function<void(Session&)>& prepare = [](Session&) {});
 /// The main window's keys, but for the one of the page that stands, which is dead.
-std::vector<WalkRow> mainWindowRows(const QString& deadKey);
+WalkRows mainWindowRows(const QString& deadKey);
 /// What every dialog with OK and Cancel has.
-std::vector<WalkRow> answerRows(const std::function<bool(Session&)>& isConfirmed);
+WalkRows answerRows(const std::function<bool(Session&)>& isConfirmed);
 /// Both, one behind the other.
 template <class Entry>
 std::vector<Entry> operator+(std::vector<Entry> first, const std::vector<Entry>& second) {

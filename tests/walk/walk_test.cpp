@@ -1,10 +1,7 @@
 // The walk: every control that is alive on a screen, by the mouse and by the keyboard, on the platform's own
 // plug-in.
 
-#include "imaging/program_font.h"
 #include "skin_files.h"
-#include "ui/controls/paper_style.h"
-#include "walk/furnished_program.h"
 #include "walk/walk_tables.h"
 #include "window/form_table.h"
 
@@ -77,14 +74,3 @@ INSTANTIATE_TEST_SUITE_P(messages, WalkTest, testing::ValuesIn(messageScreens())
 
 } // namespace
 } // namespace morvane::test
-
-int main(int count, char** arguments) {
-    qputenv("QT_FONT_DPI", "96");
-    qputenv("QT_SCALE_FACTOR", "1");
-    testing::InitGoogleTest(&count, arguments);
-    QApplication application(count, arguments);
-    QApplication::setQuitOnLastWindowClosed(false);
-    morvane::loadProgramFont();
-    morvane::applyPaperStyle(application);
-    return RUN_ALL_TESTS();
-}

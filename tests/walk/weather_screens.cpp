@@ -32,14 +32,6 @@ bool isAirportTaken(Session& session) {
     return !session.state<WeatherState>().DepIcao.isEmpty();
 }
 
-bool isFlightTaken(Session& session) {
-    return session.state<FlightChoice>().FlightSelected;
-}
-
-bool isCoverTaken(Session& session) {
-    return session.state<CoverChoice>().coverConfirmed;
-}
-
 bool isMethodTaken(Session& session) {
     return session.state<CoverChoice>().coverMethod != static_cast<std::int16_t>(CoverMethod::cancelled);
 }
@@ -47,14 +39,6 @@ bool isMethodTaken(Session& session) {
 /// Airports, of which the next search would be another one.
 Effect found() {
     return label(u"lblAirportCount"_s).lasting();
-}
-
-Effect chosenFlight() {
-    return becomes([](Session& session) { return session.state<FlightChoice>().SelectedFlightName; });
-}
-
-Effect chosenReport() {
-    return becomes([](Session& session) { return session.state<WxFilter>().WxSelectedIcao; });
 }
 
 Effect coverList() {
@@ -70,92 +54,73 @@ void giveAirports(Session& session) {
 } // namespace
 
 std::vector<WalkScreen> weatherScreens() {
+    const auto isFlightTaken = isSet(&FlightChoice::FlightSelected);
+    const Effect chosenFlight = becomes(&FlightChoice::SelectedFlightName),
+                 chosenReport = becomes(&WxFilter::WxSelectedIcao);
     return {
         {"page", u"frm_WxControl"_s, openWeather, false,
          mainWindowRows(u"btn_FlightConfig"_s) +
-             std::vector<WalkRow>{{u"lblASv6Support"_s, opens(u"https://activeskypage.example/ASv6/"_s)},
-                                  {u"txtICAO"_s, found(), 1, u"D"_s},
-                                  {u"txtAirportName"_s, found(), 1, u"Abi"_s},
-                                  {u"txtCity"_s, found(), 1, u"Abi"_s},
-                                  {u"cboCountry"_s, found()},
-                                  {u"cboState"_s, found()},
-                                  {u"cboCity"_s, found()},
-                                  {u"btn_ClearFilter"_s, found()},
-                                  {u"lvwAirports"_s, shows(u"frm_metar"_s)},
-                                  {u"lvwAirports|head"_s, itself()},
-                                  {u"optDepAirport"_s, itself()},
-                                  {u"optDestAirport"_s, itself()},
-                                  {u"chkNoWeatherReports"_s, itself()},
-                                  {u"btn_FlyNow"_s, shows(u"frm_Select_CC_Method"_s)},
-                                  {u"btn_SelectFlight"_s, shows(u"message Start Predefined Flight"_s)},
-                                  {u"btn_WxFinder"_s, shows(u"frm_WxFinder"_s)},
-                                  {u"btn_WxRefresh"_s, shows(u"frm_metar_request"_s)}}},
+             WalkRows{{u"lblASv6Support"_s, opens(u"https://activeskypage.example/ASv6/"_s)},
+                      {u"txtICAO"_s, found(), 1, u"D"_s},
+                      {u"txtAirportName"_s, found(), 1, u"Abi"_s},
+                      {u"txtCity"_s, found(), 1, u"Abi"_s},
+                      {u"cboCountry"_s, found()},
+                      {u"cboState"_s, found()},
+                      {u"cboCity"_s, found()},
+                      {u"btn_ClearFilter"_s, found()},
+                      {u"lvwAirports"_s, shows(u"frm_metar"_s)},
+                      {u"btn_FlyNow"_s, shows(u"frm_Select_CC_Method"_s)},
+                      {u"btn_SelectFlight"_s, shows(u"message Start Predefined Flight"_s)},
+                      {u"btn_WxFinder"_s, shows(u"frm_WxFinder"_s)},
+                      {u"btn_WxRefresh"_s, shows(u"frm_metar_request"_s)}}},
         {"finder", u"frm_WxFinder"_s, openFinder, true,
-         answerRows(isAirportTaken) +
-             std::vector<WalkRow>{{u"cboPrecipitation"_s, itself()},
-                                  {u"cboObscuration"_s, itself()},
-                                  {u"cboCloudCover"_s, itself()},
-                                  {u"chk*"_s, itself(), 3},
-                                  {u"txtFilter"_s, itself(), 1, u"K"_s},
-                                  {u"txtWxMaxResults"_s, itself()},
-                                  {u"optAirport*"_s, itself(), 2},
-                                  {u"lstMetar"_s, chosenReport()},
-                                  {u"lstMetar|twice"_s, closes(isAirportTaken, true)},
-                                  {u"(Down)"_s, chosenReport()}}},
+         answerRows(isAirportTaken) + WalkRows{{u"txtFilter"_s, itself(), 1, u"K"_s},
+                                               {u"lstMetar"_s, chosenReport},
+                                               {u"lstMetar|twice"_s, closes(isAirportTaken, true)},
+                                               {u"(Down)"_s, chosenReport}}},
         {"flights", u"frm_flight"_s, dialog(Screen::frm_flight), true,
-         answerRows(isFlightTaken) +
-             std::vector<WalkRow>{{u"lstFlights"_s, chosenFlight()},
-                                  {u"lstFlights|head"_s, itself()},
-                                  {u"lstFlights|twice"_s, closes(isFlightTaken, true)},
-                                  {u"(Down)"_s, chosenFlight()}}},
-        {"decoded_report",
-         u"frm_metar"_s,
+         answerRows(isFlightTaken) + WalkRows{{u"lstFlights"_s, chosenFlight},
+                                              {u"lstFlights|twice"_s, closes(isFlightTaken, true)},
+                                              {u"(Down)"_s, chosenFlight}}},
+        {"decoded_report", u"frm_metar"_s,
          dialog(Screen::frm_metar,
                 [](Session& session) { session.state<DecodedReportLines>().decodedMetarLines = {u"One"_s}; }),
          true,
-         {{u"btn_Ok"_s, closes([](Session&) { return true; }, true)},
-          {u"(Enter)"_s, closes([](Session&) { return true; }, true)},
-          {u"(Escape)"_s, closes([](Session&) { return true; }, true)},
-          {u"(close)"_s, closes([](Session&) { return true; }, true)}}},
+         WalkRows{{u"btn_Ok"_s, closes([](Session&) { return true; }, true)},
+                  {u"(Enter)"_s, closes([](Session&) { return true; }, true)},
+                  {u"(Escape)"_s, closes([](Session&) { return true; }, true)},
+                  {u"(close)"_s, closes([](Session&) { return true; }, true)}}},
         {"new_cycle", u"frm_metar_request"_s, dialog(Screen::frm_metar_request), true,
-         answerRows([](Session& session) { return session.state<MetarRequest>().metarRequested; })},
+         answerRows(isSet(&MetarRequest::metarRequested))},
     };
 }
 
 std::vector<WalkScreen> coverScreens() {
+    const auto isCoverTaken = isSet(&CoverChoice::coverConfirmed);
     return {
         {"method", u"frm_Select_CC_Method"_s, dialog(Screen::frm_Select_CC_Method), true,
-         answerRows(isMethodTaken) + std::vector<WalkRow>{{u"optMethod*"_s, itself(), 4}}},
-        {"plans",
-         u"frm_FlightPlan"_s,
-         dialog(Screen::frm_FlightPlan),
-         true,
-         {{u"btn_Ok"_s, closes(isCoverTaken, true)},
-          {u"btn_Cancel"_s, closes(isCoverTaken, false)},
-          {u"lvwFPList"_s, itself()},
-          {u"lvwFPList|head"_s, itself()},
-          {u"lvwFPList|twice"_s, label(u"lblDepVal"_s, u"south.pln"_s)},
-          {u"lvwFlightPlan"_s, nothing("no plan is open yet")},
-          {u"lvwFlightPlan|head"_s, nothing("no plan is open yet")},
-          {u"(Enter)"_s, label(u"lblDepVal"_s, u"north.pln"_s)},
-          {u"(Escape)"_s, closes(isCoverTaken, false)},
-          {u"(close)"_s, closes(isCoverTaken, false)},
-          {u"(Down)"_s, state(u"lvwFPList"_s)}}},
+         answerRows(isMethodTaken)},
+        {"plans", u"frm_FlightPlan"_s, dialog(Screen::frm_FlightPlan), true,
+         WalkRows{{u"btn_Ok"_s, closes(isCoverTaken, true)},
+                  {u"btn_Cancel"_s, closes(isCoverTaken, false)},
+                  {u"lvwFPList|twice"_s, label(u"lblDepVal"_s, u"south.pln"_s)},
+                  {u"lvwFlightPlan"_s, nothing("no plan is open yet")},
+                  {u"lvwFlightPlan|head"_s, nothing("no plan is open yet")},
+                  {u"(Enter)"_s, label(u"lblDepVal"_s, u"north.pln"_s)},
+                  {u"(Escape)"_s, closes(isCoverTaken, false)},
+                  {u"(close)"_s, closes(isCoverTaken, false)}}},
         {"airports", u"frm_FromDepDestVal"_s, dialog(Screen::frm_FromDepDestVal, giveAirports), true,
          answerRows(isCoverTaken)},
         {"by_hand", u"frm_CC_From_Option"_s, dialog(Screen::frm_CC_From_Option), true,
-         answerRows(isCoverTaken) + std::vector<WalkRow>{{u"optCloudCover*"_s, coverList(), 5}}},
-        {"report",
-         u"frm_CC_From_Metar_String"_s,
-         dialog(Screen::frm_CC_From_Metar_String),
-         true,
-         {{u"btn_Ok"_s, closes(isCoverTaken, true)},
-          {u"btn_Cancel"_s, closes(isCoverTaken, false)},
-          {u"txtMetarString"_s, itself(), 1, u"EGLL"_s},
-          {u"btn_MetarProcess"_s, shows(u"message METAR Format Error!"_s)},
-          {u"(Enter)"_s, shows(u"message METAR Format Error!"_s)},
-          {u"(Escape)"_s, closes(isCoverTaken, false)},
-          {u"(close)"_s, closes(isCoverTaken, false)}}},
+         answerRows(isCoverTaken) + WalkRows{{u"optCloudCover*"_s, coverList(), 5}}},
+        {"report", u"frm_CC_From_Metar_String"_s, dialog(Screen::frm_CC_From_Metar_String), true,
+         WalkRows{{u"btn_Ok"_s, closes(isCoverTaken, true)},
+                  {u"btn_Cancel"_s, closes(isCoverTaken, false)},
+                  {u"txtMetarString"_s, itself(), 1, u"EGLL"_s},
+                  {u"btn_MetarProcess"_s, shows(u"message METAR Format Error!"_s)},
+                  {u"(Enter)"_s, shows(u"message METAR Format Error!"_s)},
+                  {u"(Escape)"_s, closes(isCoverTaken, false)},
+                  {u"(close)"_s, closes(isCoverTaken, false)}}},
     };
 }
 

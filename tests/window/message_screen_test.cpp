@@ -42,39 +42,6 @@ struct MessageScreenTest : testing::Test {
     Message progress{MessageKind::progress, u"Working"_s, u"Please wait"_s, false, true, true};
 };
 
-TEST_F(MessageScreenTest, answersThroughTheFirstQuestionThatIsAsked) {
-    for (const bool ok : {true, false}) {
-        program.whenShown(name, [ok](DialogForm& dialog) {
-            QTest::mouseClick(dialog.button(ok ? u"btn_Ok"_s : u"btn_Cancel"_s), Qt::LeftButton);
-        });
-        answers.mark(Question::backup);
-        EXPECT_EQ(program.user.ask(Question::reset, u"t"_s, u"x"_s), ok);
-        EXPECT_FALSE(answers.flag(Question::backup)) << "the reset question comes before it";
-        answers.unmark(Question::backup);
-    }
-    answers.mark(Question::weatherChoice);
-    program.confirmNext(name);
-    program.user.showMessage(question);
-    EXPECT_FALSE(answers.flag(Question::weatherChoice)) << "this flag says cancelled";
-}
-
-TEST_F(MessageScreenTest, closingSaysOkWhereOnlyOkShows) {
-    answers.mark(Question::launch);
-    for (const bool isQuestion : {true, false}) {
-        program.whenShown(name, [](DialogForm& dialog) { dialog.close(); });
-        program.user.showMessage(isQuestion ? question : plain);
-        EXPECT_EQ(answers.flag(Question::launch), !isQuestion);
-    }
-}
-
-TEST_F(MessageScreenTest, showsMarkUpAsItReads) {
-    program.whenShown(name, [&](DialogForm& dialog) {
-        EXPECT_EQ(control<QLabel>(u"lbl_Message"_s).textFormat(), Qt::PlainText);
-        dialog.ok();
-    });
-    program.user.showMessage({MessageKind::error, u"<b>12-Storm</b>"_s, u"<i>x</i>"_s});
-}
-
 TEST_F(MessageScreenTest, asksBeforeItCancelsAndOnlyWhereThatIsOffered) {
     Job job(program.session);
     program.user.showMessage(progress);

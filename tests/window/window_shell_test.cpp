@@ -1,11 +1,7 @@
 #include "support/printing.h"
 #include "support/window_program.h"
 
-#include "app/exit_flow.h"
-#include "core/job.h"
 #include "core/store.h"
-#include "core/store_connection.h"
-#include "ground/ground_generation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/screens/ground_sets_screen.h"
@@ -13,11 +9,9 @@
 #include "sets/options_in_force.h"
 #include "ui/controls/foot_line.h"
 #include "ui/host_form.h"
-#include "weather/weather_state.h"
 #include "window/form_table.h"
 
-#include <QMessageBox>
-#include <QPushButton>
+#include <QLineEdit>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -26,15 +20,6 @@ namespace {
 struct ShellTest : testing::Test {
     test::WindowProgram program;
     WindowShell& shell = program.shell;
-
-    /// Keys of the medium buttons that are "disabled", which marks the page one is on.
-    QStringList markedKeys(const QString& window) {
-        QStringList marked;
-        for (const SkinnedButton* key : shell.form(window)->findChildren<SkinnedButton*>())
-            if (key->family() == ButtonFamily::MediumButton && key->state() == ButtonState::disabled)
-                marked << key->button_type();
-        return marked;
-    }
 };
 
 TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
@@ -45,7 +30,7 @@ TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
     EXPECT_TRUE(weather->isVisible());
     program.press(u"frm_Main"_s, u"btn_Home"_s);
     EXPECT_FALSE(weather->isVisible());
-    EXPECT_EQ(markedKeys(u"frm_Main"_s), QStringList{u"home"_s});
+    EXPECT_EQ(program.stateOf(u"frm_Main"_s, u"btn_Home"_s), ButtonState::disabled);
 }
 
 TEST_F(ShellTest, theStatusPageCountsSetsAndTellsOfAWideClient) {
@@ -72,13 +57,6 @@ TEST_F(ShellTest, theStatusPageCountsSetsAndTellsOfAWideClient) {
         EXPECT_EQ(program.text(u"frm_Main"_s, label), text);
 }
 
-TEST_F(ShellTest, startsWithoutASkinAndSaysSoOnce) {
-    EXPECT_FALSE(program.skin.missing().isEmpty());
-    EXPECT_TRUE(shell.form(u"frm_Main"_s)->mask().isEmpty()) << "a plain window";
-    EXPECT_FALSE(shell.form(u"frm_Main"_s)->windowFlags() & Qt::FramelessWindowHint);
-    shell.reportMissingSkin(); // would wait for an answer that never comes
-}
-
 /// A page's own text goes and comes with the page; what a job said is on whichever window is shown next.
 TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     const auto lineOf = [this](const QString& window) {
@@ -88,9 +66,6 @@ TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     shell.screen<PageForm>(u"frm_About"_s).setFootText({u"a text of its own"_s});
     EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
     shell.goToPage(u"frm_Links"_s);
-    EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
-    shell.goToPage(u"frm_About"_s);
-    program.press(u"frm_Main"_s, u"btn_Home"_s);
     EXPECT_EQ(lineOf(u"frm_Main"_s), QString());
     shell.goToPage(u"frm_About"_s);
     EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
@@ -105,107 +80,52 @@ TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
 }
 
-TEST_F(ShellTest, opensNoAddressThatIsNoWebPage) {
-    for (const QString& address : {u"file:///etc/passwd"_s, u"javascript:1"_s, u""_s, u"C:\\x.exe"_s})
-        EXPECT_FALSE(isWebAddress(address));
+TEST_F(ShellTest, theInstallKeyInstallsWhatIsSelected) {
+    const QString host = u"frm_NightTextures"_s;
+    test::addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\008b2lm1.bmp"_s});
+    test::addNightSet(program.install, u"3-Blue"_s, false);
+    program.press(u"frm_Main"_s, u"btn_NightTextures"_s);
+    auto& table = program.control<SetTable>(host, u"lstTextureSets"_s);
+    EXPECT_EQ(shell.form(host)->focusWidget(), &table) << "the keyboard is on the page";
+    test::clickRow(table, 1);
+    program.press(host, u"btn_TextureInstall"_s);
+    EXPECT_EQ(test::nightSets(program.install.session), u"2-Red+* 3-Blue"_s);
+    EXPECT_EQ(table.columnCount(), 2);
+    EXPECT_EQ(table.storedColour(1), qRgb(255, 0, 0));
+    EXPECT_EQ(table.storedColour(2), qRgb(0, 101, 161));
+    EXPECT_EQ(program.text(host, u"lblFavDescription"_s), u"A night of a test"_s);
+    EXPECT_NE(program.picture(host, u"picTextureSetSource"_s),
+              program.picture(host, u"picTextureSetResult"_s));
+    program.press(host, u"btn_Main"_s);
+    EXPECT_EQ(program.text(u"frm_Main"_s, u"lblCurrentNightTSName"_s), u"2-Red"_s);
 }
 
-TEST_F(ShellTest, theInstallKeyOfEachWindowInstallsWhatIsSelected) {
-    program.install.addGroundSet(u"2-Storm"_s, u"Overcast"_s, true, {u"Texture\\029h2su6.bmp"_s});
-    program.install.addSkySet(u"2-Storm"_s, u"Overcast"_s, true, {u"day.bmp"_s});
-    test::addNightSet(program.install, u"2-Storm"_s, true, {u"Texture\\008b2lm1.bmp"_s});
-    const std::tuple<QString, QString, QString, QString> windows[] = {
-        {u"btn_MVTextures"_s, u"frm_MVTextures"_s, u"lstTextureSets"_s, u"btn_TextureInstall"_s},
-        {u"btn_KMTextures"_s, u"frm_KMTextures"_s, u"lstSkyTextureSets"_s, u"btn_SkyTextureInstall"_s},
-        {u"btn_NightTextures"_s, u"frm_NightTextures"_s, u"lstTextureSets"_s, u"btn_TextureInstall"_s}};
-    for (const auto& [way, window, list, key] : windows) {
-        shell.goHome();
-        program.press(u"frm_Main"_s, way);
-        auto& table = program.control<SetTable>(window, list);
-        EXPECT_EQ(shell.form(window)->focusWidget(), &table) << "the keyboard is on the page";
-        test::clickRow(table, table.rowOf(u"2-Storm"_s), {60});
-        program.toldDuring([&, &window = window, &key = key] { program.press(window, key); },
-                           {u"Launch Flight Simulator?"_s, u"Install Matching Ground Texture Set?"_s,
-                            u"Install Matching Sky Texture Set?"_s});
-    }
-    const QStringList storm{u"2-Storm"_s};
-    EXPECT_EQ(program.install.installedSets(), storm);
-    EXPECT_EQ(program.install.installedSkySets(), storm);
-    EXPECT_EQ(test::nightSets(program.install.session), u"2-Storm+*"_s);
-}
-
-/// What a process does, from its main loop on. A box that comes is answered with that button.
-struct ExitTest : ShellTest {
-    void leave(const std::function<void()>& action) {
-        QTimer::singleShot(0, &shell, action);
-        QApplication::exec();
-        exitProgram(program.session);
-    }
-    void answerBox(QMessageBox::StandardButton answer) {
-        auto* timer = new QTimer(&shell);
-        timer->callOnTimeout([this, timer, answer] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box) return;
-            timer->deleteLater();
-            boxes << box->windowTitle();
-            box->button(answer)->click();
+TEST_F(ShellTest, asksBeforeMoreThanTwentySets) {
+    const auto create = [this](const QString& count) {
+        program.whenShown(u"frm_TsRequired"_s, [this, count](DialogForm& dialog) {
+            program.control<QLineEdit>(u"frm_TsRequired"_s, u"txtOvercastClouds"_s).setText(count);
+            dialog.ok();
         });
-        timer->start(0);
-    }
-    QStringList boxes;
-};
-
-TEST_F(ExitTest, aRunningJobIsLeftBehindAQuestionAndNothingMoreIsAsked) {
-    leave([&] {
-        const Job job(program.session);
-        program.user.showMessage({MessageKind::progress, u"Working"_s, u"x"_s, false, true, true});
-        answerBox(QMessageBox::Cancel);
-        shell.form(u"frm_Msg"_s)->close();
-        EXPECT_FALSE(job.isCancelled());
-        answerBox(QMessageBox::Ok);
-        shell.form(u"frm_Main"_s)->close();
-        EXPECT_TRUE(job.isCancelled());
-        program.user.hideMessage();
-        EXPECT_FALSE(program.user.ask(Question::launch, u"t"_s, u"nobody answers this"_s));
-        EXPECT_FALSE(program.user.systemBox(u"nor this"_s, {}, SystemBoxButtons::yesNo));
-        program.user.showMessage({MessageKind::exclamation, u"t"_s, u"nor is this read"_s});
-        EXPECT_FALSE(program.user.isMessageVisible());
-        program.user.showModal(Screen::frm_TsRequired);
-        EXPECT_FALSE(program.session.state<GroundSetCounts>().setCountsConfirmed);
+        program.press(u"frm_MVTextures"_s, u"btn_textureCreate"_s);
+        refreshGroundSets(program.session);
+        return program.session.rows<clsTextureSets>()->Count();
+    };
+    shell.showHost(u"frm_MVTextures"_s);
+    QString question;
+    program.whenShown(u"frm_Msg"_s, [&](DialogForm& message) {
+        question = program.text(u"frm_Msg"_s, u"lbl_Message"_s);
+        message.cancel();
     });
-    EXPECT_EQ(boxes, QStringList(2, u"Exit Morvane?"_s));
-}
-
-/// Dialogs and messages stand on each other, each in a loop of its own; the wait for Active Sky below.
-TEST_F(ExitTest, whatWaitsForAnAnswerGetsANo) {
-    bool isConfirmed = true, hasAnswered = false;
-    leave([&] {
-        program.whenShown(u"frm_TsRequired"_s, [&](DialogForm&) {
-            program.whenShown(u"frm_Msg"_s, [&](DialogForm&) { shell.exitProgram(); });
-            isConfirmed = program.user.ask(Question::backup, u"t"_s, u"x"_s);
-            hasAnswered = true;
-        });
-        GroundGeneration(program.session).createTextureSets(true);
-        EXPECT_TRUE(hasAnswered);
-    });
-    EXPECT_FALSE(isConfirmed || program.session.state<GroundSetCounts>().setCountsConfirmed);
-    EXPECT_EQ(program.session.adoConn, nullptr);
-}
-
-TEST_F(ExitTest, theWaitForActiveSkyIsLeftByItsMainWindowAndBehindAQuestionByItsMessage) {
-    for (const bool byMessage : {true, false}) {
-        program.session.ExitInProgress.moveTo(ExitStage::running);
-        if (!program.session.adoConn) connectDatabase(program.session);
-        leave([&] {
-            program.session.state<WeatherState>().ASv6Busy = true;
-            program.user.showMessage({MessageKind::progress, u"Waiting"_s, u"x"_s, false, true, true});
-            if (byMessage) answerBox(QMessageBox::Ok);
-            shell.form(byMessage ? u"frm_Msg"_s : u"frm_Main"_s)->close();
-            program.session.state<WeatherState>().ASv6Busy = false;
-            program.user.hideMessage();
-        });
-        EXPECT_EQ(boxes, QStringList{u"Exit Morvane?"_s});
-    }
+    EXPECT_EQ(create(u"21"_s), 1);
+    EXPECT_TRUE(question.startsWith(u"21 ground sets: less than a minute, 1 MB of "_s))
+        << question.toStdString();
+    EXPECT_EQ(program.toldDuring([&] { EXPECT_EQ(create(u"20"_s), 21); }).size(), 1) << "a report alone";
+    const auto askForMore = [this] {
+        EXPECT_FALSE(
+            program.user.allowsRun({u"105 ground sets"_s, 240, 5'200'000'000, 1'100'000'000, false}));
+    };
+    EXPECT_EQ(program.toldDuring(askForMore, {}, u"lbl_Message"_s),
+              QStringList{u"105 ground sets: 5.2 GB needed, 1.1 GB free"_s});
 }
 
 /// Two programs, as two sessions on one store: the other one is the install's own.

@@ -20,7 +20,6 @@ struct NightScreensTest : testing::Test {
         test::addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\029b2lm1.bmp"_s});
         test::addNightSet(program.install, u"3-Blue"_s, false);
         program.press(u"frm_Main"_s, u"btn_NightTextures"_s);
-        list = &program.control<SetTable>(hostName, u"lstTextureSets"_s);
     }
     void openPage() { program.press(hostName, u"btn_Ground"_s); }
     QString labels() {
@@ -36,21 +35,7 @@ struct NightScreensTest : testing::Test {
     QString colours() { return colourSettingsText(program.session.state<NightSelection>().colours); }
 
     test::WindowProgram program;
-    SetTable* list = nullptr;
 };
-
-TEST_F(NightScreensTest, anInstalledSetIsRedAndNamedOnTheStatusPage) {
-    test::clickRow(*list, 2);
-    program.press(hostName, u"btn_TextureInstall"_s);
-    EXPECT_EQ(list->columnCount(), 2);
-    EXPECT_EQ(list->storedColour(2), qRgb(255, 0, 0));
-    EXPECT_EQ(list->storedColour(3), qRgb(0, 101, 161));
-    EXPECT_EQ(program.text(hostName, u"lblFavDescription"_s), u"A night of a test"_s);
-    EXPECT_NE(program.picture(hostName, u"picTextureSetSource"_s),
-              program.picture(hostName, u"picTextureSetResult"_s));
-    program.press(hostName, u"btn_Main"_s);
-    EXPECT_EQ(program.text(u"frm_Main"_s, u"lblCurrentNightTSName"_s), u"2-Red"_s);
-}
 
 TEST_F(NightScreensTest, lightsSetTheSlidersWhichAHandMovesAndAnotherClickSetsAnew) {
     openPage();

@@ -1,6 +1,6 @@
-#include "core/store.h"
 #include "sky/screens/palette_picture.h"
 #include "sky/screens/sky_sets_screen.h"
+#include "sky/sky_base_sets.h"
 #include "sky/sky_generation.h"
 #include "sky/sky_groups.h"
 #include "sky/sky_selection.h"
@@ -48,20 +48,6 @@ struct SkySetsScreenTest : testing::Test {
     static constexpr auto alive = ButtonState::enabled, dead = ButtonState::disabled;
 };
 
-TEST_F(SkySetsScreenTest, aSetOfDamagedColoursCanOnlyBeTakenAway) {
-    Store& store = *program.install.session.adoConn;
-    store.execute(
-        u"UPDATE SKY_TEXTURE_SUB_SETS SET MAIN_SKY = '1:2' WHERE SKY_TEXTURE_SUB_SET LIKE '%3-Calm'"_s);
-    store.execute(u"UPDATE SKY_TEXTURE_SETS SET TEXTURE_SET_GROUP = '..' WHERE SKY_TEXTURE_SET = '2-Haze'"_s);
-    open();
-    EXPECT_EQ(program.toldDuring([this] { clickRow(3); }).size(), 1);
-    EXPECT_EQ(install(), dead);
-    EXPECT_EQ(picture(u"picSkyTextureSetSource"_s), picture(u"picSkyTextureSetResult"_s));
-    EXPECT_EQ(program.toldDuring([this] { clickRow(2); }).size(), 1) << "its base set is no folder's name";
-    EXPECT_EQ(selection.SelectedSkySet, u"2-Haze"_s);
-    EXPECT_EQ(activate(), alive);
-}
-
 TEST_F(SkySetsScreenTest, listsEverySkyAndShowsTheFirstOnItsOwnBase) {
     open();
     EXPECT_EQ(test::columnOf(*list, 0), (QStringList{u"1-Storm"_s, u"2-Haze"_s, u"3-Calm"_s}));
@@ -96,15 +82,6 @@ TEST_F(SkySetsScreenTest, theClickedRowIsInHandAndTheTickedOnesAreSeveral) {
     EXPECT_EQ(list->selectedNames(), QStringList{u"3-Calm"_s}) << "and is the only row in hand";
 }
 
-TEST_F(SkySetsScreenTest, hasRoomForTheLongestDescription) {
-    open();
-    const auto& label = program.control<QLabel>(hostName, u"lblSkyTSDescription"_s);
-    const QString longest = u"a grey sky with a warm strip above hills "_s.repeated(7).left(255);
-    const QRect room(0, 0, label.width(), 1000);
-    EXPECT_LE(QFontMetrics(label.font()).boundingRect(room, Qt::TextWordWrap, longest).height(),
-              label.height());
-}
-
 // The colour page -------------------------------------------------------------------------------------------
 
 struct SkyColourScreenTest : testing::Test {
@@ -132,16 +109,13 @@ struct SkyColourScreenTest : testing::Test {
     }
     QImage source() { return program.picture(pageName, u"picSkySource"_s); }
     bool isChanged() { return source() != program.picture(pageName, u"picSkyResult"_s); }
-    QRadioButton& cover(int index) {
-        return program.control<QRadioButton>(pageName, u"optCloudCover%1"_s.arg(index));
-    }
 
     test::WindowProgram program;
     const SkyTuningState& tuning = program.session.state<SkyTuningState>();
     PalettePicture* palette = nullptr;
 };
 
-TEST_F(SkyColourScreenTest, clicksAndArrowKeysTakeAGroupInHand) {
+TEST_F(SkyColourScreenTest, clicksAndArrowKeysTakeAGroupInHandAndTheTipTellsOfIt) {
     open();
     EXPECT_EQ(label(u"lblSkyPixelSelected"_s), skyGroup(1).text);
     const std::tuple<int, int, int> clicks[] = {{100, 3, 6}, {1, 237, 9}, {120, 120, 10}, {3, 3, 1}};
@@ -158,10 +132,7 @@ TEST_F(SkyColourScreenTest, clicksAndArrowKeysTakeAGroupInHand) {
     }
     QTest::keyClick(palette, Qt::Key_Left);
     EXPECT_EQ(palette->accessibleDescription(), skyGroup(9).text);
-}
 
-TEST_F(SkyColourScreenTest, theTipTellsWhatLiesUnderThePointer) {
-    open();
     const auto tipAt = [this](double x, double y) {
         const QPointF place = palette->picturePlace().topLeft() + QPointF(x, y);
         QMouseEvent move(QEvent::MouseMove, place, palette->mapToGlobal(place), Qt::NoButton, {}, {});
@@ -179,6 +150,9 @@ TEST_F(SkyColourScreenTest, slidersWriteTheGroupInHandAndNoOther) {
     slider(u"vcSkyRed"_s).setValue(30);
     EXPECT_EQ(record(1).red, 30);
     EXPECT_FALSE(isChanged()) << "no region applies before it was clicked";
+    clickPalette(3, 3);
+    EXPECT_TRUE(isChanged());
+    slider(u"vcSkyRed"_s).setValue(0);
     clickPalette(120, 120);
     EXPECT_EQ(labels(), QStringList(6, u"default"_s));
     slider(u"vcSkyRed"_s).setValue(-35);
@@ -187,7 +161,10 @@ TEST_F(SkyColourScreenTest, slidersWriteTheGroupInHandAndNoOther) {
     press(u"cmdSkyResetAll"_s);
     EXPECT_EQ(record(10).red, -35);
     clickPalette(120, 120);
-    EXPECT_EQ(label(u"lblSkyRed"_s), u"-35%"_s);
+    program.press(hostName, u"btn_TextureSets"_s);
+    program.press(hostName, u"btn_Ground"_s);
+    EXPECT_EQ(label(u"lblSkyRed"_s), u"-35%"_s) << "the state is loaded once";
+    EXPECT_EQ(label(u"lblSkyPixelSelected"_s), skyGroup(10).text);
 }
 
 TEST_F(SkyColourScreenTest, aDrawnZeroIsNoDefault) {
@@ -201,24 +178,6 @@ TEST_F(SkyColourScreenTest, aDrawnZeroIsNoDefault) {
     program.press(pageName, u"btn_SkyRandomize"_s);
     EXPECT_EQ(label(u"lblSkyBright"_s), u"100%"_s) << "a clear sky";
     EXPECT_EQ(record(1).brightness, 100);
-}
-
-TEST_F(SkyColourScreenTest, theStateIsLoadedOnce) {
-    test::writeFile(program.install.home() / u"LastSkySettings.cfg",
-                    "[Cloud Cover]\n1=Mostly Cloudy\n[Texture Set Group]\n1=Sunny\n[Red]\n1=15\n10=40\n"
-                    "[PixelXLow]\n10=1\n[PixelXHigh]\n10=32\n[PixelY]\n10=255\n");
-    open();
-    EXPECT_TRUE(cover(3).isChecked());
-    EXPECT_EQ(label(u"lblSkyRed"_s), u"15%"_s);
-    EXPECT_TRUE(isChanged()) << "all groups of the file apply at once";
-    clickPalette(120, 120);
-    slider(u"vcSkyRed"_s).setValue(-20);
-    cover(0).click();
-    program.press(hostName, u"btn_TextureSets"_s);
-    program.press(hostName, u"btn_Ground"_s);
-    EXPECT_EQ(label(u"lblSkyRed"_s), u"-20%"_s);
-    EXPECT_EQ(label(u"lblSkyPixelSelected"_s), skyGroup(10).text);
-    EXPECT_EQ(tuning.cloudIndex, 1);
 }
 
 /// It is in force at its click and shown by OK, some even after a cancel: wanted.
@@ -243,22 +202,14 @@ TEST_F(SkyColourScreenTest, aBaseSetIsChosenByItsClick) {
 
 TEST(SkySetCounts, theBoxesOfTheBaseSetsEnableTheirCounts) {
     test::WindowProgram program;
-    SkySetCounts& choice = program.session.state<SkySetCounts>();
     program.show(Screen::frm_SelectSkyTexture, [&](DialogForm& dialog) {
-        const auto box = [&](int index) {
-            return dialog.findChild<QCheckBox*>(u"chkStsGroup%1"_s.arg(index));
-        };
-        const auto isEnabled = [&](const QString& name) {
-            return dialog.findChild<QLineEdit*>(name)->isEnabled();
-        };
-        const auto names = QStringLiteral("Default|Sunny|Tropical|Overcast|Horizons|Default Softer|Pro Sky");
         for (int index = 0; index < 7; ++index) {
-            box(index)->click();
-            EXPECT_EQ(choice.skyBaseSets, QStringList{names.split(u'|')[index]}) << "at its click";
-            EXPECT_EQ(isEnabled(u"txtOvercastClouds"_s), index == 3);
-            EXPECT_EQ(isEnabled(u"txtNoClouds"_s), index != 3);
-            EXPECT_EQ(isEnabled(u"txtLightOvcClouds"_s), index != 3);
-            box(index)->click();
+            auto* box = dialog.findChild<QCheckBox*>(u"chkStsGroup%1"_s.arg(index));
+            box->click();
+            EXPECT_EQ(program.session.state<SkySetCounts>().skyBaseSets, skyBaseSetBoxes().mid(index, 1));
+            EXPECT_EQ(dialog.findChild<QLineEdit*>(u"txtOvercastClouds"_s)->isEnabled(), index == 3);
+            EXPECT_EQ(dialog.findChild<QLineEdit*>(u"txtNoClouds"_s)->isEnabled(), index != 3);
+            box->click();
         }
         dialog.cancel();
     });

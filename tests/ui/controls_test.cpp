@@ -1,0 +1,130 @@
+#include "core/literals.h"
+#include "support/printing.h"
+#include "ui/controls/foot_line.h"
+#include "ui/controls/slider.h"
+#include "ui/controls/wrapped_tip.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace morvane {
+namespace {
+
+struct FootLineTest : testing::Test {
+    FootLineTest() {
+        window.resize(880, 580);
+        elsewhere.show();
+        window.show();
+    }
+    QLabel& label(const QString& name) { return *line->findChild<QLabel*>(name); }
+    QString text() { return label(u"lblFootText"_s).text(); }
+
+    QWidget window;
+    QPushButton elsewhere;
+    FootLine* line = new FootLine(&window);
+};
+
+TEST_F(FootLineTest, theNextClickOrKeyAnywhereTakesALineAway) {
+    EXPECT_FALSE(line->isVisible()) << "nothing to tell";
+    const std::pair<std::function<void()>, bool> cases[] = {
+        {[&] {
+             QTest::mouseMove(&window, {50, 50});
+         },
+         false},
+        {[&] { QTest::mouseRelease(&elsewhere, Qt::LeftButton); }, false}, // of the press that began the job
+        {[&] { QTest::keyRelease(&elsewhere, Qt::Key_Space); }, false},
+        {[&] { QTest::mousePress(&elsewhere, Qt::LeftButton); }, true},
+        {[&] { QTest::keyPress(&elsewhere, Qt::Key_Shift); }, true}};
+    for (int number = 0; const auto& [act, takesAway] : cases) {
+        line->tellDone({u"1,183 textures backed up"_s, u"Backup 2"_s});
+        EXPECT_TRUE(line->isVisible());
+        EXPECT_EQ(text() + label(u"lblFootRemark"_s).text(), u"1,183 textures backed upBackup 2"_s);
+        act();
+        EXPECT_EQ(line->isVisible(), !takesAway) << number++;
+    }
+}
+
+TEST_F(FootLineTest, aLongTextIsCutAndItsTipHasTheWhole) {
+    const QString whole = u"files put back, "_s.repeated(20);
+    line->tellDone({whole, u"since 21 Nov 2026, 23:47"_s});
+    EXPECT_TRUE(text().endsWith(u'…')) << text().toStdString();
+    EXPECT_EQ(label(u"lblFootText"_s).accessibleName(), whole);
+    EXPECT_EQ(QString(line->toolTip()).remove(u'\n').remove(u' '), QString(whole).remove(u' '));
+    EXPECT_LE(label(u"lblFootText"_s).geometry().right(), label(u"lblFootRemark"_s).geometry().left());
+    line->tellDone({u"short"_s});
+    EXPECT_EQ(line->toolTip(), QString());
+}
+
+TEST(WrappedTip, linesAreNoWiderThanAskedAndKeepEveryWord) {
+    const QString words = u"Click to install selected texture set. "_s.repeated(8).trimmed();
+    for (const QString& text : {words, u"Documents"_s.repeated(30)}) {
+        const QString wrapped = wrappedTip(text);
+        EXPECT_GT(wrapped.count(u'\n'), 1);
+        for (const QString& line : wrapped.split(u'\n'))
+            EXPECT_LE(QFontMetrics(QToolTip::font()).horizontalAdvance(line), 400);
+        EXPECT_EQ(QString(wrapped).replace(u'\n', u' ').remove(u' '), QString(text).remove(u' '));
+    }
+    for (const QString& text : {u"Back"_s, u"one\n\ntwo"_s, QString()})
+        EXPECT_EQ(wrappedTip(text), text);
+    EXPECT_FALSE(wrappedTip(u"<b>Dusk</b>"_s).contains(u"<b>"_s)) << "a set's name is no mark-up";
+}
+
+/// A slider as the colour pages have it; it counts what it tells.
+class SliderTest : public testing::Test {
+protected:
+    SliderTest() {
+        slider.resize(100, 20);
+        slider.show();
+        slider.setValue(0);
+        QObject::connect(&slider, &ucSlider::Change, [this] { ++changes; });
+    }
+    void press(const QPoint& place) { QTest::mousePress(&slider, Qt::LeftButton, {}, place); }
+    void release(const QPoint& place) { QTest::mouseRelease(&slider, Qt::LeftButton, {}, place); }
+    /// QTest's move carries no button, so that a drag needs its own.
+    void drag(const QPointF& place) {
+        QMouseEvent move(QEvent::MouseMove, place, slider.mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
+                         {});
+        QApplication::sendEvent(&slider, &move);
+    }
+
+    ucSlider slider{-100, 100};
+    int changes = 0;
+};
+
+TEST_F(SliderTest, theWheelMovesItByOneStepANotch) {
+    const auto turn = [this](int eighths) {
+        const QPointF place(50, 10);
+        QWheelEvent event(place, slider.mapToGlobal(place), {}, {0, eighths}, {}, {}, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(&slider, &event);
+        return slider.value();
+    };
+    const std::pair<int, int> turns[] = {{120, 1}, {240, 3}, {-120, 2}, {60, 2}, {60, 3}, {-360, 0}};
+    for (const auto& [eighths, value] : turns)
+        EXPECT_EQ(turn(eighths), value) << eighths;
+    slider.setValue(99);
+    EXPECT_EQ(turn(600), 100) << "and no further";
+}
+
+TEST_F(SliderTest, dragKeepsTheGrabbedPointAndStopsAtTheEnds) {
+    press({48, 10}); // inside the thumb of 44.5 to 55.5
+    EXPECT_EQ(slider.value(), 0) << "grabbing the thumb moves nothing";
+    drag({56.9, 10});
+    EXPECT_EQ(slider.value(), 20);
+    drag({400, -30});
+    EXPECT_EQ(slider.value(), 100);
+    EXPECT_DOUBLE_EQ(slider.thumbPlace().right(), 100);
+    drag({-400, 30});
+    EXPECT_DOUBLE_EQ(slider.thumbPlace().left(), 0);
+    release({-400, 30});
+    drag({50, 10});
+    EXPECT_EQ(slider.value(), -100) << "the drag is over";
+}
+
+} // namespace
+} // namespace morvane
