@@ -10,6 +10,7 @@
 #include "sky/sky_sets.h"
 #include "start_record.h"
 #include "support/install_test.h"
+#include "support/system_files.h"
 #include "weather/cover_choice.h"
 
 #include <QDeadlineTimer>
@@ -128,7 +129,7 @@ struct SimulatorLaunchTest : test::InstallTest {
 
     void SetUp() override { writeFile(flight, "flight"); }
     void placeStandIn(const FilePath& file) {
-        const FilePath standIn(QStringLiteral(MORVANE_BIN_DIR "/morvane-simulator"));
+        const FilePath standIn(QStringLiteral(MORVANE_BIN_DIR "/morvane-simulator") + test::programEnding);
         install.files.copyContents(standIn, file);
         install.files.copyMode(standIn, file);
     }
@@ -181,7 +182,7 @@ TEST_F(SimulatorLaunchTest, startsWhatWasChosenAndMinimisesButAnUnattendedRun) {
         const bool isStarted = isConfirmed && !name.isEmpty();
         EXPECT_EQ(wasMarked, isStarted && !isUnattended);
         EXPECT_FALSE(session.MinimiseForLaunch);
-        if (isStarted) starts << flight.native();
+        if (isStarted) starts << programCall(program, flight, {}).arguments;
         EXPECT_EQ(startsIn(install.simulator(), starts.size()), starts);
     }
 }

@@ -179,7 +179,7 @@ bool startThatIsKilled(UpgradeTest& upgrade, int n, bool) {
 
 /// An upgrade a failure, until one had none; gives their number.
 int failuresOf(FaultyStart start, bool forever) {
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n += test::faultStride) {
         OneUpgrade upgrade;
         if (!start(upgrade, n, forever)) return n - 1;
         SCOPED_TRACE(n);
