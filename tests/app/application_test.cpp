@@ -3,6 +3,7 @@
 #include "app/start_up.h"
 #include "core/store.h"
 #include "core/store_connection.h"
+#include "core/wine_prefixes.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
@@ -10,7 +11,14 @@
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
 #include "support/install_test.h"
+#include "support/wine_prefix.h"
 #include "weather/cover_choice.h"
+
+#ifndef Q_OS_WIN
+#include <QProcess>
+#include <sys/inotify.h>
+#include <unistd.h>
+#endif
 
 namespace morvane {
 namespace {
@@ -68,6 +76,76 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
     EXPECT_EQ(session.FSPath.native(), right);
     EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
 }
+
+#ifndef Q_OS_WIN
+
+/// Two prefixes in the home of the tests; the simulator of the second lies in one that Steam keeps.
+TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
+    const FilePath home(QDir::homePath());
+    const QString plain = home.native() + "/.wine",
+                  steam = home.native() + "/.local/share/Steam/steamapps/compatdata/9/pfx";
+    const auto box = [](const QString& path) {
+        return "box Flight Simulator 2004 was found in 2 places. Would you like to use this one?\n" + path;
+    };
+    const auto stored = [this] {
+        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s);
+    };
+    const QString one = test::makePrefix(plain).native();
+    ASSERT_TRUE(startUp(session));
+    EXPECT_EQ(stored(), install.simulator().native()) << "the install's own goes first";
+    const QString foundOne = "done Flight Simulator 2004 was found in " + one;
+    const auto startAnew = [&](const std::deque<bool>& answers) {
+        closeDatabase(session);
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, u"/gone"_s);
+        user.calls.clear();
+        user.answersToGive = answers;
+        return startUp(session);
+    };
+    EXPECT_TRUE(startAnew({}));
+    EXPECT_EQ(user.calls, QStringList{foundOne}) << "one is not asked about";
+    EXPECT_EQ(stored(), one);
+    const QString two = test::makePrefix(steam).native();
+    const auto before = test::contentsBelow(home);
+    EXPECT_TRUE(startAnew({false, true}));
+    EXPECT_EQ(user.calls,
+              QStringList({box(one), box(two + " (Steam)"), "done" + foundOne.mid(4).replace(one, two)}));
+    EXPECT_EQ(session.FSPath.native(), two);
+    EXPECT_FALSE(startAnew({false, false, false}));
+    EXPECT_EQ(user.calls.value(3), "browse");
+    EXPECT_EQ(test::contentsBelow(home), before) << "a prefix is only read";
+    QDir(home.native()).removeRecursively();
+}
+
+/// This program once more, in a home with a prefix that tells when something in it is opened.
+TEST(OwnHome, keepsTheTestsFromPrefixesOutside) {
+    const test::TemporaryFolder outside;
+    const QString prefix = (outside / u".wine").native();
+    test::makePrefix(prefix);
+    const int watch = inotify_init1(IN_NONBLOCK);
+    ASSERT_GE(inotify_add_watch(watch, QFile::encodeName(prefix).constData(), IN_OPEN), 0);
+    const auto wasOpened = [watch] {
+        char event[4096];
+        return read(watch, event, sizeof event) > 0;
+    };
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, outside.path().native());
+    environment.insert(u"WINEPREFIX"_s, prefix);
+    QProcess tests;
+    tests.setProcessEnvironment(environment);
+    tests.start(QFileInfo(u"/proc/self/exe"_s).canonicalFilePath(), {u"--gtest_filter=ApplicationTest.*"_s});
+    ASSERT_TRUE(tests.waitForFinished(100000));
+    EXPECT_EQ(tests.exitCode(), 0) << tests.readAllStandardOutput().toStdString();
+    EXPECT_FALSE(wasOpened());
+    NativeFileSystem files;
+    const QByteArray own = qgetenv("WINEPREFIX");
+    qputenv("WINEPREFIX", QFile::encodeName(prefix));
+    EXPECT_EQ(simulatorsInPrefixes(files).size(), 1U);
+    qputenv("WINEPREFIX", own);
+    EXPECT_TRUE(wasOpened()) << "or the look above sees nothing";
+    close(watch);
+}
+
+#endif
 
 TEST_F(ApplicationTest, theCommandLineTakesTheCodesExactly) {
     ASSERT_TRUE(startUp(session));
