@@ -10,6 +10,7 @@
 #include "sets/options_in_force.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
+#include "support/home_folder.h"
 #include "support/install_test.h"
 #include "support/wine_prefix.h"
 #include "weather/cover_choice.h"
@@ -79,11 +80,11 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
 
 #ifndef Q_OS_WIN
 
-/// Two prefixes in the home of the tests; the simulator of the second lies in one that Steam keeps.
+/// Of plain wine, and of Steam.
 TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
-    const FilePath home(QDir::homePath());
-    const QString plain = home.native() + "/.wine",
-                  steam = home.native() + "/.local/share/Steam/steamapps/compatdata/9/pfx";
+    const test::HomeFolder home;
+    const QString plain = home.path() + "/.wine",
+                  steam = home.path() + "/.local/share/Steam/steamapps/compatdata/9/pfx";
     const auto box = [](const QString& path) {
         return "box Flight Simulator 2004 was found in 2 places. Would you like to use this one?\n" + path;
     };
@@ -105,21 +106,20 @@ TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
     EXPECT_EQ(user.calls, QStringList{foundOne}) << "one is not asked about";
     EXPECT_EQ(stored(), one);
     const QString two = test::makePrefix(steam).native();
-    const auto before = test::contentsBelow(home);
+    const auto before = test::contentsBelow(FilePath(home.path()));
     EXPECT_TRUE(startAnew({false, true}));
     EXPECT_EQ(user.calls,
               QStringList({box(one), box(two + " (Steam)"), "done" + foundOne.mid(4).replace(one, two)}));
     EXPECT_EQ(session.FSPath.native(), two);
     EXPECT_FALSE(startAnew({false, false, false}));
     EXPECT_EQ(user.calls.value(3), "browse");
-    EXPECT_EQ(test::contentsBelow(home), before) << "a prefix is only read";
-    QDir(home.native()).removeRecursively();
+    EXPECT_EQ(test::contentsBelow(FilePath(home.path())), before) << "a prefix is only read";
 }
 
 /// This program once more, in a home with a prefix that tells when something in it is opened.
 TEST(OwnHome, keepsTheTestsFromPrefixesOutside) {
-    const test::TemporaryFolder outside;
-    const QString prefix = (outside / u".wine").native();
+    const test::HomeFolder outside;
+    const QString prefix = outside.path() + "/.wine";
     test::makePrefix(prefix);
     const int watch = inotify_init1(IN_NONBLOCK);
     ASSERT_GE(inotify_add_watch(watch, QFile::encodeName(prefix).constData(), IN_OPEN), 0);
@@ -127,20 +127,14 @@ TEST(OwnHome, keepsTheTestsFromPrefixesOutside) {
         char event[4096];
         return read(watch, event, sizeof event) > 0;
     };
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"HOME"_s, outside.path().native());
-    environment.insert(u"WINEPREFIX"_s, prefix);
     QProcess tests;
-    tests.setProcessEnvironment(environment);
-    tests.start(QFileInfo(u"/proc/self/exe"_s).canonicalFilePath(), {u"--gtest_filter=ApplicationTest.*"_s});
+    tests.start(QFileInfo(u"/proc/self/exe"_s).canonicalFilePath(),
+                {u"--gtest_filter=ApplicationTest.asks*"_s});
     ASSERT_TRUE(tests.waitForFinished(100000));
     EXPECT_EQ(tests.exitCode(), 0) << tests.readAllStandardOutput().toStdString();
     EXPECT_FALSE(wasOpened());
     NativeFileSystem files;
-    const QByteArray own = qgetenv("WINEPREFIX");
-    qputenv("WINEPREFIX", QFile::encodeName(prefix));
     EXPECT_EQ(simulatorsInPrefixes(files).size(), 1U);
-    qputenv("WINEPREFIX", own);
     EXPECT_TRUE(wasOpened()) << "or the look above sees nothing";
     close(watch);
 }

@@ -2,6 +2,7 @@
 
 #include "core/registry.h"
 #include "core/registry_file.h"
+#include "support/home_folder.h"
 #include "support/printing.h"
 #include "support/wine_prefix.h"
 
@@ -56,15 +57,11 @@ TEST(WinePrefixNotes, areReadByTheirNames) {
 
 #ifndef Q_OS_WIN
 
-/// In the home folder of this program.
 struct WinePrefixTest : testing::Test {
     NativeFileSystem files;
-    const QString home = QDir::homePath(), usual = home + u"/.wine"_s;
+    test::HomeFolder homeFolder;
+    const QString home = homeFolder.path(), usual = home + u"/.wine"_s;
 
-    void TearDown() override {
-        qputenv("WINEPREFIX", usual.toUtf8());
-        QDir(home).removeRecursively();
-    }
     void write(const QString& path, const QByteArray& contents) {
         test::writeFile(FilePath(home + u'/' + path), contents);
     }

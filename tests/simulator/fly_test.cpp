@@ -9,6 +9,7 @@
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "start_record.h"
+#include "support/home_folder.h"
 #include "support/install_test.h"
 #include "support/wine_prefix.h"
 #include "weather/cover_choice.h"
@@ -249,7 +250,7 @@ TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
     writeFile(commands / u"wine",
               "#!/bin/sh\nprintf '%s|' \"$WINEPREFIX\" \"$@\" > '" + record.native().toUtf8() + "'\n");
     install.files.setMode(commands / u"wine", 0755);
-    const QByteArray path = qgetenv("PATH"), usual = qgetenv("WINEPREFIX");
+    const QByteArray path = qgetenv("PATH");
     qputenv("PATH", commands.native().toUtf8() + ':' + path);
     const auto advice = [](const QString& keeper, const QString& line) {
         return QString("Exclamation|Flight Simulator Not Started|Flight Simulator lies in a Wine prefix of "
@@ -259,13 +260,13 @@ TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
                        "SimulatorRunner=\"%2\"")
             .arg(keeper, line);
     };
-    const QString plain = root + "/plain", steam = root + "/compatdata/8/pfx", bottle = root + "/b";
+    const test::HomeFolder home;
+    const QString plain = home.path() + "/.wine", steam = root + "/compatdata/8/pfx", bottle = root + "/b";
     const FilePath own = test::makePrefix(plain), beside = FilePath(drive) / u"FS9";
     writeFile(FilePath(bottle) / u"bottle.yml", "Name: B\n");
     writeFile(beside / u"fs9.exe", "MZ");
     test::link(drive, plain + "/dosdevices/d:");
     writeFile(FilePath(plain) / u"user.reg", test::simulatorSection("D:\\\\FS9"));
-    qputenv("WINEPREFIX", plain.toUtf8());
     const std::tuple<FilePath, QString, QString> cases[] = {
         {own, plain + '|' + own.native() + "/fs9.exe|", {}},
         {beside, plain + '|' + beside.native() + "/fs9.exe|", {}}, // on a drive of the prefix that names it
@@ -282,7 +283,6 @@ TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
         EXPECT_TRUE(install.user.told().last().contains(told)) << install.user.told().last().toStdString();
     }
     qputenv("PATH", path);
-    qputenv("WINEPREFIX", usual);
 }
 
 #endif
