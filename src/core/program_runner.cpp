@@ -23,8 +23,8 @@ QString runnerAdvice(const QString& name, const std::optional<WinePrefix>& prefi
         return name + u" is a Windows program and needs a runner on this system. Set the value "
                       u"\"SimulatorRunner\" of Morvane's registry.ini to its command, such as wine."_s;
     return name +
-           u" lies in a Wine prefix of %1, which Morvane only reads. Let %1 start it, or set this line "
-           u"below [HKEY_LOCAL_MACHINE\\%2] in Morvane's registry.ini:\nSimulatorRunner=\"%3\""_s.arg(
+           u" lies in a Wine prefix of %1, which Morvane only reads. Let %1 start it, or have these lines in "
+           u"Morvane's registry.ini:\n[HKEY_LOCAL_MACHINE\\%2]\nSimulatorRunner=\"%3\""_s.arg(
                prefix->keeper, morvaneKey, prefix->runner);
 }
 

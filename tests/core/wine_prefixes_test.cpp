@@ -43,18 +43,6 @@ TEST(RegistryFile, givesWhatIsWhole) {
             << contents.left(100).toStdString();
 }
 
-TEST(WinePrefixNotes, areReadByTheirNames) {
-    const QByteArray lines =
-        "game:\n  a: /home/x y\n  b: \"/caf\\xE9 \\u7a7a\\\\\\U0001F6E9\"\r\n c: 'it''s'\nd: \"\n";
-    const std::pair<QByteArray, QString> cases[] = {{"a", "/home/x y"},
-                                                    {"b", QString::fromUtf8("/café 空\\🛩")},
-                                                    {"c", "it's"},
-                                                    {"d", "\""},
-                                                    {"e", {}}};
-    for (const auto& [name, text] : cases)
-        EXPECT_EQ(textOfLine(lines, name), text);
-}
-
 #ifndef Q_OS_WIN
 
 struct WinePrefixTest : testing::Test {
@@ -80,10 +68,10 @@ TEST_F(WinePrefixTest, areFoundWhereEachKeeperHasThem) {
     const std::tuple<QString, QString, QString> prefixes[] = {
         {"Mitt präfix", {}, "wine"},
         {".wine", {}, "wine"},
-        {"Games/Föhn 9", "Lutris", '"' + lutrisWine + '"'},
+        {"Games/Föhn 空🛩", "Lutris", '"' + lutrisWine + '"'},
         {"Games/by program", "Lutris", '"' + lutrisWine + '"'},
         {bottles + "bottles/My-Bottle", "Bottles", "bottles-cli run -b \"My Bottle\" -e"},
-        {"chosen/Other", "Bottles", "bottles-cli run -b Other -e"},
+        {"chosen's/Other", "Bottles", "bottles-cli run -b Other -e"},
         {flatpak + "F", "Bottles", "flatpak run --command=bottles-cli com.usebottles.bottles run -b F -e"},
         {steam + "steamapps/compatdata/20920/pfx", "Steam", "protontricks-launch --appid 20920"},
         {"other drive/steamapps/compatdata/7/pfx", "Steam", "protontricks-launch --appid 7"},
@@ -97,14 +85,15 @@ TEST_F(WinePrefixTest, areFoundWhereEachKeeperHasThem) {
     QDir().mkpath(home + "/.local/share/lutris/runners/wine/a");
     QDir().mkpath(home + "/.local/share/lutris/runners/wine/b");
     const QByteArray root = QFile::encodeName(home);
-    write(".config/lutris/games/föhn.yml", "game:\n  prefix: \"" + root + "/Games/F\\xF6hn 9\"\n");
+    write(".config/lutris/games/föhn.yml",
+          "game:\n  prefix: \"" + root + "/Games/F\\xF6hn \\u7a7a\\U0001F6E9\"\n");
     write(".local/share/lutris/games/x.yml",
           "game:\n  exe: " + root + "/Games/by program/drive_c/Program Files (x86)/FS 9/fs9.exe\n");
     write(".local/share/lutris/games/gone.yml", "game:\n  prefix: /nowhere\n  exe: drive_c/a.exe\n");
-    write(bottles + "bottles/My-Bottle/bottle.yml", "Arch: win64\nName: My Bottle\n");
-    write("chosen/Other/bottle.yml", "Arch: win64\n");
+    write(bottles + "bottles/My-Bottle/bottle.yml", "Arch: win64\n  Name: My Bottle\n");
+    write("chosen's/Other/bottle.yml", "Arch: win64\n");
     write(flatpak + "F/bottle.yml", "Name: F\n");
-    write(bottles + "data.yml", "custom_bottles_path: " + root + "/chosen\n");
+    write(bottles + "data.yml", "custom_bottles_path: '" + root + "/chosen''s'\r\n");
     write(steam + "steamapps/libraryfolders.vdf",
           "\"libraryfolders\"\n{\n\t\"1\"\n\t{\n\t\t\"path\"\t\t\"" + root + "/other drive\"\n");
     test::link(home + u'/' + steam, home + "/.steam/steam"); // the same once more
@@ -120,15 +109,15 @@ TEST_F(WinePrefixTest, namesEveryPathThatLeadsToASimulator) {
     };
     test::makePrefix(usual);
     test::link(drive, usual + "/dosdevices/g:");
-    test::link("loop:", usual + "/dosdevices/loop:");
+    test::link("l:", usual + "/dosdevices/l:");
     const std::pair<QByteArrayList, QString> cases[] = {
-        // of the machine and of the user; the names found
+        // the machine's part and the user's, and what is found
         {{section("g:\\\\b B", "") + section("G:\\\\A\\\\"), section("G:/D", "") + section("G:\\\\\\x7a7a")},
          "A|B b|空|D"},
         {{section("G:\\\\E"), section("g:\\\\e", "")}, "E"},
         {{section("G:\\\\nowhere"), section("G:\\\\E")}, "E"},
         {{section("G:\\\\A\\\\..\\\\E"), {}}, ""},
-        {{section("H:\\\\E") + section("E", ""), section("loop:\\\\E") + section("", "")}, ""},
+        {{section("H:\\\\E") + section("E", ""), section("L:\\\\E") + section("", "")}, ""},
         {{section("G:E"), section("C:", "")}, ""},
     };
     for (const auto& [contents, names] : cases) {

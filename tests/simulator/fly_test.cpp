@@ -252,14 +252,10 @@ TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
     install.files.setMode(commands / u"wine", 0755);
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", commands.native().toUtf8() + ':' + path);
-    const auto advice = [](const QString& keeper, const QString& line) {
-        return QString("Exclamation|Flight Simulator Not Started|Flight Simulator lies in a Wine prefix of "
-                       "%1, which "
-                       "Morvane only reads. Let %1 start it, or set this line below "
-                       "[HKEY_LOCAL_MACHINE\\Software\\Orrinsoft\\Morvane] in Morvane's registry.ini:\n"
-                       "SimulatorRunner=\"%2\"")
-            .arg(keeper, line);
-    };
+    const QString advice =
+        "Flight Simulator Not Started|Flight Simulator lies in a Wine prefix of %1, which "
+        "Morvane only reads. Let %1 start it, or have these lines in Morvane's registry.ini:"
+        "\n[HKEY_LOCAL_MACHINE\\Software\\Orrinsoft\\Morvane]\nSimulatorRunner=\"%2\"";
     const test::HomeFolder home;
     const QString plain = home.path() + "/.wine", steam = root + "/compatdata/8/pfx", bottle = root + "/b";
     const FilePath own = test::makePrefix(plain), beside = FilePath(drive) / u"FS9";
@@ -270,8 +266,8 @@ TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
     const std::tuple<FilePath, QString, QString> cases[] = {
         {own, plain + '|' + own.native() + "/fs9.exe|", {}},
         {beside, plain + '|' + beside.native() + "/fs9.exe|", {}}, // on a drive of the prefix that names it
-        {test::makePrefix(steam), {}, advice("Steam", "protontricks-launch --appid 8")},
-        {test::makePrefix(bottle), {}, advice("Bottles", "bottles-cli run -b B -e")},
+        {test::makePrefix(steam), {}, advice.arg("Steam", "protontricks-launch --appid 8")},
+        {test::makePrefix(bottle), {}, advice.arg("Bottles", "bottles-cli run -b B -e")},
         {install.simulator(), {}, "needs a runner on this system"},
     };
     for (const auto& [simulator, started, told] : cases) {
