@@ -34,6 +34,7 @@ TEST(RegistryFile, givesWhatIsWhole) {
         {key + path + "\"no end\\x", {}},
         {key + "[x\\", {}},
         {key + path + '"' + QByteArray(9000, 'x') + '"', {}},
+        {key + '[' + QByteArray(9000, 'x') + "]\n" + path + "\"of the long key\"", {}},
         {QByteArray("\0\0[\0]\n\"\"=\"\"\n\xff\xfe[", 16), {}},
         {{}, {}},
     };
@@ -98,6 +99,7 @@ TEST_F(WinePrefixTest, areFoundWhereEachKeeperHasThem) {
           "\"libraryfolders\"\n{\n\t\"1\"\n\t{\n\t\t\"path\"\t\t\"" + root + "/other drive\"\n");
     test::link(home + u'/' + steam, home + "/.steam/steam"); // the same once more
     EXPECT_EQ(found(), expected);
+    EXPECT_EQ(winePrefixes(files).size(), std::size(prefixes));
 }
 
 TEST_F(WinePrefixTest, namesEveryPathThatLeadsToASimulator) {
