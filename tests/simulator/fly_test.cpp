@@ -257,6 +257,7 @@ TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
         "Morvane only reads. Let %1 start it, or have these lines in Morvane's registry.ini:"
         "\n[HKEY_LOCAL_MACHINE\\Software\\Orrinsoft\\Morvane]\nSimulatorRunner=\"%2\"";
     const test::HomeFolder home;
+    qunsetenv("WINEPREFIX"); // that of a start is handed to it
     const QString plain = home.path() + "/.wine", steam = root + "/compatdata/8/pfx", bottle = root + "/b";
     const FilePath own = test::makePrefix(plain), beside = FilePath(drive) / u"FS9";
     writeFile(FilePath(bottle) / u"bottle.yml", "Name: B\n");
