@@ -45,15 +45,17 @@ QString askForSimulator(Session& session) {
     }
 }
 
-/// Of those that Wine prefixes have: the one, or the one that the user takes of several.
-QString foundInPrefixes(Session& session) {
+/// Of those that Wine prefixes have the one that the user takes. Nobody is asked where there is only one, and
+/// the registry has named no other.
+QString foundInPrefixes(Session& session, const QString& named) {
     const std::vector<PrefixSimulator> found = simulatorsInPrefixes(session.files);
+    const bool isAsked = found.size() > 1 || !named.isEmpty();
     for (const auto& [folder, prefix] : found) {
         const QString keeper = prefix.keeper.isEmpty() ? QString() : u" ("_s + prefix.keeper + u')';
         const QString question =
-            u"Flight Simulator 2004 was found in %1 places. Would you like to use this one?\n%2%3"_s.arg(
-                countText(std::ssize(found)), folder.text(), keeper);
-        if (found.size() > 1 && !session.user.systemBox(question, {}, SystemBoxButtons::yesNo)) continue;
+            u"Flight Simulator 2004 was found in %1. Would you like to use this one?\n%2%3"_s.arg(
+                countText(std::ssize(found), u"place"_s), folder.text(), keeper);
+        if (isAsked && !session.user.systemBox(question, {}, SystemBoxButtons::yesNo)) continue;
         session.user.tellDone({u"Flight Simulator 2004 was found in "_s + folder.text()});
         return folder.text();
     }
@@ -64,7 +66,7 @@ bool findSimulator(Session& session) {
     QString path =
         StripBackslash(session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s));
     if (!holdsSimulator(session, path)) {
-        path = foundInPrefixes(session);
+        path = foundInPrefixes(session, path);
         if (path.isEmpty()) path = askForSimulator(session);
         if (path.isEmpty()) return false;
         session.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);

@@ -85,9 +85,7 @@ TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
     const test::HomeFolder home;
     const QString plain = home.path() + "/.wine",
                   steam = home.path() + "/.local/share/Steam/steamapps/compatdata/9/pfx";
-    const auto box = [](const QString& path) {
-        return "box Flight Simulator 2004 was found in 2 places. Would you like to use this one?\n" + path;
-    };
+    const QString box = "box Flight Simulator 2004 was found in %1. Would you like to use this one?\n%2";
     const auto stored = [this] {
         return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s);
     };
@@ -95,23 +93,25 @@ TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
     ASSERT_TRUE(startUp(session));
     EXPECT_EQ(stored(), install.simulator().native()) << "the install's own goes first";
     const QString foundOne = "done Flight Simulator 2004 was found in " + one;
-    const auto startAnew = [&](const std::deque<bool>& answers) {
+    const auto startAnew = [&](const QString& named, const std::deque<bool>& answers) {
         closeDatabase(session);
-        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, u"/gone"_s);
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, named);
         user.calls.clear();
         user.answersToGive = answers;
         return startUp(session);
     };
-    EXPECT_TRUE(startAnew({}));
+    EXPECT_TRUE(startAnew({}, {}));
     EXPECT_EQ(user.calls, QStringList{foundOne}) << "one is not asked about";
+    EXPECT_TRUE(startAnew("/gone", {true}));
+    EXPECT_EQ(user.calls, QStringList({box.arg("1 place", one), foundOne})) << "but in another's stead";
     EXPECT_EQ(stored(), one);
     const QString two = test::makePrefix(steam).native();
     const auto before = test::contentsBelow(FilePath(home.path()));
-    EXPECT_TRUE(startAnew({false, true}));
-    EXPECT_EQ(user.calls,
-              QStringList({box(one), box(two + " (Steam)"), "done" + foundOne.mid(4).replace(one, two)}));
+    EXPECT_TRUE(startAnew({}, {false, true}));
+    EXPECT_EQ(user.calls, QStringList({box.arg("2 places", one), box.arg("2 places", two + " (Steam)"),
+                                       "done" + foundOne.mid(4).replace(one, two)}));
     EXPECT_EQ(session.FSPath.native(), two);
-    EXPECT_FALSE(startAnew({false, false, false}));
+    EXPECT_FALSE(startAnew({}, {false, false, false}));
     EXPECT_EQ(user.calls.value(3), "browse");
     EXPECT_EQ(test::contentsBelow(FilePath(home.path())), before) << "a prefix is only read";
 }
