@@ -8,6 +8,7 @@
 #include "ground/ground_sets.h"
 #include "support/faulty_store.h"
 #include "support/install_test.h"
+#include "support/system_files.h"
 #include "support/version_two_install.h"
 
 namespace morvane {
