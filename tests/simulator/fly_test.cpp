@@ -142,6 +142,12 @@ struct SimulatorLaunchTest : test::InstallTest {
             choice.FlightSelected = isConfirmed;
         };
     }
+    /// By whatever name; on Windows it is handed on by a short one.
+    bool isFlight(const QString& path) {
+        const FilePath file(path);
+        return install.files.exists(file) &&
+               install.files.stamp(file).isSameFile(install.files.stamp(flight));
+    }
     /// The arguments of each start that the stand-in recorded, once there are so many. The simulator is
     /// started detached, so its record has to be waited for.
     QStringList startsIn(const FilePath& folder, qsizetype count) {
@@ -153,7 +159,10 @@ struct SimulatorLaunchTest : test::InstallTest {
         for (const QByteArray& line : std::as_const(lines)) {
             const QJsonObject start = QJsonDocument::fromJson(line).object();
             EXPECT_EQ(start["workingFolder"].toString(), install.simulator().native());
-            starts << start["arguments"].toVariant().toStringList().join(u'|');
+            QStringList arguments = start["arguments"].toVariant().toStringList();
+            for (QString& argument : arguments)
+                if (isFlight(argument)) argument = flight.native();
+            starts << arguments.join(u'|');
         }
         return starts;
     }
@@ -184,7 +193,7 @@ TEST_F(SimulatorLaunchTest, startsWhatWasChosenAndMinimisesButAnUnattendedRun) {
         const bool isStarted = isConfirmed && !name.isEmpty();
         EXPECT_EQ(wasMarked, isStarted && !isUnattended);
         EXPECT_FALSE(session.MinimiseForLaunch);
-        if (isStarted) starts << programCall(program, flight, {}).arguments;
+        if (isStarted) starts << flight.native();
         EXPECT_EQ(startsIn(install.simulator(), starts.size()), starts);
     }
 }
