@@ -1,0 +1,9 @@
+# Read by CPack once a package, when it knows which.
+set(CPACK_COMPONENTS_ALL Unspecified)
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+else()
+    list(APPEND CPACK_COMPONENTS_ALL bundle)
+    set(CPACK_PACKAGE_FILE_NAME ${CPACK_PACKAGE_NAME}-${CPACK_PACKAGE_VERSION}-linux-x64)
+    set(CPACK_ARCHIVE_FILE_NAME ${CPACK_PACKAGE_FILE_NAME})
+endif()
