@@ -47,3 +47,5 @@ install(FILES /usr/share/common-licenses/Apache-2.0 DESTINATION ${CMAKE_INSTALL_
     RENAME font-license.txt OPTIONAL)
 
 add_custom_target(morvane_installed ALL DEPENDS ${icon} ${drawn_files} ${pilots_programs})
+add_test(NAME installed_tree
+    COMMAND ${CMAKE_COMMAND} -DBUILD=${CMAKE_BINARY_DIR} -P ${CMAKE_SOURCE_DIR}/tests/linux/installed_tree.cmake)
