@@ -59,7 +59,7 @@ stopWindow() {
 
 # tryPrograms NAME FOLDER: the programs in that folder of the tree.
 tryPrograms() {
-    pilotsPlace=(env -i HOME=/home/pilot DISPLAY="$DISPLAY" PATH="$2:/usr/bin:/bin")
+    pilotsPlace=(env -i LANG=C.UTF-8 HOME=/home/pilot DISPLAY="$DISPLAY" PATH="$2:/usr/bin:/bin")
     say "$1: $(asPilot morvane --version), $(asPilot morvane-cli --version)"
     startWindow
     waitFor "the first start's progress" hasWindow Morvane
