@@ -46,10 +46,7 @@ QString entryOf(const Command& command) {
     return text + u".PP\nExample: "_s + bold(u"morvane-cli "_s + command.example) + u"\n.RE\n"_s;
 }
 
-QString page(const QString& date) {
-    QString text = u".TH MORVANE\\-CLI 1 \"%1\" \"Morvane %2\" \"User Commands\"\n"_s.arg(
-        date, QStringLiteral(MORVANE_VERSION));
-    text += uR"(.SH NAME
+const QString beginning = uR"(.SH NAME
 morvane\-cli \- drives Morvane from scripts and other programs
 .SH SYNOPSIS
 .B morvane\-cli
@@ -70,14 +67,8 @@ The first Ctrl\-C ends making a set at the next file; an install goes through it
 A second one kills, which is safe: no file of the simulator is ever half written.
 .SH OPTIONS
 )"_s;
-    for (const CommandOption& option : commonOptions())
-        text += entryOf(option);
-    text += entry(bold(u"-h"_s) + u", "_s + bold(u"--help"_s),
-                  u"lists the commands, or shows the one in front of it"_s) +
-            entry(bold(u"--version"_s), u"shows the version"_s) + u".SH COMMANDS\n"_s;
-    for (const Command& command : commandTable())
-        text += entryOf(command);
-    return text + uR"(.SH EXIT STATUS
+
+const QString end = uR"(.SH EXIT STATUS
 0 when done; 1 when a message told of a failure, when nothing was done because nobody answered, when Ctrl\-C ended
 a question, and when stdout could not be written; 2 for wrong usage, which is told in one line before anything is
 done.
@@ -99,6 +90,19 @@ does
 .BR morvane (1),
 .BR morvane\-content (1)
 )"_s;
+
+QString page(const QString& date) {
+    const QString version = QStringLiteral(MORVANE_VERSION);
+    QString text =
+        u".TH MORVANE\\-CLI 1 \"%1\" \"Morvane %2\" \"User Commands\"\n"_s.arg(date, version) + beginning;
+    for (const CommandOption& option : commonOptions())
+        text += entryOf(option);
+    text += entry(bold(u"-h"_s) + u", "_s + bold(u"--help"_s),
+                  u"lists the commands, or shows the one in front of it"_s) +
+            entry(bold(u"--version"_s), u"shows the version"_s) + u".SH COMMANDS\n"_s;
+    for (const Command& command : commandTable())
+        text += entryOf(command);
+    return text + end;
 }
 
 } // namespace
