@@ -71,6 +71,11 @@ int run(const QCommandLineParser& parser) {
         folder(parser, u"home"_s), folder(parser, u"simulator"_s),     simulatorProgram(),
         folder(parser, u"data"_s), parser.value(u"density"_s).toInt(), parser.isSet(u"old-version"_s)};
     if (parser.isSet(u"check"_s)) return isContentCurrent(files, request) ? 0 : 1;
+    if (parser.isSet(u"simulator"_s) && !files.exists(simulatorProgram())) {
+        std::fprintf(stderr, "morvane-content: no sample simulator without the program %s\n",
+                     qPrintable(simulatorProgram().text()));
+        return 1;
+    }
     if (parser.isSet(u"progress"_s))
         request.onProgress = [](int percent) {
             std::printf("%d\n", percent);
