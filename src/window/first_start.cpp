@@ -48,7 +48,8 @@ bool awaitsFirstStart(const QString& home) {
 
 bool makeInstallFolder(const QString& home) {
     if (QDir(home).exists(madeName)) return moveUp(home);
-    QDir().mkpath(home);
+    const QString failed = u"The install folder could not be made: "_s + QDir::toNativeSeparators(home);
+    if (!QDir().mkpath(home)) return refuse(failed);
     NativeFileSystem files;
     const FilePath place(QFileInfo(home).absoluteFilePath());
     if (const QString problem = installFolderProblem(files, place); !problem.isEmpty())
@@ -67,8 +68,7 @@ bool makeInstallFolder(const QString& home) {
     QDir().rmdir(home); // where nothing else is in it
     if (progress.wasCanceled()) return false;
     progress.hide();
-    return refuse(u"The install folder could not be made: "_s + QDir::toNativeSeparators(home) + u'\n' +
-                  run.cause);
+    return refuse(failed + u'\n' + run.cause);
 }
 
 } // namespace morvane

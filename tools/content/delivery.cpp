@@ -1,16 +1,18 @@
 #include "delivery.h"
 
+#include "core/file_fingerprint.h"
 #include "core/literals.h"
 
 namespace morvane {
 
-Delivery::Delivery(FileSystem& files, const FilePath& home)
-    : files_(files), home_(home), list_(files, home), kept_(files, home) {}
+Delivery::Delivery(FileSystem& files, const FilePath& home, const EarlierSums& earlier)
+    : files_(files), home_(home), list_(files, home), kept_(files, home), earlier_(earlier) {}
 
 /// The start picture of the simulator is kept in the place of a delivered one, and may look just like it.
 /// What is marked as read-only, or is a link, a pilot has made so.
 bool Delivery::isOurs(const FilePath& place, const QString& path, const QByteArray& contents) {
-    return path.compare(u"Media\\dlgsplash.bmp", Qt::CaseInsensitive) != 0 && list_.has(path, contents) &&
+    const bool isKnown = list_.has(path, contents) || earlier_.contains(fingerprintOf(contents).checksum);
+    return isKnown && path.compare(u"Media\\dlgsplash.bmp", Qt::CaseInsensitive) != 0 &&
            !files_.isLink(place) && !files_.isReadOnly(place);
 }
 

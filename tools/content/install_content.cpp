@@ -14,6 +14,7 @@
 #include "stock_files.h"
 #include "version_two.h"
 
+#include <QSet>
 #include <algorithm>
 #include <iterator>
 
@@ -111,6 +112,12 @@ void deliver(const PutFile& put, FileSystem& files, const ContentRequest& reques
     writeHelp(put, request.home / u"MV Help");
 }
 
+EarlierSums earlierSums(FileSystem& files, const FilePath& data) {
+    const auto text = files.readIfThere(data / u"delivered\\earlier.sums").value_or(QByteArray());
+    const QStringList sums = QString::fromLatin1(text).split(u'\n');
+    return {sums.begin(), sums.end()};
+}
+
 void copyIntoSimulator(FileSystem& files, const ContentRequest& request) {
     const FilePath media = request.home / u"Media";
     files.copyContents(media / u"dlgsplash.bmp", request.simulator / u"Uires\\dlgsplash.bmp");
@@ -156,9 +163,10 @@ int updateContent(FileSystem& files, const ContentRequest& present) {
     if (!list.isOlder()) return 0;
     ContentRequest request = present;
     request.density = list.density();
+    request.simulator = FilePath(); // the one that goes with a pilot's install is the pilot's
     for (const char16_t* folder : installFolders)
         files.makeFolder(request.home / folder);
-    Delivery delivery(files, request.home);
+    Delivery delivery(files, request.home, earlierSums(files, request.data));
     FirstFailure failure;
     deliver([&](const FilePath& file,
                 const QByteArray& contents) { failure.attempt([&] { delivery.put(file, contents); }); },
