@@ -63,10 +63,11 @@ TEST_F(InstallContent, neverTouchesAFolderThatHoldsSomething) {
 
 TEST_F(InstallContent, isBroughtUpToDateByANewerVersionOnly) {
     const auto update = [&](const FilePath& folder) {
-        return runContentTool(folder, simulator(), {u"--update"_s}).status;
+        return runContentTool(folder, simulator(), {u"--update"_s, u"--data"_s, beside(u"Data").native()})
+            .status;
     };
     const FilePath list = home() / u"content.version", help = home() / u"MV Help\\index.html",
-                   picture = home() / u"Media\\morvane.png";
+                   picture = home() / u"Media\\morvane.png", cursor = home() / u"Media\\Hand.cur";
     const auto all = [&] {
         return std::tuple(test::contentsBelow(home() / u"Media"), test::contentsBelow(simulator()).keys(),
                           files.read(help), files.read(list), files.read(home() / u"registry.ini"),
@@ -81,6 +82,9 @@ TEST_F(InstallContent, isBroughtUpToDateByANewerVersionOnly) {
     files.write(list, older);
     const QByteArray drawn = files.read(picture);
     files.write(picture, "the pilot's");
+    files.write(cursor, "of before the list");
+    test::writeFile(beside(u"Data\\delivered\\earlier.sums"),
+                    fingerprintOf(files.read(cursor)).checksum.toLatin1() + '\n');
     EXPECT_EQ(update(home()), 0);
     EXPECT_EQ(files.read(picture), "the pilot's");
     files.write(picture, drawn);
