@@ -44,7 +44,9 @@ ContentToolRun runContentTool(const QStringList& arguments, QProgressDialog& pro
     tool.waitForFinished();
     using End = ContentToolRun::End;
     if (tool.error() != QProcess::UnknownError) return {End::failed, tool.errorString()};
-    const QString cause = QString::fromLocal8Bit(tool.readAllStandardError()).trimmed();
+    // The toolkit may have written before it.
+    const QString said = QString::fromLocal8Bit(tool.readAllStandardError());
+    const QString cause = said.section(u"morvane-content: "_s, -1).trimmed();
     if (tool.exitStatus() != QProcess::NormalExit) return {End::failed, cause};
     if (tool.exitCode() == otherWriterStatus) return {End::otherWriter, cause};
     return {tool.exitCode() == 0 ? End::done : End::failed, cause};
