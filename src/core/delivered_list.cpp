@@ -1,6 +1,5 @@
 #include "core/delivered_list.h"
 
-#include "core/file_fingerprint.h"
 #include "core/literals.h"
 #include "core/text_decoding.h"
 
@@ -45,21 +44,20 @@ bool DeliveredList::isOlder() const {
            (program_ < programVersion() || (program_ == programVersion() && content_ < contentVersion));
 }
 
-bool DeliveredList::has(const QString& path, const QByteArray& contents) const {
-    return entries_.value(path.toCaseFolded()).sums.contains(fingerprintOf(contents).checksum);
+bool DeliveredList::has(const QString& path, const QString& sum) const {
+    return entries_.value(path.toCaseFolded()).sums.contains(sum);
 }
 
-void DeliveredList::announce(const QString& path, const QByteArray& contents) {
-    if (has(path, contents)) return;
-    const QString sum = fingerprintOf(contents).checksum;
+void DeliveredList::announce(const QString& path, const QString& sum) {
+    if (has(path, sum)) return;
     files_.append(file_, (u'\n' + lineOf(sum, path)).toUtf8()); // the line before may have been cut short
     Entry& entry = entries_[path.toCaseFolded()];
     entry.path = path;
     entry.sums << sum;
 }
 
-void DeliveredList::settle(const QString& path, const QByteArray& contents) {
-    entries_[path.toCaseFolded()] = {path, {fingerprintOf(contents).checksum}};
+void DeliveredList::settle(const QString& path, const QString& sum) {
+    entries_[path.toCaseFolded()] = {path, {sum}};
 }
 
 void DeliveredList::finish(const QByteArray& heading) {

@@ -24,11 +24,11 @@ public:
     bool isOlder() const;
     /// Of the base images; 0 where no content tool has come to its end.
     int density() const { return density_; }
-    bool has(const QString& path, const QByteArray& contents) const;
-    /// Adds the contents to those that the file of that path can have.
-    void announce(const QString& path, const QByteArray& contents);
-    /// From now on these are the only ones; `finish` stores it.
-    void settle(const QString& path, const QByteArray& contents);
+    bool has(const QString& path, const QString& sum) const;
+    /// Adds the sum to those that the file of that path can have.
+    void announce(const QString& path, const QString& sum);
+    /// From now on it is the only one; `finish` stores it.
+    void settle(const QString& path, const QString& sum);
     /// Writes the whole list under that heading.
     void finish(const QByteArray& heading);
 
