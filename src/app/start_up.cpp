@@ -4,11 +4,13 @@
 #include "app/joined_rooms.h"
 #include "core/failure_report.h"
 #include "core/install_folder.h"
+#include "core/numbers.h"
 #include "core/registry.h"
 #include "core/session.h"
 #include "core/store.h"
 #include "core/store_connection.h"
 #include "core/store_records.h"
+#include "core/wine_prefixes.h"
 #include "core/writing.h"
 #include "simulator/options.h"
 #include "simulator/upgrade.h"
@@ -43,11 +45,29 @@ QString askForSimulator(Session& session) {
     }
 }
 
+/// Of those that Wine prefixes have the one that the user takes. Nobody is asked where there is only one, and
+/// the registry has named no other.
+QString foundInPrefixes(Session& session, const QString& named) {
+    const std::vector<PrefixSimulator> found = simulatorsInPrefixes(session.files);
+    const bool isAsked = found.size() > 1 || !named.isEmpty();
+    for (const auto& [folder, prefix] : found) {
+        const QString keeper = prefix.keeper.isEmpty() ? QString() : u" ("_s + prefix.keeper + u')';
+        const QString question =
+            u"Flight Simulator 2004 was found in %1. Would you like to use this one?\n%2%3"_s.arg(
+                countText(std::ssize(found), u"place"_s), folder.text(), keeper);
+        if (isAsked && !session.user.systemBox(question, {}, SystemBoxButtons::yesNo)) continue;
+        session.user.tellDone({u"Flight Simulator 2004 was found in "_s + folder.text()});
+        return folder.text();
+    }
+    return {};
+}
+
 bool findSimulator(Session& session) {
     QString path =
         StripBackslash(session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s));
     if (!holdsSimulator(session, path)) {
-        path = askForSimulator(session);
+        path = foundInPrefixes(session, path);
+        if (path.isEmpty()) path = askForSimulator(session);
         if (path.isEmpty()) return false;
         session.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
         session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, path);

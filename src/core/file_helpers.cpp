@@ -1,5 +1,6 @@
 #include "core/file_helpers.h"
 
+#include "core/attempts.h"
 #include "core/failure_report.h"
 
 #include <QDir>
@@ -21,6 +22,14 @@ QString fileTimeText(const FilePath& path) {
     const QFileInfo info(path.native());
     if (!info.isFile() || !info.isReadable()) return {};
     return info.lastModified().toString(u"yyyy/MM/dd hh:mm") + u":00"_s;
+}
+
+QByteArray readBounded(FileSystem& files, const FilePath& path, std::int64_t most) {
+    QByteArray contents;
+    attempt([&] {
+        if (QFileInfo(path.native()).isFile() && files.size(path) <= most) contents = files.read(path);
+    });
+    return contents;
 }
 
 Message unreadableFileMessage() {

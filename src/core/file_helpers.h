@@ -16,6 +16,10 @@ QString GetFileTime(Session& session, const FilePath& path);
 /// The message of a file whose time cannot be had.
 Message unreadableFileMessage();
 
+/// The contents of a plain file; empty where it is larger than `most` bytes, cannot be read, or is something
+/// else that would never end, such as a pipe.
+QByteArray readBounded(FileSystem& files, const FilePath& path, std::int64_t most);
+
 /// The user's folder of that number, with a separator behind it; empty for a number without a folder here.
 /// Known is 5, the documents.
 QString GetSpecialFolder(int number);

@@ -4,8 +4,9 @@
 
 namespace morvane {
 
-/// `startProgram` with the runner that the registry names. Where a program of Windows has none nothing is
-/// started. False after the message of why it does not run. `name` is what the user calls the program.
+/// `startProgram` with the runner that the registry names. Where it names none a Windows program in a prefix
+/// of plain wine is started by `wine`; in one that another program keeps, or in none, nothing is started.
+/// False after the message of why it does not run. `name` is what the user calls the program.
 bool startWithRunner(Session& session, const QString& name, const FilePath& program,
                      const FilePath& document = {});
 

@@ -22,15 +22,6 @@ bool isWindowsProgram(const QString& path) {
     return file.open(QIODevice::ReadOnly) && file.read(2) == "MZ";
 }
 
-/// The prefix that the file lies in; empty for one that lies in none.
-QString prefixAbove(const QString& file) {
-    for (QDir folder = QFileInfo(QFileInfo(file).canonicalFilePath()).dir(); !folder.isRoot();) {
-        if (QFileInfo(folder.path() + drivesFolder).isDir()) return folder.path();
-        if (!folder.cdUp()) break;
-    }
-    return {};
-}
-
 /// The prefix that the runner uses by itself.
 QString usualPrefix() {
     return qEnvironmentVariable("WINEPREFIX", QDir::homePath() + u"/.wine"_s);
@@ -57,6 +48,14 @@ void prepare(QProcess& process, const ProgramCall& call) {
 
 } // namespace
 
+QString prefixAbove(const QString& file) {
+    for (QDir folder = QFileInfo(QFileInfo(file).canonicalFilePath()).dir(); !folder.isRoot();) {
+        if (QFileInfo(folder.path() + drivesFolder).isDir()) return folder.path();
+        if (!folder.cdUp()) break;
+    }
+    return {};
+}
+
 QString wineDocumentPath(const QString& path, const QString& winePrefix) {
     const QString file = QFileInfo(path).canonicalFilePath();
     QString drive = u"Z:"_s, root = u"/"_s;
@@ -72,7 +71,8 @@ QString wineDocumentPath(const QString& path, const QString& winePrefix) {
     return drive + QDir::cleanPath(u'/' + below).replace(u'/', u'\\');
 }
 
-ProgramCall programCall(const FilePath& program, const FilePath& document, const QString& runner) {
+ProgramCall programCall(const FilePath& program, const FilePath& document, const QString& runner,
+                        const QString& winePrefix) {
     const QString path = program.native(), argument = document.isEmpty() ? QString() : document.native();
     ProgramCall call{path, {}, QFileInfo(path).path(), {}};
     QStringList words = QProcess::splitCommand(runner);
@@ -82,6 +82,7 @@ ProgramCall programCall(const FilePath& program, const FilePath& document, const
     }
     // A simulator in a prefix of its own is started in that one, whichever the session's usual one is.
     call.winePrefix = prefixAbove(path);
+    if (call.winePrefix.isEmpty()) call.winePrefix = winePrefix;
     const QString& prefix = call.winePrefix.isEmpty() ? usualPrefix() : call.winePrefix;
     call.program = words.takeFirst();
     call.arguments = words << path;
@@ -93,10 +94,11 @@ bool lacksRunner(const FilePath& program, const QString& runner) {
     return QProcess::splitCommand(runner).isEmpty() && isWindowsProgram(program.native());
 }
 
-bool startProgram(const FilePath& program, const FilePath& document, const QString& runner) {
+bool startProgram(const FilePath& program, const FilePath& document, const QString& runner,
+                  const QString& winePrefix) {
     constexpr int firstMoments = 2000; // milliseconds
     auto process = std::make_unique<QProcess>();
-    prepare(*process, programCall(program, document, runner));
+    prepare(*process, programCall(program, document, runner, winePrefix));
     process->start();
     if (!process->waitForStarted()) return false;
     if (process->waitForFinished(firstMoments))

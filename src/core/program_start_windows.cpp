@@ -31,7 +31,7 @@ bool lacksRunner(const FilePath&, const QString&) {
     return false;
 }
 
-bool startProgram(const FilePath& program, const FilePath& document, const QString&) {
+bool startProgram(const FilePath& program, const FilePath& document, const QString&, const QString&) {
     const QString argument = document.isEmpty() ? QString() : argumentOf(document.text());
     const QString folder = program.parent().text();
     const HINSTANCE started =

@@ -3,14 +3,23 @@
 #include "app/start_up.h"
 #include "core/store.h"
 #include "core/store_connection.h"
+#include "core/wine_prefixes.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "sets/options_in_force.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
+#include "support/home_folder.h"
 #include "support/install_test.h"
+#include "support/wine_prefix.h"
 #include "weather/cover_choice.h"
+
+#ifndef Q_OS_WIN
+#include <QProcess>
+#include <sys/inotify.h>
+#include <unistd.h>
+#endif
 
 namespace morvane {
 namespace {
@@ -87,6 +96,69 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
     EXPECT_EQ(session.FSPath.native(), right);
     EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
 }
+
+#ifndef Q_OS_WIN
+
+/// Of plain wine, and of Steam.
+TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
+    const test::HomeFolder home;
+    const QString plain = home.path() + "/.wine",
+                  steam = home.path() + "/.local/share/Steam/steamapps/compatdata/9/pfx";
+    const QString box = "box Flight Simulator 2004 was found in %1. Would you like to use this one?\n%2";
+    const auto stored = [this] {
+        return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s);
+    };
+    const QString one = test::makePrefix(plain).native();
+    ASSERT_TRUE(startUp(session));
+    EXPECT_EQ(stored(), install.simulator().native()) << "the install's own goes first";
+    const QString foundOne = "done Flight Simulator 2004 was found in " + one;
+    const auto startAnew = [&](const QString& named, const std::deque<bool>& answers) {
+        closeDatabase(session);
+        install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, named);
+        user.calls.clear();
+        user.answersToGive = answers;
+        return startUp(session);
+    };
+    EXPECT_TRUE(startAnew({}, {}));
+    EXPECT_EQ(user.calls, QStringList{foundOne}) << "one is not asked about";
+    EXPECT_TRUE(startAnew("/gone", {true}));
+    EXPECT_EQ(user.calls, QStringList({box.arg("1 place", one), foundOne})) << "but in another's stead";
+    EXPECT_EQ(stored(), one);
+    const QString two = test::makePrefix(steam).native();
+    const auto before = test::contentsBelow(FilePath(home.path()));
+    EXPECT_TRUE(startAnew({}, {false, true}));
+    EXPECT_EQ(user.calls, QStringList({box.arg("2 places", one), box.arg("2 places", two + " (Steam)"),
+                                       "done" + foundOne.mid(4).replace(one, two)}));
+    EXPECT_EQ(session.FSPath.native(), two);
+    EXPECT_FALSE(startAnew({}, {false, false, false}));
+    EXPECT_EQ(user.calls.value(3), "browse");
+    EXPECT_EQ(test::contentsBelow(FilePath(home.path())), before) << "a prefix is only read";
+}
+
+/// This program once more, in a home with a prefix that tells when something in it is opened.
+TEST(OwnHome, keepsTheTestsFromPrefixesOutside) {
+    const test::HomeFolder outside;
+    const QString prefix = outside.path() + "/.wine";
+    test::makePrefix(prefix);
+    const int watch = inotify_init1(IN_NONBLOCK);
+    ASSERT_GE(inotify_add_watch(watch, QFile::encodeName(prefix).constData(), IN_OPEN), 0);
+    const auto wasOpened = [watch] {
+        char event[4096];
+        return read(watch, event, sizeof event) > 0;
+    };
+    QProcess tests;
+    tests.start(QFileInfo(u"/proc/self/exe"_s).canonicalFilePath(),
+                {u"--gtest_filter=ApplicationTest.asks*"_s});
+    ASSERT_TRUE(tests.waitForFinished(100000));
+    EXPECT_EQ(tests.exitCode(), 0) << tests.readAllStandardOutput().toStdString();
+    EXPECT_FALSE(wasOpened());
+    NativeFileSystem files;
+    EXPECT_EQ(simulatorsInPrefixes(files).size(), 1U);
+    EXPECT_TRUE(wasOpened()) << "or the look above sees nothing";
+    close(watch);
+}
+
+#endif
 
 TEST_F(ApplicationTest, theCommandLineTakesTheCodesExactly) {
     ASSERT_TRUE(startUp(session));

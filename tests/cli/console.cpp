@@ -113,6 +113,10 @@ void expectSteps(ConsoleInstall& install, const std::vector<ConsoleStep>& steps)
     }
 }
 
+QString quoted(QString path) {
+    return u'"' + path.replace(u'\\', u"\\\\"_s) + u'"';
+}
+
 QStringList manyFiles(const QString& folder, int count) {
     QStringList names;
     for (int number = 0; number < count; ++number)

@@ -87,6 +87,9 @@ struct ConsoleStep {
 };
 void expectSteps(ConsoleInstall& install, const std::vector<ConsoleStep>& steps);
 
+/// As a path stands in JSON.
+QString quoted(QString path);
+
 /// Names of textures in a folder, for a work that takes its time.
 QStringList manyFiles(const QString& folder, int count);
 

@@ -26,12 +26,14 @@ struct GroundCommands : testing::Test {
 };
 
 TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
-    test::expectSteps(install,
-                      {{u"catalogue|2-Störm"_s, {u"{\"fileNames\":["_s, u"/Texture Sets/2-Störm/Dutch\""_s}},
-                       {u"ground|create|0|1|0|0|0"_s, {u"Information: Average minutes per texture set"_s}},
-                       {u"ground|list"_s,
-                        {u"\"Actvated\":\"True\",\"CloudCover\":\"Mostly Clear\",\"ColorSettings\":\""_s,
-                         u"\"Installed\":false,\"IsDutch\":true,\"IsNew\":false,"_s, u"\"TsID\":2}]"_s}}});
+    test::expectSteps(
+        install,
+        {{u"catalogue|2-Störm"_s,
+          {u"{\"fileNames\":["_s, test::quoted(FilePath(u"/Texture Sets/2-Störm/Dutch"_s).text()).mid(1)}},
+         {u"ground|create|0|1|0|0|0"_s, {u"Information: Average minutes per texture set"_s}},
+         {u"ground|list"_s,
+          {u"\"Actvated\":\"True\",\"CloudCover\":\"Mostly Clear\",\"ColorSettings\":\""_s,
+           u"\"Installed\":false,\"IsDutch\":true,\"IsNew\":false,"_s, u"\"TsID\":2}]"_s}}});
     const QString name = install.setFolders().value(0);
     EXPECT_TRUE(QRegularExpression(u"^2-\\d\\d-\\d\\d-\\d{4} \\d\\d-\\d\\d-\\d\\d$"_s).match(name).hasMatch())
         << name.toStdString();

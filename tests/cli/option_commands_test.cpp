@@ -6,6 +6,7 @@
 #include "imaging/texture_codec.h"
 #include "support/night_install.h"
 #include "support/printing.h"
+#include "support/system_files.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,7 +48,7 @@ TEST_F(OptionCommands, baseInstallBackupAndRestore) {
                        {u"backup|list"_s, {u"\"BackupName\":\"1-Backup\""_s, u"\"complete\":true"_s}},
                        {u"backup|restore|1-Backup"_s, {u"3 put back (2 were there already)"_s}}});
     EXPECT_EQ(readFile(texture), own);
-    QFile::link(u"/nowhere"_s, texture.parent().child(u"broken.bmp"_s).native());
+    const test::UnreadableFile unreadable(texture.parent().child(u"broken.bmp"_s));
     test::expectSteps(install, {{u"backup|create"_s, {}, 1}, {u"backup|list"_s, {u"\"complete\":false"_s}}});
 }
 
@@ -89,7 +90,7 @@ struct ConfigCommands : testing::Test {
 
 TEST_F(ConfigCommands, theSimulatorIsNamedWithoutAQuestion) {
     forget(simulatorKey, u"EXE Path"_s);
-    const QString simulator = install.simulator().native();
+    const QString simulator = install.simulator().text();
     const FilePath own = install.home() / u"Flights";
     install.files.makeFolder(own);
     test::expectSteps(install, {{u"ground|list"_s, {u"config set simulator"_s}, 1},
@@ -99,7 +100,7 @@ TEST_F(ConfigCommands, theSimulatorIsNamedWithoutAQuestion) {
     EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), QString());
 
     test::expectSteps(install, {{u"config|set|simulator|"_s + QDir::current().relativeFilePath(simulator),
-                                 {u"{\"simulator\":\"%1\"}"_s.arg(simulator)}},
+                                 {test::quoted(simulator)}},
                                 {u"ground|list"_s}});
     EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), simulator);
 }
@@ -113,7 +114,7 @@ TEST_F(ConfigCommands, everythingIsShownWithoutASimulatorToo) {
     EXPECT_EQ(run.status, 0) << run.messages.toStdString();
     const QJsonObject shown = run.objects().at(0);
     EXPECT_EQ(shown.keys().join(u' '), u"activesky flights home runner simulator switches weather"_s);
-    EXPECT_EQ(shown["home"], install.home().native());
+    EXPECT_EQ(shown["home"], install.home().text());
     EXPECT_EQ(shown["switches"]["halo"], true);
     for (const QJsonObject& object : {shown, install.run("config get runner").objects().at(0)})
         EXPECT_EQ(object["runner"], "wine --quiet");

@@ -24,7 +24,8 @@ struct PictureCommands : testing::Test {
         const auto run = runConsole(command, files);
         SCOPED_TRACE((command + u' ' + files.join(u' ') + run.messages).toStdString());
         EXPECT_EQ(run.status, 1);
-        EXPECT_TRUE(run.messages.startsWith("Error: Morvane Error\n  ") && run.messages.contains(said));
+        EXPECT_TRUE(run.messages.startsWith("Error: Morvane Error\n  ") &&
+                    run.messages.contains(FilePath(said).text()));
         EXPECT_EQ(run.messages.count(u'\n'), 2);
         EXPECT_EQ(test::contentsBelow(folder.path()), before);
     }

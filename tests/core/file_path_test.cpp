@@ -26,7 +26,7 @@ TEST(FilePath, noTextLeadsOutOfTheRoot) {
         EXPECT_THROW(root / text, Error) << QStringView(text).toString().toStdString();
     for (const char* name : {"", ".", "..", " ", "a\\b", "a/b", "C:"})
         EXPECT_THROW(root.child(QString(name)), Error) << name;
-    EXPECT_EQ((root / u"\\a\\\\b\\").text(), "/somewhere/a/b");
+    EXPECT_EQ((root / u"\\a\\\\b\\").native(), "/somewhere/a/b");
 }
 
 TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {

@@ -24,7 +24,7 @@ trap 'exit 1' INT TERM
 # without a display to find: here the display's own libraries would be counted in.
 unset QT_QPA_PLATFORM QT_SCREEN_SCALE_FACTORS QT_STYLE_OVERRIDE QT_PLUGIN_PATH
 export LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1 QT_FONT_DPI=96 HOME="$root/user" XDG_RUNTIME_DIR="$root/run"
-export XDG_CONFIG_HOME="$HOME" XDG_CACHE_HOME="$HOME" XDG_DATA_HOME="$HOME"
+export XDG_CONFIG_HOME="$HOME" XDG_CACHE_HOME="$HOME" XDG_DATA_HOME="$HOME" WINEPREFIX="$HOME/.wine"
 export ASAN_OPTIONS="detect_leaks=0:${ASAN_OPTIONS:-}"
 mkdir -m 700 "$root/user" "$root/run"
 

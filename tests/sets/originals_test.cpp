@@ -6,6 +6,7 @@
 #include "support/printing.h"
 #include "support/raised_error.h"
 #include "support/small_install.h"
+#include "support/system_files.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -73,7 +74,7 @@ TEST_F(OriginalsTest, aFileIsKeptOnceWithAllThatIsKnownOfIt) {
     const KeptOriginal kept = originals().list()[0];
     EXPECT_EQ(kept.checksum + u' ' + QString::number(kept.size),
               u"a9993e364706816aba3e25717850c26c9cd0d89d 3"_s);
-    EXPECT_TRUE(kept.day == today && kept.mode == 0640u);
+    EXPECT_TRUE(kept.day == today && kept.mode == test::modeHere(0640));
     EXPECT_EQ(readFile(keptFiles / kept.copy), "abc");
     // What stands there now is known, too, as later checks of the simulator need it.
     const OriginalFact ours = originals().records().of(a).ours.at(0);
@@ -131,7 +132,7 @@ TEST_F(OriginalsTest, aFileOfOursIsNeverTakenForThePilots) {
 }
 
 TEST_F(OriginalsTest, aKillAnywhereInTheListLosesNothing) {
-    const QString path = "Scenery\\World\\texture\\Größe %\t.bmp";
+    const QString path = u"Scenery\\World\\texture\\Größe %"_s + test::oddLetter + u".bmp"_s;
     writeFile(target(a), "so that there is a list");
     install("ours", {a});
     const qsizetype before = readFile(listFile).size();
@@ -162,7 +163,8 @@ TEST_F(OriginalsTest, namesAreOneWhateverTheirCaseUnlessTheDiskHasBoth) {
     files.rename(world / u"ÖSTERSUND.BMP", world.exactChild("östersund.bmp"));
     install("ours, the third", {"Scenery\\World\\texture\\Östersund.bmp"});
     EXPECT_EQ(originals().restore().putBack, 1);
-    EXPECT_EQ(contentsBelow(simulator), (Tree{{"Scenery/World/texture/östersund.bmp", "the pilot's"}}));
+    EXPECT_EQ(contentsBelow(simulator).size(), 1);
+    EXPECT_EQ(contents("Scenery\\World\\texture\\Östersund.bmp"), "the pilot's");
 #ifndef Q_OS_WIN
     files.makeFolder(texture);
     for (const QString& name : {u"b.bmp"_s, u"B.BMP"_s, u"B.bmp"_s}) {
@@ -246,7 +248,8 @@ TEST_F(OriginalsTest, aRestoreGivesTheModesBack) {
     EXPECT_EQ(originals().restore().putBack, 4);
     for (const QString& path : own) {
         EXPECT_EQ(contents(path), path.toUtf8());
-        EXPECT_EQ(files.stamp(target(path)).mode, path == away ? 0600u : 0444u) << path.toStdString();
+        EXPECT_EQ(files.stamp(target(path)).mode, test::modeHere(path == away ? 0600 : 0444))
+            << path.toStdString();
     }
     EXPECT_EQ(contents(added), "none");
 }
@@ -275,6 +278,7 @@ TEST_F(OriginalsTest, foldersThatWereMadeGoWhenTheyAreEmpty) {
         EXPECT_FALSE(files.exists(target(made)));
         EXPECT_EQ(files.exists(target(u"Flights"_s)), hasOther);
     }
+    if (!test::hasLinks) return;
     // In its place the pilot has put a link.
     const FilePath link = target(u"Linked"_s);
     originals().makeFolder(link);

@@ -10,6 +10,7 @@
 #include "ground/texture_sets.h"
 #include "night/night_selection.h"
 #include "night/night_texture_sets.h"
+#include "support/system_files.h"
 
 #include <QFile>
 
@@ -69,7 +70,7 @@ TEST_F(BaseInstall, whatIsTickedIsToldMarkedAndCopied) {
 TEST_F(BaseInstall, aSourceThatCannotBeReadIsLeftOutAndAReadOnlyTargetReplaced) {
     const FilePath texture = world / u"029H2SU6.BMP";
     install.files.setReadOnly(texture, true);
-    QFile::link("/nowhere", (install.home() / u"GENERIC WORLD\\010b2su1.bmp").native());
+    const test::UnreadableFile unreadable(install.home() / u"GENERIC WORLD\\010b2su1.bmp");
     copyBaseResources(session, {globalDayConfig});
     EXPECT_EQ(readFile(texture), "body of GENERIC WORLD\\029h2su6.bmp");
     EXPECT_FALSE(install.files.isReadOnly(texture));

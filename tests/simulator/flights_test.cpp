@@ -4,6 +4,7 @@
 #include "core/flights_folder.h"
 #include "sets/options_in_force.h"
 #include "support/install_test.h"
+#include "support/system_files.h"
 
 #include <QFile>
 
@@ -66,6 +67,7 @@ TEST_F(FlightsTest, aNewGatheringBeginsEmptyAndLeavesOldEntriesUnread) {
 
 /// However the program's own folder is named, or made one with the pilot's: what lies there stays.
 TEST_F(FlightsTest, ownFlightsAreNeverDeletedAsCopies) {
+    if (!test::hasLinks) GTEST_SKIP() << "no links on this system";
     const FilePath link = install.folder / u"Link", documents = install.folder / u"Documents";
     save(own, {"Only one.flt", "Only one.wx"});
     install.files.makeFolder(documents);

@@ -9,7 +9,10 @@
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "start_record.h"
+#include "support/home_folder.h"
 #include "support/install_test.h"
+#include "support/system_files.h"
+#include "support/wine_prefix.h"
 #include "weather/cover_choice.h"
 
 #include <QDeadlineTimer>
@@ -128,7 +131,7 @@ struct SimulatorLaunchTest : test::InstallTest {
 
     void SetUp() override { writeFile(flight, "flight"); }
     void placeStandIn(const FilePath& file) {
-        const FilePath standIn(QStringLiteral(MORVANE_BIN_DIR "/morvane-simulator"));
+        const FilePath standIn(QStringLiteral(MORVANE_BIN_DIR "/morvane-simulator") + test::programEnding);
         install.files.copyContents(standIn, file);
         install.files.copyMode(standIn, file);
     }
@@ -181,7 +184,7 @@ TEST_F(SimulatorLaunchTest, startsWhatWasChosenAndMinimisesButAnUnattendedRun) {
         const bool isStarted = isConfirmed && !name.isEmpty();
         EXPECT_EQ(wasMarked, isStarted && !isUnattended);
         EXPECT_FALSE(session.MinimiseForLaunch);
-        if (isStarted) starts << flight.native();
+        if (isStarted) starts << programCall(program, flight, {}).arguments;
         EXPECT_EQ(startsIn(install.simulator(), starts.size()), starts);
     }
 }
@@ -239,6 +242,45 @@ TEST_F(SimulatorLaunchTest, aFlightInThePrefixHasItsDrivesLetter) {
         EXPECT_EQ(call.arguments.last(), expected);
         EXPECT_EQ(call.winePrefix, root) << "the simulator's own prefix";
     }
+}
+
+/// Without a runner: the command that was started, with the prefix before it, or what is told.
+TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
+    const QString root = install.folder.path().native(), drive = root + "/Games and more";
+    const FilePath record = install.folder / u"record", commands = install.folder / u"bin";
+    writeFile(commands / u"wine",
+              "#!/bin/sh\nprintf '%s|' \"$WINEPREFIX\" \"$@\" > '" + record.native().toUtf8() + "'\n");
+    install.files.setMode(commands / u"wine", 0755);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", commands.native().toUtf8() + ':' + path);
+    const QString advice =
+        "Flight Simulator Not Started|Flight Simulator lies in a Wine prefix of %1, which "
+        "Morvane only reads. Let %1 start it, or have these lines in Morvane's registry.ini:"
+        "\n[HKEY_LOCAL_MACHINE\\Software\\Orrinsoft\\Morvane]\nSimulatorRunner=\"%2\"";
+    const test::HomeFolder home;
+    qunsetenv("WINEPREFIX"); // that of a start is handed to it
+    const QString plain = home.path() + "/.wine", steam = root + "/compatdata/8/pfx", bottle = root + "/b";
+    const FilePath own = test::makePrefix(plain), beside = FilePath(drive) / u"FS9";
+    writeFile(FilePath(bottle) / u"bottle.yml", "Name: B\n");
+    writeFile(beside / u"fs9.exe", "MZ");
+    test::link(drive, plain + "/dosdevices/d:");
+    writeFile(FilePath(plain) / u"user.reg", test::simulatorSection("D:\\\\FS9"));
+    const std::tuple<FilePath, QString, QString> cases[] = {
+        {own, plain + '|' + own.native() + "/fs9.exe|", {}},
+        {beside, plain + '|' + beside.native() + "/fs9.exe|", {}}, // on a drive of the prefix that names it
+        {test::makePrefix(steam), {}, advice.arg("Steam", "protontricks-launch --appid 8")},
+        {test::makePrefix(bottle), {}, advice.arg("Bottles", "bottles-cli run -b B -e")},
+        {install.simulator(), {}, "needs a runner on this system"},
+    };
+    for (const auto& [simulator, started, told] : cases) {
+        install.user.messages.clear();
+        QFile::remove(record.native());
+        session.FSPath = simulator;
+        EXPECT_EQ(launchFlightSimulator(session), !started.isEmpty());
+        EXPECT_EQ(install.files.readIfThere(record).value_or(QByteArray()), started);
+        EXPECT_TRUE(install.user.told().last().contains(told)) << install.user.told().last().toStdString();
+    }
+    qputenv("PATH", path);
 }
 
 #endif

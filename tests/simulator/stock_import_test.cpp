@@ -5,6 +5,7 @@
 #include "simulator/stock_requests.h"
 #include "support/failing_operations.h"
 #include "support/install_test.h"
+#include "support/system_files.h"
 
 #include <QFile>
 
@@ -80,12 +81,11 @@ TEST_F(StockImportTest, everyFileThatAPatternTakesBecomesABaseImageAndComesBack)
     EXPECT_FALSE(hasKeptStock(session));
 }
 
-/// A link to nowhere among the textures and among the annotations, and sides that no texture has.
+/// One among the textures and one among the annotations that cannot be read, and sides that no texture has.
 TEST_F(StockImportTest, whatHoldsNoTextureIsNamedAndCostsNothingElse) {
     const auto before = stock();
     QFile::remove((world / u"002C2WI1.BMP").native());
-    for (const char16_t* name : {u"031A2SU1.BMP", u"031a2an1.agn"})
-        QFile::link(u"/nowhere"_s, (world / name).native());
+    const test::UnreadableFile bitmap(world / u"031A2SU1.BMP"), annotation(world / u"031a2an1.agn");
     writeFile(world / u"032A2SU1.BMP", test::smallBitmap(12, 90));
     const auto report = importSimulatorStock(session);
     ASSERT_TRUE(report);

@@ -8,6 +8,7 @@
 #include "ground/ground_sets.h"
 #include "support/faulty_store.h"
 #include "support/install_test.h"
+#include "support/system_files.h"
 #include "support/version_two_install.h"
 
 namespace morvane {
@@ -179,7 +180,7 @@ bool startThatIsKilled(UpgradeTest& upgrade, int n, bool) {
 
 /// An upgrade a failure, until one had none; gives their number.
 int failuresOf(FaultyStart start, bool forever) {
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n += test::faultStride) {
         OneUpgrade upgrade;
         if (!start(upgrade, n, forever)) return n - 1;
         SCOPED_TRACE(n);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/scripted_services.h"
+#include "support/system_files.h"
 
 namespace morvane::test {
 
@@ -9,7 +10,7 @@ namespace morvane::test {
 /// with `forever` all operations behind the failed one do, too.
 template <class Work, class Check>
 int failEachOperation(FaultyFileSystem& files, bool forever, Work work, Check check) {
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n += faultStride) {
         files.failAt(n, forever);
         work();
         const bool hasFailed = files.hasFailed();

@@ -19,7 +19,9 @@ int main(int count, char** arguments) {
     setUnlessSet("QT_SCALE_FACTOR", "1");
     testing::InitGoogleTest(&count, arguments);
     QApplication application(count, arguments);
+    QApplication::setApplicationVersion(QStringLiteral("2.1.0")); // some systems know one of their own
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a test sees into its own alone
     morvane::loadProgramFont();
     morvane::applyPaperStyle(application);
     return RUN_ALL_TESTS();

@@ -115,7 +115,7 @@ TEST_F(DeliveredRows, haveTheirTextsBehindAFirstRunWithoutAQuestion) {
     for (const QString& block : blocks) {
         const QStringList lines = block.split(u'\n');
         QStringList found = lines.mid(0, 2);
-        RowSet rows(*session.adoConn, u"SELECT * FROM "_s + lines[0] + u" ORDER BY ID"_s);
+        RowSet rows(*session.adoConn, u"SELECT DISTINCT * FROM "_s + lines[0] + u" ORDER BY ID"_s);
         for (; !rows.atEnd(); rows.next()) {
             QStringList fields;
             for (const QString& column : lines[1].split(u'|'))

@@ -47,7 +47,7 @@ TEST(WindowLine, theProgramAnswersWithoutADisplay) {
         EXPECT_EQ(program.exitCode(), status) << word.toStdString();
         const QByteArray said = program.readAllStandardOutput();
         EXPECT_TRUE(said.startsWith(output) && said.isEmpty() == output.isEmpty()) << said.constData();
-        EXPECT_TRUE(program.readAllStandardError().endsWith(errors));
+        EXPECT_TRUE(program.readAllStandardError().replace("\r\n", "\n").endsWith(errors));
     }
 }
 

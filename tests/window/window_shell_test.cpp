@@ -155,7 +155,6 @@ TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
     test::writeFile(program.install.home() / u"MV Help\\index.html", "help");
     program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"UpdateServer"_s,
                                           u"http://updates.example.org"_s);
-    QCoreApplication::setApplicationVersion(u"2.1.0"_s);
     const QString none = u"There is no program here that opens "_s;
     const std::pair<std::function<void()>, QString> cases[] = {
         {[&] { shell.openHelp(); }, none + help},

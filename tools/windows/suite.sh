@@ -5,17 +5,17 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 . tools/windows/prefix.sh
 (targets=none && . tools/packages.sh && installMissing wine wine64 "${screenTools[@]}")
+./build-windows 1>&2
 ./build-windows all 1>&2
 rm -rf "$windowsFolder/wine"
-export WINEPREFIX=$windowsFolder/wine
-stopWine() {
-    wineserver -k 2>/dev/null || true
+ownServer() {
+    WINEPREFIX=$windowsFolder/wine wineserver "$@" </dev/null >/dev/null 2>&1 || true
 }
-trap stopWine EXIT
+trap 'ownServer -k' EXIT
 tools/windows/under_wine wineboot -u >/dev/null 2>&1
 # A server that a test started would keep that test's pipes open, and so the test from ending.
-wineserver -w
-wineserver -p >/dev/null 2>&1
+ownServer -w
+ownServer -p
 tools/windows/under_wine wineboot >/dev/null 2>&1 </dev/null
 
 casesOf() {
