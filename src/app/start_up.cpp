@@ -78,8 +78,8 @@ bool findSimulator(Session& session) {
 
 /// The files of a new version, laid over an old install, ask for its upgrade. False when another program is
 /// at it and does not come to its end.
-bool openStore(Session& session) {
-    if (session.files.exists(airportFile(session))) {
+bool openStore(Session& session, StoreAccess access) {
+    if (access == StoreAccess::writing && session.files.exists(airportFile(session))) {
         const Writing writing(session);
         if (!writing) return false;
         if (session.files.exists(airportFile(session))) { // nobody has done it meanwhile
@@ -87,33 +87,38 @@ bool openStore(Session& session) {
             return true;
         }
     }
-    connectDatabase(session);
+    connectDatabase(session, access);
     session.DecimalSep = getDecimalSeparator();
     return true;
 }
 
+void prepareToWrite(Session& session) {
+    session.files.makeFolder(session.BackupPath);
+    // One that could not be opened was told; a first run then waits for the next start.
+    if (hasStore(session)) doFirstRun(session);
+}
+
 } // namespace
 
-bool startUp(Session& session) {
+bool startUp(Session& session, InstallUse use) {
     joinRooms(session);
-    if (const QString problem = installFolderProblem(session.files, session.AppPath); !problem.isEmpty()) {
+    if (const QString problem = installFolderProblem(session.files, session.AppPath, use);
+        !problem.isEmpty()) {
         session.user.systemBox(problem, {}, SystemBoxButtons::ok);
         return false;
     }
+    const bool isOnlyRead = use == InstallUse::reading && !canWriteInto(session.files, session.AppPath);
     bool isReady = false;
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const bool done = reportFailures(session.user, report, [&] {
-        isReady = findSimulator(session) && openStore(session);
+        isReady = findSimulator(session) &&
+                  openStore(session, isOnlyRead ? StoreAccess::reading : StoreAccess::writing);
         if (!isReady) return;
-        updateDatabase(session);
-        getSideFSVal(session);
         session.BackupPath = session.AppPath / u"Backup";
-        session.files.makeFolder(session.BackupPath);
-        // One that could not be opened was told; a first run then waits for the next start.
-        if (hasStore(session)) {
-            doFirstRun(session);
-            readSwitches(session);
-        }
+        if (!isOnlyRead) updateDatabase(session);
+        getSideFSVal(session);
+        if (!isOnlyRead) prepareToWrite(session);
+        if (hasStore(session)) readSwitches(session);
         findActiveSky(session);
     });
     return done && isReady;

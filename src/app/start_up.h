@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/install_folder.h"
+
 namespace morvane {
 
 class Session;
@@ -8,6 +10,8 @@ class Session;
 /// WideFS setting, the backup folder. False when the install folder cannot be used, when the user gave up
 /// looking for the simulator, while another program upgrades the install, or after a failure was told: the
 /// process then ends without the exit flow.
-bool startUp(Session& session);
+/// Where nobody may write a start for reading leaves out what it would write: the first run, the upgrade and
+/// the store's new columns.
+bool startUp(Session& session, InstallUse use = InstallUse::writing);
 
 } // namespace morvane

@@ -79,14 +79,9 @@ public:
     }
 };
 
-/// With the words of a closed list.
-std::string helpOf(const QString& meaning, const Operand& operand) {
-    const bool isClosed = !operand.entries.isEmpty() && !operand.name.contains(u'|');
-    return (isClosed ? meaning + u": "_s + either(operand.entries) : meaning).toStdString();
-}
-
 void addOption(CLI::App& app, const CommandOption& option) {
-    const std::string name = option.name.toStdString(), meaning = helpOf(option.meaning, option.value);
+    const std::string name = option.name.toStdString(),
+                      meaning = helpOf(option.meaning, option.value).toStdString();
     CLI::Option* added =
         option.value.name.isEmpty() ? app.add_flag(name, meaning) : app.add_option(name, meaning);
     added->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
@@ -144,7 +139,7 @@ void Grammar::add(const Command& command) {
     CLI::App& app = level(command.words);
     app.description((command.meaning.left(1).toUpper() + command.meaning.mid(1) + u'.').toStdString());
     for (const Operand& operand : command.operands) {
-        const std::string meaning = helpOf(operand.meaning, operand);
+        const std::string meaning = helpOf(operand.meaning, operand).toStdString();
         app.add_option(operand.name.toStdString(), meaning);
     }
     for (const CommandOption& option : command.options)

@@ -134,6 +134,11 @@ QString either(QStringList words) {
     return words.isEmpty() ? last : words.join(u", "_s) + u" or "_s + last;
 }
 
+QString helpOf(const QString& meaning, const Operand& operand) {
+    const bool isClosed = !operand.entries.isEmpty() && !operand.name.contains(u'|');
+    return isClosed ? meaning + u": "_s + either(operand.entries) : meaning;
+}
+
 QString lackingValue(const QString& option) {
     return option + u" stands without its value"_s;
 }

@@ -24,6 +24,8 @@ QString lackingValue(const QString& option);
 
 /// The command with its operands and options, as the help spells it: "stock import [--from DIR]".
 QString usageOf(const Command& command);
+/// The meaning, with the words of a closed list that the operand's name does not spell.
+QString helpOf(const QString& meaning, const Operand& operand);
 /// "a, b or c", of one word or more.
 QString either(QStringList words);
 /// The words that may follow those: commands, or their second halves; each once, in the table's order.

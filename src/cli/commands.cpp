@@ -30,14 +30,15 @@ void add(const Command& command, std::vector<Command>& table) {
 
 /// False after the message of what is missing.
 bool makeReady(const Command& command, Session& session) {
+    const InstallUse use = command.writes ? InstallUse::writing : InstallUse::reading;
     if (command.needs == Needs::simulator) {
-        if (!startUp(session)) return false;
+        if (!startUp(session, use)) return false;
         // What copies sets has to know whether a splash goes with them.
         session.state<OptionsInForce>().InhibitCustomSplash = isCustomSplashInhibited(session);
         // Whatever else runs is not held up by a weather program it does not ask.
         if (firstWord(command) == u"metar") tellActiveSkyProblem(session);
     } else if (command.needs == Needs::folder) {
-        const QString problem = installFolderProblem(session.files, session.AppPath);
+        const QString problem = installFolderProblem(session.files, session.AppPath, use);
         if (!problem.isEmpty()) session.user.systemBox(problem, {}, SystemBoxButtons::ok);
         return problem.isEmpty();
     }

@@ -83,7 +83,7 @@ void set(CommandContext& context) {
 
 /// Those of a store that was never started are not known yet: null.
 QJsonObject switchesOf(Session& session) {
-    connectDatabase(session);
+    connectDatabase(session, StoreAccess::reading);
     const bool isKnown = session.adoConn && session.adoConn->isOpen() &&
                          !session.adoConn->columns(u"TEXTURE_SWITCH"_s).isEmpty();
     if (isKnown) readSwitches(session);

@@ -116,7 +116,7 @@ std::vector<Command> routeCommands() {
              .options = {{jsonOption.name, u"the same: a plan is one JSON object in any case"_s}},
              .run = showPlan,
              .meaning = u"a flight plan with the cloud class of each waypoint, their average and its word"_s,
-             .example = u"plan data/plans/TBPBEGCC06R.PLN"_s}};
+             .example = u"plan TBPBEGCC06R.PLN"_s}};
 }
 
 } // namespace morvane

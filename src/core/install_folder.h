@@ -14,7 +14,14 @@ QString defaultInstallFolder();
 /// "Morvane" among the user's data: `~/.local/share/Morvane`, `%LOCALAPPDATA%\Morvane`.
 QString userInstallFolder();
 
-/// Why the program cannot work in that folder, with what to do about it; empty when it can.
-QString installFolderProblem(FileSystem& files, const FilePath& folder);
+/// What the program is started for.
+enum class InstallUse { reading, writing };
+
+/// Found by writing: what a system tells of a folder need not be so.
+bool canWriteInto(FileSystem& files, const FilePath& folder);
+
+/// Why the program cannot work in that folder, with what to do about it; empty when it can. One that nobody
+/// may write into is good enough for reading.
+QString installFolderProblem(FileSystem& files, const FilePath& folder, InstallUse use = InstallUse::writing);
 
 } // namespace morvane

@@ -5,6 +5,7 @@
 #include "core/text_collation.h"
 
 #include <QFileInfo>
+#include <QUrl>
 #include <sqlite3.h>
 #include <utility>
 
@@ -43,13 +44,16 @@ void Store::create(const FilePath& file) {
     connect(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
 }
 
-void Store::open(const FilePath& file) {
+void Store::open(const FilePath& file, StoreAccess access) {
     // SQLite makes a missing file in some of its modes; the program must never start on an empty store.
     if (!QFileInfo(file.native()).isFile())
         throw Error(ErrorCode::storeFailure, u"file not found: "_s + file.text());
     if (QFileInfo(file.native()).size() == 0) // it would be given a header, and is left as it is
         throw Error(ErrorCode::storeFailure, u"it holds no tables: "_s + file.text());
-    connect(file, SQLITE_OPEN_READWRITE);
+    if (access == StoreAccess::reading)
+        connectToRead(file);
+    else
+        connect(file, SQLITE_OPEN_READWRITE);
     try {
         if (tables().isEmpty()) throw Error(ErrorCode::storeFailure, u"it holds no tables: "_s + file.text());
     } catch (const Error&) {
@@ -61,15 +65,8 @@ void Store::open(const FilePath& file) {
 void Store::connect(const FilePath& file, int flags) {
     close();
     path_ = file.text();
-    sqlite3* connection = nullptr;
-    const int result = sqlite3_open_v2(file.native().toUtf8().constData(), &connection,
-                                       flags | SQLITE_OPEN_NOMUTEX, nullptr);
-    connection_.reset(connection); // also a failed one, for its error
     try {
-        if (result != SQLITE_OK) raise(result);
-        sqlite3_extended_result_codes(connection, 1);
-        sqlite3_busy_timeout(connection, lockPatienceMilliseconds);
-        installTextRules(connection);
+        openConnection(file.native().toUtf8(), flags);
         // A write then never waits for the disk, and a kill can lose nothing that had been written.
         run(u"PRAGMA journal_mode = WAL"_s);
         run(u"PRAGMA synchronous = NORMAL"_s);
@@ -79,6 +76,35 @@ void Store::connect(const FilePath& file, int flags) {
         close();
         throw;
     }
+}
+
+/// Beside the store of a program that runs lies its log. Without one the store is read as the file that it
+/// is: in a folder that takes no log it can be read in no other way.
+void Store::connectToRead(const FilePath& file) {
+    close();
+    path_ = file.text();
+    const QString native = file.native();
+    const bool isInUse = QFileInfo::exists(native + u"-wal"_s) && QFileInfo::exists(native + u"-shm"_s);
+    const QByteArray name =
+        isInUse ? native.toUtf8() : QUrl::fromLocalFile(native).toEncoded() + "?immutable=1";
+    try {
+        openConnection(name, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+        dataVersion_ = dataVersion();
+    } catch (const Error&) {
+        close();
+        throw;
+    }
+}
+
+/// Raises with the connection still there, which has the words for it.
+void Store::openConnection(const QByteArray& name, int flags) {
+    sqlite3* connection = nullptr;
+    const int result = sqlite3_open_v2(name.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    connection_.reset(connection); // also a failed one, for its error
+    if (result != SQLITE_OK) raise(result);
+    sqlite3_extended_result_codes(connection, 1);
+    sqlite3_busy_timeout(connection, lockPatienceMilliseconds);
+    installTextRules(connection);
 }
 
 std::int64_t Store::dataVersion() {

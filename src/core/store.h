@@ -15,6 +15,9 @@ namespace morvane {
 
 struct TranslatedStatement;
 
+/// What a store is opened for.
+enum class StoreAccess { reading, writing };
+
 /// The one relational database file, `Morvane.mdb`, and the connection to it. Statements are those of the
 /// program (see statement_translation.h); texts compare without regard to case.
 ///
@@ -32,8 +35,8 @@ public:
     /// Makes a new, empty store and opens it. An existing file raises.
     void create(const FilePath& file);
     /// Opens an existing store. A missing file raises and is not made; so do a file that is no database, one
-    /// without any table, and a locked one.
-    void open(const FilePath& file);
+    /// without any table, and a locked one. Nothing is written beside one that is opened for reading.
+    void open(const FilePath& file, StoreAccess access = StoreAccess::writing);
     bool isOpen() const { return connection_ != nullptr; }
     /// Moves everything into the one file and leaves no other beside it. A closed store stays closed.
     void close();
@@ -63,6 +66,8 @@ private:
     using Prepared = std::shared_ptr<sqlite3_stmt>;
 
     void connect(const FilePath& file, int flags);
+    void connectToRead(const FilePath& file);
+    void openConnection(const QByteArray& name, int flags);
     std::int64_t dataVersion();
     Prepared prepared(const QString& statement);
     void run(const QString& statement, const QStringList& texts = {});

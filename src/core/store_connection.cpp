@@ -13,10 +13,10 @@ QString getDecimalSeparator() {
     return separator.isEmpty() ? u"."_s : separator;
 }
 
-void connectDatabase(Session& session) {
+void connectDatabase(Session& session, StoreAccess access) {
     try {
         session.adoConn = std::make_unique<Store>();
-        session.adoConn->open(session.AppPath / u"Morvane.mdb");
+        session.adoConn->open(session.AppPath / u"Morvane.mdb", access);
     } catch (const Error& error) {
         session.user.systemBox(error.description(), {}, SystemBoxButtons::ok);
     }

@@ -90,14 +90,20 @@ const std::uint8_t* cDIBSection::DIBSectionBitsPtr() const {
     return isCreated() ? storage_.data() + pixelStart : nullptr;
 }
 
+std::span<const std::uint8_t> cDIBSection::file() const {
+    if (!isCreated()) return {};
+    return {storage_.data() + fileStart, fileHeaderSize + imageSize(width_, height_)};
+}
+
 bool cDIBSection::SavePicture(const FilePath& path) const {
     if (!isCreated()) return false;
     QFile file(path.native());
     // Unbuffered: the block goes to the system as it stands, and a full disk shows at once.
     if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered))
         throw Error(ErrorCode::cannotOpenForWriting, path.text());
-    const auto size = static_cast<qint64>(fileHeaderSize + imageSize(width_, height_));
-    return file.write(reinterpret_cast<const char*>(storage_.data() + fileStart), size) == size;
+    const auto bytes = this->file();
+    const auto size = static_cast<qint64>(bytes.size());
+    return file.write(reinterpret_cast<const char*>(bytes.data()), size) == size;
 }
 
 void cDIBSection::PaintPicture(QImage& target) const {

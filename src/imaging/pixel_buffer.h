@@ -4,6 +4,7 @@
 #include "imaging/picture.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 class QImage;
@@ -28,6 +29,8 @@ public:
     int Width() const { return width_; }
     int Height() const { return height_; }
 
+    /// The pixels as a whole BMP file; empty for an empty buffer. Stands as long as the buffer is live.
+    std::span<const std::uint8_t> file() const;
     /// Writes the pixels as a BMP file, replacing an existing one. An unopenable file raises error 17 with
     /// its path; a failed write, or an empty buffer, gives false.
     bool SavePicture(const FilePath& path) const;

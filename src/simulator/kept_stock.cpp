@@ -77,6 +77,13 @@ void KeptStock::replace(const InstallFile& file, const FilePath& part) {
     }
 }
 
+std::optional<FilePath> KeptStock::deliveredPlace(const QString& path) const {
+    const auto fact = facts_.constFind(path.toCaseFolded());
+    if (fact == facts_.constEnd()) return appPath_ / path;
+    if (!fact->wasThere) return std::nullopt;
+    return (kept_.contains(fact.key()) ? keptPath_ : appPath_) / path;
+}
+
 /// What does not lie here has not been replaced, or is back already.
 bool KeptStock::putBack(const Fact& fact) {
     const FilePath target = appPath_ / fact.path;

@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QSet>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 namespace morvane {
@@ -34,6 +35,9 @@ public:
     /// Puts `part`, a file of the same drive, in the place of an announced file and keeps that one. Where
     /// that fails the file stands as before.
     void replace(const InstallFile& file, const FilePath& part);
+    /// Where the delivered file of that path lies: here once an import has replaced it, else in its place.
+    /// Nothing where an import brings a file for which none was delivered.
+    std::optional<FilePath> deliveredPlace(const QString& path) const;
     /// Puts everything back, takes away what was new, and forgets. One file that fails does not keep the
     /// others from it; the first such failure is raised at the end, with everything still kept. Returns the
     /// number of files put back.

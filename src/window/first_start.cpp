@@ -1,13 +1,13 @@
 #include "window/first_start.h"
 
-#include "core/literals.h"
+#include "app/first_values.h"
+#include "core/install_folder.h"
+#include "core/registry.h"
+#include "window/content_tool.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QProcess>
 #include <QProgressDialog>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -16,27 +16,10 @@ namespace morvane {
 
 namespace {
 
-/// Runs the tool to its end, or to the user's cancel or the end of the session, by which it is killed.
-bool runTool(QProcess& tool, QProgressDialog& progress) {
-    QEventLoop loop;
-    QObject::connect(&tool, &QProcess::readyReadStandardOutput, &progress, [&] {
-        while (tool.canReadLine())
-            if (const int percent = tool.readLine().trimmed().toInt())
-                progress.setValue(std::min(percent, 99));
-    });
-    QObject::connect(&tool, &QProcess::finished, &loop, &QEventLoop::quit);
-    QObject::connect(&tool, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
-    QObject::connect(&progress, &QProgressDialog::canceled, &tool, &QProcess::kill);
-    if (progress.wasCanceled()) tool.kill(); // before anybody listened
-    if (tool.state() != QProcess::NotRunning) loop.exec();
-    if (tool.state() != QProcess::NotRunning) progress.cancel(); // the loop was left before its end
-    return tool.error() == QProcess::UnknownError && tool.exitStatus() == QProcess::NormalExit &&
-           tool.exitCode() == 0;
-}
-
 const QString storeName = u"Morvane.mdb"_s, madeName = u"first start"_s;
 
-/// What one start could not move the next one does.
+/// What one start could not move the next one does. The tool's registry file stays behind: where the values
+/// belong is settled by the folder that they are for.
 bool moveUp(const QString& home) {
     QDir made(home + u'/' + madeName), place(home);
     const auto move = [&](const QString& name) {
@@ -44,7 +27,16 @@ bool moveUp(const QString& home) {
     };
     QStringList names = made.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     names.removeOne(storeName);
-    return std::all_of(names.begin(), names.end(), move) && move(storeName) && made.removeRecursively();
+    names.removeOne(u"registry.ini"_s);
+    if (!std::all_of(names.begin(), names.end(), move)) return false;
+    NativeFileSystem files;
+    writeFirstValues(*openRegistry(files, FilePath(QFileInfo(home).absoluteFilePath())));
+    return move(storeName) && made.removeRecursively();
+}
+
+bool refuse(const QString& cause) {
+    QMessageBox::critical(nullptr, u"Morvane"_s, cause);
+    return false;
 }
 
 } // namespace
@@ -56,37 +48,27 @@ bool awaitsFirstStart(const QString& home) {
 
 bool makeInstallFolder(const QString& home) {
     if (QDir(home).exists(madeName)) return moveUp(home);
-    QDir().mkpath(home);
+    const QString failed = u"The install folder could not be made: "_s + QDir::toNativeSeparators(home);
+    if (!QDir().mkpath(home)) return refuse(failed);
+    NativeFileSystem files;
+    const FilePath place(QFileInfo(home).absoluteFilePath());
+    if (const QString problem = installFolderProblem(files, place); !problem.isEmpty())
+        return refuse(problem);
     QTemporaryDir folder(home + u"/first start.XXXXXX"_s);
     QProgressDialog progress(u"Morvane is started for the first time and draws its base images into\n"_s +
                                  QDir::toNativeSeparators(home),
                              u"Cancel"_s, 0, 100);
-    progress.setWindowTitle(u"Morvane"_s);
-    progress.setMinimumDuration(0);
-    progress.setAutoClose(false);
-    progress.setValue(0);
-    QProcess tool;
-    tool.start(QCoreApplication::applicationDirPath() + u"/morvane-content"_s,
-               {u"--home"_s, folder.path(), u"--progress"_s});
-    const bool isMade = runTool(tool, progress);
-    if (isMade && !progress.wasCanceled() &&
+    const ContentToolRun run = runContentTool({u"--home"_s, folder.path()}, progress);
+    if (run.end == ContentToolRun::End::done && !progress.wasCanceled() &&
         QDir(home).rename(QFileInfo(folder.path()).fileName(), madeName) && moveUp(home)) {
         folder.setAutoRemove(false);
         return true;
     }
-    tool.kill(); // one that still draws would leave something behind
-    tool.waitForFinished();
     folder.remove();
     QDir().rmdir(home); // where nothing else is in it
     if (progress.wasCanceled()) return false;
     progress.hide();
-    const bool hasStarted = tool.error() == QProcess::UnknownError;
-    const QString cause =
-        hasStarted ? QString::fromLocal8Bit(tool.readAllStandardError()) : tool.errorString();
-    QMessageBox::critical(nullptr, u"Morvane"_s,
-                          u"The install folder could not be made: "_s + QDir::toNativeSeparators(home) +
-                              u'\n' + cause.trimmed());
-    return false;
+    return refuse(failed + u'\n' + run.cause);
 }
 
 } // namespace morvane

@@ -6,6 +6,7 @@
 #include "imaging/program_font.h"
 #include "ui/controls/paper_style.h"
 #include "ui/skin.h"
+#include "window/content_update.h"
 #include "window/end_requests.h"
 #include "window/first_start.h"
 #include "window/letter_engine.h"
@@ -64,6 +65,9 @@ int main(int argc, char** argv) {
     const FilePath folder(QFileInfo(home).absoluteFilePath());
     SingleWindow window(folder);
     if (line.coverCode.isEmpty() && !window.take()) return 0;
+    // A run for another program is to be short, and shows no windows.
+    if (line.coverCode.isEmpty() && awaitsContentUpdate(folder)) updateDeliveredContent(folder);
+    if (requests.hasEnded()) return 0;
     NativeFileSystem files;
     SystemClock clock;
     ReseedingRandomSource random;

@@ -14,6 +14,7 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QMovie>
 #include <QPushButton>
@@ -94,7 +95,7 @@ void frm_Msg::fill(const Message& message) {
     setWindowTitle(message.title);
     showPicture(message.picture);
     setTextColour(*lbl_Title_, message.hasQuietTitle ? quietTitle : palette::signalRed);
-    lbl_Title_->setText(message.title);
+    showTitle(message.title);
     lbl_Message_->setText(message.text);
     lblProcessDescription_->clear();
     lblProcessFile_->clear();
@@ -140,8 +141,18 @@ bool frm_Msg::isTimeToPaint(double value) {
     return true;
 }
 
+/// Smaller where it would be cut.
+void frm_Msg::showTitle(const QString& title) {
+    constexpr int smallest = 11;
+    QFont font = fontOf(TextRole::messageTitle);
+    while (QFontMetrics(font).horizontalAdvance(title) > lbl_Title_->width() && font.pixelSize() > smallest)
+        font.setPixelSize(font.pixelSize() - 1);
+    lbl_Title_->setFont(font);
+    lbl_Title_->setText(title);
+}
+
 void frm_Msg::updateProgress(const QString& title, const QString& text, double value) {
-    if (!title.isEmpty()) lbl_Title_->setText(trimmedBlanks(title));
+    if (!title.isEmpty()) showTitle(trimmedBlanks(title));
     if (!text.isEmpty()) lbl_Message_->setText(trimmedBlanks(text));
     if (!isTimeToPaint(value)) return;
     lblProcessFile_->setText(processFile_);

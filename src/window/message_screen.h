@@ -47,6 +47,7 @@ private:
     void answer(bool ok);
     void askForCancel();
     void fill(const Message& message);
+    void showTitle(const QString& title);
     void showPicture(const QString& fileName);
     void layOut(const Message& message);
     void storeFastExit(bool isTicked);

@@ -55,6 +55,25 @@ TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
     EXPECT_TRUE(user.calls.isEmpty());
 }
 
+/// The trial of the folder is the second of the file operations.
+TEST_F(ApplicationTest, aFolderThatNobodyMayWriteIntoServesReadingAndNothingElse) {
+    storeOwnValue(install.registry, u"FirstTime"_s, u"True"_s);
+    install.files.removeFolder(install.home() / u"Backup");
+    writeFile(install.home() / u"AIRPORTDATA.txt", "ID"); // asks for an upgrade
+    const auto before = test::contentsBelow(install.home());
+    install.files.failAt(2, false);
+    EXPECT_FALSE(startUp(session));
+    ASSERT_EQ(user.calls.size(), 1);
+    EXPECT_TRUE(user.calls[0].startsWith(u"box Morvane may not write into its install folder: "_s));
+    install.files.failAt(2, false);
+    ASSERT_TRUE(startUp(session, InstallUse::reading));
+    EXPECT_EQ(user.calls.size(), 1);
+    EXPECT_TRUE(session.adoConn->hasTable(u"TEXTURE_SETS"_s));
+    EXPECT_THROW(session.adoConn->execute(u"DELETE FROM TEXTURE_SETS"_s), Error);
+    EXPECT_TRUE(test::contentsBelow(install.home()) == before);
+    EXPECT_FALSE(install.files.isFolder(session.BackupPath));
+}
+
 TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
     install.files.remove(install.home() / u"registry.ini");
     const QString right = install.simulator().native();

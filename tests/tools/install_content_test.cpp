@@ -1,5 +1,8 @@
 #include "made_install.h"
 
+#include "core/delivered_list.h"
+#include "core/file_fingerprint.h"
+#include "core/install_lock.h"
 #include "core/row_set.h"
 #include "core/store.h"
 #include "support/printing.h"
@@ -56,6 +59,40 @@ TEST_F(InstallContent, neverTouchesAFolderThatHoldsSomething) {
     EXPECT_FALSE(files.exists(unused));
     files.makeFolder(beside(u"Begun\\METAR"));
     expectRefusal(beside(u"Begun"), unused, beside(u"Begun").text());
+}
+
+TEST_F(InstallContent, isBroughtUpToDateByANewerVersionOnly) {
+    const auto update = [&](const FilePath& folder) {
+        return runContentTool(folder, simulator(), {u"--update"_s, u"--data"_s, beside(u"Data").native()})
+            .status;
+    };
+    const FilePath list = home() / u"content.version", help = home() / u"MV Help\\index.html",
+                   picture = home() / u"Media\\morvane.png", cursor = home() / u"Media\\Hand.cur";
+    const auto all = [&] {
+        return std::tuple(test::contentsBelow(home() / u"Media"), test::contentsBelow(simulator()).keys(),
+                          files.read(help), files.read(list), files.read(home() / u"registry.ini"),
+                          files.read(home() / u"Morvane.mdb"));
+    };
+    const auto whole = all();
+    files.write(help, "older");
+    EXPECT_EQ(update(home()), 0);
+    EXPECT_EQ(files.read(help), "older") << "the version is the same";
+    QByteArray older = files.read(list).replace(contentHeading(1), "content 7 density 1 by 2.0.9\n");
+    older += (fingerprintOf(QByteArray("older")).checksum + u"\tMV Help\\index.html\n"_s).toUtf8();
+    files.write(list, older);
+    const QByteArray drawn = files.read(picture);
+    files.write(picture, "the pilot's");
+    files.write(cursor, "of before the list");
+    test::writeFile(beside(u"Data\\delivered\\earlier.sums"),
+                    fingerprintOf(files.read(cursor)).checksum.toLatin1() + '\n');
+    EXPECT_EQ(update(home()), 0);
+    EXPECT_EQ(files.read(picture), "the pilot's");
+    files.write(picture, drawn);
+    EXPECT_TRUE(all() == whole);
+    InstallLock other(home(), u"Writing.lock"_s);
+    EXPECT_TRUE(other.tryTake());
+    EXPECT_EQ(update(home()), 3);
+    EXPECT_EQ(update(beside(u"No install")), 1);
 }
 
 TEST_F(InstallContent, cutShortIsNotTakenForWhole) {

@@ -17,7 +17,8 @@ protected:
         folder_ = std::make_unique<test::TemporaryFolder>();
         NativeFileSystem().makeFolder(media());
         NativeFileSystem files;
-        writeSkin(files, media());
+        writeSkin([&](const FilePath& file, const QByteArray& contents) { files.write(file, contents); },
+                  media());
     }
     static void TearDownTestSuite() { folder_.reset(); }
 
@@ -83,7 +84,8 @@ TEST_F(SkinFiles, regionsAreThoseOfTheirPictures) {
 }
 
 TEST_F(SkinFiles, helpPageIsWholeAndNeedsNoOtherFile) {
-    writeHelp(files, media());
+    writeHelp([&](const FilePath& file, const QByteArray& contents) { files.write(file, contents); },
+              media());
     const QByteArray page = files.read(media() / u"index.html");
     EXPECT_TRUE(page.endsWith("</html>\n"));
     EXPECT_TRUE(page.contains("morvane-cli originals restore"));

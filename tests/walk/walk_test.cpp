@@ -21,7 +21,8 @@ FilePath skin() {
     static const bool isWritten = [] {
         NativeFileSystem files;
         files.makeFolder(folder / u"Media");
-        writeSkin(files, folder / u"Media");
+        writeSkin([&](const FilePath& file, const QByteArray& contents) { files.write(file, contents); },
+                  folder / u"Media");
         return true;
     }();
     return isWritten ? folder / u"Media" : FilePath();

@@ -142,7 +142,7 @@ TEST_F(EveryScreen, actsOnWhatIsAskedOfItsControls) {
 
 TEST_F(EveryScreen, hasRoomForEachTextAndTheLongestMessage) {
     program.confirmNext(u"frm_Msg"_s);
-    program.user.showMessage({MessageKind::information, u"Reset MV Textures?"_s,
+    program.user.showMessage({MessageKind::information, u"Saved Flights/Flight Plans Location required"_s,
                               u"Morvane has detected that you have 'Mostly Cloudy' Ground Texture Set "
                               u"installed and 'Mostly Cloudy' "
                               "Sky Texture Set installed. Please select the check button if you wish to "

@@ -1,9 +1,11 @@
 #include "window/first_start.h"
 
+#include "core/install_lock.h"
 #include "core/store_connection.h"
 #include "support/small_install.h"
 #include "ui/dialog_form.h"
 #include "ui/skin.h"
+#include "window/content_update.h"
 #include "window/program.h"
 #include "window/window_shell.h"
 #include "window/window_user.h"
@@ -40,8 +42,11 @@ TEST(FirstStart, leavesNothingWhenItIsCancelled) {
 TEST(FirstStart, goesOnWhereItsFilesWereBeingPutInPlace) {
     const test::TemporaryFolder folder;
     const FilePath home = folder / u"Mörvane";
+    NativeFileSystem files;
     EXPECT_TRUE(awaitsFirstStart(home.native()));
-    test::writeFile(home / u"registry.ini", "the pilot's");
+    files.makeFolder(home);
+    IniRegistry registry(files, home / u"registry.ini");
+    storeOwnValue(registry, u"WeatherServer"_s, u"the pilot's"_s);
     EXPECT_TRUE(awaitsFirstStart(home.native())) << "a program that has everything in one folder";
     test::writeFile(home / u"Media\\one.bmp", "1");
     EXPECT_FALSE(awaitsFirstStart(home.native()));
@@ -50,10 +55,45 @@ TEST(FirstStart, goesOnWhereItsFilesWereBeingPutInPlace) {
     EXPECT_TRUE(awaitsFirstStart(home.native()));
     EXPECT_TRUE(makeInstallFolder(home.native()));
     EXPECT_FALSE(awaitsFirstStart(home.native()));
-    NativeFileSystem files;
-    EXPECT_EQ(files.read(home / u"registry.ini"), "the pilot's");
+    for (const auto& [name, text] : {std::pair(u"WeatherServer"_s, "the pilot's"), {u"FirstTime"_s, "True"}})
+        EXPECT_EQ(ownValue(registry, name), text) << "the file beside the program counts";
     EXPECT_EQ(files.read(home / u"Backup\\two.bmp"), "made");
     EXPECT_EQ(files.listFolders(home), QStringList({u"Backup"_s, u"Media"_s}));
+}
+
+/// Base images of density 6 take a while; 7 there are none.
+TEST(FirstStart, ofANewerVersionTellsOfAFailureAndGoesOn) {
+    const struct {
+        QByteArray density;
+        bool isPutOff, isLocked;
+        int boxes;
+    } cases[] = {{"7", false, false, 1}, {"6", true, false, 0}, {"7", false, true, 0}};
+    for (const auto& [density, isPutOff, isLocked, boxes] : cases) {
+        const test::TemporaryFolder folder;
+        const FilePath list = folder / u"content.version", store = folder / u"Morvane.mdb";
+        test::writeFile(list, "content 1 density " + density + '\n');
+        EXPECT_FALSE(awaitsContentUpdate(folder.path())) << "without a store there is no install";
+        test::writeFile(store, "store");
+        EXPECT_TRUE(awaitsContentUpdate(folder.path()));
+        InstallLock other(folder.path(), u"Writing.lock"_s);
+        EXPECT_TRUE(!isLocked || other.tryTake());
+        int told = 0;
+        QTimer timer;
+        timer.callOnTimeout([&, isPutOff = isPutOff] {
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (auto* progress = qobject_cast<QProgressDialog*>(window);
+                    progress && progress->isVisible())
+                    if (isPutOff && test::readFile(list).contains('\t')) // it is at work
+                        progress->findChild<QPushButton*>()->click();
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                ++told, box->accept();
+        });
+        timer.start(0);
+        updateDeliveredContent(folder.path());
+        EXPECT_EQ(told, boxes) << density.toStdString();
+        EXPECT_TRUE(test::readFile(list).startsWith("content 1 ")) << "the next start goes on";
+        EXPECT_EQ(test::readFile(store), "store");
+    }
 }
 
 TEST(FirstStart, withAStoreThatIsNoneSaysSoOnceAndKeepsItsFirstRunForLater) {

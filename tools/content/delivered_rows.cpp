@@ -148,7 +148,7 @@ void writeDeliveredStore(FileSystem& files, const FilePath& data, const FilePath
     ConsoleUser user({AnswerPolicy::no, false});
     SystemClock clock;
     ReseedingRandomSource random;
-    const auto registry = openRegistry(files, path.parent());
+    const auto registry = openRegistry(files, path.parent(), FolderChoice::named);
     Session session({user, files, clock, random, *registry}, path.parent());
     session.adoConn = std::make_unique<Store>();
     Store& store = *session.adoConn;

@@ -1,9 +1,12 @@
 #include "install_content.h"
 
+#include "app/first_values.h"
+#include "core/attempts.h"
 #include "core/error.h"
 #include "core/literals.h"
 #include "core/registry.h"
 #include "delivered_rows.h"
+#include "delivery.h"
 #include "flight_files.h"
 #include "night_set_files.h"
 #include "skin_files.h"
@@ -11,15 +14,13 @@
 #include "stock_files.h"
 #include "version_two.h"
 
+#include <QSet>
 #include <algorithm>
 #include <iterator>
 
 namespace morvane {
 
 namespace {
-
-/// Raise it whenever what the tool makes changes: samples of another version are made anew.
-constexpr int contentVersion = 7;
 
 /// What the steps take of the whole, in hundredths; the splashes and the skin take the rest.
 constexpr int storeShare = 5, stockShare = 80;
@@ -63,15 +64,6 @@ constexpr const char16_t* simulatorFolders[] = {
     u"Scenery\\World\\Texture", u"Scenery\\UTEurLC\\Texture", u"Texture", u"Uires", u"Flights",
 };
 
-FilePath versionFile(const ContentRequest& request) {
-    return request.home / u"content.version";
-}
-
-QByteArray versionMark(const ContentRequest& request) {
-    return "content " + QByteArray::number(contentVersion) + " density " +
-           QByteArray::number(request.density) + (request.isVersionTwo ? " of version 2\n" : "\n");
-}
-
 FilePath storeFile(const ContentRequest& request) {
     return request.home / u"Morvane.mdb";
 }
@@ -85,19 +77,10 @@ void refuseUnlessEmpty(FileSystem& files, const FilePath& folder) {
             "if it is an old sample or one that was cut short, remove it first."_s);
 }
 
+/// In the folder itself: whoever makes an install of it settles what of this is the user's.
 void writeRegistry(FileSystem& files, const ContentRequest& request) {
-    // A sample with a simulator of its own leaves the machine's registry alone.
-    const FolderChoice choice = request.simulator.isEmpty() ? FolderChoice::usual : FolderChoice::named;
-    const auto registry = openRegistry(files, request.home, choice);
-    registry->CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
-    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
-    registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"FirstTime"_s, u"True"_s);
-    // The public weather service: Refresh works from the first start on.
-    const std::pair<QString, QString> endpoint[] = {{u"WeatherServer"_s, u"https://tgftp.nws.noaa.gov"_s},
-                                                    {u"WeatherPath"_s, u"/data/observations/metar/cycles/"_s},
-                                                    {u"WeatherFormat"_s, u"noaa"_s}};
-    for (const auto& [name, value] : endpoint)
-        registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, name, value);
+    const auto registry = openRegistry(files, request.home, FolderChoice::named);
+    writeFirstValues(*registry);
     if (request.simulator.isEmpty()) return;
     registry->SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s,
                            (request.simulator / u"Flights").text());
@@ -113,18 +96,44 @@ void makeSimulator(FileSystem& files, const ContentRequest& request) {
     files.copyMode(request.simulatorProgram, program);
 }
 
+/// What a later version brings up to date. Sets and saved flights are not of it: they are the pilot's from
+/// the first start on.
+void deliver(const PutFile& put, FileSystem& files, const ContentRequest& request) {
+    std::vector<BaseImage> stock = baseImageList(request.density);
+    std::ranges::copy(nightImageList(request.density), std::back_inserter(stock));
+    const FilePath media = request.home / u"Media";
+    writeStock(put, files, request.home, request.simulator, stock, [&](std::size_t done) {
+        request.onProgress(storeShare + static_cast<int>(stockShare * done / stock.size()));
+    });
+    writeSkyStock(put, request.home);
+    writeSplashes(put, media);
+    writeHalos(put, media);
+    writeSkin(put, media);
+    writeHelp(put, request.home / u"MV Help");
+}
+
+EarlierSums earlierSums(FileSystem& files, const FilePath& data) {
+    const auto text = files.readIfThere(data / u"delivered\\earlier.sums").value_or(QByteArray());
+    const QStringList sums = QString::fromLatin1(text).split(u'\n');
+    return {sums.begin(), sums.end()};
+}
+
+void copyIntoSimulator(FileSystem& files, const ContentRequest& request) {
+    const FilePath media = request.home / u"Media";
+    files.copyContents(media / u"dlgsplash.bmp", request.simulator / u"Uires\\dlgsplash.bmp");
+    files.copyContents(media / u"halodefault.bmp", request.simulator / u"Texture\\halo.bmp");
+}
+
 } // namespace
 
 bool isContentCurrent(FileSystem& files, const ContentRequest& request) {
-    const FilePath mark = versionFile(request);
-    return files.exists(mark) && files.read(mark) == versionMark(request) &&
-           files.exists(storeFile(request)) &&
+    const auto list = files.readIfThere(request.home / u"content.version");
+    return list && list->startsWith(contentHeading(request.density)) && files.exists(storeFile(request)) &&
            (request.simulator.isEmpty() || files.exists(request.simulator / u"fs9.exe"));
 }
 
 int makeContent(FileSystem& files, const ContentRequest& request) {
-    std::vector<BaseImage> stock = baseImageList(request.density);
-    std::ranges::copy(nightImageList(request.density), std::back_inserter(stock));
+    const auto count = baseImageList(request.density).size() + nightImageList(request.density).size();
     refuseUnlessEmpty(files, request.home);
     if (!request.simulator.isEmpty()) refuseUnlessEmpty(files, request.simulator);
     for (const char16_t* folder : installFolders)
@@ -132,21 +141,40 @@ int makeContent(FileSystem& files, const ContentRequest& request) {
     if (!request.simulator.isEmpty()) makeSimulator(files, request);
     writeDeliveredStore(files, request.data, storeFile(request));
     request.onProgress(storeShare);
-    writeStock(files, request.home, request.simulator, stock, [&](std::size_t done) {
-        request.onProgress(storeShare + static_cast<int>(stockShare * done / stock.size()));
-    });
+    Delivery delivery(files, request.home);
+    deliver([&](const FilePath& file, const QByteArray& contents) { delivery.put(file, contents); }, files,
+            request);
+    if (!request.simulator.isEmpty()) copyIntoSimulator(files, request);
     writeNightSets(files, request.home);
-    writeSkyStock(files, request.home, request.simulator);
+    writeSkySets(files, request.home, request.simulator);
     writeFlights(files, request.home, request.simulator);
-    writeSplashes(files, request.home, request.simulator);
-    writeHalos(files, request.home, request.simulator);
-    writeSkin(files, request.home / u"Media");
-    writeHelp(files, request.home / u"MV Help");
     writeRegistry(files, request);
     if (request.isVersionTwo) makeVersionTwo(files, request.home);
-    files.write(versionFile(request), versionMark(request));
+    delivery.finish(request.density);
     request.onProgress(100);
-    return static_cast<int>(stock.size());
+    return static_cast<int>(count);
+}
+
+int updateContent(FileSystem& files, const ContentRequest& present) {
+    const DeliveredList list(files, present.home);
+    if (list.density() == 0)
+        throw Error::withDescription(ErrorCode::pathNotFound,
+                                     u"'"_s + present.home.text() + u"' is no install that was filled."_s);
+    if (!list.isOlder()) return 0;
+    ContentRequest request = present;
+    request.density = list.density();
+    request.simulator = FilePath(); // the one that goes with a pilot's install is the pilot's
+    for (const char16_t* folder : installFolders)
+        files.makeFolder(request.home / folder);
+    Delivery delivery(files, request.home, earlierSums(files, request.data));
+    FirstFailure failure;
+    deliver([&](const FilePath& file,
+                const QByteArray& contents) { failure.attempt([&] { delivery.put(file, contents); }); },
+            files, request);
+    failure.raise(); // the next start tries the others again
+    delivery.finish(request.density);
+    request.onProgress(100);
+    return delivery.count();
 }
 
 } // namespace morvane

@@ -19,7 +19,7 @@ struct ContentRequest {
     std::function<void(int)> onProgress = [](int) {};
 };
 
-/// True when `home` holds an install that this version of the tool made with that density.
+/// True when `home` holds an install of that density as this version of the tool makes it.
 bool isContentCurrent(FileSystem& files, const ContentRequest& request);
 
 /// Makes the install and the simulator. Both folders must be missing or empty, else it raises "Permission
@@ -28,5 +28,13 @@ bool isContentCurrent(FileSystem& files, const ContentRequest& request);
 /// raises before a folder is made. Returns the number of base images. Needs a QGuiApplication: the skin's
 /// pictures hold words.
 int makeContent(FileSystem& files, const ContentRequest& request);
+
+/// Brings what an older version of the tool laid down in `home` up to date, in its own density: base images,
+/// their bodies, pictures and the help. Files that are not as they were delivered are the pilot's and stay;
+/// so do the store, the sets, the saved flights and the registry. A run that is cut leaves each file old or
+/// new, and the next one goes on; the first file that could not be replaced is raised behind all others.
+/// Returns the number of files that were replaced or added, 0 where the install is not older. Raises for a
+/// folder that this tool has not filled.
+int updateContent(FileSystem& files, const ContentRequest& request);
 
 } // namespace morvane

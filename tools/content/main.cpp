@@ -2,6 +2,7 @@
 
 #include "base_image_list.h"
 #include "core/error.h"
+#include "core/install_lock.h"
 #include "core/literals.h"
 #include "install_content.h"
 #include "skin_emblems.h"
@@ -18,6 +19,8 @@
 using namespace morvane;
 
 namespace {
+
+constexpr int otherWriter = 3;
 
 FilePath folder(const QCommandLineParser& parser, const QString& option) {
     if (!parser.isSet(option) && option != u"data") return {};
@@ -64,6 +67,16 @@ void setDefault(const char* variable, const QString& value) {
     if (!qEnvironmentVariableIsSet(variable)) qputenv(variable, value.toLocal8Bit());
 }
 
+int update(NativeFileSystem& files, const ContentRequest& request) {
+    InstallLock lock(request.home, u"Writing.lock"_s);
+    if (!lock.tryTake()) {
+        std::fprintf(stderr, "morvane-content: %s is working on this install\n", qPrintable(lock.holder()));
+        return otherWriter;
+    }
+    std::printf("%d files brought up to date\n", updateContent(files, request));
+    return 0;
+}
+
 int run(const QCommandLineParser& parser) {
     if (parser.isSet(u"icon"_s)) return writeIcon(parser.value(u"icon"_s)) ? 0 : 1;
     NativeFileSystem files;
@@ -71,11 +84,17 @@ int run(const QCommandLineParser& parser) {
         folder(parser, u"home"_s), folder(parser, u"simulator"_s),     simulatorProgram(),
         folder(parser, u"data"_s), parser.value(u"density"_s).toInt(), parser.isSet(u"old-version"_s)};
     if (parser.isSet(u"check"_s)) return isContentCurrent(files, request) ? 0 : 1;
+    if (parser.isSet(u"simulator"_s) && !files.exists(simulatorProgram())) {
+        std::fprintf(stderr, "morvane-content: no sample simulator without the program %s\n",
+                     qPrintable(simulatorProgram().text()));
+        return 1;
+    }
     if (parser.isSet(u"progress"_s))
         request.onProgress = [](int percent) {
             std::printf("%d\n", percent);
             std::fflush(stdout);
         };
+    if (parser.isSet(u"update"_s)) return update(files, request);
     QElapsedTimer timer;
     timer.start();
     const int count = makeContent(files, request);
@@ -102,6 +121,9 @@ int main(int argc, char** argv) {
     parser.addOption({u"density"_s, u"1 to 6: 1 makes about a thousand base images, 4 about four thousand."_s,
                       u"N"_s, u"1"_s});
     parser.addOption({u"old-version"_s, u"Make an install of version 2 that its next start upgrades."_s});
+    parser.addOption({u"update"_s,
+                      u"Make nothing anew: bring what an older version laid down up to date. The exit "
+                      "status is 3 while another program works on the install."_s});
     parser.addOption({u"check"_s, u"Make nothing; the exit status is 0 when the install is current."_s});
     parser.addOption(
         {u"icon"_s, u"Draw the program's icon into that file, .png or .ico, and nothing else."_s, u"FILE"_s});

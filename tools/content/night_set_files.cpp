@@ -24,7 +24,7 @@ void writeNightSets(FileSystem& files, const FilePath& home) {
     QuietUser user;
     SystemClock clock;
     ReseedingRandomSource random;
-    const auto registry = openRegistry(files, home);
+    const auto registry = openRegistry(files, home, FolderChoice::named);
     Session session({user, files, clock, random, *registry}, home);
     connectDatabase(session);
     QStringList names;

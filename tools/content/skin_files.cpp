@@ -26,7 +26,7 @@ using namespace skin;
 
 class SkinWriter {
 public:
-    SkinWriter(FileSystem& files, const FilePath& media) : files_(files), media_(media) {}
+    SkinWriter(const PutFile& put, const FilePath& media) : put_(put), media_(media) {}
 
     /// `draw(scale)` gives the picture; it is written as a bitmap in both sizes.
     template <class Draw>
@@ -46,13 +46,13 @@ public:
     }
 
     void write(QStringView fileName, const QByteArray& contents) {
-        files_.write(media_.child(fileName.toString()), contents);
+        put_(media_.child(fileName.toString()), contents);
     }
 
 private:
     static constexpr int photoQuality = 92;
 
-    FileSystem& files_;
+    const PutFile& put_;
     FilePath media_;
 };
 
@@ -100,9 +100,9 @@ void writeEmblems(SkinWriter& writer) {
 
 } // namespace
 
-void writeSkin(FileSystem& files, const FilePath& media) {
+void writeSkin(const PutFile& put, const FilePath& media) {
     loadProgramFont();
-    SkinWriter writer(files, media);
+    SkinWriter writer(put, media);
     writeWindows(writer);
     writeKeys(writer);
     writePages(writer);
@@ -111,8 +111,8 @@ void writeSkin(FileSystem& files, const FilePath& media) {
     writeEmblems(writer);
 }
 
-void writeHelp(FileSystem& files, const FilePath& folder) {
-    files.write(folder / u"index.html", helpPage());
+void writeHelp(const PutFile& put, const FilePath& folder) {
+    put(folder / u"index.html", helpPage());
 }
 
 } // namespace morvane

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/file_system.h"
+#include "delivery.h"
 
 namespace morvane {
 
@@ -8,9 +8,9 @@ namespace morvane {
 /// regions, pages, key strips, icons, start picture, previews, cursors. Backgrounds, pages, strips and icons
 /// are also written at twice the size, as "name@2x.bmp". The same bytes every time on one system. Needs a
 /// QGuiApplication.
-void writeSkin(FileSystem& files, const FilePath& media);
+void writeSkin(const PutFile& put, const FilePath& media);
 
 /// Writes the help page into its folder.
-void writeHelp(FileSystem& files, const FilePath& folder);
+void writeHelp(const PutFile& put, const FilePath& folder);
 
 } // namespace morvane

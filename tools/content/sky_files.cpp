@@ -10,30 +10,36 @@ namespace {
 
 const QString defaultSet = u"Default"_s;
 
-void writeMaps(const QString& folder, const FilePath& target) {
+void writeMaps(const PutFile& put, const QString& folder, const FilePath& target) {
     const QStringList names = skyMapNames(folder);
     for (int index = 0; index < names.size(); ++index)
-        saveBitmap(drawSkyMap(folder, index), target.child(names[index]));
+        put(target.child(names[index]), bitmapFile(drawSkyMap(folder, index)));
 }
 
-void writeSimulatorMaps(const QString& folder, const FilePath& textures) {
+void writeSimulatorMaps(FileSystem& files, const QString& folder, const FilePath& textures) {
     const QStringList names = skyMapNames(folder);
     for (int index = 0; index < names.size(); ++index)
-        saveBitmap(inSimulatorLook(drawSkyMap(folder, index)), textures.child(names[index].toUpper()));
+        files.write(textures.child(names[index].toUpper()),
+                    bitmapFile(inSimulatorLook(drawSkyMap(folder, index))));
 }
 
 } // namespace
 
-void writeSkyStock(FileSystem& files, const FilePath& home, const FilePath& simulator) {
+void writeSkyStock(const PutFile& put, const FilePath& home) {
     for (const QString& folder : skyFolders())
-        writeMaps(folder, (home / u"Resources\\Sky").child(folder));
+        writeMaps(put, folder, (home / u"Resources\\Sky").child(folder));
+}
+
+void writeSkySets(FileSystem& files, const FilePath& home, const FilePath& simulator) {
     const FilePath delivered = (home / u"Sky Texture Sets").child(defaultSet);
     files.makeFolder(delivered);
-    writeMaps(defaultSet, delivered);
+    const FilePath stock = (home / u"Resources\\Sky").child(defaultSet);
+    for (const QString& name : skyMapNames(defaultSet))
+        files.copyContents(stock.child(name), delivered.child(name));
     if (simulator.isEmpty()) return;
     // The base sets share their names, so one of them names all that the simulator has.
     for (const QString& folder : {defaultSet, u"Sunrise"_s, u"Sunset"_s})
-        writeSimulatorMaps(folder, simulator / u"Texture");
+        writeSimulatorMaps(files, folder, simulator / u"Texture");
 }
 
 } // namespace morvane

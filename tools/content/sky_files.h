@@ -1,12 +1,14 @@
 #pragma once
 
-#include "core/file_system.h"
+#include "delivery.h"
 
 namespace morvane {
 
-/// Draws the sky maps into `home`\Resources\Sky, copies those of the base set "Default" into the folder of
-/// the set of that name, and lays older-looking maps of all the names into the sample simulator's "Texture",
-/// in upper case. An empty `simulator` stands for none.
-void writeSkyStock(FileSystem& files, const FilePath& home, const FilePath& simulator);
+/// Draws the sky maps into `home`\Resources\Sky.
+void writeSkyStock(const PutFile& put, const FilePath& home);
+
+/// Gives the sky set "Default" the maps of its base set, and lays older-looking maps of all the names into
+/// the sample simulator's "Texture", in upper case. An empty `simulator` stands for none.
+void writeSkySets(FileSystem& files, const FilePath& home, const FilePath& simulator);
 
 } // namespace morvane

@@ -1,7 +1,6 @@
 #include "stock_files.h"
 
 #include "base_image_drawing.h"
-#include "core/error.h"
 #include "core/ordered_work.h"
 #include "ground/tropical_files.h"
 #include "halo_picture.h"
@@ -19,9 +18,8 @@ namespace {
 constexpr ColourValues simulatorLook{-55, 6, 0, -6, -6, -10};
 
 struct DrawnImage {
-    Picture picture;
-    QByteArray body;
-    QByteArray simulatorTexture;
+    QByteArray bitmap, body;
+    QByteArray simulatorTexture; ///< only where it is wanted
 };
 
 Picture pictureOf(const cDIBSection& section) {
@@ -31,11 +29,10 @@ Picture pictureOf(const cDIBSection& section) {
     return {section.Width(), section.Height(), std::vector<std::uint8_t>(pixels, pixels + size)};
 }
 
-DrawnImage draw(const BaseImage& image) {
-    DrawnImage drawn;
-    drawn.picture = drawBaseImage(image);
-    drawn.body = compressTexture(drawn.picture);
-    drawn.simulatorTexture = compressTexture(inSimulatorLook(drawn.picture));
+DrawnImage draw(const BaseImage& image, bool hasSimulator) {
+    const Picture picture = drawBaseImage(image);
+    DrawnImage drawn{bitmapFile(picture), compressTexture(picture), {}};
+    if (hasSimulator) drawn.simulatorTexture = compressTexture(inSimulatorLook(picture));
     return drawn;
 }
 
@@ -76,10 +73,11 @@ void addToSimulator(FileSystem& files, const FilePath& simulator, const BaseImag
 
 } // namespace
 
-void saveBitmap(const Picture& picture, const FilePath& target) {
+QByteArray bitmapFile(const Picture& picture) {
     cDIBSection section;
     section.CreateFromPicture(picture);
-    if (!section.SavePicture(target)) throw Error(ErrorCode::diskFull, target.text());
+    const auto bytes = section.file();
+    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
 }
 
 Picture inSimulatorLook(const Picture& picture) {
@@ -90,35 +88,32 @@ Picture inSimulatorLook(const Picture& picture) {
     return pictureOf(result);
 }
 
-void writeStock(FileSystem& files, const FilePath& home, const FilePath& simulator,
+void writeStock(const PutFile& put, FileSystem& files, const FilePath& home, const FilePath& simulator,
                 const std::vector<BaseImage>& stock, const std::function<void(std::size_t)>& onDone) {
-    OrderedWork<DrawnImage> work(static_cast<int>(stock.size()),
-                                 [&](int i) { return draw(stock[static_cast<std::size_t>(i)]); });
+    OrderedWork<DrawnImage> work(static_cast<int>(stock.size()), [&](int i) {
+        return draw(stock[static_cast<std::size_t>(i)], !simulator.isEmpty());
+    });
     std::size_t done = 0;
     for (const BaseImage& image : stock) {
         const DrawnImage drawn = work.next();
         onDone(++done);
-        saveBitmap(drawn.picture, (home / u"Resources").child(image.resourceFolder).child(image.fileName));
-        files.write(home.child(image.resourceFolder).child(image.fileName), drawn.body);
+        put((home / u"Resources").child(image.resourceFolder).child(image.fileName), drawn.bitmap);
+        put(home.child(image.resourceFolder).child(image.fileName), drawn.body);
         if (!simulator.isEmpty()) addToSimulator(files, simulator, image, drawn.simulatorTexture);
     }
 }
 
-void writeSplashes(FileSystem& files, const FilePath& home, const FilePath& simulator) {
+void writeSplashes(const PutFile& put, const FilePath& media) {
     for (const char16_t* code : {u"SKC", u"FEW", u"SCT", u"BKN", u"OVC"}) {
         const QString cover = QStringView(code).toString();
-        saveBitmap(toPicture(drawSplash(cover)), home / u"Media" / (u"dlgSplash"_s + cover + u".bmp"_s));
+        put(media.child(u"dlgSplash"_s + cover + u".bmp"_s), bitmapFile(toPicture(drawSplash(cover))));
     }
-    const FilePath own = home / u"Media\\dlgsplash.bmp";
-    saveBitmap(toPicture(drawSplash({})), own);
-    if (!simulator.isEmpty()) files.copyContents(own, simulator / u"Uires\\dlgsplash.bmp");
+    put(media / u"dlgsplash.bmp", bitmapFile(toPicture(drawSplash({}))));
 }
 
-void writeHalos(FileSystem& files, const FilePath& home, const FilePath& simulator) {
-    const FilePath own = home / u"Media\\halodefault.bmp";
-    saveBitmap(toPicture(drawHalo(HaloStyle::customHalo)), home / u"Media\\halo.bmp");
-    saveBitmap(toPicture(drawHalo(HaloStyle::defaultHalo)), own);
-    if (!simulator.isEmpty()) files.copyContents(own, simulator / u"Texture\\halo.bmp");
+void writeHalos(const PutFile& put, const FilePath& media) {
+    put(media / u"halo.bmp", bitmapFile(toPicture(drawHalo(HaloStyle::customHalo))));
+    put(media / u"halodefault.bmp", bitmapFile(toPicture(drawHalo(HaloStyle::defaultHalo))));
 }
 
 } // namespace morvane

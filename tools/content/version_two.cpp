@@ -80,7 +80,7 @@ void makeVersionTwo(FileSystem& files, const FilePath& home) {
     QuietUser user;
     SystemClock clock;
     ReseedingRandomSource random;
-    const auto registry = openRegistry(files, home);
+    const auto registry = openRegistry(files, home, FolderChoice::named);
     Session session({user, files, clock, random, *registry}, home);
     connectDatabase(session);
     addOwnSet(session, u"Harvest"_s, u"12:2.4:0:-1.6:3:1.5"_s, u"Sky Clear"_s);
