@@ -2,6 +2,8 @@
 
 #include "core/literals.h"
 
+#include <QSysInfo>
+
 namespace morvane {
 
 InstallLock::InstallLock(const FilePath& installFolder, const QString& fileName)
@@ -9,8 +11,15 @@ InstallLock::InstallLock(const FilePath& installFolder, const QString& fileName)
     file_.setStaleLockTime(0); // a holder may work for hours: it is gone when its process is
 }
 
+/// The number of a killed holder may be that of another program now, or of this very one: whether anybody
+/// holds the file is then for the file itself to tell, which cannot be removed while it is held here.
 bool InstallLock::tryTake() {
-    return file_.isLocked() || file_.tryLock(0) || file_.error() != QLockFile::LockFailedError;
+    if (file_.isLocked() || file_.tryLock(0) || file_.error() != QLockFile::LockFailedError) return true;
+    qint64 process = 0;
+    QString computer, program;
+    const bool isHere =
+        file_.getLockInfo(&process, &computer, &program) && computer == QSysInfo::machineHostName();
+    return isHere && file_.removeStaleLockFile() && file_.tryLock(0);
 }
 
 QString InstallLock::holder() const {

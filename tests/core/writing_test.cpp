@@ -71,5 +71,19 @@ TEST_F(WritingTest, rowsThatAnotherProgramChangedAreReadAnew) {
     EXPECT_FALSE(reloadChangedRows(second)) << "its own writes are known to it";
 }
 
+/// After a restart of the machine a killed holder's number may be that of a program of the same name.
+TEST(InstallLock, isHeldByWhoHoldsItsFileAndNotByANumber) {
+    test::TemporaryFolder folder;
+    const FilePath file = folder / u"Writing.lock";
+    std::optional<InstallLock> holder(std::in_place, folder.path(), u"Writing.lock"_s);
+    InstallLock other(folder.path(), u"Writing.lock"_s);
+    EXPECT_TRUE(holder->tryTake());
+    EXPECT_FALSE(other.tryTake());
+    const QByteArray left = test::readFile(file);
+    holder.reset();
+    test::writeFile(file, left); // this process is alive, and did not write it
+    EXPECT_TRUE(other.tryTake());
+}
+
 } // namespace
 } // namespace morvane
