@@ -6,6 +6,18 @@
 
 namespace morvane {
 
+namespace {
+
+/// Windows names a machine in capitals here, and by its first letters alone.
+bool isThisComputer(const QString& name) {
+    constexpr qsizetype longestShortName = 15;
+    const QString own = QSysInfo::machineHostName();
+    return name.compare(name.size() == longestShortName ? own.left(longestShortName) : own,
+                        Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
 InstallLock::InstallLock(const FilePath& installFolder, const QString& fileName)
     : file_(installFolder.native() + u'/' + fileName) {
     file_.setStaleLockTime(0); // a holder may work for hours: it is gone when its process is
@@ -17,8 +29,7 @@ bool InstallLock::tryTake() {
     if (file_.isLocked() || file_.tryLock(0) || file_.error() != QLockFile::LockFailedError) return true;
     qint64 process = 0;
     QString computer, program;
-    const bool isHere =
-        file_.getLockInfo(&process, &computer, &program) && computer == QSysInfo::machineHostName();
+    const bool isHere = file_.getLockInfo(&process, &computer, &program) && isThisComputer(computer);
     return isHere && file_.removeStaleLockFile() && file_.tryLock(0);
 }
 
