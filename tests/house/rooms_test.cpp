@@ -80,19 +80,6 @@ QString includedFile(const QString& file, const QString& name) {
     return name;
 }
 
-TEST(Rooms, anIncludePointsDown) {
-    const House house(rooms());
-    const std::tuple<QString, QString, bool> cases[] = {
-        {u"ground/a.cpp"_s, u"core/b.h"_s, true},      {u"ground/a.cpp"_s, u"ground/b.h"_s, true},
-        {u"core/a.cpp"_s, u"ground/b.h"_s, false},     {u"ground/a.cpp"_s, u"sky/b.h"_s, false},
-        {u"sky/screens/a.cpp"_s, u"core/b.h"_s, true}, {u"sky/a.cpp"_s, u"sky/screens/b.h"_s, false},
-        {u"attic/a.cpp"_s, u"core/b.h"_s, false},      {u"core/a.cpp"_s, u"attic/b.h"_s, false},
-    };
-    for (const auto& [file, included, isAllowed] : cases)
-        EXPECT_EQ(house.mayInclude(file, included), isAllowed)
-            << file.toStdString() << ' ' << included.toStdString();
-}
-
 TEST(Rooms, everyFileKeepsToTheRoomsBelow) {
     static const QRegularExpression include(u"^\\s*#\\s*include\\s+\"([^\"]+)\""_s);
     const House house(rooms());

@@ -32,13 +32,9 @@ TEST(BaseImageDrawing, givesEveryFileAPictureOfItsOwnAndTheSameOnEverySystem) {
     for (const BaseImage& night : nightImageList(1))
         if (night.landClass == u"029b" || night.landClass == u"008b" || night.landClass == u"021a")
             images.push_back(night);
-    std::set<std::uint64_t> sums;
     std::uint64_t all = 0;
-    for (const BaseImage& image : images) {
-        const std::uint64_t sum = checksum(drawBaseImage(image));
-        EXPECT_TRUE(sums.insert(sum).second) << image.fileName.toStdString();
-        all ^= sum;
-    }
+    for (const BaseImage& image : images)
+        all ^= checksum(drawBaseImage(image)); // two that are the same would take each other out
     EXPECT_EQ(all, 11002042008063319927u);
 }
 
@@ -68,7 +64,6 @@ TEST(BaseImageList, growsWithTheDensityByNewNamesOnly) {
 TEST(SkyArt, everyFolderHasADayOfMapsOfItsOwn) {
     EXPECT_EQ(skyFolders().join(u'|'),
               u"Default|Default Softer|Horizons|Pro Sky|Sunny|Tropical|Overcast|Sunrise|Sunset"_s);
-    QSet<QByteArray> maps;
     QCryptographicHash digest(QCryptographicHash::Sha1);
     QSet<QString> names; // in one set's folder those of all times must find room
     for (const QString& folder : skyFolders())
@@ -76,11 +71,9 @@ TEST(SkyArt, everyFolderHasADayOfMapsOfItsOwn) {
             const Picture map = drawSkyMap(folder, index++);
             ASSERT_EQ(map.rows.size(), std::size_t{32 * 32 * 3});
             const QByteArray bytes(reinterpret_cast<const char*>(map.rows.data()), map.rows.size());
-            maps.insert(bytes);
             digest.addData(bytes);
             names << name;
         }
-    EXPECT_EQ(maps.size(), 9 * 24);
     EXPECT_EQ(digest.result().toHex().toStdString(), "5c11e2ca0a1dd4f13dc6455b1b2fb12483dbf9d9");
     EXPECT_EQ(names.size(), 3 * 24);
     EXPECT_EQ(skyMapNames(u"Overcast"_s), skyMapNames(u"Default"_s));
