@@ -113,23 +113,6 @@ TEST_F(GroundCommands, aFavouriteIsMadeActivatedInstalledSwitchedOffAndDeleted) 
     expectDone<NightKind>(u"night|delete|"_s + name, u"Default+"_s);
 }
 
-TEST_F(GroundCommands, aNoOrNobodyToAskDeletesNothing) {
-    install.addSet(u"2-Storm"_s, u"Overcast"_s);
-    const QStringList arguments{u"--home"_s, install.home().native(), u"ground"_s, u"delete"_s, u"2-Storm"_s};
-    // A No is no failure, but that nobody could be asked is one.
-    for (const auto& [policy, status] :
-         {std::pair(u"--answer no"_s, 0), {QString(), 1}, {u"--answer ask"_s, 1}}) {
-        const auto run = test::runConsole(policy, arguments);
-        EXPECT_EQ(run.status, status) << policy.toStdString();
-        EXPECT_EQ(run.messages.count(u"Question: Morvane Information"_s), 1);
-        EXPECT_EQ(run.messages.contains(u"No; use --answer yes\n"_s), status == 1)
-            << run.messages.toStdString();
-        EXPECT_EQ(install.sets(), u"Default+ 2-Storm+"_s);
-    }
-    EXPECT_EQ(test::runConsole(u"--answer ask"_s, arguments, "Yes\n").status, 0);
-    EXPECT_EQ(install.sets(), u"Default+"_s);
-}
-
 /// What is not ours any more is left and named; a damaged kept file is a failure.
 TEST_F(GroundCommands, thePilotsFilesAreListedAndRestored) {
     const QString path = "Scenery\\World\\texture\\029H2SU6.BMP";

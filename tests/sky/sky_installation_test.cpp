@@ -6,22 +6,15 @@
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
-#include "support/printing.h"
-#include "support/small_install.h"
-
-#include <gtest/gtest.h>
+#include "support/install_test.h"
 
 namespace morvane {
 namespace {
 
 using test::readFile;
-using test::SmallInstall;
 using test::writeFile;
 
-struct SkyInstall : testing::Test {
-    SmallInstall install;
-    Session& session = install.session;
-
+struct SkyInstall : test::InstallTest {
     void SetUp() override {
         install.user.answersToGive = {true}; // the match is wanted
         install.addSkySet("1-Storm", "Overcast", true, {"cloud.bmp", "SKY_1.BMP", "notes.txt"});

@@ -3,7 +3,7 @@
 #include "app/start_up.h"
 #include "ground/ground_selection.h"
 #include "night/night_selection.h"
-#include "sky/sky_base_sets.h"
+#include "sky/sky_install.h"
 #include "sky/sky_selection.h"
 #include "support/night_install.h"
 #include "ui/controls/picture_frame.h"
@@ -58,7 +58,7 @@ public:
           session({user, install.files, install.clock, install.random, install.registry}, install.home()),
           skin(install.files, options.skin.isEmpty() ? install.home() / u"Media" : options.skin),
           shell(session, skin) {
-        addSkyStock();
+        addSkyStock(install.home(), {u"sky_afternoon_3.bmp"_s});
         addNightStock(install);
         user.setShell(&shell);
         if (!startUp(session)) throw std::runtime_error("the window program does not start");
@@ -130,16 +130,6 @@ public:
     /// A click of the mouse on a skinned key.
     void press(const QString& form, const QString& name) {
         QTest::mouseClick(&control<SkinnedButton>(form, name), Qt::LeftButton);
-    }
-
-    /// A sky texture for every base set and for the other times of day, no two alike.
-    void addSkyStock() const {
-        const FilePath stock = install.home() / u"Resources\\Sky";
-        int shade = 30;
-        for (const QString& base : skyBaseSetBoxes())
-            writeFile(stock / base / u"sky_afternoon_3.bmp", smallBitmap(32, shade += 9));
-        writeFile(stock / u"Sunrise\\sky_sunrise_1.bmp", smallBitmap(32, 11));
-        writeFile(stock / u"Sunset\\sky_sunset_1.bmp", smallBitmap(32, 12));
     }
 
     SmallInstall install;
