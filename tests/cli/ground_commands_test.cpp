@@ -50,7 +50,6 @@ TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
 TEST_F(GroundCommands, wrongCountsAreToldApart) {
     test::expectSteps(install,
                       {{u"ground|create|0|0|0|0|1.5"_s, {u"N5 takes a whole number"_s}, 2},
-                       {u"ground|create|0|0|0|0|"_s, {u"N5 takes a whole number"_s}, 2},
                        {u"ground|create|0|0|0|0|40000"_s, {u"Overflow"_s}, 1}, // more than the counter holds
                        {u"ground|create|0|0|0|0|99999999999999999999"_s, {u"Overflow"_s}, 1},
                        {u"ground|create|0|0|0|0|0"_s, {u"Division by zero"_s}, 1}});

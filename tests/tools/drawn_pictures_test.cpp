@@ -34,18 +34,13 @@ TEST(BaseImageDrawing, givesEveryFileAPictureOfItsOwnAndTheSameOnEverySystem) {
     EXPECT_EQ(digest.result().toHex().toStdString(), "f8f7e2b38f856e6252089538ccc8ddce6de356ea");
 }
 
-std::set<QString> pathsOf(const std::vector<BaseImage>& stock) {
-    std::set<QString> paths;
-    for (const BaseImage& image : stock)
-        paths.insert(image.resourceFolder + u'\\' + image.fileName.toLower());
-    return paths;
-}
-
 TEST(BaseImageList, growsWithTheDensityByNewNamesOnly) {
     std::set<QString> smaller;
     for (int density = lowestStockDensity; density <= highestStockDensity; ++density) {
         const auto stock = baseImageList(density);
-        const auto paths = pathsOf(stock);
+        std::set<QString> paths;
+        for (const BaseImage& image : stock)
+            paths.insert(image.resourceFolder + u'\\' + image.fileName.toLower());
         EXPECT_EQ(paths.size(), stock.size()) << density; // no name twice
         EXPECT_TRUE(std::includes(paths.begin(), paths.end(), smaller.begin(), smaller.end())) << density;
         smaller = paths;
