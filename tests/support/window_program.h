@@ -40,14 +40,6 @@ inline void clickRow(SetTable& list, int row, const RowClick& how = {}) {
     QTest::mouseRelease(list.viewport(), Qt::LeftButton, how.keys, place);
 }
 
-/// The texts of a column from the top.
-inline QStringList columnOf(const SetTable& list, int column) {
-    QStringList texts;
-    for (int row = 1; row <= list.rowCount(); ++row)
-        texts << list.textOf(row, column);
-    return texts;
-}
-
 /// The window program on a small install, as a start leaves it behind the splash. Where the install has no
 /// skin, its windows and keys are the plain ones. Its own session and scripted user stay beside this one;
 /// sets are added through it.
