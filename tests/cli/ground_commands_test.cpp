@@ -50,7 +50,6 @@ TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
 TEST_F(GroundCommands, wrongCountsAreToldApart) {
     test::expectSteps(install,
                       {{u"ground|create|0|0|0|0|1.5"_s, {u"N5 takes a whole number"_s}, 2},
-                       {u"ground|create|0|0|0|0|"_s, {u"N5 takes a whole number"_s}, 2},
                        {u"ground|create|0|0|0|0|40000"_s, {u"Overflow"_s}, 1}, // more than the counter holds
                        {u"ground|create|0|0|0|0|99999999999999999999"_s, {u"Overflow"_s}, 1},
                        {u"ground|create|0|0|0|0|0"_s, {u"Division by zero"_s}, 1}});
@@ -111,23 +110,6 @@ TEST_F(GroundCommands, aFavouriteIsMadeActivatedInstalledSwitchedOffAndDeleted) 
     expectDone<NightKind>(u"originals|restore"_s, u"Default+ "_s + name + u'+'); // none is installed any more
     expectDone<NightKind>(u"night|deactivate|"_s + name, u"Default+ "_s + name);
     expectDone<NightKind>(u"night|delete|"_s + name, u"Default+"_s);
-}
-
-TEST_F(GroundCommands, aNoOrNobodyToAskDeletesNothing) {
-    install.addSet(u"2-Storm"_s, u"Overcast"_s);
-    const QStringList arguments{u"--home"_s, install.home().native(), u"ground"_s, u"delete"_s, u"2-Storm"_s};
-    // A No is no failure, but that nobody could be asked is one.
-    for (const auto& [policy, status] :
-         {std::pair(u"--answer no"_s, 0), {QString(), 1}, {u"--answer ask"_s, 1}}) {
-        const auto run = test::runConsole(policy, arguments);
-        EXPECT_EQ(run.status, status) << policy.toStdString();
-        EXPECT_EQ(run.messages.count(u"Question: Morvane Information"_s), 1);
-        EXPECT_EQ(run.messages.contains(u"No; use --answer yes\n"_s), status == 1)
-            << run.messages.toStdString();
-        EXPECT_EQ(install.sets(), u"Default+ 2-Storm+"_s);
-    }
-    EXPECT_EQ(test::runConsole(u"--answer ask"_s, arguments, "Yes\n").status, 0);
-    EXPECT_EQ(install.sets(), u"Default+"_s);
 }
 
 /// What is not ours any more is left and named; a damaged kept file is a failure.

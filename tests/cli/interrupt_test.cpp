@@ -31,25 +31,6 @@ struct Interrupt : testing::Test {
     }
 };
 
-TEST_F(Interrupt, endsAGenerationWithoutTheUnfinishedSet) {
-    ConsoleInstall install({manyFiles("GENERIC WORLD", fileCount), 64});
-    for (const QString& moment : {u"Process 1 of 2"_s, u"Process 2 of 2"_s}) {
-        SCOPED_TRACE(moment.toStdString());
-        const auto run = interruptedRun(install, u"ground create 1 0 0 0 20"_s, moment);
-        EXPECT_FALSE(run.messages.contains(u"Average minutes per texture set"_s)); // the whole run has ended
-        // Usually it was the first set; on a busy machine some may be whole before the signal is sent. What
-        // has a row has its folder with every file, and there is nothing else.
-        for (const QString& name : install.setFolders()) {
-            const FilePath textures = (install.home() / u"Texture Sets").child(name) / u"Texture";
-            EXPECT_EQ(install.files.list(textures, u"*.*"_s).size(), fileCount) << name.toStdString();
-            EXPECT_TRUE(install.sets().contains(name + u'+'));
-        }
-        EXPECT_EQ(install.sets().count(u'+'), install.setFolders().size() + 1);
-        EXPECT_LT(install.setFolders().size(), 21);
-        EXPECT_TRUE(test::contentsBelow(install.home() / u"TempBitmaps").isEmpty());
-    }
-}
-
 TEST_F(Interrupt, letsAnInstallFinishItsListAndEndsTheRoadBehindIt) {
     const std::pair<QString, int> cases[] = {{"ground install 2-Storm", 0}, {"fly OVC", 1}};
     for (const auto& [command, status] : cases) {

@@ -55,9 +55,6 @@ TEST_F(SkyCommands, setsAreMadeListedShownSwitchedOffAndOnInstalledAndDeleted) {
     EXPECT_EQ(install.files.list(install.simulator() / u"Texture", u"*"_s), filesOf(name));
     expectDone(u"sky|delete"_s, other, name + u"+*"_s);
     EXPECT_FALSE(install.files.exists((install.home() / u"Sky Texture Sets").child(other)));
-
-    EXPECT_EQ(install.run(u"originals restore"_s).status, 0);
-    EXPECT_EQ(install.skies(), name + u'+') << "none is installed any more";
 }
 
 TEST_F(SkyCommands, onePictureIsRecolouredByTenGroups) {

@@ -111,7 +111,7 @@ TEST_F(UserRegistryTest, ownValuesAreTheUsersAndElseTheMachines) {
     EXPECT_EQ(system.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime), "True");
 }
 
-TEST_F(UserRegistryTest, theSimulatorsPathIsTheMachinesWhereItLeadsToOne) {
+TEST_F(UserRegistryTest, theSimulatorsPathIsTheMachinesWhereThatLeadsToOneAndTakesOne) {
     const QString right = simulator(u"Sim"_s), other = simulator(u"Öther Sim"_s);
     const QString wrong = (folder / u"gone").native();
     const std::tuple<QString, QString, QString> cases[] = {
@@ -123,18 +123,14 @@ TEST_F(UserRegistryTest, theSimulatorsPathIsTheMachinesWhereItLeadsToOne) {
         EXPECT_EQ(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, exePath), expected)
             << machine.toStdString() << ' ' << user.toStdString();
     }
-}
-
-TEST_F(UserRegistryTest, theSimulatorsPathIsWrittenToTheMachineWhereThatTakesIt) {
     for (const bool closed : {false, true}) {
         isClosed = closed;
         files.write(file, {});
-        const QString path = simulator(u"Sim"_s);
         registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, simulatorKey);
-        registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, exePath, path);
+        registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, exePath, right);
         EXPECT_EQ(system.hasValue(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, exePath), !closed);
         EXPECT_EQ(system.hasValue(HKEY_CURRENT_USER_ROOT, simulatorKey, exePath), closed);
-        EXPECT_EQ(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, exePath), path);
+        EXPECT_EQ(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, exePath), right);
     }
 }
 

@@ -1,11 +1,10 @@
+#include "core/clock.h"
 #include "core/store.h"
 #include "ground/ground_generation.h"
-#include "ground/ground_randomiser.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "imaging/picture_reader.h"
-#include "sets/slider_values.h"
 #include "support/printing.h"
 #include "support/small_install.h"
 
@@ -122,9 +121,17 @@ TEST(GroundGeneration, aBaseFileThatFailsGetsThePictureBefore) {
 TEST(GroundGeneration, allSetsOfACoverComeBeforeTheNextAndNoJobStartsInsideAnother) {
     SmallInstall install({{u"GENERIC WORLD\\029h2su6.bmp"_s}});
     install.user.onPump = [&] { GroundGeneration(install.session).createTextureSets(true); };
+    install.random.numbers = {0.99999999999999989};
     create(install, {1, 2, 1, 1, 1}, false);
     EXPECT_EQ(covers(install).join(u'|'), "Partly Cloudy|Sky Clear|Mostly Clear|Mostly Clear|Partly "
                                           "Cloudy|Mostly Cloudy|Overcast");
+    QStringList colours;
+    for (const auto& set : *install.session.rows<clsTextureSets>())
+        colours << set->ColorSettings;
+    EXPECT_EQ(colours.join(u' '),
+              "0:1.4:0:-1:3:-1.5 0:1.8:0.8:0:14.7:8.7 0:1.8:0:0:5.7:4.2 0:1.8:0:0:5.7:4.2 "
+              "0:-0.2:0:0.8:1.2:1.2 0:-1.2:0:4.8:1.2:1.2 0:-2.2:0:9.8:-0.3:-0.3")
+        << "the highest that each cover draws";
     EXPECT_EQ(setFolders(install).size(), 6); // the same second, told apart by their keys
     EXPECT_TRUE(install.session.state<GroundSelection>().RefreshGroundList);
     EXPECT_FALSE(install.session.jobRunning);
@@ -141,25 +148,6 @@ TEST(GroundGeneration, aLockedStoreEndsARunWithOneMessageBeforeItMakesAnyFile) {
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
     EXPECT_TRUE(install.user.calls.contains("show frm_Main"));
     EXPECT_TRUE(setFolders(install).isEmpty());
-}
-
-TEST(GroundRandomiser, drawsEachFieldInItsRange) {
-    // The cloud number, and the lowest and highest: saturation, red, green, blue, brightness, contrast.
-    const std::tuple<int, SliderValues, SliderValues> cases[] = {
-        {1, {0, 0, 0, 0, 10, 0}, {0, 9, 4, 0, 49, 29}},
-        {2, {0, 0, 0, 0, 0, -5}, {0, 9, 0, 0, 19, 14}},
-        {3, {0, -10, 0, -5, -5, -5}, {0, -1, 0, 4, 4, 4}},
-        {4, {0, -15, 0, 0, -5, -10}, {0, -6, 0, 24, 4, 4}},
-        {5, {0, -22, 0, 20, -10, -10}, {0, -11, 0, 49, -1, -1}},
-    };
-    SmallInstall install;
-    for (const auto& [cloudNumber, lowest, highest] : cases)
-        for (const double fraction : {0.0, 0.99999999999999989}) {
-            SliderValues values{};
-            install.random.numbers = {fraction};
-            getRandomGroundValues(install.session, cloudNumber, values);
-            EXPECT_EQ(values, fraction == 0 ? lowest : highest) << cloudNumber;
-        }
 }
 
 TEST(GroundRandomiser, realSourceGivesEachFieldAFractionOfItsOwn) {

@@ -4,24 +4,18 @@
 #include "ground/texture_sets.h"
 #include "ground/tropical_files.h"
 #include "sets/options_in_force.h"
-#include "support/printing.h"
-#include "support/small_install.h"
+#include "support/install_test.h"
 #include "support/system_files.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
 
 using test::readFile;
-using test::SmallInstall;
 using test::writeFile;
 
-struct GroundInstall : testing::Test {
-    SmallInstall install;
-    Session& session = install.session;
-
+struct GroundInstall : test::InstallTest {
     void SetUp() override {
         install.addGroundSet("2-Storm", "Overcast", true,
                              {"Texture\\029h2su6.bmp", "Texture\\029B2SU6.BMP", "Texture\\new.bmp",

@@ -110,19 +110,6 @@ protected:
     cColourise colouriser{user};
 };
 
-// Columns and rows of groups count from 1; row 255 is the band of rows 2 to 30, whatever the columns.
-TEST_F(Colouriser, SkyGroupsReachTheirOwnPixelsAlone) {
-    for (const float groupRow : {2.0f, 255.0f}) {
-        colouriser.skyTextureGroups[4] = {.PixelXLow = 3, .PixelXHigh = 5, .PixelY = groupRow, .red = 100};
-        const cDIBSection sky = skyOf({100, 100, 100});
-        for (int y = 0; y < 40; ++y)
-            for (int x = 0; x < 32; ++x) {
-                const bool isInGroup = groupRow == 255 ? y >= 2 && y <= 30 : y == 1 && x >= 2 && x <= 4;
-                ASSERT_EQ(test::pixelAt(sky, x, y).red, isInGroup ? 120 : 100) << x << ' ' << y;
-            }
-    }
-}
-
 TEST_F(Colouriser, SkyValuesAreScaledButForSaturation) {
     const struct {
         SkyGroup group;

@@ -2,13 +2,10 @@
 #include "night/night_installation.h"
 #include "night/night_samples.h"
 #include "night/night_sets.h"
-#include "night/night_texture_sets.h"
 #include "night/night_tuning.h"
 #include "sets/options_in_force.h"
+#include "support/install_test.h"
 #include "support/night_install.h"
-#include "support/printing.h"
-
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -18,14 +15,11 @@ using test::contentsBelow;
 using test::nightSets;
 using test::writeFile;
 
-struct NightSets : testing::Test {
+struct NightSets : test::InstallTest {
     NightSets() {
         test::addNightStock(install);
         addNightSet(install, u"Default"_s, true);
     }
-
-    test::SmallInstall install;
-    Session& session = install.session;
 };
 
 TEST_F(NightSets, activationMakesEveryFileInTheColoursOfTheSet) {
@@ -51,6 +45,7 @@ TEST_F(NightSets, activationMakesEveryFileInTheColoursOfTheSet) {
     EXPECT_TRUE(tuning.openDefaultSample());
     session.state<NightSampleChoice>().sampleConfirmed = true;
     EXPECT_FALSE(tuning.openSample()) << "an OK of last time";
+    EXPECT_TRUE(nightSampleTexture({}, u"ocean"_s).isEmpty());
 }
 
 /// The whole of what each of the four roads copies.
@@ -63,72 +58,38 @@ TEST_F(NightSets, goldenCopyLists) {
     writeFile(install.home() / u"GENERIC WORLD NIGHT\\more.agn", "night body");
     writeFile(install.home() / u"DUTCH NIGHT\\dutch.txt", "Dutch night body");
     const FilePath world = install.simulator() / u"Scenery\\World\\texture";
-    const QString generic = u"008B2LM1.BMP: 2-Red Texture\\008b2lm1.bmp"_s,
-                  news = u"NEW.BMP: 2-Red Texture\\new.bmp"_s;
-    const QString bodies[] = {u"008B2LM1.BMP: body of GENERIC WORLD NIGHT\\008b2lm1.bmp"_s,
-                              u"029B2LM1.BMP: body of GENERIC WORLD NIGHT\\029b2lm1.bmp"_s,
-                              u"045B2LM1.BMP: body of GENERIC WORLD NIGHT\\045b2lm1.bmp"_s,
-                              u"MORE.AGN: night body"_s};
-    const struct {
-        QString set;
-        bool isDutch;
-        QStringList copied;
-    } cases[] = {
-        {u"2-Red"_s, false, {generic, news}},
-        {u"Default"_s, false, {bodies[0], bodies[1], bodies[2], bodies[3]}},
+    const QString bodies = u"029B2LM1.BMP: body of GENERIC WORLD NIGHT\\029b2lm1.bmp|"
+                           "045B2LM1.BMP: body of GENERIC WORLD NIGHT\\045b2lm1.bmp|MORE.AGN: night body"_s;
+    const std::tuple<QString, bool, QString> cases[] = {
+        {u"2-Red"_s, false, u"008B2LM1.BMP: 2-Red Texture\\008b2lm1.bmp|NEW.BMP: 2-Red Texture\\new.bmp"_s},
+        {u"Default"_s, false, u"008B2LM1.BMP: body of GENERIC WORLD NIGHT\\008b2lm1.bmp|"_s + bodies},
         // The Dutch file of the same name comes last. The annotation is the day's: no night brings another.
-        {u"2-Red"_s,
-         true,
-         {u"005A2AN.AGN: Dutch annotation"_s, u"005A2LM2.BMP: 2-Red Dutch\\005a2lm2.bmp"_s,
-          u"008B2LM1.BMP: 2-Red Dutch\\008b2lm1.bmp"_s, news}},
-        {u"Default"_s,
-         true,
-         {u"005A2LM2.BMP: body of DUTCH NIGHT\\005a2lm2.bmp"_s,
-          u"008B2LM1.BMP: body of DUTCH NIGHT\\008b2lm1.bmp"_s, u"DUTCH.TXT: Dutch night body"_s, bodies[1],
-          bodies[2], bodies[3]}},
+        {u"2-Red"_s, true,
+         u"005A2AN.AGN: Dutch annotation|005A2LM2.BMP: 2-Red Dutch\\005a2lm2.bmp|"
+         "008B2LM1.BMP: 2-Red Dutch\\008b2lm1.bmp|NEW.BMP: 2-Red Texture\\new.bmp"_s},
+        {u"Default"_s, true,
+         u"005A2LM2.BMP: body of DUTCH NIGHT\\005a2lm2.bmp|008B2LM1.BMP: body of DUTCH NIGHT\\008b2lm1.bmp|"_s +
+             bodies + u"|DUTCH.TXT: Dutch night body"_s},
     };
-    for (const auto& road : cases) {
+    for (const auto& [set, isDutch, copied] : cases) {
         for (const QString& name : install.files.list(world, u"*.*"_s))
             install.files.remove(world.child(name));
-        session.state<OptionsInForce>().IsDutch = road.isDutch;
-        clickNightRow(session, road.set);
+        session.state<OptionsInForce>().IsDutch = isDutch;
+        clickNightRow(session, set);
         NightInstallation(session).installNightTextureSet();
-        QStringList expected = road.copied, found;
+        QStringList expected = copied.split(u'|'), found;
         for (const QString& name : install.files.list(world, u"*.*"_s))
             found << name.toUpper() + u": "_s + QString::fromUtf8(test::readFile(world.child(name)));
         expected.sort();
         found.sort();
-        EXPECT_EQ(found, expected) << road.set.toStdString() << road.isDutch;
-        EXPECT_EQ(nightSets(session), road.set == u"2-Red" ? u"Default+ 2-Red+*"_s : u"Default+* 2-Red+"_s);
+        EXPECT_EQ(found, expected) << set.toStdString() << isDutch;
+        EXPECT_EQ(nightSets(session), set == u"2-Red" ? u"Default+ 2-Red+*"_s : u"Default+* 2-Red+"_s);
     }
     EXPECT_EQ(install.user.messages[0].text,
               "Processing your Night Texture Files.  Please wait until the process has finished.  This may "
               "take a few moments!");
     EXPECT_TRUE(install.user.told().isEmpty());
     EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash");
-}
-
-TEST(NightTuning, randomValuesKeepTheirRanges) {
-    test::SmallInstall install;
-    NightTuning tuning(install.session);
-    const std::pair<double, SliderValues> cases[] = {{0, {-30, -10, 0, -5, -25, -35}},
-                                                     {0.9999, {69, 29, 44, 49, 64, 44}}};
-    for (const auto& [fraction, expected] : cases) {
-        install.random.numbers = {fraction};
-        EXPECT_EQ(tuning.randomValues(), expected) << fraction;
-    }
-}
-
-/// "Green Lights" are blue: the captions do not tell the colours of all rows.
-TEST(NightTuning, lightsStandWhereTheyAlwaysStood) {
-    QString rows;
-    for (const LightsBias& bias : lightsBiases()) {
-        rows += bias.caption;
-        for (const int value : bias.sliders)
-            rows += u' ' + QString::number(value);
-    }
-    EXPECT_EQ(qChecksum(rows.toUtf8()), 24965) << rows.toStdString();
-    EXPECT_TRUE(nightSampleTexture({}, u"ocean"_s).isEmpty());
 }
 
 } // namespace

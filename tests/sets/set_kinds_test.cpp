@@ -13,14 +13,13 @@
 #include "sets/temp_bitmaps.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
+#include "support/install_test.h"
 #include "support/night_install.h"
-#include "support/printing.h"
 #include "support/system_files.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -87,7 +86,7 @@ const Kind sky = kindOf<SkyKind>("SKY_TEXTURE_SETS", "SKY_TEXTURE_SET", "SKY_TEX
                                  "Texture\\day.bmp", {"day.bmp"}, addSky, nullptr);
 
 /// An install with "Default" and the activated sets "2-A", "3-B" and "4-C" of the kind.
-struct SetKindTest : testing::TestWithParam<Kind> {
+struct SetKindTest : test::InstallTest, testing::WithParamInterface<Kind> {
     SetKindTest() {
         test::addNightStock(install);
         for (const QString& folder : {u"Default"_s, u"Sunrise"_s, u"Sunset"_s})
@@ -134,8 +133,6 @@ struct SetKindTest : testing::TestWithParam<Kind> {
     int errors() const { return install.user.countOfKind(MessageKind::error); }
 
     const Kind& kind = GetParam();
-    SmallInstall install;
-    Session& session = install.session;
     QStringList offered; ///< by frm_MultiDelete
 };
 

@@ -52,11 +52,6 @@ TEST_F(OptionsTest, theWideClientOptionIsTrimmedAndOtherwiseAsked) {
     }
     EXPECT_EQ(user.told().size(), 2);
     EXPECT_TRUE(user.told()[0].startsWith(u"Question|For WideFS Users Only!|Please indicate if you "_s));
-    user.answersNothing = true;
-    store(u"IsWideClient"_s, {});
-    getSideFSVal(session);
-    EXPECT_FALSE(session.state<OptionsInForce>().IsWideClient);
-    EXPECT_EQ(stored(u"IsWideClient"_s), QString()) << "nobody answered, so it is asked again";
 }
 
 TEST_F(OptionsTest, theFlightsFolderIsAskedForUntilItIsUsable) {

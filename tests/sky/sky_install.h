@@ -9,17 +9,23 @@
 
 namespace morvane::test {
 
-/// A small install with a stock of sky textures: three of 32 x 32 pixels for every base set, one each for
-/// sunrise and sunset, no two alike.
+/// Sky textures of 32 x 32 pixels: those names for every base set, one each for sunrise and sunset, no two
+/// alike.
+inline void addSkyStock(const FilePath& home, const QStringList& names) {
+    const FilePath stock = home / u"Resources\\Sky";
+    int shade = 30;
+    for (const QString& base : skyBaseSetBoxes())
+        for (const QString& name : names)
+            writeFile(stock / base / name, smallBitmap(32, shade += 9));
+    writeFile(stock / u"Sunrise\\sky_sunrise_1.bmp", smallBitmap(32, 11));
+    writeFile(stock / u"Sunset\\sky_sunset_1.bmp", smallBitmap(32, 12));
+}
+
+/// A small install with a stock of three sky textures for every base set.
 struct SkyInstall : SmallInstall {
     SkyInstall() : SmallInstall(SmallInstallOptions{{u"GENERIC WORLD\\029h2su6.bmp"_s}}) {
         files.makeFolder(home() / u"Sky Texture Sets");
-        int shade = 30;
-        for (const QString& base : skyBaseSetBoxes())
-            for (const QString& name : skyFiles)
-                writeFile(stock(base) / name, smallBitmap(32, shade += 9));
-        writeFile(stock(u"Sunrise"_s) / u"sky_sunrise_1.bmp", smallBitmap(32, 11));
-        writeFile(stock(u"Sunset"_s) / u"sky_sunset_1.bmp", smallBitmap(32, 12));
+        addSkyStock(home(), skyFiles);
     }
 
     FilePath stock(const QString& name) const { return home() / u"Resources\\Sky" / name; }

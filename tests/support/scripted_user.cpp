@@ -15,8 +15,7 @@ void ScriptedUser::showMessage(const Message& message) {
     messages.push_back(message);
     calls << u"message "_s + kindWord(message.kind) + u' ' + message.title;
     messageVisible_ = message.isProgress;
-    onMessage(message);
-    if (!message.isProgress && message.withCancel && !answersNothing) answers().answer(nextAnswer());
+    if (!message.isProgress && message.withCancel) answers().answer(nextAnswer());
 }
 
 void ScriptedUser::updateProgress(const QString&, const QString& text, double value) {

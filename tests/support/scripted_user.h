@@ -40,10 +40,8 @@ public:
     /// Answers of questions and system boxes, first to last; after the last one `otherwise` is given.
     std::deque<bool> answersToGive;
     bool otherwise = true;
-    bool answersNothing = false; ///< leaves questions open, as where nobody sits
     bool allowsRuns = true;
     std::deque<QString> foldersToChoose;
-    std::function<void(const Message&)> onMessage = [](const Message&) {}; ///< before its answer is drawn
     std::function<void(Screen)> onModal = [](Screen) {};
     std::function<void()> onPump = [] {};
     std::function<void()> onMinimise = [] {};

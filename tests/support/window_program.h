@@ -3,7 +3,7 @@
 #include "app/start_up.h"
 #include "ground/ground_selection.h"
 #include "night/night_selection.h"
-#include "sky/sky_base_sets.h"
+#include "sky/sky_install.h"
 #include "sky/sky_selection.h"
 #include "support/night_install.h"
 #include "ui/controls/picture_frame.h"
@@ -40,14 +40,6 @@ inline void clickRow(SetTable& list, int row, const RowClick& how = {}) {
     QTest::mouseRelease(list.viewport(), Qt::LeftButton, how.keys, place);
 }
 
-/// The texts of a column from the top.
-inline QStringList columnOf(const SetTable& list, int column) {
-    QStringList texts;
-    for (int row = 1; row <= list.rowCount(); ++row)
-        texts << list.textOf(row, column);
-    return texts;
-}
-
 /// The window program on a small install, as a start leaves it behind the splash. Where the install has no
 /// skin, its windows and keys are the plain ones. Its own session and scripted user stay beside this one;
 /// sets are added through it.
@@ -58,7 +50,7 @@ public:
           session({user, install.files, install.clock, install.random, install.registry}, install.home()),
           skin(install.files, options.skin.isEmpty() ? install.home() / u"Media" : options.skin),
           shell(session, skin) {
-        addSkyStock();
+        addSkyStock(install.home(), {u"sky_afternoon_3.bmp"_s});
         addNightStock(install);
         user.setShell(&shell);
         if (!startUp(session)) throw std::runtime_error("the window program does not start");
@@ -130,16 +122,6 @@ public:
     /// A click of the mouse on a skinned key.
     void press(const QString& form, const QString& name) {
         QTest::mouseClick(&control<SkinnedButton>(form, name), Qt::LeftButton);
-    }
-
-    /// A sky texture for every base set and for the other times of day, no two alike.
-    void addSkyStock() const {
-        const FilePath stock = install.home() / u"Resources\\Sky";
-        int shade = 30;
-        for (const QString& base : skyBaseSetBoxes())
-            writeFile(stock / base / u"sky_afternoon_3.bmp", smallBitmap(32, shade += 9));
-        writeFile(stock / u"Sunrise\\sky_sunrise_1.bmp", smallBitmap(32, 11));
-        writeFile(stock / u"Sunset\\sky_sunset_1.bmp", smallBitmap(32, 12));
     }
 
     SmallInstall install;

@@ -4,17 +4,13 @@
 #include "core/store_connection.h"
 #include "loopback_server.h"
 #include "support/faulty_store.h"
-#include "support/printing.h"
-#include "support/scripted_services.h"
-#include "support/small_install.h"
-#include "support/temporary_folder.h"
+#include "support/install_test.h"
 #include "weather/cycle_download.h"
 #include "weather/reports.h"
 #include "weather/weather_refresh.h"
 #include "weather/weather_state.h"
 
 #include <QCoreApplication>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -23,8 +19,7 @@ using test::writeFile;
 
 using Reply = LoopbackServer::Reply;
 
-class CycleDownloadTest : public testing::Test {
-protected:
+struct CycleDownloadTest : testing::Test {
     /// What a fetch of that path ends with: "done", "cancelled" or the reason of its failure.
     QString fetch(const QString& path, const QString& server) {
         CycleDownload download(files, limits);
@@ -126,8 +121,7 @@ TEST_F(CycleDownloadTest, aFileThatCannotBeWrittenIsAFailure) {
     EXPECT_FALSE(QFile::exists(target.native()));
 }
 
-class CycleLoading : public testing::Test {
-protected:
+struct CycleLoading : test::InstallTest {
     CycleLoading() {
         install.clock.now = QDateTime(QDate(2007, 6, 1), QTime(10, 12), Qt::UTC);
         install.user.onModal = [this](Screen screen) {
@@ -163,9 +157,6 @@ protected:
 
     int argumentCount = 0;
     QCoreApplication application{argumentCount, nullptr};
-    test::SmallInstall install;
-    test::ScriptedUser& user = install.user;
-    Session& session = install.session;
     FilePath file = install.folder / u"cycle.txt";
     bool isRequested = true;
 };

@@ -17,24 +17,37 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
 
+/// Cancels a progress that shows as soon as that is wanted, and counts the boxes that it accepts.
+struct Hand {
+    std::function<bool()> isCancelWanted;
+    int boxes = 0;
+    QTimer timer;
+
+    explicit Hand(const std::function<bool()>& isWanted) : isCancelWanted(isWanted) {
+        timer.callOnTimeout([this] {
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (auto* progress = qobject_cast<QProgressDialog*>(window);
+                    progress && progress->isVisible() && isCancelWanted())
+                    progress->findChild<QPushButton*>()->click();
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                ++boxes, box->accept();
+        });
+        timer.start(0);
+    }
+};
+
 TEST(FirstStart, leavesNothingWhenItIsCancelled) {
     const test::TemporaryFolder folder;
     const QString home = (folder / u"Deep\\Morvane").native();
-    QTimer timer;
-    timer.callOnTimeout([] {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* progress = qobject_cast<QProgressDialog*>(window); progress && progress->isVisible())
-                progress->findChild<QPushButton*>()->click();
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-            ADD_FAILURE() << box->text().toStdString(), box->accept();
-    });
-    timer.start(0);
+    Hand hand([] { return true; });
     EXPECT_FALSE(makeInstallFolder(home));
+    EXPECT_EQ(hand.boxes, 0);
     EXPECT_TRUE(
         QDir((folder / u"Deep").native()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
 }
@@ -77,20 +90,11 @@ TEST(FirstStart, ofANewerVersionTellsOfAFailureAndGoesOn) {
         EXPECT_TRUE(awaitsContentUpdate(folder.path()));
         InstallLock other(folder.path(), u"Writing.lock"_s);
         EXPECT_TRUE(!isLocked || other.tryTake());
-        int told = 0;
-        QTimer timer;
-        timer.callOnTimeout([&, isPutOff = isPutOff] {
-            for (QWidget* window : QApplication::topLevelWidgets())
-                if (auto* progress = qobject_cast<QProgressDialog*>(window);
-                    progress && progress->isVisible())
-                    if (isPutOff && test::readFile(list).contains('\t')) // it is at work
-                        progress->findChild<QPushButton*>()->click();
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-                ++told, box->accept();
+        Hand hand([&, isPutOff = isPutOff] { // when it is at work
+            return isPutOff && test::readFile(list).contains('\t');
         });
-        timer.start(0);
         updateDeliveredContent(folder.path());
-        EXPECT_EQ(told, boxes) << density.toStdString();
+        EXPECT_EQ(hand.boxes, boxes) << density.toStdString();
         EXPECT_TRUE(test::readFile(list).startsWith("content 1 ")) << "the next start goes on";
         EXPECT_EQ(test::readFile(store), "store");
     }

@@ -37,7 +37,6 @@ struct GroundSetsScreenTest : testing::Test {
         return states;
     }
     QImage picture(const QString& name) { return program.picture(hostName, name); }
-    QString description() { return program.text(hostName, u"lblFavDescription"_s); }
 
     test::WindowProgram program;
     const GroundSelection& selection = program.session.state<GroundSelection>();
@@ -97,16 +96,6 @@ TEST_F(GroundSetsScreenTest, keepsTheRowInHandWhenItIsFilledAnew) {
     screen->formatSets(row);
     EXPECT_EQ(row, 0);
     EXPECT_EQ(list->selectedNames(), QStringList{u"4-Late"_s});
-}
-
-TEST_F(GroundSetsScreenTest, anEmptyTableLeavesOnlyCreate) {
-    clsTextureSets& sets = loadedGroundSets(program.install.session);
-    while (sets.Count() > 0)
-        sets.RemoveItem(keyOf(*sets.GetItem(1)));
-    open();
-    EXPECT_EQ(keyStates(), (std::vector{dead, alive, dead, dead}));
-    EXPECT_EQ(description(), QString());
-    EXPECT_FALSE(picture(u"picTextureSetSource"_s).isNull());
 }
 
 /// Each click shows one message, and the keys are never those of the row before.

@@ -55,8 +55,16 @@ TEST_F(NightScreensTest, lightsSetTheSlidersWhichAHandMovesAndAnotherClickSetsAn
     option(0).setFocus();
     QTest::keyClick(&option(0), Qt::Key_Down);
     EXPECT_EQ(labels(), u"default 65% -26% default -22% default"_s) << "the arrow keys choose as clicks do";
+    option(2).click();
+    EXPECT_EQ(labels(), u"20% 50% default default -22% default"_s);
+    option(3).click();
+    EXPECT_EQ(labels(), u"default -30% -30% 80% default default"_s) << "\"Green Lights\" are blue";
+    program.install.random.numbers = {0.9999};
     program.press(pageName, u"btn_Random"_s);
-    EXPECT_FALSE(labels().contains(u"default"_s)) << "all six are drawn";
+    EXPECT_EQ(labels(), u"69% 29% 44% 49% 64% 44%"_s) << "the highest of each range";
+    program.install.random.numbers = {0};
+    program.press(pageName, u"btn_Random"_s);
+    EXPECT_EQ(labels(), u"-30% -10% default -5% -25% -35%"_s);
 }
 
 } // namespace
