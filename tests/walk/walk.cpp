@@ -243,13 +243,7 @@ void Walk::onScreen(const WalkScreen& screen, const std::function<void()>& body)
     window_ = front();
     if (comesUp(window_)) return body();
     ++failures_;
-    const QWindow* focus = QGuiApplication::focusWindow();
-    FAIL() << screen.name
-           << " does not come to the front: " << (window_ ? window_->objectName().toStdString() : "no window")
-           << ", seen " << (window_ && window_->isVisible()) << ", exposed "
-           << (window_ && window_->windowHandle()->isExposed()) << "; the keyboard is "
-           << (focus ? focus->title().toStdString() : "nobody's") << " on "
-           << QGuiApplication::platformName().toStdString();
+    FAIL() << screen.name << " does not come to the front";
 }
 
 /// The call that opens the dialog waits for its end, so what is done meanwhile is done by a timer.
