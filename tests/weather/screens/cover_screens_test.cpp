@@ -5,6 +5,7 @@
 #include "weather/stored_reports.h"
 
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -47,6 +48,17 @@ TEST(CoverScreens, aFlightPlan) {
     });
     EXPECT_TRUE(session.state<CoverChoice>().coverConfirmed);
     EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"4"_s});
+}
+
+TEST(CoverScreens, aReportTypedInOverSeveralLines) {
+    test::WindowProgram program;
+    program.show(Screen::frm_CC_From_Metar_String, [&](DialogForm& dialog) {
+        dialog.findChild<QPlainTextEdit*>()->setPlainText(u"  EGLL 241220Z VV001\n18/18 Q1012 "_s);
+        dialog.button(u"btn_MetarProcess"_s)->click();
+        EXPECT_EQ(dialog.findChild<QLabel*>(u"lblCloudCover"_s)->text(), "Scattered Clouds");
+        dialog.ok();
+    });
+    EXPECT_EQ(program.session.state<FlightWeather>().WxCloudList, QStringList{u"6"_s});
 }
 
 } // namespace
