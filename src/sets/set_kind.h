@@ -53,7 +53,10 @@ public:
     // Both are of a set that is there; false when the store refused.
     virtual bool storeActivation(Session& session, const QString& name, bool activated) const = 0;
     virtual bool removeRecord(Session& session, const QString& name) const = 0;
-    /// Takes the named set in hand and installs it as a part of the job. False when the store refused.
+    // Both take the named set in hand.
+    /// Without a question; gives the number of files that were copied.
+    virtual int install(Session& session, const QString& name) const = 0;
+    /// As a part of the job. False when the store refused.
     virtual bool installInside(Session& session, Job& job, const QString& name) const = 0;
 
     /// Raises "Path not found" for a name that is no single folder name.
@@ -77,9 +80,10 @@ struct SetActions {
     static void activate(Session& session);
     /// Removes it or them; with `deactivateMode` only the files go and the colours stay.
     static void remove(Session& session, bool deactivateMode);
-    /// See SetInstallation::install.
-    static bool install(Session& session, bool automatic);
-    static bool installInside(Session& session, Job& job);
+    /// As SetInstallation has them; that of a name gives the number of files that were copied.
+    static bool install(Session& session);
+    static int install(Session& session, const QString& name);
+    static bool installInside(Session& session, Job& job, const QString& name);
 };
 
 /// What GroundKind, NightKind and SkyKind have; each adds its `facts()`, pointers to members of its
@@ -153,9 +157,9 @@ public:
     bool removeRecord(Session& session, const QString& name) const override {
         return loadedSets<Kind>(session).RemoveItem(keyOf(*findSet<Kind>(session, name)));
     }
+    int install(Session& session, const QString& name) const override { return Kind::install(session, name); }
     bool installInside(Session& session, Job& job, const QString& name) const override {
-        inHand(session).name = name;
-        return Kind::installInside(session, job);
+        return Kind::installInside(session, job, name);
     }
 };
 
