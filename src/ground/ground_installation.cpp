@@ -23,7 +23,7 @@ const InstallationKind groundKind{
 GroundInstallation::GroundInstallation(Session& session)
     : SetInstallation(session, setKind<GroundKind>(), groundKind) {}
 
-bool GroundInstallation::installSet(const QString& name) {
+Reported GroundInstallation::installSet(const QString& name) {
     if (!refreshGroundSets(session_)) return false;
     return name == defaultSetName ? installDefaultSet() : installGeneratedSet(name);
 }

@@ -46,7 +46,7 @@ std::vector<FileCopy> NightInstallation::copyListOfDefault() {
 }
 
 /// The message comes before the record here; the record still comes before the first file.
-bool NightInstallation::installSet(const QString& name) {
+Reported NightInstallation::installSet(const QString& name) {
     if (!refreshNightSets(session_)) return false;
     const std::vector<FileCopy> copies = name == defaultSetName ? copyListOfDefault() : copyListOfSet(name);
     showProgress();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "sets/set_installation.h"
 
 namespace morvane {
@@ -14,7 +15,7 @@ public:
     void installNightTextureSet() { install(); }
 
 private:
-    bool installSet(const QString& name) override;
+    Reported installSet(const QString& name) override;
     std::vector<FileCopy> copyListOfSet(const QString& name);
     std::vector<FileCopy> copyListOfDefault();
 };

@@ -29,7 +29,7 @@ int SetActions<Kind>::install(Session& session, const QString& name) {
 }
 
 template <class Kind>
-bool SetActions<Kind>::installInside(Session& session, Job& job, const QString& name) {
+Reported SetActions<Kind>::installInside(Session& session, Job& job, const QString& name) {
     return typename Kind::Installation(session).installInside(job, name);
 }
 

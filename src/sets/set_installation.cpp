@@ -17,7 +17,7 @@ void SetInstallation::install(const QString& name) {
     runAlone(false);
 }
 
-bool SetInstallation::installInside(Job& job, const QString& name) {
+Reported SetInstallation::installInside(Job& job, const QString& name) {
     set_.inHand(session_).name = name;
     return run(job, false) != Outcome::storeRefused;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/job.h"
+#include "core/reported.h"
 #include "sets/set_kind.h"
 #include "sets/simulator_copy.h"
 
@@ -42,14 +43,14 @@ public:
     void install(const QString& name);
     /// The same as a part of a job that is running already. False when the store refused to record it: the
     /// job then ends, too.
-    bool installInside(Job& job, const QString& name);
+    Reported installInside(Job& job, const QString& name);
 
     /// Files copied by the last install, the splash left out.
     int filesCopied() const { return filesCopied_; }
 
 protected:
     /// False when the store refused: nothing was copied then.
-    virtual bool installSet(const QString& name) = 0;
+    virtual Reported installSet(const QString& name) = 0;
 
     /// Splash, progress message and files of a set for that cover; an unknown cover has no splash.
     void putSet(const QString& coverWord, const std::vector<FileCopy>& copies);

@@ -18,7 +18,7 @@ const InstallationKind skyKind{
 
 SkyInstallation::SkyInstallation(Session& session) : SetInstallation(session, setKind<SkyKind>(), skyKind) {}
 
-bool SkyInstallation::installSet(const QString& wanted) {
+Reported SkyInstallation::installSet(const QString& wanted) {
     if (!refreshSkySets(session_)) return false;
     const auto record = findSkySet(session_, wanted);
     const QString name = record ? record->SkyTextureSet : wanted;

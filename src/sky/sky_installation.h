@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "sets/set_installation.h"
 
 namespace morvane {
@@ -16,7 +17,7 @@ public:
     void installSkySet(const QString& name) { install(name); }
 
 private:
-    bool installSet(const QString& name) override;
+    Reported installSet(const QString& wanted) override;
 };
 
 } // namespace morvane
