@@ -73,6 +73,14 @@ bool findSimulator(Session& session) {
     return true;
 }
 
+/// From here on it is seen that the program starts; questions and messages stand over it. A run for another
+/// program shows nothing.
+void showSplash(Session& session) {
+    if (session.writing->isUnattended) return;
+    session.user.showScreen(Screen::frm_Splash);
+    session.user.pumpMessages();
+}
+
 /// The files of a new version, laid over an old install, ask for its upgrade. False when another program is
 /// at it and does not come to its end.
 bool openStore(Session& session, StoreAccess access) {
@@ -108,8 +116,9 @@ Reported startUp(Session& session, InstallUse use) {
     bool isReady = false;
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const bool done = reportFailures(session.user, report, [&] {
-        isReady = findSimulator(session) &&
-                  openStore(session, isOnlyRead ? StoreAccess::reading : StoreAccess::writing);
+        if (!findSimulator(session)) return;
+        showSplash(session);
+        isReady = openStore(session, isOnlyRead ? StoreAccess::reading : StoreAccess::writing);
         if (!isReady) return;
         session.BackupPath = session.AppPath / u"Backup";
         if (!isOnlyRead) updateDatabase(session);

@@ -54,7 +54,6 @@ void loadBehindSplash(WindowShell& shell) {
     Session& session = shell.session();
     auto& splash = shell.screen<frm_Splash>(u"frm_Splash"_s);
     session.files.makeFolder(session.AppPath / u"TempBitmaps\\Dutch");
-    splash.show();
     session.StartingUp = true;
     showStep(splash, u"Loading the settings. Please Wait............."_s, 20);
     constexpr int documents = 5;
