@@ -73,14 +73,6 @@ bool findSimulator(Session& session) {
     return true;
 }
 
-/// From here on it is seen that the program starts; questions and messages stand over it. A run for another
-/// program shows nothing.
-void showSplash(Session& session) {
-    if (session.writing->isUnattended) return;
-    session.user.showScreen(Screen::frm_Splash);
-    session.user.pumpMessages();
-}
-
 /// The files of a new version, laid over an old install, ask for its upgrade. False when another program is
 /// at it and does not come to its end.
 bool openStore(Session& session, StoreAccess access) {
@@ -105,7 +97,7 @@ void prepareToWrite(Session& session) {
 
 } // namespace
 
-Reported startUp(Session& session, InstallUse use) {
+Reported startUp(Session& session, InstallUse use, const std::function<void()>& simulatorIsFound) {
     joinRooms(session);
     if (const QString problem = installFolderProblem(session.files, session.AppPath, use);
         !problem.isEmpty()) {
@@ -117,7 +109,7 @@ Reported startUp(Session& session, InstallUse use) {
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const bool done = reportFailures(session.user, report, [&] {
         if (!findSimulator(session)) return;
-        showSplash(session);
+        simulatorIsFound();
         isReady = openStore(session, isOnlyRead ? StoreAccess::reading : StoreAccess::writing);
         if (!isReady) return;
         session.BackupPath = session.AppPath / u"Backup";

@@ -3,6 +3,7 @@
 #include "app/start_up.h"
 #include "core/store.h"
 #include "core/store_connection.h"
+#include "core/store_records.h"
 #include "core/wine_prefixes.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
@@ -10,6 +11,7 @@
 #include "sets/options_in_force.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
+#include "sky/sky_tuning_state.h"
 #include "support/home_folder.h"
 #include "support/install_test.h"
 #include "support/wine_prefix.h"
@@ -26,8 +28,6 @@ namespace {
 
 using test::SmallInstall;
 using test::writeFile;
-
-const QString splash = "show frm_Splash";
 
 /// A complete install whose first session is over; the tests start the next one.
 struct ApplicationTest : testing::Test {
@@ -54,7 +54,7 @@ TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
     EXPECT_TRUE(session.adoConn->isOpen() && install.files.isFolder(session.BackupPath));
     const OptionsInForce& options = session.state<OptionsInForce>();
     EXPECT_TRUE(options.IsTropical && options.IsFastExit && !options.IsDutch && !options.IsHalo);
-    EXPECT_EQ(user.calls, QStringList{splash});
+    EXPECT_TRUE(user.calls.isEmpty());
 }
 
 /// The trial of the folder is the second of the file operations.
@@ -69,11 +69,15 @@ TEST_F(ApplicationTest, aFolderThatNobodyMayWriteIntoServesReadingAndNothingElse
     EXPECT_TRUE(user.calls[0].startsWith(u"box Morvane may not write into its install folder: "_s));
     install.files.failAt(2, false);
     ASSERT_TRUE(startUp(session, InstallUse::reading));
-    EXPECT_EQ(user.calls.mid(1), QStringList{splash});
+    EXPECT_EQ(user.calls.size(), 1);
     EXPECT_TRUE(session.adoConn->hasTable(u"TEXTURE_SETS"_s));
     EXPECT_THROW(session.adoConn->execute(u"DELETE FROM TEXTURE_SETS"_s), Error);
     EXPECT_TRUE(test::contentsBelow(install.home()) == before);
     EXPECT_FALSE(install.files.isFolder(session.BackupPath));
+    closeDatabase(session);
+    ASSERT_TRUE(startUp(session)) << "and it was lent only";
+    EXPECT_FALSE(install.files.exists(install.home() / u"AIRPORTDATA.txt"));
+    EXPECT_EQ(ownValue(install.registry, u"FirstTime"_s), "False");
 }
 
 TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
@@ -84,7 +88,11 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
     user.calls.clear();
     user.foldersToChoose = {install.home().native(), {}, right}; // a wrong one, a cancelled browser
     user.answersToGive = {true, true, false};                    // again, again, and no WideFS client
-    ASSERT_TRUE(startUp(session));
+    const auto isFound = [&] {
+        user.calls << u"found"_s;
+        EXPECT_FALSE(hasStore(session));
+    };
+    ASSERT_TRUE(startUp(session, InstallUse::writing, isFound));
     const QString firstBox =
         "box Your registry does not contain the proper path to FS9.EXE. Please browse to your main "
         "Flight Simulator 2004 folder (it needs to contain FS9.EXE).";
@@ -94,7 +102,7 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
         "Properties. You will see the folder listed. Would you like to try to locate the folder "
         "again? If you select no, we will exit.";
     EXPECT_EQ(user.calls.mid(0, 7), // the browser comes behind either
-              QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s, splash}));
+              QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s, u"found"_s}));
     EXPECT_EQ(session.FSPath.native(), right);
     EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
 }
@@ -103,7 +111,6 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
 
 /// Of plain wine, and of Steam.
 TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
-    session.writing->beUnattended(); // it shows no splash
     const test::HomeFolder home;
     const QString plain = home.path() + "/.wine",
                   steam = home.path() + "/.local/share/Steam/steamapps/compatdata/9/pfx";
@@ -195,8 +202,10 @@ TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
         for (const QString& name : names)
             writeFile(install.home() / u"METAR" / name, "EHAM");
         install.files.failAt(failing, true);
+        session.state<SkyTuningState>().isLoaded = failing == 0;
         exitProgram(session);
         install.files.failAt(0, false);
+        EXPECT_TRUE(install.files.exists(install.home() / u"LastSkySettings.cfg"));
         EXPECT_EQ(test::contentsBelow(install.home() / u"METAR").keys(), left);
         EXPECT_EQ(session.adoConn, nullptr);
         EXPECT_EQ(user.countOfKind(MessageKind::error), failing == 0 ? 0 : 1);
