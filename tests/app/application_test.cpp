@@ -1,6 +1,7 @@
 #include "app/command_line_run.h"
 #include "app/exit_flow.h"
 #include "app/start_up.h"
+#include "core/changed_rows.h"
 #include "core/store.h"
 #include "core/store_connection.h"
 #include "core/store_records.h"
@@ -54,6 +55,11 @@ TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
     EXPECT_TRUE(session.adoConn->isOpen() && install.files.isFolder(session.BackupPath));
     const OptionsInForce& options = session.state<OptionsInForce>();
     EXPECT_TRUE(options.IsTropical && options.IsFastExit && !options.IsDutch && !options.IsHalo);
+    reloadChangedRows(session);
+    store.open(install.home() / u"Morvane.mdb");
+    store.execute(u"UPDATE TEXTURE_SWITCH SET ISDUTCH = TRUE"_s);
+    store.close();
+    EXPECT_TRUE(reloadChangedRows(session) && options.IsDutch);
     EXPECT_TRUE(user.calls.isEmpty());
 }
 

@@ -2,6 +2,7 @@
 
 #include "support/window_program.h"
 
+#include "night/night_samples.h"
 #include "ui/controls/slider.h"
 #include "ui/host_form.h"
 #include "window/form_table.h"
@@ -122,6 +123,22 @@ TEST_F(EveryScreen, saysWhatStandsInTheList) {
     for (qsizetype i = 0; i < std::max(found.size(), listed.size()); ++i)
         ASSERT_EQ(found.value(i).toStdString(), listed.value(i).toStdString())
             << "all of it: " << taken.toStdString();
+}
+
+TEST_F(EveryScreen, asksAtItsFirstQuestionAndAnswersWithWhatIsChosen) {
+    auto& night = program.session.state<NightSampleChoice>();
+    night.selectedNightTexture.clear();
+    QStringList places;
+    for (const Screen screen :
+         {Screen::frm_TsRequired, Screen::frm_SelectTexture, Screen::frm_SelectNightTexture,
+          Screen::frm_SelectBaseSky, Screen::frm_CC_From_Option, Screen::frm_CC_From_Metar_String})
+        program.show(screen, [&](DialogForm& dialog) {
+            places << dialog.focusWidget()->objectName();
+            dialog.ok();
+        });
+    EXPECT_EQ(places.join(u' ').toStdString(),
+              "txtNoClouds optSeason_spring optNightTexture_rural optBaseSky0 optCloudCover2 txtMetarString");
+    EXPECT_FALSE(night.selectedNightTexture.isEmpty());
 }
 
 /// As assistive programs do it.

@@ -85,7 +85,6 @@ void ColourPage::addResetAll(const QString& name) {
     cmdResetAll_ = new QPushButton(u"Reset all"_s, paper());
     cmdResetAll_->setObjectName(name);
     cmdResetAll_->setFont(fontOf(TextRole::value));
-    cmdResetAll_->setAccessibleName(u"Reset all"_s);
     cmdResetAll_->setGeometry(optionColumn, 272, 74, 24);
     connect(cmdResetAll_, &QPushButton::clicked, this, [this] { setSliders({}); });
 }

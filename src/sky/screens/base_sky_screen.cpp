@@ -19,7 +19,6 @@ frm_SelectBaseSky::frm_SelectBaseSky(Shell& shell)
         const QString& name = skyBaseSetOptions()[static_cast<qsizetype>(index)];
         auto* option = new QRadioButton(u"Use The %1 Type Base texture Set"_s.arg(name), this);
         option->setObjectName(u"optBaseSky%1"_s.arg(index));
-        option->setAccessibleName(option->text());
         option->setFont(fontOf(TextRole::longHelp));
         option->setGeometry(26, 78 + 21 * static_cast<int>(index), 348, 20);
         connect(option, &QRadioButton::clicked, this,

@@ -38,7 +38,6 @@ void frm_SelectSkyTexture::addBaseSets() {
     for (std::size_t index = 0; index < chkStsGroup_.size(); ++index) {
         auto* box = new QCheckBox(skyBaseSetBoxes()[static_cast<qsizetype>(index)], this);
         box->setObjectName(u"chkStsGroup%1"_s.arg(index));
-        box->setAccessibleName(box->text());
         box->setFont(fontOf(TextRole::longHelp));
         box->setGeometry(left, firstRow + 18 * static_cast<int>(index), 140, 16);
         connect(box, &QCheckBox::clicked, this, &frm_SelectSkyTexture::storeBaseSets);

@@ -19,7 +19,6 @@ frm_Select_CC_Method::frm_Select_CC_Method(Shell& shell)
           u"Select Cloud Cover Required"_s, u"Enter a METAR String"_s}) {
         auto* option = new QRadioButton(caption, this);
         option->setObjectName(u"optMethod%1"_s.arg(method));
-        option->setAccessibleName(caption);
         option->setFont(fontOf(TextRole::body));
         option->setGeometry(26, 90 + 30 * method, 348, 24);
         methods_->addButton(option, method++);

@@ -89,7 +89,6 @@ void frm_WxFinder::addBoxes() {
 void frm_WxFinder::addBox(const QString& name, const QString& caption, int x, bool WxFilter::*flag) {
     auto* box = new QCheckBox(caption, this);
     box->setObjectName(name);
-    box->setAccessibleName(caption);
     box->setFont(fontOf(TextRole::body));
     box->setGeometry(x, boxRow, pitch + 10, 22);
     connect(box, &QCheckBox::toggled, this, [this, flag](bool isTicked) {
@@ -104,7 +103,6 @@ void frm_WxFinder::addFlightEnds() {
         const QString caption = isDeparture ? u"Departure Airport"_s : u"Destination Airport"_s;
         auto* option = new QRadioButton(caption, this);
         option->setObjectName(u"optAirport%1"_s.arg(index));
-        option->setAccessibleName(caption);
         option->setFont(fontOf(TextRole::body));
         option->setGeometry(left + pitch * static_cast<int>(index), lastRow, pitch - 10, 22);
         connect(option, &QRadioButton::clicked, this,

@@ -40,6 +40,7 @@ TEST(CoverScreens, aFlightPlan) {
         EXPECT_EQ(program.toldDuring([&] { openPlan(3); }), QStringList{u"FSX Flight Plan"_s});
         EXPECT_FALSE(isOkAlive());
         openPlan(1);
+        EXPECT_EQ(dialog.focusWidget()->objectName(), "lvwFPList") << "as before it was read";
         const auto& rows = *dialog.findChild<SetTable*>(u"lvwFlightPlan"_s);
         ASSERT_EQ(rows.rowCount(), 2);
         EXPECT_EQ(rows.topLevelItem(1)->toolTip(5), "Overcast") << "its neighbour's";
@@ -56,8 +57,9 @@ TEST(CoverScreens, aReportTypedInOverSeveralLines) {
         dialog.findChild<QPlainTextEdit*>()->setPlainText(u"  EGLL 241220Z VV001\n18/18 Q1012 "_s);
         dialog.button(u"btn_MetarProcess"_s)->click();
         EXPECT_EQ(dialog.findChild<QLabel*>(u"lblCloudCover"_s)->text(), "Scattered Clouds");
-        dialog.ok();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
     });
+    EXPECT_FALSE(program.session.state<CoverChoice>().coverConfirmed);
     EXPECT_EQ(program.session.state<CoverChoice>().cloudClass, 6);
 }
 
