@@ -13,4 +13,12 @@ std::optional<QByteArray> FileSystem::readIfThere(const FilePath& file) {
     }
 }
 
+std::vector<FilePath> filesIn(FileSystem& files, const FilePath& folder, const QString& mask) {
+    const FilePath inside = folder.resolved();
+    std::vector<FilePath> found;
+    for (const QString& name : files.list(inside, mask))
+        found.push_back(inside.exactChild(name));
+    return found;
+}
+
 } // namespace morvane

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace morvane {
 
@@ -66,6 +67,9 @@ public:
     /// Adds to the file's end, making it when missing, and hands it to the system before it returns.
     virtual void append(const FilePath& file, const QByteArray& contents) = 0;
 };
+
+/// The files of a listing, in their own spelling: no operation on one of them looks for another.
+std::vector<FilePath> filesIn(FileSystem& files, const FilePath& folder, const QString& mask);
 
 /// The real one.
 class NativeFileSystem : public FileSystem {

@@ -31,8 +31,8 @@ void replaceFile(FileSystem& files, const FilePath& source, const FilePath& targ
 }
 
 void removePartialCopies(FileSystem& files, const FilePath& folder) {
-    for (const QString& name : files.list(folder, u"*"_s + partialCopySuffix))
-        files.remove(folder.child(name));
+    for (const FilePath& part : filesIn(files, folder, u"*"_s + partialCopySuffix))
+        files.remove(part);
 }
 
 } // namespace morvane
