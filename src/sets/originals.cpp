@@ -1,6 +1,7 @@
 #include "sets/originals.h"
 
 #include "core/literals.h"
+#include "core/ordered_work.h"
 
 namespace morvane {
 
@@ -12,6 +13,15 @@ QString numbered(const QString& path, int number) {
     const qsizetype dot = path.lastIndexOf(u'.');
     const qsizetype end = dot > path.lastIndexOf(u'\\') ? dot : path.size();
     return path.left(end) + u" (%1)"_s.arg(number) + path.mid(end);
+}
+
+std::optional<Error> failureOf(const std::function<void()>& part) {
+    try {
+        part();
+        return std::nullopt;
+    } catch (const Error& error) {
+        return error;
+    }
 }
 
 } // namespace
@@ -46,47 +56,76 @@ OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
 }
 
 void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
+    constexpr std::size_t share = 8; // of one piece of work: a file alone is too small for one
+    std::vector<FilePath> places;
+    for (const FileCopy& copy : copies)
+        places.push_back(find(copy.target));
+    // The records stay as they are until all have been looked at.
+    OrderedWork<std::vector<SeenCopy>> work(
+        static_cast<int>((copies.size() + share - 1) / share), [&](int index) {
+            std::vector<SeenCopy> seen;
+            const std::size_t first = static_cast<std::size_t>(index) * share;
+            for (std::size_t i = first; i < std::min(first + share, copies.size()); ++i)
+                seen.push_back(seeCopy(copies[i], places[i]));
+            return seen;
+        });
     std::vector<OriginalFact> facts;
-    for (const FileCopy& copy : copies) {
-        prepareCopy(copy, facts);
+    std::vector<SeenCopy> seen;
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        if (i % share == 0) seen = work.next();
+        prepareCopy(copies[i], places[i], seen[i % share], facts);
         pump();
     }
     list_.add(facts);
 }
 
-void Originals::prepareCopy(const FileCopy& copy, std::vector<OriginalFact>& facts) {
-    const FilePath place = find(copy.target);
-    const QString path = place.relative();
-    OriginalFact ours = factOf(FactKind::ours, place);
-    ours.where = copy.source.relative();
-    if (!tryPart(copy.source.text(), [&] { ours.print = fingerprintOf(files_, copy.source); })) return;
-    announced_.insert(copy.source.text(), ours.print);
-    if (!tryPart(path, [&] { look(place, true, facts); })) return;
-    if (!list_.records().of(path).isOurs(ours.print)) facts.push_back(ours);
+Originals::SeenCopy Originals::seeCopy(const FileCopy& copy, const FilePath& place) const {
+    SeenCopy seen;
+    seen.sourceFailure = failureOf([&] { seen.source = fingerprintOf(files_, copy.source); });
+    if (!seen.sourceFailure) seen.targetFailure = failureOf([&] { seen.target = see(place); });
+    return seen;
 }
 
-bool Originals::tryPart(const QString& of, const std::function<void()>& part) {
-    try {
-        part();
-        return true;
-    } catch (const Error& error) {
-        failures_.insert(of, error);
-        return false;
+Originals::Standing Originals::see(const FilePath& place) const {
+    const auto contents = files_.readIfThere(place);
+    if (!contents) return {};
+    const FileFingerprint print = fingerprintOf(*contents);
+    const OriginalRecord& known = list_.records().of(place.relative());
+    if (known.isOurs(print) || known.isKept(print)) return {print, std::nullopt};
+    return {print, contents};
+}
+
+void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
+                            std::vector<OriginalFact>& facts) {
+    const QString path = place.relative();
+    if (seen.sourceFailure) {
+        failures_.insert(copy.source.text(), *seen.sourceFailure);
+        return;
     }
+    announced_.insert(copy.source.text(), seen.source);
+    std::optional<Error> failure = seen.targetFailure;
+    if (!failure) failure = failureOf([&] { note(place, seen.target, true, facts); });
+    if (failure) {
+        failures_.insert(path, *failure);
+        return;
+    }
+    if (list_.records().of(path).isOurs(seen.source)) return;
+    OriginalFact ours = factOf(FactKind::ours, place);
+    ours.print = seen.source;
+    ours.where = copy.source.relative();
+    facts.push_back(ours);
 }
 
 /// Before the announcement is noted, not after: it would pass the pilot's file for ours where both have the
 /// same bytes.
-void Originals::look(const FilePath& place, bool isForOurs, std::vector<OriginalFact>& facts) {
+void Originals::note(const FilePath& place, const Standing& standing, bool isForOurs,
+                     std::vector<OriginalFact>& facts) {
     const QString path = place.relative();
     if (looked_.contains(path)) return;
-    const OriginalRecord& known = list_.records().of(path);
-    if (const auto contents = files_.readIfThere(place)) {
-        const FileFingerprint print = fingerprintOf(*contents);
-        if (!known.isOurs(print) && !known.isKept(print)) facts.push_back(keep(place, print, *contents));
-    } else if (isForOurs && !list_.records().contains(path)) {
+    if (standing.unknown)
+        facts.push_back(keep(place, *standing.print, *standing.unknown));
+    else if (!standing.print && isForOurs && !list_.records().contains(path))
         facts.push_back(factOf(FactKind::added, place));
-    }
     looked_.insert(path);
 }
 
@@ -130,7 +169,7 @@ FilePath Originals::place(const FileCopy& copy) {
     for (const QString& part : {copy.source.text(), place.relative()})
         if (const auto failure = failures_.constFind(part); failure != failures_.cend()) throw *failure;
     std::vector<OriginalFact> facts;
-    look(place, false, facts);
+    if (!looked_.contains(place.relative())) note(place, see(place), false, facts);
     list_.add(facts);
     return place;
 }

@@ -48,6 +48,9 @@ public:
     Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath,
               const QDate& today = QDate::currentDate());
 
+    /// The target in the spelling of the disk, found without a look at each file.
+    FilePath find(const FilePath& target);
+
     /// Call it with all copies before the first of them is made: looks at every target, keeps the pilot's
     /// files and notes, in one write, what is about to be put where. A file that cannot be read or kept does
     /// not stop the others: its failure is raised by `place`. A first install takes its time here; `pump` is
@@ -87,12 +90,23 @@ public:
 
 private:
     void respell();
-    FilePath find(const FilePath& target);
-    void prepareCopy(const FileCopy& copy, std::vector<OriginalFact>& facts);
+    /// What stands in a place before a copy goes there.
+    struct Standing {
+        std::optional<FileFingerprint> print; ///< nothing where no file is
+        std::optional<QByteArray> unknown;    ///< the contents of one that is neither ours nor kept
+    };
+    struct SeenCopy {
+        FileFingerprint source;
+        Standing target;
+        std::optional<Error> sourceFailure, targetFailure;
+    };
+    Standing see(const FilePath& place) const;
+    SeenCopy seeCopy(const FileCopy& copy, const FilePath& place) const;
+    void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
+                     std::vector<OriginalFact>& facts);
     /// Adds what has to be noted before the file is replaced.
-    void look(const FilePath& place, bool isForOurs, std::vector<OriginalFact>& facts);
-    /// Runs it; false when it failed, which is noted under that name.
-    bool tryPart(const QString& of, const std::function<void()>& part);
+    void note(const FilePath& place, const Standing& standing, bool isForOurs,
+              std::vector<OriginalFact>& facts);
     OriginalFact keep(const FilePath& place, const FileFingerprint& print, const QByteArray& contents);
     QString keepCopy(const QString& path, const QByteArray& contents);
     FilePath copyPlace(const QString& where);

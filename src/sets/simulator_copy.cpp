@@ -66,8 +66,8 @@ FilePath splashTarget(const Session& session) {
 
 void addFolderFiles(Session& session, const FilePath& source, const QString& mask, const FilePath& target,
                     std::vector<FileCopy>& copies) {
-    for (const QString& name : session.files.list(source, mask))
-        copies.push_back({source.child(name), target.child(name)});
+    for (const FilePath& file : filesIn(session.files, source, mask))
+        copies.push_back({file, target.child(file.fileName())});
 }
 
 } // namespace morvane
