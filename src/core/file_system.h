@@ -18,6 +18,7 @@ struct FileStamp {
     std::uint64_t drive = 0;  ///< tells the numbers of two drives apart as long as both are there
     unsigned mode = 0;        ///< permission bits, as of chmod; elsewhere 0444 or 0666
 
+    bool operator==(const FileStamp&) const = default;
     bool isSameFile(const FileStamp& other) const { return number == other.number && drive == other.drive; }
 };
 
@@ -57,6 +58,8 @@ public:
     virtual std::int64_t size(const FilePath& file) = 0;
     /// Of a link, what it points to.
     virtual FileStamp stamp(const FilePath& path) = 0;
+    /// Nothing where none is.
+    std::optional<FileStamp> stampIfThere(const FilePath& path);
     /// In bytes, for this user; -1 where the system does not tell.
     virtual std::int64_t freeSpace(const FilePath& folder) = 0;
     virtual QByteArray read(const FilePath& file) = 0;

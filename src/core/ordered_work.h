@@ -23,7 +23,7 @@ public:
         : count_(count), work_(std::move(work)), cores_(std::max(std::thread::hardware_concurrency(), 1U)) {
         while (pending_.size() <= cores_ && started_ < count_)
             startNext();
-        while (threads_.size() < std::min(cores_, pending_.size()))
+        while (count_ > 1 && threads_.size() < std::min(cores_, pending_.size()))
             threads_.emplace_back([this](const std::stop_token& end) { workUntil(end); });
     }
     /// Waits for what is under way; what was not asked for is dropped.
@@ -37,6 +37,7 @@ public:
         std::future<Result> first = std::move(pending_.front());
         pending_.pop_front();
         if (started_ < count_) startNext();
+        if (threads_.empty()) waiting_.front()(); // a single piece is not worth a thread
         return first.get();
     }
 
@@ -74,6 +75,34 @@ private:
     std::condition_variable_any isWaiting_;
     std::deque<Piece> waiting_;         ///< for a thread
     std::vector<std::jthread> threads_; ///< the last: they use all others
+};
+
+/// The same for pieces so small that handing each to another thread would cost more than it saves.
+template <class Result>
+class OrderedShares {
+public:
+    OrderedShares(std::size_t count, std::function<Result(std::size_t)> work)
+        : shares_(static_cast<int>((count + share - 1) / share), [count, work = std::move(work)](int index) {
+              std::deque<Result> results;
+              const std::size_t first = static_cast<std::size_t>(index) * share;
+              for (std::size_t i = first; i < std::min(first + share, count); ++i)
+                  results.push_back(work(i));
+              return results;
+          }) {}
+
+    /// As OrderedWork.
+    Result next() {
+        if (results_.empty()) results_ = shares_.next();
+        Result first = std::move(results_.front());
+        results_.pop_front();
+        return first;
+    }
+
+private:
+    static constexpr std::size_t share = 8;
+
+    OrderedWork<std::deque<Result>> shares_;
+    std::deque<Result> results_;
 };
 
 } // namespace morvane

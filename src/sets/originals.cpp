@@ -56,24 +56,14 @@ OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
 }
 
 void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
-    constexpr std::size_t share = 8; // of one piece of work: a file alone is too small for one
     std::vector<FilePath> places;
     for (const FileCopy& copy : copies)
         places.push_back(find(copy.target));
     // The records stay as they are until all have been looked at.
-    OrderedWork<std::vector<SeenCopy>> work(
-        static_cast<int>((copies.size() + share - 1) / share), [&](int index) {
-            std::vector<SeenCopy> seen;
-            const std::size_t first = static_cast<std::size_t>(index) * share;
-            for (std::size_t i = first; i < std::min(first + share, copies.size()); ++i)
-                seen.push_back(seeCopy(copies[i], places[i]));
-            return seen;
-        });
+    OrderedShares<SeenCopy> seen(copies.size(), [&](std::size_t i) { return seeCopy(copies[i], places[i]); });
     std::vector<OriginalFact> facts;
-    std::vector<SeenCopy> seen;
     for (std::size_t i = 0; i < copies.size(); ++i) {
-        if (i % share == 0) seen = work.next();
-        prepareCopy(copies[i], places[i], seen[i % share], facts);
+        prepareCopy(copies[i], places[i], seen.next(), facts);
         pump();
     }
     list_.add(facts);
@@ -90,9 +80,12 @@ Originals::Standing Originals::see(const FilePath& place) const {
     const auto contents = files_.readIfThere(place);
     if (!contents) return {};
     const FileFingerprint print = fingerprintOf(*contents);
+    return {print, isOursOrKept(place, print) ? std::nullopt : contents};
+}
+
+bool Originals::isOursOrKept(const FilePath& place, const FileFingerprint& print) const {
     const OriginalRecord& known = list_.records().of(place.relative());
-    if (known.isOurs(print) || known.isKept(print)) return {print, std::nullopt};
-    return {print, contents};
+    return known.isOurs(print) || known.isKept(print);
 }
 
 void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
@@ -164,12 +157,15 @@ FilePath Originals::copyPlace(const QString& where) {
     return copyFolders_.value(folder).exactChild(where.mid(end + 1));
 }
 
-FilePath Originals::place(const FileCopy& copy) {
+FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& standing) {
     const FilePath place = find(copy.target);
     for (const QString& part : {copy.source.text(), place.relative()})
         if (const auto failure = failures_.constFind(part); failure != failures_.cend()) throw *failure;
+    if (looked_.contains(place.relative())) return place;
     std::vector<OriginalFact> facts;
-    if (!looked_.contains(place.relative())) note(place, see(place), false, facts);
+    const bool isKnown =
+        standing && isOursOrKept(place, standing->print) && isAsSeen(files_, place, standing);
+    note(place, isKnown ? Standing{standing->print, std::nullopt} : see(place), false, facts);
     list_.add(facts);
     return place;
 }

@@ -59,8 +59,8 @@ public:
         const std::vector<FileCopy>& copies, const std::function<void()>& pump = [] {});
     /// Where that copy goes, in the spelling of the disk. Raises what kept it from being prepared: it must
     /// not be made then. A copy that was not prepared brings a file of the pilot's own; only what stands in
-    /// its place is kept.
-    FilePath place(const FileCopy& copy);
+    /// its place is kept. `standing`: what was read there just now, where somebody has.
+    FilePath place(const FileCopy& copy, const std::optional<SeenFile>& standing = {});
     /// Call it when the copy stands in its place.
     void notePlaced(const FileCopy& copy, const FilePath& place);
     /// Call it after the last copy: the list is written anew, so that it does not grow with every flight, and
@@ -101,6 +101,7 @@ private:
         std::optional<Error> sourceFailure, targetFailure;
     };
     Standing see(const FilePath& place) const;
+    bool isOursOrKept(const FilePath& place, const FileFingerprint& print) const;
     SeenCopy seeCopy(const FileCopy& copy, const FilePath& place) const;
     void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
                      std::vector<OriginalFact>& facts);
@@ -113,10 +114,22 @@ private:
     OriginalFact factOf(FactKind kind, const FilePath& place) const;
 
     void clearStrays();
-    bool isSound(const OriginalFact& kept);
-    void restoreFile(const QString& path, OriginalsReport& report);
-    void restoreKept(const FilePath& place, const OriginalRecord& record, OriginalsReport& report);
-    unsigned modeAfter(const FilePath& place, const OriginalRecord& record, bool isThere);
+    /// What a file to be put back or taken away has been found to be.
+    struct FoundFile {
+        std::optional<SeenFile> standing = {}; ///< in its place
+        bool isKeptSound = false;              ///< where the kept one has to come
+        std::optional<Error> failure = {};
+    };
+    /// A file that is known, where it is; any thread may look at it.
+    struct KnownFile {
+        FilePath place;
+        OriginalRecord record;
+    };
+    bool isSound(const OriginalFact& kept) const;
+    FoundFile lookAt(const KnownFile& file) const;
+    void restoreFile(const KnownFile& file, const FoundFile& ahead, OriginalsReport& report);
+    void restoreKept(const KnownFile& file, const FoundFile& found, OriginalsReport& report);
+    static unsigned modeAfter(const KnownFile& file, const FoundFile& found);
     void removeMadeFolders();
 
     FileSystem& files_;

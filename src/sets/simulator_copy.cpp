@@ -36,9 +36,9 @@ void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
     }
 }
 
-void SimulatorCopier::copy(const FileCopy& copy) {
+void SimulatorCopier::copy(const FileCopy& copy, const std::optional<SeenFile>& standing) {
     endWithSession(session_);
-    put(copy, originals_.place(copy));
+    put(copy, originals_.place(copy, standing));
 }
 
 void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {

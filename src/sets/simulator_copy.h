@@ -24,7 +24,8 @@ public:
     void announce(const FileCopy& copy) { originals_.prepare({copy}); }
     /// Something stands where the copy will go.
     bool isThere(const FileCopy& copy) { return session_.files.exists(originals_.find(copy.target)); }
-    void copy(const FileCopy& copy);
+    /// `standing` as for Originals::place.
+    void copy(const FileCopy& copy, const std::optional<SeenFile>& standing = {});
     /// The same for a target that may be marked read-only: the mark goes first, and stays gone. Base install
     /// and options have always been so free; the installs of sets are not.
     void copyOverReadOnly(const FileCopy& copy);

@@ -39,10 +39,11 @@ std::vector<FileCopy> texturesOf(Session& session, const QString& name) {
 }
 
 /// Which of the report's numbers the file counts in.
-int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const FileCopy& copy, bool isOurs) {
+int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const FileCopy& copy, bool isOurs,
+                            const CheckedFile& checked) {
     const bool isDone = attempt([&] {
         if (isOurs) copier.announce(copy);
-        copier.copy(copy);
+        copier.copy(copy, checked.there);
     });
     if (isDone) return &RestoreReport::putBack;
     bool isReadOnly = false;
@@ -63,10 +64,10 @@ RestoreReport copyBack(Session& session, const QString& name) {
             ++report.failed;
         else if (list.isDamaged(copy.source, source->print))
             ++report.damaged;
-        else if (source->stands)
+        else if (source->stands())
             ++report.standing;
         else
-            ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, source->print)));
+            ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, source->print), *source));
     });
     copier.finish();
     return report;
