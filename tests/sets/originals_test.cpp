@@ -225,6 +225,22 @@ TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
     EXPECT_EQ(contents(left[0]) + contents(left[1]), "another'sanother's");
 }
 
+/// Files are looked at ahead of their turn; what the pilot writes meanwhile is his.
+TEST_F(OriginalsTest, aFileThatIsWrittenDuringARestoreStays) {
+    const QString kept = u"Texture\\b.bmp"_s, added = u"Texture\\c.bmp"_s;
+    for (const QString& path : {QString(a), kept})
+        writeFile(target(path), "the pilot's");
+    install("ours", {a, kept, added});
+    const OriginalsReport report = originals().restore([&](double) {
+        for (const QString& path : {kept, added})
+            writeFile(target(path), "written meanwhile");
+    });
+    EXPECT_EQ(report.left, (QStringList{kept, added}));
+    EXPECT_EQ(contents(a), "the pilot's");
+    for (const QString& path : {kept, added})
+        EXPECT_EQ(contents(path), "written meanwhile");
+}
+
 /// A mark that we took comes back, one that the pilot has set since stays, and a file that was away gets the
 /// mode that it had.
 TEST_F(OriginalsTest, aRestoreGivesTheModesBack) {
