@@ -77,10 +77,12 @@ Originals::SeenCopy Originals::seeCopy(const FileCopy& copy, const FilePath& pla
 }
 
 Originals::Standing Originals::see(const FilePath& place) const {
-    const auto contents = files_.readIfThere(place);
+    const auto stamp = files_.stampIfThere(place);
+    auto contents = stamp ? files_.readIfThere(place) : std::nullopt;
     if (!contents) return {};
-    const FileFingerprint print = fingerprintOf(*contents);
-    return {print, isOursOrKept(place, print) ? std::nullopt : contents};
+    const SeenFile seen{fingerprintOf(*contents), *stamp};
+    if (isOursOrKept(place, seen.print)) contents.reset();
+    return {seen, std::move(contents)};
 }
 
 bool Originals::isOursOrKept(const FilePath& place, const FileFingerprint& print) const {
@@ -102,6 +104,7 @@ void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const S
         failures_.insert(path, *failure);
         return;
     }
+    if (seen.target.file && seen.target.file->print == seen.source) standing_.insert(path, *seen.target.file);
     if (list_.records().of(path).isOurs(seen.source)) return;
     OriginalFact ours = factOf(FactKind::ours, place);
     ours.print = seen.source;
@@ -116,8 +119,8 @@ void Originals::note(const FilePath& place, const Standing& standing, bool isFor
     const QString path = place.relative();
     if (looked_.contains(path)) return;
     if (standing.unknown)
-        facts.push_back(keep(place, *standing.print, *standing.unknown));
-    else if (!standing.print && isForOurs && !list_.records().contains(path))
+        facts.push_back(keep(place, standing.file->print, *standing.unknown));
+    else if (!standing.file && isForOurs && !list_.records().contains(path))
         facts.push_back(factOf(FactKind::added, place));
     looked_.insert(path);
 }
@@ -165,9 +168,17 @@ FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& s
     std::vector<OriginalFact> facts;
     const bool isKnown =
         standing && isOursOrKept(place, standing->print) && isAsSeen(files_, place, standing);
-    note(place, isKnown ? Standing{standing->print, std::nullopt} : see(place), false, facts);
+    note(place, isKnown ? Standing{standing, std::nullopt} : see(place), false, facts);
     list_.add(facts);
     return place;
+}
+
+bool Originals::stands(const FileCopy& copy, const FilePath& place) {
+    constexpr unsigned ownersWriteBit = 0200;
+    const auto seen = standing_.constFind(place.relative());
+    if (seen == standing_.cend() || announced_.value(copy.source.text()) != seen->print) return false;
+    const bool isReplaced = files_.isLink(place) || !(seen->stamp.mode & ownersWriteBit);
+    return !isReplaced && isAsSeen(files_, place, *seen);
 }
 
 void Originals::notePlaced(const FileCopy& copy, const FilePath& place) {

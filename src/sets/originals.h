@@ -61,6 +61,9 @@ public:
     /// not be made then. A copy that was not prepared brings a file of the pilot's own; only what stands in
     /// its place is kept. `standing`: what was read there just now, where somebody has.
     FilePath place(const FileCopy& copy, const std::optional<SeenFile>& standing = {});
+    /// The place has the very bytes of a prepared copy: it can be spared. Only where it would end as the same
+    /// plain file, and as long as nobody has written to it since it was read.
+    bool stands(const FileCopy& copy, const FilePath& place);
     /// Call it when the copy stands in its place.
     void notePlaced(const FileCopy& copy, const FilePath& place);
     /// Call it after the last copy: the list is written anew, so that it does not grow with every flight, and
@@ -92,8 +95,8 @@ private:
     void respell();
     /// What stands in a place before a copy goes there.
     struct Standing {
-        std::optional<FileFingerprint> print; ///< nothing where no file is
-        std::optional<QByteArray> unknown;    ///< the contents of one that is neither ours nor kept
+        std::optional<SeenFile> file;      ///< nothing where none is
+        std::optional<QByteArray> unknown; ///< the contents of one that is neither ours nor kept
     };
     struct SeenCopy {
         FileFingerprint source;
@@ -138,6 +141,7 @@ private:
     OriginalsList list_;
     DiskSpelling spelling_;
     QHash<QString, FileFingerprint> announced_; ///< by source
+    QHash<QString, SeenFile> standing_;         ///< with the bytes of a copy that is to go there
     QHash<QString, OriginalFact> placed_;       ///< the last of each path
     QHash<QString, Error> failures_;            ///< by source or by path of the target
     QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run

@@ -49,7 +49,7 @@ void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {
 }
 
 void SimulatorCopier::put(const FileCopy& copy, const FilePath& place) {
-    replaceFile(session_.files, copy.source, place);
+    if (!originals_.stands(copy, place)) replaceFile(session_.files, copy.source, place);
     originals_.notePlaced(copy, place);
 }
 
