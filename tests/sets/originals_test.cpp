@@ -100,6 +100,27 @@ TEST_F(OriginalsTest, aLaterFileOfThePilotsIsKeptBesideTheFirst) {
     EXPECT_EQ(readFile(keptFiles / u"Texture\\a (3).bmp"), "the third"); // kept files themselves always stay
 }
 
+/// A copy is spared where its bytes stand already, unless they have come to be others since they were read,
+/// or it would end as another file than now.
+TEST_F(OriginalsTest, aCopyWhoseBytesStandIsSpared) {
+    const FileCopy copy{app / u"ours.bmp", target(a)};
+    const std::pair<std::function<void()>, bool> cases[] = {
+        {[] {}, true},
+        {[&] { writeFile(target(a), "another program's"); }, false},
+        {[&] { files.remove(target(a)); }, false},
+        {[&] { files.setReadOnly(target(a), true); }, false},
+    };
+    for (const auto& [meanwhile, isSpared] : cases) {
+        writeFile(copy.source, "ours");
+        writeFile(target(a), "ours");
+        Originals prepared = originals();
+        prepared.prepare({copy});
+        const FilePath place = prepared.place(copy);
+        meanwhile();
+        EXPECT_EQ(prepared.stands(copy, place), isSpared);
+    }
+}
+
 /// What we copy may have the pilot's own bytes: his file stays his, killed installs or not.
 TEST_F(OriginalsTest, aFileEqualToOursIsThePilotsWithoutAFactThatSaysOtherwise) {
     for (const int part : {1, 2, 3}) { // whole, killed before its end and before the copy
