@@ -97,7 +97,7 @@ void prepareToWrite(Session& session) {
 
 } // namespace
 
-bool startUp(Session& session, InstallUse use) {
+Reported startUp(Session& session, InstallUse use) {
     joinRooms(session);
     if (const QString problem = installFolderProblem(session.files, session.AppPath, use);
         !problem.isEmpty()) {

@@ -47,7 +47,7 @@ TEST(CoverScreens, aFlightPlan) {
         dialog.ok();
     });
     EXPECT_TRUE(session.state<CoverChoice>().coverConfirmed);
-    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"4"_s});
+    EXPECT_EQ(session.state<CoverChoice>().cloudClass, 4);
 }
 
 TEST(CoverScreens, aReportTypedInOverSeveralLines) {
@@ -58,7 +58,7 @@ TEST(CoverScreens, aReportTypedInOverSeveralLines) {
         EXPECT_EQ(dialog.findChild<QLabel*>(u"lblCloudCover"_s)->text(), "Scattered Clouds");
         dialog.ok();
     });
-    EXPECT_EQ(program.session.state<FlightWeather>().WxCloudList, QStringList{u"6"_s});
+    EXPECT_EQ(program.session.state<CoverChoice>().cloudClass, 6);
 }
 
 } // namespace
