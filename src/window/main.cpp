@@ -55,7 +55,7 @@ int main(int argc, char** argv) {
     // Windows come and go as pages do; only the exit flow ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     loadProgramFont();
-    applyPaperStyle(application);
+    applyPaperStyle();
 
     const QString home = line.home.isEmpty() ? defaultInstallFolder() : line.home;
     const bool isUsual = line.home.isEmpty() && !qEnvironmentVariableIsSet("MORVANE_HOME");
