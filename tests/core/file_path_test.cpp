@@ -1,5 +1,3 @@
-#include "core/file_fingerprint.h"
-#include "core/file_fingerprint.h"
 #include "core/file_path.h"
 #include "core/file_system.h"
 #include "core/safe_copy.h"
@@ -9,8 +7,6 @@
 #include "support/system_files.h"
 #include "support/temporary_folder.h"
 
-#include <QCryptographicHash>
-#include <QCryptographicHash>
 #include <QFile>
 #include <functional>
 #include <gtest/gtest.h>
@@ -34,17 +30,6 @@ TEST(FilePath, noTextLeadsOutOfTheRoot) {
     for (const char* name : {"", ".", "..", " ", "a\\b", "a/b", "C:"})
         EXPECT_THROW(root.child(QString(name)), Error) << name;
     EXPECT_EQ((root / u"\\a\\\\b\\").native(), "/somewhere/a/b");
-}
-
-/// Around the lengths at which a message gets one more block.
-TEST(FileFingerprint, isTheUsualSumWhateverTheLength) {
-    for (const int size : {0, 1, 3, 55, 56, 63, 64, 65, 119, 120, 128, 43'778}) {
-        QByteArray contents(size, '\0');
-        for (int i = 0; i < size; ++i)
-            contents[i] = static_cast<char>(i * 7 + i / 251);
-        const QByteArray sum = QCryptographicHash::hash(contents, QCryptographicHash::Sha1).toHex();
-        EXPECT_EQ(fingerprintOf(contents), (FileFingerprint{size, QString::fromLatin1(sum)})) << size;
-    }
 }
 
 TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {
