@@ -3,6 +3,7 @@
 #include "core/file_system.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace morvane {
 
@@ -17,5 +18,15 @@ struct FileFingerprint {
 FileFingerprint fingerprintOf(const QByteArray& contents);
 /// Reads the whole file.
 FileFingerprint fingerprintOf(FileSystem& files, const FilePath& file);
+
+/// A file that was read ahead of what is to be done with it.
+struct SeenFile {
+    FileFingerprint print;
+    FileStamp stamp; ///< from before it was read
+};
+/// Nothing where none is.
+std::optional<SeenFile> seeFile(FileSystem& files, const FilePath& file);
+/// False once somebody has written to it, put another in its place or taken it away.
+bool isAsSeen(FileSystem& files, const FilePath& file, const std::optional<SeenFile>& seen);
 
 } // namespace morvane

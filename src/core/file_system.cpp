@@ -13,4 +13,21 @@ std::optional<QByteArray> FileSystem::readIfThere(const FilePath& file) {
     }
 }
 
+std::optional<FileStamp> FileSystem::stampIfThere(const FilePath& path) {
+    try {
+        return stamp(path);
+    } catch (const Error& error) {
+        if (error.code() == ErrorCode::fileNotFound) return std::nullopt;
+        throw;
+    }
+}
+
+std::vector<FilePath> filesIn(FileSystem& files, const FilePath& folder, const QString& mask) {
+    const FilePath inside = folder.resolved();
+    std::vector<FilePath> found;
+    for (const QString& name : files.list(inside, mask))
+        found.push_back(inside.exactChild(name));
+    return found;
+}
+
 } // namespace morvane

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace morvane {
 
@@ -17,6 +18,7 @@ struct FileStamp {
     std::uint64_t drive = 0;  ///< tells the numbers of two drives apart as long as both are there
     unsigned mode = 0;        ///< permission bits, as of chmod; elsewhere 0444 or 0666
 
+    bool operator==(const FileStamp&) const = default;
     bool isSameFile(const FileStamp& other) const { return number == other.number && drive == other.drive; }
 };
 
@@ -56,6 +58,8 @@ public:
     virtual std::int64_t size(const FilePath& file) = 0;
     /// Of a link, what it points to.
     virtual FileStamp stamp(const FilePath& path) = 0;
+    /// Nothing where none is.
+    std::optional<FileStamp> stampIfThere(const FilePath& path);
     /// In bytes, for this user; -1 where the system does not tell.
     virtual std::int64_t freeSpace(const FilePath& folder) = 0;
     virtual QByteArray read(const FilePath& file) = 0;
@@ -66,6 +70,9 @@ public:
     /// Adds to the file's end, making it when missing, and hands it to the system before it returns.
     virtual void append(const FilePath& file, const QByteArray& contents) = 0;
 };
+
+/// The files of a listing, in their own spelling: no operation on one of them looks for another.
+std::vector<FilePath> filesIn(FileSystem& files, const FilePath& folder, const QString& mask);
 
 /// The real one.
 class NativeFileSystem : public FileSystem {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -10,6 +11,11 @@ namespace morvane {
 
 /// Replaces a file of that name; from drive to drive it fails.
 std::error_code renameInOneStep(const std::filesystem::path& source, const std::filesystem::path& target);
+
+/// Copies up to so many bytes from one open file to the other without reading them, where the system and both
+/// drives can do that: some only note that two files share their blocks. Both files then stand behind what
+/// was copied. Of a failure nothing is told: the rest, copied in another way, meets it again.
+void copyInsideSystem(int source, int target, std::int64_t size);
 
 /// Whether it may be written to or not, as the folder alone decides.
 std::error_code removeFile(const std::filesystem::path& file);

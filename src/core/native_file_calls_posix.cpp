@@ -11,6 +11,15 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
     return error;
 }
 
+void copyInsideSystem(int source, int target, std::int64_t size) {
+    while (size > 0) {
+        const ssize_t count =
+            ::copy_file_range(source, nullptr, target, nullptr, static_cast<std::size_t>(size), 0);
+        if (count <= 0) return;
+        size -= count;
+    }
+}
+
 std::error_code removeFile(const std::filesystem::path& file) {
     return ::unlink(file.c_str()) == 0 ? std::error_code() : std::error_code(errno, std::system_category());
 }

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <utility>
+#include <vector>
 
 namespace morvane {
 
@@ -73,12 +75,27 @@ void writeAll(QFileDevice& file, const char* bytes, qint64 count, const FilePath
         throw Error(codeOf(file.error(), ErrorCode::diskFull), path.text());
 }
 
-QStringList sortedByUpperName(QStringList names) {
-    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
-        const QString upperA = a.toUpper(), upperB = b.toUpper();
-        return upperA != upperB ? upperA < upperB : a < b;
-    });
-    return names;
+QStringList sortedByUpperName(const QStringList& names) {
+    std::vector<std::pair<QString, QString>> byUpperName;
+    for (const QString& name : names)
+        byUpperName.emplace_back(name.toUpper(), name);
+    std::ranges::sort(byUpperName);
+    QStringList sorted;
+    for (const auto& [upper, name] : byUpperName)
+        sorted << name;
+    return sorted;
+}
+
+/// What the system copies by itself is not read here: see copyInsideSystem.
+void copyRest(QFile& in, QFile& out, const FilePath& source, const FilePath& target) {
+    QByteArray block(1, Qt::Uninitialized); // there is nothing left, most of the time
+    while (true) {
+        const qint64 count = in.read(block.data(), block.size());
+        if (count < 0) throw Error(ErrorCode::ioFailure, source.text());
+        if (count == 0) break;
+        writeAll(out, block.constData(), count, target);
+        block.resize(copyBlockSize);
+    }
 }
 
 } // namespace
@@ -92,12 +109,10 @@ bool NativeFileSystem::isFolder(const FilePath& path) {
 }
 
 QStringList NativeFileSystem::list(const FilePath& folder, const QString& mask) {
-    const QDir directory(folder.native());
-    if (!directory.exists()) return {};
-    if (!directory.isReadable()) throw Error(ErrorCode::permissionDenied, folder.text());
+    const std::optional<QStringList> names = namesOfFiles(folder.native());
+    if (!names) throw Error(ErrorCode::permissionDenied, folder.text());
     QStringList taken;
-    const QStringList names = directory.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Unsorted);
-    for (const QString& name : names)
+    for (const QString& name : *names)
         if (matchesMask(name, mask)) taken << name;
     return sortedByUpperName(taken);
 }
@@ -125,13 +140,8 @@ void NativeFileSystem::copyContents(const FilePath& source, const FilePath& targ
     openFile(in, source, QIODevice::ReadOnly | QIODevice::Unbuffered, heldFiles_);
     QFile out(target.native());
     openFile(out, target, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered, heldFiles_);
-    QByteArray block(std::min(copyBlockSize, std::max<qint64>(in.size(), 1)), Qt::Uninitialized);
-    while (true) {
-        const qint64 count = in.read(block.data(), block.size());
-        if (count < 0) throw Error(ErrorCode::ioFailure, source.text());
-        if (count == 0) break;
-        writeAll(out, block.constData(), count, target);
-    }
+    copyInsideSystem(in.handle(), out.handle(), in.size());
+    copyRest(in, out, source, target);
 }
 
 void NativeFileSystem::rename(const FilePath& source, const FilePath& target) {
@@ -160,7 +170,7 @@ bool NativeFileSystem::isLink(const FilePath& path) {
 
 bool NativeFileSystem::isReadOnly(const FilePath& file) {
     const QFileInfo info(file.native());
-    return info.exists() && !(info.permissions() & QFileDevice::WriteOwner);
+    return info.exists() && !info.permission(QFileDevice::WriteOwner);
 }
 
 void NativeFileSystem::setReadOnly(const FilePath& file, bool readOnly) {
@@ -172,9 +182,7 @@ void NativeFileSystem::setReadOnly(const FilePath& file, bool readOnly) {
 }
 
 void NativeFileSystem::copyMode(const FilePath& model, const FilePath& target) {
-    const auto permissions = QFileInfo(model.native()).permissions();
-    if (!QFile::setPermissions(target.native(), permissions))
-        throw Error(missingOrDenied(target), target.text());
+    setMode(target, stamp(model).mode);
 }
 
 void NativeFileSystem::setMode(const FilePath& file, unsigned mode) {

@@ -1,6 +1,7 @@
 #include "core/native_spelling.h"
 
 #include <QFile>
+#include <cerrno>
 #include <dirent.h>
 #include <filesystem>
 #include <memory>
@@ -16,11 +17,22 @@ bool existsExactly(const QString& path) {
     return lstat(QFile::encodeName(path).constData(), &properties) == 0;
 }
 
-/// The name as the folder spells it, or as given when the folder has no such name in any case. Folders have
-/// thousands of names, and this is asked for every new file of an install: no file's properties are read.
+using Directory = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+Directory openDirectory(const QString& folder) {
+    return {opendir(QFile::encodeName(folder).constData()), closedir};
+}
+
+bool leadsToFolder(const Directory& directory, const dirent& entry) {
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return entry.d_type == DT_DIR;
+    struct stat properties {};
+    return fstatat(dirfd(directory.get()), entry.d_name, &properties, 0) == 0 && S_ISDIR(properties.st_mode);
+}
+
+/// The name as the folder spells it, or as given when the folder has no such name in any case. For one path;
+/// a list of files is looked up by DiskSpelling.
 QString spellingOnDisk(const QString& folder, const QString& name) {
-    const std::unique_ptr<DIR, int (*)(DIR*)> directory(opendir(QFile::encodeName(folder).constData()),
-                                                        closedir);
+    const Directory directory = openDirectory(folder);
     QString found;
     while (const dirent* entry = directory ? readdir(directory.get()) : nullptr) {
         const QString spelling = QFile::decodeName(entry->d_name);
@@ -42,6 +54,16 @@ QString spelledAsOnDisk(const QString& root, const QStringList& names) {
         if (!existsExactly(path)) path = folder + spellingOnDisk(folder, name);
     }
     return path;
+}
+
+std::optional<QStringList> namesOfFiles(const QString& folder) {
+    const Directory directory = openDirectory(folder);
+    QStringList names;
+    if (!directory) return errno == ENOENT || errno == ENOTDIR ? std::optional(names) : std::nullopt;
+    while (const dirent* entry = readdir(directory.get()))
+        if (QUtf8StringView(entry->d_name).isValidUtf8() && !leadsToFolder(directory, *entry))
+            names << QFile::decodeName(entry->d_name);
+    return names;
 }
 
 int countNamelessFiles(const QString& folder, const QString& ending) {

@@ -14,15 +14,17 @@ void removeQuietly(FileSystem& files, const FilePath& file) {
     }
 }
 
+constexpr unsigned ownersWriteBit = 0200;
+
 } // namespace
 
 void replaceFile(FileSystem& files, const FilePath& source, const FilePath& target) {
     const FilePath placed = target.resolved(), part = partOf(placed);
-    const bool isLink = files.isLink(placed);
-    if (!isLink && files.isReadOnly(placed)) throw Error(ErrorCode::permissionDenied, placed.text());
+    const auto old = files.isLink(placed) ? std::nullopt : files.stampIfThere(placed);
+    if (old && !(old->mode & ownersWriteBit)) throw Error(ErrorCode::permissionDenied, placed.text());
     try {
         files.copyContents(source, part);
-        if (!isLink && files.exists(placed)) files.copyMode(placed, part);
+        if (old) files.setMode(part, old->mode);
         files.rename(part, placed);
     } catch (const Error&) {
         removeQuietly(files, part);
@@ -31,8 +33,8 @@ void replaceFile(FileSystem& files, const FilePath& source, const FilePath& targ
 }
 
 void removePartialCopies(FileSystem& files, const FilePath& folder) {
-    for (const QString& name : files.list(folder, u"*"_s + partialCopySuffix))
-        files.remove(folder.child(name));
+    for (const FilePath& part : filesIn(files, folder, u"*"_s + partialCopySuffix))
+        files.remove(part);
 }
 
 } // namespace morvane

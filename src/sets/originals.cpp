@@ -1,6 +1,7 @@
 #include "sets/originals.h"
 
 #include "core/literals.h"
+#include "core/ordered_work.h"
 
 namespace morvane {
 
@@ -12,6 +13,15 @@ QString numbered(const QString& path, int number) {
     const qsizetype dot = path.lastIndexOf(u'.');
     const qsizetype end = dot > path.lastIndexOf(u'\\') ? dot : path.size();
     return path.left(end) + u" (%1)"_s.arg(number) + path.mid(end);
+}
+
+std::optional<Error> failureOf(const std::function<void()>& part) {
+    try {
+        part();
+        return std::nullopt;
+    } catch (const Error& error) {
+        return error;
+    }
 }
 
 } // namespace
@@ -46,47 +56,72 @@ OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
 }
 
 void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
+    std::vector<FilePath> places;
+    for (const FileCopy& copy : copies)
+        places.push_back(find(copy.target));
+    // The records stay as they are until all have been looked at.
+    OrderedShares<SeenCopy> seen(copies.size(), [&](std::size_t i) { return seeCopy(copies[i], places[i]); });
     std::vector<OriginalFact> facts;
-    for (const FileCopy& copy : copies) {
-        prepareCopy(copy, facts);
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        prepareCopy(copies[i], places[i], seen.next(), facts);
         pump();
     }
     list_.add(facts);
 }
 
-void Originals::prepareCopy(const FileCopy& copy, std::vector<OriginalFact>& facts) {
-    const FilePath place = find(copy.target);
-    const QString path = place.relative();
-    OriginalFact ours = factOf(FactKind::ours, place);
-    ours.where = copy.source.relative();
-    if (!tryPart(copy.source.text(), [&] { ours.print = fingerprintOf(files_, copy.source); })) return;
-    announced_.insert(copy.source.text(), ours.print);
-    if (!tryPart(path, [&] { look(place, true, facts); })) return;
-    if (!list_.records().of(path).isOurs(ours.print)) facts.push_back(ours);
+Originals::SeenCopy Originals::seeCopy(const FileCopy& copy, const FilePath& place) const {
+    SeenCopy seen;
+    seen.sourceFailure = failureOf([&] { seen.source = fingerprintOf(files_, copy.source); });
+    if (!seen.sourceFailure) seen.targetFailure = failureOf([&] { seen.target = see(place); });
+    return seen;
 }
 
-bool Originals::tryPart(const QString& of, const std::function<void()>& part) {
-    try {
-        part();
-        return true;
-    } catch (const Error& error) {
-        failures_.insert(of, error);
-        return false;
+Originals::Standing Originals::see(const FilePath& place) const {
+    const auto stamp = files_.stampIfThere(place);
+    auto contents = stamp ? files_.readIfThere(place) : std::nullopt;
+    if (!contents) return {};
+    const SeenFile seen{fingerprintOf(*contents), *stamp};
+    if (isOursOrKept(place, seen.print)) contents.reset();
+    return {seen, std::move(contents)};
+}
+
+bool Originals::isOursOrKept(const FilePath& place, const FileFingerprint& print) const {
+    const OriginalRecord& known = list_.records().of(place.relative());
+    return known.isOurs(print) || known.isKept(print);
+}
+
+void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
+                            std::vector<OriginalFact>& facts) {
+    const QString path = place.relative();
+    if (seen.sourceFailure) {
+        failures_.insert(copy.source.text(), *seen.sourceFailure);
+        return;
     }
+    announced_.insert(copy.source.text(), seen.source);
+    std::optional<Error> failure = seen.targetFailure;
+    if (!failure) failure = failureOf([&] { note(place, seen.target, true, facts); });
+    if (failure) {
+        failures_.insert(path, *failure);
+        return;
+    }
+    if (seen.target.file && seen.target.file->print == seen.source) standing_.insert(path, *seen.target.file);
+    if (list_.records().of(path).isOurs(seen.source)) return;
+    OriginalFact ours = factOf(FactKind::ours, place);
+    ours.print = seen.source;
+    ours.where = copy.source.relative();
+    facts.push_back(ours);
 }
 
 /// Before the announcement is noted, not after: it would pass the pilot's file for ours where both have the
 /// same bytes.
-void Originals::look(const FilePath& place, bool isForOurs, std::vector<OriginalFact>& facts) {
+void Originals::note(const FilePath& place, const Standing& standing, bool isForOurs,
+                     std::vector<OriginalFact>& facts) {
     const QString path = place.relative();
     if (looked_.contains(path)) return;
-    const OriginalRecord& known = list_.records().of(path);
-    if (const auto contents = files_.readIfThere(place)) {
-        const FileFingerprint print = fingerprintOf(*contents);
-        if (!known.isOurs(print) && !known.isKept(print)) facts.push_back(keep(place, print, *contents));
-    } else if (isForOurs && !list_.records().contains(path)) {
+    if (standing.unknown)
+        facts.push_back(keep(place, standing.file->print, *standing.unknown));
+    else if (!standing.file && isForOurs && !list_.records().contains(path))
         facts.push_back(factOf(FactKind::added, place));
-    }
     looked_.insert(path);
 }
 
@@ -125,14 +160,25 @@ FilePath Originals::copyPlace(const QString& where) {
     return copyFolders_.value(folder).exactChild(where.mid(end + 1));
 }
 
-FilePath Originals::place(const FileCopy& copy) {
+FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& standing) {
     const FilePath place = find(copy.target);
     for (const QString& part : {copy.source.text(), place.relative()})
         if (const auto failure = failures_.constFind(part); failure != failures_.cend()) throw *failure;
+    if (looked_.contains(place.relative())) return place;
     std::vector<OriginalFact> facts;
-    look(place, false, facts);
+    const bool isKnown =
+        standing && isOursOrKept(place, standing->print) && isAsSeen(files_, place, standing);
+    note(place, isKnown ? Standing{standing, std::nullopt} : see(place), false, facts);
     list_.add(facts);
     return place;
+}
+
+bool Originals::stands(const FileCopy& copy, const FilePath& place) {
+    constexpr unsigned ownersWriteBit = 0200;
+    const auto seen = standing_.constFind(place.relative());
+    if (seen == standing_.cend() || announced_.value(copy.source.text()) != seen->print) return false;
+    const bool isReplaced = files_.isLink(place) || !(seen->stamp.mode & ownersWriteBit);
+    return !isReplaced && isAsSeen(files_, place, *seen);
 }
 
 void Originals::notePlaced(const FileCopy& copy, const FilePath& place) {

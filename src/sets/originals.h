@@ -48,6 +48,9 @@ public:
     Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath,
               const QDate& today = QDate::currentDate());
 
+    /// The target in the spelling of the disk, found without a look at each file.
+    FilePath find(const FilePath& target);
+
     /// Call it with all copies before the first of them is made: looks at every target, keeps the pilot's
     /// files and notes, in one write, what is about to be put where. A file that cannot be read or kept does
     /// not stop the others: its failure is raised by `place`. A first install takes its time here; `pump` is
@@ -56,8 +59,11 @@ public:
         const std::vector<FileCopy>& copies, const std::function<void()>& pump = [] {});
     /// Where that copy goes, in the spelling of the disk. Raises what kept it from being prepared: it must
     /// not be made then. A copy that was not prepared brings a file of the pilot's own; only what stands in
-    /// its place is kept.
-    FilePath place(const FileCopy& copy);
+    /// its place is kept. `standing`: what was read there just now, where somebody has.
+    FilePath place(const FileCopy& copy, const std::optional<SeenFile>& standing = {});
+    /// The place has the very bytes of a prepared copy: it can be spared. Only where it would end as the same
+    /// plain file, and as long as nobody has written to it since it was read.
+    bool stands(const FileCopy& copy, const FilePath& place);
     /// Call it when the copy stands in its place.
     void notePlaced(const FileCopy& copy, const FilePath& place);
     /// Call it after the last copy: the list is written anew, so that it does not grow with every flight, and
@@ -87,22 +93,46 @@ public:
 
 private:
     void respell();
-    FilePath find(const FilePath& target);
-    void prepareCopy(const FileCopy& copy, std::vector<OriginalFact>& facts);
+    /// What stands in a place before a copy goes there.
+    struct Standing {
+        std::optional<SeenFile> file;      ///< nothing where none is
+        std::optional<QByteArray> unknown; ///< the contents of one that is neither ours nor kept
+    };
+    struct SeenCopy {
+        FileFingerprint source;
+        Standing target;
+        std::optional<Error> sourceFailure, targetFailure;
+    };
+    Standing see(const FilePath& place) const;
+    bool isOursOrKept(const FilePath& place, const FileFingerprint& print) const;
+    SeenCopy seeCopy(const FileCopy& copy, const FilePath& place) const;
+    void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
+                     std::vector<OriginalFact>& facts);
     /// Adds what has to be noted before the file is replaced.
-    void look(const FilePath& place, bool isForOurs, std::vector<OriginalFact>& facts);
-    /// Runs it; false when it failed, which is noted under that name.
-    bool tryPart(const QString& of, const std::function<void()>& part);
+    void note(const FilePath& place, const Standing& standing, bool isForOurs,
+              std::vector<OriginalFact>& facts);
     OriginalFact keep(const FilePath& place, const FileFingerprint& print, const QByteArray& contents);
     QString keepCopy(const QString& path, const QByteArray& contents);
     FilePath copyPlace(const QString& where);
     OriginalFact factOf(FactKind kind, const FilePath& place) const;
 
     void clearStrays();
-    bool isSound(const OriginalFact& kept);
-    void restoreFile(const QString& path, OriginalsReport& report);
-    void restoreKept(const FilePath& place, const OriginalRecord& record, OriginalsReport& report);
-    unsigned modeAfter(const FilePath& place, const OriginalRecord& record, bool isThere);
+    /// What a file to be put back or taken away has been found to be.
+    struct FoundFile {
+        std::optional<SeenFile> standing = {}; ///< in its place
+        bool isKeptSound = false;              ///< where the kept one has to come
+        std::optional<Error> failure = {};
+    };
+    /// A file that is known, where it is; any thread may look at it.
+    struct KnownFile {
+        FilePath place;
+        OriginalRecord record;
+    };
+    bool isSound(const OriginalFact& kept) const;
+    FoundFile lookAt(const KnownFile& file) const;
+    void restoreFile(const KnownFile& file, const FoundFile& ahead, OriginalsReport& report);
+    void restoreKept(const KnownFile& file, const FoundFile& found, OriginalsReport& report);
+    static unsigned modeAfter(const KnownFile& file, const FoundFile& found);
     void removeMadeFolders();
 
     FileSystem& files_;
@@ -111,6 +141,7 @@ private:
     OriginalsList list_;
     DiskSpelling spelling_;
     QHash<QString, FileFingerprint> announced_; ///< by source
+    QHash<QString, SeenFile> standing_;         ///< with the bytes of a copy that is to go there
     QHash<QString, OriginalFact> placed_;       ///< the last of each path
     QHash<QString, Error> failures_;            ///< by source or by path of the target
     QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run

@@ -1,5 +1,6 @@
 #include "core/attempts.h"
 #include "core/literals.h"
+#include "core/ordered_work.h"
 #include "core/safe_copy.h"
 #include "sets/originals.h"
 
@@ -9,22 +10,26 @@ namespace morvane {
 
 namespace {
 
-constexpr unsigned everyonesWriteBits = 0222;
+constexpr unsigned everyonesWriteBits = 0222, ownersWriteBit = 0200;
 
 } // namespace
 
 OriginalsReport Originals::restore(const std::function<void(double)>& progress) {
     OriginalsReport report;
-    const QStringList paths = list_.records().all().keys();
     FirstFailure failure;
     failure.attempt([&] { clearStrays(); });
+    std::vector<KnownFile> known;
+    for (const auto& [path, record] : list_.records().all().asKeyValueRange())
+        known.push_back({spelling_.find(path), record});
+    OrderedShares<FoundFile> found(known.size(), [&](std::size_t i) { return lookAt(known[i]); });
     double done = 0;
-    for (const QString& path : paths) {
-        failure.attempt([&] { restoreFile(path, report); });
-        progress(++done / static_cast<double>(paths.size()));
+    for (const KnownFile& file : known) {
+        const FoundFile ahead = found.next();
+        failure.attempt([&] { restoreFile(file, ahead, report); });
+        progress(++done / static_cast<double>(known.size()));
     }
     failure.attempt([&] { removeMadeFolders(); });
-    if (!paths.isEmpty()) failure.attempt([&] { list_.write(); });
+    if (!known.empty()) failure.attempt([&] { list_.write(); });
     report.failure = failure.error();
     return report;
 }
@@ -41,7 +46,7 @@ void Originals::clearStrays() {
         removePartialCopies(files_, folder);
 }
 
-bool Originals::isSound(const OriginalFact& kept) {
+bool Originals::isSound(const OriginalFact& kept) const {
     try {
         return fingerprintOf(files_, folder_ / kept.where) == kept.print;
     } catch (const Error&) {
@@ -49,16 +54,34 @@ bool Originals::isSound(const OriginalFact& kept) {
     }
 }
 
-void Originals::restoreFile(const QString& path, OriginalsReport& report) {
-    const OriginalRecord record = list_.records().of(path);
+Originals::FoundFile Originals::lookAt(const KnownFile& file) const {
+    FoundFile found;
+    if (file.record.madeFolder) return found;
+    try {
+        found.standing = seeFile(files_, file.place);
+        if (file.record.kept.empty()) return found;
+        const OriginalFact& kept = file.record.kept.back();
+        const bool stands = found.standing && found.standing->print == kept.print;
+        found.isKeptSound = !stands && isSound(kept);
+    } catch (const Error& error) {
+        found.failure = error;
+    }
+    return found;
+}
+
+/// What was seen ahead counts only as long as the file is that one: another program may have written to it,
+/// or this restore, where the drive takes two of the list's spellings for one file.
+void Originals::restoreFile(const KnownFile& file, const FoundFile& ahead, OriginalsReport& report) {
+    const auto& [place, record] = file;
     if (record.madeFolder) return; // when the files in it are gone
-    const FilePath place = spelling_.find(path);
-    if (!record.kept.empty()) return restoreKept(place, record, report);
-    const auto contents = files_.readIfThere(place);
-    const bool isOurs = contents && record.isOurs(fingerprintOf(*contents));
-    const bool isLeft = record.added ? contents && !isOurs : isOurs;
+    const bool holds = !ahead.failure && isAsSeen(files_, place, ahead.standing);
+    const FoundFile found = holds ? ahead : lookAt(file);
+    if (found.failure) throw *found.failure;
+    if (!record.kept.empty()) return restoreKept(file, found, report);
+    const bool isOurs = found.standing && record.isOurs(found.standing->print);
+    const bool isLeft = record.added ? found.standing && !isOurs : isOurs;
     if (isLeft) { // of what lists of old call ours it is not known what stood there before
-        report.left << path;
+        report.left << place.relative();
         return;
     }
     if (isOurs) {
@@ -69,21 +92,19 @@ void Originals::restoreFile(const QString& path, OriginalsReport& report) {
     list_.add({factOf(FactKind::gone, place)});
 }
 
-void Originals::restoreKept(const FilePath& place, const OriginalRecord& record, OriginalsReport& report) {
+void Originals::restoreKept(const KnownFile& file, const FoundFile& found, OriginalsReport& report) {
+    const auto& [place, record] = file;
     const OriginalFact& kept = record.kept.back();
-    const auto contents = files_.readIfThere(place);
-    const std::optional<FileFingerprint> print =
-        contents ? std::optional(fingerprintOf(*contents)) : std::nullopt;
-    const bool stands = print == kept.print;
-    if (print && !stands && !record.isOurs(*print)) {
+    const bool stands = found.standing && found.standing->print == kept.print;
+    if (found.standing && !stands && !record.isOurs(found.standing->print)) {
         report.left << place.relative();
         return;
     }
-    if (!stands && !isSound(kept)) {
+    if (!stands && !found.isKeptSound) {
         report.damaged << place.relative();
         return;
     }
-    const unsigned mode = modeAfter(place, record, contents.has_value());
+    const unsigned mode = modeAfter(file, found);
     if (!stands) {
         takeReadOnlyMark(place);
         replaceFile(files_, folder_ / kept.where, place);
@@ -95,11 +116,11 @@ void Originals::restoreKept(const FilePath& place, const OriginalRecord& record,
 
 /// The mode that the pilot's file had: as it was when it was kept, or when we took its mark away. A mark that
 /// it bears now came later, from the pilot, and stays. 0 when nothing is known.
-unsigned Originals::modeAfter(const FilePath& place, const OriginalRecord& record, bool isThere) {
-    const unsigned now = isThere ? files_.stamp(place).mode : 0;
-    const unsigned known = record.takenMode ? record.takenMode->mode : record.kept.back().mode;
+unsigned Originals::modeAfter(const KnownFile& file, const FoundFile& found) {
+    const unsigned now = found.standing ? found.standing->stamp.mode : 0;
+    const unsigned known = file.record.takenMode ? file.record.takenMode->mode : file.record.kept.back().mode;
     const unsigned mode = known ? known : now;
-    return isThere && files_.isReadOnly(place) ? mode & ~everyonesWriteBits : mode;
+    return found.standing && !(now & ownersWriteBit) ? mode & ~everyonesWriteBits : mode;
 }
 
 void Originals::removeMadeFolders() {

@@ -169,9 +169,13 @@ QStringList confirmedNames(Session& session, const QStringList& names) {
 }
 
 void emptyBitmapFolder(Session& session, const FilePath& folder) {
-    if (session.files.isLink(folder) || session.files.list(folder, u"*.bmp"_s).isEmpty()) return;
-    for (const QString& name : session.files.list(folder, u"*.*"_s))
-        session.files.remove(folder.child(name));
+    if (session.files.isLink(folder)) return;
+    const std::vector<FilePath> found = filesIn(session.files, folder, u"*.*"_s);
+    if (std::ranges::none_of(found,
+                             [](const FilePath& file) { return matchesMask(file.fileName(), u"*.bmp"); }))
+        return;
+    for (const FilePath& file : found)
+        session.files.remove(file);
 }
 
 void removeFolderOrLink(FileSystem& files, const FilePath& folder) {

@@ -36,9 +36,9 @@ void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
     }
 }
 
-void SimulatorCopier::copy(const FileCopy& copy) {
+void SimulatorCopier::copy(const FileCopy& copy, const std::optional<SeenFile>& standing) {
     endWithSession(session_);
-    put(copy, originals_.place(copy));
+    put(copy, originals_.place(copy, standing));
 }
 
 void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {
@@ -49,7 +49,7 @@ void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {
 }
 
 void SimulatorCopier::put(const FileCopy& copy, const FilePath& place) {
-    replaceFile(session_.files, copy.source, place);
+    if (!originals_.stands(copy, place)) replaceFile(session_.files, copy.source, place);
     originals_.notePlaced(copy, place);
 }
 
@@ -66,8 +66,8 @@ FilePath splashTarget(const Session& session) {
 
 void addFolderFiles(Session& session, const FilePath& source, const QString& mask, const FilePath& target,
                     std::vector<FileCopy>& copies) {
-    for (const QString& name : session.files.list(source, mask))
-        copies.push_back({source.child(name), target.child(name)});
+    for (const FilePath& file : filesIn(session.files, source, mask))
+        copies.push_back({file, target.child(file.fileName())});
 }
 
 } // namespace morvane

@@ -22,7 +22,10 @@ public:
     void clearStrays(const std::vector<FileCopy>& copies);
     /// The other half alone, for a file of ours among those.
     void announce(const FileCopy& copy) { originals_.prepare({copy}); }
-    void copy(const FileCopy& copy);
+    /// Something stands where the copy will go.
+    bool isThere(const FileCopy& copy) { return session_.files.exists(originals_.find(copy.target)); }
+    /// `standing` as for Originals::place.
+    void copy(const FileCopy& copy, const std::optional<SeenFile>& standing = {});
     /// The same for a target that may be marked read-only: the mark goes first, and stays gone. Base install
     /// and options have always been so free; the installs of sets are not.
     void copyOverReadOnly(const FileCopy& copy);

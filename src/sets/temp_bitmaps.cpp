@@ -8,8 +8,8 @@ namespace {
 
 void removeBitmaps(FileSystem& files, const FilePath& folder) {
     try {
-        for (const QString& name : files.list(folder, u"*.bmp"_s))
-            files.remove(folder.child(name));
+        for (const FilePath& bitmap : filesIn(files, folder, u"*.bmp"_s))
+            files.remove(bitmap);
     } catch (const Error&) {
     }
 }

@@ -3,6 +3,7 @@
 #include "core/file_system.h"
 #include "imaging/recolouring.h"
 
+#include <exception>
 #include <memory>
 #include <optional>
 
@@ -13,6 +14,8 @@ namespace morvane {
 struct ColouredFile {
     std::unique_ptr<cDIBSection> picture;
     std::optional<QString> failure; ///< the error's description
+    bool isSaved = false;           ///< the picture stands in its place; for the one who makes sure of it
+    std::exception_ptr saveFailure = {};
 };
 
 /// Loads the file and recolours it. Touches nothing but its arguments, so any thread may call it; a failure

@@ -4,11 +4,21 @@
 #include "core/ordered_work.h"
 #include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
-#include "sets/texture_image.h"
 
 namespace morvane {
 
 namespace {
+
+/// On the thread that coloured it; a failure is told by the one that may.
+void saveQuietly(ColouredFile& coloured, const FilePath& target) {
+    if (!coloured.picture) return;
+    try {
+        coloured.picture->SavePicture(target);
+        coloured.isSaved = true;
+    } catch (const Error&) {
+        coloured.saveFailure = std::current_exception();
+    }
+}
 
 /// Empty for a picture that the format does not take: the set then has one file fewer, and nobody is told.
 QByteArray compressedFile(FileSystem& files, const FilePath& path) {
@@ -54,8 +64,21 @@ void TexturePasses::makeTempFolders(const std::vector<CatalogueFile>& files) {
     }
 }
 
-void TexturePasses::saveColoured(const CatalogueFile& file) {
-    const FilePath target = file.tempFolder.child(file.fileName);
+SpelledFiles TexturePasses::spelled(const std::vector<CatalogueFile>& files,
+                                    FilePath CatalogueFile::*folder) {
+    SpelledFiles places(session_.files, session_.AppPath);
+    for (const CatalogueFile& file : files)
+        places.add(file.*folder, file.fileName);
+    return places;
+}
+
+/// What its worker could not save is the failed file, under whose name the last picture goes, and one that
+/// the list has twice.
+void TexturePasses::takeColoured(ColouredFile&& coloured, const FilePath& target) {
+    if (coloured.picture) resultDib_ = std::move(*coloured.picture);
+    if (coloured.failure) showFailure(session_.user, {}, *coloured.failure);
+    if (coloured.saveFailure) std::rethrow_exception(coloured.saveFailure);
+    if (coloured.isSaved) return;
     if (resultDib_.Width() > 0)
         resultDib_.SavePicture(target);
     else if (session_.files.exists(target))
@@ -68,18 +91,18 @@ void TexturePasses::colourFiles(const std::vector<CatalogueFile>& files, const C
         Progress progress = openProgress(u"Colorizing"_s, 1, files.size());
         makeTempFolders(files);
         const Recolouring recolouring(colours);
-        OrderedWork<ColouredFile> work(static_cast<int>(files.size()), [&](int i) {
-            const CatalogueFile& file = files[static_cast<std::size_t>(i)];
-            return openImageForTextureSet(session_.files, file.sourceFolder.child(file.fileName),
-                                          recolouring);
+        const SpelledFiles sources = spelled(files, &CatalogueFile::sourceFolder);
+        const SpelledFiles targets = spelled(files, &CatalogueFile::tempFolder);
+        OrderedWork<ColouredFile> work(static_cast<int>(files.size()), [&](int index) {
+            const auto i = static_cast<std::size_t>(index);
+            ColouredFile coloured = openImageForTextureSet(session_.files, sources[i], recolouring);
+            if (!targets.isRepeated(i)) saveQuietly(coloured, targets[i]);
+            return coloured;
         });
         for (std::size_t i = 0; i < files.size(); ++i) {
             session_.user.pumpMessages();
             if (job_.isCancelled()) return;
-            ColouredFile coloured = work.next();
-            if (coloured.picture) resultDib_ = std::move(*coloured.picture);
-            if (coloured.failure) showFailure(session_.user, {}, *coloured.failure);
-            saveColoured(files[i]);
+            takeColoured(work.next(), targets[i]);
             advance(progress, i, files.size());
         }
         session_.user.updateProgress({}, {}, 100);
@@ -95,17 +118,21 @@ void TexturePasses::convertFiles(const std::vector<CatalogueFile>& files) {
     reportFailures(session_.user, morvaneError, [&] {
         Progress progress = openProgress(u"Converting"_s, 2, files.size());
         makeSetFolders();
-        OrderedWork<QByteArray> work(static_cast<int>(files.size()), [&](int i) {
-            const CatalogueFile& file = files[static_cast<std::size_t>(i)];
-            return compressedFile(session_.files, file.tempFolder.child(file.fileName));
+        const SpelledFiles sources = spelled(files, &CatalogueFile::tempFolder);
+        const SpelledFiles targets = spelled(files, &CatalogueFile::targetFolder);
+        // No contents, no file: a codec failure is not noticed.
+        OrderedWork<QByteArray> work(static_cast<int>(files.size()), [&](int index) {
+            const auto i = static_cast<std::size_t>(index);
+            QByteArray texture = compressedFile(session_.files, sources[i]);
+            if (targets.isRepeated(i) || texture.isEmpty()) return texture;
+            session_.files.write(targets[i], texture);
+            return QByteArray();
         });
         for (std::size_t i = 0; i < files.size(); ++i) {
             session_.user.pumpMessages();
             if (job_.isCancelled()) return;
-            // No contents, no file: a codec failure is not noticed.
-            const QByteArray texture = work.next();
-            const FilePath target = files[i].targetFolder.child(files[i].fileName);
-            if (!texture.isEmpty()) session_.files.write(target, texture);
+            if (const QByteArray repeated = work.next(); !repeated.isEmpty())
+                session_.files.write(targets[i], repeated);
             advance(progress, i, files.size());
         }
         session_.user.updateProgress({}, {}, 100);

@@ -4,6 +4,8 @@
 #include "imaging/colour_values.h"
 #include "imaging/pixel_buffer.h"
 #include "sets/catalogue_file.h"
+#include "sets/spelled_files.h"
+#include "sets/texture_image.h"
 
 #include <array>
 #include <vector>
@@ -24,8 +26,8 @@ struct PassDescription {
 };
 
 /// Pass one recolours the base files into intermediate bitmaps, pass two compresses those into the set's
-/// folder. Pixels are worked on over all cores; files are written, messages shown and cancels seen on the
-/// caller's thread and in list order.
+/// folder. Files are read, worked on and written over all cores; messages are shown and cancels seen on the
+/// caller's thread and in list order. A cancel or a failure may leave the next few files of the list behind.
 class TexturePasses {
 public:
     TexturePasses(Session& session, const Job& job, const PassDescription& description)
@@ -43,9 +45,10 @@ private:
     Progress openProgress(const QString& verb, int process, std::size_t count);
     void showProgress(const QString& text);
     void advance(Progress& progress, std::size_t index, std::size_t count);
-    void saveColoured(const CatalogueFile& file);
+    void takeColoured(ColouredFile&& coloured, const FilePath& target);
     void makeTempFolders(const std::vector<CatalogueFile>& files);
     void makeSetFolders();
+    SpelledFiles spelled(const std::vector<CatalogueFile>& files, FilePath CatalogueFile::*folder);
 
     Session& session_;
     const Job& job_;

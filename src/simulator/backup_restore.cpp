@@ -1,6 +1,7 @@
 #include "simulator/backup_restore.h"
 
 #include "core/attempts.h"
+#include "core/disk_spelling.h"
 #include "core/failure_report.h"
 #include "core/numbers.h"
 #include "sets/simulator_copy.h"
@@ -16,14 +17,16 @@ namespace {
 /// in nothing but case, each stands for itself.
 void addTextures(Session& session, const BackupPlace& place, std::vector<FileCopy>& copies) {
     const FilePath simulator = place.simulator.resolved();
-    const QStringList names = session.files.list(place.backup, u"*.bmp"_s);
+    DiskSpelling spelling(session.files, simulator);
+    const FilePath backup = place.backup.resolved();
+    const QStringList names = session.files.list(backup, u"*.bmp"_s);
     QHash<QString, int> spellings;
     for (const QString& name : names)
         ++spellings[name.toCaseFolded()];
     for (const QString& name : names) {
         const bool isAlone = spellings.value(name.toCaseFolded()) == 1;
-        copies.push_back({place.backup.child(name),
-                          isAlone ? simulator.child(name).resolved() : simulator.exactChild(name)});
+        const QString own = isAlone && FilePath::isChildName(name) ? spelling.find(name).fileName() : name;
+        copies.push_back({backup.exactChild(name), simulator.exactChild(own)});
     }
 }
 
@@ -36,10 +39,11 @@ std::vector<FileCopy> texturesOf(Session& session, const QString& name) {
 }
 
 /// Which of the report's numbers the file counts in.
-int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const FileCopy& copy, bool isOurs) {
+int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const FileCopy& copy, bool isOurs,
+                            const CheckedFile& checked) {
     const bool isDone = attempt([&] {
         if (isOurs) copier.announce(copy);
-        copier.copy(copy);
+        copier.copy(copy, checked.there);
     });
     if (isDone) return &RestoreReport::putBack;
     bool isReadOnly = false;
@@ -60,10 +64,10 @@ RestoreReport copyBack(Session& session, const QString& name) {
             ++report.failed;
         else if (list.isDamaged(copy.source, source->print))
             ++report.damaged;
-        else if (source->stands)
+        else if (source->stands())
             ++report.standing;
         else
-            ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, source->print)));
+            ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, source->print), *source));
     });
     copier.finish();
     return report;

@@ -79,7 +79,7 @@ bool BackupRun::copyAll(CopyWalk& walk) {
 
 /// What a run that was cut short has brought stands already.
 void BackupRun::copy(const FileCopy& copy) {
-    if (!session_.files.exists(copy.target) || !checkCopy(copy).stands)
+    if (!session_.files.exists(copy.target) || !checkCopy(copy).stands())
         replaceFile(session_.files, copy.source, copy.target);
 }
 
@@ -89,7 +89,7 @@ bool BackupRun::checkAll(CopyWalk& walk) {
     int saved = 0;
     const bool isWhole = walk.round(&job_, [&](const FileCopy& copy) {
         const std::optional<CheckedFile> file = checks.next();
-        if (file && file->stands) {
+        if (file && file->stands()) {
             list_.add(copy.target, file->print);
             ++saved;
         } else {

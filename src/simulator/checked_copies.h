@@ -5,34 +5,32 @@
 #include "core/ordered_work.h"
 #include "sets/originals.h"
 
-#include <deque>
 #include <optional>
 
 namespace morvane {
 
 struct CheckedFile {
-    FileFingerprint print; ///< of the source
-    bool stands;           ///< the target has the same contents already
+    FileFingerprint print;         ///< of the source
+    std::optional<SeenFile> there; ///< the target, if there is one
+
+    /// It has the same contents already.
+    bool stands() const { return there && there->print == print; }
 };
 /// Reads both. Raises when one of them cannot be read; a missing target is no failure. Any thread may call
 /// it.
 CheckedFile checkCopy(const FileCopy& copy);
 
-/// The same for a list of copies in its order, done on the other cores while those before are worked on;
-/// several at a time, as a thread for each small file would cost more than it saves.
+/// The same for a list of copies in its order, done on the other cores while those before are worked on.
 class CheckAhead {
 public:
     /// The list has to outlive the object.
     explicit CheckAhead(const std::vector<FileCopy>& copies);
 
     /// Of the next copy; nothing where a file cannot be read. Call it once for each copy.
-    std::optional<CheckedFile> next();
+    std::optional<CheckedFile> next() { return work_.next(); }
 
 private:
-    using Checked = std::deque<std::optional<CheckedFile>>;
-
-    OrderedWork<Checked> work_;
-    Checked checked_;
+    OrderedShares<std::optional<CheckedFile>> work_;
 };
 
 /// The bar of a job that goes once or several times through the same list.

@@ -82,7 +82,7 @@ void copyOverExisting(Session& session, const std::vector<FileCopy>& copies) {
     for (const FileCopy& copy : copies) {
         // The look at its attributes has always failed for a missing file: what a simulator has not, the
         // switches do not bring. Wanted.
-        if (!session.files.exists(copy.target)) throw Error(ErrorCode::fileNotFound, copy.target.text());
+        if (!copier.isThere(copy)) throw Error(ErrorCode::fileNotFound, copy.target.text());
         copier.copyOverReadOnly(copy);
         session.user.updateProgress({}, {}, position += step);
     }

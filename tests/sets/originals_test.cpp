@@ -100,6 +100,27 @@ TEST_F(OriginalsTest, aLaterFileOfThePilotsIsKeptBesideTheFirst) {
     EXPECT_EQ(readFile(keptFiles / u"Texture\\a (3).bmp"), "the third"); // kept files themselves always stay
 }
 
+/// A copy is spared where its bytes stand already, unless they have come to be others since they were read,
+/// or it would end as another file than now.
+TEST_F(OriginalsTest, aCopyWhoseBytesStandIsSpared) {
+    const FileCopy copy{app / u"ours.bmp", target(a)};
+    const std::pair<std::function<void()>, bool> cases[] = {
+        {[] {}, true},
+        {[&] { writeFile(target(a), "another program's"); }, false},
+        {[&] { files.remove(target(a)); }, false},
+        {[&] { files.setReadOnly(target(a), true); }, false},
+    };
+    for (const auto& [meanwhile, isSpared] : cases) {
+        writeFile(copy.source, "ours");
+        writeFile(target(a), "ours");
+        Originals prepared = originals();
+        prepared.prepare({copy});
+        const FilePath place = prepared.place(copy);
+        meanwhile();
+        EXPECT_EQ(prepared.stands(copy, place), isSpared);
+    }
+}
+
 /// What we copy may have the pilot's own bytes: his file stays his, killed installs or not.
 TEST_F(OriginalsTest, aFileEqualToOursIsThePilotsWithoutAFactThatSaysOtherwise) {
     for (const int part : {1, 2, 3}) { // whole, killed before its end and before the copy
@@ -223,6 +244,22 @@ TEST_F(OriginalsTest, aRestoreTakesBackWhatIsOursAndLeavesTheRest) {
     install("ours", paths);
     EXPECT_EQ(originals().restore().left, QStringList());
     EXPECT_EQ(contents(left[0]) + contents(left[1]), "another'sanother's");
+}
+
+/// Files are looked at ahead of their turn; what the pilot writes meanwhile is his.
+TEST_F(OriginalsTest, aFileThatIsWrittenDuringARestoreStays) {
+    const QString kept = u"Texture\\b.bmp"_s, added = u"Texture\\c.bmp"_s;
+    for (const QString& path : {QString(a), kept})
+        writeFile(target(path), "the pilot's");
+    install("ours", {a, kept, added});
+    const OriginalsReport report = originals().restore([&](double) {
+        for (const QString& path : {kept, added})
+            writeFile(target(path), "written meanwhile");
+    });
+    EXPECT_EQ(report.left, (QStringList{kept, added}));
+    EXPECT_EQ(contents(a), "the pilot's");
+    for (const QString& path : {kept, added})
+        EXPECT_EQ(contents(path), "written meanwhile");
 }
 
 /// A mark that we took comes back, one that the pilot has set since stays, and a file that was away gets the

@@ -19,7 +19,8 @@ void FaultyFileSystem::failAt(int n, bool forever) {
     operations_ = 0;
     failing_ = n;
     forever_ = forever;
-    isKilling_ = hasFailed_ = failedAtTest_ = false;
+    isKilling_ = false;
+    hasFailed_ = failedAtTest_ = false;
 }
 
 void FaultyFileSystem::killAt(int n) {
@@ -34,8 +35,8 @@ void FaultyFileSystem::fail(ErrorCode code, const FilePath& path) {
 }
 
 bool FaultyFileSystem::isFailing() {
-    ++operations_;
-    return failing_ > 0 && (operations_ == failing_ || (forever_ && operations_ > failing_));
+    const int operation = ++operations_;
+    return failing_ > 0 && (operation == failing_ || (forever_ && operation > failing_));
 }
 
 bool FaultyFileSystem::test() {

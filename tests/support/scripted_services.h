@@ -4,6 +4,7 @@
 #include "core/error.h"
 #include "core/file_system.h"
 
+#include <atomic>
 #include <deque>
 #include <vector>
 
@@ -92,9 +93,12 @@ private:
     FileSystem& act(const FilePath& path);
     void takeRoom(const FilePath& file, qint64 size);
     NativeFileSystem real_;
-    qint64 room_ = -1;
-    int operations_ = 0, failing_ = 0;
-    bool forever_ = false, isKilling_ = false, hasFailed_ = false, failedAtTest_ = false;
+    // Several threads of a job work with the same files.
+    std::atomic<qint64> room_ = -1;
+    std::atomic<int> operations_ = 0;
+    int failing_ = 0;
+    bool forever_ = false, isKilling_ = false;
+    std::atomic<bool> hasFailed_ = false, failedAtTest_ = false;
 };
 
 } // namespace morvane::test
