@@ -114,9 +114,8 @@ public:
     }
     /// Puts the set into the simulator and returns the number of its files.
     int installSet() {
-        session_.state<GroundSelection>().SelectedGroundSet = setNames_.last();
         GroundInstallation installation(session_);
-        installation.installTextureSet(true);
+        installation.installTextureSet(setNames_.last());
         return installation.filesCopied();
     }
 

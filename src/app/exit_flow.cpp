@@ -84,14 +84,8 @@ void checkResetTextures(Session& session) {
     const QString sky = installedCover(*session.rows<clsSkyTextureSets>(), &clsSkyTextureSet::SkyTextureSet);
     if (ground.isEmpty() && sky.isEmpty()) return;
     if (!session.user.ask(Question::reset, resetQuestion(ground, sky))) return;
-    if (!ground.isEmpty()) {
-        session.state<GroundSelection>().SelectedGroundSet = defaultSetName;
-        GroundInstallation(session).installTextureSet(true);
-    }
-    if (!sky.isEmpty()) {
-        session.state<SkySelection>().SelectedSkySet = defaultSetName;
-        SkyInstallation(session).installSkySet(true);
-    }
+    if (!ground.isEmpty()) GroundInstallation(session).installTextureSet(defaultSetName);
+    if (!sky.isEmpty()) SkyInstallation(session).installSkySet(defaultSetName);
 }
 
 void exitProgram(Session& session) {

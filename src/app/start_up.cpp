@@ -3,6 +3,7 @@
 #include "app/first_run.h"
 #include "app/joined_rooms.h"
 #include "core/failure_report.h"
+#include "core/file_helpers.h"
 #include "core/install_folder.h"
 #include "core/numbers.h"
 #include "core/registry.h"
@@ -20,10 +21,6 @@ namespace morvane {
 
 namespace {
 
-bool holdsSimulator(Session& session, const QString& path) {
-    return !path.isEmpty() && session.files.exists(FilePath(path) / u"fs9.exe");
-}
-
 /// Asks until a folder with the simulator is chosen; empty when the user gives up.
 QString askForSimulator(Session& session) {
     session.user.systemBox(
@@ -32,7 +29,7 @@ QString askForSimulator(Session& session) {
         {}, SystemBoxButtons::ok);
     while (true) {
         const QString path = session.user.browseForFolder({});
-        if (holdsSimulator(session, path)) return path;
+        if (holdsSimulator(session.files, path)) return path;
         const bool again = session.user.systemBox(u"The folder path you selected does not contain FS9.EXE. "
                                                   u"Please verify your FS2004 path and try again. "
                                                   "You can do this by right-clicking your shortcut to Flight "
@@ -65,7 +62,7 @@ QString foundInPrefixes(Session& session, const QString& named) {
 bool findSimulator(Session& session) {
     QString path =
         StripBackslash(session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s));
-    if (!holdsSimulator(session, path)) {
+    if (!holdsSimulator(session.files, path)) {
         path = foundInPrefixes(session, path);
         if (path.isEmpty()) path = askForSimulator(session);
         if (path.isEmpty()) return false;
@@ -100,7 +97,7 @@ void prepareToWrite(Session& session) {
 
 } // namespace
 
-bool startUp(Session& session, InstallUse use) {
+Reported startUp(Session& session, InstallUse use) {
     joinRooms(session);
     if (const QString problem = installFolderProblem(session.files, session.AppPath, use);
         !problem.isEmpty()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/install_folder.h"
+#include "core/reported.h"
 
 namespace morvane {
 
@@ -12,6 +13,6 @@ class Session;
 /// process then ends without the exit flow.
 /// Where nobody may write a start for reading leaves out what it would write: the first run, the upgrade and
 /// the store's new columns.
-bool startUp(Session& session, InstallUse use = InstallUse::writing);
+Reported startUp(Session& session, InstallUse use = InstallUse::writing);
 
 } // namespace morvane

@@ -2,6 +2,7 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "core/failure_report.h"
+#include "core/file_helpers.h"
 #include "core/flights_folder.h"
 #include "core/registry.h"
 #include "core/store.h"
@@ -26,7 +27,7 @@ struct Setting {
 };
 
 QString simulatorProblem(Session& session, const QString& folder) {
-    if (session.files.exists(FilePath(folder) / u"fs9.exe")) return {};
+    if (holdsSimulator(session.files, folder)) return {};
     return u"The folder does not contain FS9.EXE: "_s + folder;
 }
 

@@ -1,13 +1,11 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "core/file_helpers.h"
-#include "ground/ground_selection.h"
 #include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
 #include "simulator/flights.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
-#include "sky/sky_selection.h"
 #include "weather/cover_choice.h"
 
 #include <QJsonArray>
@@ -35,25 +33,28 @@ QString startOf(const Session& session, const FlyReport& report) {
 }
 
 QJsonObject toJson(const Session& session, const FlyReport& report) {
-    const bool isInstalled = report.filesCopied >= 0;
-    const auto nameOf = [isInstalled](const QString& set) {
-        return isInstalled ? QJsonValue(set) : QJsonValue(); // null
-    };
-    return {{u"ground"_s, nameOf(session.state<GroundSelection>().SelectedGroundSet)},
-            {u"sky"_s, nameOf(session.state<SkySelection>().SelectedSkySet)},
-            {u"files"_s, std::max(report.filesCopied, 0)},
-            {u"start"_s, startOf(session, report)}};
+    QJsonObject json{
+        {u"ground"_s, {}}, {u"sky"_s, {}}, {u"files"_s, 0}, {u"start"_s, startOf(session, report)}};
+    if (!report.installed) return json;
+    json[u"ground"_s] = report.installed->ground;
+    json[u"sky"_s] = report.installed->sky;
+    json[u"files"_s] = report.installed->filesCopied;
+    return json;
+}
+
+/// Nothing after the message of what is wrong with the report.
+const CloudCover* coverOf(CommandContext& context) {
+    if (!context.options.contains(metarOption)) return cloudCoverOfCode(context.arguments[0]);
+    const std::int16_t cloudClass = processMetarString(context.session, context.options[metarOption]);
+    return cloudClass == 0 ? nullptr : &coverOfClass(cloudClass);
 }
 
 void fly(CommandContext& context) {
-    Session& session = context.session;
-    if (context.options.contains(metarOption)) {
-        if (!processMetarString(session, context.options[metarOption])) return;
-    } else {
-        session.CommandLineRun = true; // as when another program drives this one
-        setCover(session, static_cast<std::int16_t>(cloudCoverOfCode(context.arguments[0])->number));
-    }
-    printJson(QJsonDocument(toJson(session, flyWithCover(session))));
+    const CloudCover* cover = coverOf(context);
+    if (!cover) return;
+    if (!context.options.contains(metarOption))
+        context.session.CommandLineRun = true; // as when another program drives this one
+    printJson(QJsonDocument(toJson(context.session, flyWithCover(context.session, *cover))));
 }
 
 QString flyProblem(const QStringList& operands, const QHash<QString, QString>& options) {

@@ -2,7 +2,7 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "core/numbers.h"
-#include "simulator/set_matching.h"
+#include "sets/cloud_cover.h"
 #include "weather/flight_plan.h"
 #include "weather/report_filter.h"
 
@@ -76,7 +76,7 @@ QJsonObject toJson(const FlightPlan& plan, const PlanWeather& weather) {
     QJsonArray waypoints;
     for (const Waypoint& waypoint : weather.waypoints)
         waypoints << toJson(waypoint);
-    const QString cover = weather.coverClass == 0 ? QString() : SetMatching::coverWord(weather.coverClass);
+    const QString cover = weather.coverClass == 0 ? QString() : coverOfClass(weather.coverClass).word;
     return {{u"departure"_s, plan.departure},
             {u"destination"_s, plan.destination},
             {u"altitude"_s, plan.altitude},

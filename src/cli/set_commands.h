@@ -75,7 +75,7 @@ private:
         if (set && activationOf(*set) != flagText(true))
             refuse(context, nameOf(*set), u"is not activated"_s);
         else if (set)
-            Kind::install(context.session, true);
+            Kind::install(context.session, nameOf(*set));
     }
 
     static void refuse(CommandContext& context, const QString& name, const QString& reason) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/error.h"
+#include "core/reported.h"
 #include "core/user_interface.h"
 
 #include <new>
@@ -22,10 +23,9 @@ void showFailure(UserInterface& user, const FailureReport& report, const QString
 
 /// The boundary of a routine: runs it, and turns an exception into the one message of the report, but for
 /// `interrupted`, which ends the routine without a word.
-/// True when the routine came to its end. A failure is told once and never crosses this line, so the caller
-/// goes on with what it has.
+/// A failure is told once and never crosses this line, so the caller goes on with what it has.
 template <class Routine>
-bool reportFailures(UserInterface& user, const FailureReport& report, Routine&& routine) {
+Reported reportFailures(UserInterface& user, const FailureReport& report, Routine&& routine) {
     try {
         routine();
         return true;

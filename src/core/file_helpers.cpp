@@ -18,6 +18,10 @@ bool isSameFolder(const FilePath& one, const FilePath& other) {
     return std::filesystem::equivalent(pathOf(one), pathOf(other), failure);
 }
 
+bool holdsSimulator(FileSystem& files, const QString& folder) {
+    return !folder.isEmpty() && files.exists(FilePath(folder) / u"fs9.exe");
+}
+
 QString fileTimeText(const FilePath& path) {
     const QFileInfo info(path.native());
     if (!info.isFile() || !info.isReadable()) return {};

@@ -8,6 +8,9 @@ namespace morvane {
 /// nowhere is the same as none.
 bool isSameFolder(const FilePath& one, const FilePath& other);
 
+/// Whether the simulator's program lies in the folder; not in one without a name.
+bool holdsSimulator(FileSystem& files, const QString& folder);
+
 /// Last write time as "2006/07/14 14:07:00": local time, the seconds always "00". Empty for a file that
 /// cannot be opened.
 QString fileTimeText(const FilePath& path);

@@ -4,11 +4,8 @@
 #include "core/held_files.h"
 
 #include <QByteArray>
-#include <QIODevice>
 #include <cstdint>
 #include <optional>
-
-class QFile;
 
 namespace morvane {
 
@@ -96,7 +93,6 @@ public:
     void append(const FilePath& file, const QByteArray& contents) override;
 
 private:
-    void open(QFile& file, const FilePath& path, QIODevice::OpenMode mode);
     HeldFiles heldFiles_;
 };
 

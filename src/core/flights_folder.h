@@ -8,8 +8,8 @@ class Session;
 
 // Where the user keeps saved flights and flight plans. What is chosen stands in the registry.
 
-/// "Flight Simulator Files" below the documents, or the
-/// folder that is asked for when there is none. Empty when the user named none.
+/// "Flight Simulator Files" below the documents, or the folder that is asked for when there is none. Empty
+/// when the user named none.
 FilePath userFlightsFolder(Session& session);
 
 /// Folder in which the user keeps saved flights, asked for until it is usable; empty when the user cancels.

@@ -21,12 +21,13 @@ std::int64_t now() {
 
 bool HeldFiles::outlast(const FilePath& file) {
     const std::filesystem::path path = file.native().toStdU16String();
-    if (!isHeldByOther(path)) return false;
+    const std::optional<bool> isHeld = isHeldByOther(path);
+    if (!isHeld || !*isHeld) return isHeld.has_value();
     const bool isLater = lastInVain_ != 0 && now() - lastInVain_ < sameJob;
     const QDeadlineTimer patience(isLater ? laterPatience : firstPatience);
     while (!patience.hasExpired()) {
         QThread::msleep(pause);
-        if (!isHeldByOther(path)) return true;
+        if (!*isHeldByOther(path)) return true;
     }
     lastInVain_ = now();
     return false;

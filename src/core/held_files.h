@@ -12,8 +12,8 @@ namespace morvane {
 /// waited for two seconds, those that follow it a tenth each.
 class HeldFiles {
 public:
-    /// True when the file was held and has been let go of: what failed is worth another try. At once where
-    /// nobody holds it.
+    /// Waits while the file is held. Whether what failed is worth another try: always when nobody holds it
+    /// any more, as it may have been let go of just now.
     bool outlast(const FilePath& file);
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 namespace morvane {
@@ -13,8 +14,9 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
 /// Whether it may be written to or not, as the folder alone decides.
 std::error_code removeFile(const std::filesystem::path& file);
 
-/// Whether another program has it open and keeps all others from replacing it.
-bool isHeldByOther(const std::filesystem::path& file);
+/// Whether another program has it open and keeps all others from replacing it; nothing on a system where no
+/// program can.
+std::optional<bool> isHeldByOther(const std::filesystem::path& file);
 
 /// Refuses a folder that is not empty, and what is no folder.
 std::error_code removeEmptyFolder(const std::filesystem::path& folder);

@@ -15,9 +15,8 @@ std::error_code removeFile(const std::filesystem::path& file) {
     return ::unlink(file.c_str()) == 0 ? std::error_code() : std::error_code(errno, std::system_category());
 }
 
-/// What is open here can be replaced all the same.
-bool isHeldByOther(const std::filesystem::path&) {
-    return false;
+std::optional<bool> isHeldByOther(const std::filesystem::path&) {
+    return std::nullopt;
 }
 
 std::error_code removeEmptyFolder(const std::filesystem::path& folder) {

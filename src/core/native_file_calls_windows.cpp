@@ -32,7 +32,7 @@ std::error_code removeFile(const std::filesystem::path& file) {
 }
 
 /// A rename's own error does not tell: it is the same as that of a lack of rights.
-bool isHeldByOther(const std::filesystem::path& file) {
+std::optional<bool> isHeldByOther(const std::filesystem::path& file) {
     constexpr DWORD everyShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE handle =
         CreateFileW(file.c_str(), GENERIC_READ | DELETE, everyShare, nullptr, OPEN_EXISTING, 0, nullptr);

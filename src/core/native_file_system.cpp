@@ -59,6 +59,15 @@ ErrorCode noFolderOrDenied(const QFile& file) {
     return hasFolder ? ErrorCode::permissionDenied : ErrorCode::pathNotFound;
 }
 
+// Opening has one error for what is missing and what is closed to this user: a look at what is there tells
+// them apart.
+void openFile(QFile& file, const FilePath& path, QIODevice::OpenMode mode, HeldFiles& heldFiles) {
+    if (file.open(mode) || (heldFiles.outlast(path) && file.open(mode))) return;
+    const bool isWriting = mode.testFlag(QIODevice::WriteOnly);
+    throw Error(codeOf(file.error(), isWriting ? noFolderOrDenied(file) : missingOrDenied(path)),
+                path.text());
+}
+
 void writeAll(QFileDevice& file, const char* bytes, qint64 count, const FilePath& path) {
     if (file.write(bytes, count) != count)
         throw Error(codeOf(file.error(), ErrorCode::diskFull), path.text());
@@ -73,15 +82,6 @@ QStringList sortedByUpperName(QStringList names) {
 }
 
 } // namespace
-
-// Opening has one error for what is missing and what is closed to this user: a look at what is there tells
-// them apart.
-void NativeFileSystem::open(QFile& file, const FilePath& path, QIODevice::OpenMode mode) {
-    if (file.open(mode) || (heldFiles_.outlast(path) && file.open(mode))) return;
-    const bool isWriting = mode.testFlag(QIODevice::WriteOnly);
-    throw Error(codeOf(file.error(), isWriting ? noFolderOrDenied(file) : missingOrDenied(path)),
-                path.text());
-}
 
 bool NativeFileSystem::exists(const FilePath& path) {
     return QFileInfo::exists(path.native());
@@ -122,9 +122,9 @@ void NativeFileSystem::makeFolder(const FilePath& folder) {
 
 void NativeFileSystem::copyContents(const FilePath& source, const FilePath& target) {
     QFile in(source.native());
-    open(in, source, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    openFile(in, source, QIODevice::ReadOnly | QIODevice::Unbuffered, heldFiles_);
     QFile out(target.native());
-    open(out, target, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+    openFile(out, target, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered, heldFiles_);
     QByteArray block(std::min(copyBlockSize, std::max<qint64>(in.size(), 1)), Qt::Uninitialized);
     while (true) {
         const qint64 count = in.read(block.data(), block.size());
@@ -136,7 +136,7 @@ void NativeFileSystem::copyContents(const FilePath& source, const FilePath& targ
 
 void NativeFileSystem::rename(const FilePath& source, const FilePath& target) {
     std::error_code error = renameInOneStep(systemPath(source), systemPath(target));
-    if (error && (heldFiles_.outlast(target) || heldFiles_.outlast(source)))
+    if (error && heldFiles_.outlast(target) && heldFiles_.outlast(source))
         error = renameInOneStep(systemPath(source), systemPath(target));
     raise(error, target);
 }
@@ -198,7 +198,7 @@ std::int64_t NativeFileSystem::freeSpace(const FilePath& folder) {
 
 QByteArray NativeFileSystem::read(const FilePath& file) {
     QFile in(file.native());
-    open(in, file, QIODevice::ReadOnly);
+    openFile(in, file, QIODevice::ReadOnly, heldFiles_);
     const QByteArray contents = in.readAll();
     if (in.error() != QFileDevice::NoError) throw Error(ErrorCode::ioFailure, file.text());
     return contents;
@@ -208,7 +208,7 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
     const FilePath placed = file.resolved(), part = partOf(placed);
     try {
         QFile out(part.native());
-        open(out, part, QIODevice::WriteOnly | QIODevice::Unbuffered);
+        openFile(out, part, QIODevice::WriteOnly | QIODevice::Unbuffered, heldFiles_);
         writeAll(out, contents.constData(), contents.size(), part);
         out.close();
         rename(part, placed);
@@ -220,7 +220,7 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {
     QFile out(file.native());
-    open(out, file, QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered);
+    openFile(out, file, QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered, heldFiles_);
     writeAll(out, contents.constData(), contents.size(), file);
 }
 

@@ -30,8 +30,8 @@ QString runnerAdvice(const QString& name, const std::optional<WinePrefix>& prefi
 
 } // namespace
 
-bool startWithRunner(Session& session, const QString& name, const FilePath& program,
-                     const FilePath& document) {
+Reported startWithRunner(Session& session, const QString& name, const FilePath& program,
+                         const FilePath& document) {
     QString runner = ownValue(session.registry, u"SimulatorRunner"_s);
     std::optional<WinePrefix> prefix;
     if (lacksRunner(program, runner)) {

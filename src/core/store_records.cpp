@@ -17,7 +17,7 @@ Store& connectedStore(const Session& session) {
     return *session.adoConn;
 }
 
-bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine) {
+Reported reportInSystemBox(UserInterface& user, const std::function<void()>& routine) {
     try {
         routine();
         return true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/keyed_collection.h"
+#include "core/reported.h"
 #include "core/row_set.h"
 #include "core/session.h"
 #include "core/store.h"
@@ -66,7 +67,7 @@ bool hasStore(const Session& session);
 Store& connectedStore(const Session& session);
 
 /// Runs the routine; a failure is told in a plain system box without title, as the oldest loaders do.
-bool reportInSystemBox(UserInterface& user, const std::function<void()>& routine);
+Reported reportInSystemBox(UserInterface& user, const std::function<void()>& routine);
 
 /// Raises "Overflow" for a key beyond 16 bits.
 std::int16_t readNewestKey(Store& store, const NewestKey& newestKey);

@@ -1,4 +1,5 @@
-#include "core/error.h"
+#include "core/attempts.h"
+#include "core/file_helpers.h"
 #include "core/registry.h"
 
 namespace morvane {
@@ -22,12 +23,9 @@ bool isSimulatorKey(int root, const QString& key, const QString& machine = {}) {
 } // namespace
 
 bool UserRegistry::holdsSimulator(const QString& folder) const {
-    if (folder.isEmpty()) return false;
-    try {
-        return files_.exists(FilePath(folder) / u"fs9.exe");
-    } catch (const Error&) {
-        return false;
-    }
+    bool isThere = false;
+    attempt([&] { isThere = morvane::holdsSimulator(files_, folder); });
+    return isThere;
 }
 
 /// Where the value is read.

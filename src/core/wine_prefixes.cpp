@@ -49,7 +49,7 @@ FilePath simulatorAt(FileSystem& files, const WinePrefix& prefix, const QString&
         const QString root = driveRoot(prefix, path);
         if (root.isEmpty()) return;
         const FilePath folder = FilePath(root) / QStringView(path).sliced(2);
-        if (files.exists(folder / u"fs9.exe")) found = FilePath(folder.native());
+        if (holdsSimulator(files, folder.native())) found = FilePath(folder.native());
     });
     return found;
 }

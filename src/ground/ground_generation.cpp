@@ -95,7 +95,8 @@ void GroundGeneration::dropUnfinishedSet() {
     cleanTempBitmaps(session_);
 }
 
-bool GroundGeneration::createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain) {
+Reported GroundGeneration::createRandomSet(const Job& job, int cloudNumber, Counters counters,
+                                           bool fromMain) {
     // A run that fails before its set has a row must not leave an earlier set's name behind for the cancel.
     session_.state<GroundSelection>().SelectedGroundSet.clear();
     SliderValues sliders{};

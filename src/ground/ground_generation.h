@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "ground/ground_sets.h"
 #include "sets/catalogue_file.h"
 #include "sets/set_generation.h"
@@ -28,7 +29,7 @@ public:
 private:
     bool createAll(const Job& job, int total, bool fromMain);
     void dropUnfinishedSet();
-    bool createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain);
+    Reported createRandomSet(const Job& job, int cloudNumber, Counters counters, bool fromMain);
     bool createSet(const Job& job, int cloudNumber, const SliderValues& sliders, Counters counters,
                    bool fromMain);
     void reportDuration(const QTime& start, const QTime& end, int total);

@@ -23,14 +23,13 @@ const InstallationKind groundKind{
 GroundInstallation::GroundInstallation(Session& session)
     : SetInstallation(session, setKind<GroundKind>(), groundKind) {}
 
-bool GroundInstallation::installSelectedSet() {
+Reported GroundInstallation::installSet(const QString& name) {
     if (!refreshGroundSets(session_)) return false;
-    return session_.state<GroundSelection>().SelectedGroundSet == defaultSetName ? installDefaultSet()
-                                                                                 : installGeneratedSet();
+    return name == defaultSetName ? installDefaultSet() : installGeneratedSet(name);
 }
 
-std::vector<FileCopy> GroundInstallation::copyListOfSet() {
-    const FilePath setFolder = groundSetFolder(session_, session_.state<GroundSelection>().SelectedGroundSet);
+std::vector<FileCopy> GroundInstallation::copyListOfSet(const QString& name) {
+    const FilePath setFolder = groundSetFolder(session_, name);
     std::vector<FileCopy> copies;
     addFolderFiles(session_, setFolder / u"Texture", u"*.bmp"_s, worldTexture(), copies);
     // Annotation files are no part of a set: every install brings the same ones.
@@ -41,7 +40,7 @@ std::vector<FileCopy> GroundInstallation::copyListOfSet() {
         addFolderFiles(session_, setFolder / u"Dutch", u"*.bmp"_s, worldTexture(), copies);
         addFolderFiles(session_, session_.AppPath / u"DUTCH", u"*.agn"_s, worldTexture(), copies);
     }
-    if (session_.state<OptionsInForce>().IsTropical) addTropicalFiles(copies);
+    if (session_.state<OptionsInForce>().IsTropical) addTropicalFiles(name, copies);
     return copies;
 }
 
@@ -58,19 +57,17 @@ std::vector<FileCopy> GroundInstallation::copyListOfDefault() {
         addFolderFiles(session_, app / u"DUTCH", u"*.bmp"_s, worldTexture(), copies);
         addFolderFiles(session_, app / u"DUTCH", u"*.agn"_s, worldTexture(), copies);
     }
-    if (session_.state<OptionsInForce>().IsTropical) addTropicalFiles(copies);
+    if (session_.state<OptionsInForce>().IsTropical) addTropicalFiles(defaultSetName, copies);
     return copies;
 }
 
-void GroundInstallation::addTropicalFiles(std::vector<FileCopy>& copies) {
-    for (const FilePath& file :
-         tropicalFiles(session_, TropicalForm::b, session_.state<GroundSelection>().SelectedGroundSet))
+void GroundInstallation::addTropicalFiles(const QString& name, std::vector<FileCopy>& copies) {
+    for (const FilePath& file : tropicalFiles(session_, TropicalForm::b, name))
         copies.push_back({file, worldTexture().child(tropicalName(file.fileName()))});
 }
 
-bool GroundInstallation::installGeneratedSet() {
-    const QString name = session_.state<GroundSelection>().SelectedGroundSet;
-    const std::vector<FileCopy> copies = copyListOfSet();
+bool GroundInstallation::installGeneratedSet(const QString& name) {
+    const std::vector<FileCopy> copies = copyListOfSet(name);
     // The store says "installed" before the first file is copied, also when the copying then fails.
     if (!loadedGroundSets(session_).markInstalled(name)) return false;
     const auto record = findGroundSet(session_, name);

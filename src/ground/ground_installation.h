@@ -1,24 +1,26 @@
 #pragma once
 
+#include "core/reported.h"
 #include "sets/set_installation.h"
 
 namespace morvane {
 
-/// The install of the ground set in hand (session.state<GroundSelection>().SelectedGroundSet).
+/// The install of a ground set; that in hand is session.state<GroundSelection>().SelectedGroundSet.
 class GroundInstallation : public SetInstallation {
 public:
     explicit GroundInstallation(Session& session);
 
-    /// As SetInstallation::install.
-    bool installTextureSet(bool automatic) { return install(automatic); }
+    // As SetInstallation::install.
+    bool installTextureSet() { return install(); }
+    void installTextureSet(const QString& name) { install(name); }
 
 private:
-    bool installSelectedSet() override;
+    Reported installSet(const QString& name) override;
 
-    std::vector<FileCopy> copyListOfSet();
+    std::vector<FileCopy> copyListOfSet(const QString& name);
     std::vector<FileCopy> copyListOfDefault();
-    void addTropicalFiles(std::vector<FileCopy>& copies);
-    bool installGeneratedSet();
+    void addTropicalFiles(const QString& name, std::vector<FileCopy>& copies);
+    bool installGeneratedSet(const QString& name);
     bool installDefaultSet();
 
     FilePath worldTexture() const { return session_.FSPath / u"Scenery\\WORLD\\Texture"; }

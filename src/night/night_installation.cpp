@@ -23,8 +23,8 @@ FilePath worldTexture(const Session& session) {
 NightInstallation::NightInstallation(Session& session)
     : SetInstallation(session, setKind<NightKind>(), nightKind) {}
 
-std::vector<FileCopy> NightInstallation::copyListOfSet() {
-    const FilePath set = nightSetFolder(session_, session_.state<NightSelection>().SelectedNightSet);
+std::vector<FileCopy> NightInstallation::copyListOfSet(const QString& name) {
+    const FilePath set = nightSetFolder(session_, name);
     const FilePath target = worldTexture(session_);
     std::vector<FileCopy> copies;
     addFolderFiles(session_, set / u"Texture", u"*.bmp"_s, target, copies);
@@ -46,10 +46,9 @@ std::vector<FileCopy> NightInstallation::copyListOfDefault() {
 }
 
 /// The message comes before the record here; the record still comes before the first file.
-bool NightInstallation::installSelectedSet() {
+Reported NightInstallation::installSet(const QString& name) {
     if (!refreshNightSets(session_)) return false;
-    const QString name = session_.state<NightSelection>().SelectedNightSet;
-    const std::vector<FileCopy> copies = name == defaultSetName ? copyListOfDefault() : copyListOfSet();
+    const std::vector<FileCopy> copies = name == defaultSetName ? copyListOfDefault() : copyListOfSet(name);
     showProgress();
     SimulatorCopier copier(session_);
     prepare(copier, copies, nullptr);

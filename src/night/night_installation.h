@@ -1,22 +1,22 @@
 #pragma once
 
+#include "core/reported.h"
 #include "sets/set_installation.h"
 
 namespace morvane {
 
-/// The install of the night set in hand (session.state<NightSelection>().SelectedNightSet). The weather
-/// chooses no night, so there is no automatic install, nothing is asked and no splash is changed.
+/// The install of a night set; that in hand is session.state<NightSelection>().SelectedNightSet. The weather
+/// chooses no night: nothing is asked and no splash is changed.
 class NightInstallation : public SetInstallation {
 public:
     explicit NightInstallation(Session& session);
 
-    /// By hand, whoever asks: several rows are refused.
-    bool install(bool) { return SetInstallation::install(false); }
-    void installNightTextureSet() { install(false); }
+    /// As SetInstallation::install; the start of the simulator is not offered.
+    void installNightTextureSet() { install(); }
 
 private:
-    bool installSelectedSet() override;
-    std::vector<FileCopy> copyListOfSet();
+    Reported installSet(const QString& name) override;
+    std::vector<FileCopy> copyListOfSet(const QString& name);
     std::vector<FileCopy> copyListOfDefault();
 };
 

@@ -20,11 +20,13 @@ const CloudCover* findCover(Test test) {
 
 const CloudCover* cloudCovers() {
     static const CloudCover covers[cloudCoverCount] = {
-        {1, u"Sky Clear"_s, u"CLR"_s, u" (SKC)"_s, u"dlgSplashSKC.bmp"_s},
-        {2, u"Mostly Clear"_s, u"FEW"_s, u" (FEW)"_s, u"dlgSplashFEW.bmp"_s},
-        {3, u"Partly Cloudy"_s, u"SCT"_s, u" (SCT)"_s, u"dlgSplashSCT.bmp"_s},
-        {4, u"Mostly Cloudy"_s, u"BKN"_s, u" (BKN)"_s, u"dlgSplashBKN.bmp"_s},
-        {5, u"Overcast"_s, u"OVC"_s, u" (OVC)"_s, u"dlgSplashOVC.bmp"_s},
+        {1, u"Sky Clear"_s, u"CLR"_s, u" (SKC)"_s, u"dlgSplashSKC.bmp"_s, u"skc.bmp"_s, u"Clear Skies"_s},
+        {2, u"Mostly Clear"_s, u"FEW"_s, u" (FEW)"_s, u"dlgSplashFEW.bmp"_s, u"few.bmp"_s, u"Few Clouds"_s},
+        {3, u"Partly Cloudy"_s, u"SCT"_s, u" (SCT)"_s, u"dlgSplashSCT.bmp"_s, u"sct.bmp"_s,
+         u"Scattered Clouds"_s},
+        {4, u"Mostly Cloudy"_s, u"BKN"_s, u" (BKN)"_s, u"dlgSplashBKN.bmp"_s, u"bkn.bmp"_s,
+         u"Broken Clouds"_s},
+        {5, u"Overcast"_s, u"OVC"_s, u" (OVC)"_s, u"dlgSplashOVC.bmp"_s, u"ovc.bmp"_s, u"Overcast"_s},
     };
     return covers;
 }
@@ -40,6 +42,12 @@ const CloudCover* cloudCover(const QString& word) {
 
 const CloudCover* cloudCoverOfCode(const QString& code) {
     return findCover([&code](const CloudCover& cover) { return cover.code == code; });
+}
+
+const CloudCover& coverOfClass(int cloudClass) {
+    constexpr int middle = 3;
+    const CloudCover* cover = cloudCover(cloudClass);
+    return cover ? *cover : *cloudCover(middle);
 }
 
 } // namespace morvane

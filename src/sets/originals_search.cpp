@@ -2,6 +2,7 @@
 
 #include "core/disk_spelling.h"
 #include "core/error.h"
+#include "core/file_helpers.h"
 #include "core/literals.h"
 #include "sets/original_records.h"
 
@@ -123,7 +124,7 @@ private:
 
     std::optional<Evidence> evidenceOf(const FoundList& list) {
         constexpr int tooManyForChance = 20;
-        if (files_.exists(FilePath(list.text.simulator) / u"fs9.exe")) return std::nullopt;
+        if (holdsSimulator(files_, list.text.simulator)) return std::nullopt;
         const auto [replaced, ours, pilots, untouched] = standingOf(list);
         const auto here = tryRead([&] { return files_.stamp(simulator_); });
         const bool isFolder = here && here->number == list.text.folderNumber;

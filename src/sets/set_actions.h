@@ -17,13 +17,20 @@ void SetActions<Kind>::remove(Session& session, bool deactivateMode) {
 }
 
 template <class Kind>
-bool SetActions<Kind>::install(Session& session, bool automatic) {
-    return typename Kind::Installation(session).install(automatic);
+bool SetActions<Kind>::install(Session& session) {
+    return typename Kind::Installation(session).install();
 }
 
 template <class Kind>
-bool SetActions<Kind>::installInside(Session& session, Job& job) {
-    return typename Kind::Installation(session).installInside(job);
+int SetActions<Kind>::install(Session& session, const QString& name) {
+    typename Kind::Installation installation(session);
+    installation.install(name);
+    return installation.filesCopied();
+}
+
+template <class Kind>
+Reported SetActions<Kind>::installInside(Session& session, Job& job, const QString& name) {
+    return typename Kind::Installation(session).installInside(job, name);
 }
 
 } // namespace morvane

@@ -48,7 +48,7 @@ void SetGeneration::activateSeveral(Job& job, const QStringList& names) {
 }
 
 /// Everything that a damaged row makes fail, before anything is stored.
-bool SetGeneration::takeInHand(const StoredSet& set) {
+Reported SetGeneration::takeInHand(const StoredSet& set) {
     return reportFailures(session_.user, morvaneError, [&] {
         const ColourValues colours = parseColourSettings(set.colourSettings, session_.DecimalSep);
         set_.setFolder(session_, set.name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/job.h"
+#include "core/reported.h"
 #include "imaging/colour_values.h"
 #include "sets/catalogue_file.h"
 #include "sets/set_kind.h"
@@ -44,7 +45,7 @@ protected:
 
 private:
     void activateSeveral(Job& job, const QStringList& names);
-    bool takeInHand(const StoredSet& set);
+    Reported takeInHand(const StoredSet& set);
     bool activate(const Job& job, const StoredSet& set, Counters counters);
 
     const SetKind& set_;

@@ -6,29 +6,40 @@
 
 namespace morvane {
 
-bool SetInstallation::install(bool automatic) {
-    if (session_.jobRunning) return false;
-    Outcome outcome{};
-    {
-        Job job(session_, Job::Start::behindQuestions);
-        outcome = run(job, automatic);
-    }
-    const bool offersStart = !automatic && !session_.CommandLineRun && kind_.match.has_value();
+bool SetInstallation::install() {
+    const bool isInstalled = runAlone(true) == Outcome::installed;
     // The job has ended by now: what the user does before the answer is no part of it.
-    return outcome == Outcome::installed && offersStart;
+    return isInstalled && !session_.CommandLineRun && kind_.match.has_value();
 }
 
-SetInstallation::Outcome SetInstallation::run(Job& job, bool automatic) {
+void SetInstallation::install(const QString& name) {
+    set_.inHand(session_).name = name;
+    runAlone(false);
+}
+
+Reported SetInstallation::installInside(Job& job, const QString& name) {
+    set_.inHand(session_).name = name;
+    return run(job, false) != Outcome::storeRefused;
+}
+
+SetInstallation::Outcome SetInstallation::runAlone(bool isByHand) {
+    if (session_.jobRunning) return Outcome::failed;
+    Job job(session_, Job::Start::behindQuestions);
+    return run(job, isByHand);
+}
+
+SetInstallation::Outcome SetInstallation::run(Job& job, bool isByHand) {
     filesCopied_ = 0;
     Outcome outcome = Outcome::failed;
     reportFailures(session_.user, morvaneError, [&] {
-        if (!automatic && !prepareByHand(job)) return;
+        if (isByHand && !prepareByHand(job)) return;
         if (!job.begin()) return;
-        outcome = installSelectedSet() ? Outcome::installed : Outcome::storeRefused;
+        const QString name = set_.inHand(session_).name;
+        outcome = installSet(name) ? Outcome::installed : Outcome::storeRefused;
     });
     if (outcome != Outcome::installed || session_.CommandLineRun) return outcome;
     session_.user.refreshScreen(Screen::frm_Main);
-    if (automatic) return outcome;
+    if (!isByHand) return outcome;
     set_.inHand(session_).refreshList = true;
     session_.user.refreshScreen(set_.facts.listScreen);
     return outcome;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/job.h"
+#include "core/reported.h"
 #include "sets/set_kind.h"
 #include "sets/simulator_copy.h"
 
@@ -25,7 +26,7 @@ struct InstallationKind {
     int stepsBesideFiles; ///< of the progress bar
 };
 
-/// Puts the files of the set in hand into the simulator and records in the store that it is the installed
+/// Puts the files of a set into the simulator and records in the store that it is the installed
 /// one, before the first file is copied. Nothing is rolled back: a failure leaves old and new files side by
 /// side, each of them whole.
 class SetInstallation {
@@ -34,21 +35,22 @@ public:
         : session_(session), set_(set), kind_(kind) {}
     virtual ~SetInstallation() = default;
 
-    /// `automatic`: no questions, as on the road from the weather. Otherwise several rows are refused and a
-    /// matching set of the other kind is offered, which goes in first. True when the start of the simulator
-    /// is to be offered now (see offerSimulatorStart): behind an install by hand of a kind that the weather
-    /// chooses.
-    bool install(bool automatic);
-    /// The automatic install as a part of a job that is running already. False when the store refused to
-    /// record it: the job then ends, too.
-    bool installInside(Job& job) { return run(job, true) != Outcome::storeRefused; }
+    /// The set in hand, by hand: several rows are refused and a matching set of the other kind is offered,
+    /// which goes in first. True when the start of the simulator is to be offered now (see
+    /// offerSimulatorStart): behind the install of a kind that the weather chooses.
+    bool install();
+    /// The set of that name, which is taken in hand, without a question: as on the road from the weather.
+    void install(const QString& name);
+    /// The same as a part of a job that is running already. False when the store refused to record it: the
+    /// job then ends, too.
+    Reported installInside(Job& job, const QString& name);
 
     /// Files copied by the last install, the splash left out.
     int filesCopied() const { return filesCopied_; }
 
 protected:
     /// False when the store refused: nothing was copied then.
-    virtual bool installSelectedSet() = 0;
+    virtual Reported installSet(const QString& name) = 0;
 
     /// Splash, progress message and files of a set for that cover; an unknown cover has no splash.
     void putSet(const QString& coverWord, const std::vector<FileCopy>& copies);
@@ -68,7 +70,8 @@ protected:
 
 private:
     enum class Outcome { installed, failed, storeRefused };
-    Outcome run(Job& job, bool automatic);
+    Outcome runAlone(bool isByHand);
+    Outcome run(Job& job, bool isByHand);
     /// False when the install was refused, by the store or for its several rows.
     bool prepareByHand(Job& job);
     bool installMatch(Job& job, const MatchOffer& match);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/flag_text.h"
+#include "core/reported.h"
 #include "sets/set_choice.h"
 #include "sets/set_selection.h"
 #include "sets/stored_rows.h"
@@ -44,17 +45,20 @@ public:
 
     const SetKindFacts& facts;
     virtual SetInHand inHand(Session& session) const = 0;
-    /// Reads the store anew; false after the message of a failure.
-    virtual bool refresh(Session& session) const = 0;
+    /// Reads the store anew.
+    virtual Reported refresh(Session& session) const = 0;
     /// Sets there are, activated or not.
     virtual std::int32_t count(Session& session) const = 0;
     virtual std::vector<ActivatedSet> activated(Session& session) const = 0;
     virtual std::optional<StoredSet> find(Session& session, const QString& name) const = 0;
-    // Both are of a set that is there; false when the store refused.
-    virtual bool storeActivation(Session& session, const QString& name, bool activated) const = 0;
-    virtual bool removeRecord(Session& session, const QString& name) const = 0;
-    /// Takes the named set in hand and installs it as a part of the job. False when the store refused.
-    virtual bool installInside(Session& session, Job& job, const QString& name) const = 0;
+    // Both are of a set that is there.
+    virtual Reported storeActivation(Session& session, const QString& name, bool activated) const = 0;
+    virtual Reported removeRecord(Session& session, const QString& name) const = 0;
+    // Both take the named set in hand.
+    /// Without a question; gives the number of files that were copied.
+    virtual int install(Session& session, const QString& name) const = 0;
+    /// As a part of the job.
+    virtual Reported installInside(Session& session, Job& job, const QString& name) const = 0;
 
     /// Raises "Path not found" for a name that is no single folder name.
     FilePath setFolder(const Session& session, const QString& name) const {
@@ -77,9 +81,10 @@ struct SetActions {
     static void activate(Session& session);
     /// Removes it or them; with `deactivateMode` only the files go and the colours stay.
     static void remove(Session& session, bool deactivateMode);
-    /// See SetInstallation::install.
-    static bool install(Session& session, bool automatic);
-    static bool installInside(Session& session, Job& job);
+    /// As SetInstallation has them; that of a name gives the number of files that were copied.
+    static bool install(Session& session);
+    static int install(Session& session, const QString& name);
+    static Reported installInside(Session& session, Job& job, const QString& name);
 };
 
 /// What GroundKind, NightKind and SkyKind have; each adds its `facts()`, pointers to members of its
@@ -98,9 +103,9 @@ typename Kind::Rows& loadedSets(Session& session) {
 }
 
 /// The same, read anew: records in memory stay as they were loaded, so whoever decides by a flag or writes
-/// rows back asks for fresh ones. False after the message of a failure.
+/// rows back asks for fresh ones.
 template <class Kind>
-bool refreshSets(Session& session) {
+Reported refreshSets(Session& session) {
     return Kind::Rows::reload(session);
 }
 
@@ -132,7 +137,7 @@ public:
         return {selection.*Kind::nameInHand, Kind::coverInHand(selection), selection,
                 selection.*Kind::refreshList};
     }
-    bool refresh(Session& session) const override { return refreshSets<Kind>(session); }
+    Reported refresh(Session& session) const override { return refreshSets<Kind>(session); }
     std::int32_t count(Session& session) const override { return loadedSets<Kind>(session).Count(); }
     std::vector<ActivatedSet> activated(Session& session) const override {
         return activatedSets(loadedSets<Kind>(session));
@@ -144,18 +149,18 @@ public:
         if constexpr (requires { set->ColorSettings; }) stored.colourSettings = set->ColorSettings;
         return stored;
     }
-    bool storeActivation(Session& session, const QString& name, bool activated) const override {
+    Reported storeActivation(Session& session, const QString& name, bool activated) const override {
         auto changed = *findSet<Kind>(session, name);
         changed.*changed.table().activated = flagText(activated);
         changed.IsNew = false;
         return loadedSets<Kind>(session).Save(changed);
     }
-    bool removeRecord(Session& session, const QString& name) const override {
+    Reported removeRecord(Session& session, const QString& name) const override {
         return loadedSets<Kind>(session).RemoveItem(keyOf(*findSet<Kind>(session, name)));
     }
-    bool installInside(Session& session, Job& job, const QString& name) const override {
-        inHand(session).name = name;
-        return Kind::installInside(session, job);
+    int install(Session& session, const QString& name) const override { return Kind::install(session, name); }
+    Reported installInside(Session& session, Job& job, const QString& name) const override {
+        return Kind::installInside(session, job, name);
     }
 };
 

@@ -129,7 +129,7 @@ void removeBitmapFolders(Session& session, const FilePath& setFolder, const QStr
 
 } // namespace
 
-bool removeSetsInHand(Session& session, const SetKind& kind, Job& job, bool deactivateMode) {
+Reported removeSetsInHand(Session& session, const SetKind& kind, Job& job, bool deactivateMode) {
     const SetInHand inHand = kind.inHand(session);
     const QStringList names = changeableNames(inHand.selection.selectedRows);
     Removal removal(session, kind, job, deactivateMode);
@@ -138,7 +138,7 @@ bool removeSetsInHand(Session& session, const SetKind& kind, Job& job, bool deac
     return true;
 }
 
-bool removeSet(Session& session, const SetKind& kind, const QString& name, bool keepRecord) {
+Reported removeSet(Session& session, const SetKind& kind, const QString& name, bool keepRecord) {
     bool stored = false;
     reportFailures(session.user, morvaneError, [&] {
         const auto set = kind.find(session, name);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "sets/set_kind.h"
 
 namespace morvane {
@@ -16,11 +17,11 @@ struct MultiChoice {
 /// several both are passed over without a word. How many went is told at the end; a cancel or a refusal of
 /// the store ends it before the next set. False when it was refused or answered with no. The job begins with
 /// the first set.
-bool removeSetsInHand(Session& session, const SetKind& kind, Job& job, bool deactivateMode);
+Reported removeSetsInHand(Session& session, const SetKind& kind, Job& job, bool deactivateMode);
 
 /// Takes the set's record, or with `keepRecord` its activation, and then its files. False when the store
 /// refused: the files then stay.
-bool removeSet(Session& session, const SetKind& kind, const QString& name, bool keepRecord);
+Reported removeSet(Session& session, const SetKind& kind, const QString& name, bool keepRecord);
 
 /// Names of the rows, trimmed and without "Default".
 QStringList changeableNames(const QStringList& rows);

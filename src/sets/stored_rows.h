@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/failure_report.h"
+#include "core/reported.h"
 #include "core/store_records.h"
 
 namespace morvane {
@@ -64,14 +65,14 @@ std::shared_ptr<const Record> findListKey(const KeyedCollection<Record>& records
     return records.GetKey(parts[1]);
 }
 
-/// The rows of one table. Operations that reach the store give false after the message of a failure.
+/// The rows of one table.
 template <class Record>
 class StoredRows : public KeyedCollection<Record> {
 public:
     explicit StoredRows(Session& session) : session_(session) {}
     /// A fresh, loaded collection in the session's rows; the second with the rows of that owner alone.
-    static bool reload(Session& session) { return fresh(session).load(selectAll()); }
-    static bool reload(Session& session, std::int16_t owner) {
+    static Reported reload(Session& session) { return fresh(session).load(selectAll()); }
+    static Reported reload(Session& session, std::int16_t owner) {
         return fresh(session).load(selectAll() + u" WHERE "_s + table().ownerColumn + u" = "_s +
                                    QString::number(owner));
     }
@@ -79,7 +80,7 @@ public:
     /// Position of the first record of exactly that name; 0 for none.
     std::int16_t findIndex(const QString& name) const { return this->findName(name); }
     /// Takes what belongs to the row with it. An unknown key raises before a row is touched.
-    bool RemoveItem(const QString& key) {
+    Reported RemoveItem(const QString& key) {
         const QString id = keyOf(*this->Item(key));
         this->remove(key);
         return reportFailures(session_.user, morvaneError, [&] {
@@ -91,13 +92,13 @@ public:
         });
     }
     /// A new record gets its key and its final name ("12-Storm") and joins the collection.
-    bool Save(Record& record) {
+    Reported Save(Record& record) {
         return reportFailures(session_.user, morvaneError,
                               [&] { saveRecord(session_, table().rows, record, *this); });
     }
     /// Writes every set back, the one of that name as installed and all others as not: at most one is at any
     /// time, the first where two rows were given one name. All rows or none.
-    bool markInstalled(const QString& name) {
+    Reported markInstalled(const QString& name) {
         return reportFailures(session_.user, morvaneError, [&] {
             const auto installed = findTrimmedName(*this, name);
             StoreTransaction transaction(connectedStore(session_));
@@ -117,7 +118,7 @@ private:
         session.rows<StoredRows>() = std::make_unique<StoredRows>(session);
         return *session.rows<StoredRows>();
     }
-    bool load(const QString& statement) {
+    Reported load(const QString& statement) {
         const auto read = [&] { loadRecords(session_, statement, table().rows, *this); };
         return table().tellsLoadInSystemBox ? reportInSystemBox(session_.user, read)
                                             : reportFailures(session_.user, morvaneError, read);

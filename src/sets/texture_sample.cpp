@@ -4,7 +4,7 @@
 
 namespace morvane {
 
-bool PictureSample::openImage(const FilePath& path) {
+Reported PictureSample::openImage(const FilePath& path) {
     const bool loaded = reportFailures(session_.user, morvaneError,
                                        [&] { pictures_ = loadPicturePair(session_.files, path); });
     process();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "core/session.h"
 #include "imaging/colouriser.h"
 #include "imaging/picture_pair.h"
@@ -11,9 +12,9 @@ class PictureSample {
 public:
     virtual ~PictureSample() = default;
 
-    /// Loads the picture and colours it. False after a failure was told: the picture of before stays then,
-    /// coloured all the same, so that no set is seen in the colours of another one.
-    bool openImage(const FilePath& path);
+    /// Loads the picture and colours it. Where it fails the picture of before stays, coloured all the same,
+    /// so that no set is seen in the colours of another one.
+    Reported openImage(const FilePath& path);
     /// Colours the picture that is loaded; without one it does nothing.
     void process();
 

@@ -20,7 +20,7 @@ const StoredTable<clsConfig>& clsConfig::table() {
     return table;
 }
 
-bool writeConfig(Session& session, const clsConfig& record) {
+Reported writeConfig(Session& session, const clsConfig& record) {
     return reportFailures(session.user, morvaneError, [&] {
         const RecordTable<clsConfig>& rows = clsConfig::table().rows;
         RowSet row(connectedStore(session), rows.selectRow + makeStatementSafe(record.ConfigName) + u'\'');

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "sets/stored_rows.h"
 
 namespace morvane {
@@ -20,8 +21,7 @@ struct clsConfig {
 
 using clsConfigs = StoredRows<clsConfig>;
 
-/// Writes the row of that title; the copy in memory stays as it is until the next load. False after the
-/// message of a failure.
-bool writeConfig(Session& session, const clsConfig& record);
+/// Writes the row of that title; the copy in memory stays as it is until the next load.
+Reported writeConfig(Session& session, const clsConfig& record);
 
 } // namespace morvane

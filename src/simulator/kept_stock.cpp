@@ -120,11 +120,10 @@ void KeptStock::forget() {
             if (!folders.contains(path)) folders << path;
         }
     std::ranges::sort(folders, std::greater(), &QString::size); // the inner ones first
-    try {
+    attempt([&] {                                               // one that is left costs nothing but its name
         for (const QString& folder : folders)
             if (files_.isFolder(keptPath_ / folder)) files_.removeFolder(keptPath_ / folder);
-    } catch (const Error&) { // it costs nothing but its name
-    }
+    });
     facts_.clear();
     kept_.clear();
 }

@@ -37,7 +37,7 @@ bool storedSwitch(Session& session, bool OptionsInForce::*flag) {
     return value;
 }
 
-bool storeSwitch(Session& session, bool OptionsInForce::*flag, bool value) {
+Reported storeSwitch(Session& session, bool OptionsInForce::*flag, bool value) {
     return reportFailures(session.user, morvaneError, [&] {
         RowSet row(connectedStore(session), switchRow);
         row.setFlag(optionOf(flag).column, value);

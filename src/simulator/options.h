@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "core/session.h"
 #include "sets/options_in_force.h"
 
@@ -11,8 +12,8 @@ namespace morvane {
 void readSwitches(Session& session);
 /// The option of the flag as it is stored; false after the message of a failure, too.
 bool storedSwitch(Session& session, bool OptionsInForce::*flag);
-/// Stores the option of the flag. False after the message of a failure.
-bool storeSwitch(Session& session, bool OptionsInForce::*flag, bool value);
+/// Stores the option of the flag.
+Reported storeSwitch(Session& session, bool OptionsInForce::*flag, bool value);
 
 // Options kept in the registry under the program's own key. Booleans there are the words "True" and "False".
 

@@ -45,7 +45,7 @@ PassDescription descriptionOf(Session& session, const QString& setName, int numb
 }
 
 /// False when the store refused the set's row: it would refuse those behind it, too.
-bool createDutchForSet(Session& session, const Job& job, clsTextureSet set, int number, int total) {
+Reported createDutchForSet(Session& session, const Job& job, clsTextureSet set, int number, int total) {
     bool isRefused = false;
     reportFailures(session.user, morvaneError, [&] {
         const ColourValues colours = parseColourSettings(set.ColorSettings, session.DecimalSep);

@@ -115,7 +115,8 @@ void SkyGeneration::takeNewestSet() {
     if (sets.Count() > 0) loadSkySubSet(session_, listKeyOf(*sets.GetItem(sets.Count())), skyDay);
 }
 
-bool SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal) {
+Reported SkyGeneration::createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber,
+                                         int setTotal) {
     bool isStored = false;
     reportFailures(session_.user, morvaneError, [&] {
         const CloudCover* cover = cloudCover(cloudIndex);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/job.h"
+#include "core/reported.h"
 #include "sky/sky_sample.h"
 #include "sky/sky_strings.h"
 
@@ -29,7 +30,7 @@ public:
     void createSkySets(bool fromHomeScreen);
     /// Draws, stores and colours one set of that base set for the cloud cover of that number, 1 to 5. False
     /// when the store refused it, which was told: it would refuse another one, too.
-    bool createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal);
+    Reported createAutoSkySet(const QString& baseSet, int cloudIndex, int setNumber, int setTotal);
     /// Writes the files of the set for a time of day: for "Day" the base set's in the colours of
     /// `skyTextureGroups`, for "Sunrise" and "Sunset" plain copies of their own folder's. The set's folder
     /// has to be there. `message` is the text of the progress message, opened when none stands on the screen,

@@ -18,10 +18,10 @@ const InstallationKind skyKind{
 
 SkyInstallation::SkyInstallation(Session& session) : SetInstallation(session, setKind<SkyKind>(), skyKind) {}
 
-bool SkyInstallation::installSelectedSet() {
+Reported SkyInstallation::installSet(const QString& wanted) {
     if (!refreshSkySets(session_)) return false;
-    const auto record = findSkySet(session_, session_.state<SkySelection>().SelectedSkySet);
-    const QString name = record ? record->SkyTextureSet : session_.state<SkySelection>().SelectedSkySet;
+    const auto record = findSkySet(session_, wanted);
+    const QString name = record ? record->SkyTextureSet : wanted;
     std::vector<FileCopy> copies;
     addFolderFiles(session_, skySetFolder(session_, name), u"*.bmp"_s, session_.FSPath / u"Texture", copies);
     // The store says "installed" before the first file is copied, also when the copying then fails.

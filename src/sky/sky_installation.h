@@ -1,20 +1,23 @@
 #pragma once
 
+#include "core/reported.h"
 #include "sets/set_installation.h"
 
 namespace morvane {
 
-/// The install of the sky set in hand (session.state<SkySelection>().SelectedSkySet): every bitmap of its
-/// folder goes into the simulator's "\Texture". An empty folder copies nothing and is installed all the same.
+/// The install of a sky set; that in hand is session.state<SkySelection>().SelectedSkySet. Every bitmap of
+/// its folder goes into the simulator's "\Texture". An empty folder copies nothing and is installed all the
+/// same.
 class SkyInstallation : public SetInstallation {
 public:
     explicit SkyInstallation(Session& session);
 
-    /// As SetInstallation::install.
-    bool installSkySet(bool automatic) { return install(automatic); }
+    // As SetInstallation::install.
+    bool installSkySet() { return install(); }
+    void installSkySet(const QString& name) { install(name); }
 
 private:
-    bool installSelectedSet() override;
+    Reported installSet(const QString& wanted) override;
 };
 
 } // namespace morvane

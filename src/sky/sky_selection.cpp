@@ -21,7 +21,7 @@ bool loadSkyTextureGroups(Session& session, std::int16_t setKey, const QString& 
     return true;
 }
 
-bool loadSkySubSet(Session& session, const QString& listKey, const QString& timeOfDay) {
+Reported loadSkySubSet(Session& session, const QString& listKey, const QString& timeOfDay) {
     bool loaded = false;
     reportFailures(session.user, morvaneError, [&] {
         session.state<SkyColourTables>().skyTextureGroups = {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "core/session.h"
 #include "sets/set_selection.h"
 
@@ -20,9 +21,8 @@ struct SkySelection : SetSelection {
 /// Takes the set behind a list key in hand and fills `skyTextureGroups` from its sub set for that time of
 /// day. Groups without a colour text are zero, and so are all of them where there is no such sub set. The
 /// sample is not drawn here: a screen does that afterwards, from the picture that `skySampleFile` names.
-/// False after a failure was told; a set whose colours are damaged is in hand all the same, with all groups
-/// zero.
-bool loadSkySubSet(Session& session, const QString& listKey, const QString& timeOfDay);
+/// A set whose colours are damaged is in hand all the same, with all groups zero.
+Reported loadSkySubSet(Session& session, const QString& listKey, const QString& timeOfDay);
 
 /// The second half of it: fills `skyTextureGroups`, and makes the set's sub sets the
 /// session's rows. False after the message that they cannot be read; a colour text that is none raises.

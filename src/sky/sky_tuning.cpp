@@ -33,13 +33,13 @@ SliderValues SkyTuning::open() {
     return sliders();
 }
 
-bool SkyTuning::openSkyImage(const FilePath& path) {
+Reported SkyTuning::openSkyImage(const FilePath& path) {
     const bool loaded = sample_.openImage(path);
     SkyProcess(sliders());
     return loaded;
 }
 
-bool SkyTuning::openSelectedBaseSky() {
+Reported SkyTuning::openSelectedBaseSky() {
     return openSkyImage(skySampleFile(session_, trimmedBlanks(session_.state<SkyTuningState>().baseSet)));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "sets/slider_values.h"
 #include "sky/sky_sample.h"
 
@@ -18,8 +19,8 @@ public:
     /// Loads the state when it was not loaded in this run, and the sample of the tuned base set. Gives the
     /// sliders of the group in hand.
     SliderValues open();
-    /// Loads a texture and colours it. False after a failure was told.
-    bool openSkyImage(const FilePath& path);
+    /// Loads a texture and colours it.
+    Reported openSkyImage(const FilePath& path);
     /// Asks for the base set (frm_SelectBaseSky) and loads its sample.
     void openBaseSkyImage();
 
@@ -46,7 +47,7 @@ public:
     void optCloudCover(int index);
 
 private:
-    bool openSelectedBaseSky();
+    Reported openSelectedBaseSky();
 
     Session& session_;
     SkySample sample_;

@@ -93,7 +93,7 @@ QDateTime exportCycleTime(Session& session, const FilePath& file) {
     return timeOf(GetFileTime(session, file));
 }
 
-bool ActiveSky::refresh() {
+Reported ActiveSky::refresh() {
     if (session_.state<WeatherState>().ASv6Local && !platform_.isWindowOpen(u"ASv6"_s)) {
         const QDateTime baseTime = session_.files.exists(exportCycleFile(session_))
                                        ? getExportCycleTime()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/reported.h"
 #include "core/session.h"
 
 #include <functional>
@@ -41,7 +42,7 @@ public:
 
     /// Loads the export file; where Active Sky runs on this computer and is not running yet, starts it and
     /// waits for a new one first. False after the message of a failure and when the wait was left.
-    bool refresh();
+    Reported refresh();
 
     bool isExportCycleUpdated(const QDateTime& baseTime);
     QDateTime getExportCycleTime();

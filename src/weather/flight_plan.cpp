@@ -118,7 +118,6 @@ PlanWeather processFlightPlan(Session& session, const FlightPlan& plan,
     }
     weather.average = averageIcon(weather.waypoints);
     weather.coverClass = roundedCover(weather.average);
-    setCover(session, weather.coverClass);
     return weather;
 }
 

@@ -47,8 +47,7 @@ QString getWaypointType(const QString& letter);
 /// what Fly Now counts for them (3), and is wanted.
 std::int16_t getCloudIcon(std::int16_t cloudClass);
 
-/// Looks up the weather of each waypoint and makes the class of their average the cover of the flight, unless
-/// the plan has no waypoints. `progress` hears of each waypoint, in hundredths of the whole.
+/// Looks up the weather of each waypoint. `progress` hears of each, in hundredths of the whole.
 PlanWeather processFlightPlan(
     Session& session, const FlightPlan& plan, const std::function<void(double)>& progress = [](double) {});
 

@@ -92,16 +92,16 @@ std::optional<StoreTransaction> transactionOfLoad(Session& session) {
 
 } // namespace
 
-bool clsWxFinders::reload(Session& session) {
+Reported clsWxFinders::reload(Session& session) {
     session.rows<clsWxFinders>() = std::make_unique<clsWxFinders>(session);
     return session.rows<clsWxFinders>()->getMetarsFromDB();
 }
 
-bool clsWxFinders::getMetarsFromDB() {
+Reported clsWxFinders::getMetarsFromDB() {
     return clsWxFinderData(session_).GetWeatherFromDb();
 }
 
-bool clsWxFinderData::GetWeatherFromDb() {
+Reported clsWxFinderData::GetWeatherFromDb() {
     const FailureReport report{u"Metar Database Error!"_s, MessageKind::exclamation};
     return reportFailures(session_.user, report, [&] {
         clsWxFinders& finders = *session_.rows<clsWxFinders>();
@@ -144,7 +144,7 @@ void clsWxFinderData::showProgress(const QString& text, bool withCancel) const {
     session_.user.updateProgress({}, {}, 2);
 }
 
-bool clsWxFinderData::GetWeatherFromNOAA() {
+Reported clsWxFinderData::GetWeatherFromNOAA() {
     const Job job(session_);
     if (!job) return false;
     bool isLoaded = false;
@@ -182,17 +182,17 @@ bool clsWxFinderData::downloadCycle(const WeatherEndpoint& endpoint, const FileP
     return download.fetch(endpoint.urlOf(file.fileName().left(2) + u"Z.TXT"_s), file);
 }
 
-bool clsWxFinderData::GetWeatherFromASv6() {
+Reported clsWxFinderData::GetWeatherFromASv6() {
     return importExportFile(exportCycleFile(session_));
 }
 
-bool clsWxFinderData::importCycleFile(const FilePath& file, CycleForm form) {
+Reported clsWxFinderData::importCycleFile(const FilePath& file, CycleForm form) {
     bool isLoaded = false;
     reportFailures(session_.user, loadFailure, [&] { isLoaded = loadCycleFile(file, form); });
     return isLoaded;
 }
 
-bool clsWxFinderData::importExportFile(const FilePath& file) {
+Reported clsWxFinderData::importExportFile(const FilePath& file) {
     const Job job(session_);
     bool isLoaded = false;
     if (job) reportFailures(session_.user, loadFailure, [&] { isLoaded = loadExportFile(file); });

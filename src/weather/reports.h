@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/keyed_collection.h"
+#include "core/reported.h"
 #include "weather/cycle_lines.h"
 #include "weather/weather_report.h"
 
@@ -16,17 +17,16 @@ class clsWxFinders : public KeyedCollection<clsWxFinder> {
 public:
     explicit clsWxFinders(Session& session) : session_(session) {}
     /// A fresh, loaded collection in the session's rows.
-    static bool reload(Session& session);
+    static Reported reload(Session& session);
 
-    /// False after the message of a failure; the collection then holds what was read so far.
-    bool getMetarsFromDB();
+    /// A failure leaves the collection with what was read so far.
+    Reported getMetarsFromDB();
 
 private:
     Session& session_;
 };
 
-/// The loads. They fill the session's collection, and each is false after a cancel or the message of a
-/// failure.
+/// The loads. They fill the session's collection.
 class clsWxFinderData {
 public:
     /// For `picture` see Message.
@@ -35,17 +35,17 @@ public:
 
     /// Adds every row of the table to the collection; a session that knows no cycle yet takes its fields from
     /// the row of KSEA.
-    bool GetWeatherFromDb();
+    Reported GetWeatherFromDb();
     // A load ends with the line that tells number and age of the reports. One that fails leaves the
     // collection in memory as it was; a store that another program writes is waited for, two seconds.
     /// Fetches the last hour's cycle file into "\\METAR", stores its reports and reloads the collection.
-    bool GetWeatherFromNOAA();
+    Reported GetWeatherFromNOAA();
     /// Stores the reports of Active Sky's export file and reloads the collection.
-    bool GetWeatherFromASv6();
+    Reported GetWeatherFromASv6();
     /// The same two with a file that is there already: a cycle file of that form as of this hour, an export
     /// file as of its own time.
-    bool importCycleFile(const FilePath& file, CycleForm form);
-    bool importExportFile(const FilePath& file);
+    Reported importCycleFile(const FilePath& file, CycleForm form);
+    Reported importExportFile(const FilePath& file);
 
 private:
     bool downloadCycle(const WeatherEndpoint& endpoint, const FilePath& file);

@@ -48,7 +48,7 @@ void deleteSet(WindowShell& shell, SkinnedButton&) {
 
 template <class Kind>
 void installSet(WindowShell& shell, SkinnedButton&) {
-    if (Kind::install(shell.session(), false)) offerSimulatorStart(shell.session());
+    if (Kind::install(shell.session())) offerSimulatorStart(shell.session());
 }
 
 /// `method` is one of the page of that name.

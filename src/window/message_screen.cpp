@@ -143,6 +143,7 @@ bool frm_Msg::isTimeToPaint(double value) {
 
 /// Smaller where it would be cut.
 void frm_Msg::showTitle(const QString& title) {
+    if (lbl_Title_->text() == title) return; // progress says it again with each file
     constexpr int smallest = 11;
     QFont font = fontOf(TextRole::messageTitle);
     while (QFontMetrics(font).horizontalAdvance(title) > lbl_Title_->width() && font.pixelSize() > smallest)

@@ -160,17 +160,20 @@ TEST(OwnHome, keepsTheTestsFromPrefixesOutside) {
 
 #endif
 
+/// Another spelling is no code: the cover in the middle.
 TEST_F(ApplicationTest, theCommandLineTakesTheCodesExactly) {
     ASSERT_TRUE(startUp(session));
     session.CommandLineRun = true;
-    user.otherwise = false;
-    for (const auto& [word, clouds] : {std::pair("CLR", QStringList{"1"}), {"OVC", {"5"}}, {"ovc", {}}}) {
-        session.state<FlightWeather>().WxCloudList = QStringList{u"1"_s, u"2"_s};
+    const std::tuple<QString, QString> cases[] = {
+        {"CLR", "Sky Clear"}, {"OVC", "Overcast"}, {"ovc", "Partly Cloudy"}};
+    for (const auto& [word, cover] : cases) {
+        user.messages.clear();
+        user.answersToGive = {true};
+        user.otherwise = false;
         runCommandLine(session, word);
-        EXPECT_EQ(session.state<FlightWeather>().WxCloudList, clouds) << word;
-        EXPECT_EQ(session.state<FlightWeather>().WxStrengthList, QStringList(clouds.size(), QString()));
+        EXPECT_TRUE(user.messages[0].text.endsWith(u"obtained from Active Sky?"_s));
+        EXPECT_TRUE(user.messages[1].text.endsWith(cover)) << user.messages[1].text.toStdString();
     }
-    EXPECT_TRUE(user.messages.front().text.endsWith(u"obtained from Active Sky?"_s));
 }
 
 /// What cannot be removed does not keep the store open.
@@ -199,10 +202,8 @@ TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
 
 struct ExitQuestion : test::InstallTest {
     void put(const QString& ground, const QString& sky = {}) {
-        session.state<GroundSelection>().SelectedGroundSet = ground;
-        GroundInstallation(session).installTextureSet(true);
-        session.state<SkySelection>().SelectedSkySet = sky;
-        if (!sky.isEmpty()) SkyInstallation(session).installSkySet(true);
+        GroundInstallation(session).installTextureSet(ground);
+        if (!sky.isEmpty()) SkyInstallation(session).installSkySet(sky);
         install.user.messages.clear();
         install.user.calls.clear();
     }

@@ -201,15 +201,11 @@ private:
     }
 
     void installGround() {
-        session_->state<GroundSelection>().SelectedGroundSet =
-            drawFrom({u"Default"_s, u"2-Ground"_s, u"3-Ground"_s, u"4-Ground"_s});
-        GroundInstallation(*session_).installTextureSet(true);
+        GroundInstallation(*session_).installTextureSet(
+            drawFrom({u"Default"_s, u"2-Ground"_s, u"3-Ground"_s, u"4-Ground"_s}));
     }
 
-    void installSky() {
-        session_->state<SkySelection>().SelectedSkySet = drawFrom({"1-Sky", "2-Sky"});
-        SkyInstallation(*session_).installSkySet(true);
-    }
+    void installSky() { SkyInstallation(*session_).installSkySet(drawFrom({"1-Sky", "2-Sky"})); }
 
     void installNight() {
         session_->state<NightSelection>().SelectedNightSet = drawFrom({"Default", "2-Night", "3-Night"});

@@ -4,11 +4,14 @@
 
 #include "support/printing.h"
 #include "support/raised_error.h"
+#include "support/system_files.h"
 #include "support/temporary_folder.h"
 
 #include <QFile>
 #include <functional>
 #include <gtest/gtest.h>
+#include <optional>
+#include <thread>
 
 #ifndef Q_OS_WIN
 #include <csignal>
@@ -47,7 +50,17 @@ TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {
     EXPECT_EQ(test::readFile(file), "x");
 }
 
-#ifndef Q_OS_WIN
+#ifdef Q_OS_WIN
+
+TEST(NativeFileSystem, waitsForAFileThatAnotherProgramLetsGoOf) {
+    TemporaryFolder folder;
+    NativeFileSystem files;
+    std::optional<test::UnreadableFile> held(std::in_place, folder / u"Ünï.bmp");
+    std::jthread other([&] { held.reset(); });
+    EXPECT_EQ(files.read(folder / u"Ünï.bmp"), "held");
+}
+
+#else
 
 /// While it lives no file can be made longer than that, as on a full disk.
 struct FileSizeLimit {

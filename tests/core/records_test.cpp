@@ -36,8 +36,8 @@ protected:
 
     /// Saves a new record, loads it and saves what was read: `row` is what the table holds either time.
     template <class Record, class Collection>
-    void saveAndLoad(Record record, std::unique_ptr<Collection>& loaded, bool (*reload)(Session&),
-                     bool (Collection::*save)(Record&), const QString& table, const QString& row) {
+    void saveAndLoad(Record record, std::unique_ptr<Collection>& loaded, Reported (*reload)(Session&),
+                     Reported (Collection::*save)(Record&), const QString& table, const QString& row) {
         setNextKey(table, 12);
         EXPECT_TRUE(reload(session)); // an empty table is no failure
         record.IsNew = true;

@@ -21,10 +21,7 @@ struct GroundInstall : test::InstallTest {
                              {"Texture\\029h2su6.bmp", "Texture\\029B2SU6.BMP", "Texture\\new.bmp",
                               "UTEurLC\\034b2su4.bmp", "Dutch\\029h2su6.bmp"});
     }
-    void installSet(const QString& name) {
-        session.state<GroundSelection>().SelectedGroundSet = name;
-        GroundInstallation(session).installTextureSet(true);
-    }
+    void installSet(const QString& name) { GroundInstallation(session).installTextureSet(name); }
     QByteArray world(const char16_t* name) {
         return readFile(install.simulator() / u"Scenery\\World\\texture" / name);
     }

@@ -400,8 +400,7 @@ TEST_F(OriginalsTest, anInstallWithoutAUsableListReplacesNothing) {
         // A folder in its place: no mode would keep a test that runs as root from reading a file.
         told.startsWith("Perm") ? small.files.makeFolder(list) : writeFile(list, newer);
         const auto before = contentsBelow(small.simulator());
-        clickGroundRow(small.session, "2-Storm");
-        GroundInstallation(small.session).installTextureSet(true);
+        GroundInstallation(small.session).installTextureSet("2-Storm");
         EXPECT_EQ(contentsBelow(small.simulator()), before);
         EXPECT_TRUE(small.user.told().join(u'/').startsWith("Error|Morvane Error|" + told));
         EXPECT_TRUE(small.files.isFolder(list) || readFile(list) == newer);

@@ -36,7 +36,7 @@ struct Kind {
     bool (*click)(Session&, const QString& name);
     void (*activate)(Session&);
     void (*remove)(Session&, bool keepsColours);
-    bool (*install)(Session&, bool automatic);
+    bool (*install)(Session&);
     QString (*states)(Session&);
     /// A new favourite of these slider values; none for the sky.
     void (*nameFavourite)(Session&, const SliderValues&) = nullptr;
@@ -204,7 +204,7 @@ TEST_P(SetKindTest, aRemovalShowsThatItIsBusyAndCanBeEndedBeforeEachSet) {
 TEST_P(SetKindTest, severalRowsAreNotInstalled) {
     click(u"2-A"_s);
     inHand().selection.selectedRows = QStringList{u"2-A"_s, u"Default"_s};
-    EXPECT_FALSE(kind.install(session, false));
+    EXPECT_FALSE(kind.install(session));
     EXPECT_EQ(stored(), "2-A+ 3-B+ 4-C+");
     const QString one = kind.is(u"Sky"_s) ? u"one"_s : u"one sky"_s; // so also of the ground
     EXPECT_EQ(install.user.told(),
@@ -219,14 +219,14 @@ TEST_P(SetKindTest, theStoreNamesTheSetBeforeTheFirstFile) {
     const QByteArray before = test::readFile(target);
     install.files.setReadOnly(target, true);
     click(u"2-A"_s);
-    kind.install(session, true);
+    kind.kind.install(session, u"2-A"_s);
     EXPECT_EQ(stored(), "2-A+* 3-B+ 4-C+");
     EXPECT_EQ(test::readFile(target), before);
     EXPECT_TRUE(install.user.told().join(u'/').startsWith("Error|Morvane Error|Permission denied: "));
     install.files.setReadOnly(target, false);
     // In memory "3-B" still says "True": what another hand wrote stands.
     kind.kind.storeActivation(session, u"3-B"_s, false);
-    kind.install(session, true);
+    kind.kind.install(session, u"2-A"_s);
     EXPECT_EQ(stored(), "2-A+* 3-B 4-C+");
     EXPECT_NE(test::readFile(target), before);
 }

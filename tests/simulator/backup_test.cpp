@@ -36,8 +36,7 @@ struct BackupTest : test::InstallTest {
     }
     void addSet(const QString& name, const QStringList& files, const QString& cover = "Sunny") {
         install.addGroundSet(name, cover, true, files);
-        session.state<GroundSelection>().SelectedGroundSet = name;
-        GroundInstallation(session).installTextureSet(true);
+        GroundInstallation(session).installTextureSet(name);
     }
     void restore(const QString& name, bool isConfirmed = true) {
         install.user.onModal = [this, name, isConfirmed](Screen) {

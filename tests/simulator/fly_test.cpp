@@ -2,18 +2,16 @@
 #include "core/program_start.h"
 #include "core/store.h"
 #include "core/wine_call.h"
-#include "ground/ground_selection.h"
+#include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
-#include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "start_record.h"
 #include "support/home_folder.h"
 #include "support/install_test.h"
 #include "support/system_files.h"
 #include "support/wine_prefix.h"
-#include "weather/cover_choice.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -47,9 +45,8 @@ struct SetMatchingTest : test::InstallTest {
     }
     /// Ground and sky that an install for the cover left.
     QStringList matched(const QString& cover) {
-        SetMatching(session).installMatchingSets(cover);
-        const QStringList chosen{session.state<GroundSelection>().SelectedGroundSet,
-                                 session.state<SkySelection>().SelectedSkySet};
+        const MatchedSets matched = installMatchingSets(session, *cloudCover(cover));
+        const QStringList chosen{matched.ground, matched.sky};
         EXPECT_EQ(install.installedSets() + install.installedSkySets(), chosen) << cover.toStdString();
         return chosen;
     }
@@ -63,25 +60,23 @@ TEST_F(SetMatchingTest, candidatesAreDrawnButNeverTheLast) {
     install.random.numbers = {0.49};
     EXPECT_EQ(matched("Overcast"), (QStringList{"A", "a"}));
     install.random.numbers = {0.9999999999};
-    EXPECT_EQ(matched(" Overcast"), (QStringList{"B", "b"}));
+    EXPECT_EQ(matched("Overcast"), (QStringList{"B", "b"}));
     EXPECT_EQ(matched("Partly Cloudy"), (QStringList{"Default", "h"})) << "\"Default\" takes part";
     EXPECT_TRUE(install.user.told().isEmpty());
 }
 
 /// The ground's search compares the next word, the sky's the present one.
 TEST(ClosestSet, isSearchedUpwardsAndNeverBackAtTheEnds) {
-    using Search = SetMatching::ClosestSearch;
     const Sets wet{{"Rain", "Overcast"}, {"Drizzle", "Mostly Cloudy"}, {"Sun", "Sky Clear"}},
         ends{wet[0], wet[2]};
     const std::tuple<const char*, Sets, const char*, const char*> cases[] = {
         {"Mostly Clear", wet, "Drizzle", "Drizzle"}, // up, though "Sky Clear" is nearer
         {"Sky Clear", wet, "Drizzle", "Sun"},
         {"Mostly Clear", ends, "Default", "Default"}, // however near they are
-        {"Foggy", wet, "Default", "Default"},
     };
     for (const auto& [cover, sets, ground, sky] : cases) {
-        EXPECT_EQ(SetMatching::closestSet(sets, Search::nextWord, cover), ground) << cover;
-        EXPECT_EQ(SetMatching::closestSet(sets, Search::currentWord, cover), sky) << cover;
+        EXPECT_EQ(closestSet(sets, ClosestSearch::nextCover, *cloudCover(cover)), ground) << cover;
+        EXPECT_EQ(closestSet(sets, ClosestSearch::currentCover, *cloudCover(cover)), sky) << cover;
     }
 }
 
@@ -97,19 +92,6 @@ TEST_F(SetMatchingTest, theClosestSetsAreToldAndNotDrawn) {
     EXPECT_EQ(install.user.told(), (QStringList{told.arg("Ground", "ground"), told.arg("Sky", "sky")}));
 }
 
-TEST_F(SetMatchingTest, theAverageCountsCloudsAndStrengths) {
-    // Clouds, strengths, average. An obscured sky, 6, counts as scattered, and so does everything unknown;
-    // halves go to the even number.
-    for (const QString& line : QStringList{"5||5", "6||3", "many||3", " 4 | Light |5", "1|Moderate|2",
-                                           "3|heavy|3", "5|Heavy|7", "1,2|,|2", "2,3|,|2", "4,5|,Heavy|6"}) {
-        const QStringList parts = line.split(u'|');
-        session.state<FlightWeather>().WxCloudList = parts[0].split(u',');
-        session.state<FlightWeather>().WxStrengthList = parts[1].split(u',');
-        EXPECT_EQ(SetMatching(session).getAverageCloudCover(), parts[2].toInt()) << line.toStdString();
-    }
-    EXPECT_EQ(SetMatching::coverWord(7), "Overcast") << "inside the scale";
-}
-
 /// A random source that fails, so that the choice of a set does.
 struct BrokenRandom : RandomSource {
     double draw() override { throw Error(ErrorCode::overflow); }
@@ -120,7 +102,7 @@ TEST_F(SetMatchingTest, aFailureIsToldUnderAWordOfItsOwnSpelling) {
     BrokenRandom broken;
     Session failing({install.user, install.files, install.clock, broken, install.registry}, install.home());
     failing.adoConn = std::move(session.adoConn);
-    SetMatching(failing).installMatchingSets("Overcast");
+    installMatchingSets(failing, *cloudCover("Overcast"));
     EXPECT_EQ(install.user.told(), QStringList{"Exlamation|getIcaoWxDetails Error|Overflow"});
 }
 
@@ -200,15 +182,14 @@ TEST_F(SimulatorLaunchTest, startsWhatWasChosenAndMinimisesButAnUnattendedRun) {
 
 TEST_F(SimulatorLaunchTest, aChosenFlightOrAWideClientEndsTheRoad) {
     placeStandIn(program);
-    session.state<FlightWeather>().WxCloudList = QStringList{"3"};
     chooseFlight("Evening Rain", true);
     install.user.answersToGive = {false, true};
-    EXPECT_EQ(flyWithCover(session).filesCopied, -1);
+    EXPECT_FALSE(flyWithCover(session, coverOfClass(3)).installed);
     EXPECT_EQ(install.user.told().value(1), flightQuestion);
     EXPECT_EQ(startsIn(install.simulator(), 1).size(), 1);
     session.state<OptionsInForce>().IsWideClient = true;
     install.user.answersToGive = {false};
-    flyWithCover(session);
+    flyWithCover(session, coverOfClass(3));
     EXPECT_FALSE(choice.FlightSelected);
     EXPECT_EQ(install.user.told().mid(3),
               QStringList{"Information|Processing Complete|Processing complete. You can "

@@ -40,10 +40,7 @@ protected:
         sets = contentsBelow(install.home() / u"Texture Sets");
     }
 
-    void put(const QString& name) {
-        install.session.state<GroundSelection>().SelectedGroundSet = name;
-        GroundInstallation(install.session).installTextureSet(true);
-    }
+    void put(const QString& name) { GroundInstallation(install.session).installTextureSet(name); }
 
     /// Old or new, byte for byte; nothing else but parts that the next install clears.
     void expectWholeTargets() {

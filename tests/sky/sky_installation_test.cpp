@@ -22,10 +22,9 @@ struct SkyInstall : test::InstallTest {
         writeFile(install.simulator() / u"Texture\\sky_2.bmp", "the pilot's second sky");
     }
     void installSky(const QString& name, bool automatic = true) {
-        session.state<SkySelection>().SelectedSkySet = name;
-        if (const auto record = findSkySet(session, name))
-            session.state<SkySelection>().SelectedSkyCover = record->CloudCover;
-        SkyInstallation(session).installSkySet(automatic);
+        if (automatic) return SkyInstallation(session).installSkySet(name);
+        EXPECT_TRUE(clickSkyRow(session, name));
+        EXPECT_TRUE(SkyInstallation(session).installSkySet());
     }
     QByteArray texture(const char16_t* name) { return readFile(install.simulator() / u"Texture" / name); }
     QByteArray splash() { return readFile(install.simulator() / u"Uires\\dlgsplash.bmp"); }
@@ -82,7 +81,7 @@ TEST_F(SkyInstall, theMatchingSkyIsDrawnFromAllOfTheCover) {
         install.random.numbers = {draw};
         install.user.answersToGive = {withMatch};
         EXPECT_TRUE(clickGroundRow(session, name));
-        EXPECT_TRUE(GroundInstallation(session).installTextureSet(false));
+        EXPECT_TRUE(GroundInstallation(session).installTextureSet());
         EXPECT_EQ(install.installedSets(), QStringList{name});
         return install.installedSkySets();
     };

@@ -105,8 +105,7 @@ public:
     /// Each row in each way, and what holds of the screen as a whole.
     void everyRow(const WalkScreen& screen);
 
-public Q_SLOTS:
-    void noteAddress(const QUrl& address) { address_ = address; }
+    Q_INVOKABLE void noteAddress(const QUrl& address) { address_ = address; }
 
 private:
     /// The foremost window.
@@ -115,7 +114,7 @@ private:
     void renew();
     void onScreen(const WalkScreen& screen, const std::function<void()>& body);
     void inDialog(const WalkScreen& screen, const std::function<void()>& body);
-    void oneWay(const WalkScreen& screen, const WalkRow& row, const QString& control, Way way);
+    void oneWay(const WalkScreen& screen, const WalkRow& row, const QString& name, Way way);
     void untilTheEnd(const std::function<void()>& gesture);
     void settle();
     bool act(const std::function<void()>& gesture, const Effect& effect, QStringList& trail);

@@ -33,7 +33,7 @@ bool isAirportTaken(Session& session) {
 }
 
 bool isMethodTaken(Session& session) {
-    return session.state<CoverChoice>().coverMethod != static_cast<std::int16_t>(CoverMethod::cancelled);
+    return session.state<CoverChoice>().coverMethod != CoverMethod::cancelled;
 }
 
 /// Airports, of which the next search would be another one.
@@ -41,8 +41,8 @@ Effect found() {
     return label(u"lblAirportCount"_s).lasting();
 }
 
-Effect coverList() {
-    return becomes([](Session& session) { return session.state<FlightWeather>().WxCloudList.join(u','); });
+QString cloudClass(Session& session) {
+    return QString::number(session.state<CoverChoice>().cloudClass);
 }
 
 void giveAirports(Session& session) {
@@ -112,7 +112,7 @@ std::vector<WalkScreen> coverScreens() {
         {"airports", u"frm_FromDepDestVal"_s, dialog(Screen::frm_FromDepDestVal, giveAirports), true,
          answerRows(isCoverTaken)},
         {"by_hand", u"frm_CC_From_Option"_s, dialog(Screen::frm_CC_From_Option), true,
-         answerRows(isCoverTaken) + WalkRows{{u"optCloudCover*"_s, coverList(), 5}}},
+         answerRows(isCoverTaken) + WalkRows{{u"optCloudCover*"_s, becomes(cloudClass), 5}}},
         {"report", u"frm_CC_From_Metar_String"_s, dialog(Screen::frm_CC_From_Metar_String), true,
          WalkRows{{u"btn_Ok"_s, closes(isCoverTaken, true)},
                   {u"btn_Cancel"_s, closes(isCoverTaken, false)},

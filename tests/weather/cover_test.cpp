@@ -1,4 +1,5 @@
 #include "core/session.h"
+#include "sets/cloud_cover.h"
 #include "simulator/set_matching.h"
 #include "support/install_test.h"
 #include "weather/cover_choice.h"
@@ -17,43 +18,41 @@ struct CoverChoiceTest : test::InstallTest {
             shownScreens << screenName(screen);
             const QString way = ways.section(u' ', shown / 2, shown / 2);
             if (shown++ % 2 == 0)
-                session.state<CoverChoice>().coverMethod = way.left(1).toShort();
-            else if ((session.state<CoverChoice>().coverConfirmed = way.endsWith(u'+')))
-                setCover(session, 5);
+                choice.coverMethod = static_cast<CoverMethod>(way.left(1).toShort());
+            else if ((choice.coverConfirmed = way.endsWith(u'+')))
+                choice.cloudClass = 5;
         };
     }
 
+    CoverChoice& choice = session.state<CoverChoice>();
     QStringList shownScreens;
 };
 
 TEST_F(CoverChoiceTest, reportsOfTheAirports) {
-    session.state<FlightWeather>().WxCloudList = QStringList{u"3"_s, u"4"_s};
-    EXPECT_EQ(takeCoverOfAirports(session), 0);
-    EXPECT_EQ(session.state<FlightWeather>().WxCloudList.size(), 2) << "nothing known: the cover stays";
+    EXPECT_EQ(coverOfAirports(session), 0);
     session.state<WeatherState>().DepMetar = u" EHAM 241225Z 24015KT 9999 FEW030 18/09 Q1012 "_s;
-    EXPECT_EQ(takeCoverOfAirports(session), 2);
+    EXPECT_EQ(coverOfAirports(session), 2);
     session.state<WeatherState>().DestMetar = u"EGLL 241220Z 24015KT 0100 VV001 18/18 Q1012"_s;
-    EXPECT_EQ(takeCoverOfAirports(session), 4);
+    EXPECT_EQ(coverOfAirports(session), 4);
     session.state<WeatherState>().DepMetar.clear();
-    EXPECT_EQ(takeCoverOfAirports(session), 6);
-    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"6"_s});
+    EXPECT_EQ(coverOfAirports(session), 6);
+    EXPECT_EQ(coverOfClass(6).word, u"Partly Cloudy"_s) << "an obscured sky";
 }
 
 TEST_F(CoverChoiceTest, aCancelledWayLeadsBackToTheChoice) {
     take(u"0- 1- 3- 2+"_s);
-    selectCloudCoverMethod(session);
-    const QString choice = u"frm_Select_CC_Method"_s;
-    EXPECT_EQ(shownScreens, (QStringList{choice, u"frm_FlightPlan"_s, choice, u"frm_FromDepDestVal"_s, choice,
-                                         u"frm_CC_From_Metar_String"_s, choice, u"frm_CC_From_Option"_s}));
-    EXPECT_FALSE(session.state<FlightWeather>().CoverCancelled);
+    EXPECT_EQ(selectCloudCoverMethod(session), 5);
+    const QString method = u"frm_Select_CC_Method"_s;
+    EXPECT_EQ(shownScreens, (QStringList{method, u"frm_FlightPlan"_s, method, u"frm_FromDepDestVal"_s, method,
+                                         u"frm_CC_From_Metar_String"_s, method, u"frm_CC_From_Option"_s}));
 }
 
 TEST_F(CoverChoiceTest, aCancelledChoiceEndsTheRoad) {
     take(u"2- 4"_s);
-    EXPECT_EQ(flyNow(session).filesCopied, -1);
+    EXPECT_FALSE(flyNow(session).installed);
     EXPECT_TRUE(install.user.told().isEmpty()) << "nothing is asked";
     take(u"2+"_s);
-    EXPECT_GT(flyNow(session).filesCopied, 0) << "and the next road is free again";
+    EXPECT_GT(flyNow(session).installed->filesCopied, 0) << "and the next road is free again";
 }
 
 QString joined(const Waypoint& waypoint) {
@@ -122,7 +121,6 @@ TEST_F(FlightPlanTest, weatherOfEachWaypoint) {
     EXPECT_FLOAT_EQ(static_cast<float>(weather.average), (2 + 5 + 1 + 2 + 1 + 1 + 1) / 7.0F)
         << "what is not known and what is obscured count as clear here";
     EXPECT_EQ(processFlightPlan(session, {}).coverClass, 0) << "without waypoints there is no cover";
-    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"2"_s});
 }
 
 } // namespace

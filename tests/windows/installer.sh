@@ -6,7 +6,7 @@ set -euo pipefail
 installer=$1 content=$2
 command -v wine >/dev/null || exit 77
 root=$(mktemp -d "${TMPDIR:-/tmp}/Mörvane ø XXXXXX")
-export WINEPREFIX="$root/prefix" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
+export HOME="$root/home" WINEPREFIX="$root/prefix" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
 trap 'wineserver -k 2>/dev/null || true; rm -rf "$root"' EXIT
 
 fail() {
@@ -29,6 +29,7 @@ sums() {
     (cd "$simulator" && find . -type f ! -name 'fs9.*' | sort | xargs -d '\n' md5sum)
 }
 
+mkdir "$HOME"
 limited wineboot -u >/dev/null 2>&1
 user=$WINEPREFIX/drive_c/users/$(id -un)
 programs=$user/AppData/Local/Programs/Morvane

@@ -3,6 +3,7 @@
 #include "cli/terminal.h"
 #include "core/failure_report.h"
 #include "core/numbers.h"
+#include "sets/cloud_cover.h"
 #include "weather/airport_report.h"
 #include "weather/cover_choice.h"
 #include "weather/decoded_lines.h"
@@ -47,7 +48,7 @@ bool chooseEnd(Session& session, const QString& icao, bool isDeparture) {
 
 /// A waypoint without a report is counted as a clear one.
 QString cloudAt(const Waypoint& waypoint) {
-    const QString cloud = coverDisplay(getCloudIcon(waypoint.cloudClass)).text;
+    const QString cloud = coverOfClass(getCloudIcon(waypoint.cloudClass)).caption;
     return waypoint.cloudClass == 0 ? cloud + u" (no clouds reported)"_s : cloud;
 }
 
@@ -60,7 +61,7 @@ void describe(const FlightPlan& plan, const PlanWeather& weather) {
                 .arg(waypoint.longitude, -15)
                 .arg(cloudAt(waypoint)));
     if (weather.waypoints.empty()) return say(u"The plan has no waypoints."_s);
-    say(u"  Average %1: %2"_s.arg(weather.average, 0, 'f', 2).arg(coverDisplay(weather.coverClass).text));
+    say(u"  Average %1: %2"_s.arg(weather.average, 0, 'f', 2).arg(coverOfClass(weather.coverClass).caption));
 }
 
 } // namespace
@@ -69,35 +70,35 @@ void say(const QString& text) {
     writeStandardOutput(text + u'\n');
 }
 
-bool takeWeatherOfReport(Session& session, const QString& metar) {
+std::int16_t classOfReport(Session& session, const QString& metar) {
     say(u"METAR: "_s + metar);
     describe(clsDecodeMetar(session.user).decodeMetarString(metar));
     return processMetarString(session, metar);
 }
 
-bool takeWeatherOfAirports(Session& session, ConsoleUser& user, const QString& departure,
-                           const QString& destination) {
+std::int16_t classOfAirports(Session& session, ConsoleUser& user, const QString& departure,
+                             const QString& destination) {
     session.state<WeatherState>().InhibitWeatherReports = false;
     user.onModal = [&session](Screen) {
         for (const QString& line : session.state<DecodedReportLines>().decodedMetarLines)
             if (!trimmedBlanks(line).isEmpty()) say(u"  "_s + line);
     };
-    if (!chooseEnd(session, departure, true) || !chooseEnd(session, destination, false)) return false;
-    if (takeCoverOfAirports(session) > 0) return true;
-    say(u"Neither report tells of the sky."_s);
-    return false;
+    if (!chooseEnd(session, departure, true) || !chooseEnd(session, destination, false)) return 0;
+    const std::int16_t cloudClass = coverOfAirports(session);
+    if (cloudClass == 0) say(u"Neither report tells of the sky."_s);
+    return cloudClass;
 }
 
-bool takeWeatherOfPlan(Session& session, const QString& file) {
-    bool hasCover = false;
+std::int16_t classOfPlan(Session& session, const QString& file) {
+    std::int16_t cloudClass = 0;
     reportFailures(session.user, {u"Flight Plan Error!"_s, MessageKind::exclamation}, [&] {
         const auto plan = readFlightPlan(session, FilePath(QFileInfo(file).absoluteFilePath()));
         if (!plan) return;
         const PlanWeather weather = processFlightPlan(session, *plan);
         describe(*plan, weather);
-        hasCover = weather.coverClass > 0;
+        cloudClass = weather.coverClass;
     });
-    return hasCover;
+    return cloudClass;
 }
 
 bool refreshCycle(Session& session, ConsoleUser& user) {

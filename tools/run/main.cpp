@@ -115,20 +115,18 @@ bool prepareFlight(Session& session, ConsoleUser& user, const QString& flight) {
     return true;
 }
 
-FlyReport fly(Session& session) {
+FlyReport fly(Session& session, const CloudCover& cover) {
     QElapsedTimer timer;
     timer.start();
-    const FlyReport report = flyWithCover(session);
-    if (report.filesCopied < 0) {
+    const FlyReport report = flyWithCover(session, cover);
+    if (!report.installed)
         say(u"Nothing was installed."_s);
-        return report;
-    }
-    say(u"Installed ground set '%1' and sky set '%2': %3 files in %4 s, into %5"_s
-            .arg(session.state<GroundSelection>().SelectedGroundSet,
-                 session.state<SkySelection>().SelectedSkySet)
-            .arg(report.filesCopied)
-            .arg(timer.elapsed() / 1000.0, 0, 'f', 1)
-            .arg(session.FSPath.text()));
+    else
+        say(u"Installed ground set '%1' and sky set '%2': %3 files in %4 s, into %5"_s
+                .arg(report.installed->ground, report.installed->sky)
+                .arg(report.installed->filesCopied)
+                .arg(timer.elapsed() / 1000.0, 0, 'f', 1)
+                .arg(session.FSPath.text()));
     return report;
 }
 
@@ -137,26 +135,26 @@ struct RunRequest {
     bool refreshes;
 };
 
-bool takeWeather(Session& session, ConsoleUser& user, const RunRequest& request) {
-    if (!request.plan.isEmpty()) return takeWeatherOfPlan(session, request.plan);
+std::int16_t cloudClassOf(Session& session, ConsoleUser& user, const RunRequest& request) {
+    if (!request.plan.isEmpty()) return classOfPlan(session, request.plan);
     if (!request.departure.isEmpty() || !request.destination.isEmpty())
-        return takeWeatherOfAirports(session, user, request.departure, request.destination);
-    return takeWeatherOfReport(session,
-                               request.metar.isEmpty() ? sampleReport(session.files) : request.metar);
+        return classOfAirports(session, user, request.departure, request.destination);
+    return classOfReport(session, request.metar.isEmpty() ? sampleReport(session.files) : request.metar);
 }
 
 int run(Session& session, ConsoleUser& user, const RunRequest& request) {
     if (!startUp(session)) return 1;
     getCustomSplashVal(session);
     if (request.refreshes && !refreshCycle(session, user)) return 1;
-    if (!takeWeather(session, user, request)) return 1;
-    const QString cover = SetMatching::coverWord(SetMatching(session).getAverageCloudCover());
-    say(u"Cloud cover: "_s + cover);
-    makeMissingSets(session, user, cover);
+    const std::int16_t cloudClass = cloudClassOf(session, user, request);
+    if (cloudClass == 0) return 1;
+    const CloudCover& cover = coverOfClass(cloudClass);
+    say(u"Cloud cover: "_s + cover.word);
+    makeMissingSets(session, user, cover.word);
     if (!prepareFlight(session, user, request.flight)) return 1;
     const QString simulator = session.FSPath.native();
     const qsizetype startsBefore = recordedStarts(simulator).size();
-    if (fly(session).isSimulatorStarted) showStart(simulator, startsBefore);
+    if (fly(session, cover).isSimulatorStarted) showStart(simulator, startsBefore);
     writeContactSheet(session, request.sheet);
     say(u"Contact sheet: "_s + request.sheet);
     closeDatabase(session);

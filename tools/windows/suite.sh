@@ -8,7 +8,7 @@ cd "$(dirname "$0")/../.."
 (. tools/packages.sh && . tools/build.sh) # what the cases are compared with; nothing to do behind ./test
 ./build-windows 1>&2
 ./build-windows all 1>&2
-rm -rf "$windowsFolder/wine"
+rm -rf "$windowsFolder/wine" "$windowsFolder/wine.home"
 ownServer() {
     WINEPREFIX=$windowsFolder/wine wineserver "$@" </dev/null >/dev/null 2>&1 || true
 }

@@ -43,11 +43,13 @@ frm_FromDepDestVal::End frm_FromDepDestVal::addEnd(const QString& prefix, const 
 
 void frm_FromDepDestVal::prepare() {
     popAirportValues();
-    const int average = takeCoverOfAirports(session());
-    if (average > 0)
+    const std::int16_t average = coverOfAirports(session());
+    if (average > 0) {
+        session().state<CoverChoice>().cloudClass = average;
         average_.showCover(average);
-    else
+    } else {
         average_.showText(u"No Airport data entered for processing"_s, palette::signalRed);
+    }
     allowOk(average > 0);
 }
 

@@ -1,10 +1,10 @@
 #include "weather/screens/cover_label.h"
 
+#include "sets/cloud_cover.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/palette.h"
 #include "ui/form.h"
 #include "ui/skin.h"
-#include "weather/cover_choice.h"
 
 namespace morvane {
 
@@ -18,10 +18,10 @@ CoverLabel::CoverLabel(Form& form, const Names& names, const QPoint& place, int 
 }
 
 void CoverLabel::showCover(int cloudClass) {
-    const CoverDisplay& display = coverDisplay(cloudClass);
-    showText(display.text, palette::textBlue);
-    picture_->setPixmap(form_.skin().picture(display.picture));
-    picture_->setAccessibleName(display.text);
+    const CloudCover& cover = coverOfClass(cloudClass);
+    showText(cover.caption, palette::textBlue);
+    picture_->setPixmap(form_.skin().picture(cover.picture));
+    picture_->setAccessibleName(cover.caption);
 }
 
 void CoverLabel::showText(const QString& text, QRgb colour) {

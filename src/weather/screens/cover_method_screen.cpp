@@ -26,19 +26,19 @@ frm_Select_CC_Method::frm_Select_CC_Method(Shell& shell)
     }
     methods_->button(0)->setChecked(true);
     connect(methods_, &QButtonGroup::idToggled, this, [this](int method, bool isSet) {
-        if (isSet) session().state<CoverChoice>().coverMethod = static_cast<std::int16_t>(method);
+        if (isSet) session().state<CoverChoice>().coverMethod = static_cast<CoverMethod>(method);
     });
     addAnswerKeys(coverOkTip, coverCancelTip);
 }
 
 /// The option of the last time still stands.
 void frm_Select_CC_Method::prepare() {
-    session().state<CoverChoice>().coverMethod = static_cast<std::int16_t>(methods_->checkedId());
+    session().state<CoverChoice>().coverMethod = static_cast<CoverMethod>(methods_->checkedId());
     setFirstFocus(methods_->checkedButton());
 }
 
 void frm_Select_CC_Method::cancel() {
-    session().state<CoverChoice>().coverMethod = static_cast<std::int16_t>(CoverMethod::cancelled);
+    session().state<CoverChoice>().coverMethod = CoverMethod::cancelled;
     DialogForm::cancel();
 }
 

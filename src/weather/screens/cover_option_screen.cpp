@@ -1,6 +1,7 @@
 #include "weather/screens/cover_option_screen.h"
 
 #include "core/session.h"
+#include "sets/cloud_cover.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/option_picture.h"
 #include "ui/skin.h"
@@ -33,12 +34,12 @@ frm_CC_From_Option::frm_CC_From_Option(Shell& shell)
         option->setAccessibleName(caption);
         option->setFont(fontOf(TextRole::body));
         option->setGeometry(placeOf(index).x() + CoverLabel::side + 10, placeOf(index).y() + 10, 110, 24);
-        new OptionPicture(*option, skin().picture(coverDisplay(index + 1).picture),
+        new OptionPicture(*option, skin().picture(coverOfClass(index + 1).picture),
                           {placeOf(index), QSize(CoverLabel::side, CoverLabel::side)});
         optCloudCover_->addButton(option, index++);
     }
     connect(optCloudCover_, &QButtonGroup::idToggled, this, [this](int index, bool isSet) {
-        if (isSet) setCover(session(), static_cast<std::int16_t>(index + 1));
+        if (isSet) session().state<CoverChoice>().cloudClass = static_cast<std::int16_t>(index + 1);
     });
     addAnswerKeys(coverOkTip, coverCancelTip);
 }
@@ -46,7 +47,7 @@ frm_CC_From_Option::frm_CC_From_Option(Shell& shell)
 void frm_CC_From_Option::prepare() {
     optCloudCover_->button(scattered)->setChecked(true);
     setFirstFocus(optCloudCover_->button(scattered));
-    setCover(session(), scattered + 1);
+    session().state<CoverChoice>().cloudClass = scattered + 1;
 }
 
 } // namespace morvane

@@ -51,10 +51,11 @@ void frm_CC_From_Metar_String::prepare() {
 void frm_CC_From_Metar_String::processMetarString() {
     // A report that was pasted over several lines is one.
     const QString report = session().state<WeatherState>().MetarStringInput.simplified();
-    const bool hasClouds = morvane::processMetarString(session(), report);
-    caption_->setVisible(hasClouds);
-    if (hasClouds)
-        cover_.showCover(session().state<FlightWeather>().WxCloudList[0].toInt());
+    const std::int16_t cloudClass = morvane::processMetarString(session(), report);
+    session().state<CoverChoice>().cloudClass = cloudClass;
+    caption_->setVisible(cloudClass != 0);
+    if (cloudClass != 0)
+        cover_.showCover(cloudClass);
     else
         cover_.clear();
 }

@@ -3,6 +3,7 @@
 #include "core/failure_report.h"
 #include "core/flights_folder.h"
 #include "core/session.h"
+#include "sets/cloud_cover.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/set_table.h"
 #include "ui/controls/skinned_progress_bar.h"
@@ -154,12 +155,14 @@ void frm_FlightPlan::processFlightPlan(const FlightPlan& plan) {
     pbFlightPlan_->hide();
     for (const Waypoint& waypoint : weather.waypoints)
         addWaypoint(waypoint);
-    if (weather.coverClass != 0) cover_.showCover(weather.coverClass);
+    if (weather.coverClass == 0) return;
+    session().state<CoverChoice>().cloudClass = weather.coverClass;
+    cover_.showCover(weather.coverClass);
 }
 
 void frm_FlightPlan::addWaypoint(const Waypoint& waypoint) {
     const std::int16_t icon = getCloudIcon(waypoint.cloudClass);
-    const QString cloud = coverDisplay(icon).text;
+    const QString cloud = coverOfClass(icon).caption;
     const QStringList texts{waypoint.name, waypoint.type, waypoint.latitude, waypoint.longitude,
                             waypoint.airway};
     lvwFlightPlan_->addRow({waypoint.name, texts, texts + QStringList{cloud}});

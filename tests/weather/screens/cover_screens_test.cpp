@@ -5,6 +5,7 @@
 #include "weather/stored_reports.h"
 
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <gtest/gtest.h>
 
 namespace morvane {
@@ -46,7 +47,18 @@ TEST(CoverScreens, aFlightPlan) {
         dialog.ok();
     });
     EXPECT_TRUE(session.state<CoverChoice>().coverConfirmed);
-    EXPECT_EQ(session.state<FlightWeather>().WxCloudList, QStringList{u"4"_s});
+    EXPECT_EQ(session.state<CoverChoice>().cloudClass, 4);
+}
+
+TEST(CoverScreens, aReportTypedInOverSeveralLines) {
+    test::WindowProgram program;
+    program.show(Screen::frm_CC_From_Metar_String, [&](DialogForm& dialog) {
+        dialog.findChild<QPlainTextEdit*>()->setPlainText(u"  EGLL 241220Z VV001\n18/18 Q1012 "_s);
+        dialog.button(u"btn_MetarProcess"_s)->click();
+        EXPECT_EQ(dialog.findChild<QLabel*>(u"lblCloudCover"_s)->text(), "Scattered Clouds");
+        dialog.ok();
+    });
+    EXPECT_EQ(program.session.state<CoverChoice>().cloudClass, 6);
 }
 
 } // namespace
