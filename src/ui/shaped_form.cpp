@@ -101,6 +101,7 @@ void ShapedForm::paintEvent(QPaintEvent*) {
     if (background_.isNull()) return painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
     // On a dense display the picture's edge is finer than the outline that the window is cut to.
     painter.fillRect(rect(), QColor::fromRgb(palette::outline));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform); // letters in it would lose lines at 150 %
     painter.drawPixmap(rect(), background_);
 }
 
