@@ -310,7 +310,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     morvane::loadProgramFont();
-    morvane::applyPaperStyle(application);
+    morvane::applyPaperStyle();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

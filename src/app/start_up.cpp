@@ -97,7 +97,7 @@ void prepareToWrite(Session& session) {
 
 } // namespace
 
-Reported startUp(Session& session, InstallUse use) {
+Reported startUp(Session& session, InstallUse use, const std::function<void()>& simulatorIsFound) {
     joinRooms(session);
     if (const QString problem = installFolderProblem(session.files, session.AppPath, use);
         !problem.isEmpty()) {
@@ -108,8 +108,9 @@ Reported startUp(Session& session, InstallUse use) {
     bool isReady = false;
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const bool done = reportFailures(session.user, report, [&] {
-        isReady = findSimulator(session) &&
-                  openStore(session, isOnlyRead ? StoreAccess::reading : StoreAccess::writing);
+        if (!findSimulator(session)) return;
+        simulatorIsFound();
+        isReady = openStore(session, isOnlyRead ? StoreAccess::reading : StoreAccess::writing);
         if (!isReady) return;
         session.BackupPath = session.AppPath / u"Backup";
         if (!isOnlyRead) updateDatabase(session);

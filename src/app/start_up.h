@@ -3,6 +3,8 @@
 #include "core/install_folder.h"
 #include "core/reported.h"
 
+#include <functional>
+
 namespace morvane {
 
 class Session;
@@ -13,6 +15,9 @@ class Session;
 /// process then ends without the exit flow.
 /// Where nobody may write a start for reading leaves out what it would write: the first run, the upgrade and
 /// the store's new columns.
-Reported startUp(Session& session, InstallUse use = InstallUse::writing);
+/// `simulatorIsFound` is called before the store is opened; it may show that the program starts.
+Reported startUp(
+    Session& session, InstallUse use = InstallUse::writing,
+    const std::function<void()>& simulatorIsFound = [] {});
 
 } // namespace morvane

@@ -87,7 +87,8 @@ std::optional<std::int64_t> rowOf(Store& store, const QString& icao) {
     return run.number(0);
 }
 
-void addRow(Store& store, const clsWxFinder& finder, StoreValue latitude, StoreValue longitude) {
+void addRow(Store& store, const clsWxFinder& finder, const StoreValue& latitude,
+            const StoreValue& longitude) {
     StoreStatement airport(store, rowStatements().place);
     airport.bind(finder.WxFinderIcao);
     const bool hasAirport = airport.step();
@@ -102,8 +103,8 @@ void addRow(Store& store, const clsWxFinder& finder, StoreValue latitude, StoreV
     run.step();
 }
 
-void overwriteRow(Store& store, std::int64_t key, const clsWxFinder& finder, StoreValue latitude,
-                  StoreValue longitude) {
+void overwriteRow(Store& store, std::int64_t key, const clsWxFinder& finder, const StoreValue& latitude,
+                  const StoreValue& longitude) {
     StoreStatement run(store, rowStatements().overwrite);
     bindFields(run, finder);
     for (const StoreValue& value : {latitude, longitude, StoreValue(key)})

@@ -65,7 +65,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     showInstalledIcon();
     loadProgramFont();
-    applyPaperStyle(application);
+    applyPaperStyle();
 
     const QString home = line.home.isEmpty() ? defaultInstallFolder() : line.home;
     const bool isUsual = line.home.isEmpty() && !qEnvironmentVariableIsSet("MORVANE_HOME");

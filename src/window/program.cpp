@@ -49,12 +49,17 @@ void gatherFlights(Session& session, frm_Splash& splash) {
     loadFlightFiles(session);
 }
 
+/// As early as it can be: questions and messages of the start stand over it.
+void showSplash(WindowShell& shell) {
+    shell.screen<frm_Splash>(u"frm_Splash"_s).show();
+    QCoreApplication::processEvents();
+}
+
 /// Between the splash and the main window long loads report on the splash.
 void loadBehindSplash(WindowShell& shell) {
     Session& session = shell.session();
     auto& splash = shell.screen<frm_Splash>(u"frm_Splash"_s);
     session.files.makeFolder(session.AppPath / u"TempBitmaps\\Dutch");
-    splash.show();
     session.StartingUp = true;
     showStep(splash, u"Loading the settings. Please Wait............."_s, 20);
     constexpr int documents = 5;
@@ -95,7 +100,9 @@ int runProgram(WindowShell& shell, const QString& commandLine) {
         showMainWindow(shell);
     };
     if (!commandLine.isEmpty()) session.writing->beUnattended();
-    const bool isReady = startUp(session);
+    const bool isReady = startUp(session, InstallUse::writing, [&] {
+        if (commandLine.isEmpty()) showSplash(shell);
+    });
     if (isReady && !commandLine.isEmpty()) return runUnattended(session, commandLine);
     const bool isStarted = isReady && (exit.endsWork() || reportFailures(session.user, report, openWindows));
     if (!isStarted && !exit.endsWork()) return 1;

@@ -3,6 +3,7 @@
 #include "app/start_up.h"
 #include "core/store.h"
 #include "core/store_connection.h"
+#include "core/store_records.h"
 #include "core/wine_prefixes.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_selection.h"
@@ -10,6 +11,7 @@
 #include "sets/options_in_force.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"
+#include "sky/sky_tuning_state.h"
 #include "support/home_folder.h"
 #include "support/install_test.h"
 #include "support/wine_prefix.h"
@@ -72,6 +74,10 @@ TEST_F(ApplicationTest, aFolderThatNobodyMayWriteIntoServesReadingAndNothingElse
     EXPECT_THROW(session.adoConn->execute(u"DELETE FROM TEXTURE_SETS"_s), Error);
     EXPECT_TRUE(test::contentsBelow(install.home()) == before);
     EXPECT_FALSE(install.files.isFolder(session.BackupPath));
+    closeDatabase(session);
+    ASSERT_TRUE(startUp(session)) << "and it was lent only";
+    EXPECT_FALSE(install.files.exists(install.home() / u"AIRPORTDATA.txt"));
+    EXPECT_EQ(ownValue(install.registry, u"FirstTime"_s), "False");
 }
 
 TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
@@ -82,7 +88,11 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
     user.calls.clear();
     user.foldersToChoose = {install.home().native(), {}, right}; // a wrong one, a cancelled browser
     user.answersToGive = {true, true, false};                    // again, again, and no WideFS client
-    ASSERT_TRUE(startUp(session));
+    const auto isFound = [&] {
+        user.calls << u"found"_s;
+        EXPECT_FALSE(hasStore(session));
+    };
+    ASSERT_TRUE(startUp(session, InstallUse::writing, isFound));
     const QString firstBox =
         "box Your registry does not contain the proper path to FS9.EXE. Please browse to your main "
         "Flight Simulator 2004 folder (it needs to contain FS9.EXE).";
@@ -91,8 +101,8 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
         "try again. You can do this by right-clicking your shortcut to Flight Simulator, and select "
         "Properties. You will see the folder listed. Would you like to try to locate the folder "
         "again? If you select no, we will exit.";
-    EXPECT_EQ(user.calls.mid(0, 6), // the browser comes behind either
-              QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s}));
+    EXPECT_EQ(user.calls.mid(0, 7), // the browser comes behind either
+              QStringList({firstBox, u"browse"_s, retryBox, u"browse"_s, retryBox, u"browse"_s, u"found"_s}));
     EXPECT_EQ(session.FSPath.native(), right);
     EXPECT_EQ(install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s), right);
 }
@@ -192,8 +202,10 @@ TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
         for (const QString& name : names)
             writeFile(install.home() / u"METAR" / name, "EHAM");
         install.files.failAt(failing, true);
+        session.state<SkyTuningState>().isLoaded = failing == 0;
         exitProgram(session);
         install.files.failAt(0, false);
+        EXPECT_TRUE(install.files.exists(install.home() / u"LastSkySettings.cfg"));
         EXPECT_EQ(test::contentsBelow(install.home() / u"METAR").keys(), left);
         EXPECT_EQ(session.adoConn, nullptr);
         EXPECT_EQ(user.countOfKind(MessageKind::error), failing == 0 ? 0 : 1);

@@ -89,7 +89,7 @@ struct UserRegistryTest : testing::Test {
     IniRegistry system{files, file}; ///< past what a user may do
     UserRegistry registry{files, std::make_unique<ClosedRegistry>(files, file, isClosed)};
 
-    QString simulator(const QString& name) {
+    QString simulator(const QString& name) const {
         test::writeFile(folder / name / u"fs9.exe", "MZ");
         return (folder / name).native();
     }

@@ -79,7 +79,7 @@ TEST(GroundGeneration, reportsItsDuration) {
     SmallInstall install({{u"GENERIC WORLD\\029h2su6.bmp"_s}});
     const QDate day(2007, 5, 30);
     for (const QTime& time : {QTime(10, 0), QTime(10, 1), QTime(10, 2), QTime(10, 15)})
-        install.clock.upcoming.push_back({day, time});
+        install.clock.upcoming.emplace_back(day, time);
     create(install, {1, 1, 0, 0, 0});
     EXPECT_EQ(install.user.told(),
               QStringList(

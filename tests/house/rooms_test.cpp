@@ -69,7 +69,7 @@ const std::vector<Room>& rooms() {
 }
 
 /// As the table knows it: from "src" on.
-QString inHouse(QString file) {
+QString inHouse(const QString& file) {
     return file.startsWith(u"src/") ? file.mid(4) : file;
 }
 

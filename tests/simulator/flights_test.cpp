@@ -32,7 +32,7 @@ struct FlightsTest : test::InstallTest {
         loadFlightFiles(session);
         return savedFlights(session);
     }
-    QByteArray copyOf(const QString& name) { return readFile(own.child(name)); }
+    QByteArray copyOf(const QString& name) const { return readFile(own.child(name)); }
 };
 
 TEST_F(FlightsTest, keptFlightsAndTheUsersAreGatheredAndTheUsersWin) {

@@ -18,7 +18,7 @@ namespace morvane {
 namespace {
 
 struct SkyTuningTest : testing::Test {
-    bool isColoured() { return test::bytesOf(tuning.resultDib()) != test::bytesOf(tuning.sourceDib()); }
+    bool isColoured() const { return test::bytesOf(tuning.resultDib()) != test::bytesOf(tuning.sourceDib()); }
     SkyGroup& group(int number) {
         return skyRecord(session.state<SkyColourTables>().skyPaletteGroups, number);
     }

@@ -37,6 +37,6 @@ private:
 };
 
 /// Opens the store and has SQLite look through all of it: "ok", or what is wrong.
-QString integrityOf(const FilePath& store);
+QString integrityOf(const FilePath& path);
 
 } // namespace morvane::test

@@ -159,11 +159,11 @@ int SmallInstall::addSkySet(const QString& name, const QString& cover, bool acti
     return key;
 }
 
-QStringList SmallInstall::installedSets() {
+QStringList SmallInstall::installedSets() const {
     return installedNames(*session.adoConn, u"TEXTURE_SET"_s);
 }
 
-QStringList SmallInstall::installedSkySets() {
+QStringList SmallInstall::installedSkySets() const {
     return installedNames(*session.adoConn, u"SKY_TEXTURE_SET"_s);
 }
 

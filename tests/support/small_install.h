@@ -24,16 +24,16 @@ public:
     explicit SmallInstall(const SmallInstallOptions& options = {});
     ~SmallInstall();
 
-    /// A row of TEXTURE_SETS, as delivered by nobody; its folder holds `files`, each with its name as
+    /// A row of TEXTURE_SETS, as delivered by nobody; its folder holds those named, each with its name as
     /// contents. Returns the key.
     int addGroundSet(const QString& name, const QString& cover, bool activated,
-                     const QStringList& files = {});
+                     const QStringList& names = {});
     /// The same of SKY_TEXTURE_SETS, with a "Day" row of neutral colours but for red in the main sky.
-    int addSkySet(const QString& name, const QString& cover, bool activated, const QStringList& files = {},
+    int addSkySet(const QString& name, const QString& cover, bool activated, const QStringList& names = {},
                   const QString& baseSet = u"Default"_s);
     /// Names of sets in the store with INSTALLED true.
-    QStringList installedSets();
-    QStringList installedSkySets();
+    QStringList installedSets() const;
+    QStringList installedSkySets() const;
     /// Drops what is in memory and reads the store anew.
     void reload();
 

@@ -23,6 +23,6 @@ int main(int count, char** arguments) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a test sees into its own alone
     morvane::loadProgramFont();
-    morvane::applyPaperStyle(application);
+    morvane::applyPaperStyle();
     return RUN_ALL_TESTS();
 }

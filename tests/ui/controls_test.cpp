@@ -22,8 +22,8 @@ struct FootLineTest : testing::Test {
         elsewhere.show();
         window.show();
     }
-    QLabel& label(const QString& name) { return *line->findChild<QLabel*>(name); }
-    QString text() { return label(u"lblFootText"_s).text(); }
+    QLabel& label(const QString& name) const { return *line->findChild<QLabel*>(name); }
+    QString text() const { return label(u"lblFootText"_s).text(); }
 
     QWidget window;
     QPushButton elsewhere;

@@ -10,6 +10,9 @@
 #include "ui/controls/slider.h"
 #include "walk/walk_tables.h"
 
+#include <QTest>
+#include <gtest/gtest.h>
+
 namespace morvane::test {
 
 namespace {

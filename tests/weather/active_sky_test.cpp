@@ -44,13 +44,13 @@ struct ActiveSkyTest : test::InstallTest {
     }
 
     /// A program of that file version: only its fixed version record counts.
-    void writeProgram(int major, int build) {
+    void writeProgram(int major, int build) const {
         QByteArray record("MZ\xbd\x04\xef\xfe\0\0\1\0", 10);
         for (const int part : {0, major, 0, build})
             record.append(static_cast<char>(part % 256)).append(static_cast<char>(part / 256));
         writeFile(folder / u"ASv6.exe", record);
     }
-    void writeExport(const QByteArray& text, const QTime& time) {
+    void writeExport(const QByteArray& text, const QTime& time) const {
         writeFile(exported, text);
         QFile opened(exported.native());
         ASSERT_TRUE(opened.open(QIODevice::ReadWrite));

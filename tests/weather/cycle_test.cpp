@@ -89,7 +89,7 @@ TEST_F(CycleDownloadTest, aPackedBodyIsUnpackedAndAFailureLeavesTheFileOfBefore)
     };
     for (const auto& [reply, expected] : cases) {
         test::writeFile(target, "of before");
-        const QString end = fetchFrom([&](const QByteArray&) { return reply; });
+        const QString end = fetchFrom([&sent = reply](const QByteArray&) { return sent; });
         EXPECT_TRUE(!end.isEmpty() && end.contains(expected)) << end.toStdString();
         EXPECT_EQ(end == u"done", expected == u"done") << expected.toStdString();
         const QByteArray now = test::readFile(target);

@@ -35,6 +35,6 @@ int makeContent(FileSystem& files, const ContentRequest& request);
 /// new, and the next one goes on; the first file that could not be replaced is raised behind all others.
 /// Returns the number of files that were replaced or added, 0 where the install is not older. Raises for a
 /// folder that this tool has not filled.
-int updateContent(FileSystem& files, const ContentRequest& request);
+int updateContent(FileSystem& files, const ContentRequest& present);
 
 } // namespace morvane

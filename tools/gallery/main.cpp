@@ -25,6 +25,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
+#include <exception>
 #include <functional>
 
 using namespace morvane;
@@ -95,6 +96,16 @@ int runScaled(const QString& home, const QString& folder, const QString& earlier
     return status;
 }
 
+int runGallery(const QCommandLineParser& parser) {
+    const QString home = QFileInfo(parser.value(u"home"_s)).absoluteFilePath();
+    const QString folder = parser.positionalArguments()[0];
+    const QString earlier = parser.value(u"against"_s);
+    int status = run(FilePath(home), folder);
+    if (status == 0 && !earlier.isEmpty() && !isLike(folder, earlier)) status = 1;
+    if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) return status;
+    return std::max(status, runScaled(home, folder, earlier));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -103,7 +114,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
     loadProgramFont();
-    applyPaperStyle(application);
+    applyPaperStyle();
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Saves a picture of every screen."_s);
     parser.addHelpOption();
@@ -112,11 +123,10 @@ int main(int argc, char** argv) {
     parser.addPositionalArgument(u"OUTDIR"_s, u"Where the pictures go."_s);
     parser.process(application);
     if (parser.positionalArguments().size() != 1) parser.showHelp(2);
-    const QString home = QFileInfo(parser.value(u"home"_s)).absoluteFilePath();
-    const QString folder = parser.positionalArguments()[0];
-    const QString earlier = parser.value(u"against"_s);
-    int status = run(FilePath(home), folder);
-    if (status == 0 && !earlier.isEmpty() && !isLike(folder, earlier)) status = 1;
-    if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) return status;
-    return std::max(status, runScaled(home, folder, earlier));
+    try {
+        return runGallery(parser);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
 }

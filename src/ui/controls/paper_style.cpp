@@ -189,7 +189,6 @@ void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     case PE_PanelButtonCommand:
         return isOnDark(widget) ? drawDarkButton(*painter, *option) : drawPlainButton(*painter, *option);
     case PE_PanelLineEdit:
-        return drawField(*painter, *option);
     case PE_Frame: // of a list or a text box
         return drawField(*painter, *option);
     case PE_PanelItemViewItem:
@@ -242,12 +241,12 @@ void PaperStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
-void applyPaperStyle(QApplication& application) {
-    application.setStyle(new PaperStyle);
-    application.setPalette(paperPalette());
-    application.setFont(fontOf(TextRole::body));
-    application.setFont(fontOf(TextRole::value), "QPushButton");
-    application.setFont(fontOf(TextRole::listHead), "QHeaderView");
+void applyPaperStyle() {
+    QApplication::setStyle(new PaperStyle);
+    QApplication::setPalette(paperPalette());
+    QApplication::setFont(fontOf(TextRole::body));
+    QApplication::setFont(fontOf(TextRole::value), "QPushButton");
+    QApplication::setFont(fontOf(TextRole::listHead), "QHeaderView");
     QToolTip::setPalette(paperPalette());
     QToolTip::setFont(fontOf(TextRole::body));
 }

@@ -3,7 +3,6 @@
 #include <QProxyStyle>
 
 class QAbstractButton;
-class QApplication;
 
 namespace morvane {
 
@@ -33,7 +32,7 @@ public:
 };
 
 /// Gives the program this style, its palette, its font and the colours of its tips.
-void applyPaperStyle(QApplication& application);
+void applyPaperStyle();
 
 /// Makes a plain button look like a skinned key, or a box's caption bright, for one that lies on bezel or
 /// deck.

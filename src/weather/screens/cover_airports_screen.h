@@ -20,7 +20,7 @@ private:
         QLabel *icao, *airport, *city, *metar;
     };
     /// `prefix` is "lblDep" or "lblDest".
-    End addEnd(const QString& prefix, const QString& heading, int left);
+    End addEnd(const QString& prefix, const QString& heading, int column);
     void popAirportValues();
 
     End departure_, destination_;

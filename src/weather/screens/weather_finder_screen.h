@@ -29,9 +29,9 @@ private:
     void addLists();
     void addBoxes();
     void addFlightEnds();
-    QComboBox* addList(const QString& name, const QString& caption, int left, const QStringList& entries,
+    QComboBox* addList(const QString& name, const QString& caption, int x, const QStringList& entries,
                        QString WxFilter::*entry);
-    void addBox(const QString& name, const QString& caption, int left, bool WxFilter::*flag);
+    void addBox(const QString& name, const QString& caption, int x, bool WxFilter::*flag);
     /// An intensity can be asked for only beside a precipitation.
     void allowIntensity();
     void choose(const QString& icao);

@@ -26,10 +26,10 @@ struct GroundSetsScreenTest : testing::Test {
         screen = &program.shell.screen<frm_MVTextures>(hostName);
         list = screen->findChild<SetTable*>(u"lstTextureSets"_s);
     }
-    void clickRow(int row, const test::RowClick& how = {}) { test::clickRow(*list, row, how); }
-    SkinnedButton& key(const QString& name) { return *screen->button(name); }
+    void clickRow(int row, const test::RowClick& how = {}) const { test::clickRow(*list, row, how); }
+    SkinnedButton& key(const QString& name) const { return *screen->button(name); }
     /// States of delete, create, activate and install, in the order in which the page sets them.
-    std::vector<ButtonState> keyStates() {
+    std::vector<ButtonState> keyStates() const {
         std::vector<ButtonState> states;
         for (const QString& name : {u"btn_TextureDelete"_s, u"btn_textureCreate"_s, u"btn_TextureActivate"_s,
                                     u"btn_TextureInstall"_s})

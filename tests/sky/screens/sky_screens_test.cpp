@@ -35,8 +35,8 @@ struct SkySetsScreenTest : testing::Test {
         program.press(u"frm_Main"_s, u"btn_KMTextures"_s);
         list = &program.control<SetTable>(hostName, u"lstSkyTextureSets"_s);
     }
-    void clickRow(int row) { test::clickRow(*list, row, {.x = 60}); }
-    void tick(int row) { test::clickRow(*list, row, {.x = 11}); }
+    void clickRow(int row) const { test::clickRow(*list, row, {.x = 60}); }
+    void tick(int row) const { test::clickRow(*list, row, {.x = 11}); }
     ButtonState activate() { return program.stateOf(hostName, u"btn_SkyTextureActivate"_s); }
     ButtonState install() { return program.stateOf(hostName, u"btn_SkyTextureInstall"_s); }
     QImage picture(const QString& name) { return program.picture(hostName, name); }
@@ -90,7 +90,7 @@ struct SkyColourScreenTest : testing::Test {
         program.press(hostName, u"btn_Ground"_s);
         palette = &program.control<PalettePicture>(pageName, u"picSkySource"_s);
     }
-    void clickPalette(int x, int y) {
+    void clickPalette(int x, int y) const {
         QTest::mouseClick(palette, Qt::LeftButton, {}, palette->picturePlace().topLeft() + QPoint(x, y));
     }
     void press(const QString& button) {

@@ -45,7 +45,7 @@ struct WeatherScreenTest : testing::Test {
             texts << choice.itemText(i);
         return texts;
     }
-    QString codes() {
+    QString codes() const {
         QStringList texts;
         for (int row = 0; row < list.airports().rowCount(); ++row)
             texts << list.airports().shownAirport(row).icao;
