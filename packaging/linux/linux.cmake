@@ -14,8 +14,9 @@ endforeach()
 install(TARGETS ${pilots_programs} RUNTIME DESTINATION bin)
 install_data(${CMAKE_INSTALL_DATADIR}/morvane/data)
 
-# A day of the pages and of the metadata: today, or that of SOURCE_DATE_EPOCH.
-string(TIMESTAMP MORVANE_DATE "%Y-%m-%d" UTC)
+# Of the pages, the metadata and the changelog: the day of this version, whose number stands in CMakeLists.txt.
+set(MORVANE_DATE 2026-11-22)
+set(MORVANE_CHANGE_DATE "Sun, 22 Nov 2026 00:00:00 +0000")
 foreach(page morvane morvane-content)
     configure_file(linux/${page}.1.in ${page}.1 @ONLY)
 endforeach()

@@ -14,9 +14,8 @@ install(SCRIPT ${CMAKE_CURRENT_BINARY_DIR}/bundle.cmake COMPONENT bundle EXCLUDE
 install(FILES linux/qt.conf DESTINATION bin COMPONENT bundle EXCLUDE_FROM_ALL)
 install(FILES linux/README DESTINATION . COMPONENT bundle EXCLUDE_FROM_ALL)
 
-# What Debian asks of a package.
+# What Debian asks of a package. An address it must have; this one is of the names that no mail ever goes to.
 set(packager "The Morvane developers <developers@morvane.invalid>")
-string(TIMESTAMP MORVANE_CHANGE_DATE "%a, %d %b %Y %H:%M:%S +0000" UTC)
 configure_file(linux/changelog.in changelog @ONLY)
 add_custom_command(OUTPUT changelog.gz COMMAND gzip -9nc changelog > changelog.gz
     DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/changelog VERBATIM)

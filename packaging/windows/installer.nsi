@@ -138,6 +138,12 @@ Section
     !insertmacro writeOwn "${OWN_KEY}" "DataFolder" "$DataFolder"
     ${If} $HasEarlier == 0
         !insertmacro writeOwn "${OWN_KEY}" "FirstTime" "True"
+        ${If} $IsForAll == 1
+            ; What a first start gives its own user alone (app/first_values.cpp), for those that come later.
+            WriteRegStr HKLM "${OWN_KEY}" "WeatherServer" "https://tgftp.nws.noaa.gov"
+            WriteRegStr HKLM "${OWN_KEY}" "WeatherPath" "/data/observations/metar/cycles/"
+            WriteRegStr HKLM "${OWN_KEY}" "WeatherFormat" "noaa"
+        ${EndIf}
     ${EndIf}
     ${If} $IsForAll == 1
         ; One data folder, in which all users write.

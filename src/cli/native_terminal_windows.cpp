@@ -39,7 +39,9 @@ bool isTerminalFile(FILE* file) {
 // A console's bytes are in a code page that lacks most letters. In UTF-16 it takes and gives all of them.
 
 bool writeToTerminal(FILE* file, const QString& text) {
-    if (!isTerminalFile(file)) return false;
+    // The system is asked once, not for each line.
+    static const bool isOutputTerminal = isTerminalFile(stdout), isMessageTerminal = isTerminalFile(stderr);
+    if (!(file == stderr ? isMessageTerminal : isOutputTerminal)) return false;
     DWORD written = 0;
     WriteConsoleW(handleOf(file), text.utf16(), static_cast<DWORD>(text.size()), &written, nullptr);
     return true;

@@ -19,7 +19,6 @@ void write(FILE* file, const QString& text) {
     if (writeToTerminal(file, text)) return;
     const QByteArray bytes = text.toUtf8();
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
-    std::fflush(file);
 }
 
 } // namespace
@@ -32,8 +31,11 @@ bool isErrorTerminal() {
     return isTerminalFile(stderr);
 }
 
+/// Stdout goes before it, so that both in one file stand in the order in which they were said.
 void writeStandardError(const QString& text) {
+    std::fflush(stdout);
     write(stderr, text);
+    std::fflush(stderr);
 }
 
 void writeStandardOutput(const QString& text) {
@@ -41,7 +43,7 @@ void writeStandardOutput(const QString& text) {
 }
 
 bool isOutputWhole() {
-    return std::ferror(stdout) == 0;
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
 }
 
 std::optional<QString> readLine() {

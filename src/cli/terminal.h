@@ -10,8 +10,9 @@ namespace morvane {
 bool isTerminal();      ///< someone can be asked: stdin and stderr are a terminal
 bool isErrorTerminal(); ///< stderr is one, so a line may be painted over
 void writeStandardError(const QString& text);
+/// A pipe and a file may get it later, with more of it.
 void writeStandardOutput(const QString& text);
-/// False once something could not be written there, as on a full disk.
+/// Writes what is still to come; false when something could not be written there, as on a full disk.
 bool isOutputWhole();
 /// A line of stdin without its end; nothing at the end of input or after an interrupt.
 std::optional<QString> readLine();

@@ -9,7 +9,7 @@ namespace morvane {
 
 namespace {
 
-constexpr qsizetype sumLength = 40;
+constexpr qsizetype sumLength = 40, triesByItself = 2;
 
 QString lineOf(const QString& sum, const QString& path) {
     return sum + u'\t' + path + u'\n';
@@ -17,6 +17,10 @@ QString lineOf(const QString& sum, const QString& path) {
 
 QVersionNumber programVersion() {
     return QVersionNumber::fromString(QStringLiteral(MORVANE_VERSION));
+}
+
+QString failureLine() {
+    return u"failed %1 by %2"_s.arg(contentVersion).arg(programVersion().toString());
 }
 
 } // namespace
@@ -30,6 +34,7 @@ DeliveredList::DeliveredList(FileSystem& files, const FilePath& home)
         density_ = match.captured(2).toInt();
         program_ = QVersionNumber::fromString(match.captured(3));
     }
+    failures_ = lines.count(failureLine());
     for (const QString& line : lines) // one that a kill cut short has no path, or one that nothing has
         if (line.indexOf(u'\t') == sumLength) {
             const QString path = line.mid(sumLength + 1);
@@ -42,6 +47,15 @@ DeliveredList::DeliveredList(FileSystem& files, const FilePath& home)
 bool DeliveredList::isOlder() const {
     return density_ > 0 &&
            (program_ < programVersion() || (program_ == programVersion() && content_ < contentVersion));
+}
+
+bool DeliveredList::awaitsUpdate() const {
+    return isOlder() && failures_ < triesByItself && !files_.isReadOnly(file_);
+}
+
+void DeliveredList::noteFailure() {
+    files_.append(file_, (u'\n' + failureLine() + u'\n').toUtf8());
+    ++failures_;
 }
 
 bool DeliveredList::has(const QString& path, const QString& sum) const {

@@ -14,14 +14,20 @@ inline constexpr int contentVersion = 8;
 
 /// What the content tool laid down in an install folder, in the file "content.version" there. Its first line
 /// says by whom, "content 8 density 1 by 2.1.0"; behind it stands a line a file, check sum and path with a
-/// tab between. A file that is not as the list has it is the pilot's own. One path can have several sums:
-/// that of a new file is added before it replaces the old one, so that a cut leaves none of ours unknown.
+/// tab between, and "failed 8 by 2.1.0" for each try of a newer one that did. A file that is not as the list
+/// has it is the pilot's own. One path can have several sums: that of a new file is added before it replaces
+/// the old one, so that a cut leaves none of ours unknown.
 class DeliveredList {
 public:
     DeliveredList(FileSystem& files, const FilePath& home);
 
     /// An older version of the program laid it down; never where none did.
     bool isOlder() const;
+    /// And this version may still bring it up to date by itself: a list that is marked read-only is the
+    /// pilot's, and what failed twice would fail at each start.
+    bool awaitsUpdate() const;
+    /// Counts a try of this version that failed.
+    void noteFailure();
     /// Of the base images; 0 where no content tool has come to its end.
     int density() const { return density_; }
     bool has(const QString& path, const QString& sum) const;
@@ -41,6 +47,7 @@ private:
     FileSystem& files_;
     FilePath file_;
     int content_ = 0, density_ = 0;
+    qsizetype failures_ = 0;       ///< of this version of the program
     QVersionNumber program_;       ///< none in an install of before this list
     QMap<QString, Entry> entries_; ///< by path without regard to case
 };

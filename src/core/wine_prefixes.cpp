@@ -65,19 +65,39 @@ QStringList pathsInRegistry(FileSystem& files, const WinePrefix& prefix) {
     return paths;
 }
 
+qsizetype indentOf(const QByteArray& line) {
+    return std::ranges::find_if(line, [](char c) { return c != ' '; }) - line.begin();
+}
+
+/// A long text goes on in lines that lie further in. Their ends are blanks, but where a "\\" stands before.
+QString unfolded(QList<QByteArray>::const_iterator line, QList<QByteArray>::const_iterator end) {
+    const qsizetype indent = indentOf(*line);
+    QByteArray text = line->trimmed();
+    while (++line != end && indentOf(*line) > indent && !line->trimmed().isEmpty()) {
+        if (text.endsWith('\\'))
+            text.chop(1);
+        else
+            text += ' ';
+        text += line->trimmed();
+    }
+    return QString::fromUtf8(text);
+}
+
+QString unquoted(const QString& text) {
+    const bool isQuoted = text.size() > 1 && text.front() == text.back();
+    const QString inside = isQuoted ? text.sliced(1, text.size() - 2) : text;
+    if (isQuoted && text.front() == u'"') return withoutEscapes(inside);
+    return isQuoted && text.front() == u'\'' ? QString(inside).replace(u"''"_s, u"'"_s) : text;
+}
+
 } // namespace
 
 QString textOfLine(const QByteArray& lines, const QByteArray& name) {
-    for (QByteArray line : lines.split('\n')) {
-        line = line.trimmed();
-        if (!line.startsWith(name + ':')) continue;
-        const QString text = QString::fromUtf8(line.sliced(name.size() + 1)).trimmed();
-        const bool isQuoted = text.size() > 1 && text.front() == text.back();
-        const QString inside = isQuoted ? text.sliced(1, text.size() - 2) : text;
-        if (isQuoted && text.front() == u'"') return withoutEscapes(inside);
-        return isQuoted && text.front() == u'\'' ? QString(inside).replace(u"''"_s, u"'"_s) : text;
-    }
-    return {};
+    const QList<QByteArray> all = lines.split('\n');
+    const auto isNamed = [&](const QByteArray& line) { return line.trimmed().startsWith(name + ':'); };
+    const auto line = std::ranges::find_if(all, isNamed);
+    return line == all.end() ? QString()
+                             : unquoted(unfolded(line, all.end()).sliced(name.size() + 1).trimmed());
 }
 
 std::vector<PrefixSimulator> simulatorsInPrefixes(FileSystem& files) {

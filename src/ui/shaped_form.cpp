@@ -4,8 +4,10 @@
 #include "ui/controls/palette.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
+#include "ui/window_outline.h"
 
 #include <QApplication>
+#include <QBitmap>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -29,6 +31,11 @@ const WindowLook nightLook{u"MVNightInterface.bmp"_s, mainRegion, mainSize};
 const WindowLook messageLook{u"MVMsg_BG.bmp"_s, u"MsgRegion.dat"_s, {400, 300}};
 const WindowLook smallDialogLook{u"MVAdd_BG.bmp"_s, u"AddRegion.dat"_s, {400, 360}};
 const WindowLook wideDialogLook{u"MVWide_BG.bmp"_s, u"RandomizerRegion.dat"_s, {700, 500}};
+
+QRegion outlineOf(const QPixmap& picture, const QSize& size) {
+    const QImage scaled = picture.toImage().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return QRegion(QBitmap::fromImage(scaled.createAlphaMask(Qt::ThresholdDither)));
+}
 
 bool clsTransForm::ShapeMe(Skin& skin, const QString& regionFile) {
     const QRegion outline = skin.outline(regionFile);
@@ -71,8 +78,17 @@ void ShapedForm::keepOnScreen() {
          std::max(room.top(), std::min(y(), room.bottom() + 1 - height())));
 }
 
+/// At a scale the steps of the outline's points would be seen; and a window may come to a screen of another
+/// one.
+void ShapedForm::cutOutline() {
+    cutScale_ = devicePixelRatioF();
+    if (background_.isNull() || !hasPixelOutlines() || (cutScale_ == 1 && !mask().isEmpty())) return;
+    cutToPixels(*this, outlineOf(background_, size() * cutScale_));
+}
+
 void ShapedForm::showEvent(QShowEvent* event) {
     keepOnScreen();
+    cutOutline();
     // Who goes by keys sees in the next window, too, where they lead.
     if (const QWidget* before = QApplication::activeWindow())
         setAttribute(Qt::WA_KeyboardFocusChange, before->testAttribute(Qt::WA_KeyboardFocusChange));
@@ -80,10 +96,12 @@ void ShapedForm::showEvent(QShowEvent* event) {
 }
 
 void ShapedForm::paintEvent(QPaintEvent*) {
+    if (cutScale_ != devicePixelRatioF()) cutOutline();
     QPainter painter(this);
     if (background_.isNull()) return painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
     // On a dense display the picture's edge is finer than the outline that the window is cut to.
     painter.fillRect(rect(), QColor::fromRgb(palette::outline));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform); // letters in it would lose lines at 150 %
     painter.drawPixmap(rect(), background_);
 }
 

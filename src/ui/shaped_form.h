@@ -16,6 +16,9 @@ struct WindowLook {
 extern const WindowLook mainLook, groundLook, skyLook, nightLook; ///< one outline for all four
 extern const WindowLook messageLook, smallDialogLook, wideDialogLook;
 
+/// The part of the picture that is not transparent, when it has been scaled to that size.
+QRegion outlineOf(const QPixmap& picture, const QSize& size);
+
 /// Cuts a window to an outline, and lets it be dragged by its background, as it has no title bar.
 class clsTransForm {
 public:
@@ -55,8 +58,10 @@ protected:
 
 private:
     void keepOnScreen();
+    void cutOutline();
 
     QPixmap background_;
+    qreal cutScale_ = 1; ///< that the outline was cut for
     clsTransForm shape_;
 };
 

@@ -12,9 +12,9 @@ namespace morvane {
 
 bool awaitsContentUpdate(const FilePath& home) {
     NativeFileSystem files;
-    bool isOlder = false; // a list that cannot be read is no reason not to start
-    attempt([&] { isOlder = DeliveredList(files, home).isOlder(); });
-    return isOlder && files.exists(home / u"Morvane.mdb") && installFolderProblem(files, home).isEmpty();
+    bool awaitsUpdate = false; // a list that cannot be read is no reason not to start
+    attempt([&] { awaitsUpdate = DeliveredList(files, home).awaitsUpdate(); });
+    return awaitsUpdate && files.exists(home / u"Morvane.mdb") && installFolderProblem(files, home).isEmpty();
 }
 
 void updateDeliveredContent(const FilePath& home) {
@@ -25,11 +25,17 @@ void updateDeliveredContent(const FilePath& home) {
     const ContentToolRun run = runContentTool({u"--home"_s, home.native(), u"--update"_s}, progress);
     if (run.end != ContentToolRun::End::failed || progress.wasCanceled()) return;
     progress.hide();
+    NativeFileSystem files;
+    DeliveredList list(files, home);
+    attempt([&] { list.noteFailure(); });
     QMessageBox::warning(
         nullptr, u"Morvane"_s,
         u"Not all pictures and base images could be brought up to date.  Each is the old or the new "
-        u"one as a whole, and the next start tries the others again.\n"_s +
-            run.cause);
+        u"one as a whole, and "_s +
+            (list.awaitsUpdate() ? u"the next start tries the others again."_s
+                                 : u"the others stay as they are until the next version.  To try them again "
+                                   u"before, call morvane-content with --update."_s) +
+            u'\n' + run.cause);
 }
 
 } // namespace morvane

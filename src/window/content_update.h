@@ -4,7 +4,8 @@
 
 namespace morvane {
 
-/// Whether an older version of the program filled that install folder, and this one may write there.
+/// Whether an older version of the program filled that install folder, and this one may write there and has
+/// not failed twice.
 bool awaitsContentUpdate(const FilePath& home);
 
 /// Brings what that version delivered up to date by the content tool, with progress; the tool knows what is

@@ -38,11 +38,20 @@ bool showsHelp(int argc, char** argv) {
     return !text.isEmpty();
 }
 
+/// A package lays it down; on Windows the program holds it. The skin's comes with the install folder, and so
+/// behind the first start.
+void showInstalledIcon() {
+    const QString file =
+        QCoreApplication::applicationDirPath() + u"/../share/icons/hicolor/128x128/apps/morvane.png"_s;
+    if (QFileInfo::exists(file)) QApplication::setWindowIcon(QIcon(file));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     QApplication::setApplicationName(u"Morvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
+    QGuiApplication::setDesktopFileName(u"morvane"_s); // by it a desktop finds name and icon
     if (showsHelp(argc, argv)) return 0;
     chooseLetterEngine();
     fitScaleToScreen(argc, argv);
@@ -54,6 +63,7 @@ int main(int argc, char** argv) {
     }
     // Windows come and go as pages do; only the exit flow ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
+    showInstalledIcon();
     loadProgramFont();
     applyPaperStyle();
 

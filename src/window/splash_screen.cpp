@@ -35,6 +35,7 @@ void frm_Splash::showStep(const QString& text, double value) {
 void frm_Splash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!picture_.isNull()) painter.drawPixmap(rect(), picture_);
 }
 

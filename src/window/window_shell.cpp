@@ -17,6 +17,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QUrl>
 #include <QUrlQuery>
 
@@ -211,6 +212,8 @@ void WindowShell::endWithSession() {
 
 void WindowShell::leave(ExitStage stage) {
     session().ExitInProgress.moveTo(stage);
+    // The system's own dialog waits in a loop of the system's, which our exit does not end.
+    if (auto* box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) box->reject();
     // `quit` would be given up, as no window takes its close.
     QCoreApplication::exit(0);
 }

@@ -10,6 +10,7 @@
 #include "window/window_shell.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -108,7 +109,8 @@ bool WindowUser::systemBox(const QString& text, const QString& title, SystemBoxB
 
 QString WindowUser::browseForFolder(const QString& startFolder) {
     if (isSilent()) return {};
-    return QFileDialog::getExistingDirectory(boxParent(), u"Please select a folder..."_s, startFolder);
+    const QString title = u"Please select a folder..."_s;
+    return QDir::toNativeSeparators(QFileDialog::getExistingDirectory(boxParent(), title, startFolder));
 }
 
 void WindowUser::showModal(Screen screen) {

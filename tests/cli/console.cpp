@@ -1,5 +1,7 @@
 #include "cli/console.h"
 
+#include "cli/process_interrupt.h"
+
 #include <QDir>
 #include <QJsonDocument>
 #include <gtest/gtest.h>
@@ -32,6 +34,7 @@ Console::Console(const QStringList& arguments) {
     environment.remove(u"MORVANE_HOME"_s);
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     process_.setProcessEnvironment(environment);
+    allowInterrupt(process_);
     process_.start(QStringLiteral(MORVANE_BIN_DIR "/morvane-cli"), arguments);
     if (!process_.waitForStarted(watchdogMilliseconds)) throw std::runtime_error("no console program");
 }
@@ -43,6 +46,10 @@ bool Console::waitForMessage(const QString& text) {
         errors_ += process_.readAllStandardError();
     }
     return true;
+}
+
+void Console::interrupt() {
+    test::interrupt(process_);
 }
 
 void Console::kill() {

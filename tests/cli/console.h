@@ -33,7 +33,7 @@ public:
     explicit Console(const QStringList& arguments);
     /// Waits until stderr holds the text; false when the program ended before.
     bool waitForMessage(const QString& text);
-    qint64 id() const { return process_.processId(); }
+    void interrupt();
     /// At once, as a power cut would.
     void kill();
     ConsoleRun finish(const QByteArray& input = {});

@@ -87,9 +87,10 @@ TEST_F(WinePrefixTest, areFoundWhereEachKeeperHasThem) {
     QDir().mkpath(home + "/.local/share/lutris/runners/wine/b");
     const QByteArray root = QFile::encodeName(home);
     write(".config/lutris/games/föhn.yml",
-          "game:\n  prefix: \"" + root + "/Games/F\\xF6hn \\u7a7a\\U0001F6E9\"\n");
+          "game:\n  prefix: \"" + root + "/Games/F\\xF6hn\\\n    \\ \\u7a7a\\U0001F6E9\"\n");
     write(".local/share/lutris/games/x.yml",
-          "game:\n  exe: " + root + "/Games/by program/drive_c/Program Files (x86)/FS 9/fs9.exe\n");
+          "game:\n  exe: " + root +
+              "/Games/by\n    program/drive_c/Program Files\n    (x86)/FS 9/fs9.exe\n  more: x\n");
     write(".local/share/lutris/games/gone.yml", "game:\n  prefix: /nowhere\n  exe: drive_c/a.exe\n");
     write(bottles + "bottles/My-Bottle/bottle.yml", "Arch: win64\n  Name: My Bottle\n");
     write("chosen's/Other/bottle.yml", "Arch: win64\n");

@@ -3,6 +3,7 @@
 #include "ui/controls/foot_line.h"
 #include "ui/controls/slider.h"
 #include "ui/controls/wrapped_tip.h"
+#include "ui/shaped_form.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -124,6 +125,19 @@ TEST_F(SliderTest, dragKeepsTheGrabbedPointAndStopsAtTheEnds) {
     release({-400, 30});
     drag({50, 10});
     EXPECT_EQ(slider.value(), -100) << "the drag is over";
+}
+
+/// At one and a half times its size too: a slope of one point by one has no step of two.
+TEST(Outline, isCutFromThePictureInSinglePixels) {
+    QImage wedge(80, 80, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < 80; ++y)
+        for (int x = 0; x < 80; ++x)
+            wedge.setPixel(x, y, x > y ? 0U : 0xFF202020U);
+    for (const int size : {40, 60, 80}) {
+        const QRegion outline = outlineOf(QPixmap::fromImage(wedge), {size, size});
+        EXPECT_EQ(outline.rectCount(), size);
+        EXPECT_EQ(outline.boundingRect(), QRect(0, 0, size, size));
+    }
 }
 
 } // namespace

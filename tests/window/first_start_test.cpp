@@ -97,6 +97,11 @@ TEST(FirstStart, ofANewerVersionTellsOfAFailureAndGoesOn) {
         EXPECT_EQ(hand.boxes, boxes) << density.toStdString();
         EXPECT_TRUE(test::readFile(list).startsWith("content 1 ")) << "the next start goes on";
         EXPECT_EQ(test::readFile(store), "store");
+        EXPECT_TRUE(awaitsContentUpdate(folder.path()));
+        if (boxes > 0) updateDeliveredContent(folder.path());
+        EXPECT_EQ(awaitsContentUpdate(folder.path()), boxes == 0) << "what fails twice fails at each start";
+        test::writeFile(list, test::readFile(list).replace("failed ", "failed 1"));
+        EXPECT_TRUE(awaitsContentUpdate(folder.path())) << "a newer version tries it, too";
     }
 }
 

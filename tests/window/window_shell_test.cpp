@@ -11,6 +11,8 @@
 #include "ui/host_form.h"
 #include "window/form_table.h"
 
+#include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <gtest/gtest.h>
 
@@ -166,6 +168,17 @@ TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
     };
     for (const auto& [open, said] : cases)
         EXPECT_EQ(program.toldDuring(open, {}, u"lbl_Message"_s), QStringList{said});
+}
+
+TEST_F(ShellTest, aFolderIsNamedAsTheSystemNamesIt) {
+    const QString home = program.install.home().native();
+    QTimer answer;
+    answer.callOnTimeout([] {
+        if (auto* box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
+            QTest::keyClick(box, Qt::Key_Return);
+    });
+    answer.start(0);
+    EXPECT_EQ(program.user.browseForFolder(home), QDir::toNativeSeparators(home));
 }
 
 } // namespace

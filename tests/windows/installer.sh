@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # installer.sh INSTALLER CONTENT: the installer under Wine, silently: install, make the data folder, install a set, install over
-# itself, put back, uninstall. CONTENT is a native content tool, which makes the simulator. Status 77: no Wine here.
+# itself, put back, uninstall; then for all users. CONTENT is a native content tool, which makes the simulator. Status 77:
+# no Wine here.
 set -euo pipefail
 installer=$1 content=$2
 command -v wine >/dev/null || exit 77
@@ -13,10 +14,10 @@ fail() {
     exit 1
 }
 
-# Wine writes its registry down some time after a program.
+# expectValue NAME TEXT [ROOT]. Wine writes its registry down some time after a program.
 expectValue() {
     local said
-    said=$(limited wine reg query 'HKCU\Software\Orrinsoft\Morvane' /v "$1" /reg:32 | tr -d '\r')
+    said=$(limited wine reg query "${3:-HKCU}\\Software\\Orrinsoft\\Morvane" /v "$1" /reg:32 | tr -d '\r')
     [[ $said == *"$2"* ]] || fail "$1 is not $2: $said"
 }
 
@@ -65,4 +66,19 @@ limited wine "$programs/uninstall.exe" /S '_?=C:\users\'"$(id -un)"'\AppData\Loc
 [ "$(find "$programs" -type f ! -name uninstall.exe -printf '%f')" = "the pilot's own.txt" ] ||
     fail "other files are left, or the pilot's is not"
 [ -f "$user/AppData/Local/Morvane/Morvane.mdb" ] || fail "the data are gone"
-echo "installed, used, installed again, put back, uninstalled"
+# For all users, by an administrator, as Wine's user is one.
+limited wine reg delete 'HKCU\Software\Orrinsoft' /reg:32 /f >/dev/null
+limited wine "$installer" /S /ALLUSERS || fail "the installer for all ended with status $?"
+expectValue DataFolder 'C:\ProgramData\Morvane' HKLM
+expectValue FirstTime True HKLM
+expectValue WeatherFormat noaa HKLM
+shared=$WINEPREFIX/drive_c/ProgramData/Morvane
+[ -d "$shared" ] || fail "there is no data folder for all"
+mv "$user/AppData/Local/Morvane"/* "$shared/"
+programs="$WINEPREFIX/drive_c/Program Files/Morvane"
+limited wine "$programs/morvane-cli.exe" ground list 2>"$root/said" | grep -q '"Default"' ||
+    { cat "$root/said"; fail "the data folder for all is not used"; }
+limited wine "$programs/uninstall.exe" /S # goes on as a copy of itself
+limited wineserver -w
+[ ! -e "$programs/morvane.exe" ] && [ -f "$shared/Morvane.mdb" ] || fail "not removed, or with its data"
+echo "installed, used, installed again, put back, uninstalled; for all users, too"

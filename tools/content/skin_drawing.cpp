@@ -63,6 +63,7 @@ void drawPaper(QPainter& painter, const QRectF& place, qreal length) {
 QFont programFont(int pixels, QFont::Weight weight) {
     QFont font(u"Roboto"_s);
     font.setPixelSize(pixels);
+    font.setHintingPreference(QFont::PreferNoHinting); // else letters stand on whole pixels on Windows
     font.setWeight(weight);
     return font;
 }
