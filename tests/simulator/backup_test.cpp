@@ -104,7 +104,12 @@ TEST_F(BackupTest, restorePassesOverReadOnlyTargetsAndDamagedCopiesWithoutAWord)
     EXPECT_EQ(readFile(world / u"002C2WI1.BMP"), "a set");
     EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "a set");
     EXPECT_TRUE(readFile(world / u"005A2SU2.BMP").startsWith("the pilot's"));
+    EXPECT_EQ(install.user.calls.back(), u"done 1 put back, 1 read-only left, 1 damaged left out"_s);
     EXPECT_TRUE(install.user.told().isEmpty());
+    writeFile(world / u"005A2SU2.BMP", "a set");
+    install.user.onModal = [this](Screen) { session.state<BackupChoice>().chosenBackup = u"1-Backup"_s; };
+    restoreBackupOnRequest(session);
+    EXPECT_EQ(readFile(world / u"005A2SU2.BMP"), "a set") << "clicked, and left without an OK";
 }
 
 TEST_F(BackupTest, whatIsCutShortIsMarkedAndNothingIsOverwritten) {

@@ -2,6 +2,7 @@
 
 #include "support/window_program.h"
 
+#include "ground/sample_textures.h"
 #include "night/night_samples.h"
 #include "ui/controls/slider.h"
 #include "ui/host_form.h"
@@ -127,18 +128,21 @@ TEST_F(EveryScreen, saysWhatStandsInTheList) {
 
 TEST_F(EveryScreen, asksAtItsFirstQuestionAndAnswersWithWhatIsChosen) {
     auto& night = program.session.state<NightSampleChoice>();
-    night.selectedNightTexture.clear();
+    night.selectedNightTexture = u"small city"_s;
+    program.session.state<GroundSampleChoice>().selectedSeason = u"fall"_s;
     QStringList places;
     for (const Screen screen :
          {Screen::frm_TsRequired, Screen::frm_SelectTexture, Screen::frm_SelectNightTexture,
           Screen::frm_SelectBaseSky, Screen::frm_CC_From_Option, Screen::frm_CC_From_Metar_String})
         program.show(screen, [&](DialogForm& dialog) {
             places << dialog.focusWidget()->objectName();
+            if (auto* rural = dialog.findChild<QAbstractButton*>(u"optNightTexture_rural"_s)) rural->click();
             dialog.ok();
         });
-    EXPECT_EQ(places.join(u' ').toStdString(),
-              "txtNoClouds optSeason_spring optNightTexture_rural optBaseSky0 optCloudCover2 txtMetarString");
-    EXPECT_FALSE(night.selectedNightTexture.isEmpty());
+    EXPECT_EQ(
+        places.join(u' ').toStdString(),
+        "txtNoClouds optSeason_fall optNightTexture_small city optBaseSky0 optCloudCover2 txtMetarString");
+    EXPECT_EQ(night.selectedNightTexture, u"rural"_s);
 }
 
 /// As assistive programs do it.
