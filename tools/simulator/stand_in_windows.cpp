@@ -47,10 +47,13 @@ std::wstring workingFolder() {
 }
 
 std::string listOf(int count, wchar_t** words) {
-    std::string list;
-    for (int i = 0; i < count; ++i)
-        list += (i == 0 ? "" : ",") + quoted(words[i]);
-    return '[' + list + ']';
+    std::string list = "[";
+    for (int i = 0; i < count; ++i) {
+        if (i > 0) list += ',';
+        list += quoted(words[i]);
+    }
+    list += ']';
+    return list;
 }
 
 bool append(const std::wstring& file, const std::string& line) {
@@ -68,8 +71,12 @@ bool append(const std::wstring& file, const std::string& line) {
 int wmain(int argc, wchar_t** argv) {
     const std::wstring program = programFile();
     const std::wstring record = program.substr(0, program.rfind(L'\\') + 1) + L"fs9.starts.jsonl";
-    const std::string line = "{\"arguments\":" + listOf(argc - 1, argv + 1) +
-                             ",\"program\":" + quoted(withSlashes(program)) +
-                             ",\"workingFolder\":" + quoted(withSlashes(workingFolder())) + "}\n";
+    std::string line = "{\"arguments\":";
+    line += listOf(argc - 1, argv + 1);
+    line += ",\"program\":";
+    line += quoted(withSlashes(program));
+    line += ",\"workingFolder\":";
+    line += quoted(withSlashes(workingFolder()));
+    line += "}\n";
     return append(record, line) ? 0 : 1;
 }
