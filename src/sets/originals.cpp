@@ -57,6 +57,7 @@ OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
 
 void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
     std::vector<FilePath> places;
+    places.reserve(copies.size());
     for (const FileCopy& copy : copies)
         places.push_back(find(copy.target));
     // The records stay as they are until all have been looked at.
