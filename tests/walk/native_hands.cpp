@@ -83,9 +83,12 @@ void clickInPopup(QComboBox& choice) {
 
 void clickPart(QTreeView& list, const QString& part) {
     constexpr int inBox = 9, besideBox = 40;
-    if (part == u"head") { // the first click may find the rows in its order
+    if (part ==
+        u"head") { // the first click may find the rows in its order, and a second one would turn it back
+        const QString before = stateOf(list);
         click(*list.header()->viewport(), {20, 11});
-        return click(*list.header()->viewport(), {20, 11});
+        if (stateOf(list) == before) click(*list.header()->viewport(), {20, 11});
+        return;
     }
     if (part == u"tick") return clickRow(list, list.model()->index(0, 0), inBox);
     clickRow(list, otherRow(list), besideBox);
