@@ -24,12 +24,15 @@ public:
         while (pending_.size() <= cores_ && started_ < count_)
             startNext();
         while (count_ > 1 && threads_.size() < std::min(cores_, pending_.size()))
-            threads_.emplace_back([this](const std::stop_token& end) { workUntil(end); });
+            threads_.emplace_back([this] { workUntilTheEnd(); });
     }
     /// Waits for what is under way; what was not asked for is dropped.
     ~OrderedWork() {
-        for (std::jthread& thread : threads_)
-            thread.request_stop();
+        {
+            const std::lock_guard lock(mutex_);
+            isEnding_ = true;
+        }
+        isWaiting_.notify_all();
     }
 
     /// The next result; rethrows what its piece threw. Call it at most `count` times.
@@ -54,11 +57,11 @@ private:
         isWaiting_.notify_one();
     }
 
-    void workUntil(const std::stop_token& end) {
+    void workUntilTheEnd() {
         while (true) {
             std::unique_lock lock(mutex_);
-            isWaiting_.wait(lock, end, [this] { return !waiting_.empty(); });
-            if (end.stop_requested()) return;
+            isWaiting_.wait(lock, [this] { return isEnding_ || !waiting_.empty(); });
+            if (isEnding_) return;
             Piece piece = std::move(waiting_.front());
             waiting_.pop_front();
             lock.unlock();
@@ -72,7 +75,8 @@ private:
     std::size_t cores_;
     std::deque<std::future<Result>> pending_; ///< in their order, asked for by nobody yet
     std::mutex mutex_;
-    std::condition_variable_any isWaiting_;
+    std::condition_variable isWaiting_;
+    bool isEnding_ = false;
     std::deque<Piece> waiting_;         ///< for a thread
     std::vector<std::jthread> threads_; ///< the last: they use all others
 };
