@@ -17,6 +17,17 @@ bool attempt(Step step) {
     }
 }
 
+/// What the step raises, for the one who will deal with it.
+template <class Step>
+std::optional<Error> failureOf(Step step) {
+    try {
+        step();
+        return std::nullopt;
+    } catch (const Error& error) {
+        return error;
+    }
+}
+
 /// For a loop in which the failure of one step costs no other: the first one is raised at the end.
 class FirstFailure {
 public:

@@ -20,6 +20,8 @@ struct FileStamp {
 
     bool operator==(const FileStamp&) const = default;
     bool isSameFile(const FileStamp& other) const { return number == other.number && drive == other.drive; }
+    /// Its owner may not write to it.
+    bool isReadOnly() const { return (mode & 0200U) == 0; }
 };
 
 /// Every operation of the engine on files and folders, so that a test can make the n-th one fail.

@@ -14,14 +14,12 @@ void removeQuietly(FileSystem& files, const FilePath& file) {
     }
 }
 
-constexpr unsigned ownersWriteBit = 0200;
-
 } // namespace
 
 void replaceFile(FileSystem& files, const FilePath& source, const FilePath& target) {
     const FilePath placed = target.resolved(), part = partOf(placed);
     const auto old = files.isLink(placed) ? std::nullopt : files.stampIfThere(placed);
-    if (old && !(old->mode & ownersWriteBit)) throw Error(ErrorCode::permissionDenied, placed.text());
+    if (old && old->isReadOnly()) throw Error(ErrorCode::permissionDenied, placed.text());
     try {
         files.copyContents(source, part);
         if (old) files.setMode(part, old->mode);

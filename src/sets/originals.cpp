@@ -1,5 +1,6 @@
 #include "sets/originals.h"
 
+#include "core/attempts.h"
 #include "core/literals.h"
 #include "core/ordered_work.h"
 
@@ -13,15 +14,6 @@ QString numbered(const QString& path, int number) {
     const qsizetype dot = path.lastIndexOf(u'.');
     const qsizetype end = dot > path.lastIndexOf(u'\\') ? dot : path.size();
     return path.left(end) + u" (%1)"_s.arg(number) + path.mid(end);
-}
-
-std::optional<Error> failureOf(const std::function<void()>& part) {
-    try {
-        part();
-        return std::nullopt;
-    } catch (const Error& error) {
-        return error;
-    }
 }
 
 } // namespace
@@ -175,10 +167,9 @@ FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& s
 }
 
 bool Originals::stands(const FileCopy& copy, const FilePath& place) {
-    constexpr unsigned ownersWriteBit = 0200;
     const auto seen = standing_.constFind(place.relative());
     if (seen == standing_.cend() || announced_.value(copy.source.text()) != seen->print) return false;
-    const bool isReplaced = files_.isLink(place) || !(seen->stamp.mode & ownersWriteBit);
+    const bool isReplaced = files_.isLink(place) || seen->stamp.isReadOnly();
     return !isReplaced && isAsSeen(files_, place, *seen);
 }
 

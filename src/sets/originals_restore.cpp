@@ -10,7 +10,7 @@ namespace morvane {
 
 namespace {
 
-constexpr unsigned everyonesWriteBits = 0222, ownersWriteBit = 0200;
+constexpr unsigned everyonesWriteBits = 0222;
 
 } // namespace
 
@@ -57,15 +57,13 @@ bool Originals::isSound(const OriginalFact& kept) const {
 Originals::FoundFile Originals::lookAt(const KnownFile& file) const {
     FoundFile found;
     if (file.record.madeFolder) return found;
-    try {
+    found.failure = failureOf([&] {
         found.standing = seeFile(files_, file.place);
-        if (file.record.kept.empty()) return found;
+        if (file.record.kept.empty()) return;
         const OriginalFact& kept = file.record.kept.back();
         const bool stands = found.standing && found.standing->print == kept.print;
         found.isKeptSound = !stands && isSound(kept);
-    } catch (const Error& error) {
-        found.failure = error;
-    }
+    });
     return found;
 }
 
@@ -120,7 +118,7 @@ unsigned Originals::modeAfter(const KnownFile& file, const FoundFile& found) {
     const unsigned now = found.standing ? found.standing->stamp.mode : 0;
     const unsigned known = file.record.takenMode ? file.record.takenMode->mode : file.record.kept.back().mode;
     const unsigned mode = known ? known : now;
-    return found.standing && !(now & ownersWriteBit) ? mode & ~everyonesWriteBits : mode;
+    return found.standing && found.standing->stamp.isReadOnly() ? mode & ~everyonesWriteBits : mode;
 }
 
 void Originals::removeMadeFolders() {

@@ -4,7 +4,7 @@ namespace morvane {
 
 void SpelledFiles::add(const FilePath& folder, const QString& name) {
     const FilePath file = spelling_.find(folder.child(name).relativeTo(root_));
-    const QString spelled = file.fileName() == name ? name : file.fileName();
+    const QString spelled = file.fileName() == name ? name : file.fileName(); // one text with the list's
     const std::pair place(indexOf(file.parent()), spelled);
     files_.push_back({place.first, spelled, seen_.contains(place)});
     seen_.insert(place);

@@ -10,7 +10,7 @@ namespace morvane {
 namespace {
 
 /// On the thread that coloured it; a failure is told by the one that may.
-void saveQuietly(ColouredFile& coloured, const FilePath& target) {
+void saveAhead(ColouredFile& coloured, const FilePath& target) {
     if (!coloured.picture) return;
     try {
         coloured.picture->SavePicture(target);
@@ -96,7 +96,7 @@ void TexturePasses::colourFiles(const std::vector<CatalogueFile>& files, const C
         OrderedWork<ColouredFile> work(static_cast<int>(files.size()), [&](int index) {
             const auto i = static_cast<std::size_t>(index);
             ColouredFile coloured = openImageForTextureSet(session_.files, sources[i], recolouring);
-            if (!targets.isRepeated(i)) saveQuietly(coloured, targets[i]);
+            if (!targets.isRepeated(i)) saveAhead(coloured, targets[i]);
             return coloured;
         });
         for (std::size_t i = 0; i < files.size(); ++i) {

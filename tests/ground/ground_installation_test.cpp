@@ -1,5 +1,4 @@
 #include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "ground/tropical_files.h"

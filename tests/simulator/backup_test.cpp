@@ -2,7 +2,6 @@
 #include "core/registry.h"
 #include "core/store.h"
 #include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
 #include "sets/options_in_force.h"
 #include "sets/simulator_copy.h"
 #include "simulator/backup_files.h"

@@ -1,6 +1,5 @@
 #include "core/store_connection.h"
 #include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "sets/originals.h"
 #include "support/failing_operations.h"
