@@ -15,9 +15,11 @@
 #include "weather/weather_endpoint.h"
 #include "weather/weather_state.h"
 
+#include <QHash>
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <utility>
 
 namespace morvane {
@@ -239,21 +241,28 @@ bool clsWxFinderData::takeReports(const QStringList& lines, const CycleMoment& c
     return true;
 }
 
-/// One transaction, as a flush of the disk a row would take minutes. Rows of stations that the lines do not
-/// name stay, however old they are: wanted, nothing is aged out.
+/// Of each station the last report alone: what it would overwrite is not written first. One transaction, as a
+/// flush of the disk a row would take minutes. Rows of stations that the lines do not name stay, however old
+/// they are: wanted, nothing is aged out.
 void clsWxFinderData::storeReports(const QStringList& lines, const CycleMoment& cycle, double step) {
     // Wanted: the month is today's, even where a report's day belongs to the last one.
     const QString month = QLocale::c().monthName(session_.clock.localTime().date().month());
     CycleProgress progress(session_.user, {}, step);
-    auto transaction = transactionOfLoad(session_);
-    for (const QString& line : lines) {
-        clsWxFinder report = clsDecodeMetar(session_.user).decodeMetarString(line);
+    std::map<qsizetype, clsWxFinder> lastReports; // by line
+    QHash<QString, qsizetype> lastLines;          // by station
+    for (qsizetype line = 0; line < lines.size(); ++line, progress.advance()) {
+        clsWxFinder report = clsDecodeMetar(session_.user).decodeMetarString(lines[line]);
         report.WxFinderCycle = QString::number(cycle.hour);
         report.WxFinderMonth = month;
         report.WxFinderYear = cycle.year;
-        storeOrTell(report);
-        progress.advance();
+        const QString station = trimmedBlanks(report.WxFinderIcao);
+        lastReports.erase(lastLines.value(station, -1));
+        lastLines.insert(station, line);
+        lastReports.emplace(line, std::move(report));
     }
+    auto transaction = transactionOfLoad(session_);
+    for (const auto& [line, report] : lastReports)
+        storeOrTell(report);
     transaction->commit();
 }
 
