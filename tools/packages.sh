@@ -1,5 +1,5 @@
 # Installs the Debian packages that the build needs and this machine lacks. Sourced.
-packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev libcli11-dev libxcb1-dev zlib1g-dev fonts-roboto-hinted libgtest-dev libgmock-dev libbenchmark-dev)
+packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev libssl-dev libcli11-dev libxcb1-dev zlib1g-dev fonts-roboto-hinted libgtest-dev libgmock-dev libbenchmark-dev)
 # One test shows the windows on a display of its own. It is left out where these cannot be had.
 screenTools=(xvfb openbox xdotool x11-utils)
 

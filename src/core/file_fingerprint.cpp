@@ -1,12 +1,11 @@
 #include "core/file_fingerprint.h"
 
-#include <QCryptographicHash>
+#include "core/native_check_sum.h"
 
 namespace morvane {
 
 FileFingerprint fingerprintOf(const QByteArray& contents) {
-    const QByteArray sum = QCryptographicHash::hash(contents, QCryptographicHash::Sha1).toHex();
-    return {contents.size(), QString::fromLatin1(sum)};
+    return {contents.size(), QString::fromLatin1(sha1Of(contents).toHex())};
 }
 
 FileFingerprint fingerprintOf(FileSystem& files, const FilePath& file) {

@@ -1,0 +1,14 @@
+#include "core/native_check_sum.h"
+
+#include <openssl/sha.h>
+
+namespace morvane {
+
+QByteArray sha1Of(const QByteArray& bytes) {
+    QByteArray sum(SHA_DIGEST_LENGTH, Qt::Uninitialized);
+    SHA1(reinterpret_cast<const unsigned char*>(bytes.constData()), static_cast<std::size_t>(bytes.size()),
+         reinterpret_cast<unsigned char*>(sum.data()));
+    return sum;
+}
+
+} // namespace morvane

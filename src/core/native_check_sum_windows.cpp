@@ -1,0 +1,39 @@
+#include "core/native_check_sum.h"
+
+#include <QCryptographicHash>
+#include <limits>
+#include <windows.h>
+
+#include <bcrypt.h>
+
+namespace morvane {
+
+namespace {
+
+/// Kept for the whole run: to open it takes longer than to sum up a texture.
+BCRYPT_ALG_HANDLE sha1() {
+    static const BCRYPT_ALG_HANDLE opened = [] {
+        BCRYPT_ALG_HANDLE handle = nullptr;
+        const bool isOpen = BCryptOpenAlgorithmProvider(&handle, BCRYPT_SHA1_ALGORITHM, nullptr, 0) >= 0;
+        return isOpen ? handle : nullptr;
+    }();
+    return opened;
+}
+
+PUCHAR bytesOf(const QByteArray& bytes) {
+    return reinterpret_cast<PUCHAR>(const_cast<char*>(bytes.constData())); // an input, but not const there
+}
+
+} // namespace
+
+QByteArray sha1Of(const QByteArray& bytes) {
+    QByteArray sum(20, Qt::Uninitialized);
+    const bool isInRange = bytes.size() <= std::numeric_limits<ULONG>::max();
+    if (isInRange && sha1() &&
+        BCryptHash(sha1(), nullptr, 0, bytesOf(bytes), static_cast<ULONG>(bytes.size()),
+                   reinterpret_cast<PUCHAR>(sum.data()), static_cast<ULONG>(sum.size())) >= 0)
+        return sum;
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+}
+
+} // namespace morvane
