@@ -22,9 +22,8 @@ std::vector<CatalogueFile> TextureCatalogue::popTextureList(int seasonCount, int
     listings_.clear();
     if (categoryCount < 1) std::fill(flags.categories.begin(), flags.categories.end() - 1, true);
     if (seasonCount < 1) flags.popSpring = flags.popSummer = flags.popFall = flags.popWinter = true;
-    for (const CatalogueCategory& category : catalogueTable())
-        if (flags.categories[static_cast<std::size_t>(category.number - 1)])
-            walkCategory(category, forSet, setName);
+    for (std::size_t number = 1; number <= flags.categories.size(); ++number)
+        if (flags.categories[number - 1]) walkCategory(number, forSet, setName);
     return std::move(files_);
 }
 
@@ -49,9 +48,10 @@ TextureCatalogue::Folders TextureCatalogue::ruralFoldersOf(const Folders& indust
             industrial.temp};
 }
 
-void TextureCatalogue::walkCategory(const CatalogueCategory& category, bool forSet, const QString& setName) {
+void TextureCatalogue::walkCategory(std::size_t number, bool forSet, const QString& setName) {
+    const CatalogueCategory& category = catalogueTable()[number - 1];
     const Folders folders = foldersOf(category, forSet, setName);
-    if (category.number == 13)
+    if (number == industrialCategory)
         walkIndustrialRuns(folders, forSet, setName);
     else
         walkSeasons(folders, {split(category.patterns), false, category.extraWinter});
@@ -63,7 +63,7 @@ void TextureCatalogue::walkIndustrialRuns(const Folders& industrial, bool forSet
     walkSeasons(industrial, {split(industrialPatterns)});
     // Their intermediate bitmaps lie in the category's own folder even when the row is missing.
     Folders rural = ruralFoldersOf(industrial, forSet, setName);
-    rural.temp = session_.AppPath / catalogueTable()[12].tempPath;
+    rural.temp = session_.AppPath / catalogueTable()[industrialCategory - 1].tempPath;
     walkSeasons(rural, {split(u"003*2")});
     walkSummerOnly(rural, {split(u"056*2")});
     walkSeasons(rural, {split(u"139b2 140b2 141b2"), true});

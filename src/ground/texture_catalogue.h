@@ -41,7 +41,7 @@ private:
 
     Folders foldersOf(const CatalogueCategory& category, bool forSet, const QString& setName);
     Folders ruralFoldersOf(const Folders& industrial, bool forSet, const QString& setName);
-    void walkCategory(const CatalogueCategory& category, bool forSet, const QString& setName);
+    void walkCategory(std::size_t number, bool forSet, const QString& setName);
     void walkIndustrialRuns(const Folders& industrial, bool forSet, const QString& setName);
     void walkSeasons(const Folders& folders, const Walk& walk);
     void walkSummerOnly(const Folders& folders, const Walk& walk);

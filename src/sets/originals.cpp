@@ -226,10 +226,8 @@ const OriginalRecord& Originals::recordOf(const FilePath& target) {
 
 bool Originals::isOurs(const FilePath& target) {
     const FilePath place = find(target);
-    const OriginalRecord& record = list_.records().of(place.relative());
-    if (record.ours.empty()) return false;
     const auto contents = files_.readIfThere(place);
-    return contents && record.isOurs(fingerprintOf(*contents));
+    return contents && list_.records().of(place.relative()).isOurs(fingerprintOf(*contents));
 }
 
 std::optional<FilePath> Originals::keptFile(const FilePath& target) {

@@ -11,7 +11,7 @@ namespace morvane {
 namespace {
 
 constexpr qsizetype bucketLength = 3; ///< letters that no pattern leaves open
-constexpr int industrialCategory = 13, lastCategory = 14;
+constexpr std::size_t lastCategory = 14;
 
 const QString seasons[] = {u"sp"_s, u"su"_s, u"fa"_s, u"wi"_s};
 const QStringList dutchClasses{u"005a2"_s, u"008a2"_s};
@@ -54,8 +54,8 @@ public:
 
     StockPlan plan() {
         if (!session_.rows<clsResourceFolders>()) clsResourceFolders::reload(session_);
-        for (const CatalogueCategory& category : catalogueTable())
-            if (category.number <= lastCategory) planCategory(category);
+        for (std::size_t number = 1; number <= lastCategory; ++number)
+            planCategory(number);
         planWhere(isNightName, true, u"Resources\\GENERIC WORLD NIGHT"_s, u"Resources\\DUTCH NIGHT"_s);
         // The bodies of the base install, where every install of a set looks for them.
         planWhere([](const QString& name) { return matchesMask(name, u"*.agn"); }, false, u"GENERIC WORLD"_s,
@@ -70,12 +70,13 @@ private:
         return {};
     }
 
-    void planCategory(const CatalogueCategory& category) {
+    void planCategory(std::size_t number) {
+        const CatalogueCategory& category = catalogueTable()[number - 1];
         const QString resource = QStringView(category.resourceName).toString();
         const QString folder = resourceFolder(resource);
         if (folder.isEmpty()) return;
-        plan_.categories.push_back({QString::number(category.number) + u' ' + resource, 0, {}});
-        const bool isAddOn = category.number == industrialCategory;
+        plan_.categories.push_back({QString::number(number) + u' ' + resource, 0, {}});
+        const bool isAddOn = number == industrialCategory;
         const QStringView patterns = isAddOn ? industrialPatterns : category.patterns;
         for (const QString& pattern : patterns.toString().split(u' ')) {
             const QStringList names = (isAddOn ? addOn_ : world_).matches(pattern);

@@ -66,6 +66,7 @@ TEST(GroundGeneration, makesARowAndAFileForEachBaseImage) {
     EXPECT_EQ(install.user.calls.last(2), QStringList({"refresh frm_Main", "show frm_Main"}));
     // Category 10's winter file stands twice: six list entries for five base images.
     EXPECT_TRUE(install.user.calls.contains("file Processing file 6 of 6 files"));
+    EXPECT_TRUE(install.user.calls.contains("progress 14.2857"));
     EXPECT_EQ(
         install.user.messages[0].text,
         "Colorizing texture set 1 of 1 texture sets.  Process 1 of 2 Be aware that this may take 20 - 30 "

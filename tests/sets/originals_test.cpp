@@ -365,6 +365,17 @@ TEST_F(OriginalsTest, everySimulatorHasItsOwnList) {
     }
 }
 
+/// In it our bytes and the pilot's are the same and say nothing.
+TEST_F(OriginalsTest, aFolderThatWasRenamedIsKnownByItsNumber) {
+    writeFile(simulator / u"fs9.exe", "MZ");
+    writeFile(target(a), "the same");
+    install("the same", {a});
+    const FilePath renamed((folder / u"Renamed").native());
+    files.rename(simulator, renamed);
+    simulator = renamed;
+    EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+}
+
 /// What stands in the new place, and whether it is the old simulator, moved there.
 TEST_F(OriginalsTest, aMovedSimulatorIsKnownByWhatWePutThere) {
     constexpr int many = 50;

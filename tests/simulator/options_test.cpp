@@ -8,6 +8,7 @@
 #include "sets/simulator_copy.h"
 #include "simulator/option_table.h"
 #include "simulator/options.h"
+#include "simulator/simulator_restore.h"
 #include "simulator/texture_switches.h"
 #include "support/install_test.h"
 #include "support/night_install.h"
@@ -200,6 +201,7 @@ TEST_F(TextureSwitches, eachOptionReachesReadOnlyFilesTheStoreAndTheUser) {
         for (const QString& name : {u"InhibitCustomSplash"_s, u"IsWideClient"_s})
             EXPECT_EQ(ownValue(install.registry, name), flagText(isOn));
     }
+    EXPECT_TRUE(install.user.calls.contains("progress 14.2857")) << "the first of five files, and two steps";
     const QString halo = "Information|File Copied|The %1 halo file has been copied to flight simulator",
                   shown = "Information|FS9 Splash Screen Status|The %1splash screen %2 Flight %3",
                   wide = "Information|FS9 WideFS Status|This setting states that this PC is a Wide%1 PC and "
@@ -221,6 +223,11 @@ TEST_F(TextureSwitches, eachOptionReachesReadOnlyFilesTheStoreAndTheUser) {
     setCustomSplashVal(session, true);
     EXPECT_TRUE(
         install.user.told().last().startsWith(u"Exclamation|Morvane Error!|Sub setCustomSplashVal\n"_s));
+    install.files.failAt(0, false);
+    session.ExitInProgress.moveTo(ExitStage::sessionEnd);
+    restoreOriginals(session);
+    EXPECT_EQ(readFile(install.simulator() / u"Texture\\halo.bmp"), "halodefault")
+        << "not before the desktop ends";
 }
 
 /// A target that is not there ends the list. The Dutch switch tells and is stored all the same; the tropical

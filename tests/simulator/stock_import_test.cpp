@@ -52,8 +52,13 @@ struct StockImportTest : test::InstallTest {
 
 TEST_F(StockImportTest, everyFileThatAPatternTakesBecomesABaseImageAndComesBack) {
     const auto before = stock();
+    const FilePath left = install.home() / u"Resources\\GENERIC WORLD\\030A2WI1.BMP.morvane-part";
+    if (test::hasLinks) QFile::link((world / u"005A2AN1.AGN").native(), left.native());
     const auto report = importSimulatorStock(session);
     ASSERT_TRUE(report);
+    EXPECT_EQ(readFile(world / u"005A2AN1.AGN"), "the pilot's trees")
+        << "what a kill left is not written into";
+    EXPECT_TRUE(install.user.calls.contains("progress 92.3077")) << "before the last of thirteen";
     for (const char16_t* path :
          {u"GENERIC WORLD\\029h2su6.bmp", u"GENERIC WORLD\\029b2su6.bmp", u"GENERIC WORLD\\030A2WI1.BMP",
           u"GENERIC WORLD\\005A2SU2.BMP", u"DUTCH\\005a2su2.bmp", u"UTIND\\034b2su4.bmp",

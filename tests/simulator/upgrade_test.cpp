@@ -97,6 +97,7 @@ TEST_F(UpgradeTest, stepsThatWereDoneArePassedOver) {
     EXPECT_TRUE(dutchFiles(u"2-Own Á"_s).isEmpty());
     EXPECT_EQ(install.user.countOfKind(MessageKind::information), 2);
     EXPECT_EQ(install.files.list(home / u"V2 Backup", u"*"_s), QStringList{u"note.txt"_s});
+    EXPECT_TRUE(install.files.isFolder(home / u"TempBitmaps\\Dutch"));
 }
 
 TEST_F(UpgradeTest, aFileThatIsMissingOrBrokenEndsTheStartAndLosesNoRow) {

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -183,6 +184,14 @@ TEST_F(EveryScreen, hasRoomForEachTextAndTheLongestMessage) {
                     << name.toStdString() << ": " << line.toStdString();
     }
     EXPECT_GT(texts, 100);
+    for (const QString& name : formNames()) {
+        const auto options = program.shell.form(name)->findChildren<QRadioButton*>();
+        for (qsizetype i = 1; i < options.size(); ++i)
+            for (const QRadioButton* before : options.first(i))
+                EXPECT_FALSE(before->parent() == options[i]->parent() &&
+                             before->geometry().intersects(options[i]->geometry()))
+                    << name.toStdString() << ": " << options[i]->objectName().toStdString();
+    }
 }
 
 /// On the one that it was left on, else on the first.

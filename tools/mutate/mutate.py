@@ -10,7 +10,7 @@ seed, or read from an earlier report, so that two measurements are of the same c
 build/mutate and changed there; a change that does not compile is taken out. MORVANE_MUTANT=N wakes number N.
 
 rooms.tsv names the programs that test each room, those of few seconds first, `program:filter` with a filter of
-GoogleTest. What cannot be noticed (a change that leaves the meaning, or one of speed alone) stands in unnoticeable.tsv
+GoogleTest, or a session of tests/screen with its word, which counts where a display can be had. What cannot be noticed (a change that leaves the meaning, or one of speed alone) stands in unnoticeable.tsv
 with the reason and is taken out of the sum.
 """
 
@@ -35,6 +35,7 @@ COPY = ROOT / "build" / "mutate" / "source"
 BIN = COPY / "build" / "release" / "bin"
 LEAST_A_ROOM = 20
 IN_MEMORY = Path("/dev/shm") if Path("/dev/shm").is_dir() else None  # the tests wait for a disk most of the time
+SESSION_PROGRAMS = ["morvane", "morvane-cli", "morvane-content", "morvane-simulator", "close_window"]
 LIMITS = ["prlimit", "--as=8589934592", "--fsize=1073741824", "--core=0"]
 WORKERS = os.cpu_count() or 1
 
@@ -269,13 +270,20 @@ def take_out_broken(places, output):
     return left
 
 
+def programs_of(test):
+    """What has to be built for it."""
+    program = test.partition(":")[0]
+    return SESSION_PROGRAMS if program.endswith(".sh") else [program]
+
+
 def ended_well(test, number, limit):
     """False when the program fails, crashes or does not end, with whatever it started."""
     program, _, only = test.partition(":")
+    command = ["bash", COPY / "tests" / "screen" / program, BIN, only] if program.endswith(".sh") else [BIN / program]
     with tempfile.TemporaryDirectory(prefix="morvane-mutant-", dir=IN_MEMORY, ignore_cleanup_errors=True) as folder:
         environment = dict(os.environ, MORVANE_MUTANT=str(number), QT_QPA_PLATFORM="offscreen", GTEST_BRIEF="1",
                            GTEST_FAIL_FAST="1", GTEST_FILTER=only or "*", QT_FONT_DPI="96", TMPDIR=folder, HOME=folder)
-        process = subprocess.Popen([*LIMITS, BIN / program], env=environment, cwd=folder, stdin=subprocess.DEVNULL,
+        process = subprocess.Popen([*LIMITS, *command], env=environment, cwd=folder, stdin=subprocess.DEVNULL,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
         try:
             return process.wait(limit) == 0
@@ -333,7 +341,7 @@ def main():
               and (not chosen.room or place.room in chosen.room)]
     tests = list(dict.fromkeys(test for place in places for test in tests_of[place.room]))
     copy_sources()
-    places = built_places(places, sorted({test.partition(":")[0] for test in tests}))
+    places = built_places(places, sorted({program for test in tests for program in programs_of(test)}))
 
     awake = [(number, place) for number, place in enumerate(places, 1) if place is not None]
     print(f"{len(awake)} changes in {len({place.file for _, place in awake})} files", flush=True)

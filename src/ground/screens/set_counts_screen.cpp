@@ -16,7 +16,6 @@ frm_TsRequired::frm_TsRequired(Shell& shell)
 void frm_TsRequired::prepare() {
     for (CountEdit* box : boxes_)
         box->showCount();
-    setFirstFocus(boxes_[0]);
 }
 
 void frm_TsRequired::confirm() {

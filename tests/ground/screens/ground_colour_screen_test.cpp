@@ -58,6 +58,12 @@ TEST_F(GroundColourScreenTest, openTextureShowsTheChosenSample) {
     choose(u"spring"_s, u"desert"_s);
     EXPECT_EQ(picture(u"picImage"_s).width(), 32) << "the desert's spring is its winter";
     EXPECT_EQ(label(u"lblSample"_s), u"Deserts, Spring"_s);
+    EXPECT_EQ(program.toldDuring([&] {
+        program.whenShown(u"frm_SelectTexture"_s, [](DialogForm& dialog) { dialog.cancel(); });
+        program.press(pageName, u"btn_OpenTexture"_s);
+    }),
+              QStringList())
+        << "the OK of last time does not open it";
     program.confirmNext(u"frm_Msg"_s); // this install has no such file
     choose(u"fall"_s, u"rocks"_s);
     EXPECT_EQ(label(u"lblSample"_s), u"Deserts, Spring"_s) << "what still stands there";
