@@ -22,16 +22,13 @@
 #include <unistd.h>
 #endif
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::SmallInstall;
-using test::writeFile;
 
 /// A complete install whose first session is over; the tests start the next one.
 struct ApplicationTest : testing::Test {
     SmallInstall install;
-    test::ScriptedUser& user = install.user;
+    ScriptedUser& user = install.user;
     Session session{{user, install.files, install.clock, install.random, install.registry}, install.home()};
 
     void SetUp() override {
@@ -66,7 +63,7 @@ TEST_F(ApplicationTest, aFolderThatNobodyMayWriteIntoServesReadingAndNothingElse
     storeOwnValue(install.registry, u"FirstTime"_s, u"True"_s);
     install.files.removeFolder(install.home() / u"Backup");
     writeFile(install.home() / u"AIRPORTDATA.txt", "ID"); // asks for an upgrade
-    const auto before = test::contentsBelow(install.home());
+    const auto before = contentsBelow(install.home());
     install.files.failAt(2, false);
     EXPECT_FALSE(startUp(session));
     ASSERT_EQ(user.calls.size(), 1);
@@ -76,7 +73,7 @@ TEST_F(ApplicationTest, aFolderThatNobodyMayWriteIntoServesReadingAndNothingElse
     EXPECT_EQ(user.calls.size(), 1);
     EXPECT_TRUE(session.adoConn->hasTable(u"TEXTURE_SETS"_s));
     EXPECT_THROW(session.adoConn->execute(u"DELETE FROM TEXTURE_SETS"_s), Error);
-    EXPECT_TRUE(test::contentsBelow(install.home()) == before);
+    EXPECT_TRUE(contentsBelow(install.home()) == before);
     EXPECT_FALSE(install.files.isFolder(session.BackupPath));
     closeDatabase(session);
     ASSERT_TRUE(startUp(session)) << "and it was lent only";
@@ -115,14 +112,14 @@ TEST_F(ApplicationTest, asksUntilTheFolderHoldsTheSimulatorAndStoresIt) {
 
 /// Of plain wine, and of Steam.
 TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
-    const test::HomeFolder home;
+    const HomeFolder home;
     const QString plain = home.path() + "/.wine",
                   steam = home.path() + "/.local/share/Steam/steamapps/compatdata/9/pfx";
     const QString box = "box Flight Simulator 2004 was found in %1. Would you like to use this one?\n%2";
     const auto stored = [this] {
         return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s);
     };
-    const QString one = test::makePrefix(plain).native();
+    const QString one = makePrefix(plain).native();
     ASSERT_TRUE(startUp(session));
     EXPECT_EQ(stored(), install.simulator().native()) << "the install's own goes first";
     const QString foundOne = "done Flight Simulator 2004 was found in " + one;
@@ -138,22 +135,22 @@ TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
     EXPECT_TRUE(startAnew("/gone", {true}));
     EXPECT_EQ(user.calls, QStringList({box.arg("1 place", one), foundOne})) << "but in another's stead";
     EXPECT_EQ(stored(), one);
-    const QString two = test::makePrefix(steam).native();
-    const auto before = test::contentsBelow(FilePath(home.path()));
+    const QString two = makePrefix(steam).native();
+    const auto before = contentsBelow(FilePath(home.path()));
     EXPECT_TRUE(startAnew({}, {false, true}));
     EXPECT_EQ(user.calls, QStringList({box.arg("2 places", one), box.arg("2 places", two + " (Steam)"),
                                        "done" + foundOne.mid(4).replace(one, two)}));
     EXPECT_EQ(session.FSPath.native(), two);
     EXPECT_FALSE(startAnew({}, {false, false, false}));
     EXPECT_EQ(user.calls.value(3), "browse");
-    EXPECT_EQ(test::contentsBelow(FilePath(home.path())), before) << "a prefix is only read";
+    EXPECT_EQ(contentsBelow(FilePath(home.path())), before) << "a prefix is only read";
 }
 
 /// This program once more, in a home with a prefix that tells when something in it is opened.
 TEST(OwnHome, keepsTheTestsFromPrefixesOutside) {
-    const test::HomeFolder outside;
+    const HomeFolder outside;
     const QString prefix = outside.path() + "/.wine";
-    test::makePrefix(prefix);
+    makePrefix(prefix);
     const int watch = inotify_init1(IN_NONBLOCK);
     ASSERT_GE(inotify_add_watch(watch, QFile::encodeName(prefix).constData(), IN_OPEN), 0);
     const auto wasOpened = [watch] {
@@ -210,13 +207,13 @@ TEST_F(ApplicationTest, theExitClearsTheCyclesOnlyWhenATextIsAmongThem) {
         exitProgram(session);
         install.files.failAt(0, false);
         EXPECT_TRUE(install.files.exists(install.home() / u"LastSkySettings.cfg"));
-        EXPECT_EQ(test::contentsBelow(install.home() / u"METAR").keys(), left);
+        EXPECT_EQ(contentsBelow(install.home() / u"METAR").keys(), left);
         EXPECT_EQ(session.adoConn, nullptr);
         EXPECT_EQ(user.countOfKind(MessageKind::error), failing == 0 ? 0 : 1);
     }
 }
 
-struct ExitQuestion : test::InstallTest {
+struct ExitQuestion : InstallTest {
     void put(const QString& ground, const QString& sky = {}) {
         GroundInstallation(session).installTextureSet(ground);
         if (!sky.isEmpty()) SkyInstallation(session).installSkySet(sky);
@@ -281,4 +278,4 @@ TEST_F(ExitQuestion, theEndOfTheSessionEndsACopyAtItsNextFileAsksNothingAndReset
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

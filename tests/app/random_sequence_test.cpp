@@ -31,11 +31,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::contentsBelow;
-using test::writeFile;
 
 constexpr int steps = 30, oftenKilled = 4, latestKill = 120;
 constexpr int seedsInEveryRun = 3;
@@ -118,11 +115,10 @@ private:
                                    u"Dutch\\005a2su2.bmp"_s});
         install_.addSkySet(u"1-Sky"_s, u"Overcast"_s, true, {u"cloud.bmp"_s, u"halo.bmp"_s});
         install_.addSkySet(u"2-Sky"_s, u"Few"_s, true, {u"Cloud.bmp"_s, u"sun.bmp"_s});
-        test::addNightStock(install_);
+        addNightStock(install_);
         for (const char16_t* name : {u"Default", u"2-Night", u"3-Night"})
-            test::addNightSet(
-                install_, QString::fromUtf16(name), true,
-                {u"Texture\\008a2lm1.bmp"_s, u"Texture\\029b2lm1.bmp"_s, u"Dutch\\005a2lm2.bmp"_s});
+            addNightSet(install_, QString::fromUtf16(name), true,
+                        {u"Texture\\008a2lm1.bmp"_s, u"Texture\\029b2lm1.bmp"_s, u"Dutch\\005a2lm2.bmp"_s});
     }
 
     void addBodies() {
@@ -191,7 +187,7 @@ private:
         try {
             action();
         } catch (const Error&) { // the switches leave the telling to their callers
-        } catch (const test::Killed&) {
+        } catch (const Killed&) {
         }
         if (isKilled || draw(6) == 0) restart();
         files_.failAt(0, false);
@@ -324,12 +320,11 @@ private:
                 EXPECT_FALSE(rows.flag(u"INSTALLED"_s)) << table.toStdString();
     }
 
-    test::SmallInstall install_{
-        {.baseImages = {u"GENERIC WORLD\\029h2su6.bmp"_s, u"GENERIC WORLD\\029b2su6.bmp"_s,
-                        u"UTIND\\034b2su4.bmp"_s, u"DUTCH\\005a2su2.bmp"_s}}};
-    test::FaultyFileSystem files_;
+    SmallInstall install_{{.baseImages = {u"GENERIC WORLD\\029h2su6.bmp"_s, u"GENERIC WORLD\\029b2su6.bmp"_s,
+                                          u"UTIND\\034b2su4.bmp"_s, u"DUTCH\\005a2su2.bmp"_s}}};
+    FaultyFileSystem files_;
     NativeFileSystem hand_; ///< no kill reaches it
-    test::ScriptedUser user_;
+    ScriptedUser user_;
     std::unique_ptr<IniRegistry> registry_;
     std::unique_ptr<Session> session_;
     std::mt19937 random_;
@@ -351,4 +346,4 @@ TEST(RandomSequence, endsWithTheFirstTree) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

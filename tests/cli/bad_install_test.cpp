@@ -6,12 +6,8 @@
 #include <QFile>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::ConsoleInstall;
-using test::contentsBelow;
-using test::writeFile;
 
 const QStringList commandsOnAnInstall =
     u"catalogue 2-Storm|ground create 1 0 0 0 0|ground list|ground activate 2-Storm|"
@@ -25,7 +21,7 @@ struct BadInstall : testing::Test {
 TEST_F(BadInstall, aMissingOneIsToldAndNotMade) {
     const FilePath missing = install.folder / u"missing";
     for (const QString& command : commandsOnAnInstall) {
-        const auto run = test::runConsole(u"--home"_s, QStringList{missing.native()} + command.split(u' '));
+        const auto run = runConsole(u"--home"_s, QStringList{missing.native()} + command.split(u' '));
         EXPECT_EQ(run.status, 1) << command.toStdString();
         EXPECT_TRUE(run.messages.contains("The install folder does not exist: ") &&
                     run.messages.contains("MORVANE_HOME"));
@@ -36,7 +32,7 @@ TEST_F(BadInstall, aMissingOneIsToldAndNotMade) {
 TEST_F(BadInstall, aSpoiltStoreIsToldAndNothingGoodIsLost) {
     install.addSet(u"2-Storm"_s, u"Overcast"_s);
     const FilePath store = install.home() / u"Morvane.mdb";
-    const QByteArray good = test::readFile(store);
+    const QByteArray good = readFile(store);
     // What a first start writes, so that the folders can be compared.
     install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"InhibitCustomSplash"_s, u"False"_s);
     const std::pair<QByteArray, QString> cases[] = {
@@ -70,8 +66,7 @@ TEST_F(BadInstall, aLockedStoreIsToldAndNothingChanges) {
         const StoreTransaction lock(holder);
         EXPECT_EQ(install.run(u"ground list"_s).array().size(), 2); // reading goes on
         for (const QString& action : {u"deactivate"_s, u"delete"_s, u"install"_s})
-            test::expectSteps(install,
-                              {{u"ground|%1|2-Storm"_s.arg(action), {u"the database is locked"_s}, 1}});
+            expectSteps(install, {{u"ground|%1|2-Storm"_s.arg(action), {u"the database is locked"_s}, 1}});
     }
     EXPECT_EQ(install.sets(), u"Default+ 2-Storm+"_s);
     EXPECT_EQ(install.setFolders(), QStringList{u"2-Storm"_s});
@@ -79,4 +74,4 @@ TEST_F(BadInstall, aLockedStoreIsToldAndNothingChanges) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -4,13 +4,11 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::runConsole;
-
 /// Runs the words behind an install that is not there: nothing but the reading of the line is tried.
-test::ConsoleRun runWords(const QString& words) {
+ConsoleRun runWords(const QString& words) {
     return runConsole({}, words.split(u'|', Qt::SkipEmptyParts));
 }
 
@@ -93,7 +91,7 @@ TEST(CommandLine, everyCommandHasAnExampleThatIsUnderstood) {
 }
 
 TEST(CommandLine, optionsStandAnywhereAndNumbersAreOperands) {
-    test::ConsoleInstall install;
+    ConsoleInstall install;
     install.addSet(u"-x"_s, u"Overcast"_s);
     const QString home = install.home().native();
     EXPECT_EQ(runConsole(u"ground --home"_s, {home, u"list"_s}).array().size(), 2);
@@ -108,7 +106,7 @@ TEST(CommandLine, optionsStandAnywhereAndNumbersAreOperands) {
 
 #ifdef Q_OS_LINUX
 TEST(CommandLine, aFullDiskBehindStandardOutputIsAFailure) {
-    test::ConsoleInstall install;
+    ConsoleInstall install;
     for (const QString& command : {u"ground list"_s, u"--help"_s}) {
         QProcess process;
         process.setStandardOutputFile(u"/dev/full"_s);
@@ -121,4 +119,4 @@ TEST(CommandLine, aFullDiskBehindStandardOutputIsAFailure) {
 #endif
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

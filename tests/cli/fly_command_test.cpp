@@ -6,13 +6,11 @@
 #include <QFile>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::contentsBelow;
-
 struct FlyCommand : testing::Test {
-    test::ConsoleInstall install;
+    ConsoleInstall install;
 
     void SetUp() override {
         install.addSet(u"2-Storm"_s, u"Overcast"_s);
@@ -21,13 +19,13 @@ struct FlyCommand : testing::Test {
     }
     void placeSimulator(const QByteArray& contents) {
         const FilePath program = install.simulator() / u"fs9.exe";
-        test::writeFile(program, contents);
+        writeFile(program, contents);
         QFile::setPermissions(program.native(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 };
 
 TEST_F(FlyCommand, installsTheSetOfTheWordOrOfTheReport) {
-    test::writeFile(install.home() / u"METAR\\02Z.txt", "EHAM");
+    writeFile(install.home() / u"METAR\\02Z.txt", "EHAM");
     const QString storm = u"Default+ 2-Storm+* 3-Calm+"_s, calm = u"Default+ 2-Storm+ 3-Calm+*"_s;
     const QString standard = u"Default+* 2-Storm+ 3-Calm+"_s;
     const std::pair<QString, QString> cases[] = {
@@ -50,9 +48,9 @@ TEST_F(FlyCommand, installsTheSetOfTheWordOrOfTheReport) {
         EXPECT_GT(told[u"files"_s].toInt(), 0);
         EXPECT_EQ(told[u"start"_s], QJsonValue(u"simulator"_s));
     }
-    EXPECT_EQ(test::readFile(install.home() / u"METAR\\02Z.txt"), "EHAM"); // no exit of the program
+    EXPECT_EQ(readFile(install.home() / u"METAR\\02Z.txt"), "EHAM"); // no exit of the program
     placeSimulator("MZ");
-    test::expectSteps(
+    expectSteps(
         install,
         {{u"config|set|runner|true"_s, {u"{\"runner\":\"true\"}"_s}},
          {u"config|set|runner|false"_s},
@@ -73,7 +71,7 @@ TEST_F(FlyCommand, aReportWithoutCloudsOrANoInstallsNothing) {
     const auto refused = install.run(u"--answer no fly OVC"_s);
     EXPECT_EQ(refused.status, 0) << "a no is no failure";
     EXPECT_EQ(refused.output, nothing);
-    const auto unasked = test::runConsole(u"fly OVC --home"_s, {install.home().native()});
+    const auto unasked = runConsole(u"fly OVC --home"_s, {install.home().native()});
     EXPECT_EQ(unasked.status, 1) << "but nobody to say it is one";
     EXPECT_EQ(unasked.output, nothing);
     EXPECT_EQ(unasked.messages.count(u"No; use --answer yes"_s), 3) << unasked.messages.toStdString();
@@ -82,16 +80,16 @@ TEST_F(FlyCommand, aReportWithoutCloudsOrANoInstallsNothing) {
 }
 
 TEST(FlightsCommand, loadsTheUsersFlightsAndListsThem) {
-    test::ConsoleInstall install;
-    test::expectSteps(install, {{u"flights|list"_s, {}, 1}, // nothing was loaded yet
-                                {u"flights|load"_s},        // nobody is asked where nobody is
-                                {u"flights|list"_s, {u"[]"_s}}});
+    ConsoleInstall install;
+    expectSteps(install, {{u"flights|list"_s, {}, 1}, // nothing was loaded yet
+                          {u"flights|load"_s},        // nobody is asked where nobody is
+                          {u"flights|list"_s, {u"[]"_s}}});
     const FilePath user = install.folder / u"Own flights";
-    test::writeFile(user / u"Evening.flt", "flight");
-    test::writeFile(user / u"Ünten.FLT", "flight");
+    writeFile(user / u"Evening.flt", "flight");
+    writeFile(user / u"Ünten.FLT", "flight");
     install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"NonEnglishPath"_s, user.native());
-    test::expectSteps(install, {{u"flights|load"_s}, {u"flights|list"_s, {u"[\"Evening\",\"Ünten\"]"_s}}});
+    expectSteps(install, {{u"flights|load"_s}, {u"flights|list"_s, {u"[\"Evening\",\"Ünten\"]"_s}}});
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

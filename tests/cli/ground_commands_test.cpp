@@ -6,34 +6,31 @@
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::contentsBelow;
-
 struct GroundCommands : testing::Test {
-    test::ConsoleInstall install;
+    ConsoleInstall install;
 
-    void SetUp() override { test::addNightStock(install); }
+    void SetUp() override { addNightStock(install); }
     template <class Kind = GroundKind>
     void expectDone(const QString& words, const QString& setsAfterwards) {
-        test::expectSteps(install, {{words}});
+        expectSteps(install, {{words}});
         EXPECT_EQ(install.states<Kind>(), setsAfterwards) << words.toStdString();
     }
     void addNight(const QString& name, bool activated) {
-        install.withStore([&](Session&) { test::addNightSet(install, name, activated); });
+        install.withStore([&](Session&) { addNightSet(install, name, activated); });
     }
 };
 
 TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
-    test::expectSteps(
-        install,
-        {{u"catalogue|2-Störm"_s,
-          {u"{\"fileNames\":["_s, test::quoted(FilePath(u"/Texture Sets/2-Störm/Dutch"_s).text()).mid(1)}},
-         {u"ground|create|0|1|0|0|0"_s, {u"Information: Average minutes per texture set"_s}},
-         {u"ground|list"_s,
-          {u"\"Actvated\":\"True\",\"CloudCover\":\"Mostly Clear\",\"ColorSettings\":\""_s,
-           u"\"Installed\":false,\"IsDutch\":true,\"IsNew\":false,"_s, u"\"TsID\":2}]"_s}}});
+    expectSteps(install,
+                {{u"catalogue|2-Störm"_s,
+                  {u"{\"fileNames\":["_s, quoted(FilePath(u"/Texture Sets/2-Störm/Dutch"_s).text()).mid(1)}},
+                 {u"ground|create|0|1|0|0|0"_s, {u"Information: Average minutes per texture set"_s}},
+                 {u"ground|list"_s,
+                  {u"\"Actvated\":\"True\",\"CloudCover\":\"Mostly Clear\",\"ColorSettings\":\""_s,
+                   u"\"Installed\":false,\"IsDutch\":true,\"IsNew\":false,"_s, u"\"TsID\":2}]"_s}}});
     const QString name = install.setFolders().value(0);
     EXPECT_TRUE(QRegularExpression(u"^2-\\d\\d-\\d\\d-\\d{4} \\d\\d-\\d\\d-\\d\\d$"_s).match(name).hasMatch())
         << name.toStdString();
@@ -48,11 +45,11 @@ TEST_F(GroundCommands, aSetIsMadeListedSwitchedOffAndOnAndDeleted) {
 }
 
 TEST_F(GroundCommands, wrongCountsAreToldApart) {
-    test::expectSteps(install,
-                      {{u"ground|create|0|0|0|0|1.5"_s, {u"N5 takes a whole number"_s}, 2},
-                       {u"ground|create|0|0|0|0|40000"_s, {u"Overflow"_s}, 1}, // more than the counter holds
-                       {u"ground|create|0|0|0|0|99999999999999999999"_s, {u"Overflow"_s}, 1},
-                       {u"ground|create|0|0|0|0|0"_s, {u"Division by zero"_s}, 1}});
+    expectSteps(install,
+                {{u"ground|create|0|0|0|0|1.5"_s, {u"N5 takes a whole number"_s}, 2},
+                 {u"ground|create|0|0|0|0|40000"_s, {u"Overflow"_s}, 1}, // more than the counter holds
+                 {u"ground|create|0|0|0|0|99999999999999999999"_s, {u"Overflow"_s}, 1},
+                 {u"ground|create|0|0|0|0|0"_s, {u"Division by zero"_s}, 1}});
     EXPECT_EQ(install.sets(), u"Default+"_s);
 }
 
@@ -99,11 +96,10 @@ TEST_F(GroundCommands, aFavouriteIsMadeActivatedInstalledSwitchedOffAndDeleted) 
     addNight("Default", true);
     const QString name = u"2-Cold lights"_s;
     expectDone<NightKind>(u"night|favourite|Cold lights|-100:-30:-30:80:0:0"_s, u"Default+ "_s + name);
-    test::expectSteps(
-        install,
-        {{u"night|list"_s,
-          {u"{\"Actvated\":\"False\",\"ColorSettings\":\"-100:-6:-6:16:0:0\",\"Description\":\"\","
-           "\"Installed\":false,\"IsNew\":false,\"NtsID\":2,\"TextureSet\":\"2-Cold lights\"}]"_s}}});
+    expectSteps(install,
+                {{u"night|list"_s,
+                  {u"{\"Actvated\":\"False\",\"ColorSettings\":\"-100:-6:-6:16:0:0\",\"Description\":\"\","
+                   "\"Installed\":false,\"IsNew\":false,\"NtsID\":2,\"TextureSet\":\"2-Cold lights\"}]"_s}}});
     expectDone<NightKind>(u"night|activate|"_s + name, u"Default+ "_s + name + u'+');
     expectDone<NightKind>(u"night|install|"_s + name, u"Default+ "_s + name + u"+*"_s);
     expectDone<NightKind>(u"night|install|Default"_s, u"Default+* "_s + name + u'+');
@@ -120,25 +116,24 @@ TEST_F(GroundCommands, thePilotsFilesAreListedAndRestored) {
     const auto before = contentsBelow(install.simulator());
     EXPECT_TRUE(install.run("originals list").array().isEmpty());
     expectDone("ground|install|2-Storm", "Default+ 2-Storm+*");
-    EXPECT_EQ(test::readFile(texture), "2-Storm Texture\\029h2su6.bmp");
+    EXPECT_EQ(readFile(texture), "2-Storm Texture\\029h2su6.bmp");
 
     EXPECT_EQ(install.run("originals list").array().size(), 2); // "new.bmp" replaced nothing
-    test::expectSteps(install, {{"originals|list",
-                                 {"\"path\":\"Scenery\\\\World\\\\texture\\\\029H2SU6.BMP\"",
-                                  "\"copy\":\"Uires\\\\dlgsplash.bmp\"", "\"number\":1",
-                                  "\"sha1\":\"74a0a683fa9a9bd35ff624fad775b1f42cc4b897\",\"size\":18"}}});
+    expectSteps(install, {{"originals|list",
+                           {"\"path\":\"Scenery\\\\World\\\\texture\\\\029H2SU6.BMP\"",
+                            "\"copy\":\"Uires\\\\dlgsplash.bmp\"", "\"number\":1",
+                            "\"sha1\":\"74a0a683fa9a9bd35ff624fad775b1f42cc4b897\",\"size\":18"}}});
     expectDone("originals|restore", "Default+ 2-Storm+"); // none is installed any more
     EXPECT_EQ(contentsBelow(install.simulator()), before);
 
     EXPECT_EQ(install.run("ground install 2-Storm").status, 0);
-    test::writeFile(texture, "by another hand");
-    test::expectSteps(install,
-                      {{"originals|restore", {"\"left\":[\"Scenery", "1 file put back, 1 taken away"}}});
-    test::writeFile(texture, "2-Storm Texture\\029h2su6.bmp");
+    writeFile(texture, "by another hand");
+    expectSteps(install, {{"originals|restore", {"\"left\":[\"Scenery", "1 file put back, 1 taken away"}}});
+    writeFile(texture, "2-Storm Texture\\029h2su6.bmp");
     EXPECT_EQ(install.run("ground install 2-Storm").status, 0);
-    test::writeFile(kept, "by another hand");
-    test::expectSteps(install, {{"originals|restore", {"\"damaged\":[\"Scenery", "Exclamation: "}, 1}});
+    writeFile(kept, "by another hand");
+    expectSteps(install, {{"originals|restore", {"\"damaged\":[\"Scenery", "Exclamation: "}, 1}});
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -5,18 +5,14 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::Console;
-using test::ConsoleInstall;
-using test::manyFiles;
 
 constexpr int fileCount = 400;
 
 /// Runs the command and interrupts it when it has said `moment`.
-test::ConsoleRun interruptedRun(ConsoleInstall& install, const QString& command, const QString& moment,
-                                int status = 0) {
+ConsoleRun interruptedRun(ConsoleInstall& install, const QString& command, const QString& moment,
+                          int status = 0) {
     Console console(install.withHome(command));
     EXPECT_TRUE(console.waitForMessage(moment));
     console.interrupt();
@@ -40,7 +36,7 @@ TEST(Interrupt, letsAnInstallFinishItsListAndEndsTheRoadBehindIt) {
 }
 
 TEST(Interrupt, atAQuestionEndsTheRoad) {
-    if (!test::interruptEndsReading) GTEST_SKIP() << "only a console's own reading is ended there";
+    if (!interruptEndsReading) GTEST_SKIP() << "only a console's own reading is ended there";
     ConsoleInstall install;
     install.addSet(u"2-Storm"_s, u"Overcast"_s);
     for (const QString& command : {u"ground delete 2-Storm"_s, u"fly OVC"_s}) {
@@ -52,4 +48,4 @@ TEST(Interrupt, atAQuestionEndsTheRoad) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -9,18 +9,13 @@
 #include "support/system_files.h"
 
 #include <QDir>
-#include <QFile>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::Console;
-using test::readFile;
-using test::writeFile;
-
 struct OptionCommands : testing::Test {
-    test::ConsoleInstall install;
+    ConsoleInstall install;
     FilePath texture = install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP";
 
     OptionCommands() {
@@ -29,35 +24,34 @@ struct OptionCommands : testing::Test {
         install.withStore([&](Session& session) {
             session.adoConn->execute("INSERT INTO MV_CONFIG(TITLE, MV_FOLDER, FS_FOLDER) VALUES "
                                      "('Global Coverage - Day', 'GENERIC WORLD', 'Scenery\\World\\texture')");
-            test::addNightSet(install, "Default", true);
+            addNightSet(install, "Default", true);
         });
     }
 };
 
 TEST_F(OptionCommands, baseInstallBackupAndRestore) {
     const QByteArray own = readFile(texture);
-    const auto before = test::contentsBelow(install.folder.path());
-    test::expectSteps(install, {{u"base|install|Fog"_s, {u"There is no base"_s}, 1},
-                                {u"backup|restore|1-Backup"_s, {u"There is no backup"_s}, 1}});
-    EXPECT_TRUE(test::contentsBelow(install.folder.path()) == before);
-    test::expectSteps(install, {{u"backup|create"_s}, {u"base|install|Global Coverage - Day"_s}});
+    const auto before = contentsBelow(install.folder.path());
+    expectSteps(install, {{u"base|install|Fog"_s, {u"There is no base"_s}, 1},
+                          {u"backup|restore|1-Backup"_s, {u"There is no backup"_s}, 1}});
+    EXPECT_TRUE(contentsBelow(install.folder.path()) == before);
+    expectSteps(install, {{u"backup|create"_s}, {u"base|install|Global Coverage - Day"_s}});
     EXPECT_EQ(readFile(texture), "body of GENERIC WORLD\\029h2su6.bmp");
     EXPECT_EQ(install.sets(), u"Default+*"_s);
-    test::expectSteps(install,
-                      {{u"base|list"_s, {u"\"ConfigInstalled\":true"_s}},
-                       {u"backup|list"_s, {u"\"BackupName\":\"1-Backup\""_s, u"\"complete\":true"_s}},
-                       {u"backup|restore|1-Backup"_s, {u"3 put back (2 were there already)"_s}}});
+    expectSteps(install, {{u"base|list"_s, {u"\"ConfigInstalled\":true"_s}},
+                          {u"backup|list"_s, {u"\"BackupName\":\"1-Backup\""_s, u"\"complete\":true"_s}},
+                          {u"backup|restore|1-Backup"_s, {u"3 put back (2 were there already)"_s}}});
     EXPECT_EQ(readFile(texture), own);
-    const test::UnreadableFile unreadable(texture.parent().child(u"broken.bmp"_s));
-    test::expectSteps(install, {{u"backup|create"_s, {}, 1}, {u"backup|list"_s, {u"\"complete\":false"_s}}});
+    const UnreadableFile unreadable(texture.parent().child(u"broken.bmp"_s));
+    expectSteps(install, {{u"backup|create"_s, {}, 1}, {u"backup|list"_s, {u"\"complete\":false"_s}}});
 }
 
 TEST_F(OptionCommands, eachOptionIsKept) {
     for (const QString& name :
          {u"dutch"_s, u"tropical"_s, u"halo"_s, u"fastexit"_s, u"widefs"_s, u"inhibitsplash"_s})
-        test::expectSteps(install, {{u"option|get|"_s + name, {u"\"%1\":false"_s.arg(name)}},
-                                    {u"option|set|"_s + name + u"|on"_s},
-                                    {u"option|get|"_s + name, {u"\"%1\":true"_s.arg(name)}}});
+        expectSteps(install, {{u"option|get|"_s + name, {u"\"%1\":false"_s.arg(name)}},
+                              {u"option|set|"_s + name + u"|on"_s},
+                              {u"option|get|"_s + name, {u"\"%1\":true"_s.arg(name)}}});
     EXPECT_EQ(readFile(install.simulator() / u"Texture\\halo.bmp"), "ours");
     EXPECT_EQ(readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's own splash");
 }
@@ -66,19 +60,19 @@ TEST_F(OptionCommands, bringThePilotsTexturesAndTakeThemBack) {
     const FilePath own = install.folder / u"Own textures";
     const FilePath image = install.home() / u"Resources\\GENERIC WORLD\\029h2su6.bmp";
     const QByteArray before = readFile(image);
-    writeFile(own / u"one.bmp", test::smallBitmap(16, 90));
+    writeFile(own / u"one.bmp", smallBitmap(16, 90));
     writeFile(own / u"029H2SU6.BMP", compressTexture(loadPicture(install.files, own / u"one.bmp")));
-    test::expectSteps(
-        install, {{u"stock|import|--from|"_s + own.native(), {u"\"cancelled\":false"_s, u"\"files\":1"_s}}});
+    expectSteps(install,
+                {{u"stock|import|--from|"_s + own.native(), {u"\"cancelled\":false"_s, u"\"files\":1"_s}}});
     EXPECT_NE(readFile(image), before);
-    test::expectSteps(install, {{u"stock|restore"_s}});
+    expectSteps(install, {{u"stock|restore"_s}});
     EXPECT_EQ(readFile(image), before);
-    test::expectSteps(install, {{u"stock|restore"_s, {}, 1}, // nothing is kept any more
-                                {u"stock|import|--from|"_s + (install.folder / u"nowhere").native(), {}, 1}});
+    expectSteps(install, {{u"stock|restore"_s, {}, 1}, // nothing is kept any more
+                          {u"stock|import|--from|"_s + (install.folder / u"nowhere").native(), {}, 1}});
 }
 
 struct ConfigCommands : testing::Test {
-    test::ConsoleInstall install;
+    ConsoleInstall install;
 
     QString stored(const QString& key, const QString& name) {
         return install.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, key, name);
@@ -93,15 +87,15 @@ TEST_F(ConfigCommands, theSimulatorIsNamedWithoutAQuestion) {
     const QString simulator = install.simulator().text();
     const FilePath own = install.home() / u"Flights";
     install.files.makeFolder(own);
-    test::expectSteps(install, {{u"ground|list"_s, {u"config set simulator"_s}, 1},
-                                {u"config|set|simulator|"_s + install.home().native(), {}, 1}, // no fs9.exe
-                                {u"config|set|flights|"_s + own.native(), {u"own Flights folder"_s}, 1}});
+    expectSteps(install, {{u"ground|list"_s, {u"config set simulator"_s}, 1},
+                          {u"config|set|simulator|"_s + install.home().native(), {}, 1}, // no fs9.exe
+                          {u"config|set|flights|"_s + own.native(), {u"own Flights folder"_s}, 1}});
     EXPECT_EQ(stored(morvaneKey, u"NonEnglishPath"_s), QString());
     EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), QString());
 
-    test::expectSteps(install, {{u"config|set|simulator|"_s + QDir::current().relativeFilePath(simulator),
-                                 {test::quoted(simulator)}},
-                                {u"ground|list"_s}});
+    expectSteps(install, {{u"config|set|simulator|"_s + QDir::current().relativeFilePath(simulator),
+                           {quoted(simulator)}},
+                          {u"ground|list"_s}});
     EXPECT_EQ(stored(simulatorKey, u"EXE Path"_s), simulator);
 }
 
@@ -109,7 +103,7 @@ TEST_F(ConfigCommands, everythingIsShownWithoutASimulatorToo) {
     install.run(u"config set runner"_s, {u"wine --quiet"_s});
     install.run(u"option set halo on"_s);
     forget(simulatorKey, u"EXE Path"_s);
-    const auto before = test::contentsBelow(install.folder.path());
+    const auto before = contentsBelow(install.folder.path());
     const auto run = install.run(u"config show"_s);
     EXPECT_EQ(run.status, 0) << run.messages.toStdString();
     const QJsonObject shown = run.objects().at(0);
@@ -118,13 +112,13 @@ TEST_F(ConfigCommands, everythingIsShownWithoutASimulatorToo) {
     EXPECT_EQ(shown["switches"]["halo"], true);
     for (const QJsonObject& object : {shown, install.run("config get runner").objects().at(0)})
         EXPECT_EQ(object["runner"], "wine --quiet");
-    EXPECT_EQ(test::contentsBelow(install.folder.path()), before) << "looking changes nothing";
+    EXPECT_EQ(contentsBelow(install.folder.path()), before) << "looking changes nothing";
 
     Store store; // as one of version 2 before its upgrade
     store.open(install.home() / u"Morvane.mdb");
     store.execute(u"DROP TABLE TEXTURE_SWITCH"_s);
     store.close();
-    test::expectSteps(install, {{u"config|show"_s, {u"\"halo\":null"_s}}});
+    expectSteps(install, {{u"config|show"_s, {u"\"halo\":null"_s}}});
 }
 
 /// Only a person can say which PC this is: a script's yes would end every later start of the simulator.
@@ -142,4 +136,4 @@ TEST_F(ConfigCommands, nobodyMakesTheInstallAClient) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -5,29 +5,24 @@
 #include <QImage>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::readFile;
-using test::runConsole;
-using test::smallBitmap;
-using test::writeFile;
-
 struct PictureCommands : testing::Test {
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     const FilePath inFile = folder / u"base imâge.bmp", outFile = folder / u"out.bmp";
     const QString in = inFile.native(), out = outFile.native();
 
     /// The run ends in one line of an error and leaves what was there.
     void expectError(const QString& command, const QStringList& files, const QString& said) const {
-        const auto before = test::contentsBelow(folder.path());
+        const auto before = contentsBelow(folder.path());
         const auto run = runConsole(command, files);
         SCOPED_TRACE((command + u' ' + files.join(u' ') + run.messages).toStdString());
         EXPECT_EQ(run.status, 1);
         EXPECT_TRUE(run.messages.startsWith("Error: Morvane Error\n  ") &&
                     run.messages.contains(FilePath(said).text()));
         EXPECT_EQ(run.messages.count(u'\n'), 2);
-        EXPECT_EQ(test::contentsBelow(folder.path()), before);
+        EXPECT_EQ(contentsBelow(folder.path()), before);
     }
 };
 
@@ -57,4 +52,4 @@ TEST_F(PictureCommands, spoiltMissingAndUnwritableFilesAreTold) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -5,15 +5,11 @@
 #include <QImage>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::contentsBelow;
-using test::smallBitmap;
-using test::writeFile;
-
 struct SkyCommands : testing::Test {
-    test::ConsoleInstall install;
+    ConsoleInstall install;
 
     void SetUp() override {
         const std::pair<QString, QString> stock[] = {{u"Pro Sky"_s, u"day.bmp"_s},
@@ -25,7 +21,7 @@ struct SkyCommands : testing::Test {
             writeFile(install.home() / u"Resources\\Sky" / folder / name, smallBitmap(32, 90));
     }
     void expectDone(const QString& command, const QString& name, const QString& skiesAfterwards) {
-        test::expectSteps(install, {{command + u'|' + name}});
+        expectSteps(install, {{command + u'|' + name}});
         EXPECT_EQ(install.skies(), skiesAfterwards) << command.toStdString();
     }
     QStringList filesOf(const QString& name) {
@@ -41,12 +37,12 @@ TEST_F(SkyCommands, setsAreMadeListedShownSwitchedOffAndOnInstalledAndDeleted) {
     const QString name = list[0].toObject()[u"SkyTextureSet"].toString();
     const QString other = list[1].toObject()[u"SkyTextureSet"].toString();
     EXPECT_EQ(filesOf(name), QStringList{u"sunny.bmp"_s});
-    test::expectSteps(install, {{u"sky|list"_s,
-                                 {u"[{\"Activated\":\"True\",\"CloudCover\":\"Mostly Clear\","_s,
-                                  u"\"TextureSetGroup\":\"Sunny\"}"_s}},
-                                {u"sky|show|"_s + name,
-                                 {u"\"timeOfDay\":\"Day\""_s, u"\"WaterDark\":\"0:0:0:0:0:0:5:5:32\""_s,
-                                  u":1:32:255\""_s}}});
+    expectSteps(install, {{u"sky|list"_s,
+                           {u"[{\"Activated\":\"True\",\"CloudCover\":\"Mostly Clear\","_s,
+                            u"\"TextureSetGroup\":\"Sunny\"}"_s}},
+                          {u"sky|show|"_s + name,
+                           {u"\"timeOfDay\":\"Day\""_s, u"\"WaterDark\":\"0:0:0:0:0:0:5:5:32\""_s,
+                            u":1:32:255\""_s}}});
     expectDone(u"sky|deactivate"_s, name, name + u' ' + other + u'+');
     EXPECT_TRUE(filesOf(name).isEmpty());
     expectDone(u"sky|activate"_s, name, name + u"+ "_s + other + u'+');
@@ -63,7 +59,7 @@ TEST_F(SkyCommands, onePictureIsRecolouredByTenGroups) {
     const QStringList files{groups.native(), in.native(), out.native()};
     writeFile(in, smallBitmap(32, 90));
     writeFile(groups, R"(["0:0:0:0:100:0:1:1:32","","","","","","","","","0:50:0:0:0:0:1:32:255"])");
-    const auto run = test::runConsole(u"recolour-sky"_s, files);
+    const auto run = runConsole(u"recolour-sky"_s, files);
     EXPECT_EQ(run.status, 0) << run.messages.toStdString();
     const QImage base(in.native()), result(out.native());
     EXPECT_GT(qRed(result.pixel(20, 10)), qRed(base.pixel(20, 10)));
@@ -75,10 +71,10 @@ TEST_F(SkyCommands, onePictureIsRecolouredByTenGroups) {
     for (const QByteArray& wrong :
          {QByteArray("no JSON"), QByteArray(R"(["a:0:0:0:0:0:0:0:0","","","","","","","","",""])")}) {
         writeFile(groups, wrong);
-        EXPECT_EQ(test::runConsole(u"recolour-sky"_s, files).status, 1) << wrong.toStdString();
-        EXPECT_EQ(test::readFile(out), before.value(u"out.bmp"_s));
+        EXPECT_EQ(runConsole(u"recolour-sky"_s, files).status, 1) << wrong.toStdString();
+        EXPECT_EQ(readFile(out), before.value(u"out.bmp"_s));
     }
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

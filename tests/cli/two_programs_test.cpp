@@ -5,16 +5,12 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::Console;
-using test::ConsoleInstall;
-using test::manyFiles;
-
 /// The first one is known to write when the second one starts.
-std::pair<test::ConsoleRun, test::ConsoleRun> runTwo(ConsoleInstall& install, const QString& firstCommand,
-                                                     const QString& moment, const QString& secondCommand) {
+std::pair<ConsoleRun, ConsoleRun> runTwo(ConsoleInstall& install, const QString& firstCommand,
+                                         const QString& moment, const QString& secondCommand) {
     Console first(install.withHome(firstCommand));
     EXPECT_TRUE(first.waitForMessage(moment));
     const auto second = install.run(secondCommand);
@@ -43,18 +39,18 @@ TEST(TwoPrograms, noOriginalOfTwoInstallsIsLost) {
     // Long enough for the other one to note its files in the middle of it.
     const QStringList names = manyFiles(u"Texture"_s, 200), skyNames{u"day.bmp"_s, u"dawn.bmp"_s};
     for (const QString& name : names)
-        test::writeFile(install.simulator() / u"Scenery\\World" / name, "the pilot's " + name.toUtf8());
+        writeFile(install.simulator() / u"Scenery\\World" / name, "the pilot's " + name.toUtf8());
     for (const QString& name : skyNames)
-        test::writeFile(install.simulator() / u"Texture" / name, "the pilot's " + name.toUtf8());
-    const auto before = test::contentsBelow(install.simulator());
+        writeFile(install.simulator() / u"Texture" / name, "the pilot's " + name.toUtf8());
+    const auto before = contentsBelow(install.simulator());
     install.addSet(u"2-Storm"_s, u"Overcast"_s, true, names);
     install.addSky(u"3-Grey"_s, u"Overcast"_s, true, skyNames);
     const auto [first, second] =
         runTwo(install, u"ground install 2-Storm"_s, u"Processing your Ground"_s, u"sky install 3-Grey"_s);
     EXPECT_EQ(first.status + second.status, 0) << second.messages.toStdString();
-    EXPECT_NE(test::contentsBelow(install.simulator()), before);
+    EXPECT_NE(contentsBelow(install.simulator()), before);
     EXPECT_EQ(install.run(u"originals restore"_s).status, 0);
-    const auto after = test::contentsBelow(install.simulator());
+    const auto after = contentsBelow(install.simulator());
     for (auto file = before.cbegin(); file != before.cend(); ++file)
         EXPECT_EQ(after.value(file.key()), file.value()) << file.key().toStdString();
 }
@@ -72,4 +68,4 @@ TEST(TwoPrograms, readersRunBesideAWriterAndAKilledOnesLockIsTakenOver) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

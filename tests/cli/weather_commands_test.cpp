@@ -8,15 +8,13 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::runConsole;
-
 TEST(CycleCommands, importAFileInEachForm) {
-    test::ConsoleInstall install;
-    test::expectSteps(install, {{u"metar|import|missing.txt"_s, {}, 1},
-                                {u"metar|download"_s, {u"No weather server is set."_s}, 1}});
+    ConsoleInstall install;
+    expectSteps(install, {{u"metar|import|missing.txt"_s, {}, 1},
+                          {u"metar|download"_s, {u"No weather server is set."_s}, 1}});
     EXPECT_EQ(install.run(u"metar rows"_s).output, "");
     const QString sample = QStringLiteral(MORVANE_DATA_DIR "/metar/");
     const std::pair<QStringList, qsizetype> cases[] = {
@@ -38,7 +36,7 @@ TEST(CycleCommands, importAFileInEachForm) {
 }
 
 TEST(CycleCommands, anActiveSkyOutOfReachFailsThemAlone) {
-    test::ConsoleInstall install;
+    ConsoleInstall install;
     install.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey);
     install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Install_Path"_s,
                                   u"\\\\Wx\\ASv6"_s);
@@ -79,18 +77,18 @@ struct AirportCommands : testing::Test {
         for (int i = 100; i < 250; ++i)
             airports.push_back({u"K%1"_s.arg(i), {}, {}, {}, {}, {}, {}});
         install.withStore([&](Session& session) {
-            test::addAirports(session, airports);
-            test::addStation(session, "EHRD", 3, 51.96, 4.44);
-            test::addStation(session, "KSEA", 0, 47.45, -122.31);
-            test::addStation(session, "KPDX", 5, 45.59, -122.60);
+            addAirports(session, airports);
+            addStation(session, "EHRD", 3, 51.96, 4.44);
+            addStation(session, "KSEA", 0, 47.45, -122.31);
+            addStation(session, "KPDX", 5, 45.59, -122.60);
         });
     }
-    test::ConsoleInstall install;
+    ConsoleInstall install;
 };
 
 TEST_F(AirportCommands, tellOfAirportsStationsAndTheirReports) {
     const QString report = u"EHAM 010000Z 00000KT"_s; // its neighbour's
-    test::expectSteps(
+    expectSteps(
         install,
         {{u"metar|show|eham"_s, {u"ICAO Code: EHAM, City: Amsterdam, Airport Name: Schiphol\n"_s, report}},
          {u"metar|show|eham|--json"_s,
@@ -112,7 +110,7 @@ TEST_F(AirportCommands, tellOfAirportsStationsAndTheirReports) {
 
 TEST_F(AirportCommands, giveThePlanOverTheStoredWeather) {
     const QString plans = QStringLiteral(MORVANE_DATA_DIR "/plans/");
-    test::expectSteps(
+    expectSteps(
         install,
         {{u"plan|--json|"_s + plans + u"c01_own_form_vfr_direct.pln"_s,
           {u"{\"altitude\":"_s, u"\"average\":3,\"class\":3,\"cover\":\"Partly Cloudy\",\"departure\":"_s,
@@ -122,4 +120,4 @@ TEST_F(AirportCommands, giveThePlanOverTheStoredWeather) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -7,7 +7,6 @@
 #include "support/system_files.h"
 #include "support/temporary_folder.h"
 
-#include <QFile>
 #include <functional>
 #include <gtest/gtest.h>
 #include <optional>
@@ -18,10 +17,8 @@
 #include <sys/resource.h>
 #endif
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::TemporaryFolder;
 
 TEST(FilePath, noTextLeadsOutOfTheRoot) {
     const FilePath root("/somewhere");
@@ -46,8 +43,8 @@ TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {
         {[&] { files.removeFolder(folder.path()); }, ErrorCode::folderNotEmpty},
     };
     for (const auto& [action, code] : cases)
-        EXPECT_EQ(test::codeRaisedBy(action), code);
-    EXPECT_EQ(test::readFile(file), "x");
+        EXPECT_EQ(codeRaisedBy(action), code);
+    EXPECT_EQ(readFile(file), "x");
 }
 
 #ifdef Q_OS_WIN
@@ -55,7 +52,7 @@ TEST(NativeFileSystem, tellsWhatIsMissingFromWhatIsClosed) {
 TEST(NativeFileSystem, waitsForAFileThatAnotherProgramLetsGoOf) {
     TemporaryFolder folder;
     NativeFileSystem files;
-    std::optional<test::UnreadableFile> held(std::in_place, folder / u"Ünï.bmp");
+    std::optional<UnreadableFile> held(std::in_place, folder / u"Ünï.bmp");
     std::jthread other([&] { held.reset(); });
     EXPECT_EQ(files.read(folder / u"Ünï.bmp"), "held");
 }
@@ -90,15 +87,15 @@ TEST(NativeFileSystem, aFailedWriteLeavesNothingAndNamesTheFile) {
                                                  [&] { files.write(file, contents); }};
         for (const auto& action : actions) {
             const FileSizeLimit limit(1000);
-            EXPECT_EQ(test::descriptionRaisedBy(action), u"Disk full: "_s + file.text());
+            EXPECT_EQ(descriptionRaisedBy(action), u"Disk full: "_s + file.text());
             EXPECT_TRUE(files.list(folder.path(), u"*"_s + partialCopySuffix).isEmpty());
         }
     }
-    EXPECT_EQ(test::readFile(target), "old");
+    EXPECT_EQ(readFile(target), "old");
     EXPECT_EQ(files.list(folder.path(), u"*"_s), (QStringList{u"source.bmp"_s, u"Ünï.bmp"_s}));
 }
 
 #endif
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

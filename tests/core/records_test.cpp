@@ -14,11 +14,11 @@
 #include "support/scripted_services.h"
 #include "support/scripted_user.h"
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 /// The session's connection is one of its own: the fixture looks at what really reached the file.
-class RecordsTest : public test::StoreFixture {
+class RecordsTest : public StoreFixture {
 protected:
     RecordsTest() {
         connectSession();
@@ -50,10 +50,10 @@ protected:
         EXPECT_EQ(rowsOf(table), QStringList{row});
     }
 
-    test::ScriptedUser user;
+    ScriptedUser user;
     NativeFileSystem files;
-    test::ScriptedClock clock;
-    test::ScriptedRandom random;
+    ScriptedClock clock;
+    ScriptedRandom random;
     IniRegistry registry{files, folder / u"registry.ini"};
     clsTextureSet storm{false, true, 0, {}, u"Storm"_s, {}, {}, {}, false}; ///< a new one
     Session session{{user, files, clock, random, registry}, folder.path()};
@@ -121,7 +121,7 @@ TEST_F(RecordsTest, failuresAreToldAsEachRoutineAlwaysHas) {
 
 /// Each write of a save fails in its turn: one message, and neither half a row nor a record without one.
 TEST_F(RecordsTest, aFailedSaveLeavesNothing) {
-    test::FaultyStoreDisk disk;
+    FaultyStoreDisk disk;
     connectSession();
     int failures = 0;
     for (;; ++failures) {
@@ -137,4 +137,4 @@ TEST_F(RecordsTest, aFailedSaveLeavesNothing) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

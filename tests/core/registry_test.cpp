@@ -5,12 +5,12 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 class IniFileTest : public testing::Test {
 protected:
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     NativeFileSystem files;
     FilePath file = folder / u"settings.cfg";
     IniRegistry registry{files, folder / u"registry.ini"};
@@ -18,10 +18,9 @@ protected:
 };
 
 TEST_F(IniFileTest, readsAsTheSystemsProfilesDo) {
-    test::writeFile(file, "; a remark\r\n[ Sky ]\r\nBlank =   a b  \r\nQuoted=\"  a b  \"\r\nEmpty=\r\n"
-                          "TWICE=first\nTwice=second\nNumber=-12 apples\n" +
-                              QByteArrayLiteral("Nul=a\0b\n[Other]\nBlank=other\nLong=") +
-                              QByteArray(600, 'x'));
+    writeFile(file, "; a remark\r\n[ Sky ]\r\nBlank =   a b  \r\nQuoted=\"  a b  \"\r\nEmpty=\r\n"
+                    "TWICE=first\nTwice=second\nNumber=-12 apples\n" +
+                        QByteArrayLiteral("Nul=a\0b\n[Other]\nBlank=other\nLong=") + QByteArray(600, 'x'));
     const std::pair<QString, QString> cases[] = {
         {"blank", "a b"}, {"Quoted", "a b"}, {"Empty", ""}, {"Twice", "first"}, {"Nul", "a b"}, {"Long", ""},
     };
@@ -34,12 +33,11 @@ TEST_F(IniFileTest, readsAsTheSystemsProfilesDo) {
 }
 
 TEST_F(IniFileTest, writesOneKeyAndKeepsTheRest) {
-    test::writeFile(file, "; a remark\n[A]\none=1.5\n[B]\ntwo=Ünï\n");
+    writeFile(file, "; a remark\n[A]\none=1.5\n[B]\ntwo=Ünï\n");
     EXPECT_EQ(WriteIni(files, "a", "three", "3", file), 1);
     EXPECT_EQ(WriteIni(files, "A", "ONE", "2", file), 1);
     EXPECT_EQ(WriteIni(files, "C", "four", "", file), 1);
-    EXPECT_EQ(test::readFile(file),
-              "; a remark\r\n[A]\r\nONE=2\r\nthree=3\r\n[B]\r\ntwo=Ünï\r\n[C]\r\nfour=\r\n");
+    EXPECT_EQ(readFile(file), "; a remark\r\n[A]\r\nONE=2\r\nthree=3\r\n[B]\r\ntwo=Ünï\r\n[C]\r\nfour=\r\n");
     EXPECT_EQ(WriteIni(files, "A", "one", "1", folder / u"no such folder\\settings.cfg"), 0);
 }
 
@@ -54,7 +52,7 @@ TEST_F(IniFileTest, theRegistryKeepsTextsAndTypes) {
     }
     registry.SetRegString(1, key, "Value", "a\n[HKEY_USERS\\Evil]"); // a text is never a key of its own
     EXPECT_EQ(registry.GetRegString(1, key, "Value"), "");
-    test::writeFile(folder / u"registry.ini", "[HKEY_USERS\\Asv6]\nLocal=dword:0000001f\n"); // by a hand
+    writeFile(folder / u"registry.ini", "[HKEY_USERS\\Asv6]\nLocal=dword:0000001f\n"); // by a hand
     EXPECT_TRUE(registry.RegValueIsDword(2, "Asv6", "local"));
     EXPECT_EQ(registry.GetRegString(2, "Asv6", "Local"), "31");
     EXPECT_EQ(registry.GetRegString(2, "Asv6", "Local", "OTHERPC"), "");
@@ -82,7 +80,7 @@ private:
 };
 
 struct UserRegistryTest : testing::Test {
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     NativeFileSystem files;
     FilePath file = folder / u"system.ini";
     bool isClosed = true;
@@ -90,7 +88,7 @@ struct UserRegistryTest : testing::Test {
     UserRegistry registry{files, std::make_unique<ClosedRegistry>(files, file, isClosed)};
 
     QString simulator(const QString& name) const {
-        test::writeFile(folder / name / u"fs9.exe", "MZ");
+        writeFile(folder / name / u"fs9.exe", "MZ");
         return (folder / name).native();
     }
     void put(int root, const QString& key, const QString& name, const QString& text) {
@@ -135,4 +133,4 @@ TEST_F(UserRegistryTest, theSimulatorsPathIsTheMachinesWhereThatLeadsToOneAndTak
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -5,10 +5,10 @@
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using StoreTest = test::StoreFixture;
+using StoreTest = StoreFixture;
 
 TEST_F(StoreTest, nothingInsideQuotesIsAWordOfTheLanguage) {
     const QString name = u"ISNULL(x) YESNO ?, COUNTER; from 'y'"_s;
@@ -60,7 +60,7 @@ TEST_F(StoreTest, oneStatementAtATime) {
     EXPECT_TRUE(store.hasTable(u"mv_backup"_s));
 }
 
-class StoreFailureTest : public test::StoreFixture {
+class StoreFailureTest : public StoreFixture {
 protected:
     StoreFailureTest() {
         addBackups({u"old"_s});
@@ -76,11 +76,11 @@ TEST_F(StoreFailureTest, failedWritesLeaveASoundStore) {
         bool wasHit = true;
         int n = 0;
         while (wasHit) {
-            test::FaultyStoreDisk disk(failure);
+            FaultyStoreDisk disk(failure);
             store.open(file);
             const QStringList before = backups();
             disk.failAt(++n, forever);
-            const QString raised = test::descriptionRaisedBy([&] {
+            const QString raised = descriptionRaisedBy([&] {
                 StoreTransaction transaction(store);
                 execute(u"UPDATE MV_BACKUP SET BACKUP_NAME = 'changed'"_s);
                 addBackups({u"new"_s});
@@ -89,7 +89,7 @@ TEST_F(StoreFailureTest, failedWritesLeaveASoundStore) {
             wasHit = disk.operations() >= n;
             store.close(); // also its writes may fail
             disk.heal();
-            ASSERT_EQ(test::integrityOf(file), "ok") << n;
+            ASSERT_EQ(integrityOf(file), "ok") << n;
             EXPECT_EQ(raised, wasHit ? told + file.text() : QString());
             store.open(file);
             EXPECT_EQ(backups() == before, wasHit) << n;
@@ -119,15 +119,15 @@ TEST_F(StoreFailureTest, aPresentStoreIsBroughtUpToDateStepByStep) {
     bool wasHit = true;
     int n = 0;
     while (wasHit) {
-        test::FaultyStoreDisk disk(SQLITE_FULL);
+        FaultyStoreDisk disk(SQLITE_FULL);
         store.open(file);
         disk.failAt(++n, true);
-        const QString raised = test::descriptionRaisedBy([&] { updateSchema(store, laterSchema()); });
+        const QString raised = descriptionRaisedBy([&] { updateSchema(store, laterSchema()); });
         wasHit = disk.operations() >= n;
         EXPECT_EQ(raised, wasHit ? u"Disk full: "_s + file.text() : QString()) << n;
         store.close();
         disk.heal();
-        ASSERT_EQ(test::integrityOf(file), "ok") << n;
+        ASSERT_EQ(integrityOf(file), "ok") << n;
         store.open(file);
         EXPECT_EQ(backups(), QStringList{u"old"_s}) << n;
         EXPECT_EQ(store.hasTable(u"NOTES"_s), store.hasColumn(u"MV_BACKUP"_s, u"BACKUP_NOTE"_s)) << n;
@@ -144,4 +144,4 @@ TEST_F(StoreFailureTest, aPresentStoreIsBroughtUpToDateStepByStep) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -12,7 +12,7 @@
 #include <sys/stat.h>
 #endif
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 TEST(RegistryFile, givesWhatIsWhole) {
@@ -48,11 +48,11 @@ TEST(RegistryFile, givesWhatIsWhole) {
 
 struct WinePrefixTest : testing::Test {
     NativeFileSystem files;
-    test::HomeFolder homeFolder;
+    HomeFolder homeFolder;
     const QString home = homeFolder.path(), usual = home + u"/.wine"_s;
 
     void write(const QString& path, const QByteArray& contents) {
-        test::writeFile(FilePath(home + u'/' + path), contents);
+        writeFile(FilePath(home + u'/' + path), contents);
     }
     QStringList found() {
         QStringList lines;
@@ -79,7 +79,7 @@ TEST_F(WinePrefixTest, areFoundWhereEachKeeperHasThem) {
     };
     QStringList expected;
     for (const auto& [folder, keeper, runner] : prefixes) {
-        const QString simulator = test::makePrefix(home + u'/' + folder).native();
+        const QString simulator = makePrefix(home + u'/' + folder).native();
         expected << QStringList{simulator, keeper, runner}.join(u'|');
     }
     qputenv("WINEPREFIX", (home + "/Mitt präfix").toUtf8());
@@ -98,7 +98,7 @@ TEST_F(WinePrefixTest, areFoundWhereEachKeeperHasThem) {
     write(bottles + "data.yml", "custom_bottles_path: '" + root + "/chosen''s'\r\n");
     write(steam + "steamapps/libraryfolders.vdf",
           "\"libraryfolders\"\n{\n\t\"1\"\n\t{\n\t\t\"path\"\t\t\"" + root + "/other drive\"\n");
-    test::link(home + u'/' + steam, home + "/.steam/steam"); // the same once more
+    link(home + u'/' + steam, home + "/.steam/steam"); // the same once more
     EXPECT_EQ(found(), expected);
     EXPECT_EQ(winePrefixes(files).size(), std::size(prefixes));
 }
@@ -108,11 +108,11 @@ TEST_F(WinePrefixTest, namesEveryPathThatLeadsToASimulator) {
     for (const QString name : {"A", "B b", "空", "D", "E"})
         write("Spiele und mehr/" + name + "/fs9.exe", "MZ");
     const auto section = [](const char* path, const char* view = "Wow6432Node\\\\") {
-        return test::simulatorSection(path, view);
+        return simulatorSection(path, view);
     };
-    test::makePrefix(usual);
-    test::link(drive, usual + "/dosdevices/g:");
-    test::link("l:", usual + "/dosdevices/l:");
+    makePrefix(usual);
+    link(drive, usual + "/dosdevices/g:");
+    link("l:", usual + "/dosdevices/l:");
     const std::pair<QByteArrayList, QString> cases[] = {
         // the machine's part and the user's, and what is found
         {{section("g:\\\\b B", "") + section("G:\\\\A\\\\"), section("G:/D", "") + section("G:\\\\\\x7a7a")},
@@ -134,8 +134,8 @@ TEST_F(WinePrefixTest, namesEveryPathThatLeadsToASimulator) {
 }
 
 TEST_F(WinePrefixTest, readsAFileOfFiftyMillionBytesAndNoneWithoutEnd) {
-    const QString simulator = test::makePrefix(usual).native() + "||wine", machine = usual + "/system.reg";
-    const QByteArray named = test::readFile(FilePath(machine));
+    const QString simulator = makePrefix(usual).native() + "||wine", machine = usual + "/system.reg";
+    const QByteArray named = readFile(FilePath(machine));
     const QByteArray other = "\n[Software\\\\Classes\\\\x] 17\n#time=1\n@=\"" + QByteArray(170, 'x') + "\"\n";
     write(".wine/system.reg", other.repeated(50'000'000 / other.size()) + named);
     EXPECT_EQ(found(), QStringList{simulator});
@@ -150,4 +150,4 @@ TEST_F(WinePrefixTest, readsAFileOfFiftyMillionBytesAndNoneWithoutEnd) {
 #endif
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

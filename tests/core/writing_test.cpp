@@ -14,13 +14,13 @@
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 /// Two programs on one install, as two sessions of one process. The first one writes at the beginning.
 struct WritingTest : testing::Test {
-    test::SmallInstall install;
-    test::ScriptedUser user;
+    SmallInstall install;
+    ScriptedUser user;
     Session second{{user, install.files, install.clock, install.random, install.registry}, install.home()};
     std::optional<Writing> first{install.session};
 
@@ -73,17 +73,17 @@ TEST_F(WritingTest, rowsThatAnotherProgramChangedAreReadAnew) {
 
 /// After a restart of the machine a killed holder's number may be that of a program of the same name.
 TEST(InstallLock, isHeldByWhoHoldsItsFileAndNotByANumber) {
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     const FilePath file = folder / u"Writing.lock";
     std::optional<InstallLock> holder(std::in_place, folder.path(), u"Writing.lock"_s);
     InstallLock other(folder.path(), u"Writing.lock"_s);
     EXPECT_TRUE(holder->tryTake());
     EXPECT_FALSE(other.tryTake());
-    const QByteArray left = test::readFile(file);
+    const QByteArray left = readFile(file);
     holder.reset();
-    test::writeFile(file, left); // this process is alive, and did not write it
+    writeFile(file, left); // this process is alive, and did not write it
     EXPECT_TRUE(other.tryTake());
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -11,10 +11,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::SmallInstall;
 
 /// Makes as many sets of each cover as said, out of the base images.
 void create(SmallInstall& install, const std::array<std::int16_t, 5>& counts, bool fromMain = true) {
@@ -109,14 +107,14 @@ TEST(GroundGeneration, cancelTakesTheUnfinishedSetWithItAndKeepsTheOthers) {
 TEST(GroundGeneration, aBaseFileThatFailsGetsThePictureBefore) {
     SmallInstall install({{u"GENERIC WORLD\\029a2su1.bmp"_s, u"GENERIC WORLD\\030a2su1.bmp"_s,
                            u"GENERIC WORLD\\031a2su1.bmp"_s}});
-    test::writeFile(install.home() / u"Resources\\GENERIC WORLD\\030a2su1.bmp", "BM no picture");
+    writeFile(install.home() / u"Resources\\GENERIC WORLD\\030a2su1.bmp", "BM no picture");
     create(install, {1, 0, 0, 0, 0});
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
     const FilePath textures =
         groundSetFolder(install.session, install.session.state<GroundSelection>().SelectedGroundSet) /
         u"Texture";
-    EXPECT_EQ(test::readFile(textures / u"030a2su1.bmp"), test::readFile(textures / u"029a2su1.bmp"));
-    EXPECT_NE(test::readFile(textures / u"031a2su1.bmp"), test::readFile(textures / u"029a2su1.bmp"));
+    EXPECT_EQ(readFile(textures / u"030a2su1.bmp"), readFile(textures / u"029a2su1.bmp"));
+    EXPECT_NE(readFile(textures / u"031a2su1.bmp"), readFile(textures / u"029a2su1.bmp"));
 }
 
 TEST(GroundGeneration, allSetsOfACoverComeBeforeTheNextAndNoJobStartsInsideAnother) {
@@ -163,4 +161,4 @@ TEST(GroundRandomiser, realSourceGivesEachFieldAFractionOfItsOwn) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

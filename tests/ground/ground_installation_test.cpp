@@ -8,13 +8,10 @@
 
 #include <QFile>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::readFile;
-using test::writeFile;
-
-struct GroundInstall : test::InstallTest {
+struct GroundInstall : InstallTest {
     void SetUp() override {
         install.addGroundSet("2-Storm", "Overcast", true,
                              {"Texture\\029h2su6.bmp", "Texture\\029B2SU6.BMP", "Texture\\new.bmp",
@@ -86,7 +83,7 @@ TEST_F(GroundInstall, defaultBringsTheBodiesAndItsSplashWhateverTheOption) {
 }
 
 TEST_F(GroundInstall, linksAreReplacedAndModesStay) {
-    if (!test::hasLinks) GTEST_SKIP() << "no links, nor modes, on this system";
+    if (!hasLinks) GTEST_SKIP() << "no links, nor modes, on this system";
     const FilePath world = install.simulator() / u"Scenery\\World\\texture",
                    elsewhere = install.folder / u"else.bmp";
     const QString onDisk = (world / u"029H2SU6.BMP").native();
@@ -103,4 +100,4 @@ TEST_F(GroundInstall, linksAreReplacedAndModesStay) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -5,10 +5,8 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::SmallInstall;
 
 QStringList namesOf(const std::vector<CatalogueFile>& files) {
     QStringList names;
@@ -22,7 +20,7 @@ QStringList walk(const QStringList& baseImages, int category, int seasonCount) {
     QStringList paths;
     for (const QString& name : baseImages)
         paths << u"GENERIC WORLD\\%1.bmp"_s.arg(name);
-    SmallInstall install(test::SmallInstallOptions{paths});
+    SmallInstall install(SmallInstallOptions{paths});
     TextureCatalogue catalogue(install.session);
     catalogue.flags.categories[static_cast<std::size_t>(category - 1)] = true;
     return namesOf(catalogue.popTextureList(seasonCount, 1, true, "7-Storm")).replaceInStrings(".bmp", "");
@@ -64,4 +62,4 @@ TEST(TextureCatalogue, industrialAreasAreFiveRuns) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

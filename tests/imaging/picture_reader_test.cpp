@@ -10,12 +10,8 @@
 #include <QImage>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::bitmapFile;
-using test::hex;
-using test::withLong;
 
 struct Kind {
     std::string name;
@@ -29,7 +25,7 @@ Kind kindOf(const QList<QByteArray>& cells) {
             bitmapFile({.width = cells.at(1).toInt(),
                         .height = cells.at(2).toInt(),
                         .bits = cells.at(3).toInt(),
-                        .compression = isNumber ? cells.at(4).toUInt() : test::longIn(cells.at(4), 0),
+                        .compression = isNumber ? cells.at(4).toUInt() : longIn(cells.at(4), 0),
                         .infoSize = cells.at(5).toInt(),
                         .usedColours = cells.at(6).toUInt(),
                         .behindHeader = hex(cells.at(7)),
@@ -40,7 +36,7 @@ Kind kindOf(const QList<QByteArray>& cells) {
 
 std::vector<Kind> allKinds() {
     std::vector<Kind> kinds;
-    for (const QByteArray& line : test::readFile(FilePath(QStringLiteral(MORVANE_BITMAP_KINDS))).split('\n'))
+    for (const QByteArray& line : readFile(FilePath(QStringLiteral(MORVANE_BITMAP_KINDS))).split('\n'))
         if (!line.isEmpty() && !line.startsWith('#')) kinds.push_back(kindOf(line.split('\t')));
     return kinds;
 }
@@ -53,7 +49,7 @@ std::vector<Kind> readableKinds() {
 
 std::string seen(const QByteArray& file) {
     try {
-        return test::lettersOf(readPicture(file));
+        return lettersOf(readPicture(file));
     } catch (const Error& error) {
         return error.code() == ErrorCode::invalidPicture ? "refused" : error.what();
     }
@@ -79,7 +75,7 @@ TEST(PictureReader, brokenHeaders) {
         {widthField, least}, {heightField, 0},    {heightField, 8193},         {heightField, minus - 8192},
         {heightField, most}, {heightField, least}};
     for (const auto& [name, file, picture] : readableKinds()) {
-        if (test::longIn(file, infoSizeField) == 12) continue;
+        if (longIn(file, infoSizeField) == 12) continue;
         for (const auto& [field, value] : changes)
             EXPECT_EQ(seen(withLong(file, field, value)), "refused") << name << ' ' << field << ' ' << value;
         // Each side may be that long, but not both: runs could ask for the memory from a file of some bytes.
@@ -103,9 +99,9 @@ TEST(PictureReader, rowEndsAreCleared) {
 }
 
 TEST(PixelBuffer, SavesAPictureAsItStandsBehindTheHeaderOfItsOwnLayout) {
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     const FilePath file = folder / u"saved.bmp";
-    test::writeFile(file, QByteArray(300000, 'x'));
+    writeFile(file, QByteArray(300000, 'x'));
     cDIBSection buffer;
     buffer.CreateFromPicture({2, 2, {1, 2, 3, 4, 5, 6, 0, 0, 7, 8, 9, 10, 11, 12, 0, 99}});
     ASSERT_TRUE(buffer.SavePicture(file));
@@ -113,11 +109,11 @@ TEST(PixelBuffer, SavesAPictureAsItStandsBehindTheHeaderOfItsOwnLayout) {
                                                     "28000000 02000000 02000000 0100 1800 00000000 10000000"
                                                     "00000000 00000000 00000000 00000000 00000000"
                                                     "010203 040506 0000 070809 0a0b0c 0063");
-    EXPECT_EQ(test::readFile(file).toHex(' '), expected.toHex(' '));
+    EXPECT_EQ(readFile(file).toHex(' '), expected.toHex(' '));
     EXPECT_EQ(QImage(file.native()).pixel(1, 0), qRgb(12, 11, 10));
     EXPECT_THROW(buffer.CreateFromPicture({2, 2, {1, 2, 3}}), Error);
     EXPECT_FALSE(buffer.isCreated());
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

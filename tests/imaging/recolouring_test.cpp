@@ -10,35 +10,35 @@
 #include <gtest/gtest.h>
 #include <random>
 
-namespace morvane {
+namespace morvane::test {
 
 namespace {
 
 cDIBSection recoloured(const ColourValues& values, const cDIBSection& source) {
-    cDIBSection result = test::createdBuffer(source.Width(), source.Height());
+    cDIBSection result = createdBuffer(source.Width(), source.Height());
     recolour(values, source, result);
     return result;
 }
 
 /// Pixel by pixel: what the fast paths are measured by.
 cDIBSection plainlyRecoloured(const ColourValues& values, const cDIBSection& source) {
-    cDIBSection result = test::createdBuffer(source.Width(), source.Height());
+    cDIBSection result = createdBuffer(source.Width(), source.Height());
     for (int y = 0; y < source.Height(); ++y)
         for (int x = 0; x < source.BytesPerScanLine() / 3; ++x) {
-            const RgbColour plain = recolouredPixel(values, test::pixelAt(source, x, y));
+            const RgbColour plain = recolouredPixel(values, pixelAt(source, x, y));
             const auto byte = [](int channel) { return std::clamp(channel, 0, 255); };
-            test::setPixel(result, x, y, {byte(plain.red), byte(plain.green), byte(plain.blue)});
+            setPixel(result, x, y, {byte(plain.red), byte(plain.green), byte(plain.blue)});
         }
     return result;
 }
 
 bool isThePlainArithmetic(const ColourValues& values, const cDIBSection& source) {
-    return test::bytesOf(recoloured(values, source)) == test::bytesOf(plainlyRecoloured(values, source));
+    return bytesOf(recoloured(values, source)) == bytesOf(plainlyRecoloured(values, source));
 }
 
 /// Every byte random, padding included.
 cDIBSection randomBuffer(int width, int height, unsigned seed) {
-    cDIBSection buffer = test::createdBuffer(width, height);
+    cDIBSection buffer = createdBuffer(width, height);
     std::mt19937 random(seed);
     std::generate_n(buffer.DIBSectionBitsPtr(), buffer.BytesPerScanLine() * height,
                     [&random] { return static_cast<std::uint8_t>(random()); });
@@ -73,12 +73,12 @@ TEST(Recolouring, IsExactAtEverySaturationAndOftenAtZero) {
         const unsigned seed = random();
         const cDIBSection source = step % 2 ? randomBuffer(256, 32, seed) : extremeBuffer(seed);
         EXPECT_TRUE(step % 7 != 0 || isThePlainArithmetic(values, source)) << "step " << step;
-        digest.addData(test::bytesOf(recoloured(values, source)));
+        digest.addData(bytesOf(recoloured(values, source)));
     }
     // Beyond the sliders there is no fast path.
     for (const ColourValues& values : {ColourValues{0, 900, 0, 0, 0, 0}, ColourValues{0, 0, 0, 0, 0, 400},
                                        ColourValues{-300, 0, 0, 0, 0, 0}, ColourValues{0, 0, 0, 0, -200, 0}})
-        digest.addData(test::bytesOf(recoloured(values, randomBuffer(64, 64, 5))));
+        digest.addData(bytesOf(recoloured(values, randomBuffer(64, 64, 5))));
     EXPECT_EQ(digest.result().toHex(), "7830da75d250e056d9572687c4d90df8fb1588eb");
 }
 
@@ -93,20 +93,20 @@ TEST(Recolouring, IsThePlainArithmeticAtEveryWidth) {
 class Colouriser : public testing::Test {
 protected:
     RgbColour processed(const RgbColour& pixel) {
-        const cDIBSection source = test::filledBuffer(1, 1, pixel);
-        cDIBSection destination = test::createdBuffer(1, 1);
+        const cDIBSection source = filledBuffer(1, 1, pixel);
+        cDIBSection destination = createdBuffer(1, 1);
         colouriser.process(source, destination);
-        return test::pixelAt(destination, 0, 0);
+        return pixelAt(destination, 0, 0);
     }
 
     cDIBSection skyOf(const RgbColour& pixel) {
-        const cDIBSection source = test::filledBuffer(32, 40, pixel);
-        cDIBSection destination = test::createdBuffer(32, 40);
+        const cDIBSection source = filledBuffer(32, 40, pixel);
+        cDIBSection destination = createdBuffer(32, 40);
         colouriser.processSkyTexture(source, destination);
         return destination;
     }
 
-    test::ScriptedUser user;
+    ScriptedUser user;
     cColourise colouriser{user};
 };
 
@@ -125,7 +125,7 @@ TEST_F(Colouriser, SkyValuesAreScaledButForSaturation) {
     };
     for (const auto& [group, pixel, expected] : cases) {
         colouriser.skyTextureGroups[0] = group;
-        EXPECT_EQ(test::pixelAt(skyOf(pixel), 0, 0), expected);
+        EXPECT_EQ(pixelAt(skyOf(pixel), 0, 0), expected);
     }
     EXPECT_EQ(processed({250, 0, 0}).red, 250);
     colouriser.Red = static_cast<float>(-99 * 0.2);
@@ -136,9 +136,9 @@ TEST_F(Colouriser, LaterSkyGroupsWorkOnUnclampedChannels) {
     // 250 overshoots to 300 in the first group; the second takes it down by 20 % to 240, not to 204.
     colouriser.skyTextureGroups[2] = {1, 1, 1, 0, 100, 0, 0, 0, 0};
     colouriser.skyTextureGroups[7] = {1, 1, 1, 0, -100, 0, 0, 0, 0};
-    EXPECT_EQ(test::pixelAt(skyOf({250, 100, 100}), 0, 0), (RgbColour{240, 100, 100}));
+    EXPECT_EQ(pixelAt(skyOf({250, 100, 100}), 0, 0), (RgbColour{240, 100, 100}));
 }
 
 } // namespace
 
-} // namespace morvane
+} // namespace morvane::test

@@ -13,11 +13,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::Colour;
-using test::longIn;
 
 Picture painted(int width, int height, const std::function<Colour(int x, int y)>& colourAt) {
     const int row = bytesPerRow(width);
@@ -50,11 +47,11 @@ std::vector<Picture> levelsOf(const QByteArray& texture, int width, int height) 
     std::vector<Picture> levels;
     for (qsizetype at = 74; at < texture.size();
          width = std::max(width / 2, 1), height = std::max(height / 2, 1)) {
-        levels.push_back(readPicture(test::bitmapFile({.width = width,
-                                                       .height = height,
-                                                       .bits = 16,
-                                                       .compression = longIn("DXT1", 0),
-                                                       .pixels = texture.mid(at)})));
+        levels.push_back(readPicture(bitmapFile({.width = width,
+                                                 .height = height,
+                                                 .bits = 16,
+                                                 .compression = longIn("DXT1", 0),
+                                                 .pixels = texture.mid(at)})));
         at += qsizetype{8} * ((width + 3) / 4) * ((height + 3) / 4);
     }
     return levels;
@@ -71,9 +68,9 @@ double likeness(const TextureLevel& a, const TextureLevel& b) {
 
 TEST(TextureCodec, headerOfTheUsualSizeAndCountsByTheSides) {
     EXPECT_EQ(compressTexture(plainPicture(256, 256, {9, 9, 9})).left(74).toHex(' '),
-              test::hex("424DF2AA000000000000 4A000000 28000000 00010000 00010000 0100 1000"
-                        "44585431 A8AA0000 00000000 00000000 00000000 00000000"
-                        "46533730 14000000 00010000 0000 0600 00000000")
+              hex("424DF2AA000000000000 4A000000 28000000 00010000 00010000 0100 1000"
+                  "44585431 A8AA0000 00000000 00000000 00000000 00000000"
+                  "46533730 14000000 00010000 0000 0600 00000000")
                   .toHex(' '));
     const struct {
         int width, height;
@@ -116,7 +113,7 @@ TEST(TextureCodec, oneColourStaysOneAndEqualEndsHaveIndexZeroOnly) {
     for (int value = 0; value < 256; ++value) {
         const Colour wanted = {value, 255 - value, value * 7 % 256};
         for (const Picture& level : levelsOf(compressTexture(plainPicture(8, 8, wanted)), 8, 8)) {
-            const Colour first = test::pixelAt(level, 0, 0);
+            const Colour first = pixelAt(level, 0, 0);
             for (std::size_t i = 0; i < 3; ++i)
                 EXPECT_LE(std::abs(first[i] - wanted[i]), i == 1 ? 2 : 4) << value;
             EXPECT_EQ(level.rows, plainPicture(level.width, level.height, first).rows) << value;
@@ -127,7 +124,7 @@ TEST(TextureCodec, oneColourStaysOneAndEqualEndsHaveIndexZeroOnly) {
 }
 
 TEST(TextureFile, isWrittenOverTheOneBeforeAndLeftAloneByARefusal) {
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     NativeFileSystem files;
     const FilePath good = folder / u"good.bmp", odd = folder / u"odd.bmp", target = folder / u"set\\a.bmp";
     const Picture picture = photographLike(32, 32);
@@ -137,7 +134,7 @@ TEST(TextureFile, isWrittenOverTheOneBeforeAndLeftAloneByARefusal) {
     buffer.Create(33, 32);
     buffer.SavePicture(odd);
     EXPECT_FALSE(BMPScompressBMPVB(files, good, "1", 10, -1, 0, target)); // no folder for it
-    test::writeFile(target, "of an earlier run");
+    writeFile(target, "of an earlier run");
     const std::tuple<FilePath, QString, int, int, int> refused[] = {
         {odd, "1", 10, -1, 0},  {folder / u"missing.bmp", "1", 10, -1, 0},
         {good, "3", 10, -1, 0}, {good, "1", 0, -1, 0},
@@ -145,10 +142,10 @@ TEST(TextureFile, isWrittenOverTheOneBeforeAndLeftAloneByARefusal) {
     };
     for (const auto& [source, format, levels, alpha, options] : refused)
         EXPECT_FALSE(BMPScompressBMPVB(files, source, format, levels, alpha, options, target));
-    EXPECT_EQ(test::readFile(target), "of an earlier run");
+    EXPECT_EQ(readFile(target), "of an earlier run");
     EXPECT_TRUE(BMPScompressBMPVB(files, good, "1", 10, -1, 0, target));
-    EXPECT_EQ(test::readFile(target), compressTexture(picture));
+    EXPECT_EQ(readFile(target), compressTexture(picture));
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -7,10 +7,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::withLong;
 
 constexpr QRgb key = qRgb(255, 0, 255);
 
@@ -50,7 +48,7 @@ TEST(WindowRegion, blockHasTheLayoutOfTheSystem) {
     EXPECT_EQ(block, QByteArray::fromHex("20000000 01000000 01000000 10000000"
                                          "01000000 00000000 03000000 02000000"
                                          "01000000 00000000 03000000 02000000"));
-    EXPECT_EQ(test::descriptionRaisedBy([] { writeWindowRegion(scanRegion(pictureOf({".."}), key)); }),
+    EXPECT_EQ(descriptionRaisedBy([] { writeWindowRegion(scanRegion(pictureOf({".."}), key)); }),
               u"Unable to determine size of region in SaveRegionDataToFile");
 }
 
@@ -76,4 +74,4 @@ TEST(WindowRegion, damagedFilesAreRefused) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -7,17 +7,12 @@
 #include "support/install_test.h"
 #include "support/night_install.h"
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::addNightSet;
-using test::contentsBelow;
-using test::nightSets;
-using test::writeFile;
-
-struct NightSets : test::InstallTest {
+struct NightSets : InstallTest {
     NightSets() {
-        test::addNightStock(install);
+        addNightStock(install);
         addNightSet(install, u"Default"_s, true);
     }
 };
@@ -32,7 +27,7 @@ TEST_F(NightSets, activationMakesEveryFileInTheColoursOfTheSet) {
               u"2-Red/Dutch/005a2lm2.bmp 2-Red/Dutch/008b2lm1.bmp 2-Red/Texture/008b2lm1.bmp "
               "2-Red/Texture/029b2lm1.bmp 2-Red/Texture/045b2lm1.bmp"_s);
     // In the colours of the set.
-    EXPECT_EQ(qChecksum(test::readFile(sets / u"2-Red\\Texture\\029b2lm1.bmp")), 12097);
+    EXPECT_EQ(qChecksum(readFile(sets / u"2-Red\\Texture\\029b2lm1.bmp")), 12097);
     EXPECT_TRUE(install.user.told().isEmpty());
     const Message& first = install.user.messages.front();
     EXPECT_EQ(first.title + u'|' + first.text,
@@ -79,7 +74,7 @@ TEST_F(NightSets, goldenCopyLists) {
         NightInstallation(session).installNightTextureSet();
         QStringList expected = copied.split(u'|'), found;
         for (const QString& name : install.files.list(world, u"*.*"_s))
-            found << name.toUpper() + u": "_s + QString::fromUtf8(test::readFile(world.child(name)));
+            found << name.toUpper() + u": "_s + QString::fromUtf8(readFile(world.child(name)));
         expected.sort();
         found.sort();
         EXPECT_EQ(found, expected) << set.toStdString() << isDutch;
@@ -89,8 +84,8 @@ TEST_F(NightSets, goldenCopyLists) {
               "Processing your Night Texture Files.  Please wait until the process has finished.  This may "
               "take a few moments!");
     EXPECT_TRUE(install.user.told().isEmpty());
-    EXPECT_EQ(test::readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash");
+    EXPECT_EQ(readFile(install.simulator() / u"Uires\\dlgsplash.bmp"), "the pilot's splash");
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -14,19 +14,15 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::contentsBelow;
-using test::readFile;
-using test::writeFile;
 
 const QString a = u"Texture\\a.bmp"_s;
 
 using Tree = QMap<QString, QByteArray>;
 
 struct OriginalsTest : testing::Test {
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     NativeFileSystem files;
     /// The root of every path, as a session has it: what is kept is named below it.
     FilePath simulator{(folder / u"Simulator Ünï").native()};
@@ -74,7 +70,7 @@ TEST_F(OriginalsTest, aFileIsKeptOnceWithAllThatIsKnownOfIt) {
     const KeptOriginal kept = originals().list()[0];
     EXPECT_EQ(kept.checksum + u' ' + QString::number(kept.size),
               u"a9993e364706816aba3e25717850c26c9cd0d89d 3"_s);
-    EXPECT_TRUE(kept.day == today && kept.mode == test::modeHere(0640));
+    EXPECT_TRUE(kept.day == today && kept.mode == modeHere(0640));
     EXPECT_EQ(readFile(keptFiles / kept.copy), "abc");
     // What stands there now is known, too, as later checks of the simulator need it.
     const OriginalFact ours = originals().records().of(a).ours.at(0);
@@ -153,7 +149,7 @@ TEST_F(OriginalsTest, aFileOfOursIsNeverTakenForThePilots) {
 }
 
 TEST_F(OriginalsTest, aKillAnywhereInTheListLosesNothing) {
-    const QString path = u"Scenery\\World\\texture\\Größe %"_s + test::oddLetter + u".bmp"_s;
+    const QString path = u"Scenery\\World\\texture\\Größe %"_s + oddLetter + u".bmp"_s;
     writeFile(target(a), "so that there is a list");
     install("ours", {a});
     const qsizetype before = readFile(listFile).size();
@@ -285,8 +281,7 @@ TEST_F(OriginalsTest, aRestoreGivesTheModesBack) {
     EXPECT_EQ(originals().restore().putBack, 4);
     for (const QString& path : own) {
         EXPECT_EQ(contents(path), path.toUtf8());
-        EXPECT_EQ(files.stamp(target(path)).mode, test::modeHere(path == away ? 0600 : 0444))
-            << path.toStdString();
+        EXPECT_EQ(files.stamp(target(path)).mode, modeHere(path == away ? 0600 : 0444)) << path.toStdString();
     }
     EXPECT_EQ(contents(added), "none");
 }
@@ -315,7 +310,7 @@ TEST_F(OriginalsTest, foldersThatWereMadeGoWhenTheyAreEmpty) {
         EXPECT_FALSE(files.exists(target(made)));
         EXPECT_EQ(files.exists(target(u"Flights"_s)), hasOther);
     }
-    if (!test::hasLinks) return;
+    if (!hasLinks) return;
     // In its place the pilot has put a link.
     const FilePath link = target(u"Linked"_s);
     originals().makeFolder(link);
@@ -442,7 +437,7 @@ TEST_F(OriginalsTest, anInstallWithoutAUsableListReplacesNothing) {
     const QByteArray newer = "morvane-originals\t3\tnobody knows\n";
     for (const QString& told :
          {u"The list of your kept files was written by a newer version"_s, u"Permission denied: "_s}) {
-        test::SmallInstall small;
+        SmallInstall small;
         small.addGroundSet("2-Storm", "Overcast", true, {"Texture\\029h2su6.bmp"});
         const FilePath list = small.home() / u"Backup\\Originals\\originals.lst";
         // A folder in its place: no mode would keep a test that runs as root from reading a file.
@@ -456,4 +451,4 @@ TEST_F(OriginalsTest, anInstallWithoutAUsableListReplacesNothing) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

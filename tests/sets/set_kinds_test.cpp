@@ -21,12 +21,8 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::contentsBelow;
-using test::SmallInstall;
-using test::writeFile;
 
 struct Kind {
     const SetKind& kind;
@@ -51,10 +47,8 @@ void PrintTo(const Kind& kind, std::ostream* out) {
 template <class Of>
 Kind kindOf(const QString& table, const QString& nameColumn, const QString& coloursIn, const QString& texture,
             const QStringList& files, decltype(Kind::add) add, decltype(Kind::nameFavourite) nameFavourite) {
-    return {setKind<Of>(), table,      nameColumn,  coloursIn,
-            texture,       files,      add,         clickSetNamed<Of>,
-            Of::activate,  Of::remove, Of::install, test::setStates<Of>,
-            nameFavourite};
+    return {setKind<Of>(),     table,        nameColumn, coloursIn,   texture,       files,        add,
+            clickSetNamed<Of>, Of::activate, Of::remove, Of::install, setStates<Of>, nameFavourite};
 }
 
 void addGround(SmallInstall& install, const QString& name, bool activated, const QStringList& files) {
@@ -79,18 +73,18 @@ const Kind recoloured[] = {
                        nameFavourite<GroundTuning>),
     kindOf<NightKind>("NIGHT_TEXTURE_SETS", "TEXTURE_SET", "NIGHT_TEXTURE_SETS SET COLOR_SETTINGS",
                       "Scenery\\World\\texture\\029b2lm1.bmp",
-                      {"Texture\\029b2lm1.bmp", "Dutch\\005a2lm2.bmp"}, test::addNightSet,
+                      {"Texture\\029b2lm1.bmp", "Dutch\\005a2lm2.bmp"}, addNightSet,
                       nameFavourite<NightTuning>),
 };
 const Kind sky = kindOf<SkyKind>("SKY_TEXTURE_SETS", "SKY_TEXTURE_SET", "SKY_TEXTURE_SUB_SETS SET MAIN_SKY",
                                  "Texture\\day.bmp", {"day.bmp"}, addSky, nullptr);
 
 /// An install with "Default" and the activated sets "2-A", "3-B" and "4-C" of the kind.
-struct SetKindTest : test::InstallTest, testing::WithParamInterface<Kind> {
+struct SetKindTest : InstallTest, testing::WithParamInterface<Kind> {
     SetKindTest() {
-        test::addNightStock(install);
+        addNightStock(install);
         for (const QString& folder : {u"Default"_s, u"Sunrise"_s, u"Sunset"_s})
-            writeFile(install.home() / u"Resources\\Sky" / folder / u"day.bmp", test::smallBitmap(32, 90));
+            writeFile(install.home() / u"Resources\\Sky" / folder / u"day.bmp", smallBitmap(32, 90));
         writeFile(install.simulator() / u"Texture\\day.bmp", "the pilot's sky");
         if (!kind.kind.find(session, u"Default"_s)) kind.add(install, u"Default"_s, true, {});
         for (const QString& name : {u"2-A"_s, u"3-B"_s, u"4-C"_s})
@@ -217,19 +211,19 @@ TEST_P(SetKindTest, severalRowsAreNotInstalled) {
 /// A file that cannot be replaced ends the install behind the row, which names the set already.
 TEST_P(SetKindTest, theStoreNamesTheSetBeforeTheFirstFile) {
     const FilePath target = install.simulator() / kind.texture;
-    const QByteArray before = test::readFile(target);
+    const QByteArray before = readFile(target);
     install.files.setReadOnly(target, true);
     click(u"2-A"_s);
     kind.kind.install(session, u"2-A"_s);
     EXPECT_EQ(stored(), "2-A+* 3-B+ 4-C+");
-    EXPECT_EQ(test::readFile(target), before);
+    EXPECT_EQ(readFile(target), before);
     EXPECT_TRUE(install.user.told().join(u'/').startsWith("Error|Morvane Error|Permission denied: "));
     install.files.setReadOnly(target, false);
     // In memory "3-B" still says "True": what another hand wrote stands.
     kind.kind.storeActivation(session, u"3-B"_s, false);
     kind.kind.install(session, u"2-A"_s);
     EXPECT_EQ(stored(), "2-A+* 3-B 4-C+");
-    EXPECT_NE(test::readFile(target), before);
+    EXPECT_NE(readFile(target), before);
 }
 
 TEST_P(SetKindTest, withoutReadableColoursIsDeactivatedAndDeletedAndNotMade) {
@@ -266,7 +260,7 @@ TEST_P(SetKindTest, whoseNameIsNoFoldersIsARowAlone) {
 }
 
 TEST_P(SetKindTest, linksGoAsLinksAndWhatTheyPointToStays) {
-    if (!test::hasLinks) GTEST_SKIP() << "no links on this system";
+    if (!hasLinks) GTEST_SKIP() << "no links on this system";
     const QString below = kind.kind.facts.subfolders.value(0);
     const std::tuple<QString, QString, bool, bool> cases[] = {
         // Of the set the link, empty for its folder itself; whether it dangles, and whether the colours stay.
@@ -397,7 +391,7 @@ TEST(SetNames, nothingThatAPathDoesNotTake) {
 }
 
 TEST(CleanTempBitmaps, leavesTheDutchFolderWhatIsNoBitmapAndWhatCannotBeRemoved) {
-    test::SmallInstall install;
+    SmallInstall install;
     const FilePath folder = install.home() / u"TempBitmaps";
     for (const char16_t* name :
          {u"a.bmp", u"Texture\\b.BMP", u"Texture\\notes.txt", u"UTEurLC\\c.bmp", u"Dutch\\d.bmp"})
@@ -412,4 +406,4 @@ TEST(CleanTempBitmaps, leavesTheDutchFolderWhatIsNoBitmapAndWhatCannotBeRemoved)
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

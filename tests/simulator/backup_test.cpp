@@ -14,16 +14,12 @@
 #include <QDir>
 #include <fstream>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::contentsBelow;
-using test::readFile;
-using test::writeFile;
 
 const QString restoring = u"message Progress Morvane Information"_s;
 
-struct BackupTest : test::InstallTest {
+struct BackupTest : InstallTest {
     FilePath world = install.simulator() / u"Scenery\\World\\texture";
     FilePath addOn = install.simulator() / u"Scenery\\UTEurLC\\Texture";
     FilePath folder = install.home() / u"Backup\\1-Backup";
@@ -315,7 +311,7 @@ TEST_F(FirstRunTest, isGoneOnWithAfterEveryFailure) {
     int failures = 0;
     std::optional<BackupReport> report;
     for (const bool forever : {true, false})
-        failures += test::failEachOperation(
+        failures += failEachOperation(
             install.files, forever, [&] { report = createBackup(session, true); },
             [&](int n) {
                 if (!report || !report->isWritten) report = createBackup(session, true);
@@ -349,9 +345,9 @@ TEST_F(BackupTest, everyFailingOperationOfARestoreLeavesSimulatorAndBackupWhole)
         EXPECT_EQ(after, before) << n;
         EXPECT_EQ(contentsBelow(install.home() / u"Backup" / name), backup) << n;
     };
-    EXPECT_GT(test::failEachOperation(install.files, false, work, check), 9);
+    EXPECT_GT(failEachOperation(install.files, false, work, check), 9);
     EXPECT_EQ(contentsBelow(install.simulator()), before);
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

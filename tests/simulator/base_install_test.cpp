@@ -12,22 +12,17 @@
 #include "night/night_texture_sets.h"
 #include "support/system_files.h"
 
-#include <QFile>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::contentsBelow;
-using test::readFile;
-using test::writeFile;
-
-struct BaseInstall : test::InstallTest {
+struct BaseInstall : InstallTest {
     FilePath world = install.simulator() / u"Scenery\\World\\texture";
 
     BaseInstall() {
-        test::addNightStock(install);
-        test::addNightSet(install, "Default", true);
-        test::addNightSet(install, "2-Red", true);
+        addNightStock(install);
+        addNightSet(install, "Default", true);
+        addNightSet(install, "2-Red", true);
         install.addGroundSet("2-Storm", "Overcast", true);
         writeFile(install.home() / u"GENERIC WORLD\\deeper\\a.bmp", "no folder below is entered");
         const QString texture = "Scenery\\World\\texture";
@@ -70,7 +65,7 @@ TEST_F(BaseInstall, whatIsTickedIsToldMarkedAndCopied) {
 TEST_F(BaseInstall, aSourceThatCannotBeReadIsLeftOutAndAReadOnlyTargetReplaced) {
     const FilePath texture = world / u"029H2SU6.BMP";
     install.files.setReadOnly(texture, true);
-    const test::UnreadableFile unreadable(install.home() / u"GENERIC WORLD\\010b2su1.bmp");
+    const UnreadableFile unreadable(install.home() / u"GENERIC WORLD\\010b2su1.bmp");
     copyBaseResources(session, {globalDayConfig});
     EXPECT_EQ(readFile(texture), "body of GENERIC WORLD\\029h2su6.bmp");
     EXPECT_FALSE(install.files.isReadOnly(texture));
@@ -89,7 +84,7 @@ TEST_F(BaseInstall, theGlobalTitlesLeaveDefaultAsTheOneInstalledSet) {
     session.rows<clsTextureSets>()->Save(changed);
     copyBaseResources(session, {globalDayConfig, globalNightConfig});
     EXPECT_EQ(install.installedSets(), QStringList{"Default"});
-    EXPECT_EQ(test::nightSets(session), "Default+* 2-Red+");
+    EXPECT_EQ(nightSets(session), "Default+* 2-Red+");
     const auto set = findGroundSet(session, "Default");
     EXPECT_EQ(set->CloudCover + u'|' + set->ColorSettings + u'|' + set->Description,
               "Partly Cloudy|0:0:0:0:0:0|Default Morvane Texture Set with no extra settings");
@@ -108,8 +103,8 @@ TEST_F(BaseInstall, everyFailingOperationLeavesWholeFiles) {
                 << n;
     };
     const auto work = [&] { copyBaseResources(session, {globalDayConfig, addOnConfig}); };
-    EXPECT_GT(test::failEachOperation(install.files, false, work, expectWholeFiles), 15);
+    EXPECT_GT(failEachOperation(install.files, false, work, expectWholeFiles), 15);
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -8,14 +8,10 @@
 
 #include <QFile>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::contentsBelow;
-using test::readFile;
-using test::writeFile;
-
-struct FlightsTest : test::InstallTest {
+struct FlightsTest : InstallTest {
     FlightsTest() { storeUserFolder(chosen.native()); }
 
     FilePath own = install.home() / u"Flights";
@@ -67,7 +63,7 @@ TEST_F(FlightsTest, aNewGatheringBeginsEmptyAndLeavesOldEntriesUnread) {
 
 /// However the program's own folder is named, or made one with the pilot's: what lies there stays.
 TEST_F(FlightsTest, ownFlightsAreNeverDeletedAsCopies) {
-    if (!test::hasLinks) GTEST_SKIP() << "no links on this system";
+    if (!hasLinks) GTEST_SKIP() << "no links on this system";
     const FilePath link = install.folder / u"Link", documents = install.folder / u"Documents";
     save(own, {"Only one.flt", "Only one.wx"});
     install.files.makeFolder(documents);
@@ -153,4 +149,4 @@ TEST_F(FlightsTest, aFailureIsToldAndTheListNamesWhatIsThere) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -16,19 +16,15 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::SmallInstall;
-using test::writeFile;
 
 using Sets = std::vector<ActivatedSet>; ///< names and covers
 
-struct SetMatchingTest : test::InstallTest {
+struct SetMatchingTest : InstallTest {
     void addGrounds(const Sets& sets) {
         for (const auto& [name, cover] : sets)
             install.addGroundSet(name, cover, true, {"Texture\\029h2su6.bmp"});
@@ -106,14 +102,14 @@ TEST_F(SetMatchingTest, aFailureIsToldUnderAWordOfItsOwnSpelling) {
     EXPECT_EQ(install.user.told(), QStringList{"Exlamation|getIcaoWxDetails Error|Overflow"});
 }
 
-struct SimulatorLaunchTest : test::InstallTest {
+struct SimulatorLaunchTest : InstallTest {
     FlightChoice& choice = session.state<FlightChoice>();
     FilePath program = install.simulator() / u"fs9.exe";
     FilePath flight = install.home() / u"Flights\\Evening Rain.flt";
 
     void SetUp() override { writeFile(flight, "flight"); }
     void placeStandIn(const FilePath& file) {
-        const FilePath standIn(QStringLiteral(MORVANE_BIN_DIR "/morvane-simulator") + test::programEnding);
+        const FilePath standIn(QStringLiteral(MORVANE_BIN_DIR "/morvane-simulator") + programEnding);
         install.files.copyContents(standIn, file);
         install.files.copyMode(standIn, file);
     }
@@ -247,19 +243,19 @@ TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
         "Flight Simulator Not Started|Flight Simulator lies in a Wine prefix of %1, which "
         "Morvane only reads. Let %1 start it, or have these lines in Morvane's registry.ini:"
         "\n[HKEY_LOCAL_MACHINE\\Software\\Orrinsoft\\Morvane]\nSimulatorRunner=\"%2\"";
-    const test::HomeFolder home;
+    const HomeFolder home;
     qunsetenv("WINEPREFIX"); // that of a start is handed to it
     const QString plain = home.path() + "/.wine", steam = root + "/compatdata/8/pfx", bottle = root + "/b";
-    const FilePath own = test::makePrefix(plain), beside = FilePath(drive) / u"FS9";
+    const FilePath own = makePrefix(plain), beside = FilePath(drive) / u"FS9";
     writeFile(FilePath(bottle) / u"bottle.yml", "Name: B\n");
     writeFile(beside / u"fs9.exe", "MZ");
-    test::link(drive, plain + "/dosdevices/d:");
-    writeFile(FilePath(plain) / u"user.reg", test::simulatorSection("D:\\\\FS9"));
+    link(drive, plain + "/dosdevices/d:");
+    writeFile(FilePath(plain) / u"user.reg", simulatorSection("D:\\\\FS9"));
     const std::tuple<FilePath, QString, QString> cases[] = {
         {own, plain + '|' + own.native() + "/fs9.exe|", {}},
         {beside, plain + '|' + beside.native() + "/fs9.exe|", {}}, // on a drive of the prefix that names it
-        {test::makePrefix(steam), {}, advice.arg("Steam", "protontricks-launch --appid 8")},
-        {test::makePrefix(bottle), {}, advice.arg("Bottles", "bottles-cli run -b B -e")},
+        {makePrefix(steam), {}, advice.arg("Steam", "protontricks-launch --appid 8")},
+        {makePrefix(bottle), {}, advice.arg("Bottles", "bottles-cli run -b B -e")},
         {install.simulator(), {}, "needs a runner on this system"},
     };
     for (const auto& [simulator, started, told] : cases) {
@@ -276,4 +272,4 @@ TEST_F(SimulatorLaunchTest, aPrefixOfPlainWineIsStartedAndAKeptOneIsNot) {
 #endif
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -9,12 +9,8 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::contentsBelow;
-using test::FaultyStoreDisk;
-using test::SmallInstall;
 
 using Contents = QMap<QString, QByteArray>;
 
@@ -64,7 +60,7 @@ protected:
     }
 
     void expectSoundStore() {
-        EXPECT_EQ(test::integrityOf(install.home() / u"Morvane.mdb"), "ok");
+        EXPECT_EQ(integrityOf(install.home() / u"Morvane.mdb"), "ok");
         EXPECT_LE(install.installedSets().size(), 1);
     }
 
@@ -79,9 +75,9 @@ protected:
     }
 
     SmallInstall install{
-        test::SmallInstallOptions{{u"GENERIC WORLD\\029h2su6.bmp"_s, u"GENERIC WORLD\\029b2su6.bmp"_s,
-                                   u"GENERIC WORLD\\002c2wi1.bmp"_s, u"UTIND\\034b2su4.bmp"_s},
-                                  16}};
+        SmallInstallOptions{{u"GENERIC WORLD\\029h2su6.bmp"_s, u"GENERIC WORLD\\029b2su6.bmp"_s,
+                             u"GENERIC WORLD\\002c2wi1.bmp"_s, u"UTIND\\034b2su4.bmp"_s},
+                            16}};
     const QString partialSuffix = u".morvane-part"_s;
     Contents pilots, before, after, sets;
 };
@@ -99,7 +95,7 @@ TEST_F(InstallFaults, everyFileOperationFailsOnceAndFromThenOnOrIsKilled) {
             bool wasKilled = false;
             try {
                 put("3-B");
-            } catch (const test::Killed&) {
+            } catch (const Killed&) {
                 wasKilled = true;
             }
             wasHit = wasKilled || install.files.hasFailed();
@@ -124,7 +120,7 @@ TEST_F(InstallFaults, firstInstallKeepsThePilotsFilesWhateverFails) {
     int failures = 0;
     for (const bool forever : {false, true}) {
         restore();
-        failures += test::failEachOperation(
+        failures += failEachOperation(
             install.files, forever, [this] { put("2-Á"); },
             [&](int n) {
                 SCOPED_TRACE(n);
@@ -163,4 +159,4 @@ TEST_F(InstallFaults, everyStoreWriteFailsOnceAndFromThenOn) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

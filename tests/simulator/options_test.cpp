@@ -13,14 +13,10 @@
 #include "support/install_test.h"
 #include "support/night_install.h"
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::readFile;
-using test::SmallInstall;
-using test::writeFile;
-
-struct OptionsTest : test::InstallTest {
+struct OptionsTest : InstallTest {
     void store(const QString& name, const QString& text) { storeOwnValue(install.registry, name, text); }
     QString stored(const QString& name) { return ownValue(install.registry, name); }
 };
@@ -93,19 +89,19 @@ TEST_F(OptionsTest, theFlightsFolderIsAskedForUntilItIsUsable) {
     EXPECT_EQ(stored("NonEnglishPath"), "/Çhosen folder");
 }
 
-const test::SmallInstallOptions stock{
+const SmallInstallOptions stock{
     .baseImages = {u"GENERIC WORLD\\029b2su6.bmp"_s, u"GENERIC WORLD\\029h2su6.bmp"_s,
                    u"GENERIC WORLD\\029b2wi1.bmp"_s, u"GENERIC WORLD\\045B2sp1.bmp"_s,
                    u"GENERIC WORLD\\005a2su2.bmp"_s, u"GENERIC WORLD\\008a2su1.bmp"_s,
                    u"DUTCH\\005a2su2.bmp"_s}};
 
 struct TextureSwitches : testing::Test {
-    test::SmallInstall install{stock};
+    SmallInstall install{stock};
     Session& session = install.session;
     FilePath world = install.simulator() / u"Scenery\\World\\texture";
 
     TextureSwitches() {
-        test::addNightStock(install);
+        addNightStock(install);
         for (const char16_t* path :
              {u"DUTCH\\005a2an1.agn", u"DUTCH\\note.agn", u"DUTCH NIGHT\\005a2an2.agn",
               u"GENERIC WORLD\\005a2an1.agn", u"GENERIC WORLD\\029b2an1.agn", u"GENERIC WORLD\\029h2an1.agn"})
@@ -113,9 +109,9 @@ struct TextureSwitches : testing::Test {
         for (const char16_t* name :
              {u"005A2AN1.AGN", u"005A2AN2.AGN", u"029H2AN1.AGN", u"045H2SP1.BMP", u"029H2WI1.BMP"})
             writeFile(world / name, "the pilot's");
-        test::addNightSet(install, u"Default"_s, true);
-        test::addNightSet(install, u"2-Red"_s, true,
-                          {u"Texture\\008a2lm1.bmp"_s, u"Texture\\029b2lm1.bmp"_s, u"Dutch\\005a2lm2.bmp"_s});
+        addNightSet(install, u"Default"_s, true);
+        addNightSet(install, u"2-Red"_s, true,
+                    {u"Texture\\008a2lm1.bmp"_s, u"Texture\\029b2lm1.bmp"_s, u"Dutch\\005a2lm2.bmp"_s});
         install.addGroundSet(u"2-Storm"_s, u"Overcast"_s, true,
                              {u"Texture\\029b2su6.bmp"_s, u"Texture\\029H2SU6.bmp"_s,
                               u"Texture\\005a2su2.bmp"_s, u"Texture\\003b2su1.bmp"_s,
@@ -247,4 +243,4 @@ TEST_F(TextureSwitches, aMissingTargetEndsTheList) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

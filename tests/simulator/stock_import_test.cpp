@@ -9,21 +9,17 @@
 
 #include <QFile>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::contentsBelow;
-using test::readFile;
-using test::writeFile;
-
-struct StockImportTest : test::InstallTest {
+struct StockImportTest : InstallTest {
     FilePath world = install.simulator() / u"Scenery\\World\\texture";
     FilePath addOn = install.simulator() / u"Scenery\\UTEurLC\\Texture";
     QByteArray texture;
 
     void SetUp() override {
         const FilePath one = install.folder / u"one.bmp";
-        writeFile(one, test::smallBitmap(16, 90));
+        writeFile(one, smallBitmap(16, 90));
         texture = compressTexture(loadPicture(install.files, one));
         for (const char16_t* name : {u"029H2SU6.BMP", u"029B2SU6.BMP", u"005A2SU2.BMP", u"030A2WI1.BMP",
                                      u"029A2LM1.BMP", u"008A2LM3.BMP", u"lights2lm.bmp", u"029a2xx1.bmp"})
@@ -53,7 +49,7 @@ struct StockImportTest : test::InstallTest {
 TEST_F(StockImportTest, everyFileThatAPatternTakesBecomesABaseImageAndComesBack) {
     const auto before = stock();
     const FilePath left = install.home() / u"Resources\\GENERIC WORLD\\030A2WI1.BMP.morvane-part";
-    if (test::hasLinks) QFile::link((world / u"005A2AN1.AGN").native(), left.native());
+    if (hasLinks) QFile::link((world / u"005A2AN1.AGN").native(), left.native());
     const auto report = importSimulatorStock(session);
     ASSERT_TRUE(report);
     EXPECT_EQ(readFile(world / u"005A2AN1.AGN"), "the pilot's trees")
@@ -90,8 +86,8 @@ TEST_F(StockImportTest, everyFileThatAPatternTakesBecomesABaseImageAndComesBack)
 TEST_F(StockImportTest, whatHoldsNoTextureIsNamedAndCostsNothingElse) {
     const auto before = stock();
     QFile::remove((world / u"002C2WI1.BMP").native());
-    const test::UnreadableFile bitmap(world / u"031A2SU1.BMP"), annotation(world / u"031a2an1.agn");
-    writeFile(world / u"032A2SU1.BMP", test::smallBitmap(12, 90));
+    const UnreadableFile bitmap(world / u"031A2SU1.BMP"), annotation(world / u"031a2an1.agn");
+    writeFile(world / u"032A2SU1.BMP", smallBitmap(12, 90));
     const auto report = importSimulatorStock(session);
     ASSERT_TRUE(report);
     EXPECT_EQ(report->unreadable, (QStringList{u"031A2SU1.BMP"_s, u"032A2SU1.BMP"_s, u"031a2an1.agn"_s}));
@@ -140,7 +136,7 @@ TEST_F(StockImportTest, noFailureOfAFileLosesTheStock) {
     const auto before = stock();
     int failures = 0;
     for (const bool forever : {false, true})
-        failures += test::failEachOperation(
+        failures += failEachOperation(
             install.files, forever,
             [&] {
                 importSimulatorStock(session, true);
@@ -158,4 +154,4 @@ TEST_F(StockImportTest, noFailureOfAFileLosesTheStock) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

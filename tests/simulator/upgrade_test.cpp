@@ -11,17 +11,13 @@
 #include "support/system_files.h"
 #include "support/version_two_install.h"
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::contentsBelow;
-using test::readFile;
-using test::SmallInstall;
-
-struct UpgradeTest : test::InstallTest {
+struct UpgradeTest : InstallTest {
     FilePath home = install.home();
 
-    void SetUp() override { test::makeVersionTwo(install); }
+    void SetUp() override { makeVersionTwo(install); }
     ~UpgradeTest() override { closeDatabase(session); }
 
     bool start() {
@@ -73,14 +69,14 @@ TEST_F(UpgradeTest, anInstallOfVersionTwoBecomesAWorkingOne) {
     };
     for (const auto& [from, columns, rows] : tables)
         EXPECT_EQ(joined(from, columns), rows) << from.toStdString();
-    EXPECT_EQ(count("AIRPORTDATA"), test::newAirports);
+    EXPECT_EQ(count("AIRPORTDATA"), newAirports);
     EXPECT_FALSE(session.adoConn->hasTable(u"COUNTRIES"_s));
     EXPECT_TRUE(findGroundSet(session, "3-Own B")->IsDutch);
     for (const QString& set : {u"2-Own Á"_s, u"3-Own B"_s})
         EXPECT_EQ(dutchFiles(set), (QStringList{"002b2su1.bmp", "002c2wi1.bmp", "022a2wi1.bmp"}));
     EXPECT_EQ(readFile(home / u"Media\\dlgsplash.bmp"), "the pilot's splash");
     EXPECT_EQ(readFile(home / u"V2 Backup\\Morvane.mdb").size(), oldStore.size());
-    EXPECT_EQ(test::integrityOf(home / u"V2 Backup\\Morvane.mdb"), "ok");
+    EXPECT_EQ(integrityOf(home / u"V2 Backup\\Morvane.mdb"), "ok");
     EXPECT_FALSE(install.files.exists(home / u"AIRPORTDATA.txt"));
 }
 
@@ -89,10 +85,10 @@ TEST_F(UpgradeTest, stepsThatWereDoneArePassedOver) {
     connectDatabase(session);
     session.adoConn->execute(u"ALTER TABLE AIRPORTDATA ADD COLUMN STATE TEXT(50)"_s);
     session.adoConn->execute(u"ALTER TABLE TEXTURE_SETS ADD COLUMN DUTCH YESNO"_s);
-    test::writeFile(home / u"V2 Backup\\note.txt", "kept");
+    writeFile(home / u"V2 Backup\\note.txt", "kept");
     ASSERT_TRUE(start());
     EXPECT_EQ(joined("AIRPORTDATA", "ICAO"), "OLD1|OLD2");
-    EXPECT_EQ(count(u"DECODED_METAR"_s), test::newReports);
+    EXPECT_EQ(count(u"DECODED_METAR"_s), newReports);
     EXPECT_EQ(dutchSets(), u"Default:0|2-Own Á:0|3-Own B:0"_s);
     EXPECT_TRUE(dutchFiles(u"2-Own Á"_s).isEmpty());
     EXPECT_EQ(install.user.countOfKind(MessageKind::information), 2);
@@ -110,17 +106,17 @@ TEST_F(UpgradeTest, aFileThatIsMissingOrBrokenEndsTheStartAndLosesNoRow) {
         {u"DECODED_METAR.txt", reports + "2;KAA5\r\n"},
     };
     for (const auto& [name, contents] : broken) {
-        test::writeFile(home / name, contents);
+        writeFile(home / name, contents);
         if (contents.isEmpty()) install.files.remove(home / name);
         EXPECT_FALSE(start());
         EXPECT_TRUE(install.user.told().back().startsWith(u"Exclamation|Morvane Error!|Sub Main\n"_s));
         EXPECT_TRUE(install.files.exists(home / u"AIRPORTDATA.txt"));
         EXPECT_EQ(joined("DECODED_METAR", "METAR_ICAO"), "OLD1");
-        test::writeFile(home / u"DECODED_METAR.txt", reports);
-        test::writeFile(home / u"AIRPORTDATA.txt", airports);
+        writeFile(home / u"DECODED_METAR.txt", reports);
+        writeFile(home / u"AIRPORTDATA.txt", airports);
     }
     EXPECT_TRUE(start());
-    EXPECT_EQ(count(u"DECODED_METAR"_s), test::newReports);
+    EXPECT_EQ(count(u"DECODED_METAR"_s), newReports);
 }
 
 /// Rows are old or new, never mixed or lost, and a start without a fault ends in a working 2.1.
@@ -129,14 +125,14 @@ void expectNothingLost(UpgradeTest& test) {
     closeDatabase(test.session);
     const FilePath kept = test.home / u"V2 Backup\\Morvane.mdb";
     if (test.install.files.isFolder(test.home / u"V2 Backup")) {
-        EXPECT_EQ(test::integrityOf(kept), "ok");
+        EXPECT_EQ(integrityOf(kept), "ok");
     }
     connectDatabase(test.session);
     const bool isNew = test.session.adoConn->hasColumn(u"AIRPORTDATA"_s, u"STATE"_s);
-    EXPECT_EQ(test.count(u"AIRPORTDATA"_s), isNew ? test::newAirports : 2);
+    EXPECT_EQ(test.count(u"AIRPORTDATA"_s), isNew ? newAirports : 2);
     ASSERT_TRUE(test.start());
-    EXPECT_EQ(test.count(u"AIRPORTDATA"_s), test::newAirports);
-    EXPECT_EQ(test.count(u"DECODED_METAR"_s), test::newReports);
+    EXPECT_EQ(test.count(u"AIRPORTDATA"_s), newAirports);
+    EXPECT_EQ(test.count(u"DECODED_METAR"_s), newReports);
     EXPECT_EQ(test.count(u"NIGHT_TEXTURE_SETS"_s), 5);
     EXPECT_EQ(test.count(u"TEXTURE_SWITCH"_s), 1);
     EXPECT_TRUE(test.dutchSets().startsWith(u"Default:1|"_s));
@@ -160,7 +156,7 @@ bool startOnFaultyFiles(UpgradeTest& upgrade, int n, bool forever) {
 }
 
 bool startOnAFaultyStore(UpgradeTest& upgrade, int n, bool forever) {
-    test::FaultyStoreDisk disk;
+    FaultyStoreDisk disk;
     disk.failAt(n, forever);
     upgrade.start();
     const int operations = disk.operations();
@@ -173,7 +169,7 @@ bool startThatIsKilled(UpgradeTest& upgrade, int n, bool) {
     upgrade.install.files.killAt(n);
     try {
         upgrade.start();
-    } catch (const test::Killed&) {
+    } catch (const Killed&) {
         return true;
     }
     return false;
@@ -181,7 +177,7 @@ bool startThatIsKilled(UpgradeTest& upgrade, int n, bool) {
 
 /// An upgrade a failure, until one had none; gives their number.
 int failuresOf(FaultyStart start, bool forever) {
-    for (int n = 1;; n += test::faultStride) {
+    for (int n = 1;; n += faultStride) {
         OneUpgrade upgrade;
         if (!start(upgrade, n, forever)) return n - 1;
         SCOPED_TRACE(n);
@@ -207,4 +203,4 @@ TEST(UpgradeFaults, noKillLosesARow) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

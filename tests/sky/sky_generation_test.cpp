@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 struct SkyGenerationTest : testing::Test {
@@ -38,7 +38,7 @@ struct SkyGenerationTest : testing::Test {
     QStringList filesOf(const QString& set) { return install.files.list(sets() / set, u"*.*"_s); }
     FilePath sets() const { return install.home() / u"Sky Texture Sets"; }
 
-    test::SkyInstall install;
+    SkyInstall install;
     Session& session = install.session;
     const QString first = u"1-05-30-2007 21-14-09"_s; ///< name of the first set
 };
@@ -66,7 +66,7 @@ TEST_F(SkyGenerationTest, storesASetAndColoursEveryFileOfItsBase) {
     EXPECT_EQ(filesOf(first), install.skyFiles);
     QByteArray made;
     for (const QString& name : install.skyFiles)
-        made += test::readFile(sets() / first / name);
+        made += readFile(sets() / first / name);
     EXPECT_EQ(qChecksum(made), 24126) << "all groups of a partly cloudy sky, drawn in the middle";
     EXPECT_EQ(install.user.messages.front().text,
               "Processing your sky textures.  Please wait until the process has finished.  This may take a "
@@ -85,7 +85,7 @@ TEST_F(SkyGenerationTest, tellsWhatItTakesBeforeItStarts) {
         EXPECT_EQ(stored().size(), isAllowed ? 10 : 0);
     }
     std::int64_t bytes = 0;
-    for (const QByteArray& contents : test::contentsBelow(sets()))
+    for (const QByteArray& contents : contentsBelow(sets()))
         bytes += contents.size();
     EXPECT_EQ(install.user.runs[0].what, "10 sky sets");
     EXPECT_NEAR(static_cast<double>(install.user.runs[0].bytes), static_cast<double>(bytes), 200);
@@ -110,8 +110,8 @@ TEST_F(SkyGenerationTest, whatFailsIsToldOnceAndTheRowsStand) {
     SkyGeneration(session).createSkySets(true); // without OK
     create({}, {1, 1, 1, 1, 1});
     EXPECT_TRUE(stored().isEmpty() && install.user.told().isEmpty());
-    test::writeFile(sets() / first, "in the way"); // the folder cannot be made
-    test::writeFile(install.stock(u"Sunny"_s) / u"sky_day_1.bmp", "BM no picture");
+    writeFile(sets() / first, "in the way"); // the folder cannot be made
+    writeFile(install.stock(u"Sunny"_s) / u"sky_day_1.bmp", "BM no picture");
     for (const QString& name : install.skyFiles)
         install.files.remove(install.stock(u"Default"_s) / name);
     create({u"Sunny"_s, u"Default"_s}, {1, 0, 0, 0, 0}); // "Default" comes first
@@ -130,7 +130,7 @@ TEST_F(SkyGenerationTest, aRefusedRowEndsTheRunWithOneMessageAndMakesNoFile) {
             u"CREATE TRIGGER T BEFORE INSERT ON %1 BEGIN SELECT RAISE(ABORT, 'refused'); END"_s.arg(table));
         create({u"Sunny"_s, u"Default"_s, u"Overcast"_s}, {2, 1, 0, 0, 1});
         EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1) << table.toStdString();
-        EXPECT_TRUE(test::contentsBelow(sets()).isEmpty());
+        EXPECT_TRUE(contentsBelow(sets()).isEmpty());
         session.adoConn->execute(u"DROP TRIGGER T"_s);
     }
     SkyGeneration generation(session);
@@ -151,7 +151,7 @@ TEST_F(SkyGenerationTest, severalActivatedGetTheDayOnlyAndACancelEndsThemBeforeT
         EXPECT_TRUE(clickSkyRow(session, "4-D"));
         session.state<SkySelection>().selectedRows = ticked;
         SkyActivation(session).activateInHand();
-        return test::setStates<SkyKind>(session);
+        return setStates<SkyKind>(session);
     };
     install.user.onPump = [&] { install.user.answers().cancelRequested = true; };
     EXPECT_EQ(activate({"1-A", "3-C", "2-B", "4-D"}), "1-A+ 2-B 4-D 3-C+");
@@ -232,4 +232,4 @@ TEST_F(SkyGenerationTest, aStoredSkyIsLoadedIntoTheTableAndTheSelection) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

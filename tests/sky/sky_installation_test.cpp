@@ -8,13 +8,10 @@
 #include "sky/sky_texture_sets.h"
 #include "support/install_test.h"
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using test::readFile;
-using test::writeFile;
-
-struct SkyInstall : test::InstallTest {
+struct SkyInstall : InstallTest {
     void SetUp() override {
         install.user.answersToGive = {true}; // the match is wanted
         install.addSkySet("1-Storm", "Overcast", true, {"cloud.bmp", "SKY_1.BMP", "notes.txt"});
@@ -106,4 +103,4 @@ TEST_F(SkyInstall, theMatchingSkyIsDrawnFromAllOfTheCover) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -14,21 +14,21 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 struct SkyTuningTest : testing::Test {
-    bool isColoured() const { return test::bytesOf(tuning.resultDib()) != test::bytesOf(tuning.sourceDib()); }
+    bool isColoured() const { return bytesOf(tuning.resultDib()) != bytesOf(tuning.sourceDib()); }
     SkyGroup& group(int number) {
         return skyRecord(session.state<SkyColourTables>().skyPaletteGroups, number);
     }
     bool shows(const QString& baseSet) {
         SkySample sample(session, SkyTable::palette);
         EXPECT_TRUE(sample.openImage(skySampleFile(session, baseSet)));
-        return test::bytesOf(sample.sourceDib()) == test::bytesOf(tuning.sourceDib());
+        return bytesOf(sample.sourceDib()) == bytesOf(tuning.sourceDib());
     }
 
-    test::SkyInstall install;
+    SkyInstall install;
     Session& session = install.session;
     SkyTuning tuning{session};
     const FilePath settings = install.home() / u"LastSkySettings.cfg";
@@ -64,10 +64,9 @@ TEST_F(SkyTuningTest, settingsComeBackWithTheMapsRegions) {
 }
 
 TEST_F(SkyTuningTest, settingsOfAnotherHandAreTakenAsTheyAre) {
-    test::writeFile(settings,
-                    "[Cloud Cover]\r\n1= A very foggy morning \r\n[Texture Set Group]\r\n1=Sunny\r\n"
-                    "[Red]\r\n1=250\r\n2=x\r\n10=-7.9\r\n[PixelY]\r\n1=99999999999\r\n"
-                    "[Kept]\r\nas=it is\r\n");
+    writeFile(settings, "[Cloud Cover]\r\n1= A very foggy morning \r\n[Texture Set Group]\r\n1=Sunny\r\n"
+                        "[Red]\r\n1=250\r\n2=x\r\n10=-7.9\r\n[PixelY]\r\n1=99999999999\r\n"
+                        "[Kept]\r\nas=it is\r\n");
     EXPECT_EQ(tuning.open()[1], 100); // what a slider can show
     EXPECT_EQ(session.state<SkyTuningState>().cloudCover, "A very foggy mo");
     EXPECT_EQ(session.state<SkyTuningState>().cloudIndex, 1);
@@ -83,9 +82,9 @@ TEST_F(SkyTuningTest, settingsOfAnotherHandAreTakenAsTheyAre) {
 
 TEST_F(SkyTuningTest, exitWritesOnlyWhatWasLoaded) {
     const QByteArray contents = "[Cloud Cover]\r\n1=Overcast\r\n[Texture Set Group]\r\n1=Sunny\r\n";
-    test::writeFile(settings, contents);
+    writeFile(settings, contents);
     exitProgram(session);
-    EXPECT_EQ(test::readFile(settings), contents);
+    EXPECT_EQ(readFile(settings), contents);
     tuning.open();
     session.CommandLineRun = true; // the store is closed: nothing can be asked of it
     exitProgram(session);
@@ -101,7 +100,7 @@ TEST_F(SkyTuningTest, exitWritesOnlyWhatWasLoaded) {
 /// Which groups draw, in which order, and which take another's numbers: the sum holds all ten groups of a set
 /// whose draws are all different.
 TEST(SkyStrings, everyGroupFollowsItsRule) {
-    test::SmallInstall install;
+    SmallInstall install;
     const struct {
         int cloudIndex;
         int familyA, familyB; ///< sums
@@ -113,7 +112,7 @@ TEST(SkyStrings, everyGroupFollowsItsRule) {
         for (const QString& base : familyA + familyB) {
             QStringList sets;
             for (const auto& numbers :
-                 {std::vector{0.0}, std::vector{0.5}, std::vector{0.99999999}, test::mixedNumbers(99991)}) {
+                 {std::vector{0.0}, std::vector{0.5}, std::vector{0.99999999}, mixedNumbers(99991)}) {
                 install.random = {};
                 install.random.numbers = numbers;
                 for (const QString& text : drawSkyStrings(install.session, cloudIndex, base))
@@ -145,4 +144,4 @@ TEST(PaletteMap, everyCellWithItsEndsAndTheGapBehindIt) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

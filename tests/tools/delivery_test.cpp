@@ -8,10 +8,8 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::writeFile;
 
 /// A file of an install of before, and what the next version makes of it.
 struct Piece {
@@ -39,9 +37,9 @@ const Piece pieces[] = {
 };
 
 struct DeliveryTest : testing::Test {
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     FilePath home = folder / u"Mörvane";
-    test::FaultyFileSystem files;
+    FaultyFileSystem files;
     QByteArray newest = "new"; ///< what "new" stands for
 
     QByteArray asNow(const QByteArray& contents) const { return contents == "new" ? newest : contents; }
@@ -90,13 +88,13 @@ TEST_F(DeliveryTest, cutOrFailedAnywhereLeavesOldOrNewAndTheNextRunGoesOn) {
     };
     makeInstall();
     const auto work = [&] { attempt([&] { deliver(); }); };
-    EXPECT_GT(test::failEachOperation(files, false, work, check), 20);
+    EXPECT_GT(failEachOperation(files, false, work, check), 20);
     for (int n = 1;; ++n) {
         files.killAt(n);
         bool isKilled = false;
         try {
             deliver();
-        } catch (const test::Killed&) {
+        } catch (const Killed&) {
             isKilled = true;
         }
         files.failAt(0, false);
@@ -122,4 +120,4 @@ TEST_F(DeliveryTest, comesWithANewerVersionOnly) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -8,14 +8,9 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 
-#include <QFileInfo>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::MadeInstall;
-using test::runContentTool;
-using test::ToolRun;
 
 using InstallContent = MadeInstall;
 
@@ -40,21 +35,21 @@ TEST_F(InstallContent, isCurrentForItsOwnVersionAndDensityAndOnlyWhenWhole) {
 
 /// The tool must refuse and leave both places as they are.
 void expectRefusal(const FilePath& home, const FilePath& simulator, const QString& fullFolder) {
-    const auto before = std::pair(test::contentsBelow(home), test::contentsBelow(simulator));
+    const auto before = std::pair(contentsBelow(home), contentsBelow(simulator));
     const ToolRun run = runContentTool(home, simulator);
     EXPECT_EQ(run.status, 1);
     EXPECT_TRUE(run.errors.contains(u"'"_s + fullFolder + u"' is not empty"_s)) << run.errors.toStdString();
     EXPECT_TRUE(run.errors.contains(u"remove it first"_s)) << run.errors.toStdString();
     EXPECT_EQ(run.errors.count(u'\n'), 1);
-    EXPECT_TRUE(before == std::pair(test::contentsBelow(home), test::contentsBelow(simulator)));
+    EXPECT_TRUE(before == std::pair(contentsBelow(home), contentsBelow(simulator)));
 }
 
 TEST_F(InstallContent, neverTouchesAFolderThatHoldsSomething) {
     expectRefusal(home(), simulator(), home().text());
     // A pilot's own simulator, and an install of which only a folder is there.
     const FilePath own = beside(u"Own simulator"), unused = beside(u"Unused");
-    test::writeFile(own / u"FS9.EXE", "the real one");
-    test::writeFile(own / u"Scenery\\World\\Texture\\029H2SU6.BMP", "the pilot's");
+    writeFile(own / u"FS9.EXE", "the real one");
+    writeFile(own / u"Scenery\\World\\Texture\\029H2SU6.BMP", "the pilot's");
     expectRefusal(unused, own, own.text());
     EXPECT_FALSE(files.exists(unused));
     files.makeFolder(beside(u"Begun\\METAR"));
@@ -69,7 +64,7 @@ TEST_F(InstallContent, isBroughtUpToDateByANewerVersionOnly) {
     const FilePath list = home() / u"content.version", help = home() / u"MV Help\\index.html",
                    picture = home() / u"Media\\morvane.png", cursor = home() / u"Media\\Hand.cur";
     const auto all = [&] {
-        return std::tuple(test::contentsBelow(home() / u"Media"), test::contentsBelow(simulator()).keys(),
+        return std::tuple(contentsBelow(home() / u"Media"), contentsBelow(simulator()).keys(),
                           files.read(help), files.read(list), files.read(home() / u"registry.ini"),
                           files.read(home() / u"Morvane.mdb"));
     };
@@ -83,8 +78,8 @@ TEST_F(InstallContent, isBroughtUpToDateByANewerVersionOnly) {
     const QByteArray drawn = files.read(picture);
     files.write(picture, "the pilot's");
     files.write(cursor, "of before the list");
-    test::writeFile(beside(u"Data\\delivered\\earlier.sums"),
-                    fingerprintOf(files.read(cursor)).checksum.toLatin1() + '\n');
+    writeFile(beside(u"Data\\delivered\\earlier.sums"),
+              fingerprintOf(files.read(cursor)).checksum.toLatin1() + '\n');
     EXPECT_EQ(update(home()), 0);
     EXPECT_EQ(files.read(picture), "the pilot's");
     files.write(picture, drawn);
@@ -104,7 +99,7 @@ TEST_F(InstallContent, cutShortIsNotTakenForWhole) {
     expectRefusal(cut, cutSimulator, cut.text());
 }
 
-using DeliveredRows = test::StartedInstall;
+using DeliveredRows = StartedInstall;
 
 TEST_F(DeliveredRows, haveTheirTextsBehindAFirstRunWithoutAQuestion) {
     EXPECT_TRUE(hasStarted);
@@ -127,4 +122,4 @@ TEST_F(DeliveredRows, haveTheirTextsBehindAFirstRunWithoutAQuestion) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -7,14 +7,14 @@
 
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 /// One skin, written once for all tests.
 class SkinFiles : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        folder_ = std::make_unique<test::TemporaryFolder>();
+        folder_ = std::make_unique<TemporaryFolder>();
         NativeFileSystem().makeFolder(media());
         NativeFileSystem files;
         writeSkin([&](const FilePath& file, const QByteArray& contents) { files.write(file, contents); },
@@ -28,10 +28,10 @@ protected:
     NativeFileSystem files;
 
 private:
-    static std::unique_ptr<test::TemporaryFolder> folder_;
+    static std::unique_ptr<TemporaryFolder> folder_;
 };
 
-std::unique_ptr<test::TemporaryFolder> SkinFiles::folder_;
+std::unique_ptr<TemporaryFolder> SkinFiles::folder_;
 
 /// A pixel in whose mixture the key colour took part is much redder and bluer than green; nothing else in the
 /// skin is.
@@ -98,4 +98,4 @@ TEST_F(SkinFiles, helpPageIsWholeAndNeedsNoOtherFile) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -9,11 +9,11 @@
 #include "support/printing.h"
 #include "support/small_install.h"
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-using StockFiles = test::MadeInstall;
-using StockCatalogue = test::StartedInstall;
+using StockFiles = MadeInstall;
+using StockCatalogue = StartedInstall;
 
 const QStringList resourceFolders{u"GENERIC WORLD"_s, u"UT EUROPE"_s,           u"UTIND"_s,
                                   u"DUTCH"_s,         u"GENERIC WORLD NIGHT"_s, u"DUTCH NIGHT"_s};
@@ -52,8 +52,8 @@ TEST_F(StockFiles, deliveredFlightsAndSkiesStandTwice) {
         {home() / u"Resources\\Sky\\Default", home() / u"Sky Texture Sets\\Default", 24},
         {home() / u"Flights", simulator() / u"Flights\\Morvane", 6}};
     for (const auto& [one, other, count] : copies) {
-        EXPECT_EQ(test::contentsBelow(one).size(), count);
-        EXPECT_TRUE(test::contentsBelow(one) == test::contentsBelow(other)) << one.text().toStdString();
+        EXPECT_EQ(contentsBelow(one).size(), count);
+        EXPECT_TRUE(contentsBelow(one) == contentsBelow(other)) << one.text().toStdString();
     }
 }
 
@@ -73,4 +73,4 @@ TEST_F(StockCatalogue, deliveredNightSetsHaveTheirFiles) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -8,13 +8,13 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 /// A key without a strip: the states do not need one.
 struct SkinnedButtonTest : testing::Test {
     NativeFileSystem files;
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     Skin skin{files, FilePath(folder.path())};
     SkinnedButton key{ButtonFamily::LargeButton, skin, nullptr};
     QSignalSpy clicks{&key, &SkinnedButton::dispatched};
@@ -104,4 +104,4 @@ TEST_F(SkinnedButtonTest, livesWithFilesThatAreMissingOrBroken) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -3,7 +3,6 @@
 #include "walk/screen_contents.h"
 #include "window/form_table.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QDesktopServices>
 #include <QLabel>

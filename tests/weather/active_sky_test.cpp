@@ -9,15 +9,13 @@
 #include <QFile>
 #include <QProcess>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::writeFile;
 
 /// Notes what it is asked for, and lets the clock stand in for a rest.
 class ScriptedPlatform : public ActiveSkyPlatform {
 public:
-    explicit ScriptedPlatform(test::ScriptedClock& clock) : clock_(clock) {}
+    explicit ScriptedPlatform(ScriptedClock& clock) : clock_(clock) {}
     bool isWindowOpen(const QString& title) override { return isRunning && title == u"ASv6"; }
     bool startASv6(Session&) override { return ++starts > 0; }
     void rest() override {
@@ -31,10 +29,10 @@ public:
     std::function<void()> onRest = [] {};
 
 private:
-    test::ScriptedClock& clock_;
+    ScriptedClock& clock_;
 };
 
-struct ActiveSkyTest : test::InstallTest {
+struct ActiveSkyTest : InstallTest {
     ActiveSkyTest() {
         install.registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey);
         install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Install_Path"_s,
@@ -87,7 +85,7 @@ TEST_F(ActiveSkyTest, isFoundStepByStep) {
     }
     EXPECT_FALSE(session.state<WeatherState>().ASv6Local);
     writeExport("EHAM", {14, 7});
-    QByteArray text = test::readFile(install.home() / u"registry.ini");
+    QByteArray text = readFile(install.home() / u"registry.ini");
     writeFile(install.home() / u"registry.ini",
               text.replace("Install_Path=", "Local=dword:00000001\r\nInstall_Path="));
     EXPECT_EQ(found(), u"present supported"_s);
@@ -181,4 +179,4 @@ TEST_F(ActiveSkyTest, aMissingFileIsWaitedForUntilACancelOrTheEndOfTheProgram) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

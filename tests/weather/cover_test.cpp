@@ -7,10 +7,10 @@
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-struct CoverChoiceTest : test::InstallTest {
+struct CoverChoiceTest : InstallTest {
     /// The ways that the user takes, one after another: the method, then whether its screen is confirmed. "0-
     /// 2+" is a cancelled plan and a cover by hand.
     void take(const QString& ways) {
@@ -60,7 +60,7 @@ QString joined(const Waypoint& waypoint) {
     return QStringList{name, type, latitude, longitude, airway}.join(u'|');
 }
 
-struct FlightPlanTest : test::InstallTest {
+struct FlightPlanTest : InstallTest {
     std::optional<FlightPlan> delivered(const QString& name) {
         return readFlightPlan(session, FilePath(QStringLiteral(MORVANE_DATA_DIR "/plans/") + name));
     }
@@ -103,10 +103,10 @@ TEST_F(FlightPlanTest, layoutsOfAWaypoint) {
 }
 
 TEST_F(FlightPlanTest, weatherOfEachWaypoint) {
-    test::addStation(session, u"KSEA"_s, 2, 47.45, -122.31);
-    test::addStation(session, u"KPDX"_s, 5, 45.59, -122.60);
-    test::addStation(session, u"VVVV"_s, 6, -30, -51);
-    test::addStation(session, u"  "_s, 4); // a line that was no report
+    addStation(session, u"KSEA"_s, 2, 47.45, -122.31);
+    addStation(session, u"KPDX"_s, 5, 45.59, -122.60);
+    addStation(session, u"VVVV"_s, 6, -30, -51);
+    addStation(session, u"  "_s, 4); // a line that was no report
     const auto weather = processFlightPlan(
         session, {{},
                   {},
@@ -124,4 +124,4 @@ TEST_F(FlightPlanTest, weatherOfEachWaypoint) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -12,10 +12,8 @@
 
 #include <QCoreApplication>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::writeFile;
 
 using Reply = LoopbackServer::Reply;
 
@@ -39,8 +37,8 @@ struct CycleDownloadTest : testing::Test {
 
     int argumentCount = 0;
     QCoreApplication application{argumentCount, nullptr};
-    test::TemporaryFolder folder;
-    test::FaultyFileSystem files;
+    TemporaryFolder folder;
+    FaultyFileSystem files;
     FilePath target = folder / u"09Z.txt";
     CycleDownload::Limits limits{5'000, 300 << 10};
     std::function<bool()> isCancelled = [] { return false; };
@@ -54,7 +52,7 @@ TEST_F(CycleDownloadTest, keepsTheBytesAsTheyAreBehindARedirect) {
                                           : LoopbackServer::statusReply("302 Found", "Location: /moved\r\n");
               }),
               "done");
-    EXPECT_EQ(test::readFile(target), bytes);
+    EXPECT_EQ(readFile(target), bytes);
     EXPECT_EQ(progress, std::pair(std::int64_t{bytes.size()}, std::int64_t{bytes.size()}));
 }
 
@@ -65,7 +63,7 @@ TEST_F(CycleDownloadTest, aPackedBodyIsUnpackedAndAFailureLeavesTheFileOfBefore)
     };
     const auto packed = [&](const QByteArray& encoding, const QString& name) {
         return headed(encoding.isEmpty() ? "" : "Content-Encoding: " + encoding + "\r\n",
-                      test::readFile(FilePath(QStringLiteral(MORVANE_GZIP_SAMPLES_DIR)) / name));
+                      readFile(FilePath(QStringLiteral(MORVANE_GZIP_SAMPLES_DIR)) / name));
     };
     const QString damaged = u"the file is compressed, and damaged or cut off"_s,
                   page = u"the file is a page instead of reports"_s;
@@ -88,11 +86,11 @@ TEST_F(CycleDownloadTest, aPackedBodyIsUnpackedAndAFailureLeavesTheFileOfBefore)
         {headed("", QByteArray(1 << 19, 'A')), u"too large"_s},
     };
     for (const auto& [reply, expected] : cases) {
-        test::writeFile(target, "of before");
+        writeFile(target, "of before");
         const QString end = fetchFrom([&sent = reply](const QByteArray&) { return sent; });
         EXPECT_TRUE(!end.isEmpty() && end.contains(expected)) << end.toStdString();
         EXPECT_EQ(end == u"done", expected == u"done") << expected.toStdString();
-        const QByteArray now = test::readFile(target);
+        const QByteArray now = readFile(target);
         EXPECT_TRUE(end == u"done" ? now.startsWith("KSEA") && now.count('\n') == 2 : now == "of before");
         EXPECT_EQ(filesInFolder(), QStringList{u"09Z.txt"_s});
     }
@@ -121,7 +119,7 @@ TEST_F(CycleDownloadTest, aFileThatCannotBeWrittenIsAFailure) {
     EXPECT_FALSE(QFile::exists(target.native()));
 }
 
-struct CycleLoading : test::InstallTest {
+struct CycleLoading : InstallTest {
     CycleLoading() {
         install.clock.now = QDateTime(QDate(2007, 6, 1), QTime(10, 12), Qt::UTC);
         install.user.onModal = [this](Screen screen) {
@@ -218,7 +216,7 @@ TEST_F(CycleLoading, aLineThatTheTableDoesNotTakeCostsThatLine) {
 TEST_F(CycleLoading, aStoreThatCannotBeWrittenEndsTheLoadWithOneMessage) {
     importLines("EHAM 1\nKSEA 2\n");
     closeDatabase(session);
-    test::FaultyStoreDisk disk;
+    FaultyStoreDisk disk;
     session.adoConn = std::make_unique<Store>();
     session.adoConn->open(install.home() / u"Morvane.mdb");
     QByteArray text;
@@ -301,4 +299,4 @@ TEST_F(CycleLoading, anEmptyCycleEndsFlyNowAndACancelOrAFailureLeavesTheReports)
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -9,7 +9,7 @@
 
 #include <map>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 /// Every property that is not empty, false or 0, as "WindSpeed=015", sorted.
@@ -25,7 +25,7 @@ QStringList decodedFields(const clsWxFinder& report) {
 
 /// No report is a reason for a message.
 clsWxFinder decodedReport(const QString& report) {
-    test::ScriptedUser user;
+    ScriptedUser user;
     clsWxFinder decoded = clsDecodeMetar(user).decodeMetarString(report);
     EXPECT_TRUE(user.messages.empty()) << report.toStdString();
     return decoded;
@@ -71,7 +71,7 @@ void decodeSoundly(const QString& report) {
 
 TEST(MetarSamples, neitherTheyNorDamagedOnesBreakTheDecoder) {
     const QString strange = u"/ kKgGvVmMqQaAsSzZ0129-+\t\r\n\0é\u0130\u212A\U0001F327"_s;
-    for (const QString& report : test::sampleReports())
+    for (const QString& report : sampleReports())
         for (qsizetype n = 0; n < report.size(); n += 5) {
             decodeSoundly(report.left(n));
             decodeSoundly(report.left(n) + strange[(n + report.size()) % strange.size()] + report.mid(n));
@@ -136,7 +136,7 @@ TEST(MetarService, readsEveryFigureLikeTheDecoder) {
     const QStringList skies =
         u"|clear|mostly clear|partly cloudy|mostly cloudy|overcast|obscured"_s.split(u'|');
     std::map<std::string, int> made;
-    for (const QString& line : splitLines(test::dataText(u"metar/noaa_decoded.tsv"_s)).mid(1)) {
+    for (const QString& line : splitLines(dataText(u"metar/noaa_decoded.tsv"_s)).mid(1)) {
         QStringList theirs = line.split(u'\t');
         if (theirs.size() < 14) continue;
         theirs[5] = QString::number(skies.indexOf(theirs[5]));
@@ -156,4 +156,4 @@ TEST(MetarService, readsEveryFigureLikeTheDecoder) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -15,14 +15,14 @@
 #include "weather/stored_reports.h"
 #include "weather/weather_state.h"
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
-struct WeatherControlTest : test::InstallTest {
+struct WeatherControlTest : InstallTest {
     WeatherControlTest() {
         weather.InhibitWeatherReports = false;
-        test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
-        test::addStation(session, u"EHAM"_s, 1, 52.31, 4.76);
+        addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
+        addStation(session, u"EHAM"_s, 1, 52.31, 4.76);
     }
     QStringList lines() const {
         const ReportLines& lines = session.state<DecodedReportLines>().decodedMetarLines;
@@ -90,17 +90,17 @@ TEST(Coordinates, distances) {
     EXPECT_NEAR(getDistanceNM(10, 179.5, 10, -179.5), 59.1, 0.1) << "across the date line";
 }
 
-using StoredReports = test::InstallTest;
+using StoredReports = InstallTest;
 
 TEST_F(StoredReports, whichRowsCountForTheNearestStation) {
     const auto nearest = [&](const QString& latitude, const QString& longitude) {
         return getClosestMetarStation(session, latitude, longitude);
     };
-    test::addStation(session, u"NONE"_s, 3);
-    test::addStation(session, u"FAR1"_s, 3, -10, -170);
+    addStation(session, u"NONE"_s, 3);
+    addStation(session, u"FAR1"_s, 3, -10, -170);
     EXPECT_EQ(nearest(u"10"_s, u"10"_s), "") << "only the antipode";
-    test::addStation(session, u"TWIN"_s, 3, 10.5, 10);
-    test::addStation(session, u"ALSO"_s, 3, 9.5, 10);
+    addStation(session, u"TWIN"_s, 3, 10.5, 10);
+    addStation(session, u"ALSO"_s, 3, 9.5, 10);
     EXPECT_EQ(nearest(u"10"_s, u"10"_s), "TWIN") << "the first of equals";
     session.adoConn->execute(u"UPDATE DECODED_METAR SET METAR_LAT = 'x' WHERE METAR_ICAO = 'TWIN'"_s);
     EXPECT_EQ(nearest(u"10"_s, u"10"_s), "ALSO");
@@ -161,7 +161,7 @@ TEST_F(StoredReports, theAgeCountsFromTheYoungestByWhatTheReportsSay) {
     }
 }
 
-struct WxFilterTest : test::InstallTest {
+struct WxFilterTest : InstallTest {
     WxFilterTest() {
         // Code, strength, weather, obscuration, clouds.
         for (const QString& line :
@@ -226,4 +226,4 @@ TEST_F(WxFilterTest, whatEachWordFinds) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

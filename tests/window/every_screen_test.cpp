@@ -18,10 +18,8 @@
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
-
-using test::WindowProgram;
 
 class EveryScreen : public testing::Test {
 protected:
@@ -116,12 +114,12 @@ TEST_F(EveryScreen, saysWhatStandsInTheList) {
         form->hide();
     }
     QStringList listed =
-        QString::fromUtf8(test::readFile(FilePath(QStringLiteral(MORVANE_SCREEN_TEXTS)))).split(u'\n');
+        QString::fromUtf8(readFile(FilePath(QStringLiteral(MORVANE_SCREEN_TEXTS)))).split(u'\n');
     for (QString& line : listed)
         if (line.contains(u"FOLDER")) line.replace(u'/', QDir::separator());
     const QString taken = QDir::temp().filePath(u"screen_texts.txt"_s);
     found << QString();
-    if (found != listed) test::writeFile(FilePath(taken), found.join(u'\n').toUtf8());
+    if (found != listed) writeFile(FilePath(taken), found.join(u'\n').toUtf8());
     for (qsizetype i = 0; i < std::max(found.size(), listed.size()); ++i)
         ASSERT_EQ(found.value(i).toStdString(), listed.value(i).toStdString())
             << "all of it: " << taken.toStdString();
@@ -213,4 +211,4 @@ TEST_F(EveryScreen, opensWhollyOnAScreenThatIsThere) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -20,7 +20,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 /// Cancels a progress that shows as soon as that is wanted, and counts the boxes that it accepts.
@@ -43,7 +43,7 @@ struct Hand {
 };
 
 TEST(FirstStart, leavesNothingWhenItIsCancelled) {
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const QString home = (folder / u"Deep\\Morvane").native();
     Hand hand([] { return true; });
     EXPECT_FALSE(makeInstallFolder(home));
@@ -53,7 +53,7 @@ TEST(FirstStart, leavesNothingWhenItIsCancelled) {
 }
 
 TEST(FirstStart, goesOnWhereItsFilesWereBeingPutInPlace) {
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const FilePath home = folder / u"Mörvane";
     NativeFileSystem files;
     EXPECT_TRUE(awaitsFirstStart(home.native()));
@@ -61,10 +61,10 @@ TEST(FirstStart, goesOnWhereItsFilesWereBeingPutInPlace) {
     IniRegistry registry(files, home / u"registry.ini");
     storeOwnValue(registry, u"WeatherServer"_s, u"the pilot's"_s);
     EXPECT_TRUE(awaitsFirstStart(home.native())) << "a program that has everything in one folder";
-    test::writeFile(home / u"Media\\one.bmp", "1");
+    writeFile(home / u"Media\\one.bmp", "1");
     EXPECT_FALSE(awaitsFirstStart(home.native()));
     for (const QString& name : {u"registry.ini"_s, u"Backup\\two.bmp"_s, u"Morvane.mdb"_s})
-        test::writeFile(home / u"first start" / name, "made");
+        writeFile(home / u"first start" / name, "made");
     EXPECT_TRUE(awaitsFirstStart(home.native()));
     EXPECT_TRUE(makeInstallFolder(home.native()));
     EXPECT_FALSE(awaitsFirstStart(home.native()));
@@ -82,33 +82,33 @@ TEST(FirstStart, ofANewerVersionTellsOfAFailureAndGoesOn) {
         int boxes;
     } cases[] = {{"7", false, false, 1}, {"6", true, false, 0}, {"7", false, true, 0}};
     for (const auto& [density, isPutOff, isLocked, boxes] : cases) {
-        const test::TemporaryFolder folder;
+        const TemporaryFolder folder;
         const FilePath list = folder / u"content.version", store = folder / u"Morvane.mdb";
-        test::writeFile(list, "content 1 density " + density + '\n');
+        writeFile(list, "content 1 density " + density + '\n');
         EXPECT_FALSE(awaitsContentUpdate(folder.path())) << "without a store there is no install";
-        test::writeFile(store, "store");
+        writeFile(store, "store");
         EXPECT_TRUE(awaitsContentUpdate(folder.path()));
         InstallLock other(folder.path(), u"Writing.lock"_s);
         EXPECT_TRUE(!isLocked || other.tryTake());
         Hand hand([&, isPutOff = isPutOff] { // when it is at work
-            return isPutOff && test::readFile(list).contains('\t');
+            return isPutOff && readFile(list).contains('\t');
         });
         updateDeliveredContent(folder.path());
         EXPECT_EQ(hand.boxes, boxes) << density.toStdString();
-        EXPECT_TRUE(test::readFile(list).startsWith("content 1 ")) << "the next start goes on";
-        EXPECT_EQ(test::readFile(store), "store");
+        EXPECT_TRUE(readFile(list).startsWith("content 1 ")) << "the next start goes on";
+        EXPECT_EQ(readFile(store), "store");
         EXPECT_TRUE(awaitsContentUpdate(folder.path()));
         if (boxes > 0) updateDeliveredContent(folder.path());
         EXPECT_EQ(awaitsContentUpdate(folder.path()), boxes == 0) << "what fails twice fails at each start";
-        test::writeFile(list, test::readFile(list).replace("failed ", "failed 1"));
+        writeFile(list, readFile(list).replace("failed ", "failed 1"));
         EXPECT_TRUE(awaitsContentUpdate(folder.path())) << "a newer version tries it, too";
     }
 }
 
 TEST(FirstStart, withAStoreThatIsNoneSaysSoOnceAndKeepsItsFirstRunForLater) {
-    test::SmallInstall install;
+    SmallInstall install;
     closeDatabase(install.session);
-    test::writeFile(install.home() / u"Morvane.mdb", QByteArray("no store at all ").repeated(500));
+    writeFile(install.home() / u"Morvane.mdb", QByteArray("no store at all ").repeated(500));
     const std::pair<QString, QString> values[] = {{u"FirstTime"_s, u"True"_s},
                                                   {u"NonEnglishPath"_s, install.folder.path().native()}};
     for (const auto& [name, text] : values)
@@ -144,4 +144,4 @@ TEST(FirstStart, withAStoreThatIsNoneSaysSoOnceAndKeepsItsFirstRunForLater) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

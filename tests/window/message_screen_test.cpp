@@ -11,7 +11,7 @@
 #include <QPushButton>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 const QString name = u"frm_Msg"_s;
@@ -35,7 +35,7 @@ struct MessageScreenTest : testing::Test {
         timer->start(0);
     }
 
-    test::WindowProgram program;
+    WindowProgram program;
     UserAnswers& answers = program.user.answers();
     const Message plain{MessageKind::information, u"t"_s, u"x"_s};
     Message question{MessageKind::question, u"t"_s, u"x"_s, true, true};
@@ -99,4 +99,4 @@ TEST_F(MessageScreenTest, storesTheWishForAFastExitAtOnce) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -16,11 +16,11 @@
 #include <QLineEdit>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 struct ShellTest : testing::Test {
-    test::WindowProgram program;
+    WindowProgram program;
     WindowShell& shell = program.shell;
 };
 
@@ -84,14 +84,14 @@ TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
 
 TEST_F(ShellTest, theInstallKeyInstallsWhatIsSelected) {
     const QString host = u"frm_NightTextures"_s;
-    test::addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\008b2lm1.bmp"_s});
-    test::addNightSet(program.install, u"3-Blue"_s, false);
+    addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\008b2lm1.bmp"_s});
+    addNightSet(program.install, u"3-Blue"_s, false);
     program.press(u"frm_Main"_s, u"btn_NightTextures"_s);
     auto& table = program.control<SetTable>(host, u"lstTextureSets"_s);
     EXPECT_EQ(shell.form(host)->focusWidget(), &table) << "the keyboard is on the page";
-    test::clickRow(table, 1);
+    clickRow(table, 1);
     program.press(host, u"btn_TextureInstall"_s);
-    EXPECT_EQ(test::nightSets(program.install.session), u"2-Red+* 3-Blue"_s);
+    EXPECT_EQ(nightSets(program.install.session), u"2-Red+* 3-Blue"_s);
     EXPECT_EQ(table.columnCount(), 2);
     EXPECT_EQ(table.storedColour(1), qRgb(255, 0, 0));
     EXPECT_EQ(table.storedColour(2), qRgb(0, 101, 161));
@@ -154,7 +154,7 @@ TEST_F(ShellTest, aKeyWaitsForASecondClickWhenItsListHasChanged) {
 
 TEST_F(ShellTest, whatCannotBeOpenedIsTold) {
     const QString help = (program.install.home() / u"MV Help\\index.html").native();
-    test::writeFile(program.install.home() / u"MV Help\\index.html", "help");
+    writeFile(program.install.home() / u"MV Help\\index.html", "help");
     program.install.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"UpdateServer"_s,
                                           u"http://updates.example.org"_s);
     const QString none = u"There is no program here that opens "_s;
@@ -182,4 +182,4 @@ TEST_F(ShellTest, aFolderIsNamedAsTheSystemNamesIt) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

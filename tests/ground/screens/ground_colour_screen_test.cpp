@@ -13,7 +13,7 @@
 #include <QRadioButton>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 const QString hostName = u"frm_MVTextures"_s, pageName = u"frm_GroundColorize"_s;
@@ -28,7 +28,7 @@ struct GroundColourScreenTest : testing::Test {
     QString colours() { return colourSettingsText(program.session.state<GroundSelection>().colours); }
     QImage picture(const QString& name) { return program.picture(pageName, name); }
 
-    test::WindowProgram program;
+    WindowProgram program;
 };
 
 TEST_F(GroundColourScreenTest, aVisitPutsItsSlidersInHand) {
@@ -43,8 +43,7 @@ TEST_F(GroundColourScreenTest, aVisitPutsItsSlidersInHand) {
 }
 
 TEST_F(GroundColourScreenTest, openTextureShowsTheChosenSample) {
-    test::writeFile(program.install.home() / u"Resources\\GENERIC WORLD\\003b2wi3.bmp",
-                    test::smallBitmap(32, 90));
+    writeFile(program.install.home() / u"Resources\\GENERIC WORLD\\003b2wi3.bmp", smallBitmap(32, 90));
     const auto choose = [this](const QString& season, const QString& type) {
         program.whenShown(u"frm_SelectTexture"_s, [=](DialogForm& dialog) {
             EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optSeason_summer"_s)->isChecked());
@@ -70,7 +69,7 @@ TEST_F(GroundColourScreenTest, openTextureShowsTheChosenSample) {
 }
 
 struct GroundDialogsTest : testing::Test {
-    test::WindowProgram program;
+    WindowProgram program;
     GroundSetCounts& counts = program.session.state<GroundSetCounts>();
     FavouriteAnswer& favourite = program.session.state<FavouriteAnswer>();
     MultiChoice& names = program.session.state<MultiChoice>();
@@ -122,7 +121,7 @@ TEST_F(GroundDialogsTest, theNamesThatStayCheckedAreConfirmed) {
     names.multiNames = QStringList{u"2-Storm"_s, u"3-Haze"_s, u"4-Late"_s};
     const auto choose = [&](void (DialogForm::*end)()) {
         program.show(Screen::frm_MultiDelete, [=](DialogForm& dialog) {
-            test::clickRow(*dialog.findChild<SetTable*>(u"lstNames"_s), 2, {.x = 11});
+            clickRow(*dialog.findChild<SetTable*>(u"lstNames"_s), 2, {.x = 11});
             (dialog.*end)();
         });
         return names.multiConfirmed;
@@ -132,4 +131,4 @@ TEST_F(GroundDialogsTest, theNamesThatStayCheckedAreConfirmed) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

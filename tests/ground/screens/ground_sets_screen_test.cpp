@@ -9,7 +9,7 @@
 #include <QHeaderView>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 constexpr QRgb red = qRgb(255, 0, 0), blue = qRgb(0, 101, 161);
@@ -26,7 +26,7 @@ struct GroundSetsScreenTest : testing::Test {
         screen = &program.shell.screen<frm_MVTextures>(hostName);
         list = screen->findChild<SetTable*>(u"lstTextureSets"_s);
     }
-    void clickRow(int row, const test::RowClick& how = {}) const { test::clickRow(*list, row, how); }
+    void clickRow(int row, const RowClick& how = {}) const { test::clickRow(*list, row, how); }
     SkinnedButton& key(const QString& name) const { return *screen->button(name); }
     /// States of delete, create, activate and install, in the order in which the page sets them.
     std::vector<ButtonState> keyStates() const {
@@ -38,7 +38,7 @@ struct GroundSetsScreenTest : testing::Test {
     }
     QImage picture(const QString& name) { return program.picture(hostName, name); }
 
-    test::WindowProgram program;
+    WindowProgram program;
     const GroundSelection& selection = program.session.state<GroundSelection>();
     frm_MVTextures* screen = nullptr;
     SetTable* list = nullptr;
@@ -116,4 +116,4 @@ TEST_F(GroundSetsScreenTest, aSetOfDamagedColoursCanOnlyBeTakenAway) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

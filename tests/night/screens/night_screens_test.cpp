@@ -8,7 +8,7 @@
 #include <QRadioButton>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 const QString hostName = u"frm_NightTextures"_s, pageName = u"frm_NightColorize"_s;
@@ -16,9 +16,9 @@ const QString hostName = u"frm_NightTextures"_s, pageName = u"frm_NightColorize"
 /// The window of the night over Default and an activated and a deactivated set.
 struct NightScreensTest : testing::Test {
     NightScreensTest() {
-        test::addNightSet(program.install, u"Default"_s, true);
-        test::addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\029b2lm1.bmp"_s});
-        test::addNightSet(program.install, u"3-Blue"_s, false);
+        addNightSet(program.install, u"Default"_s, true);
+        addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\029b2lm1.bmp"_s});
+        addNightSet(program.install, u"3-Blue"_s, false);
         program.press(u"frm_Main"_s, u"btn_NightTextures"_s);
     }
     void openPage() { program.press(hostName, u"btn_Ground"_s); }
@@ -34,7 +34,7 @@ struct NightScreensTest : testing::Test {
     }
     QString colours() { return colourSettingsText(program.session.state<NightSelection>().colours); }
 
-    test::WindowProgram program;
+    WindowProgram program;
 };
 
 TEST_F(NightScreensTest, lightsSetTheSlidersWhichAHandMovesAndAnotherClickSetsAnew) {
@@ -68,4 +68,4 @@ TEST_F(NightScreensTest, lightsSetTheSlidersWhichAHandMovesAndAnotherClickSetsAn
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 struct OptionsScreens : testing::Test {
@@ -19,7 +19,7 @@ struct OptionsScreens : testing::Test {
             "('Golf', 'GENERIC WORLD', 'Scenery\\World\\texture', 'About Golf', FALSE)"_s);
     }
     QCheckBox& box(const QString& name) { return program.control<QCheckBox>(u"frm_Switcher"_s, name); }
-    test::WindowProgram program;
+    WindowProgram program;
     Session& session = program.session;
 };
 
@@ -51,14 +51,14 @@ TEST_F(OptionsScreens, theBaseInstallCopiesWhatIsTicked) {
     EXPECT_EQ(program.text(u"frm_Config"_s, u"lblMVDescription"_s), u"About Golf"_s);
     list.topLevelItem(0)->setCheckState(0, Qt::Checked);
     program.press(u"frm_Config"_s, u"btn_MVInstall"_s);
-    EXPECT_EQ(test::readFile(program.install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP"),
+    EXPECT_EQ(readFile(program.install.simulator() / u"Scenery\\World\\texture\\029H2SU6.BMP"),
               "body of GENERIC WORLD\\029h2su6.bmp");
 }
 
 TEST_F(OptionsScreens, thePilotsOwnTexturesBecomeBaseImages) {
     const FilePath world = program.install.simulator() / u"Scenery\\World\\texture";
     for (const QString& name : program.install.files.list(world, u"*.bmp"_s))
-        test::writeFile(world.child(name), test::smallBitmap(16, 201));
+        writeFile(world.child(name), smallBitmap(16, 201));
     program.shell.goToPage(u"frm_Config"_s);
     const auto& useDelivered = program.control<QPushButton>(u"frm_Config"_s, u"cmdUseDelivered"_s);
     const auto expectOwn = [&](bool isOwn) {
@@ -91,4 +91,4 @@ TEST_F(OptionsScreens, aBackupIsChosenBeforeOkAndAPartialOneIsMarked) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

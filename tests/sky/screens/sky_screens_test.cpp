@@ -16,7 +16,7 @@
 #include <QRadioButton>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 const QString hostName = u"frm_KMTextures"_s, pageName = u"frm_SkyColorize"_s;
@@ -41,7 +41,7 @@ struct SkySetsScreenTest : testing::Test {
     ButtonState install() { return program.stateOf(hostName, u"btn_SkyTextureInstall"_s); }
     QImage picture(const QString& name) { return program.picture(hostName, name); }
 
-    test::WindowProgram program;
+    WindowProgram program;
     const SkySelection& selection = program.session.state<SkySelection>();
     SetTable* list = nullptr;
 
@@ -110,7 +110,7 @@ struct SkyColourScreenTest : testing::Test {
     QImage source() { return program.picture(pageName, u"picSkySource"_s); }
     bool isChanged() { return source() != program.picture(pageName, u"picSkyResult"_s); }
 
-    test::WindowProgram program;
+    WindowProgram program;
     const SkyTuningState& tuning = program.session.state<SkyTuningState>();
     PalettePicture* palette = nullptr;
 };
@@ -201,7 +201,7 @@ TEST_F(SkyColourScreenTest, aBaseSetIsChosenByItsClick) {
 // The quantities --------------------------------------------------------------------------------------------
 
 TEST(SkySetCounts, theBoxesOfTheBaseSetsEnableTheirCounts) {
-    test::WindowProgram program;
+    WindowProgram program;
     program.show(Screen::frm_SelectSkyTexture, [&](DialogForm& dialog) {
         for (int index = 0; index < 7; ++index) {
             auto* box = dialog.findChild<QCheckBox*>(u"chkStsGroup%1"_s.arg(index));
@@ -216,4 +216,4 @@ TEST(SkySetCounts, theBoxesOfTheBaseSetsEnableTheirCounts) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

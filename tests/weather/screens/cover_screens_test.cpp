@@ -8,18 +8,18 @@
 #include <QPlainTextEdit>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 TEST(CoverScreens, aFlightPlan) {
-    test::WindowProgram program;
+    WindowProgram program;
     Session& session = program.session;
-    test::addStation(session, u"KSEA"_s, 4, 47.45, -122.31);
-    test::addStation(session, u"KPDX"_s, 5, 45.59, -122.60);
+    addStation(session, u"KSEA"_s, 4, 47.45, -122.31);
+    addStation(session, u"KPDX"_s, 5, 45.59, -122.60);
     const FilePath documents = program.install.folder / u"Dokümente";
     session.MyDocumentsPath = documents.native();
     const auto writePlan = [&](const QString& name, const QByteArray& contents) {
-        test::writeFile(documents / u"Flight Simulator Files" / name, contents);
+        writeFile(documents / u"Flight Simulator Files" / name, contents);
     };
     writePlan(u"a north.pln"_s,
               "departure_name=Seattle\r\ndestination_name=Portland\r\n"
@@ -30,7 +30,7 @@ TEST(CoverScreens, aFlightPlan) {
     program.show(Screen::frm_FlightPlan, [&](DialogForm& dialog) {
         const auto isOkAlive = [&] { return dialog.button(u"btn_Ok"_s)->state() != ButtonState::disabled; };
         const auto openPlan = [&](int row) {
-            test::clickRow(*dialog.findChild<SetTable*>(u"lvwFPList"_s), row, {.isDouble = true});
+            clickRow(*dialog.findChild<SetTable*>(u"lvwFPList"_s), row, {.isDouble = true});
         };
         const auto textOf = [&](const QString& name) { return dialog.findChild<QLabel*>(name)->text(); };
         EXPECT_TRUE(isOkAlive()) << "the first plan is chosen from the start";
@@ -52,7 +52,7 @@ TEST(CoverScreens, aFlightPlan) {
 }
 
 TEST(CoverScreens, aReportTypedInOverSeveralLines) {
-    test::WindowProgram program;
+    WindowProgram program;
     program.show(Screen::frm_CC_From_Metar_String, [&](DialogForm& dialog) {
         dialog.findChild<QPlainTextEdit*>()->setPlainText(u"  EGLL 241220Z VV001\n18/18 Q1012 "_s);
         dialog.button(u"btn_MetarProcess"_s)->click();
@@ -64,4 +64,4 @@ TEST(CoverScreens, aReportTypedInOverSeveralLines) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test

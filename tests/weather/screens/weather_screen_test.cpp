@@ -15,22 +15,21 @@
 #include <QRadioButton>
 #include <gtest/gtest.h>
 
-namespace morvane {
+namespace morvane::test {
 namespace {
 
 const QString page = u"frm_WxControl"_s;
 
 struct WeatherScreenTest : testing::Test {
     WeatherScreenTest() {
-        test::addAirports(
-            session,
-            {{u"kbfi"_s, u"Boeing Field"_s, u"Seattle"_s, u"Washington"_s, u"United States"_s, u"47.53"_s,
-              u"-122.30"_s},
-             {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41,98"_s,
-              u"-87.9"_s},
-             {u"DIAP"_s, u"Abïdjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
-        test::addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
-        test::addStation(session, u"DIAP"_s, 3, 5.26, -3.93);
+        addAirports(session,
+                    {{u"kbfi"_s, u"Boeing Field"_s, u"Seattle"_s, u"Washington"_s, u"United States"_s,
+                      u"47.53"_s, u"-122.30"_s},
+                     {u"KORD"_s, u"O'Hare"_s, u"Chicago"_s, u"Illinois"_s, u"United States"_s, u"41,98"_s,
+                      u"-87.9"_s},
+                     {u"DIAP"_s, u"Abïdjan"_s, u"Abidjan"_s, {}, u"Côte d'Ivoire"_s, u"5.26"_s, u"-3.93"_s}});
+        addStation(session, u"KSEA"_s, 3, 47.45, -122.31);
+        addStation(session, u"DIAP"_s, 3, 5.26, -3.93);
         program.shell.goToPage(page);
     }
     template <class Control>
@@ -59,7 +58,7 @@ struct WeatherScreenTest : testing::Test {
     }
     void type(const QString& name, const QString& text) { on<QLineEdit>(name).setText(text); }
 
-    test::WindowProgram program;
+    WindowProgram program;
     Session& session = program.session;
     AirportList& list = on<AirportList>(u"lvwAirports"_s);
 };
@@ -139,4 +138,4 @@ TEST_F(WeatherScreenTest, anImportOfActiveSkysFileThatIsDueIsOffered) {
 }
 
 } // namespace
-} // namespace morvane
+} // namespace morvane::test
