@@ -21,14 +21,13 @@
 #include "simulator/texture_switches.h"
 #include "sky/sky_installation.h"
 #include "support/night_install.h"
-#include "support/printing.h"
 #include "support/small_install.h"
+#include "support/testing.h"
 
 #include <QDirIterator>
 #include <QFileInfo>
 #include <chrono>
 #include <filesystem>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace morvane::test {
@@ -290,24 +289,14 @@ private:
             now.removeIf(isIt);
             first.removeIf(isIt);
         }
-        EXPECT_EQ(namesOf(now, first), QString()) << log_;
+        EXPECT_EQ(now.keys(), first.keys()) << log_;
+        for (auto file = now.begin(); file != now.end(); ++file)
+            EXPECT_EQ(*file, first.value(file.key())) << qPrintable(file.key()) << log_;
         const auto standing = contentsBelow(current_->folder).values(),
                    kept = contentsBelow(install_.home() / u"Backup").values();
         for (const QByteArray& own : current_->own)
             EXPECT_TRUE(standing.contains(own) || kept.contains(own)) << own.data() << '\n' << log_;
         expectNothingInstalled();
-    }
-
-    /// Where the trees differ.
-    static QString namesOf(const Tree& now, const Tree& first) {
-        QString names;
-        Tree both = now;
-        both.insert(first);
-        for (const QString& path : both.keys())
-            if (now.contains(path) != first.contains(path) || now.value(path) != first.value(path))
-                names += u"%1: '%2', not '%3'\n"_s.arg(path, QString(now.value(path).first),
-                                                       QString(first.value(path).first));
-        return names;
     }
 
     void expectNothingInstalled() {

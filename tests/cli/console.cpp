@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QJsonDocument>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 

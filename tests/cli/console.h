@@ -6,6 +6,7 @@
 #include "sky/sky_sets.h"
 #include "support/set_states.h"
 #include "support/small_install.h"
+#include "support/testing.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

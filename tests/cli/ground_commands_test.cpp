@@ -1,10 +1,8 @@
 #include "cli/console.h"
 
 #include "support/night_install.h"
-#include "support/printing.h"
 
 #include <QRegularExpression>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {
@@ -101,9 +99,6 @@ TEST_F(GroundCommands, aFavouriteIsMadeActivatedInstalledSwitchedOffAndDeleted) 
                   {u"{\"Actvated\":\"False\",\"ColorSettings\":\"-100:-6:-6:16:0:0\",\"Description\":\"\","
                    "\"Installed\":false,\"IsNew\":false,\"NtsID\":2,\"TextureSet\":\"2-Cold lights\"}]"_s}}});
     expectDone<NightKind>(u"night|activate|"_s + name, u"Default+ "_s + name + u'+');
-    expectDone<NightKind>(u"night|install|"_s + name, u"Default+ "_s + name + u"+*"_s);
-    expectDone<NightKind>(u"night|install|Default"_s, u"Default+* "_s + name + u'+');
-    expectDone<NightKind>(u"originals|restore"_s, u"Default+ "_s + name + u'+'); // none is installed any more
     expectDone<NightKind>(u"night|deactivate|"_s + name, u"Default+ "_s + name);
     expectDone<NightKind>(u"night|delete|"_s + name, u"Default+"_s);
 }

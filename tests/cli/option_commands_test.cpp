@@ -5,11 +5,9 @@
 #include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
 #include "support/night_install.h"
-#include "support/printing.h"
 #include "support/system_files.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

@@ -2,13 +2,12 @@
 #include "core/file_system.h"
 #include "core/safe_copy.h"
 
-#include "support/printing.h"
 #include "support/raised_error.h"
 #include "support/system_files.h"
 #include "support/temporary_folder.h"
+#include "support/testing.h"
 
 #include <functional>
-#include <gtest/gtest.h>
 #include <optional>
 #include <thread>
 

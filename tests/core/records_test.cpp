@@ -18,8 +18,7 @@ namespace morvane::test {
 namespace {
 
 /// The session's connection is one of its own: the fixture looks at what really reached the file.
-class RecordsTest : public StoreFixture {
-protected:
+struct RecordsTest : StoreFixture {
     RecordsTest() {
         connectSession();
         clsTextureSets::reload(session);

@@ -1,15 +1,12 @@
 #include "core/ini_file.h"
 #include "core/registry.h"
-#include "support/printing.h"
 #include "support/temporary_folder.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace morvane::test {
 namespace {
 
-class IniFileTest : public testing::Test {
-protected:
+struct IniFileTest : testing::Test {
     TemporaryFolder folder;
     NativeFileSystem files;
     FilePath file = folder / u"settings.cfg";

@@ -5,17 +5,14 @@
 #include "core/store.h"
 #include "core/store_schema.h"
 
-#include "support/printing.h"
 #include "support/raised_error.h"
 #include "support/temporary_folder.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace morvane::test {
 
 /// A store with all tables of the program and no rows.
-class StoreFixture : public testing::Test {
-protected:
+struct StoreFixture : testing::Test {
     StoreFixture() {
         store.create(file);
         createSchema(store);

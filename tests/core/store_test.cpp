@@ -1,4 +1,3 @@
-#include "core/file_system.h"
 #include "core/store_fixture.h"
 #include "support/faulty_store.h"
 
@@ -60,8 +59,7 @@ TEST_F(StoreTest, oneStatementAtATime) {
     EXPECT_TRUE(store.hasTable(u"mv_backup"_s));
 }
 
-class StoreFailureTest : public StoreFixture {
-protected:
+struct StoreFailureTest : StoreFixture {
     StoreFailureTest() {
         addBackups({u"old"_s});
         store.close();

@@ -2,9 +2,7 @@
 #include "core/numbers.h"
 #include "core/run_size.h"
 #include "core/text_collation.h"
-#include "support/printing.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace morvane {
 namespace {

@@ -3,10 +3,8 @@
 #include "core/registry.h"
 #include "core/registry_file.h"
 #include "support/home_folder.h"
-#include "support/printing.h"
+#include "support/testing.h"
 #include "support/wine_prefix.h"
-
-#include <gtest/gtest.h>
 
 #ifndef Q_OS_WIN
 #include <sys/stat.h>

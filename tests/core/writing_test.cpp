@@ -8,11 +8,10 @@
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "sets/options_in_force.h"
-#include "support/printing.h"
 #include "support/small_install.h"
+#include "support/testing.h"
 
 #include <QCoreApplication>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

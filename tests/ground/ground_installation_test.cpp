@@ -1,6 +1,5 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
-#include "ground/texture_sets.h"
 #include "ground/tropical_files.h"
 #include "sets/options_in_force.h"
 #include "support/install_test.h"

@@ -1,12 +1,11 @@
 #include "core/literals.h"
-#include "support/printing.h"
+#include "support/testing.h"
 
 #include <QDirIterator>
 #include <QFile>
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {

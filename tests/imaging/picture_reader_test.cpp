@@ -2,13 +2,11 @@
 
 #include "core/error.h"
 #include "imaging/bitmap_builder.h"
-#include "imaging/picture_letters.h"
 #include "imaging/pixel_buffer.h"
-#include "support/printing.h"
 #include "support/temporary_folder.h"
+#include "support/testing.h"
 
 #include <QImage>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

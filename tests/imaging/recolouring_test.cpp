@@ -90,8 +90,7 @@ TEST(Recolouring, IsThePlainArithmeticAtEveryWidth) {
                 << "width " << width;
 }
 
-class Colouriser : public testing::Test {
-protected:
+struct Colouriser : testing::Test {
     RgbColour processed(const RgbColour& pixel) {
         const cDIBSection source = filledBuffer(1, 1, pixel);
         cDIBSection destination = createdBuffer(1, 1);

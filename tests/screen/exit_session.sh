@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # exit_session.sh PROGRAMS calm|busy: every road out of the window program, from outside: whatever stands on the screen and
 # however it is left, the process ends with status 0, its store is closed and its locks are gone. And the roads in that
-# have a process of their own: a cover word, the first start, a second window. In two parts of half a minute.
+# have a process of their own: a cover word, another scale, the first start, a second window. In two parts of half a minute.
 # MORVANE_SCREENSHOTS=FOLDER gets a picture of a failure. Exit status 77: a tool is missing here.
 set -uo pipefail
 programs=$1 part=$2
@@ -89,6 +89,13 @@ atFirstStart() {
     inFront "Creating Backup"
 }
 
+# Twice its size the window would be larger than the screen, 1.45 times it is not.
+atScale() {
+    QT_SCALE_FACTOR=2 launch
+    waitFor "the main window at 1.45" hasWindow Morvane 1276x841
+    expect "all of it on the screen" isOnScreen "$(windowOf Morvane 1276x841)"
+}
+
 atCoverWord() {
     launch OVC
     inFront "Install Textures?"
@@ -163,7 +170,7 @@ calm=(
     "atGround byMouse Escape"    "atSky byMouse Escape"       "atNight byMouse Escape"     "atSky byManager Escape"
     "atMain byTerm -"            "atGround byHangUp -"        "atMain byInterrupt -"
     "atMessage byMainWindow Escape" "atMessage byTerm -"
-    "atDialog byHostWindow Escape"  "atDialog byTerm -"
+    "atDialog byHostWindow Escape"  "atDialog byTerm -"   "atScale byTerm -"
 )
 busy=(
     "atJob byManagerAndQuestion Escape" "atJob byTerm -"

@@ -3,16 +3,14 @@
 #include "core/safe_copy.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
-#include "support/printing.h"
-#include "support/raised_error.h"
 #include "support/small_install.h"
 #include "support/system_files.h"
+#include "support/testing.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <functional>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

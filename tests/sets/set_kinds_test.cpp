@@ -1,6 +1,5 @@
 // What ground, night and sky do alike.
 
-#include "core/row_set.h"
 #include "core/store.h"
 #include "ground/ground_sets.h"
 #include "ground/ground_tuning.h"
@@ -214,6 +213,12 @@ TEST_P(SetKindTest, theStoreNamesTheSetBeforeTheFirstFile) {
     const QByteArray before = readFile(target);
     install.files.setReadOnly(target, true);
     click(u"2-A"_s);
+    execute(u"CREATE TRIGGER T BEFORE UPDATE ON {sets} BEGIN SELECT RAISE(ABORT, 'no'); END"_s);
+    kind.kind.install(session, u"2-A"_s);
+    EXPECT_EQ(errors(), 1);
+    EXPECT_EQ(stored(), "2-A+ 3-B+ 4-C+");
+    execute(u"DROP TRIGGER T"_s);
+    install.user.messages.clear();
     kind.kind.install(session, u"2-A"_s);
     EXPECT_EQ(stored(), "2-A+* 3-B+ 4-C+");
     EXPECT_EQ(readFile(target), before);

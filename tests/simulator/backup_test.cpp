@@ -310,13 +310,13 @@ TEST_F(FirstRunTest, isGoneOnWithAfterEveryFailure) {
     const auto textures = contentsBelow(world.resolved()), before = contentsBelow(install.simulator());
     int failures = 0;
     std::optional<BackupReport> report;
-    for (const bool forever : {true, false})
+    for (const Fault fault : {Fault::forever, Fault::once})
         failures += failEachOperation(
-            install.files, forever, [&] { report = createBackup(session, true); },
+            install.files, fault, [&] { report = createBackup(session, true); },
             [&](int n) {
                 if (!report || !report->isWritten) report = createBackup(session, true);
-                ASSERT_TRUE(report && report->isComplete()) << n << forever;
-                ASSERT_EQ(backupNames(), QStringList{report->name}) << n << forever;
+                ASSERT_TRUE(report && report->isComplete()) << n;
+                ASSERT_EQ(backupNames(), QStringList{report->name}) << n;
                 ASSERT_EQ(contentsBelow(install.home() / u"Backup" / report->name / u"Texture"), textures)
                     << n;
                 ASSERT_EQ(contentsBelow(install.simulator()), before) << n;
@@ -345,7 +345,7 @@ TEST_F(BackupTest, everyFailingOperationOfARestoreLeavesSimulatorAndBackupWhole)
         EXPECT_EQ(after, before) << n;
         EXPECT_EQ(contentsBelow(install.home() / u"Backup" / name), backup) << n;
     };
-    EXPECT_GT(failEachOperation(install.files, false, work, check), 9);
+    EXPECT_GT(failEachOperation(install.files, Fault::once, work, check), 9);
     EXPECT_EQ(contentsBelow(install.simulator()), before);
 }
 

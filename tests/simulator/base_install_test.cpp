@@ -1,7 +1,6 @@
 #include "core/store.h"
 #include "simulator/base_install.h"
 #include "simulator/base_install_rows.h"
-#include "support/failing_operations.h"
 #include "support/install_test.h"
 #include "support/night_install.h"
 
@@ -11,7 +10,6 @@
 #include "night/night_selection.h"
 #include "night/night_texture_sets.h"
 #include "support/system_files.h"
-
 
 namespace morvane::test {
 namespace {
@@ -91,19 +89,6 @@ TEST_F(BaseInstall, theGlobalTitlesLeaveDefaultAsTheOneInstalledSet) {
     EXPECT_TRUE(session.state<GroundSelection>().RefreshGroundList &&
                 session.state<NightSelection>().RefreshNightList);
     EXPECT_EQ(readFile(world / u"045B2LM1.BMP"), "body of GENERIC WORLD NIGHT\\045b2lm1.bmp");
-}
-
-/// Whatever fails, each file of the simulator is an old or a new one as a whole.
-TEST_F(BaseInstall, everyFailingOperationLeavesWholeFiles) {
-    const auto before = contentsBelow(install.simulator());
-    const auto expectWholeFiles = [&](int n) {
-        const auto after = contentsBelow(install.simulator());
-        for (auto file = before.begin(); file != before.end(); ++file)
-            EXPECT_TRUE(after.value(file.key()) == *file || after.value(file.key()).startsWith("body of"))
-                << n;
-    };
-    const auto work = [&] { copyBaseResources(session, {globalDayConfig, addOnConfig}); };
-    EXPECT_GT(failEachOperation(install.files, false, work, expectWholeFiles), 15);
 }
 
 } // namespace

@@ -3,8 +3,8 @@
 #include "core/error.h"
 #include "core/flights_folder.h"
 #include "sets/options_in_force.h"
+#include "support/failing_operations.h"
 #include "support/install_test.h"
-#include "support/system_files.h"
 
 #include <QFile>
 
@@ -130,22 +130,20 @@ TEST_F(FlightsTest, aFailureIsToldAndTheListNamesWhatIsThere) {
     save(chosen, {"Own.flt"});
     loadFlightFiles(session);
     const auto before = contentsBelow(chosen);
-    install.files.failAt(0, false);
-    loadFlightFiles(session);
-    const int operations = install.files.operations();
-    ASSERT_GT(operations, 10);
-    for (int n = 1; n <= operations; ++n) {
+    const auto load = [this] {
         install.user.messages.clear();
-        install.files.failAt(n, false);
         loadFlightFiles(session);
-        EXPECT_TRUE(install.files.failedAtTest() || install.user.told().size() == 1) << n;
+    };
+    const auto check = [&](int n) {
+        EXPECT_EQ(install.user.told().size(), install.files.hasFailed() && !install.files.failedAtTest())
+            << n;
         EXPECT_EQ(install.user.countOfKind(MessageKind::error), 0) << "its kind is misspelt";
-        install.files.failAt(0, false);
         for (const QString& name : savedFlights(session))
             EXPECT_TRUE(install.files.exists(savedFlightFile(session, name))) << n;
         EXPECT_EQ(contentsBelow(chosen), before);
         loadFlightFiles(session);
-    }
+    };
+    EXPECT_GT(failEachOperation(install.files, Fault::once, load, check), 10);
 }
 
 } // namespace

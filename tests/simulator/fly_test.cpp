@@ -6,7 +6,6 @@
 #include "sets/options_in_force.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
-#include "sky/sky_sets.h"
 #include "start_record.h"
 #include "support/home_folder.h"
 #include "support/install_test.h"

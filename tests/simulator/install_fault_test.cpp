@@ -1,13 +1,10 @@
-#include "core/store_connection.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
 #include "sets/originals.h"
 #include "support/failing_operations.h"
 #include "support/faulty_store.h"
-#include "support/printing.h"
 #include "support/small_install.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace morvane::test {
 namespace {
@@ -20,8 +17,7 @@ const QStringList dozenFiles =
     u"UTEurLC\\038b2su4.bmp|UTEurLC\\003a2su1.bmp|Texture\\033a2su1.bmp|Texture\\035a2su1.bmp"_s.split(u'|');
 
 /// An install of a dozen files: set A stands in the simulator, set B is put over it, and one operation fails.
-class InstallFaults : public testing::Test {
-protected:
+struct InstallFaults : testing::Test {
     void SetUp() override {
         install.addGroundSet(u"2-Á"_s, u"Overcast"_s, true, dozenFiles);
         install.addGroundSet(u"3-B"_s, u"Sky Clear"_s, true, dozenFiles);
@@ -84,30 +80,22 @@ protected:
 
 /// A kill leaves half a copy behind.
 TEST_F(InstallFaults, everyFileOperationFailsOnceAndFromThenOnOrIsKilled) {
-    enum class Fault { once, forever, kill };
     put("2-Á");
     int faults = 0;
-    for (const Fault fault : {Fault::once, Fault::forever, Fault::kill}) {
-        bool wasHit = true;
-        for (int n = 1; wasHit; ++n, ++faults) {
-            SCOPED_TRACE(n);
-            fault == Fault::kill ? install.files.killAt(n) : install.files.failAt(n, fault == Fault::forever);
-            bool wasKilled = false;
-            try {
-                put("3-B");
-            } catch (const Killed&) {
-                wasKilled = true;
-            }
-            wasHit = wasKilled || install.files.hasFailed();
-            const bool isAsIfMissing = !wasHit || (install.files.failedAtTest() && fault == Fault::once);
-            install.files.failAt(0, false);
-            expectWholeTargets();
-            expectOriginals();
-            expectSoundStore();
-            EXPECT_TRUE(wasKilled || install.user.countOfKind(MessageKind::error) == (isAsIfMissing ? 0 : 1));
-            recover();
-        }
-    }
+    for (const Fault fault : {Fault::once, Fault::forever, Fault::kill})
+        faults += failEachOperation(
+            install.files, fault, [this] { put("3-B"); },
+            [&](int n) {
+                SCOPED_TRACE(n);
+                const bool isTold =
+                    install.files.hasFailed() && (fault == Fault::forever || !install.files.failedAtTest());
+                EXPECT_TRUE(fault == Fault::kill ||
+                            install.user.countOfKind(MessageKind::error) == (isTold ? 1 : 0));
+                expectWholeTargets();
+                expectOriginals();
+                expectSoundStore();
+                recover();
+            });
     EXPECT_GT(faults, 200);
 }
 
@@ -118,10 +106,10 @@ TEST_F(InstallFaults, firstInstallKeepsThePilotsFilesWhateverFails) {
         EXPECT_EQ(contentsBelow(install.simulator()), pilots);
     };
     int failures = 0;
-    for (const bool forever : {false, true}) {
+    for (const Fault fault : {Fault::once, Fault::forever}) {
         restore();
         failures += failEachOperation(
-            install.files, forever, [this] { put("2-Á"); },
+            install.files, fault, [this] { put("2-Á"); },
             [&](int n) {
                 SCOPED_TRACE(n);
                 put("2-Á");
@@ -129,33 +117,6 @@ TEST_F(InstallFaults, firstInstallKeepsThePilotsFilesWhateverFails) {
             });
     }
     EXPECT_GT(failures, 100);
-}
-
-TEST_F(InstallFaults, everyStoreWriteFailsOnceAndFromThenOn) {
-    int failures = 0;
-    for (const bool forever : {false, true})
-        for (int n = 1;; ++n, ++failures) {
-            SCOPED_TRACE(n);
-            install.user.messages.clear();
-            closeDatabase(install.session);
-            int operations = 0;
-            {
-                FaultyStoreDisk disk;
-                connectDatabase(install.session);
-                disk.failAt(n, forever);
-                put("3-B");
-                operations = disk.operations();
-                disk.heal();
-                closeDatabase(install.session);
-            }
-            connectDatabase(install.session);
-            expectSoundStore();
-            if (operations < n) break;
-            expectWholeTargets();
-            EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
-            recover();
-        }
-    EXPECT_GT(failures, 1);
 }
 
 } // namespace

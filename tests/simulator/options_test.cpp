@@ -1,7 +1,6 @@
 #include "core/flag_text.h"
 #include "core/flights_folder.h"
 #include "core/store.h"
-#include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "night/night_texture_sets.h"
 #include "sets/options_in_force.h"

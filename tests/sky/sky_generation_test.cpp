@@ -9,10 +9,8 @@
 #include "sky/sky_selection.h"
 #include "sky/sky_texture_sub_sets.h"
 #include "sky/sky_tuning_state.h"
-#include "support/printing.h"
 #include "support/set_states.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace morvane::test {
 namespace {

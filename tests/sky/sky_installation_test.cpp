@@ -1,6 +1,5 @@
 #include "core/store.h"
 #include "ground/ground_installation.h"
-#include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "sky/sky_installation.h"
 #include "sky/sky_selection.h"

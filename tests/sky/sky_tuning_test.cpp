@@ -10,9 +10,7 @@
 #include "sky/sky_palette_map.h"
 #include "sky/sky_strings.h"
 #include "sky/sky_tuning_state.h"
-#include "support/printing.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace morvane::test {
 namespace {

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "support/printing.h"
 #include "support/small_install.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace morvane::test {
 

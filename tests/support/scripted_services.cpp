@@ -41,9 +41,9 @@ bool FaultyFileSystem::isFailing() {
 
 bool FaultyFileSystem::test() {
     if (!isFailing()) return true;
-    if (isKilling_) throw Killed();
     failedAtTest_ = failedAtTest_ || !hasFailed_;
     hasFailed_ = true;
+    if (isKilling_) throw Killed();
     return false;
 }
 

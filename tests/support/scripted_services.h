@@ -38,6 +38,8 @@ class FaultyFileSystem : public FileSystem {
 public:
     /// Counted from 1 and from now; 0 means never. `forever`: all later ones fail, too.
     void failAt(int n, bool forever);
+    /// Nothing fails any more; what has failed is still told.
+    void heal() { failing_ = 0; }
     /// From now on so many bytes can be written; a file that needs more fails as on a full disk. Below 0, as
     /// at first, the disk has room for everything.
     void leaveRoom(qint64 bytes) { room_ = bytes; }

@@ -3,10 +3,8 @@
 #include "core/attempts.h"
 #include "core/file_fingerprint.h"
 #include "support/failing_operations.h"
-#include "support/printing.h"
 #include "support/small_install.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace morvane::test {
 namespace {
@@ -88,19 +86,8 @@ TEST_F(DeliveryTest, cutOrFailedAnywhereLeavesOldOrNewAndTheNextRunGoesOn) {
     };
     makeInstall();
     const auto work = [&] { attempt([&] { deliver(); }); };
-    EXPECT_GT(failEachOperation(files, false, work, check), 20);
-    for (int n = 1;; ++n) {
-        files.killAt(n);
-        bool isKilled = false;
-        try {
-            deliver();
-        } catch (const Killed&) {
-            isKilled = true;
-        }
-        files.failAt(0, false);
-        check(n);
-        if (!isKilled) break;
-    }
+    for (const Fault fault : {Fault::once, Fault::kill})
+        EXPECT_GT(failEachOperation(files, fault, work, check), 20);
 }
 
 TEST_F(DeliveryTest, comesWithANewerVersionOnly) {

@@ -3,11 +3,10 @@
 #include "core/literals.h"
 #include "sky_art.h"
 #include "splash_screen.h"
-#include "support/printing.h"
+#include "support/testing.h"
 
 #include <QCryptographicHash>
 #include <QSet>
-#include <gtest/gtest.h>
 #include <set>
 
 namespace morvane {

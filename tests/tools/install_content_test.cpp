@@ -1,18 +1,73 @@
-#include "made_install.h"
-
+#include "app/start_up.h"
 #include "core/delivered_list.h"
 #include "core/file_fingerprint.h"
 #include "core/install_lock.h"
+#include "core/registry.h"
 #include "core/row_set.h"
+#include "core/session.h"
 #include "core/store.h"
-#include "support/printing.h"
+#include "core/store_connection.h"
+#include "imaging/bitmap_header.h"
+#include "imaging/picture_reader.h"
+#include "imaging/texture_codec.h"
+#include "night/night_files.h"
+#include "night/night_sets.h"
+#include "sets/catalogue_file.h"
 #include "support/small_install.h"
+#include "support/testing.h"
 
+#include <QProcess>
+#include <memory>
+#include <stdexcept>
 
 namespace morvane::test {
 namespace {
 
-using InstallContent = MadeInstall;
+/// How a run of the content tool ended and what it said.
+struct ToolRun {
+    int status = -1;
+    QString errors;
+};
+
+ToolRun runContentTool(const FilePath& home, const FilePath& simulator, const QStringList& options = {}) {
+    QProcess tool;
+    tool.start(QStringLiteral(MORVANE_BIN_DIR "/morvane-content"),
+               QStringList{u"--home"_s, home.native(), u"--simulator"_s, simulator.native()} + options);
+    tool.waitForFinished(-1);
+    const bool hasExited =
+        tool.exitStatus() == QProcess::NormalExit && tool.error() == QProcess::UnknownError;
+    return {hasExited ? tool.exitCode() : -1, QString::fromUtf8(tool.readAllStandardError())};
+}
+
+/// One whole install of density 1, made once by the real tool for all tests of the program; each of them
+/// leaves it as it was.
+struct InstallContent : testing::Test {
+    static void SetUpTestSuite() {
+        if (root_) return; // another suite has made it
+        root_ = std::make_unique<TemporaryFolder>();
+        const ToolRun run = runContentTool(home(), simulator());
+        if (run.status != 0) throw std::runtime_error("no install: " + run.errors.toStdString());
+    }
+    static FilePath home() { return *root_ / u"Morvane"; }
+    static FilePath simulator() { return *root_ / u"Simulator"; }
+    /// Another place beside them.
+    static FilePath beside(QStringView name) { return *root_ / name; }
+
+    inline static std::unique_ptr<TemporaryFolder> root_;
+    NativeFileSystem files;
+};
+
+/// The same with a session that has been started on the install.
+struct StartedContent : InstallContent {
+    ~StartedContent() override { closeDatabase(session); }
+
+    ScriptedUser user;
+    ScriptedClock clock;
+    ScriptedRandom random;
+    IniRegistry registry{files, home() / u"registry.ini"};
+    Session session{{user, files, clock, random, registry}, home()};
+    bool hasStarted = startUp(session);
+};
 
 TEST_F(InstallContent, isCurrentForItsOwnVersionAndDensityAndOnlyWhenWhole) {
     const auto check = [&](const FilePath& simulator, const QString& density) {
@@ -99,9 +154,7 @@ TEST_F(InstallContent, cutShortIsNotTakenForWhole) {
     expectRefusal(cut, cutSimulator, cut.text());
 }
 
-using DeliveredRows = StartedInstall;
-
-TEST_F(DeliveredRows, haveTheirTextsBehindAFirstRunWithoutAQuestion) {
+TEST_F(StartedContent, deliveredRowsHaveTheirTextsBehindAFirstRunWithoutAQuestion) {
     EXPECT_TRUE(hasStarted);
     EXPECT_EQ(user.countOfKind(MessageKind::question), 0);
     const QString delivered = files.read(FilePath(QStringLiteral(MORVANE_TEST_FOLDER "/delivered_rows.txt")));
@@ -119,6 +172,63 @@ TEST_F(DeliveredRows, haveTheirTextsBehindAFirstRunWithoutAQuestion) {
         }
         EXPECT_EQ(found, lines);
     }
+}
+
+const QStringList resourceFolders{u"GENERIC WORLD"_s, u"UT EUROPE"_s,           u"UTIND"_s,
+                                  u"DUTCH"_s,         u"GENERIC WORLD NIGHT"_s, u"DUTCH NIGHT"_s};
+constexpr int textureSize = 43778; ///< of 256 x 256 pixels with all levels
+/// One file in eight is compressed again: all of them would take as long as making the install.
+bool isSampled(const QString& name) {
+    return qChecksum(name.toLatin1()) % 8 == 0;
+}
+
+BitmapHeader headerOf(const QByteArray& file) {
+    return readBitmapHeader(
+        {reinterpret_cast<const std::uint8_t*>(file.constData()), static_cast<std::size_t>(file.size())});
+}
+
+TEST_F(InstallContent, everyBaseImageHasItsBodyAndTheBodyShowsIt) {
+    for (const QString& folder : resourceFolders) {
+        const FilePath resources = (home() / u"Resources").child(folder), bodies = home().child(folder);
+        const QStringList names = files.list(resources, u"*.*"_s);
+        EXPECT_FALSE(names.isEmpty());
+        EXPECT_EQ(files.list(bodies, u"*.*"_s), names);
+        for (const QString& name : names) {
+            const QByteArray base = files.read(resources.child(name)), body = files.read(bodies.child(name));
+            const BitmapHeader header = headerOf(base);
+            ASSERT_TRUE(header.kind == PixelKind::plain && header.bitsPerPixel == 24) << name.toStdString();
+            ASSERT_EQ(std::pair(header.width, header.height), std::pair(256, 256)) << name.toStdString();
+            EXPECT_EQ(body.size(), textureSize);
+            if (isSampled(name)) {
+                EXPECT_EQ(body, compressTexture(readPicture(base))) << name.toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(InstallContent, deliveredFlightsAndSkiesStandTwice) {
+    const std::tuple<FilePath, FilePath, int> copies[] = {
+        {home() / u"Resources\\Sky\\Default", home() / u"Sky Texture Sets\\Default", 24},
+        {home() / u"Flights", simulator() / u"Flights\\Morvane", 6}};
+    for (const auto& [one, other, count] : copies) {
+        EXPECT_EQ(contentsBelow(one).size(), count);
+        EXPECT_TRUE(contentsBelow(one) == contentsBelow(other)) << one.text().toStdString();
+    }
+}
+
+TEST_F(StartedContent, deliveredNightSetsHaveTheirFiles) {
+    QStringList contents;
+    for (const auto& set : loadedNightSets(session)) {
+        if (set->TextureSet == u"Default") continue;
+        for (const CatalogueFile& file : popNightTextureList(session, set->TextureSet))
+            EXPECT_TRUE(files.exists(file.targetFolder.child(file.fileName)))
+                << set->TextureSet.toStdString() << ' ' << file.fileName.toStdString();
+        contents << files.read(nightSetFolder(session, set->TextureSet) / u"Texture\\029b2lm1.bmp").toHex();
+    }
+    contents.removeDuplicates();
+    EXPECT_EQ(contents.size(), 4) << "no two have the same colours";
+    for (const QString& folder : NightKind::facts().subfolders)
+        EXPECT_TRUE(files.list(home() / u"TempBitmaps" / folder, u"*.*"_s).isEmpty());
 }
 
 } // namespace

@@ -11,8 +11,7 @@ namespace morvane::test {
 namespace {
 
 /// One skin, written once for all tests.
-class SkinFiles : public testing::Test {
-protected:
+struct SkinFiles : testing::Test {
     static void SetUpTestSuite() {
         folder_ = std::make_unique<TemporaryFolder>();
         NativeFileSystem().makeFolder(media());
@@ -27,11 +26,8 @@ protected:
 
     NativeFileSystem files;
 
-private:
-    static std::unique_ptr<TemporaryFolder> folder_;
+    inline static std::unique_ptr<TemporaryFolder> folder_;
 };
-
-std::unique_ptr<TemporaryFolder> SkinFiles::folder_;
 
 /// A pixel in whose mixture the key colour took part is much redder and bluer than green; nothing else in the
 /// skin is.

@@ -1,5 +1,5 @@
 #include "core/literals.h"
-#include "support/printing.h"
+#include "support/testing.h"
 #include "ui/controls/foot_line.h"
 #include "ui/controls/slider.h"
 #include "ui/controls/wrapped_tip.h"
@@ -11,7 +11,6 @@
 #include <QToolTip>
 #include <QWheelEvent>
 #include <functional>
-#include <gtest/gtest.h>
 
 namespace morvane {
 namespace {
@@ -76,8 +75,7 @@ TEST(WrappedTip, linesAreNoWiderThanAskedAndKeepEveryWord) {
 }
 
 /// A slider as the colour pages have it; it counts what it tells.
-class SliderTest : public testing::Test {
-protected:
+struct SliderTest : testing::Test {
     SliderTest() {
         slider.resize(100, 20);
         slider.show();

@@ -3,11 +3,9 @@
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "simulator/texture_switches.h"
-#include "sky/sky_sets.h"
 #include "walk/walk_tables.h"
-#include "weather/directory_rows.h"
 #include "weather/reports.h"
-#include "weather/stored_reports.h"
+#include "weather/weather_rows.h"
 
 namespace morvane::test {
 

@@ -9,7 +9,6 @@
 #include "simulator/simulator_launch.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_generation.h"
-#include "ui/host_form.h"
 #include "weather/cover_choice.h"
 #include "weather/decoded_lines.h"
 #include "weather/weather_refresh.h"

@@ -1,10 +1,9 @@
-#include "core/session.h"
 #include "sets/cloud_cover.h"
 #include "simulator/set_matching.h"
 #include "support/install_test.h"
 #include "weather/cover_choice.h"
 #include "weather/flight_plan.h"
-#include "weather/stored_reports.h"
+#include "weather/weather_rows.h"
 #include "weather/weather_state.h"
 
 namespace morvane::test {

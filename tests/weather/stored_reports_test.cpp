@@ -1,6 +1,5 @@
 #include "core/error.h"
 #include "core/registry.h"
-#include "core/session.h"
 #include "core/store.h"
 #include "support/install_test.h"
 #include "weather/airport_report.h"
@@ -12,7 +11,7 @@
 #include "weather/report_filter.h"
 #include "weather/report_rows.h"
 #include "weather/reports.h"
-#include "weather/stored_reports.h"
+#include "weather/weather_rows.h"
 #include "weather/weather_state.h"
 
 namespace morvane::test {

@@ -16,13 +16,11 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTreeWidget>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {
 
-class EveryScreen : public testing::Test {
-protected:
+struct EveryScreen : testing::Test {
     void SetUp() override {
         for (const QString& name : formNames()) {
             Form* form = program.shell.form(name);

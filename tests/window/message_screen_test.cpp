@@ -9,7 +9,6 @@
 #include <QCheckBox>
 #include <QMessageBox>
 #include <QPushButton>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

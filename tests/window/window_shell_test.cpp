@@ -1,4 +1,3 @@
-#include "support/printing.h"
 #include "support/window_program.h"
 
 #include "core/store.h"
@@ -8,13 +7,11 @@
 #include "ground/texture_sets.h"
 #include "sets/options_in_force.h"
 #include "ui/controls/foot_line.h"
-#include "ui/host_form.h"
 #include "window/form_table.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

@@ -5,7 +5,6 @@
 #include "sets/screens/sample_options.h"
 #include "ui/controls/labels.h"
 
-#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QLabel>
 
@@ -42,7 +41,6 @@ void frm_SelectTexture::prepare() {
     checkSample(*seasons_, sampleSeasons(), session().state<GroundSampleChoice>().selectedSeason);
     // The page begins with a city, and so does the dialog.
     checkSample(*types_, sampleTextureTypes(), session().state<GroundSampleChoice>().selectedTextureType);
-    setFirstFocus(seasons_->checkedButton());
 }
 
 void frm_SelectTexture::confirm() {

@@ -5,7 +5,6 @@
 #include "sets/screens/sample_options.h"
 #include "ui/controls/labels.h"
 
-#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QLabel>
 
@@ -31,7 +30,6 @@ frm_SelectNightTexture::frm_SelectNightTexture(Shell& shell)
 
 void frm_SelectNightTexture::prepare() {
     checkSample(*samples_, nightSamples(), session().state<NightSampleChoice>().selectedNightTexture);
-    setFirstFocus(samples_->checkedButton());
 }
 
 void frm_SelectNightTexture::confirm() {

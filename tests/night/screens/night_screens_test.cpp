@@ -1,12 +1,10 @@
 #include "night/night_selection.h"
 #include "night/screens/night_sets_screen.h"
 #include "sets/colour_settings.h"
-#include "support/printing.h"
 #include "support/window_program.h"
 #include "ui/controls/slider.h"
 
 #include <QRadioButton>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

@@ -1,13 +1,11 @@
 #include "core/store.h"
 #include "sets/options_in_force.h"
 #include "simulator/backup_restore.h"
-#include "support/printing.h"
 #include "support/window_program.h"
 #include "ui/controls/set_table.h"
 
 #include <QCheckBox>
 #include <QPushButton>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

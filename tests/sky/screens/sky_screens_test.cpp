@@ -5,7 +5,6 @@
 #include "sky/sky_groups.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_tuning_state.h"
-#include "support/printing.h"
 #include "support/window_program.h"
 #include "ui/controls/set_table.h"
 #include "ui/controls/slider.h"
@@ -14,7 +13,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {

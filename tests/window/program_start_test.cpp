@@ -1,12 +1,14 @@
-#include "window/first_start.h"
-
 #include "core/install_lock.h"
+#include "core/literals.h"
 #include "core/store_connection.h"
 #include "support/small_install.h"
+#include "support/testing.h"
 #include "ui/dialog_form.h"
 #include "ui/skin.h"
 #include "window/content_update.h"
+#include "window/first_start.h"
 #include "window/program.h"
+#include "window/window_line.h"
 #include "window/window_shell.h"
 #include "window/window_user.h"
 
@@ -14,14 +16,56 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProcess>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
 #include <functional>
-#include <gtest/gtest.h>
 
 namespace morvane::test {
 namespace {
+
+TEST(WindowLine, wordsAreACoverCodeButForThoseWithADash) {
+    const std::tuple<QStringList, QString, QString, QString> cases[] = {
+        // words; home, cover code, slip
+        {{u"fog"_s}, {}, u"fog"_s, {}}, // unknown, and taken: wanted
+        {{u"OVC"_s, u"010"_s}, {}, u"OVC 010"_s, {}},
+        {{u"OVC"_s, u"--home=/a b"_s}, u"/a b"_s, u"OVC"_s, {}},
+        {{u"--hlep"_s}, {}, {}, u"Unknown option 'hlep'."_s},
+        {{u"--"_s, u"-OVC"_s}, {}, u"-OVC"_s, u"Unknown option '-OVC'."_s},
+        {{u"--home"_s}, {}, {}, u"Missing value after '--home'."_s},
+        {{u"--home="_s}, {}, {}, u"--home stands without its value"_s},
+    };
+    for (const auto& [words, home, coverCode, slip] : cases) {
+        const WindowLine line = readWindowLine(words);
+        EXPECT_EQ((QStringList{line.home, line.coverCode, line.slip, line.output}),
+                  (QStringList{home, coverCode, slip, {}}))
+            << words.join(u' ').toStdString();
+    }
+}
+
+TEST(WindowLine, theProgramAnswersWithoutADisplay) {
+    const std::tuple<QString, int, QByteArray, QByteArray> cases[] = {
+        {u"--help"_s, 0, "Usage: morvane [--home DIR]", ""},
+        {u"--version"_s, 0, "morvane 2.", ""},
+        {u"--hlep"_s, 2, "", "morvane: Unknown option 'hlep'.\n"},
+    };
+    for (const auto& [word, status, output, errors] : cases) {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"MORVANE_HOME"_s, u"/nowhere at all"_s);
+        for (const QString& display : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+            environment.remove(display);
+        if (status != 0) environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(MORVANE_BIN_DIR "/morvane"), {word});
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitCode(), status) << word.toStdString();
+        const QByteArray said = program.readAllStandardOutput();
+        EXPECT_TRUE(said.startsWith(output) && said.isEmpty() == output.isEmpty()) << said.constData();
+        EXPECT_TRUE(program.readAllStandardError().replace("\r\n", "\n").endsWith(errors));
+    }
+}
 
 /// Cancels a progress that shows as soon as that is wanted, and counts the boxes that it accepts.
 struct Hand {

@@ -2,9 +2,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <gtest/gtest.h>
 #include <ostream>
 
-// How GoogleTest shows Qt's texts; found beside their own (global) types.
+// GoogleTest, and how it shows Qt's texts: found beside their own (global) types.
 inline void PrintTo(const QString& text, std::ostream* out) {
     *out << '"' << text.toStdString() << '"';
 }
