@@ -11,7 +11,7 @@
 #include "sky/sky_installation.h"
 #include "sky/sky_tuning_state.h"
 #include "support/home_folder.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 #include "support/wine_prefix.h"
 #include "weather/cover_choice.h"
 

@@ -22,7 +22,6 @@
 #include "sky/sky_installation.h"
 #include "support/night_install.h"
 #include "support/small_install.h"
-#include "support/testing.h"
 
 #include <QDirIterator>
 #include <QFileInfo>

@@ -4,9 +4,7 @@
 #include "ground/ground_sets.h"
 #include "night/night_sets.h"
 #include "sky/sky_sets.h"
-#include "support/set_states.h"
 #include "support/small_install.h"
-#include "support/testing.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -9,7 +9,6 @@
 #include "ground/texture_sets.h"
 #include "sets/options_in_force.h"
 #include "support/small_install.h"
-#include "support/testing.h"
 
 #include <QCoreApplication>
 

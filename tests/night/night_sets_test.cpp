@@ -4,8 +4,8 @@
 #include "night/night_sets.h"
 #include "night/night_tuning.h"
 #include "sets/options_in_force.h"
-#include "support/install_test.h"
 #include "support/night_install.h"
+#include "support/small_install.h"
 
 namespace morvane::test {
 namespace {

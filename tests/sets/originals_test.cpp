@@ -5,7 +5,6 @@
 #include "ground/ground_sets.h"
 #include "support/small_install.h"
 #include "support/system_files.h"
-#include "support/testing.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -12,8 +12,8 @@
 #include "sets/temp_bitmaps.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
-#include "support/install_test.h"
 #include "support/night_install.h"
+#include "support/small_install.h"
 #include "support/system_files.h"
 
 #include <QDir>

@@ -8,8 +8,7 @@
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/simulator_restore.h"
-#include "support/failing_operations.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 
 #include <QDir>
 #include <fstream>

@@ -1,8 +1,8 @@
 #include "core/store.h"
 #include "simulator/base_install.h"
 #include "simulator/base_install_rows.h"
-#include "support/install_test.h"
 #include "support/night_install.h"
+#include "support/small_install.h"
 
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"

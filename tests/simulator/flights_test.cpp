@@ -3,8 +3,7 @@
 #include "core/error.h"
 #include "core/flights_folder.h"
 #include "sets/options_in_force.h"
-#include "support/failing_operations.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 
 #include <QFile>
 

@@ -8,7 +8,7 @@
 #include "simulator/simulator_launch.h"
 #include "start_record.h"
 #include "support/home_folder.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 #include "support/system_files.h"
 #include "support/wine_prefix.h"
 

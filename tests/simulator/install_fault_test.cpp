@@ -1,10 +1,8 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
 #include "sets/originals.h"
-#include "support/failing_operations.h"
 #include "support/faulty_store.h"
 #include "support/small_install.h"
-#include "support/testing.h"
 
 namespace morvane::test {
 namespace {

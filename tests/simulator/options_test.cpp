@@ -9,8 +9,8 @@
 #include "simulator/options.h"
 #include "simulator/simulator_restore.h"
 #include "simulator/texture_switches.h"
-#include "support/install_test.h"
 #include "support/night_install.h"
+#include "support/small_install.h"
 
 namespace morvane::test {
 namespace {

@@ -3,8 +3,7 @@
 #include "imaging/texture_codec.h"
 #include "simulator/backup_files.h"
 #include "simulator/stock_requests.h"
-#include "support/failing_operations.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 #include "support/system_files.h"
 
 #include <QFile>

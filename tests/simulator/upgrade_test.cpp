@@ -8,9 +8,8 @@
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
 #include "sets/resource_folders.h"
-#include "support/failing_operations.h"
 #include "support/faulty_store.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 
 namespace morvane::test {
 namespace {

@@ -5,7 +5,7 @@
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
 #include "sky/sky_texture_sets.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 
 namespace morvane::test {
 namespace {

@@ -4,7 +4,6 @@
 #include "core/store.h"
 #include "night/night_sets.h"
 #include "night/night_texture_sets.h"
-#include "support/set_states.h"
 #include "support/small_install.h"
 
 namespace morvane::test {

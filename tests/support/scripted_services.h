@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "core/error.h"
 #include "core/file_system.h"
+#include "support/system_files.h"
 
 #include <atomic>
 #include <deque>
@@ -102,5 +103,24 @@ private:
     bool forever_ = false, isKilling_ = false;
     std::atomic<bool> hasFailed_ = false, failedAtTest_ = false;
 };
+
+enum class Fault { once, forever, kill };
+
+/// Does `work` with its first file operation failing, then its second and so on, until none did; `check`
+/// looks at what each run left, with healed files, and takes the operation's number. Returns how many failed.
+template <class Work, class Check>
+int failEachOperation(FaultyFileSystem& files, Fault fault, Work work, Check check) {
+    for (int n = 1;; n += faultStride) {
+        fault == Fault::kill ? files.killAt(n) : files.failAt(n, fault == Fault::forever);
+        try {
+            work();
+        } catch (const Killed&) {
+        }
+        const bool hasFailed = files.hasFailed();
+        files.heal();
+        check(n);
+        if (!hasFailed) return n - 1;
+    }
+}
 
 } // namespace morvane::test

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "core/flag_text.h"
 #include "core/registry.h"
 #include "core/session.h"
+#include "sets/set_kind.h"
 #include "support/scripted_services.h"
 #include "support/scripted_user.h"
 #include "support/temporary_folder.h"
+#include "support/testing.h"
 
 namespace morvane::test {
 
@@ -48,6 +51,26 @@ public:
     IniRegistry registry;
     Session session;
 };
+
+/// A test of what a session does on a small install.
+struct InstallTest : testing::Test {
+    explicit InstallTest(const SmallInstallOptions& options = {}) : install(options) {}
+
+    SmallInstall install;
+    Session& session = install.session;
+    ScriptedUser& user = install.user;
+};
+
+/// All sets of the kind in the store, "+" behind an activated and "*" behind an installed one.
+template <class Kind>
+QString setStates(Session& session) {
+    refreshSets<Kind>(session);
+    QStringList names;
+    for (const auto& set : loadedSets<Kind>(session))
+        names << nameOf(*set) + (activationOf(*set) == flagText(true) ? u"+"_s : QString()) +
+                     (set->Installed ? u"*"_s : QString());
+    return names.join(u' ');
+}
 
 /// A picture file of one colour with a few marks, 24 bits.
 QByteArray smallBitmap(int side, int shade);

@@ -6,7 +6,6 @@
 #include "sky/sky_install.h"
 #include "sky/sky_selection.h"
 #include "support/night_install.h"
-#include "support/testing.h"
 #include "ui/controls/picture_frame.h"
 #include "ui/controls/set_table.h"
 #include "ui/dialog_form.h"

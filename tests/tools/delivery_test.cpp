@@ -2,9 +2,7 @@
 
 #include "core/attempts.h"
 #include "core/file_fingerprint.h"
-#include "support/failing_operations.h"
 #include "support/small_install.h"
-#include "support/testing.h"
 
 namespace morvane::test {
 namespace {

@@ -14,7 +14,6 @@
 #include "night/night_sets.h"
 #include "sets/catalogue_file.h"
 #include "support/small_install.h"
-#include "support/testing.h"
 
 #include <QProcess>
 #include <memory>

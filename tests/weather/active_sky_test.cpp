@@ -1,4 +1,4 @@
-#include "support/install_test.h"
+#include "support/small_install.h"
 #include "weather/active_sky.h"
 
 #include "weather/reports.h"

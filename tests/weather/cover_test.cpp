@@ -1,6 +1,6 @@
 #include "sets/cloud_cover.h"
 #include "simulator/set_matching.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 #include "weather/cover_choice.h"
 #include "weather/flight_plan.h"
 #include "weather/weather_rows.h"

@@ -4,7 +4,7 @@
 #include "core/store_connection.h"
 #include "loopback_server.h"
 #include "support/faulty_store.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 #include "weather/cycle_download.h"
 #include "weather/reports.h"
 #include "weather/weather_refresh.h"

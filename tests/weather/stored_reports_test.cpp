@@ -1,7 +1,7 @@
 #include "core/error.h"
 #include "core/registry.h"
 #include "core/store.h"
-#include "support/install_test.h"
+#include "support/small_install.h"
 #include "weather/airport_report.h"
 #include "weather/coordinates.h"
 #include "weather/decoded_lines.h"
@@ -204,17 +204,9 @@ TEST_F(WxFilterTest, whatEachWordFinds) {
     };
     for (const auto& [lists, tick, stations] : cases) {
         const QStringList words = lists.split(u'|');
-        filter = {words[0],
-                  words[1],
-                  words[2],
-                  words[3],
-                  tick == u"towering",
-                  tick == u"cumulonimbus",
-                  tick == u"cumulus",
-                  {},
-                  25,
-                  true,
-                  {}};
+        const bool isTowering = tick == u"towering", isCb = tick == u"cumulonimbus",
+                   isCu = tick == u"cumulus";
+        filter = {words[0], words[1], words[2], words[3], isTowering, isCb, isCu, {}, 25, true, {}};
         EXPECT_EQ(found(), stations) << (lists + tick).toStdString();
     }
     openWxFilter(session);

@@ -2,7 +2,6 @@
 #include "core/literals.h"
 #include "core/store_connection.h"
 #include "support/small_install.h"
-#include "support/testing.h"
 #include "ui/dialog_form.h"
 #include "ui/skin.h"
 #include "window/content_update.h"

@@ -1,17 +1,25 @@
 #include "support/window_program.h"
 
+#include "core/job.h"
 #include "core/store.h"
 #include "ground/ground_selection.h"
 #include "ground/ground_sets.h"
 #include "ground/screens/ground_sets_screen.h"
 #include "ground/texture_sets.h"
 #include "sets/options_in_force.h"
+#include "simulator/options.h"
 #include "ui/controls/foot_line.h"
+#include "ui/controls/skinned_progress_bar.h"
+#include "weather/weather_state.h"
 #include "window/form_table.h"
+#include "window/message_screen.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 
 namespace morvane::test {
 namespace {
@@ -77,26 +85,6 @@ TEST_F(ShellTest, hasOneLineBelowThePageInEveryWindow) {
     QTest::mouseClick(shell.form(u"frm_Main"_s), Qt::RightButton);
     EXPECT_EQ(lineOf(u"frm_MVTextures"_s), QString());
     EXPECT_EQ(lineOf(u"frm_Main"_s), u"a text of its own"_s);
-}
-
-TEST_F(ShellTest, theInstallKeyInstallsWhatIsSelected) {
-    const QString host = u"frm_NightTextures"_s;
-    addNightSet(program.install, u"2-Red"_s, true, {u"Texture\\008b2lm1.bmp"_s});
-    addNightSet(program.install, u"3-Blue"_s, false);
-    program.press(u"frm_Main"_s, u"btn_NightTextures"_s);
-    auto& table = program.control<SetTable>(host, u"lstTextureSets"_s);
-    EXPECT_EQ(shell.form(host)->focusWidget(), &table) << "the keyboard is on the page";
-    clickRow(table, 1);
-    program.press(host, u"btn_TextureInstall"_s);
-    EXPECT_EQ(nightSets(program.install.session), u"2-Red+* 3-Blue"_s);
-    EXPECT_EQ(table.columnCount(), 2);
-    EXPECT_EQ(table.storedColour(1), qRgb(255, 0, 0));
-    EXPECT_EQ(table.storedColour(2), qRgb(0, 101, 161));
-    EXPECT_EQ(program.text(host, u"lblFavDescription"_s), u"A night of a test"_s);
-    EXPECT_NE(program.picture(host, u"picTextureSetSource"_s),
-              program.picture(host, u"picTextureSetResult"_s));
-    program.press(host, u"btn_Main"_s);
-    EXPECT_EQ(program.text(u"frm_Main"_s, u"lblCurrentNightTSName"_s), u"2-Red"_s);
 }
 
 TEST_F(ShellTest, asksBeforeMoreThanTwentySets) {
@@ -176,6 +164,90 @@ TEST_F(ShellTest, aFolderIsNamedAsTheSystemNamesIt) {
     });
     answer.start(0);
     EXPECT_EQ(program.user.browseForFolder(home), QDir::toNativeSeparators(home));
+}
+
+const QString name = u"frm_Msg"_s;
+
+struct MessageScreenTest : testing::Test {
+    frm_Msg& form() { return program.shell.screen<frm_Msg>(name); }
+    template <class Control>
+    Control& control(const QString& part) {
+        return program.control<Control>(name, part);
+    }
+    /// Answers the system box that comes next.
+    void answerBox(QMessageBox::StandardButton button) {
+        auto* timer = new QTimer(&program.shell);
+        timer->callOnTimeout([timer, button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            timer->deleteLater();
+            EXPECT_EQ(box->text(), u"Do you wish cancel the current operation?"_s);
+            box->button(button)->click();
+        });
+        timer->start(0);
+    }
+
+    WindowProgram program;
+    UserAnswers& answers = program.user.answers();
+    const Message plain{MessageKind::information, u"t"_s, u"x"_s};
+    Message question{MessageKind::question, u"t"_s, u"x"_s, true, true};
+    Message progress{MessageKind::progress, u"Working"_s, u"Please wait"_s, false, true, true};
+};
+
+TEST_F(MessageScreenTest, asksBeforeItCancelsAndOnlyWhereThatIsOffered) {
+    Job job(program.session);
+    program.user.showMessage(progress);
+    answerBox(QMessageBox::Cancel);
+    control<QPushButton>(u"cmdCancel"_s).click();
+    EXPECT_FALSE(job.isCancelled());
+    answerBox(QMessageBox::Ok);
+    QTest::keyClick(&form(), Qt::Key_Escape);
+    EXPECT_TRUE(job.isCancelled());
+    EXPECT_TRUE(form().isVisible()) << "the job ends it, not the click";
+    answers.cancelRequested = false;
+    progress.withCancel = false;
+    program.user.showMessage(progress);
+    QTest::keyClick(&form(), Qt::Key_Escape);
+    EXPECT_TRUE(form().isVisible());
+    EXPECT_FALSE(answers.cancelRequested);
+    program.user.hideMessage();
+}
+
+TEST_F(MessageScreenTest, hasNoBarWhileActiveSkyWorksAndIsCancelledWithoutAQuestion) {
+    for (const bool isBusy : {false, true}) {
+        program.session.state<WeatherState>().ASv6Busy = isBusy;
+        program.user.showMessage(progress);
+        EXPECT_EQ(control<SkinnedProgressBar>({}).isHidden(), isBusy);
+    }
+    EXPECT_EQ(control<QPushButton>(u"cmdCancel"_s).text(), u"Cancel"_s);
+    QTest::keyClick(&form(), Qt::Key_Escape);
+    EXPECT_TRUE(answers.cancelRequested);
+    program.user.hideMessage();
+}
+
+TEST_F(MessageScreenTest, anUnattendedRunTellsItsMessagesOnStandardError) {
+    program.session.writing->isUnattended = true;
+    testing::internal::CaptureStderr();
+    program.confirmNext(name);
+    program.user.showMessage(plain);
+    program.user.showMessage(progress);
+    program.user.hideMessage();
+    const QString told = QString::fromStdString(testing::internal::GetCapturedStderr());
+    EXPECT_TRUE(told.contains(u"t: x\n"_s)) << told.toStdString();
+    EXPECT_FALSE(told.contains(u"Working"_s)) << "nobody is there to watch it";
+}
+
+TEST_F(MessageScreenTest, storesTheWishForAFastExitAtOnce) {
+    question.offersFastExit = true;
+    program.whenShown(name, [&](DialogForm& dialog) {
+        auto& box = control<QCheckBox>(u"chkFastExit"_s);
+        EXPECT_FALSE(box.isChecked()) << "it comes up clear";
+        box.setChecked(true);
+        box.setChecked(false);
+        dialog.cancel();
+    });
+    program.user.showMessage(question);
+    EXPECT_TRUE(storedSwitch(program.session, &OptionsInForce::IsFastExit)) << "clearing it writes nothing";
 }
 
 } // namespace

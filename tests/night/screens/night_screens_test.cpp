@@ -35,6 +35,20 @@ struct NightScreensTest : testing::Test {
     WindowProgram program;
 };
 
+TEST_F(NightScreensTest, theListInstallsWhatIsSelected) {
+    auto& table = program.control<SetTable>(hostName, u"lstTextureSets"_s);
+    EXPECT_EQ(program.shell.form(hostName)->focusWidget(), &table) << "the keyboard is on the page";
+    clickRow(table, 2);
+    program.press(hostName, u"btn_TextureInstall"_s);
+    EXPECT_EQ(table.storedColour(2), qRgb(255, 0, 0));
+    EXPECT_EQ(table.storedColour(3), qRgb(0, 101, 161));
+    EXPECT_EQ(program.text(hostName, u"lblFavDescription"_s), u"A night of a test"_s);
+    EXPECT_NE(program.picture(hostName, u"picTextureSetSource"_s),
+              program.picture(hostName, u"picTextureSetResult"_s));
+    program.press(hostName, u"btn_Main"_s);
+    EXPECT_EQ(program.text(u"frm_Main"_s, u"lblCurrentNightTSName"_s), u"2-Red"_s);
+}
+
 TEST_F(NightScreensTest, lightsSetTheSlidersWhichAHandMovesAndAnotherClickSetsAnew) {
     openPage();
     EXPECT_EQ(colours(), u"0:0:0:0:0:0"_s) << "and no longer those of the list's set";
