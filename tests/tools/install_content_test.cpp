@@ -42,17 +42,17 @@ ToolRun runContentTool(const FilePath& home, const FilePath& simulator, const QS
 /// leaves it as it was.
 struct InstallContent : testing::Test {
     static void SetUpTestSuite() {
-        if (root_) return; // another suite has made it
-        root_ = std::make_unique<TemporaryFolder>();
+        if (root) return; // another suite has made it
+        root = std::make_unique<TemporaryFolder>();
         const ToolRun run = runContentTool(home(), simulator());
         if (run.status != 0) throw std::runtime_error("no install: " + run.errors.toStdString());
     }
-    static FilePath home() { return *root_ / u"Morvane"; }
-    static FilePath simulator() { return *root_ / u"Simulator"; }
+    static FilePath home() { return *root / u"Morvane"; }
+    static FilePath simulator() { return *root / u"Simulator"; }
     /// Another place beside them.
-    static FilePath beside(QStringView name) { return *root_ / name; }
+    static FilePath beside(QStringView name) { return *root / name; }
 
-    inline static std::unique_ptr<TemporaryFolder> root_;
+    inline static std::unique_ptr<TemporaryFolder> root;
     NativeFileSystem files;
 };
 
