@@ -44,8 +44,8 @@ using TextPair = std::pair<const char*, const char*>;
 TEST(TextCollation, orderWithoutRegardToCase) {
     // Also letters beyond ASCII whose small one is in it (the Kelvin sign), beyond 16 bits, and no letters.
     const TextPair equal[] = {
-        {"storm", "STORM"}, {"", ""},        {"Zürich", "ZÜRICH"},         {"łódź", "ŁÓDŹ"},
-        {"жук", "ЖУК"},     {"\u212A", "k"}, {"\U00010400", "\U00010428"}, {"\xff", "\xff"},
+        {"jazz", "JAZZ"}, {"", ""},        {"Zürich", "ZÜRICH"},         {"łódź", "ŁÓDŹ"},
+        {"жук", "ЖУК"},   {"\u212A", "k"}, {"\U00010400", "\U00010428"}, {"\xff", "\xff"},
     };
     for (const auto& [left, right] : equal)
         EXPECT_EQ(compareWithoutCase(left, right), 0) << left << " : " << right;

@@ -32,6 +32,9 @@ struct ShellTest : testing::Test {
 TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
     program.press(u"frm_Main"_s, u"btn_FlightConfig"_s);
     program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    EXPECT_EQ(shell.form(u"frm_MVTextures"_s)->focusWidget(),
+              &program.control<SetTable>(u"frm_MVTextures"_s, u"lstTextureSets"_s))
+        << "the keyboard is on the page";
     program.press(u"frm_MVTextures"_s, u"btn_Main"_s);
     const Form* weather = shell.loadedForm(u"frm_WxControl"_s);
     EXPECT_TRUE(weather->isVisible());

@@ -37,7 +37,6 @@ struct NightScreensTest : testing::Test {
 
 TEST_F(NightScreensTest, theListInstallsWhatIsSelected) {
     auto& table = program.control<SetTable>(hostName, u"lstTextureSets"_s);
-    EXPECT_EQ(program.shell.form(hostName)->focusWidget(), &table) << "the keyboard is on the page";
     clickRow(table, 2);
     program.press(hostName, u"btn_TextureInstall"_s);
     EXPECT_EQ(table.storedColour(2), qRgb(255, 0, 0));
