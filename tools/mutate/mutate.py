@@ -10,8 +10,9 @@ seed, or read from an earlier report, so that two measurements are of the same c
 build/mutate and changed there; a change that does not compile is taken out. MORVANE_MUTANT=N wakes number N.
 
 rooms.tsv names the programs that test each room, those of few seconds first, `program:filter` with a filter of
-GoogleTest, or a session of tests/screen with its word, which counts where a display can be had. What cannot be noticed (a change that leaves the meaning, or one of speed alone) stands in unnoticeable.tsv
-with the reason and is taken out of the sum.
+GoogleTest, or a session of tests/screen with its word, which counts where a display can be had. What cannot be
+noticed (a change that leaves the meaning, or one of speed alone) stands in unnoticeable.tsv with the reason and is
+taken out of the sum.
 """
 
 import argparse
