@@ -7,6 +7,14 @@ if(MORVANE_PRECOMPILED_HEADERS AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-fpch-preprocess)
 endif()
 
+# What is left of a small file's time is mostly the reading of that header: four files are compiled as one. Not for
+# Windows, whose own files no machine of ours compiles every day, nor in the preset "plain".
+option(MORVANE_JOINED_SOURCES "Compile the programs' sources by fours" ${MORVANE_PRECOMPILED_HEADERS})
+if(MORVANE_JOINED_SOURCES AND NOT WIN32)
+    set(joined_sources ON)
+endif()
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 4)
+
 set(morvane_engine_headers
     <algorithm> <array> <cmath> <cstdint> <functional> <memory> <optional> <span> <string> <vector>
     <QDateTime> <QDir> <QFile> <QFileInfo> <QHash> <QImage> <QJsonArray> <QJsonObject> <QString> <QStringList>)

@@ -11,7 +11,7 @@ namespace morvane {
 namespace {
 
 // The refusal speaks of a sky set: the message's own word.
-const InstallationKind groundKind{
+const InstallationKind groundCopies{
     u"Morvane has detected more than one selection for installation.  You can only select one sky texture "
     "set to be installed at any one time.  Please check your selection and try again!."_s,
     // Without any sky set no sky is touched; a sky that asks for its ground has no such way out. Wanted.
@@ -21,7 +21,7 @@ const InstallationKind groundKind{
 } // namespace
 
 GroundInstallation::GroundInstallation(Session& session)
-    : SetInstallation(session, setKind<GroundKind>(), groundKind) {}
+    : SetInstallation(session, setKind<GroundKind>(), groundCopies) {}
 
 Reported GroundInstallation::installSet(const QString& name) {
     if (!refreshGroundSets(session_)) return false;

@@ -5,6 +5,9 @@
 
 namespace morvane {
 
+/// Pixels of a side of a compressed block.
+inline constexpr int blockSide = 4;
+
 /// Sixty-four blocks of four by four pixels, side by side, as three planes of bytes: four pixels of one
 /// channel of one row of a block are one word, and the next word is the next block's. So a register holds the
 /// same pixels of many blocks without any shuffling.

@@ -1,3 +1,4 @@
+#include "imaging/block_group.h"
 #include "imaging/pixel_rows.h"
 
 #include <algorithm>
@@ -7,7 +8,6 @@ namespace morvane {
 
 namespace {
 
-constexpr int blockSide = 4;
 constexpr std::size_t colourBlockSize = 8;
 
 using Colour = std::array<std::uint8_t, 3>; // blue, green, red, as in the picture

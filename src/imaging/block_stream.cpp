@@ -7,12 +7,6 @@
 
 namespace morvane {
 
-namespace {
-
-constexpr int blockSide = 4;
-
-} // namespace
-
 /// Rows lie bottom-up in the file as in the picture, so blocks follow in the order of memory, without a flip.
 void BlockStream::add(const TextureLevel& level) {
     for (int y = 0; y < level.height; y += blockSide)

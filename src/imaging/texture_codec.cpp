@@ -1,6 +1,7 @@
 #include "imaging/texture_codec.h"
 
 #include "core/error.h"
+#include "imaging/block_group.h"
 #include "imaging/block_stream.h"
 #include "imaging/picture_reader.h"
 
@@ -14,7 +15,6 @@ namespace morvane {
 namespace {
 
 constexpr int headerSize = 74;
-constexpr int blockSide = 4;
 constexpr int blockSize = 8;
 constexpr int largestSide = 1024;
 

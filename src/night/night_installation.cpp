@@ -9,7 +9,7 @@ namespace morvane {
 namespace {
 
 // The refusal speaks of a sky set, as the ground's: the message's own word.
-const InstallationKind nightKind{
+const InstallationKind nightCopies{
     u"Morvane has detected more than one selection for installation.  You can only select one sky texture "
     "set to be installed at any one time.  Please check your selection and try again!."_s,
     std::nullopt, 2};
@@ -21,7 +21,7 @@ FilePath worldTexture(const Session& session) {
 } // namespace
 
 NightInstallation::NightInstallation(Session& session)
-    : SetInstallation(session, setKind<NightKind>(), nightKind) {}
+    : SetInstallation(session, setKind<NightKind>(), nightCopies) {}
 
 std::vector<FileCopy> NightInstallation::copyListOfSet(const QString& name) {
     const FilePath set = nightSetFolder(session_, name);

@@ -15,10 +15,6 @@ namespace {
 
 const QString switchRow = u"SELECT * FROM TEXTURE_SWITCH WHERE ID = 1"_s;
 
-void inform(Session& session, const QString& title, const QString& text) {
-    session.user.showMessage({MessageKind::information, title, text, true, false, false});
-}
-
 FailureReport optionFailure(const QString& routine) {
     return {u"Morvane Error!"_s, MessageKind::exclamation, routine + u'\n', false};
 }
@@ -68,11 +64,12 @@ void setCustomSplashVal(Session& session, bool value) {
             copyIntoSimulator(session, session.AppPath / u"Media\\dlgsplash.bmp", splashTarget(session));
         job.end();
         const QString copied = u"The default FS splash screen has been copied to Flight Similator. "_s;
-        inform(
-            session, u"FS9 Splash Screen Status"_s,
-            value ? copied +
-                        u"The Morvane FS9 splash screen will not be shown when Flight Simulator is started."_s
-                  : u"The Morvane FS9 splash screen will be shown when Flight Simulator is started."_s);
+        session.user.showMessage(
+            {MessageKind::information, u"FS9 Splash Screen Status"_s,
+             value
+                 ? copied +
+                       u"The Morvane FS9 splash screen will not be shown when Flight Simulator is started."_s
+                 : u"The Morvane FS9 splash screen will be shown when Flight Simulator is started."_s});
     });
 }
 
@@ -102,13 +99,12 @@ void setSideFSVal(Session& session, bool value) {
     reportFailures(session.user, optionFailure(u"Sub setCustomSplashVal"_s), [&] {
         storeOwnValue(session.registry, u"IsWideClient"_s, flagText(value));
         session.state<OptionsInForce>().IsWideClient = value;
-        inform(session, u"FS9 WideFS Status"_s,
-               value ? u"This setting states that this PC is a WideClient PC and therefore Morvane will not "
-                       u"attempt "
-                       "to start Flight Simulator."_s
-                     : u"This setting states that this PC is a WideServer/Stand Alone PC and therefore "
-                       u"Morvane will "
-                       "attempt to start Flight Simulator as required by you the user."_s);
+        session.user.showMessage(
+            {MessageKind::information, u"FS9 WideFS Status"_s,
+             value ? u"This setting states that this PC is a WideClient PC and therefore Morvane will not "
+                     "attempt to start Flight Simulator."_s
+                   : u"This setting states that this PC is a WideServer/Stand Alone PC and therefore "
+                     "Morvane will attempt to start Flight Simulator as required by you the user."_s});
         session.user.refreshScreen(Screen::frm_Switcher);
     });
 }

@@ -49,10 +49,6 @@ bool hasGroundSets(Session& session) {
     return false;
 }
 
-void inform(Session& session, const QString& title, const QString& text) {
-    session.user.showMessage({MessageKind::information, title, text});
-}
-
 std::vector<FileCopy> dutchOnCopies(Session& session, const FilePath& ground, const FilePath& night) {
     std::vector<FileCopy> copies;
     const auto add = [&](const FilePath& folder, const QString& mask) {
@@ -175,19 +171,20 @@ void switchHalo(Session& session, bool isOn) {
     copyIntoSimulator(session, session.AppPath / (isOn ? u"Media\\halo.bmp" : u"Media\\halodefault.bmp"),
                       session.FSPath / u"Texture\\halo.bmp");
     job.end();
-    inform(session, u"File Copied"_s,
-           isOn ? u"The custom halo file has been copied to flight simulator"_s
-                : u"The default halo file has been copied to flight simulator"_s);
+    session.user.showMessage({MessageKind::information, u"File Copied"_s,
+                              isOn ? u"The custom halo file has been copied to flight simulator"_s
+                                   : u"The default halo file has been copied to flight simulator"_s});
 }
 
 void switchFastExit(Session& session, bool isOn) {
     session.state<OptionsInForce>().IsFastExit = isOn;
     storeSwitch(session, &OptionsInForce::IsFastExit, isOn);
-    inform(session, u"Morvane FastExit Status"_s,
-           isOn ? u"Fast Exit enabled therefore the screen to request default texture installation on exit "
-                  "will not be shown"_s
-                : u"Fast Exit not enabled therefore the screen to request default texture installation on "
-                  "exit will be shown"_s);
+    session.user.showMessage(
+        {MessageKind::information, u"Morvane FastExit Status"_s,
+         isOn ? u"Fast Exit enabled therefore the screen to request default texture installation on exit "
+                "will not be shown"_s
+              : u"Fast Exit not enabled therefore the screen to request default texture installation on "
+                "exit will be shown"_s});
 }
 
 } // namespace morvane

@@ -12,7 +12,7 @@ namespace morvane {
 
 namespace {
 
-void inform(Session& session, const QString& title, const QString& text) {
+void endProgressWith(Session& session, const QString& title, const QString& text) {
     session.user.hideMessage();
     session.user.showMessage({MessageKind::information, title, text});
 }
@@ -51,7 +51,7 @@ void finishUpdate(Session& session) {
     session.files.remove(airportFile(session));
     if (const FilePath reports = decodedMetarFile(session); session.files.exists(reports))
         session.files.remove(reports);
-    inform(session, u"Updating to V2.1"_s, u"MV Update to V2.1 Complete"_s);
+    endProgressWith(session, u"Updating to V2.1"_s, u"MV Update to V2.1 Complete"_s);
 }
 
 } // namespace
@@ -65,8 +65,8 @@ FilePath decodedMetarFile(const Session& session) {
 }
 
 void updateToV21(Session& session) {
-    inform(session, u"MV 2.1 Update"_s,
-           u"Morvane will now update to Version 2.1.  Thank you for your continued support!"_s);
+    endProgressWith(session, u"MV 2.1 Update"_s,
+                    u"Morvane will now update to Version 2.1.  Thank you for your continued support!"_s);
     backupDatabaseV2(session);
     backupSplashV2(session);
     session.DecimalSep = getDecimalSeparator();

@@ -11,7 +11,7 @@ namespace morvane::skin {
 
 namespace {
 
-constexpr int side = 27;
+constexpr int frameSide = 27;
 /// The arrows look the same after half a turn.
 constexpr int frameCount = 8;
 constexpr qreal degreesPerFrame = 180.0 / frameCount;
@@ -23,8 +23,8 @@ constexpr int shadeCount = 128;
 constexpr quint8 shadeBits = 7;
 
 QImage drawTurned(qreal degrees) {
-    return drawPicture({side, side}, 1, white, [&](QPainter& painter) {
-        const QRectF place(1.5, 1.5, side - 3, side - 3);
+    return drawPicture({frameSide, frameSide}, 1, white, [&](QPainter& painter) {
+        const QRectF place(1.5, 1.5, frameSide - 3, frameSide - 3);
         painter.translate(place.center());
         painter.rotate(degrees);
         painter.translate(-place.center());
@@ -39,8 +39,8 @@ QByteArray codesOf(const QImage& image) {
     constexpr int codesBeforeClear = 100;
     QByteArray codes;
     int sinceClear = codesBeforeClear;
-    for (int y = 0; y < side; ++y)
-        for (int x = 0; x < side; ++x) {
+    for (int y = 0; y < frameSide; ++y)
+        for (int x = 0; x < frameSide; ++x) {
             if (sinceClear == codesBeforeClear) {
                 codes.append(clearCode);
                 sinceClear = 0;
@@ -59,7 +59,8 @@ void writeBytes(QDataStream& stream, const QByteArray& bytes) {
 void writeHead(QDataStream& stream) {
     writeBytes(stream, "GIF89a");
     const quint8 hasTable = 0x80, tableBits = shadeBits - 1;
-    stream << quint16(side) << quint16(side) << quint8(hasTable | tableBits) << quint8(0) << quint8(0);
+    stream << quint16(frameSide) << quint16(frameSide) << quint8(hasTable | tableBits) << quint8(0)
+           << quint8(0);
     for (int shade = 0; shade < shadeCount; ++shade) {
         const auto mixed = [&](int paper, int blue) {
             return static_cast<quint8>(paper + (blue - paper) * shade / (shadeCount - 1));
@@ -74,7 +75,8 @@ void writeHead(QDataStream& stream) {
 void writeFrame(QDataStream& stream, const QImage& image) {
     writeBytes(stream, QByteArray("\x21\xF9\x04\x00", 4));
     stream << hundredthsPerFrame << quint16(0);
-    stream << quint8(0x2C) << quint16(0) << quint16(0) << quint16(side) << quint16(side) << quint8(0);
+    stream << quint8(0x2C) << quint16(0) << quint16(0) << quint16(frameSide) << quint16(frameSide)
+           << quint8(0);
     stream << shadeBits;
     const QByteArray codes = codesOf(image);
     constexpr qsizetype longestBlock = 255;
