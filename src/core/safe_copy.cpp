@@ -1,33 +1,44 @@
 #include "core/safe_copy.h"
 
-#include "core/error.h"
+#include "core/attempts.h"
 
 namespace morvane {
 
 namespace {
 
-/// The failure on its way to the user matters; a part that cannot be removed now goes with the next install.
-void removeQuietly(FileSystem& files, const FilePath& file) {
+/// A part that does not come to its end goes. The failure on its way to the user matters; a part that cannot
+/// be removed now goes with the next install.
+template <class Step>
+void onPart(FileSystem& files, const FilePath& part, Step step) {
     try {
-        files.remove(file);
+        step();
     } catch (const Error&) {
+        attempt([&] { files.remove(part); });
+        throw;
     }
 }
 
 } // namespace
 
-void replaceFile(FileSystem& files, const FilePath& source, const FilePath& target) {
-    const FilePath placed = target.resolved(), part = partOf(placed);
-    const auto old = files.isLink(placed) ? std::nullopt : files.stampIfThere(placed);
-    if (old && old->isReadOnly()) throw Error(ErrorCode::permissionDenied, placed.text());
-    try {
+void writePart(FileSystem& files, const FilePath& source, const FilePath& place) {
+    const FilePath part = partOf(place);
+    const auto old = files.isLink(place) ? std::nullopt : files.stampIfThere(place);
+    if (old && old->isReadOnly()) throw Error(ErrorCode::permissionDenied, place.text());
+    onPart(files, part, [&] {
         files.copyContents(source, part);
         if (old) files.setMode(part, old->mode);
-        files.rename(part, placed);
-    } catch (const Error&) {
-        removeQuietly(files, part);
-        throw;
-    }
+    });
+}
+
+void putPart(FileSystem& files, const FilePath& place) {
+    const FilePath part = partOf(place);
+    onPart(files, part, [&] { files.rename(part, place); });
+}
+
+void replaceFile(FileSystem& files, const FilePath& source, const FilePath& target) {
+    const FilePath place = target.resolved();
+    writePart(files, source, place);
+    putPart(files, place);
 }
 
 void removePartialCopies(FileSystem& files, const FilePath& folder) {

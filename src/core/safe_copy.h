@@ -19,6 +19,11 @@ inline FilePath partOf(const FilePath& target) {
 /// Raises "Permission denied" for a read-only target, which a replacing rename would not notice by itself.
 void replaceFile(FileSystem& files, const FilePath& source, const FilePath& target);
 
+/// Its two halves, for a place in the spelling of the disk: the copy is written beside it, with the mode of
+/// what it will replace; and takes the place. Either removes the part when it fails.
+void writePart(FileSystem& files, const FilePath& source, const FilePath& place);
+void putPart(FileSystem& files, const FilePath& place);
+
 /// Removes what a killed run left beside its targets in that folder.
 void removePartialCopies(FileSystem& files, const FilePath& folder);
 

@@ -166,7 +166,7 @@ FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& s
     return place;
 }
 
-bool Originals::stands(const FileCopy& copy, const FilePath& place) {
+bool Originals::stands(const FileCopy& copy, const FilePath& place) const {
     const auto seen = standing_.constFind(place.relative());
     if (seen == standing_.cend() || announced_.value(copy.source.text()) != seen->print) return false;
     const bool isReplaced = files_.isLink(place) || seen->stamp.isReadOnly();
@@ -192,12 +192,13 @@ void Originals::settle() {
     list_.write();
 }
 
-void Originals::takeReadOnlyMark(const FilePath& place) {
-    if (files_.isLink(place) || !files_.isReadOnly(place)) return;
+bool Originals::takeReadOnlyMark(const FilePath& place) {
+    if (files_.isLink(place) || !files_.isReadOnly(place)) return false;
     OriginalFact mark = factOf(FactKind::mode, place);
     mark.mode = files_.stamp(place).mode;
     list_.add({mark});
     files_.setReadOnly(place, false);
+    return true;
 }
 
 void Originals::makeFolder(const FilePath& folder) {

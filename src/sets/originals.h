@@ -24,6 +24,10 @@ struct KeptOriginal {
 struct FileCopy {
     FilePath source; ///< joined behind the install folder
     FilePath target; ///< joined behind the simulator's folder
+
+    bool isFor(const FileCopy& other) const {
+        return source.text() == other.source.text() && target.text() == other.target.text();
+    }
 };
 
 /// What a restore did with the files that are known.
@@ -62,16 +66,18 @@ public:
     /// its place is kept. `standing`: what was read there just now, where somebody has.
     FilePath place(const FileCopy& copy, const std::optional<SeenFile>& standing = {});
     /// The place has the very bytes of a prepared copy: it can be spared. Only where it would end as the same
-    /// plain file, and as long as nobody has written to it since it was read.
-    bool stands(const FileCopy& copy, const FilePath& place);
+    /// plain file, and as long as nobody has written to it since it was read. Any thread may ask between
+    /// `prepare` and `settle`.
+    bool stands(const FileCopy& copy, const FilePath& place) const;
     /// Call it when the copy stands in its place.
     void notePlaced(const FileCopy& copy, const FilePath& place);
     /// Call it after the last copy: the list is written anew, so that it does not grow with every flight, and
     /// of what was put to one path only the last counts.
     void settle();
 
-    /// Takes the read-only mark away, where there is one, so that a restore can give it back.
-    void takeReadOnlyMark(const FilePath& place);
+    /// Takes the read-only mark away, where there is one, so that a restore can give it back; true when there
+    /// was.
+    bool takeReadOnlyMark(const FilePath& place);
     /// Makes a folder of the simulator, and those above it; a restore takes it away when it is empty.
     void makeFolder(const FilePath& folder);
 

@@ -73,7 +73,7 @@ FileCopy SetInstallation::splashCopy(const CloudCover& cover) const {
 
 void SetInstallation::prepare(SimulatorCopier& copier, std::vector<FileCopy> copies,
                               const CloudCover* splash) {
-    if (splash) copies.push_back(splashCopy(*splash));
+    if (splash) copies.insert(copies.begin(), splashCopy(*splash)); // as it is put
     copier.prepare(copies);
 }
 

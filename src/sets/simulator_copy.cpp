@@ -24,6 +24,10 @@ void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
         if (session_.jobRunning) session_.user.pumpMessages();
         endWithSession(session_);
     });
+    std::vector<FilePath> places;
+    for (const FileCopy& copy : copies)
+        places.push_back(originals_.find(copy.target));
+    ahead_.emplace(session_.files, originals_, copies, std::move(places));
 }
 
 void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
@@ -44,12 +48,22 @@ void SimulatorCopier::copy(const FileCopy& copy, const std::optional<SeenFile>& 
 void SimulatorCopier::copyOverReadOnly(const FileCopy& copy) {
     endWithSession(session_);
     const FilePath place = originals_.place(copy);
-    originals_.takeReadOnlyMark(place);
-    put(copy, place);
+    if (originals_.takeReadOnlyMark(place)) {
+        replaceFile(session_.files, copy.source, place);
+        originals_.notePlaced(copy, place);
+    } else {
+        put(copy, place);
+    }
 }
 
 void SimulatorCopier::put(const FileCopy& copy, const FilePath& place) {
-    if (!originals_.stands(copy, place)) replaceFile(session_.files, copy.source, place);
+    const AheadOfCopy done = ahead_ ? ahead_->next(copy) : AheadOfCopy::nothing;
+    if (done == AheadOfCopy::part) {
+        putPart(session_.files, place);
+        ahead_->noteTaken();
+    } else if (done == AheadOfCopy::nothing && !originals_.stands(copy, place)) {
+        replaceFile(session_.files, copy.source, place);
+    }
     originals_.notePlaced(copy, place);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/session.h"
-#include "sets/originals.h"
+#include "sets/copies_ahead.h"
 
 namespace morvane {
 
@@ -17,6 +17,7 @@ public:
     /// Takes the whole list before the first copy: clears what a killed run left beside the targets, keeps
     /// the pilot's files and notes what will be put where. The failure of one file is raised by its copy.
     /// This and the copies raise `interrupted` once the desktop's session ends: the rest of the list stays.
+    /// Copies that come in the order of the list find their part written already, by other threads.
     void prepare(const std::vector<FileCopy>& copies);
     /// The first half alone, where the files are the pilot's own.
     void clearStrays(const std::vector<FileCopy>& copies);
@@ -39,6 +40,7 @@ private:
 
     Session& session_;
     Originals originals_;
+    std::optional<CopiesAhead> ahead_; ///< of the prepared list
 };
 
 /// Raises `interrupted` once the desktop's session ends.
