@@ -63,7 +63,8 @@ public:
         silence_.setSingleShot(true);
         QObject::connect(reply_.get(), &QNetworkReply::metaDataChanged, &loop_, [this] { listenOn(); });
         QObject::connect(reply_.get(), &QNetworkReply::readyRead, &loop_, [this] { take(); });
-        QObject::connect(reply_.get(), &QNetworkReply::downloadProgress, &loop_, download.onProgress);
+        QObject::connect(reply_.get(), &QNetworkReply::downloadProgress, &loop_,
+                         [this](qint64 received) { download_.onProgress(received, announcedSize()); });
         QObject::connect(reply_.get(), &QNetworkReply::finished, &loop_, &QEventLoop::quit);
         QObject::connect(&silence_, &QTimer::timeout, &loop_,
                          [this] { stop(u"the server has stopped answering"_s); });
@@ -84,6 +85,10 @@ public:
     const QByteArray& contents() const { return contents_; }
 
 private:
+    /// 0 when it is not known. The signal's own may still be that of the answer which sent us here.
+    std::int64_t announcedSize() const {
+        return reply_->header(QNetworkRequest::ContentLengthHeader).toLongLong();
+    }
     void listenOn() { silence_.start(limits_.silenceMilliseconds); }
     void stop(const QString& problem) {
         if (problem_.isEmpty()) problem_ = problem;

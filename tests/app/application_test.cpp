@@ -5,6 +5,7 @@
 #include "core/store.h"
 #include "core/store_connection.h"
 #include "core/store_records.h"
+#include "core/wine_prefixes.h"
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
 #include "sets/options_in_force.h"
@@ -14,6 +15,12 @@
 #include "support/small_install.h"
 #include "support/wine_prefix.h"
 #include "weather/cover_choice.h"
+
+#ifndef Q_OS_WIN
+#include <QProcess>
+#include <sys/inotify.h>
+#include <unistd.h>
+#endif
 
 namespace morvane::test {
 namespace {
@@ -137,6 +144,29 @@ TEST_F(ApplicationTest, takesTheSimulatorOfAPrefixAndOffersSeveral) {
     EXPECT_FALSE(startAnew({}, {false, false, false}));
     EXPECT_EQ(user.calls.value(3), "browse");
     EXPECT_EQ(contentsBelow(FilePath(home.path())), before) << "a prefix is only read";
+}
+
+/// This program once more, in a home with a prefix that tells when something in it is opened.
+TEST(OwnHome, keepsTheTestsFromPrefixesOutside) {
+    const HomeFolder outside;
+    const QString prefix = outside.path() + "/.wine";
+    makePrefix(prefix);
+    const int watch = inotify_init1(IN_NONBLOCK);
+    ASSERT_GE(inotify_add_watch(watch, QFile::encodeName(prefix).constData(), IN_OPEN), 0);
+    const auto wasOpened = [watch] {
+        char event[4096];
+        return read(watch, event, sizeof event) > 0;
+    };
+    QProcess tests;
+    tests.start(QFileInfo(u"/proc/self/exe"_s).canonicalFilePath(),
+                {u"--gtest_filter=ApplicationTest.asks*"_s});
+    ASSERT_TRUE(tests.waitForFinished(100000));
+    EXPECT_EQ(tests.exitCode(), 0) << tests.readAllStandardOutput().toStdString();
+    EXPECT_FALSE(wasOpened());
+    NativeFileSystem files;
+    EXPECT_EQ(simulatorsInPrefixes(files).size(), 1U);
+    EXPECT_TRUE(wasOpened()) << "or the look above sees nothing";
+    close(watch);
 }
 
 #endif

@@ -91,5 +91,18 @@ TEST_F(BaseInstall, theGlobalTitlesLeaveDefaultAsTheOneInstalledSet) {
     EXPECT_EQ(readFile(world / u"045B2LM1.BMP"), "body of GENERIC WORLD NIGHT\\045b2lm1.bmp");
 }
 
+/// Whatever fails, each file of the simulator is an old or a new one as a whole.
+TEST_F(BaseInstall, everyFailingOperationLeavesWholeFiles) {
+    const auto before = contentsBelow(install.simulator());
+    const auto expectWholeFiles = [&](int n) {
+        const auto after = contentsBelow(install.simulator());
+        for (auto file = before.begin(); file != before.end(); ++file)
+            EXPECT_TRUE(after.value(file.key()) == *file || after.value(file.key()).startsWith("body of"))
+                << n;
+    };
+    const auto work = [&] { copyBaseResources(session, {globalDayConfig, addOnConfig}); };
+    EXPECT_GT(failEachOperation(install.files, Fault::once, work, expectWholeFiles), 15);
+}
+
 } // namespace
 } // namespace morvane::test
