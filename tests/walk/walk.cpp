@@ -238,9 +238,18 @@ QWidget& Walk::find(const QString& name) const {
 
 void Walk::onScreen(const WalkScreen& screen, const std::function<void()>& body) {
     if (screen.isDialog) return inDialog(screen, body);
-    screen.open(*this);
-    window_ = front();
-    if (comesUp(window_)) return body();
+    const auto comesToTheFront = [&] {
+        screen.open(*this);
+        window_ = front();
+        return comesUp(window_);
+    };
+    if (comesToTheFront()) return body();
+    if (repeats_ < mostRepeats) {
+        ++repeats_;
+        std::cout << "again, " << screen.name << ": it did not come to the front\n";
+        renew();
+        if (comesToTheFront()) return body();
+    }
     ++failures_;
     FAIL() << screen.name << " does not come to the front";
 }
