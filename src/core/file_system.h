@@ -71,6 +71,9 @@ public:
     virtual void write(const FilePath& file, const QByteArray& contents) = 0;
     /// Adds to the file's end, making it when missing, and hands it to the system before it returns.
     virtual void append(const FilePath& file, const QByteArray& contents) = 0;
+    /// Returns when what stands in these files, and that they go by these names, outlasts a cut of power.
+    /// Takes as long as the disk does; raises when the system cannot do it.
+    virtual void makeDurable(const std::vector<FilePath>& files) = 0;
 };
 
 /// The files of a listing, in their own spelling: no operation on one of them looks for another.
@@ -100,6 +103,7 @@ public:
     QByteArray read(const FilePath& file) override;
     void write(const FilePath& file, const QByteArray& contents) override;
     void append(const FilePath& file, const QByteArray& contents) override;
+    void makeDurable(const std::vector<FilePath>& files) override;
 
 private:
     HeldFiles heldFiles_;

@@ -24,6 +24,14 @@ std::error_code removeFile(const std::filesystem::path& file);
 /// program can.
 std::optional<bool> isHeldByOther(const std::filesystem::path& file);
 
+/// What stands in the file, and of a folder its names, is on the disk. Of what cannot be flushed one by one
+/// on this system nothing is told: Windows brings names along with the file.
+std::error_code flushToDisk(const std::filesystem::path& path);
+
+/// All that was written on the drive of that folder so far is on the disk; nothing where the system has no
+/// such call.
+std::optional<std::error_code> flushDrive(const std::filesystem::path& folder);
+
 /// Refuses a folder that is not empty, and what is no folder.
 std::error_code removeEmptyFolder(const std::filesystem::path& folder);
 

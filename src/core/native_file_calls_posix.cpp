@@ -1,6 +1,7 @@
 #include "core/native_file_calls.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace morvane {
@@ -26,6 +27,28 @@ std::error_code removeFile(const std::filesystem::path& file) {
 
 std::optional<bool> isHeldByOther(const std::filesystem::path&) {
     return std::nullopt;
+}
+
+namespace {
+
+/// Some drives, such as those in memory or behind a network, have nothing to flush and say so.
+template <class Flush>
+std::error_code flushOpened(const std::filesystem::path& path, Flush flush) {
+    const int opened = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    const bool isDone = opened >= 0 && (flush(opened) == 0 || errno == EINVAL || errno == ENOSYS);
+    const std::error_code error = isDone ? std::error_code() : std::error_code(errno, std::system_category());
+    if (opened >= 0) ::close(opened);
+    return error;
+}
+
+} // namespace
+
+std::error_code flushToDisk(const std::filesystem::path& path) {
+    return flushOpened(path, ::fsync);
+}
+
+std::optional<std::error_code> flushDrive(const std::filesystem::path& folder) {
+    return flushOpened(folder, ::syncfs);
 }
 
 std::error_code removeEmptyFolder(const std::filesystem::path& folder) {

@@ -44,6 +44,22 @@ std::optional<bool> isHeldByOther(const std::filesystem::path& file) {
     return false;
 }
 
+std::error_code flushToDisk(const std::filesystem::path& path) {
+    if (std::filesystem::is_directory(path)) return {};
+    constexpr DWORD everyShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE handle =
+        CreateFileW(path.c_str(), GENERIC_WRITE, everyShare, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return lastErrorUnless(false);
+    const std::error_code error = lastErrorUnless(FlushFileBuffers(handle));
+    CloseHandle(handle);
+    return error;
+}
+
+/// Only an administrator may do that there.
+std::optional<std::error_code> flushDrive(const std::filesystem::path&) {
+    return std::nullopt;
+}
+
 // The library's own tries to remove a file next and tells of that.
 std::error_code removeEmptyFolder(const std::filesystem::path& folder) {
     return lastErrorUnless(RemoveDirectoryW(folder.c_str()));

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -224,6 +225,26 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
         QFile::remove(part.native());
         throw;
     }
+}
+
+void NativeFileSystem::makeDurable(const std::vector<FilePath>& files) {
+    constexpr std::size_t few = 16; // from here on one by one costs more than the whole drive
+    std::set<std::filesystem::path> folders;
+    for (const FilePath& file : files)
+        folders.insert(systemPath(file).parent_path());
+    if (files.size() > few) {
+        bool areDone = true;
+        for (const auto& folder : folders)
+            if (const auto error = flushDrive(folder))
+                raise(*error, FilePath(QString::fromStdU16String(folder.u16string())));
+            else
+                areDone = false;
+        if (areDone) return;
+    }
+    for (const FilePath& file : files)
+        raise(flushToDisk(systemPath(file)), file);
+    for (const auto& folder : folders)
+        raise(flushToDisk(folder), FilePath(QString::fromStdU16String(folder.u16string())));
 }
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {

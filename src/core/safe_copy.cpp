@@ -41,6 +41,15 @@ void replaceFile(FileSystem& files, const FilePath& source, const FilePath& targ
     putPart(files, place);
 }
 
+void writeDurably(FileSystem& files, const FilePath& file, const QByteArray& contents) {
+    const FilePath place = file.resolved(), next = place.withEnding(u".next"_s + partialCopySuffix);
+    onPart(files, next, [&] {
+        files.write(next, contents);
+        files.makeDurable({next});
+        files.rename(next, place);
+    });
+}
+
 void removePartialCopies(FileSystem& files, const FilePath& folder) {
     for (const FilePath& part : filesIn(files, folder, u"*"_s + partialCopySuffix))
         files.remove(part);

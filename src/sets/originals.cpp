@@ -59,6 +59,16 @@ void Originals::prepare(const std::vector<FileCopy>& copies, const std::function
         prepareCopy(copies[i], places[i], seen.next(), facts);
         pump();
     }
+    addKept(facts);
+}
+
+/// What was kept is on the disk before a line says so, and the line before the first file is replaced: a cut
+/// of power, too, costs the pilot nothing. A set can be copied again.
+void Originals::addKept(const std::vector<OriginalFact>& facts) {
+    std::vector<FilePath> kept;
+    for (const OriginalFact& fact : facts)
+        if (fact.kind == FactKind::kept) kept.push_back(copyPlace(fact.where));
+    if (!kept.empty()) files_.makeDurable(kept);
     list_.add(facts);
 }
 
@@ -162,7 +172,7 @@ FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& s
     const bool isKnown =
         standing && isOursOrKept(place, standing->print) && isAsSeen(files_, place, standing);
     note(place, isKnown ? Standing{standing, std::nullopt} : see(place), false, facts);
-    list_.add(facts);
+    addKept(facts);
     return place;
 }
 

@@ -120,6 +120,7 @@ private:
     OriginalFact keep(const FilePath& place, const FileFingerprint& print, const QByteArray& contents);
     QString keepCopy(const QString& path, const QByteArray& contents);
     FilePath copyPlace(const QString& where);
+    void addKept(const std::vector<OriginalFact>& facts);
     OriginalFact factOf(FactKind kind, const FilePath& place) const;
 
     void clearStrays();

@@ -1,5 +1,9 @@
 #include "sets/originals_list.h"
 
+#include "core/safe_copy.h"
+
+#include <algorithm>
+
 namespace morvane {
 
 OriginalsList::OriginalsList(FileSystem& files, const FilePath& simulator, const FilePath& folder)
@@ -17,7 +21,15 @@ void OriginalsList::add(const std::vector<OriginalFact>& facts) {
     if (isOnDisk_) append(facts); // on the disk first: what is only in memory must not count
     for (const OriginalFact& fact : facts)
         records_.apply(fact);
-    if (!isOnDisk_) write();
+    if (isOnDisk_) return;
+    write();
+    outlastACut(facts);
+}
+
+/// Before any file is replaced that they speak of.
+void OriginalsList::outlastACut(const std::vector<OriginalFact>& facts) {
+    const auto isOfKept = [](const OriginalFact& fact) { return fact.kind == FactKind::kept; };
+    if (std::ranges::any_of(facts, isOfKept)) files_.makeDurable({file(originalsListName)});
 }
 
 void OriginalsList::append(const std::vector<OriginalFact>& facts) {
@@ -25,6 +37,7 @@ void OriginalsList::append(const std::vector<OriginalFact>& facts) {
     for (const OriginalFact& fact : facts)
         lines += factLine(fact);
     files_.append(file(originalsListName), lines);
+    outlastACut(facts);
 }
 
 void OriginalsList::rename(const QString& from, const QString& to) {
@@ -41,7 +54,7 @@ void OriginalsList::write() {
     for (const OriginalRecord& record : records_.all())
         for (const OriginalFact& fact : record.facts())
             text += factLine(fact);
-    files_.write(list, text);
+    writeDurably(files_, list, text);
     isOnDisk_ = true;
 }
 

@@ -1,6 +1,7 @@
 #include "simulator/backup_list.h"
 
 #include "core/attempts.h"
+#include "core/safe_copy.h"
 #include "core/text_decoding.h"
 
 namespace morvane {
@@ -73,7 +74,7 @@ void BackupList::parse(const QString& text) {
 }
 
 void BackupList::write(Session& session, const QString& name) const {
-    session.files.write(listFile(session, name), text_.toUtf8());
+    writeDurably(session.files, listFile(session, name), text_.toUtf8());
 }
 
 void BackupList::writeOurs(Session& session, const QString& name) const {

@@ -101,10 +101,20 @@ bool BackupRun::checkAll(CopyWalk& walk) {
     return isWhole;
 }
 
+/// A list that stands says that the files do: they are on the disk before it, and it is before anything goes
+/// on.
+void BackupRun::writeDurableList() {
+    std::vector<FilePath> files;
+    for (const FileCopy& copy : copies_)
+        if (session_.files.exists(copy.target)) files.push_back(copy.target);
+    session_.files.makeDurable(files);
+    list_.write(session_, name_);
+}
+
 /// The first run has not come to its end as long as the disk refuses what could be read.
 bool BackupRun::writeList() {
     if (isFirstRun_ && unwritten_ > 0) return false;
-    return attempt([&] { list_.write(session_, name_); }) && unwritten_ == 0;
+    return attempt([&] { writeDurableList(); }) && unwritten_ == 0;
 }
 
 } // namespace morvane

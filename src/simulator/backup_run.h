@@ -39,6 +39,7 @@ private:
     void copy(const FileCopy& copy);
     bool checkAll(CopyWalk& walk);
     bool writeList();
+    void writeDurableList();
 
     Session& session_;
     const Job& job_;

@@ -2,6 +2,9 @@
 
 #include "support/temporary_folder.h"
 
+#include <QFile>
+#include <random>
+
 namespace morvane::test {
 
 QDateTime ScriptedClock::localTime() const {
@@ -58,6 +61,48 @@ void FaultyFileSystem::takeRoom(const FilePath& file, qint64 size) {
     room_ -= size;
 }
 
+/// Before the first change since it was durable.
+bool FaultyFileSystem::remember(const FilePath& file) {
+    if (!isWatching_) return false;
+    const std::lock_guard lock(mutex_);
+    const QString name = file.native();
+    if (!unsaved_.contains(name)) unsaved_[name] = {real_.readIfThere(file), true};
+    return true;
+}
+
+bool FaultyFileSystem::isDurable(const FilePath& file) {
+    const std::lock_guard lock(mutex_);
+    return unsaved_[file.native()].hasContents;
+}
+
+void FaultyFileSystem::noteContents(const FilePath& file, bool areDurable) {
+    if (!isWatching_) return;
+    const std::lock_guard lock(mutex_);
+    unsaved_[file.native()].hasContents = areDurable;
+}
+
+/// Not the real one: a test's disk need not outlast a cut.
+void FaultyFileSystem::makeDurable(const std::vector<FilePath>& files) {
+    if (files.empty()) return;
+    act(files.front());
+    const std::lock_guard lock(mutex_);
+    for (const FilePath& file : files)
+        unsaved_.erase(file.native());
+}
+
+void FaultyFileSystem::cutPower(unsigned seed) {
+    std::mt19937 random(seed);
+    for (const auto& [name, unsaved] : unsaved_) {
+        const unsigned fate = random() % 3;
+        QFile file(name);
+        if (fate == 0 && !unsaved.before) file.remove();
+        if (fate == 0 && unsaved.before) writeFile(FilePath(name), *unsaved.before);
+        if (fate == 1 && !unsaved.hasContents && file.exists()) file.resize(0);
+    }
+    unsaved_.clear();
+    isWatching_ = false;
+}
+
 void FaultyFileSystem::copyContents(const FilePath& source, const FilePath& target) {
     if (isFailing()) {
         // As on a full disk: half of the file is there.
@@ -66,7 +111,9 @@ void FaultyFileSystem::copyContents(const FilePath& source, const FilePath& targ
         fail(ErrorCode::diskFull, target);
     }
     if (room_ >= 0 && real_.exists(source)) takeRoom(target, real_.size(source));
+    remember(target);
     real_.copyContents(source, target);
+    noteContents(target, false);
 }
 
 } // namespace morvane::test

@@ -7,6 +7,8 @@
 
 #include <atomic>
 #include <deque>
+#include <map>
+#include <mutex>
 #include <vector>
 
 namespace morvane::test {
@@ -46,6 +48,11 @@ public:
     void leaveRoom(qint64 bytes) { room_ = bytes; }
     /// The n-th operation from now on, and all later ones, end the run with Killed; half of a copy is there.
     void killAt(int n);
+    /// From now on the disk keeps in mind what was not made durable.
+    void watchDurability() { isWatching_ = true; }
+    /// Of each file that was changed and not made durable what stood there before, the new name with nothing
+    /// behind it, or what stands there now: any of them may be found after a cut of power.
+    void cutPower(unsigned seed);
     int operations() const { return operations_; }
     /// Whether the operation that failed first was a test of existence.
     bool failedAtTest() const { return failedAtTest_; }
@@ -64,9 +71,16 @@ public:
     void makeFolder(const FilePath& folder) override { act(folder).makeFolder(folder); }
     void copyContents(const FilePath& source, const FilePath& target) override;
     void rename(const FilePath& source, const FilePath& target) override {
-        act(target).rename(source, target);
+        FileSystem& real = act(target);
+        const bool wasDurable = remember(source) && isDurable(source);
+        remember(target);
+        real.rename(source, target);
+        noteContents(target, wasDurable);
     }
-    void remove(const FilePath& file) override { act(file).remove(file); }
+    void remove(const FilePath& file) override {
+        remember(file);
+        act(file).remove(file);
+    }
     void removeFolder(const FilePath& folder) override { act(folder).removeFolder(folder); }
     bool isReadOnly(const FilePath& file) override { return act(file).isReadOnly(file); }
     void setReadOnly(const FilePath& file, bool readOnly) override { act(file).setReadOnly(file, readOnly); }
@@ -80,12 +94,19 @@ public:
     QByteArray read(const FilePath& file) override { return act(file).read(file); }
     void write(const FilePath& file, const QByteArray& contents) override {
         takeRoom(file, contents.size());
-        act(file).write(file, contents);
+        FileSystem& real = act(file);
+        remember(file);
+        real.write(file, contents);
+        noteContents(file, false);
     }
     void append(const FilePath& file, const QByteArray& contents) override {
         takeRoom(file, contents.size());
-        act(file).append(file, contents);
+        FileSystem& real = act(file);
+        remember(file);
+        real.append(file, contents);
     }
+    /// Not the real one: a test's disk need not outlast a cut.
+    void makeDurable(const std::vector<FilePath>& files) override;
 
 private:
     bool isFailing();
@@ -95,7 +116,18 @@ private:
     /// The real file system, unless this operation is one to fail.
     FileSystem& act(const FilePath& path);
     void takeRoom(const FilePath& file, qint64 size);
+    bool remember(const FilePath& file);
+    bool isDurable(const FilePath& file);
+    void noteContents(const FilePath& file, bool areDurable);
     NativeFileSystem real_;
+    /// What a cut may bring back of a file, and whether its contents are on the disk under some name.
+    struct Unsaved {
+        std::optional<QByteArray> before;
+        bool hasContents = false;
+    };
+    bool isWatching_ = false;
+    std::mutex mutex_;
+    std::map<QString, Unsaved> unsaved_;
     // Several threads of a job work with the same files.
     std::atomic<qint64> room_ = -1;
     std::atomic<int> operations_ = 0;
