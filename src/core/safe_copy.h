@@ -24,8 +24,8 @@ void replaceFile(FileSystem& files, const FilePath& source, const FilePath& targ
 void writePart(FileSystem& files, const FilePath& source, const FilePath& place);
 void putPart(FileSystem& files, const FilePath& place);
 
-/// Replaces the file's contents so that a cut of power leaves the old ones or these, never a name with nothing
-/// behind it. For the few files that say what others are.
+/// Replaces the file's contents so that a cut of power leaves the old ones or these, never a name with
+/// nothing behind it. For the few files that say what others are.
 void writeDurably(FileSystem& files, const FilePath& file, const QByteArray& contents);
 
 /// Removes what a killed run left beside its targets in that folder.

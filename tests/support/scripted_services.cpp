@@ -62,23 +62,17 @@ void FaultyFileSystem::takeRoom(const FilePath& file, qint64 size) {
 }
 
 /// Before the first change since it was durable.
-bool FaultyFileSystem::remember(const FilePath& file) {
-    if (!isWatching_) return false;
+void FaultyFileSystem::remember(const FilePath& file) {
+    if (!isWatching_) return;
     const std::lock_guard lock(mutex_);
     const QString name = file.native();
     if (!unsaved_.contains(name)) unsaved_[name] = {real_.readIfThere(file), true};
-    return true;
 }
 
-bool FaultyFileSystem::isDurable(const FilePath& file) {
-    const std::lock_guard lock(mutex_);
-    return unsaved_[file.native()].hasContents;
-}
-
-void FaultyFileSystem::noteContents(const FilePath& file, bool areDurable) {
+void FaultyFileSystem::noteContents(const FilePath& file, const FilePath* source) {
     if (!isWatching_) return;
     const std::lock_guard lock(mutex_);
-    unsaved_[file.native()].hasContents = areDurable;
+    unsaved_[file.native()].hasContents = source && unsaved_[source->native()].hasContents;
 }
 
 /// Not the real one: a test's disk need not outlast a cut.
@@ -113,7 +107,7 @@ void FaultyFileSystem::copyContents(const FilePath& source, const FilePath& targ
     if (room_ >= 0 && real_.exists(source)) takeRoom(target, real_.size(source));
     remember(target);
     real_.copyContents(source, target);
-    noteContents(target, false);
+    noteContents(target);
 }
 
 } // namespace morvane::test

@@ -72,10 +72,10 @@ public:
     void copyContents(const FilePath& source, const FilePath& target) override;
     void rename(const FilePath& source, const FilePath& target) override {
         FileSystem& real = act(target);
-        const bool wasDurable = remember(source) && isDurable(source);
+        remember(source);
         remember(target);
         real.rename(source, target);
-        noteContents(target, wasDurable);
+        noteContents(target, &source);
     }
     void remove(const FilePath& file) override {
         remember(file);
@@ -97,7 +97,7 @@ public:
         FileSystem& real = act(file);
         remember(file);
         real.write(file, contents);
-        noteContents(file, false);
+        noteContents(file);
     }
     void append(const FilePath& file, const QByteArray& contents) override {
         takeRoom(file, contents.size());
@@ -116,9 +116,9 @@ private:
     /// The real file system, unless this operation is one to fail.
     FileSystem& act(const FilePath& path);
     void takeRoom(const FilePath& file, qint64 size);
-    bool remember(const FilePath& file);
-    bool isDurable(const FilePath& file);
-    void noteContents(const FilePath& file, bool areDurable);
+    void remember(const FilePath& file);
+    /// As much on the disk as those of `source`; without one not at all.
+    void noteContents(const FilePath& file, const FilePath* source = nullptr);
     NativeFileSystem real_;
     /// What a cut may bring back of a file, and whether its contents are on the disk under some name.
     struct Unsaved {
