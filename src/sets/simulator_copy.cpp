@@ -25,6 +25,7 @@ void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
         endWithSession(session_);
     });
     std::vector<FilePath> places;
+    places.reserve(copies.size());
     for (const FileCopy& copy : copies)
         places.push_back(originals_.find(copy.target));
     ahead_.emplace(session_.files, originals_, copies, std::move(places));

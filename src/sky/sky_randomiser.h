@@ -2,6 +2,8 @@
 
 #include "sets/slider_values.h"
 
+#include <QString>
+
 namespace morvane {
 
 /// Draws the six colours of a pixel group (1 to 10) that look right for a cloud cover (1 to 5) and a base
