@@ -53,7 +53,7 @@ struct InstallFaults : testing::Test {
         EXPECT_EQ(contentsBelow(install.home() / u"Texture Sets"), sets);
     }
 
-    void expectSoundStore() {
+    void expectSoundStore() const {
         EXPECT_EQ(integrityOf(install.home() / u"Morvane.mdb"), "ok");
         EXPECT_LE(install.installedSets().size(), 1);
     }
