@@ -91,6 +91,7 @@ bool BackupRun::checkAll(CopyWalk& walk) {
         const std::optional<CheckedFile> file = checks.next();
         if (file && file->stands()) {
             list_.add(copy.target, file->print);
+            standing_.push_back(copy.target);
             ++saved;
         } else {
             list_.addMissing(copy.target.parent(), copy.target.fileName());
@@ -104,10 +105,7 @@ bool BackupRun::checkAll(CopyWalk& walk) {
 /// A list that stands says that the files do: they are on the disk before it, and it is before anything goes
 /// on.
 void BackupRun::writeDurableList() {
-    std::vector<FilePath> files;
-    for (const FileCopy& copy : copies_)
-        if (session_.files.exists(copy.target)) files.push_back(copy.target);
-    session_.files.makeDurable(files);
+    session_.files.makeDurable(standing_);
     list_.write(session_, name_);
 }
 

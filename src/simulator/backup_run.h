@@ -47,6 +47,7 @@ private:
     const bool isFirstRun_;
     std::optional<Originals> originals_; ///< none where its list cannot be read
     std::vector<FileCopy> copies_;
+    std::vector<FilePath> standing_; ///< copies that were read again and are whole
     BackupList list_;
     int missing_ = 0;   ///< that no copy could be tried of, or that cannot be read
     int unwritten_ = 0; ///< that can be read and did not get there
