@@ -8,8 +8,10 @@
 #include "night/night_texture_sets.h"
 #include "sets/resource_folders.h"
 #include "sets/set_kind.h"
+#include "sets/undo_step.h"
 #include "simulator/backups.h"
 #include "simulator/base_install_rows.h"
+#include "simulator/installed_rows.h"
 #include "simulator/options.h"
 #include "sky/sky_selection.h"
 #include "sky/sky_sets.h"
@@ -37,6 +39,7 @@ void reloadAll(Session& session) {
 
 void joinRooms(Session& session) {
     session.reloadRows = reloadAll;
+    session.state<UndoKeeping>().installedRows = installedRows;
     session.state<WeatherKinds>() = {&setKind<GroundKind>(), &setKind<SkyKind>()};
 }
 

@@ -2,6 +2,8 @@
 
 #include "core/native_check_sum.h"
 
+#include <chrono>
+
 namespace morvane {
 
 FileFingerprint fingerprintOf(const QByteArray& contents) {
@@ -20,6 +22,16 @@ std::optional<SeenFile> seeFile(FileSystem& files, const FilePath& file) {
 
 bool isAsSeen(FileSystem& files, const FilePath& file, const std::optional<SeenFile>& seen) {
     return files.stampIfThere(file) == (seen ? std::optional(seen->stamp) : std::nullopt);
+}
+
+bool showsWritesFrom(std::int64_t moment, std::int64_t time) {
+    constexpr std::int64_t second = 1'000'000'000, slowTurn = 2 * second, turn = second / 10;
+    return time + (time % second == 0 ? slowTurn : turn) < moment;
+}
+
+std::int64_t momentNow() {
+    using std::chrono::duration_cast, std::chrono::nanoseconds, std::chrono::system_clock;
+    return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
 }
 
 } // namespace morvane

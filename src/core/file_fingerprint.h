@@ -28,5 +28,10 @@ struct SeenFile {
 std::optional<SeenFile> seeFile(FileSystem& files, const FilePath& file);
 /// False once somebody has written to it, put another in its place or taken it away.
 bool isAsSeen(FileSystem& files, const FilePath& file, const std::optional<SeenFile>& seen);
+/// A write at that moment or later shows in the time of a file which has this one now. Both in nanoseconds
+/// since 1970. Clocks of files turn every few milliseconds, those of drives without parts of a second every
+/// other second.
+bool showsWritesFrom(std::int64_t moment, std::int64_t time);
+std::int64_t momentNow();
 
 } // namespace morvane

@@ -20,8 +20,10 @@ enum class Question {
     savedFlight,         ///< start a saved flight
     wideClient,          ///< is this PC a WideFS client
     largeRun,            ///< make as many sets as that
+    undoInstall,         ///< give back what the last install replaced
+    putOwnBack,          ///< give back what Morvane ever replaced
 };
-inline constexpr std::size_t questionCount = 12;
+inline constexpr std::size_t questionCount = 14;
 
 /// What the user said: the answer flags of the message screen and the one flag of a wanted cancel.
 /// A message returns nothing; the caller marks its question before showing it and reads the flag afterwards.

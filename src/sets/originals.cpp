@@ -4,6 +4,8 @@
 #include "core/literals.h"
 #include "core/ordered_work.h"
 
+#include <algorithm>
+
 namespace morvane {
 
 namespace {
@@ -20,8 +22,8 @@ QString numbered(const QString& path, int number) {
 
 Originals::Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath,
                      const QDate& today)
-    : files_(files), simulator_(simulator), folder_(appPath / u"Backup\\Originals"), today_(today),
-      list_(files, simulator, folder_), spelling_(files, simulator) {
+    : files_(files), simulator_(simulator), appPath_(appPath), folder_(appPath / u"Backup\\Originals"),
+      today_(today), list_(files, simulator, folder_), spelling_(files, simulator) {
     respell();
 }
 
@@ -125,7 +127,21 @@ void Originals::note(const FilePath& place, const Standing& standing, bool isFor
         facts.push_back(keep(place, standing.file->print, *standing.unknown));
     else if (!standing.file && isForOurs && !list_.records().contains(path))
         facts.push_back(factOf(FactKind::added, place));
+    if (isForOurs) stood_.push_back(stoodFact(place, standing, facts));
     looked_.insert(path);
+}
+
+/// `facts`: its keeping is the last of them, where the file was not known before.
+OriginalFact Originals::stoodFact(const FilePath& place, const Standing& standing,
+                                  const std::vector<OriginalFact>& facts) const {
+    if (!standing.file) return factOf(FactKind::added, place);
+    const OriginalRecord& record = list_.records().of(place.relative());
+    const auto ours = std::ranges::find(record.ours, standing.file->print, &OriginalFact::print);
+    OriginalFact fact = standing.unknown            ? facts.back()
+                        : ours != record.ours.end() ? *ours
+                                                    : record.kept.back();
+    fact.mode = standing.file->stamp.mode;
+    return fact;
 }
 
 OriginalFact Originals::keep(const FilePath& place, const FileFingerprint& print,
@@ -197,9 +213,18 @@ void Originals::notePlaced(const FileCopy& copy, const FilePath& place) {
 
 void Originals::settle() {
     if (announced_.isEmpty()) return;
-    for (auto last = placed_.cbegin(); last != placed_.cend(); ++last)
-        list_.records()[last.key()].ours = {*last};
+    settlePlaced();
     list_.write();
+}
+
+/// A file that was written just now keeps no number: its time may be that of a later write, too, so only its
+/// bytes can tell.
+void Originals::settlePlaced() {
+    const std::int64_t now = momentNow();
+    for (auto last = placed_.begin(); last != placed_.end(); ++last) {
+        if (!showsWritesFrom(now, last->time)) last->number = 0;
+        list_.records()[last.key()].ours = {*last};
+    }
 }
 
 bool Originals::takeReadOnlyMark(const FilePath& place) {

@@ -2,6 +2,7 @@
 
 #include "core/disk_spelling.h"
 #include "core/error.h"
+#include "sets/checked_place.h"
 #include "sets/originals_list.h"
 
 #include <QSet>
@@ -75,6 +76,14 @@ public:
     /// of what was put to one path only the last counts.
     void settle();
 
+    /// What stood in the places of the prepared copies, as UndoRecord has it.
+    const std::vector<OriginalFact>& stood() const { return stood_; }
+    /// Brings back what stood there: the pilot's files, ours from where they came or else from below `saved`,
+    /// or nothing. What another hand changed since is left. As `restore` in the rest.
+    OriginalsReport undo(
+        const std::vector<OriginalFact>& stood, const FilePath& saved,
+        const std::function<void(double)>& progress = [](double) {});
+
     /// Takes the read-only mark away, where there is one, so that a restore can give it back; true when there
     /// was.
     bool takeReadOnlyMark(const FilePath& place);
@@ -96,6 +105,16 @@ public:
     /// nothing where we put the first file. What was given back has no facts afterwards. One file that fails
     /// does not keep the others from it. `progress` is called with a part of 1 after each file.
     OriginalsReport restore(const std::function<void(double)>& progress = [](double) {});
+
+    /// What stands in every place where a file of ours was put or the pilot's was kept. `progress` as above.
+    std::vector<CheckedPlace> check(
+        CheckDepth depth, const std::function<void(double)>& progress = [](double) {});
+    /// What another program put in the place of ours counts as the pilot's own from now on, and is kept.
+    /// False when no such file stands there.
+    bool takeAsPilots(const QString& path);
+    /// The pilot's youngest file in that place, whatever stands there; what nobody else has is copied beside
+    /// the kept ones first. False when none is kept whole.
+    bool putPilotsBack(const QString& path);
 
 private:
     void respell();
@@ -123,6 +142,30 @@ private:
     void addKept(const std::vector<OriginalFact>& facts);
     OriginalFact factOf(FactKind kind, const FilePath& place) const;
 
+    OriginalFact stoodFact(const FilePath& place, const Standing& standing,
+                           const std::vector<OriginalFact>& facts) const;
+    void settlePlaced();
+
+    /// A place of a step that is undone.
+    struct StoodPlace {
+        FilePath place;
+        OriginalFact stood;
+    };
+    struct FoundPlace {
+        std::optional<SeenFile> standing = {};
+        std::optional<FilePath> source = {}; ///< of what stood, where it does not stand
+        std::optional<Error> failure = {};
+
+        bool stands(const OriginalFact& stood) const {
+            return standing ? stood.kind != FactKind::added && standing->print == stood.print
+                            : stood.kind == FactKind::added;
+        }
+    };
+    FoundPlace lookAt(const StoodPlace& place, const FilePath& saved) const;
+    bool undoPlace(const StoodPlace& place, const FoundPlace& found, OriginalsReport& report);
+    void bringBack(const StoodPlace& place, const FilePath& source);
+    void settleUndone(const std::vector<OriginalFact>& undone);
+
     void clearStrays();
     /// What a file to be put back or taken away has been found to be.
     struct FoundFile {
@@ -135,22 +178,29 @@ private:
         FilePath place;
         OriginalRecord record;
     };
-    bool isSound(const OriginalFact& kept) const;
+    bool holds(const FilePath& file, const FileFingerprint& print) const;
+    bool isSound(const OriginalFact& kept) const { return holds(folder_ / kept.where, kept.print); }
     FoundFile lookAt(const KnownFile& file) const;
     void restoreFile(const KnownFile& file, const FoundFile& ahead, OriginalsReport& report);
+    void giveBack(const KnownFile& file, const FoundFile& found);
     void restoreKept(const KnownFile& file, const FoundFile& found, OriginalsReport& report);
     static unsigned modeAfter(const KnownFile& file, const FoundFile& found);
     void removeMadeFolders();
+    CheckedPlace check(const KnownFile& file, CheckDepth depth) const;
+    PlaceState stateOf(const KnownFile& file, const FileStamp& stamp, CheckDepth depth) const;
+    static bool isUntouched(const OriginalFact& ours, const FileStamp& stamp);
+    bool isKeptSound(const OriginalFact& kept, CheckDepth depth) const;
 
     FileSystem& files_;
-    FilePath simulator_, folder_;
+    FilePath simulator_, appPath_, folder_;
     QDate today_;
     OriginalsList list_;
     DiskSpelling spelling_;
     QHash<QString, FileFingerprint> announced_; ///< by source
-    QHash<QString, SeenFile> standing_;         ///< with the bytes of a copy that is to go there
-    QHash<QString, OriginalFact> placed_;       ///< the last of each path
-    QHash<QString, Error> failures_;            ///< by source or by path of the target
+    std::vector<OriginalFact> stood_;
+    QHash<QString, SeenFile> standing_;    ///< with the bytes of a copy that is to go there
+    QHash<QString, OriginalFact> placed_;  ///< the last of each path
+    QHash<QString, Error> failures_;       ///< by source or by path of the target
     QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run
     QHash<QString, FilePath> copyFolders_; ///< made, by the folder below `folder_`
 };

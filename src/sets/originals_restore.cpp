@@ -46,9 +46,9 @@ void Originals::clearStrays() {
         removePartialCopies(files_, folder);
 }
 
-bool Originals::isSound(const OriginalFact& kept) const {
+bool Originals::holds(const FilePath& file, const FileFingerprint& print) const {
     try {
-        return fingerprintOf(files_, folder_ / kept.where) == kept.print;
+        return fingerprintOf(files_, file) == print;
     } catch (const Error&) {
         return false;
     }
@@ -102,11 +102,17 @@ void Originals::restoreKept(const KnownFile& file, const FoundFile& found, Origi
         report.damaged << place.relative();
         return;
     }
+    if (!stands) ++report.putBack;
+    giveBack(file, found);
+}
+
+void Originals::giveBack(const KnownFile& file, const FoundFile& found) {
+    const auto& [place, record] = file;
+    const OriginalFact& kept = record.kept.back();
     const unsigned mode = modeAfter(file, found);
-    if (!stands) {
+    if (!found.standing || found.standing->print != kept.print) {
         takeReadOnlyMark(place);
         replaceFile(files_, folder_ / kept.where, place);
-        ++report.putBack;
     }
     if (mode && files_.stamp(place).mode != mode) files_.setMode(place, mode);
     list_.add({factOf(FactKind::gone, place)});

@@ -3,6 +3,7 @@
 #include "core/failure_report.h"
 #include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
+#include "sets/undo_step.h"
 
 namespace morvane {
 
@@ -32,9 +33,11 @@ SetInstallation::Outcome SetInstallation::run(Job& job, bool isByHand) {
     filesCopied_ = 0;
     Outcome outcome = Outcome::failed;
     reportFailures(session_.user, morvaneError, [&] {
+        UndoStep step(session_); // with the match
         if (isByHand && !prepareByHand(job)) return;
         if (!job.begin()) return;
         const QString name = set_.inHand(session_).name;
+        step.add(set_.facts.word + u" set "_s + name);
         outcome = installSet(name) ? Outcome::installed : Outcome::storeRefused;
     });
     if (outcome != Outcome::installed || session_.CommandLineRun) return outcome;

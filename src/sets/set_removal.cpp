@@ -3,6 +3,7 @@
 #include "core/job.h"
 #include "core/numbers.h"
 #include "sets/set_names.h"
+#include "sets/undo_step.h"
 
 #include <algorithm>
 #include <iterator>
@@ -147,9 +148,10 @@ Reported removeSet(Session& session, const SetKind& kind, const QString& name, b
         stored = keepRecord ? kind.storeActivation(session, set->name, false)
                             : kind.removeRecord(session, set->name);
         // A name that no folder can have, of a store that was edited by hand: the row is all there is.
-        if (stored && FilePath::isChildName(set->name))
-            removeBitmapFolders(session, kind.setFolder(session, set->name), kind.facts.subfolders,
-                                !keepRecord);
+        if (!stored || !FilePath::isChildName(set->name)) return;
+        const FilePath folder = kind.setFolder(session, set->name);
+        saveForUndo(session, folder);
+        removeBitmapFolders(session, folder, kind.facts.subfolders, !keepRecord);
     });
     return stored;
 }

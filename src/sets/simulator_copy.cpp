@@ -2,6 +2,7 @@
 
 #include "core/error.h"
 #include "core/safe_copy.h"
+#include "sets/undo_step.h"
 
 #include <QSet>
 
@@ -24,6 +25,7 @@ void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
         if (session_.jobRunning) session_.user.pumpMessages();
         endWithSession(session_);
     });
+    keepForUndo(session_, originals_);
     std::vector<FilePath> places;
     places.reserve(copies.size());
     for (const FileCopy& copy : copies)

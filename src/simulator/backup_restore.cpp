@@ -5,6 +5,7 @@
 #include "core/failure_report.h"
 #include "core/numbers.h"
 #include "sets/simulator_copy.h"
+#include "sets/undo_step.h"
 #include "simulator/backup_list.h"
 #include "simulator/backups.h"
 #include "simulator/checked_copies.h"
@@ -54,6 +55,7 @@ int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const Fil
 RestoreReport copyBack(Session& session, const QString& name) {
     const std::vector<FileCopy> copies = texturesOf(session, name);
     const BackupList list = BackupList::readIfReadable(session, name);
+    forgetLastStep(session); // what it speaks of is replaced
     SimulatorCopier copier(session);
     copier.clearStrays(copies);
     CheckAhead sources(copies);

@@ -13,6 +13,7 @@
 #include "sets/set_names.h"
 #include "sets/simulator_copy.h"
 #include "sets/stored_rows.h"
+#include "sets/undo_step.h"
 #include "simulator/base_install_rows.h"
 #include "simulator/checked_copies.h"
 
@@ -98,6 +99,8 @@ std::optional<std::vector<FileCopy>> collectTicked(Session& session, const QStri
 
 /// What to say at the end; nothing where nothing was ticked.
 std::optional<DoneLine> copyTicked(Session& session, const QStringList& tickedTitles) {
+    UndoStep step(session);
+    if (!tickedTitles.isEmpty()) step.add(u"Base install of "_s + tickedTitles.join(u", "_s));
     std::optional<std::vector<FileCopy>> copies = collectTicked(session, tickedTitles);
     if (!copies) {
         session.user.showMessage(

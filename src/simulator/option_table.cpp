@@ -106,4 +106,8 @@ const SimulatorOption& optionOf(bool OptionsInForce::*flag) {
     return *std::ranges::find(options, flag, &SimulatorOption::flag);
 }
 
+QString optionPart(bool OptionsInForce::*flag, bool isOn) {
+    return QString::fromUtf16(optionOf(flag).caption) + (isOn ? u": on"_s : u": off"_s);
+}
+
 } // namespace morvane

@@ -26,5 +26,7 @@ struct SimulatorOption {
 std::span<const SimulatorOption> simulatorOptions();
 /// The option of the flag.
 const SimulatorOption& optionOf(bool OptionsInForce::*flag);
+/// What an undo calls the change of that option: "Use customized halo: on".
+QString optionPart(bool OptionsInForce::*flag, bool isOn);
 
 } // namespace morvane

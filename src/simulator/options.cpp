@@ -7,6 +7,7 @@
 #include "core/registry.h"
 #include "core/store_records.h"
 #include "sets/simulator_copy.h"
+#include "sets/undo_step.h"
 #include "simulator/option_table.h"
 
 namespace morvane {
@@ -54,12 +55,18 @@ void getCustomSplashVal(Session& session) {
     });
 }
 
+void storeSplashInhibition(Session& session, bool value) {
+    storeOwnValue(session.registry, u"InhibitCustomSplash"_s, flagText(value));
+    session.state<OptionsInForce>().InhibitCustomSplash = value;
+}
+
 void setCustomSplashVal(Session& session, bool value) {
     reportFailures(session.user, optionFailure(u"Sub setCustomSplashVal"_s), [&] {
         Job job(session);
         if (!job) return;
-        storeOwnValue(session.registry, u"InhibitCustomSplash"_s, flagText(value));
-        session.state<OptionsInForce>().InhibitCustomSplash = value;
+        UndoStep step(session);
+        if (value) step.add(optionPart(&OptionsInForce::InhibitCustomSplash, value));
+        storeSplashInhibition(session, value);
         if (value)
             copyIntoSimulator(session, session.AppPath / u"Media\\dlgsplash.bmp", splashTarget(session));
         job.end();

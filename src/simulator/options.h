@@ -24,6 +24,8 @@ bool isCustomSplashInhibited(const Session& session);
 void getCustomSplashVal(Session& session);
 /// Sets and stores the flag; true also puts the simulator's own splash back.
 void setCustomSplashVal(Session& session, bool value);
+/// Its value alone, in the session and the registry.
+void storeSplashInhibition(Session& session, bool value);
 /// The same of `IsWideClient`, blanks around it left out.
 bool isWideClientStored(const Session& session);
 /// Reads `IsWideClient` into the flag; asks the user when it is neither of the words and stores the answer,

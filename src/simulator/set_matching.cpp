@@ -5,6 +5,7 @@
 #include "ground/ground_sets.h"
 #include "sets/cloud_cover.h"
 #include "sets/set_names.h"
+#include "sets/undo_step.h"
 #include "simulator/simulator_launch.h"
 #include "sky/sky_sets.h"
 #include "weather/cover_choice.h"
@@ -69,6 +70,7 @@ MatchedSets installMatchingSets(Session& session, const CloudCover& cover) {
     reportFailures(session.user, {u"getIcaoWxDetails Error"_s, MessageKind::exlamation}, [&] {
         const Writing writing(session); // for both, so that they go together
         if (!writing) return;
+        const UndoStep step(session); // one, of two installs
         const MatchedKind ground{setKind<GroundKind>(), ClosestSearch::nextCover},
             sky{setKind<SkyKind>(), ClosestSearch::currentCover};
         const auto grounds = ground.kind.activated(session), skies = sky.kind.activated(session);

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "core/session.h"
-#include "sets/originals.h"
+#include "simulator/restored_files.h"
 
 namespace morvane {
 
-/// Gives the pilot the simulator back as it was before Morvane's first copy, as a job of its own: see
-/// Originals::restore. No set and no body counts as installed afterwards, and the halo, the Dutch and the
-/// tropical textures are off. Files that were left as they are are named in a message, which is an
-/// Exclamation where a kept file is damaged; at the end one line says what was done. Nothing after the
-/// message of a failure.
+/// Gives the pilot the simulator back as it was before Morvane's first copy: see Originals::restore and
+/// runRestore. No set and no body counts as installed afterwards, the halo, the Dutch and the tropical
+/// textures are off, and nothing can be undone any more.
 std::optional<OriginalsReport> restoreOriginals(Session& session);
+/// The same behind a question that says how much there is.
+std::optional<OriginalsReport> askRestoreOriginals(Session& session);
 
 } // namespace morvane

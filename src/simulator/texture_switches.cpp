@@ -10,6 +10,9 @@
 #include "sets/options_in_force.h"
 #include "sets/set_names.h"
 #include "sets/simulator_copy.h"
+#include "sets/undo_step.h"
+#include "simulator/installed_rows.h"
+#include "simulator/option_table.h"
 #include "simulator/options.h"
 
 namespace morvane {
@@ -26,17 +29,6 @@ FilePath sourceFolder(const Session& session, const char16_t* baseFolder, const 
     if (name == defaultSetName) return session.AppPath / baseFolder;
     const FilePath folder = session.AppPath / sets;
     return (name.isEmpty() ? folder : folder.child(name)) / subfolder;
-}
-
-template <class Record>
-QString installedName(const KeyedCollection<Record>& sets) {
-    for (const auto& set : sets)
-        if (set->Installed) return nameOf(*set);
-    return {};
-}
-
-QString installedNight(Session& session) {
-    return refreshNightSets(session) ? installedName(*session.rows<clsNightTextureSets>()) : QString();
 }
 
 /// Reads them anew on the way: what is installed may have changed since they were loaded.
@@ -146,9 +138,12 @@ bool switchDutch(Session& session, bool isOn) {
     Job job(session);
     if (!job) throw Error(ErrorCode::interrupted);
     if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsDutch = false;
+    UndoStep step(session);
+    step.add(optionPart(&OptionsInForce::IsDutch, isOn));
     session.state<OptionsInForce>().IsDutch = isOn;
     const auto copyTextures = isOn ? dutchTexturesOn : dutchTexturesOff;
-    copyTextures(session, installedName(*session.rows<clsTextureSets>()), installedNight(session));
+    const QString night = refreshNightSets(session) ? installedNight(session) : QString();
+    copyTextures(session, installedGround(session), night);
     storeSwitch(session, &OptionsInForce::IsDutch, isOn);
     return true;
 }
@@ -157,7 +152,9 @@ bool switchTropical(Session& session, bool isOn) {
     Job job(session);
     if (!job) throw Error(ErrorCode::interrupted);
     if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsTropical = false;
-    tropicalTextures(session, isOn, installedName(*session.rows<clsTextureSets>()));
+    UndoStep step(session);
+    step.add(optionPart(&OptionsInForce::IsTropical, isOn));
+    tropicalTextures(session, isOn, installedGround(session));
     session.state<OptionsInForce>().IsTropical = isOn;
     storeSwitch(session, &OptionsInForce::IsTropical, isOn);
     return true;
@@ -166,6 +163,8 @@ bool switchTropical(Session& session, bool isOn) {
 void switchHalo(Session& session, bool isOn) {
     Job job(session);
     if (!job) throw Error(ErrorCode::interrupted);
+    UndoStep step(session);
+    step.add(optionPart(&OptionsInForce::IsHalo, isOn));
     session.state<OptionsInForce>().IsHalo = isOn;
     storeSwitch(session, &OptionsInForce::IsHalo, isOn);
     copyIntoSimulator(session, session.AppPath / (isOn ? u"Media\\halo.bmp" : u"Media\\halodefault.bmp"),

@@ -4,6 +4,7 @@
 #include "core/flag_text.h"
 #include "sets/set_removal.h"
 #include "sets/temp_bitmaps.h"
+#include "sets/undo_step.h"
 #include "sky/sky_base_sets.h"
 #include "sky/sky_generation.h"
 #include "sky/sky_selection.h"
@@ -55,6 +56,7 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
     if (!isWhole) return true;
     if (!hasColours || !setKind<SkyKind>().storeActivation(session_, set.SkyTextureSet, true)) return false;
     session_.state<SkySelection>().SelectedSkySet = set.SkyTextureSet;
+    saveForUndo(session_, folder);
     session_.files.makeFolder(folder);
     SkyGeneration generation(session_);
     for (const QString& timeOfDay : timesOfDay) {
