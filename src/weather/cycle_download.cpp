@@ -79,6 +79,8 @@ public:
         if (isCancelled_ || !reply_->isFinished()) return false;
         take();
         if (problem_.isEmpty()) judge();
+        // What was announced may come to be known behind the last bytes.
+        if (problem_.isEmpty()) download_.onProgress(bytes_.size(), bytes_.size());
         return true;
     }
     const QString& problem() const { return problem_; }
