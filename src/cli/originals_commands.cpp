@@ -4,6 +4,8 @@
 #include "cli/terminal.h"
 #include "core/numbers.h"
 #include "sets/simulator_copy.h"
+#include "sets/undo_step.h"
+#include "simulator/difference_choices.h"
 #include "simulator/simulator_check.h"
 #include "simulator/simulator_restore.h"
 #include "simulator/undo_install.h"
@@ -102,8 +104,7 @@ QString textOf(const SimulatorCheck& check) {
 void verify(CommandContext& context) {
     const CheckDepth depth =
         context.options.contains(deepOption) ? CheckDepth::everyFile : CheckDepth::changedFiles;
-    const SimulatorCheck check = checkSimulator(context.session, depth);
-    context.user.hideMessage(); // the line of the progress
+    const SimulatorCheck check = checkSimulator(context.session, depth, false);
     if (context.options.contains(jsonOption.name))
         printJson(QJsonDocument(toJson(check)));
     else
@@ -117,11 +118,12 @@ void settle(CommandContext& context) {
     for (QString& path : paths)
         path.replace(u'/', u'\\');
     const auto report = settleDifferences(context.session, choice, paths);
-    if (report && report->done + report->leftOut.size() < paths.size())
-        fail(context, u"Only files that \"verify\" calls changed or missing can be named here."_s);
+    if (report && (report->done < paths.size()))
+        fail(context, u"Not all of these could be settled; \"verify\" names those that differ."_s);
 }
 
 void undo(CommandContext& context) {
+    if (!lastStep(context.session)) return fail(context, u"There is no install to undo."_s);
     if (const auto report = undoLastInstall(context.session)) printJson(QJsonDocument(toJson(*report)));
 }
 

@@ -56,8 +56,9 @@ QString screenName(Screen screen) {
         u"frm_SelectNightTexture",
         u"frm_BackupList",
         u"frm_Switcher",
+        u"frm_InSimulator",
     };
-    static_assert(std::size(names) == static_cast<std::size_t>(Screen::frm_Switcher) + 1);
+    static_assert(std::size(names) == static_cast<std::size_t>(Screen::frm_InSimulator) + 1);
     return QString::fromUtf16(names[static_cast<std::size_t>(screen)]);
 }
 

@@ -67,6 +67,7 @@ enum class Screen {
     frm_SelectNightTexture,
     frm_BackupList,
     frm_Switcher,
+    frm_InSimulator,
 };
 
 /// Names as text, for logs of tests and for windows.

@@ -1,8 +1,5 @@
 #include "simulator/simulator_check.h"
 
-#include "core/attempts.h"
-#include "core/failure_report.h"
-#include "core/job.h"
 #include "core/numbers.h"
 #include "sets/options_in_force.h"
 #include "sets/set_names.h"
@@ -10,15 +7,12 @@
 #include "sets/stored_rows.h"
 #include "simulator/base_install_rows.h"
 #include "simulator/installed_rows.h"
-#include "simulator/restored_files.h"
 
 #include <algorithm>
 
 namespace morvane {
 
 namespace {
-
-const QString checkTitle = u"In the Simulator Now"_s;
 
 /// A part of what is installed and the folders below the install that its files come from.
 struct PartSource {
@@ -94,49 +88,6 @@ void countIn(SimulatorCheck& check, const CheckedPlace& place) {
     if (place.isKept && !place.isKeptSound) check.damagedKept << place.path;
 }
 
-void putOursBack(Session& session, const std::vector<CheckedPlace>& places, ChoiceReport& report) {
-    std::vector<FileCopy> copies;
-    for (const CheckedPlace& place : places)
-        copies.push_back({session.AppPath / place.where, session.FSPath / place.path});
-    SimulatorCopier copier(session);
-    copier.prepare(copies);
-    for (std::size_t i = 0; i < copies.size(); ++i)
-        if (attempt([&] { copier.copy(copies[i]); }))
-            ++report.done;
-        else
-            report.leftOut << places[i].path;
-    copier.finish();
-}
-
-ChoiceReport settle(Session& session, DifferenceChoice choice, const QStringList& paths) {
-    Originals originals = originalsOf(session);
-    std::vector<CheckedPlace> places = originals.check(CheckDepth::changedFiles);
-    std::erase_if(places,
-                  [&](const CheckedPlace& place) { return !place.differs() || !paths.contains(place.path); });
-    ChoiceReport report;
-    if (choice == DifferenceChoice::putOursBack) {
-        putOursBack(session, places, report);
-        return report;
-    }
-    for (const CheckedPlace& place : places) {
-        bool isDone = false;
-        attempt([&] {
-            isDone = choice == DifferenceChoice::takeAsMine ? originals.takeAsPilots(place.path)
-                                                            : originals.putPilotsBack(place.path);
-        });
-        if (isDone)
-            ++report.done;
-        else
-            report.leftOut << place.path;
-    }
-    return report;
-}
-
-QString doneText(DifferenceChoice choice, int done) {
-    return countText(done, u"file"_s) +
-           (choice == DifferenceChoice::takeAsMine ? u" taken as your own"_s : u" put back"_s);
-}
-
 } // namespace
 
 QString InstalledPart::stateText() const {
@@ -160,10 +111,10 @@ bool SimulatorCheck::isAsLeft() const {
            std::ranges::all_of(installed, &InstalledPart::isWhole);
 }
 
-SimulatorCheck checkSimulator(Session& session, CheckDepth depth) {
+SimulatorCheck checkSimulator(Session& session, CheckDepth depth, bool tellsProgress) {
     SimulatorCheck check;
     check.places = originalsOf(session).check(depth, [&](double part) {
-        session.user.updateProgress({}, {}, 100 * part);
+        if (tellsProgress) session.user.updateProgress({}, {}, 100 * part);
         if (isWorkCancelled(session)) throw Error(ErrorCode::interrupted);
     });
     for (const CheckedPlace& place : check.places)
@@ -174,23 +125,6 @@ SimulatorCheck checkSimulator(Session& session, CheckDepth depth) {
         check.installed.push_back(source.part);
     }
     return check;
-}
-
-std::optional<ChoiceReport> settleDifferences(Session& session, DifferenceChoice choice,
-                                              const QStringList& paths) {
-    const Job job(session);
-    if (!job) return std::nullopt;
-    std::optional<ChoiceReport> report;
-    reportFailures(session.user, morvaneError, [&] { report = settle(session, choice, paths); });
-    if (!report) return report;
-    if (!report->leftOut.isEmpty())
-        session.user.showMessage(
-            {MessageKind::information, checkTitle,
-             u"These files were left as they are, as what would have to come is not there "
-             u"or not whole, or cannot be put in its place:\n"_s +
-                 listedPaths(report->leftOut)});
-    session.user.tellDone({doneText(choice, report->done), {}, !report->leftOut.isEmpty()});
-    return report;
 }
 
 } // namespace morvane

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "sets/checked_place.h"
-
 #include "core/session.h"
+#include "sets/checked_place.h"
 
 #include <QStringList>
 #include <vector>
@@ -37,25 +36,8 @@ struct SimulatorCheck {
     bool isAsLeft() const;
 };
 
-/// Looks at every file that Morvane ever put or kept. `progress` is called with a part of 1. Raises when the
-/// list cannot be read, and `interrupted` when the user cancels.
-SimulatorCheck checkSimulator(Session& session, CheckDepth depth);
-
-/// What can be done with a place that differs.
-enum class DifferenceChoice {
-    takeAsMine,  ///< what stands there stays and counts as the pilot's own
-    putOursBack, ///< copied again from where it came
-    putOwnBack,  ///< the kept file returns, and the place is no longer ours
-};
-
-struct ChoiceReport {
-    int done = 0;
-    QStringList leftOut; ///< places that cannot take the choice
-};
-
-/// As a job of its own; says at the end what was done and names what was left out. Nothing after the message
-/// of a failure.
-std::optional<ChoiceReport> settleDifferences(Session& session, DifferenceChoice choice,
-                                              const QStringList& paths);
+/// Looks at every file that Morvane ever put or kept; `tellsProgress` for the bar of a message. Raises when
+/// the list cannot be read, and `interrupted` when the user cancels.
+SimulatorCheck checkSimulator(Session& session, CheckDepth depth, bool tellsProgress);
 
 } // namespace morvane

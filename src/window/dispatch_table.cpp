@@ -10,8 +10,10 @@
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/screens/base_install_screen.h"
+#include "simulator/screens/simulator_check_screen.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
+#include "simulator/undo_install.h"
 #include "sky/screens/sky_colour_screen.h"
 #include "sky/sky_generation.h"
 #include "sky/sky_sets.h"
@@ -107,6 +109,16 @@ void bringBackupBack(WindowShell& shell, SkinnedButton&) {
     restoreBackupOnRequest(shell.session());
 }
 
+void undoInstall(WindowShell& shell, SkinnedButton&) {
+    undoLastInstall(shell.session());
+    shell.refreshMainStatus();
+}
+
+template <DifferenceChoice choice>
+void settleTicked(WindowShell&, SkinnedButton& button) {
+    static_cast<frm_InSimulator*>(Form::of(&button))->settle(choice);
+}
+
 void openUpdatePage(WindowShell& shell, SkinnedButton&) {
     shell.openUpdatePage();
 }
@@ -173,7 +185,7 @@ constexpr char16_t main[] = u"frm_Main", ground[] = u"frm_MVTextures", sky[] = u
                    skyColours[] = u"frm_SkyColorize", nightColours[] = u"frm_NightColorize",
                    wxControl[] = u"frm_WxControl", coverReport[] = u"frm_CC_From_Metar_String",
                    switcher[] = u"frm_Switcher", config[] = u"frm_Config", links[] = u"frm_Links",
-                   about[] = u"frm_About";
+                   about[] = u"frm_About", inSimulator[] = u"frm_InSimulator";
 constexpr char16_t anyForm[] = u"*"; ///< small keys mean the same wherever they lie, and so do a dialog's
 
 struct Entry {
@@ -200,6 +212,7 @@ constexpr Entry entries[] = {
     {large, main, u"main ground install", createGroundSets},
     {large, main, u"main sky install", createSkySets},
     {large, main, u"main mv config", goTo<config>},
+    {large, main, u"undo install", undoInstall},
 
     {medium, ground, u"home", leaveHost},
     {medium, ground, u"texture sets", showList},
@@ -227,6 +240,9 @@ constexpr Entry entries[] = {
     {large, config, u"backup", makeBackup},
     {large, config, u"restore", bringBackupBack},
     {large, config, u"update", openUpdatePage},
+    {large, inSimulator, u"take as mine", settleTicked<DifferenceChoice::takeAsMine>},
+    {large, inSimulator, u"put ours back", settleTicked<DifferenceChoice::putOursBack>},
+    {large, inSimulator, u"put own back", settleTicked<DifferenceChoice::putOwnBack>},
     {standard, switcher, u"regupdate", chooseFlightsFolder},
 
     {medium, sky, u"home", leaveHost},

@@ -13,6 +13,7 @@
 #include "simulator/screens/base_install_screen.h"
 #include "simulator/screens/flight_screen.h"
 #include "simulator/screens/options_screen.h"
+#include "simulator/screens/simulator_check_screen.h"
 #include "sky/screens/base_sky_screen.h"
 #include "sky/screens/sky_colour_screen.h"
 #include "sky/screens/sky_set_counts_screen.h"
@@ -74,6 +75,7 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_Switcher>(u"frm_Switcher"_s),
         screenEntry<frm_Config>(u"frm_Config"_s),
         screenEntry<frm_BackupList>(u"frm_BackupList"_s),
+        screenEntry<frm_InSimulator>(u"frm_InSimulator"_s),
         screenEntry<frm_MVTextures>(u"frm_MVTextures"_s),
         screenEntry<frm_GroundColorize>(u"frm_GroundColorize"_s),
         screenEntry<frm_KMTextures>(u"frm_KMTextures"_s),

@@ -13,7 +13,8 @@ public:
 
     /// Marks the "home" key, fills the page, and sets its three large keys anew.
     void formatMainScreen();
-    void refreshMainStatus() { status_->refreshMainStatus(); }
+    /// The page's numbers, and whether there is something to undo.
+    void refreshMainStatus();
     QWidget* ownPage() const override { return status_; }
 
 protected:

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int titleSide = 24;
 constexpr int messageSide = 40;
+constexpr int markSide = 16;
 
 constexpr IconImage icons[] = {
     {u"icon_MVHome", titleSide, Pictogram::gauge},
@@ -30,6 +31,11 @@ constexpr IconImage icons[] = {
     {u"icon_Error", messageSide, Pictogram::stop},
     {u"icon_Question", messageSide, Pictogram::question},
     {u"icon_Progress", messageSide, Pictogram::clock},
+    {u"mark_whole", markSide, Pictogram::tickInRing},
+    {u"mark_own", markSide, Pictogram::shieldWithTick},
+    {u"mark_changed", markSide, Pictogram::warning},
+    {u"mark_missing", markSide, Pictogram::lineInRing},
+    {u"mark_kept", markSide, Pictogram::archiveIn},
 };
 
 constexpr CoverImage covers[] = {

@@ -42,6 +42,8 @@ constexpr KeyImage images[] = {
     {u"btn_Save", KeyFamily::large, Pictogram::disk},
     {u"btn_Backup", KeyFamily::large, Pictogram::archiveIn},
     {u"btn_Restore_Backup", KeyFamily::large, Pictogram::archiveOut},
+    {u"btn_Undo", KeyFamily::large, Pictogram::arrowBack},
+    {u"btn_Take", KeyFamily::large, Pictogram::shieldWithTick},
     {u"btn_Update", KeyFamily::large, Pictogram::arrowDownInRing},
     {u"btn_WxFinder", KeyFamily::large, Pictogram::lensWithCloud},
     {u"btn_WxRefresh", KeyFamily::large, Pictogram::turningArrows},

@@ -95,6 +95,12 @@ const Drawing drawings[] = {
      "M 16.6 14 L 20.6 18 L 16.6 22"},
     {Pictogram::tick, "M 4.4 12.7 L 9.6 17.9 L 20 6.5"},
     {Pictogram::arrowRound, "A 12 12.2 8.2 0 -328 M 20.3 3.7 L 20.3 8.9 L 15.1 8.9"},
+    {Pictogram::arrowBack, "A 12 12.2 8.2 180 328 M 3.7 3.7 L 3.7 8.9 L 8.9 8.9"},
+    {Pictogram::tickInRing, "O 12 12 9 M 7.9 12.4 L 10.8 15.3 L 16.2 9.2"},
+    {Pictogram::lineInRing, "O 12 12 9 M 7.8 12 L 16.2 12"},
+    {Pictogram::shieldWithTick,
+     "M 12 2.8 L 19.8 5.6 L 19.8 11.6 C 19.8 16.2 16.6 19.6 12 21.3 C 7.4 19.6 4.2 16.2 4.2 11.6 L 4.2 5.6 Z "
+     "M 8.4 11.9 L 11 14.5 L 15.8 9.2"},
     {Pictogram::openFolder,
      "M 3.4 19 L 3.4 5 L 9.4 5 L 11.4 7.4 L 19 7.4 L 19 10.4 M 3.4 19 L 6.3 10.4 L 21.6 10.4 L 18.8 19 Z"},
     {Pictogram::warning, "M 12 3.3 L 21.6 20.4 L 2.4 20.4 Z M 12 9.4 L 12 14.8 D 12 17.6 1"},

@@ -213,6 +213,7 @@ void Gallery::saveDialogs() {
         {Screen::frm_metar_request, u"metar-request"},
         {Screen::frm_AddFav, u"add-favourite"},
         {Screen::frm_BackupList, u"backup-list"},
+        {Screen::frm_InSimulator, u"in-the-simulator"},
         {Screen::frm_MultiDelete, u"name-choice"}};
     shell_.session().state<MetarRequest>().metarRequestText =
         u"Do you wish Morvane to download and decode the latest METAR cycle from Orrinsoft?"_s;

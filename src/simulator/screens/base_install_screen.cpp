@@ -2,8 +2,10 @@
 
 #include "core/failure_report.h"
 #include "core/session.h"
+#include "sets/simulator_copy.h"
 #include "simulator/base_install.h"
 #include "simulator/base_install_rows.h"
+#include "simulator/simulator_restore.h"
 #include "simulator/stock_requests.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/picture_frame.h"
@@ -60,7 +62,6 @@ void frm_Config::addTexts() {
     lblMVDescription_->setObjectName(u"lblMVDescription"_s);
 }
 
-/// Right of them there is room for what the simulator itself gets back.
 void frm_Config::addStockButtons() {
     makeHair(paper(), {14, 330, 568, 1});
     lblStock_ = makeLabel(paper(), {}, {14, 335, 380, 15}, TextRole::fieldCaption);
@@ -76,10 +77,19 @@ void frm_Config::addStockButtons() {
     auto* useSimulator =
         add(u"cmdUseSimulator"_s, u"Use my simulator's textures"_s,
             u"Click to make your new texture sets from the textures of your own simulator."_s,
-            {14, 352, 170, 26});
+            {14, 352, 166, 26});
     cmdUseDelivered_ = add(u"cmdUseDelivered"_s, u"Use the delivered base images again"_s,
                            u"Click to make your new texture sets from the textures that came with Morvane."_s,
-                           {192, 352, 222, 26});
+                           {186, 352, 212, 26});
+    makeHair(paper(), {404, 335, 1, 43});
+    makeLabel(paper(), u"In the simulator"_s, {414, 335, 168, 15}, TextRole::fieldCaption);
+    cmdPutOwnBack_ = add(u"cmdPutOwnBack"_s, u"Put my own textures back"_s,
+                         u"Click to give the simulator back as it was before Morvane's first copy."_s,
+                         {414, 352, 168, 26});
+    connect(cmdPutOwnBack_, &QPushButton::clicked, this, [this] {
+        askRestoreOriginals(session());
+        showStock();
+    });
     connect(useSimulator, &QPushButton::clicked, this, [this] {
         importSimulatorStock(session());
         showStock();
@@ -119,6 +129,10 @@ void frm_Config::showStock() {
     lblStock_->setText(isImported ? u"New sets are made from my simulator's textures"_s
                                   : u"New sets are made from the delivered textures"_s);
     cmdUseDelivered_->setEnabled(isImported);
+    bool isAnythingKept = false;
+    reportFailures(session().user, morvaneError,
+                   [&] { isAnythingKept = !originalsOf(session()).records().all().isEmpty(); });
+    cmdPutOwnBack_->setEnabled(isAnythingKept);
 }
 
 void frm_Config::fillRows() {

@@ -33,7 +33,7 @@ private:
     SetTable* lstMVMain_;
     PictureFrame* picPreview_;
     QLabel *lblMVDescription_, *lblStock_;
-    QPushButton* cmdUseDelivered_;
+    QPushButton *cmdUseDelivered_, *cmdPutOwnBack_;
 };
 
 } // namespace morvane

@@ -52,6 +52,9 @@ SetTable::SetTable(QWidget* parent) : QTreeWidget(parent) {
     setSelectionMode(ExtendedSelection);
     giveTableLook(*this);
     connect(header(), &QHeaderView::sectionClicked, this, &SetTable::sortBy);
+    connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem*, int column) {
+        if (column == 0) Q_EMIT checksChanged();
+    });
     // A click on a row's check box checks it and goes nowhere, so it tells nothing of that row.
     connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
         if (item == currentItem()) tellOfCurrent();
@@ -127,6 +130,18 @@ QStringList SetTable::selectedNames() const {
 
 QStringList SetTable::checkedNames() const {
     return namesWhere(*this, [](const QTreeWidgetItem& item) { return item.checkState(0) == Qt::Checked; });
+}
+
+QStringList SetTable::checkedKeys() const {
+    QStringList keys;
+    for (int row = 1; row <= rowCount(); ++row)
+        if (topLevelItem(row - 1)->checkState(0) == Qt::Checked) keys << keyOf(row);
+    return keys;
+}
+
+void SetTable::checkAll(bool isChecked) {
+    for (int row = 0; row < rowCount(); ++row)
+        topLevelItem(row)->setCheckState(0, isChecked ? Qt::Checked : Qt::Unchecked);
 }
 
 /// Each click turns the order round, whichever head it is on.

@@ -56,11 +56,16 @@ public:
     void selectName(const QString& name);
     QStringList selectedNames() const;
     QStringList checkedNames() const;
+    QStringList checkedKeys() const;
+    /// Ticks every row, or none.
+    void checkAll(bool isChecked);
 
 Q_SIGNALS:
     /// The user clicked this row, dragged the selection to it, or went to it or stayed on it by a key of the
     /// list; never told for a selection from code.
     void rowClicked(const QString& key);
+    /// A box was ticked or unticked, by the user or from code.
+    void checksChanged();
     /// The second click of two on a row was let go, and neither was on its check box.
     void rowDoubleClicked();
 

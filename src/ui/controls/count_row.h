@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QPixmap>
+
+namespace morvane {
+
+/// A line of a small table that can be picked: a sign, what is counted, and how many at the right. Bold where
+/// the eye has to fall on it.
+class CountRow : public QAbstractButton {
+    Q_OBJECT
+public:
+    CountRow(const QPixmap& sign, QWidget* parent);
+
+    void setCount(const QString& what, std::int64_t count, bool isBold = false);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPixmap sign_;
+    QString count_;
+    bool isBold_ = false;
+};
+
+} // namespace morvane
