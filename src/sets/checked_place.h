@@ -12,6 +12,7 @@ enum class PlaceState {
     pilots,  ///< his own
     changed, ///< what another program put in the place of ours
     missing, ///< nothing, where ours was put
+    empty,   ///< nothing, as before an install that did not come so far
 };
 
 /// How a check looks at files.

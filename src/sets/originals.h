@@ -163,6 +163,7 @@ private:
     };
     FoundPlace lookAt(const StoodPlace& place, const FilePath& saved) const;
     bool undoPlace(const StoodPlace& place, const FoundPlace& found, OriginalsReport& report);
+    void giveModeBack(const StoodPlace& place);
     void bringBack(const StoodPlace& place, const FilePath& source);
     void settleUndone(const std::vector<OriginalFact>& undone);
 
@@ -188,6 +189,7 @@ private:
     void removeMadeFolders();
     CheckedPlace check(const KnownFile& file, CheckDepth depth) const;
     PlaceState stateOf(const KnownFile& file, const FileStamp& stamp, CheckDepth depth) const;
+    static PlaceState stateOfNothing(const OriginalRecord& record);
     static bool isUntouched(const OriginalFact& ours, const FileStamp& stamp);
     bool isKeptSound(const OriginalFact& kept, CheckDepth depth) const;
 

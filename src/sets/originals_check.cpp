@@ -2,6 +2,8 @@
 #include "core/ordered_work.h"
 #include "sets/originals.h"
 
+#include <algorithm>
+
 namespace morvane {
 
 std::vector<CheckedPlace> Originals::check(CheckDepth depth, const std::function<void(double)>& progress) {
@@ -24,10 +26,17 @@ CheckedPlace Originals::check(const KnownFile& file, CheckDepth depth) const {
     if (!record.ours.empty()) checked.where = record.ours.back().where;
     const std::optional<FileStamp> stamp = files_.stampIfThere(file.place);
     if (stamp) checked.time = stamp->time;
-    checked.state = stamp ? stateOf(file, *stamp, depth) : PlaceState::missing;
+    checked.state = stamp ? stateOf(file, *stamp, depth) : stateOfNothing(record);
     // Without one of ours the place is the pilot's, whatever he does there.
     if (record.ours.empty()) checked.state = PlaceState::pilots;
     return checked;
+}
+
+/// Of a copy that was only announced nobody noted a time.
+PlaceState Originals::stateOfNothing(const OriginalRecord& record) {
+    const bool wasPut =
+        std::ranges::any_of(record.ours, [](const OriginalFact& ours) { return ours.time != 0; });
+    return record.kept.empty() && !wasPut ? PlaceState::empty : PlaceState::missing;
 }
 
 /// One that cannot be read is not what we left either.

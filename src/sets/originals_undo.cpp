@@ -45,13 +45,17 @@ Originals::FoundPlace Originals::lookAt(const StoodPlace& place, const FilePath&
 /// False when the place was left as it is. Only ours is replaced or taken away, so nothing has to be kept.
 bool Originals::undoPlace(const StoodPlace& place, const FoundPlace& found, OriginalsReport& report) {
     if (found.failure) throw *found.failure;
-    if (found.stands(place.stood)) return true;
+    const OriginalFact& stood = place.stood;
+    if (found.stands(stood)) {
+        if (FileStamp{.mode = stood.mode}.isReadOnly()) giveModeBack(place); // the step took the mark
+        return true;
+    }
     const QString path = place.place.relative();
     if (found.standing && !list_.records().of(path).isOurs(found.standing->print)) {
         report.left << path;
         return false;
     }
-    if (place.stood.kind == FactKind::added) {
+    if (stood.kind == FactKind::added) {
         takeReadOnlyMark(place.place);
         files_.remove(place.place);
         ++report.takenAway;
@@ -76,12 +80,17 @@ void Originals::bringBack(const StoodPlace& stoodPlace, const FilePath& source) 
     if (stood.kind == FactKind::ours) list_.add({ours});
     takeReadOnlyMark(place);
     replaceFile(files_, source, place);
-    if (stood.mode && files_.stamp(place).mode != stood.mode) files_.setMode(place, stood.mode);
+    giveModeBack(stoodPlace);
     if (stood.kind != FactKind::ours) return;
     const FileStamp stamp = files_.stamp(place);
     ours.time = stamp.time;
     ours.number = stamp.number;
     placed_.insert(place.relative(), ours);
+}
+
+void Originals::giveModeBack(const StoodPlace& stoodPlace) {
+    const auto& [place, stood] = stoodPlace;
+    if (stood.mode && files_.stamp(place).mode != stood.mode) files_.setMode(place, stood.mode);
 }
 
 /// What is known of the places is as before the step: no fact speaks of its copies any more.

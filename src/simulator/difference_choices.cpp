@@ -43,7 +43,7 @@ void settle(Session& session, DifferenceChoice choice, const QStringList& paths,
     Originals originals = originalsOf(session);
     std::vector<CheckedPlace> places;
     for (const CheckedPlace& place : originals.check(CheckDepth::changedFiles)) {
-        if (!paths.contains(place.path)) continue;
+        if (!paths.contains(place.path, Qt::CaseInsensitive)) continue;
         if (place.differs())
             places.push_back(place);
         else

@@ -28,9 +28,11 @@ const std::pair<const char16_t*, bool OptionsInForce::*> switches[] = {
     {u"dutch", &OptionsInForce::IsDutch},
     {u"tropical", &OptionsInForce::IsTropical}};
 
-template <class Sets>
-QString installedName(const Sets& sets) {
-    for (const auto& set : sets)
+/// Read anew: rows in memory stay as they were loaded. Empty after the message of a lost store, too.
+template <class Kind>
+QString installedName(Session& session) {
+    if (!refreshSets<Kind>(session)) return {};
+    for (const auto& set : loadedSets<Kind>(session))
         if (set->Installed) return nameOf(*set);
     return {};
 }
@@ -57,17 +59,18 @@ bool setSwitches(Session& session, const QJsonObject& rows) {
 } // namespace
 
 QString installedGround(Session& session) {
-    return installedName(loadedGroundSets(session));
+    return installedName<GroundKind>(session);
 }
 QString installedSky(Session& session) {
-    return installedName(loadedSkySets(session));
+    return installedName<SkyKind>(session);
 }
 QString installedNight(Session& session) {
-    return installedName(loadedNightSets(session));
+    return installedName<NightKind>(session);
 }
 QStringList installedBodies(Session& session) {
     QStringList titles;
-    for (const auto& body : loadedCollection(session, session.rows<clsConfigs>()))
+    if (!clsConfigs::reload(session)) return titles;
+    for (const auto& body : *session.rows<clsConfigs>())
         if (body->ConfigInstalled) titles << body->ConfigName;
     return titles;
 }

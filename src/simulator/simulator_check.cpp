@@ -74,7 +74,8 @@ bool isBelow(const QString& path, const QStringList& folders) {
 
 void countIn(InstalledPart& part, PlaceState state) {
     part.whole += state == PlaceState::ours;
-    part.notThere += state == PlaceState::earlier || state == PlaceState::pilots;
+    part.notThere +=
+        state == PlaceState::earlier || state == PlaceState::pilots || state == PlaceState::empty;
     part.changed += state == PlaceState::changed;
     part.missing += state == PlaceState::missing;
 }

@@ -1,5 +1,6 @@
 #include "simulator/simulator_restore.h"
 
+#include "core/failure_report.h"
 #include "core/numbers.h"
 #include "sets/simulator_copy.h"
 #include "sets/undo_step.h"
@@ -12,6 +13,21 @@ namespace morvane {
 namespace {
 
 const QString ownFilesTitle = u"Put My Own Files Back"_s;
+
+QString ownFilesQuestion(const Originals& originals) {
+    qsizetype files = 0;
+    QSet<QString> folders;
+    for (const auto& [path, record] : originals.records().all().asKeyValueRange()) {
+        if (record.madeFolder) continue;
+        ++files;
+        folders.insert(path.left(path.lastIndexOf(u'\\')));
+    }
+    return u"Morvane has put files of its own into the simulator, or kept yours, in "_s +
+           countText(files, u"place"_s) + u" of "_s + countText(folders.size(), u"folder"_s) +
+           u".  Do you wish to put your own files back as they were before Morvane's first copy?\n\nNo set "
+           u"will "
+           u"be installed then. What another program has changed since is left as it is and named."_s;
+}
 
 } // namespace
 
@@ -28,20 +44,9 @@ std::optional<OriginalsReport> restoreOriginals(Session& session) {
 
 std::optional<OriginalsReport> askRestoreOriginals(Session& session) {
     if (session.jobRunning) return std::nullopt;
-    qsizetype files = 0;
-    QSet<QString> folders;
-    const Originals originals = originalsOf(session);
-    for (const auto& [path, record] : originals.records().all().asKeyValueRange()) {
-        if (record.madeFolder) continue;
-        ++files;
-        folders.insert(path.left(path.lastIndexOf(u'\\')));
-    }
-    const QString question =
-        u"Morvane has put files of its own into the simulator, or kept yours, in "_s +
-        countText(files, u"place"_s) + u" of "_s + countText(folders.size(), u"folder"_s) +
-        u".  Do you wish to put your own files back as they were before Morvane's first copy?\n\nNo set will "
-        u"be "
-        u"installed then. What another program has changed since is left as it is and named."_s;
+    QString question;
+    const auto ask = [&] { question = ownFilesQuestion(originalsOf(session)); };
+    if (!reportFailures(session.user, morvaneError, ask)) return std::nullopt;
     if (!session.user.ask(Question::putOwnBack, ownFilesTitle, question)) return std::nullopt;
     return restoreOriginals(session);
 }

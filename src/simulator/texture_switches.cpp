@@ -142,8 +142,7 @@ bool switchDutch(Session& session, bool isOn) {
     step.add(optionPart(&OptionsInForce::IsDutch, isOn));
     session.state<OptionsInForce>().IsDutch = isOn;
     const auto copyTextures = isOn ? dutchTexturesOn : dutchTexturesOff;
-    const QString night = refreshNightSets(session) ? installedNight(session) : QString();
-    copyTextures(session, installedGround(session), night);
+    copyTextures(session, installedGround(session), installedNight(session));
     storeSwitch(session, &OptionsInForce::IsDutch, isOn);
     return true;
 }

@@ -1,5 +1,6 @@
 #include "simulator/undo_install.h"
 
+#include "core/failure_report.h"
 #include "core/numbers.h"
 #include "sets/simulator_copy.h"
 #include "sets/undo_step.h"
@@ -22,23 +23,25 @@ QString questionOf(const UndoRecord& step) {
 
 std::optional<OriginalsReport> undoLastInstall(Session& session) {
     if (session.jobRunning) return std::nullopt;
-    const auto asked = lastStep(session);
-    if (!asked) {
+    std::optional<UndoRecord> step;
+    if (!reportFailures(session.user, morvaneError, [&] { step = lastStep(session); })) return std::nullopt;
+    if (!step) {
         session.user.showMessage({MessageKind::information, undoTitle, u"There is no install to undo."_s});
         return std::nullopt;
     }
-    if (!session.user.ask(Question::undoInstall, undoTitle, questionOf(*asked))) return std::nullopt;
+    if (!session.user.ask(Question::undoInstall, undoTitle, questionOf(*step))) return std::nullopt;
     return runRestore(session, {.title = undoTitle,
                                 .text = u"Morvane is undoing the last install.  Please wait......."_s,
                                 .restore =
                                     [&](const auto& progress) {
-                                        return originalsOf(session).undo(asked->stood, savedForUndo(session),
+                                        return originalsOf(session).undo(step->stood, savedForUndo(session),
                                                                          progress);
                                     },
                                 .finish =
                                     [&](const OriginalsReport& report) {
-                                        giveBackRows(session, asked->rows);
-                                        if (!report.failure) forgetLastStep(session);
+                                        giveBackRows(session, step->rows);
+                                        if (!report.failure && report.damaged.isEmpty())
+                                            forgetLastStep(session);
                                     }});
 }
 

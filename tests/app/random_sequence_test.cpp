@@ -15,10 +15,12 @@
 #include "simulator/base_install_rows.h"
 #include "simulator/flights.h"
 #include "simulator/options.h"
+#include "simulator/simulator_check.h"
 #include "simulator/simulator_restore.h"
 #include "simulator/stock_import.h"
 #include "simulator/stock_requests.h"
 #include "simulator/texture_switches.h"
+#include "simulator/undo_install.h"
 #include "sky/sky_installation.h"
 #include "support/night_install.h"
 #include "support/small_install.h"
@@ -170,6 +172,7 @@ private:
             {"backup", [&] { createBackup(*session_, false); }},
             {"backup put back", [&] { putBackupBack(); }},
             {"originals put back", [&] { restoreOriginals(*session_); }},
+            {"undo", [&] { undoLastInstall(*session_); }},
             {"flights", [&] { bringFlights(); }},
             {"mark", [&] { markReadOnly(); }},
             {"another hand", [&] { changeByHand(); }},
@@ -190,6 +193,24 @@ private:
         if (isKilled || draw(6) == 0) restart();
         files_.failAt(0, false);
         noteBackups();
+        expectTruth();
+    }
+
+    /// What a check tells of the simulator is so, and the quick look sees what the thorough one does.
+    void expectTruth() {
+        const auto quick = checkSimulator(*session_, CheckDepth::changedFiles, false).places,
+                   thorough = checkSimulator(*session_, CheckDepth::everyFile, false).places;
+        ASSERT_EQ(quick.size(), thorough.size()) << log_;
+        for (std::size_t i = 0; i < quick.size(); ++i) {
+            const QString path = QString(quick[i].path).replace(u'\\', u'/');
+            EXPECT_EQ(quick[i].state, thorough[i].state) << qPrintable(path) << '\n' << log_;
+            const bool isThere = QFile::exists(placeOf(path).native());
+            EXPECT_FALSE(quick[i].state == PlaceState::missing && isThere) << qPrintable(path) << '\n'
+                                                                           << log_;
+            EXPECT_TRUE(!quick[i].differs() || current_->changed.contains(path, Qt::CaseInsensitive))
+                << qPrintable(path) << '\n'
+                << log_;
+        }
     }
 
     void installGround() {

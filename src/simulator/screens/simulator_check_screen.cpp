@@ -41,6 +41,8 @@ QString happenedText(const CheckedPlace& place) {
         return u"Changed "_s + dayText(place.time);
     case PlaceState::missing:
         return u"Missing"_s;
+    case PlaceState::empty:
+        return u"Not copied"_s;
     }
     return {};
 }
