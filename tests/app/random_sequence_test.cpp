@@ -8,12 +8,14 @@
 #include "night/night_installation.h"
 #include "night/night_selection.h"
 #include "sets/options_in_force.h"
+#include "sets/undo_step.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
 #include "simulator/base_install_rows.h"
 #include "simulator/flights.h"
+#include "simulator/installed_rows.h"
 #include "simulator/options.h"
 #include "simulator/simulator_check.h"
 #include "simulator/simulator_restore.h"
@@ -173,6 +175,8 @@ private:
             {"backup put back", [&] { putBackupBack(); }},
             {"originals put back", [&] { restoreOriginals(*session_); }},
             {"undo", [&] { undoLastInstall(*session_); }},
+            {"undone at once", [&] { installAndUndo(); }},
+            {"undone at once", [&] { installAndUndo(); }},
             {"flights", [&] { bringFlights(); }},
             {"mark", [&] { markReadOnly(); }},
             {"another hand", [&] { changeByHand(); }},
@@ -223,6 +227,32 @@ private:
     void installNight() {
         session_->state<NightSelection>().SelectedNightSet = drawFrom({"Default", "2-Night", "3-Night"});
         NightInstallation(*session_).installNightTextureSet();
+    }
+
+    /// The simulator and what counts as installed are as before, also where the install was killed.
+    void installAndUndo() {
+        const std::function<void()> installs[] = {
+            [&] { installGround(); }, [&] { installSky(); },
+            [&] { installNight(); },  [&] { switchDutch(*session_, toss()); },
+            [&] { copyBase(); },      [&] { switchHalo(*session_, toss()); }};
+        forgetLastStep(*session_);
+        const Tree before = wholeFiles();
+        const QJsonObject rows = installedRows(*session_);
+        try {
+            installs[draw(std::size(installs))]();
+        } catch (const Error&) {
+        } catch (const Killed&) {
+            restart();
+        }
+        if (!lastStep(*session_)) return;
+        undoLastInstall(*session_);
+        EXPECT_EQ(wholeFiles(), before) << log_;
+        EXPECT_EQ(installedRows(*session_), rows) << log_;
+    }
+    Tree wholeFiles() {
+        Tree tree = treeOf(hand_, current_->folder);
+        tree.removeIf([](Tree::iterator file) { return file.key().endsWith(partialCopySuffix); });
+        return tree;
     }
 
     void copyBase() { copyBaseResources(*session_, {drawFrom(titles_), drawFrom(titles_)}); }
