@@ -201,7 +201,10 @@ bool Originals::stands(const FileCopy& copy, const FilePath& place) const {
 
 void Originals::notePlaced(const FileCopy& copy, const FilePath& place) {
     const auto print = announced_.constFind(copy.source.text());
-    if (print == announced_.cend()) return; // the pilot's own
+    if (print == announced_.cend()) {
+        pilots_.insert(place.relative());
+        return;
+    }
     const FileStamp stamp = files_.stamp(place);
     OriginalFact ours = factOf(FactKind::ours, place);
     ours.print = *print;
@@ -212,8 +215,11 @@ void Originals::notePlaced(const FileCopy& copy, const FilePath& place) {
 }
 
 void Originals::settle() {
-    if (announced_.isEmpty()) return;
+    if (announced_.isEmpty() && pilots_.isEmpty()) return;
     settlePlaced();
+    // Where the pilot's own was put, nothing of ours is any more.
+    for (const QString& path : pilots_)
+        if (list_.records().contains(path)) list_.records()[path].ours.clear();
     list_.write();
 }
 

@@ -202,6 +202,7 @@ private:
     std::vector<OriginalFact> stood_;
     QHash<QString, SeenFile> standing_;    ///< with the bytes of a copy that is to go there
     QHash<QString, OriginalFact> placed_;  ///< the last of each path
+    QSet<QString> pilots_;                 ///< where his own was put
     QHash<QString, Error> failures_;       ///< by source or by path of the target
     QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run
     QHash<QString, FilePath> copyFolders_; ///< made, by the folder below `folder_`

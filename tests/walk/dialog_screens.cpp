@@ -31,6 +31,7 @@ void giveBaseSets(Session& session) {
 
 std::vector<WalkScreen> setDialogs() {
     const auto isBackupTaken = isSet(&BackupChoice::backupConfirmed);
+    const auto nothingIsConfirmed = [](Session&) { return false; };
     const Effect chosenBackup = becomes(&BackupChoice::chosenBackup);
     return {
         {"ground_counts", u"frm_TsRequired"_s, dialog(Screen::frm_TsRequired), true,
@@ -58,6 +59,15 @@ std::vector<WalkScreen> setDialogs() {
                   {u"(Down)"_s, chosenBackup},
                   {u"(Escape)"_s, closes(isBackupTaken, false)},
                   {u"(close)"_s, closes(isBackupTaken, false)}}},
+        {"in_simulator", u"frm_InSimulator"_s, dialog(Screen::frm_InSimulator), true,
+         WalkRows{{u"cmdReadAll"_s, label(u"lblLooked"_s)},
+                  {u"rowCount*"_s, label(u"lblFiles"_s), 5},
+                  {u"chkAll"_s, label(u"lblTicked"_s, u"2 of 2 ticked"_s)},
+                  {u"lstFiles"_s, itself()},
+                  {u"lstFiles|tick"_s, label(u"lblTicked"_s, u"1 of 2 ticked"_s)},
+                  {u"btn_Cancel"_s, closes(nothingIsConfirmed, false)},
+                  {u"(Escape)"_s, closes(nothingIsConfirmed, false)},
+                  {u"(close)"_s, closes(nothingIsConfirmed, false)}}},
     };
 }
 

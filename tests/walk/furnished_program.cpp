@@ -2,6 +2,8 @@
 #include "core/store.h"
 #include "ground/ground_sets.h"
 #include "ground/texture_sets.h"
+#include "sets/simulator_copy.h"
+#include "sets/undo_step.h"
 #include "simulator/texture_switches.h"
 #include "walk/walk_tables.h"
 #include "weather/reports.h"
@@ -51,6 +53,24 @@ void addBackups(WindowProgram& program) {
     }
 }
 
+/// An install that can be undone, of files that another hand has changed since.
+void addInstall(Session& session) {
+    UndoStep step(session);
+    step.add(u"Ground set 2-Fair"_s);
+    const FilePath target = session.FSPath / u"Scenery\\World\\texture",
+                   set = groundSetFolder(session, u"2-Fair"_s);
+    SimulatorCopier copier(session);
+    std::vector<FileCopy> copies;
+    for (const char16_t* name : {u"changed.bmp", u"changed too.bmp"})
+        copies.push_back({set / u"Texture\\029b2su6.bmp", target / name});
+    copier.prepare(copies);
+    for (const FileCopy& copy : copies)
+        copier.copy(copy);
+    copier.finish();
+    for (const FileCopy& copy : copies)
+        writeFile(copy.target, "another hand's");
+}
+
 void addFlights(WindowProgram& program) {
     writeFile(program.install.home() / u"Flights\\flights.cfg",
               "[Flights]\r\ntotal=2\r\n1=Evening\r\n2=Late Rain\r\n");
@@ -90,6 +110,7 @@ void furnish(WindowProgram& program) {
     addBaseTextures(program.session);
     addOptionFiles(program);
     addBackups(program);
+    addInstall(program.session);
     addFlights(program);
     addWeather(program.session);
     addAddresses(program.install.registry);

@@ -52,7 +52,9 @@ std::vector<WalkScreen> mainScreens() {
         {"status", u"frm_Main"_s, openHome, false,
          mainWindowRows(u"btn_Home"_s) + WalkRows{{u"btn_GroundInstall"_s, shows(u"frm_TsRequired"_s)},
                                                   {u"btn_SkyInstall"_s, shows(u"frm_SelectSkyTexture"_s)},
-                                                  {u"btn_MVConfig"_s, shows(u"frm_Main/frm_Config"_s)}}},
+                                                  {u"btn_MVConfig"_s, shows(u"frm_Main/frm_Config"_s)},
+                                                  {u"btn_Undo"_s, shows(u"message Undo Last Install"_s)},
+                                                  {u"cmdCheckFiles"_s, shows(u"frm_InSimulator"_s)}}},
         {"options", u"frm_Switcher"_s, page(u"frm_Switcher"_s), false,
          mainWindowRows(u"btn_Switcher"_s) +
              WalkRows{{u"chkWideFS"_s, option(&OptionsInForce::IsWideClient)},
@@ -65,6 +67,7 @@ std::vector<WalkScreen> mainScreens() {
         {"base_install", u"frm_Config"_s, page(u"frm_Config"_s), false,
          mainWindowRows(u"btn_Config"_s) +
              WalkRows{{u"lstMVMain"_s, label(u"lblMVDescription"_s, u"About Golf"_s)},
+                      {u"cmdPutOwnBack"_s, shows(u"message Put My Own Files Back"_s)},
                       {u"cmdUseSimulator"_s, shows(u"message Use My Simulator's Textures"_s)},
                       {u"btn_MVInstall"_s, shows(u"message No Options Selected"_s)},
                       {u"btn_backup"_s, shows(u"message Create New Backup?"_s)},

@@ -102,6 +102,7 @@ void frm_InSimulator::addParts() {
 
 void frm_InSimulator::addList() {
     lblFiles_ = makeLabel(this, {}, {left, 225, 400, 14}, TextRole::sectionHeading);
+    lblFiles_->setObjectName(u"lblFiles"_s);
     lblTicked_ = makeLabel(this, {}, {426, 223, rightEdge - 426, 18}, TextRole::number);
     lblTicked_->setObjectName(u"lblTicked"_s);
     lstFiles_ = new SetTable(this);
@@ -170,14 +171,15 @@ void frm_InSimulator::look(CheckDepth depth) {
         check = checkSimulator(session(), depth, isLong);
         if (isLong) session().user.hideMessage();
     });
+    const QString looked = isLong ? u", all read at "_s : u", looked at "_s;
+    lblLooked_->setText(session().FSPath.native() + looked +
+                        session().clock.localTime().toString(u"hh:mm"_s));
+    lblLooked_->setToolTip(lblLooked_->text());
     show(check);
 }
 
 void frm_InSimulator::show(const SimulatorCheck& check) {
     check_ = check;
-    lblLooked_->setText(session().FSPath.native() + u", looked at "_s +
-                        session().clock.localTime().toString(u"hh:mm"_s));
-    lblLooked_->setToolTip(session().FSPath.native());
     counts_[oursRow]->setCount(u"Ours and whole"_s, check.ours);
     counts_[ownRow]->setCount(u"Your own"_s, check.pilots);
     counts_[changedRow]->setCount(u"Changed by another program"_s, check.changed, check.changed > 0);

@@ -147,7 +147,8 @@ void SetTable::checkAll(bool isChecked) {
 /// Each click turns the order round, whichever head it is on.
 void SetTable::sortBy(int column) {
     order_ = order_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
-    sortItems(column, order_);
+    const bool isOfBoxes = column == 0 && headerItem()->text(0).isEmpty();
+    sortItems(isOfBoxes ? 1 : column, order_);
 }
 
 bool SetTable::isOnCheckBox(const QPoint& place) const {
