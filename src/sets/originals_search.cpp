@@ -107,11 +107,14 @@ private:
             const FilePath file = spelling.find(record.key());
             const auto print = tryRead([&] { return fingerprintOf(files_, file); });
             if (!print) continue;
+            if (record->wasKept(*print)) {
+                ++standing.pilots;
+                continue;
+            }
             const auto ours = std::ranges::find(record->ours, *print, &OriginalFact::print);
-            standing.pilots += record->wasKept(*print);
-            standing.ours += ours != record->ours.end();
-            standing.untouched +=
-                ours != record->ours.end() && isSameTime(files_.stamp(file).time, ours->time);
+            if (ours == record->ours.end()) continue;
+            ++standing.ours;
+            standing.untouched += isSameTime(files_.stamp(file).time, ours->time);
         }
         return standing;
     }
