@@ -13,6 +13,7 @@ OriginalsReport Originals::undo(const std::vector<OriginalFact>& stood, const Fi
         places.push_back({spelling_.findExactly(fact.path), fact});
     OrderedShares<FoundPlace> found(places.size(), [&](std::size_t i) { return lookAt(places[i], saved); });
     FirstFailure failure;
+    failure.attempt([&] { clearStrays(); }); // while it is known where
     std::vector<OriginalFact> undone;
     double done = 0;
     for (const StoodPlace& place : places) {

@@ -190,24 +190,23 @@ private:
         if (isKilled) files_.killAt(1 + draw(latestKill));
         SCOPED_TRACE(name);
         log_ += name + std::string(isKilled ? " (killed), " : ", ");
-        const Tree before = wholeFiles();
         try {
             action();
         } catch (const Error&) { // the switches leave the telling to their callers
         } catch (const Killed&) {
         }
-        if (isKilled) noteUnsure(before);
         if (isKilled || draw(6) == 0) restart();
+        if (isKilled) noteUnsure();
         files_.failAt(0, false);
         noteBackups();
         expectTruth();
     }
 
     /// A killed run may have taken a file away and not come to say so.
-    void noteUnsure(const Tree& before) {
-        const Tree now = wholeFiles();
-        for (auto file = before.begin(); file != before.end(); ++file)
-            if (!now.contains(file.key())) current_->unsure << file.key();
+    void noteUnsure() {
+        for (const CheckedPlace& place :
+             checkSimulator(*session_, CheckDepth::everyFile, false).differences())
+            current_->unsure << QString(place.path).replace(u'\\', u'/');
     }
 
     /// What a check tells of the simulator is so, and the quick look sees what the thorough one does.
@@ -340,9 +339,11 @@ private:
         for (const QString& left : report->left) {
             const QString path = QString(left).replace(u'\\', u'/');
             EXPECT_TRUE(current_->changed.contains(path, Qt::CaseInsensitive)) << qPrintable(path) << log_;
-            for (QFileInfo above(path); above.path() != u"."; above.setFile(above.path()))
-                first[above.path()] = {}; // it keeps its folders
         }
+        for (const QString& path : current_->changed)
+            for (QFileInfo above(path); now.contains(path) && above.path() != u".";
+                 above.setFile(above.path()))
+                first[above.path()] = {};               // it keeps its folders
         for (const QString& path : current_->changed) { // in whatever case it came back
             const auto isIt = [&](Tree::iterator file) {
                 return file.key().compare(path, Qt::CaseInsensitive) == 0;
