@@ -12,7 +12,7 @@ namespace morvane {
 void SetGeneration::makeFiles(const Job& job, Counters counters, Screen hiddenScreen) {
     const QString name = set_.inHand(session_).name;
     const std::vector<CatalogueFile> files = baseFilesOf(name);
-    saveForUndo(session_, set_.setFolder(session_, name)); // an activation makes them anew
+    saveForUndo(session_, {set_.setFolder(session_, name).relative()}); // an activation makes them anew
     TexturePasses passes(session_, job,
                          {kind_.caption, kind_.duration, hiddenScreen, set_.setFolder(session_, name),
                           set_.facts.subfolders, counters.setsDone, counters.total});

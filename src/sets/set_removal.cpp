@@ -150,7 +150,7 @@ Reported removeSet(Session& session, const SetKind& kind, const QString& name, b
         // A name that no folder can have, of a store that was edited by hand: the row is all there is.
         if (!stored || !FilePath::isChildName(set->name)) return;
         const FilePath folder = kind.setFolder(session, set->name);
-        saveForUndo(session, folder);
+        saveForUndo(session, {folder.relative()});
         removeBitmapFolders(session, folder, kind.facts.subfolders, !keepRecord);
     });
     return stored;

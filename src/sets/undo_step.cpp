@@ -7,6 +7,7 @@
 #include "sets/simulator_copy.h"
 
 #include <QSet>
+#include <algorithm>
 
 namespace morvane {
 
@@ -103,12 +104,16 @@ void keepForUndo(Session& session, const Originals& originals) {
     session.files.write(recordFile(session), undoText(keeping.step));
 }
 
-void saveForUndo(Session& session, const FilePath& folder) {
+void saveForUndo(Session& session, const QStringList& folders) {
     const auto record = lastStep(session);
     if (!record) return;
-    const QString inside = folder.relative() + u'\\';
+    const auto isIn = [&](const QString& path) {
+        return std::ranges::any_of(folders, [&](const QString& folder) {
+            return path.startsWith(folder + u'\\', Qt::CaseInsensitive);
+        });
+    };
     for (const OriginalFact& fact : record->stood) {
-        if (fact.kind != FactKind::ours || !fact.where.startsWith(inside, Qt::CaseInsensitive)) continue;
+        if (fact.kind != FactKind::ours || !isIn(fact.where)) continue;
         const FilePath source = session.AppPath / fact.where;
         const bool isSource = attempt([&] { // one that cannot be read is no source
             if (fingerprintOf(session.files, source) != fact.print) throw Error(ErrorCode::fileNotFound);

@@ -39,9 +39,9 @@ FilePath undoFolder(const Session& session);
 FilePath savedForUndo(const Session& session);
 /// Adds what stands in the places that `originals` has prepared for the step in hand; without one, nothing.
 void keepForUndo(Session& session, const Originals& originals);
-/// Call it before files below that folder of the install go or become others: what an undo needs of them is
+/// Call it before files in those folders of the install go or become others: what an undo needs of them is
 /// copied.
-void saveForUndo(Session& session, const FilePath& folder);
+void saveForUndo(Session& session, const QStringList& folders);
 
 /// The record of the last install into this simulator.
 std::optional<UndoRecord> lastStep(const Session& session);

@@ -4,6 +4,7 @@
 #include "core/numbers.h"
 #include "ground/ground_sets.h"
 #include "night/night_sets.h"
+#include "sets/undo_step.h"
 #include "simulator/backup_files.h"
 #include "simulator/backups.h"
 #include "simulator/kept_stock.h"
@@ -13,6 +14,10 @@
 namespace morvane {
 
 namespace {
+
+/// What goes into the simulator as it is, and what an import changes of it.
+const QStringList bodyFolders{
+    u"GENERIC WORLD"_s, u"GENERIC WORLD NIGHT"_s, u"DUTCH"_s, u"DUTCH NIGHT"_s, u"UTIND"_s, u"UT EUROPE"_s};
 
 void tell(Session& session, MessageKind kind, const QString& text) {
     session.user.hideMessage();
@@ -122,7 +127,10 @@ std::optional<StockImportReport> importStock(Session& session, const StockSource
     {
         const Job job(session);
         if (!job) return report;
-        reportFailures(session.user, morvaneError, [&] { report = importStock(session, job, source); });
+        reportFailures(session.user, morvaneError, [&] {
+            saveForUndo(session, bodyFolders);
+            report = importStock(session, job, source);
+        });
     }
     session.user.hideMessage();
     if (report) tellEnd(session, *report, source);
@@ -143,8 +151,10 @@ std::optional<int> restoreStock(Session& session, bool isConfirmed) {
     if (!isConfirmed && !session.user.ask(Question::backup, stockTitle, question)) return count;
     const Job job(session);
     if (!job) return count;
-    reportFailures(session.user, morvaneError,
-                   [&] { count = KeptStock(session.files, session.AppPath).restore(); });
+    reportFailures(session.user, morvaneError, [&] {
+        saveForUndo(session, bodyFolders);
+        count = KeptStock(session.files, session.AppPath).restore();
+    });
     if (count) session.user.tellDone({countText(*count, u"delivered file"_s) + u" put back"_s});
     return count;
 }

@@ -56,7 +56,7 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
     if (!isWhole) return true;
     if (!hasColours || !setKind<SkyKind>().storeActivation(session_, set.SkyTextureSet, true)) return false;
     session_.state<SkySelection>().SelectedSkySet = set.SkyTextureSet;
-    saveForUndo(session_, folder);
+    saveForUndo(session_, {folder.relative()});
     session_.files.makeFolder(folder);
     SkyGeneration generation(session_);
     for (const QString& timeOfDay : timesOfDay) {
