@@ -5,7 +5,6 @@
 #include "core/safe_copy.h"
 #include "simulator/backups.h"
 
-#include <QLocale>
 #include <algorithm>
 
 namespace morvane {
@@ -113,8 +112,8 @@ DoneLine doneLine(const BackupReport& report) {
     const QString textures = countText(report.files, u"texture"_s);
     const bool hasAll = report.saved == report.files;
     const QString saved = hasAll ? textures : countText(report.saved) + u" of "_s + textures;
-    const QString day = QLocale(QLocale::English).toString(report.takenAt, u"d MMM yyyy, HH:mm"_s);
-    return {saved + u" backed up"_s, report.name + u", "_s + day, !report.isComplete()};
+    const QString remark = report.name + u", "_s + dayText(report.takenAt);
+    return {saved + u" backed up"_s, remark, !report.isComplete()};
 }
 
 } // namespace

@@ -1,0 +1,67 @@
+#include "simulator/kept_removal.h"
+
+#include "core/failure_report.h"
+#include "core/job.h"
+#include "core/numbers.h"
+#include "ground/ground_sets.h"
+#include "night/night_sets.h"
+#include "simulator/backup_removal.h"
+#include "sky/sky_sets.h"
+
+namespace morvane {
+
+namespace {
+
+/// Of several the user chooses; a single one is asked about as anywhere else.
+template <class Kind>
+void emptySets(Session& session, const KeptItem& item) {
+    const QStringList names = setsToEmpty<Kind>(session);
+    const QString text =
+        u"The files of %1 can go; all of them take %2.  Their colours stay, and each can be activated again, "
+        "which takes as long as making it.  The set that is installed and \"Default\" keep their files.\n\n"
+        "Which sets those are is asked next."_s.arg(
+            countText(names.size(), Kind::facts().word.toLower() + u" set"_s), keptText(item.bytes));
+    if (names.isEmpty()) return;
+    if (names.size() > 1 && !session.user.ask(Question::setAction, removalTitle, text)) return;
+    if (!clickSetNamed<Kind>(session, names.first())) return;
+    session.state<typename Kind::Selection>().selectedRows = names;
+    Kind::remove(session, true);
+}
+
+void removeUndoOnRequest(Session& session, const KeptItem& item) {
+    Job job(session, Job::Start::behindQuestions);
+    if (!job) return;
+    const QString text =
+        u"Do you wish to remove what Undo needs?  The last install can then not be taken back by it; %1 of "
+        "the disk will be free.  Your originals stay."_s.arg(keptText(item.bytes));
+    if (!session.user.ask(Question::backup, removalTitle, text) || !job.begin()) return;
+    if (reportFailures(session.user, morvaneError, [&] { removeUndo(session); }))
+        session.user.tellDone({u"Undo removed"_s});
+    session.user.refreshScreen(Screen::frm_Main);
+}
+
+void removeWhole(FileSystem& files, const FilePath& folder) {
+    const FilePath inside = folder.resolved();
+    for (const FilePath& file : filesIn(files, inside, u"*"_s))
+        files.remove(file);
+    for (const QString& name : files.listFolders(inside))
+        removeWhole(files, inside.exactChild(name));
+    files.removeFolder(inside);
+}
+
+} // namespace
+
+void removeKept(Session& session, const KeptItem& item) {
+    if (!item.isRemovable) return;
+    if (item.kind == KeptKind::groundSets) emptySets<GroundKind>(session, item);
+    if (item.kind == KeptKind::skySets) emptySets<SkyKind>(session, item);
+    if (item.kind == KeptKind::nightSets) emptySets<NightKind>(session, item);
+    if (item.kind == KeptKind::backup) removeBackup(session, item.name);
+    if (item.kind == KeptKind::undo) removeUndoOnRequest(session, item);
+}
+
+void removeUndo(Session& session) {
+    removeWhole(session.files, undoFolder(session));
+}
+
+} // namespace morvane
