@@ -5,6 +5,7 @@
 #include "core/numbers.h"
 #include "ground/ground_sets.h"
 #include "night/night_sets.h"
+#include "sets/temp_bitmaps.h"
 #include "simulator/backup_removal.h"
 #include "sky/sky_sets.h"
 
@@ -28,15 +29,21 @@ void emptySets(Session& session, const KeptItem& item) {
     Kind::remove(session, true);
 }
 
-void removeUndoOnRequest(Session& session, const KeptItem& item) {
+/// What goes at once, behind the question.
+struct PlainRemoval {
+    QString question; ///< up to what of it will be free
+    QString done;
+    void (*remove)(Session&);
+};
+
+void removePlainly(Session& session, const KeptItem& item, const PlainRemoval& removal) {
     Job job(session, Job::Start::behindQuestions);
     if (!job) return;
     const QString text =
-        u"Do you wish to remove what Undo needs?  The last install can then not be taken back by it; %1 of "
-        "the disk will be free.  Your originals stay."_s.arg(keptText(item.bytes));
+        removal.question + u"  Up to %1 of the disk will be free."_s.arg(keptText(item.bytes));
     if (!session.user.ask(Question::backup, removalTitle, text) || !job.begin()) return;
-    if (reportFailures(session.user, morvaneError, [&] { removeUndo(session); }))
-        session.user.tellDone({u"Undo removed"_s});
+    if (reportFailures(session.user, morvaneError, [&] { removal.remove(session); }))
+        session.user.tellDone({removal.done});
     session.user.refreshScreen(Screen::frm_Main);
 }
 
@@ -57,7 +64,16 @@ void removeKept(Session& session, const KeptItem& item) {
     if (item.kind == KeptKind::skySets) emptySets<SkyKind>(session, item);
     if (item.kind == KeptKind::nightSets) emptySets<NightKind>(session, item);
     if (item.kind == KeptKind::backup) removeBackup(session, item.name);
-    if (item.kind == KeptKind::undo) removeUndoOnRequest(session, item);
+    if (item.kind == KeptKind::undo)
+        removePlainly(session, item,
+                      {u"Do you wish to remove what Undo needs?  The last install can then not be taken back "
+                       "by it.  Your originals stay."_s,
+                       u"Undo removed"_s, removeUndo});
+    if (item.kind == KeptKind::passing)
+        removePlainly(session, item,
+                      {u"Do you wish to remove the intermediate images?  They are left from making sets; the "
+                       "next run makes them again."_s,
+                       u"Intermediate images removed"_s, cleanTempBitmaps});
 }
 
 void removeUndo(Session& session) {

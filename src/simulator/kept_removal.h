@@ -5,8 +5,8 @@
 namespace morvane {
 
 /// Removes what can be removed of the item, behind a question that says what is lost: a backup (see
-/// removeBackup), what an undo needs, or the files of sets, of which the user chooses those that stay as
-/// colours. Nothing for an item that is not removable.
+/// removeBackup), what an undo needs, intermediate images, or the files of sets, of which the user chooses
+/// those that stay as colours. Nothing for an item that is not removable.
 void removeKept(Session& session, const KeptItem& item);
 
 /// The copies that an undo of the last install needs, without a question. Raises when one cannot go.

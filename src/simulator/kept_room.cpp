@@ -57,6 +57,14 @@ KeptItem undoOf(Session& session) {
     return item;
 }
 
+/// Those of the Dutch textures never go: see cleanTempBitmaps.
+KeptItem passingOf(Session& session) {
+    const FilePath folder = session.AppPath / u"TempBitmaps";
+    KeptItem item = folderOf(session, KeptKind::passing, u"Intermediate images"_s, folder);
+    item.isRemovable = item.count > roomBelow(session.files, folder / u"Dutch").files;
+    return item;
+}
+
 KeptItem baseImagesOf(Session& session) {
     KeptItem item = folderOf(session, KeptKind::baseImages, u"Base images"_s, session.AppPath / u"Resources");
     item.remark = hasKeptStock(session) ? u"of your simulator"_s : u"as delivered"_s;
@@ -127,11 +135,9 @@ KeptRoom keptRoom(Session& session) {
     items.push_back(undoOf(session));
     const KeptItem others = othersOf(session, items);
     items.push_back(baseImagesOf(session));
-    items.push_back(
-        folderOf(session, KeptKind::movedImages, u"Delivered base images"_s, home / u"Resources kept"));
-    const KeptItem passing =
-        folderOf(session, KeptKind::passing, u"Intermediate images"_s, home / u"TempBitmaps");
-    std::ranges::copy_if(std::array{passing, others}, std::back_inserter(items),
+    const KeptItem moved =
+        folderOf(session, KeptKind::movedImages, u"Delivered base images"_s, home / u"Resources kept");
+    std::ranges::copy_if(std::array{moved, passingOf(session), others}, std::back_inserter(items),
                          [](const KeptItem& item) { return item.count > 0; });
     room.freeBytes = session.files.freeSpace(home);
     return room;

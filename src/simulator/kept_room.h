@@ -42,8 +42,8 @@ struct KeptRoom {
     QString summary() const;
 };
 
-/// Looks at every file, so it takes its time with many sets. What is not there is listed without files; of
-/// `passing` and `others` there is none then.
+/// Looks at every file, so it takes its time with many sets. Of the last three kinds there is no item where
+/// there is no file.
 KeptRoom keptRoom(Session& session);
 
 /// "860 MB" as `spaceText`, but "0 MB" for nothing.

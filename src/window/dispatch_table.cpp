@@ -10,6 +10,7 @@
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/screens/base_install_screen.h"
+#include "simulator/screens/kept_screen.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
 #include "sky/screens/sky_colour_screen.h"
@@ -107,6 +108,10 @@ void bringBackupBack(WindowShell& shell, SkinnedButton&) {
     restoreBackupOnRequest(shell.session());
 }
 
+void removeKeptThing(WindowShell& shell, SkinnedButton&) {
+    shell.screen<frm_WhatIsKept>(u"frm_WhatIsKept"_s).removeChosen();
+}
+
 void openUpdatePage(WindowShell& shell, SkinnedButton&) {
     shell.openUpdatePage();
 }
@@ -172,8 +177,8 @@ constexpr char16_t main[] = u"frm_Main", ground[] = u"frm_MVTextures", sky[] = u
                    night[] = u"frm_NightTextures", groundColours[] = u"frm_GroundColorize",
                    skyColours[] = u"frm_SkyColorize", nightColours[] = u"frm_NightColorize",
                    wxControl[] = u"frm_WxControl", coverReport[] = u"frm_CC_From_Metar_String",
-                   switcher[] = u"frm_Switcher", config[] = u"frm_Config", links[] = u"frm_Links",
-                   about[] = u"frm_About";
+                   switcher[] = u"frm_Switcher", config[] = u"frm_Config", kept[] = u"frm_WhatIsKept",
+                   links[] = u"frm_Links", about[] = u"frm_About";
 constexpr char16_t anyForm[] = u"*"; ///< small keys mean the same wherever they lie, and so do a dialog's
 
 struct Entry {
@@ -228,6 +233,7 @@ constexpr Entry entries[] = {
     {large, config, u"restore", bringBackupBack},
     {large, config, u"update", openUpdatePage},
     {standard, switcher, u"regupdate", chooseFlightsFolder},
+    {large, kept, u"remove kept", removeKeptThing},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

@@ -30,6 +30,8 @@ void giveBaseSets(Session& session) {
 } // namespace
 
 std::vector<WalkScreen> setDialogs() {
+    const Effect closed = closes([](Session&) { return true; }, true);
+    const WalkRows closing{{u"btn_Cancel"_s, closed}, {u"(Escape)"_s, closed}, {u"(close)"_s, closed}};
     const auto isBackupTaken = isSet(&BackupChoice::backupConfirmed);
     const Effect chosenBackup = becomes(&BackupChoice::chosenBackup);
     return {
@@ -58,6 +60,12 @@ std::vector<WalkScreen> setDialogs() {
                   {u"(Down)"_s, chosenBackup},
                   {u"(Escape)"_s, closes(isBackupTaken, false)},
                   {u"(close)"_s, closes(isBackupTaken, false)}}},
+        {"more_settings", u"frm_MoreSettings"_s, dialog(Screen::frm_MoreSettings), true,
+         closing + WalkRows{{u"cmdKept"_s, shows(u"frm_WhatIsKept"_s)}}},
+        {"kept", u"frm_WhatIsKept"_s, dialog(Screen::frm_WhatIsKept), true,
+         closing + WalkRows{{u"lstKept"_s, label(u"lblAbout"_s)},
+                            {u"(Down)"_s, label(u"lblAbout"_s)},
+                            {u"btn_RemoveKept"_s, shows(u"message Morvane Information"_s)}}},
     };
 }
 
