@@ -27,6 +27,7 @@ void addRoom(Session& session, const FilePath& folder, KeptItem& item) {
 template <class Kind>
 KeptItem setsOf(Session& session, KeptKind kind) {
     KeptItem item{kind, Kind::facts().word + u" sets"_s};
+    refreshSets<Kind>(session);
     const auto& sets = loadedSets<Kind>(session);
     item.count = static_cast<std::int64_t>(activatedSets(sets).size());
     item.all = sets.Count();
@@ -88,6 +89,7 @@ KeptItem othersOf(Session& session, const std::vector<KeptItem>& items) {
 } // namespace
 
 QString KeptItem::countWords() const {
+    if (all == 0) return u"none"_s;
     const bool isOfSets =
         kind == KeptKind::groundSets || kind == KeptKind::skySets || kind == KeptKind::nightSets;
     if (!isOfSets) return countText(count, u"file"_s);
@@ -129,7 +131,8 @@ KeptRoom keptRoom(Session& session) {
     auto& items = room.items;
     items = {setsOf<GroundKind>(session, KeptKind::groundSets), setsOf<SkyKind>(session, KeptKind::skySets),
              setsOf<NightKind>(session, KeptKind::nightSets)};
-    for (const auto& backup : loadedCollection(session, session.rows<clsBackups>()))
+    clsBackups::reload(session);
+    for (const auto& backup : *session.rows<clsBackups>())
         items.push_back(backupOf(session, *backup));
     items.push_back(folderOf(session, KeptKind::originals, u"Your originals"_s, home / u"Backup\\Originals"));
     items.push_back(undoOf(session));

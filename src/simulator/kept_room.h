@@ -29,7 +29,7 @@ struct KeptItem {
     std::int64_t bytes = 0;
     bool isRemovable = false; ///< see removeKept
 
-    /// "38 of 40 sets", "1,183 files".
+    /// "38 of 40 sets", "1,183 files", "none".
     QString countWords() const;
 };
 
@@ -42,8 +42,8 @@ struct KeptRoom {
     QString summary() const;
 };
 
-/// Looks at every file, so it takes its time with many sets. Of the last three kinds there is no item where
-/// there is no file.
+/// Reads the store anew and looks at every file, so it takes its time with many sets. Of the last three kinds
+/// there is no item where there is no file.
 KeptRoom keptRoom(Session& session);
 
 /// "860 MB" as `spaceText`, but "0 MB" for nothing.

@@ -1,0 +1,182 @@
+#include "core/store.h"
+#include "ground/ground_installation.h"
+#include "sets/set_removal.h"
+#include "simulator/backup_files.h"
+#include "simulator/backup_list.h"
+#include "simulator/backup_removal.h"
+#include "simulator/backups.h"
+#include "simulator/kept_removal.h"
+#include "support/small_install.h"
+
+#include <algorithm>
+
+namespace morvane::test {
+namespace {
+
+/// With a backup of the simulator's six textures.
+struct KeptInstall : SmallInstall {
+    KeptInstall() { createBackup(session, false); }
+
+    void installSet(const QByteArray& bytes = "ours") {
+        addGroundSet(u"1-Blue"_s, u"Sunny"_s, true, {u"Texture\\029h2su6.bmp"_s});
+        writeFile(home() / u"Texture Sets\\1-Blue\\Texture\\029h2su6.bmp", bytes);
+        GroundInstallation(session).installTextureSet(u"1-Blue"_s);
+    }
+    QString backupNames() {
+        clsBackups::reload(session);
+        QStringList names;
+        for (const auto& backup : *session.rows<clsBackups>())
+            names << backup->BackupName;
+        return names.join(u' ');
+    }
+    /// "name, how many, bytes", and a sign where it can be removed.
+    QStringList lines() {
+        QStringList lines;
+        for (const KeptItem& item : keptRoom(session).items)
+            lines << item.name + u", "_s + item.countWords() + u", "_s + QString::number(item.bytes) +
+                         (item.isRemovable ? u" -"_s : QString());
+        return lines;
+    }
+
+    void write(const QString& file, const QByteArray& bytes) { writeFile(backups / file, bytes); }
+    /// One thing that happens to the backups and to a texture in them.
+    void happens(const QString& what) {
+        if (what == u"taken away") files.remove(place);
+        if (what == u"changed") writeFile(place, "another program's");
+        if (what == u"ours") installSet();
+        if (what == u"ours alike") files.remove(place), installSet(own);
+        if (what == u"backup") createBackup(session, false);
+        if (what == u"partial") BackupList::markPartial(session, u"2-Backup"_s);
+        if (what == u"lost") files.remove(backups / u"2-Backup\\Texture" / texture);
+        if (what == u"torn") write(u"2-Backup\\Texture\\"_s + texture, "torn");
+        if (what == u"torn original") write(u"Originals\\Scenery\\World\\texture\\"_s + texture, "torn");
+        if (what == u"edited") write(u"1-Backup\\Texture\\"_s + texture, "edited");
+        if (what == u"note") write(u"1-Backup\\Texture\\note.txt"_s, "a person's");
+        if (what == u"folder") write(u"1-Backup\\older\\a.bmp"_s, "a person's");
+    }
+
+    const QString texture = u"029H2SU6.BMP"_s;
+    FilePath place = simulator() / u"Scenery\\World\\texture" / texture, backups = home() / u"Backup";
+    const QByteArray own = readFile(place);
+};
+
+/// A file that was the pilot's has to be somewhere else.
+TEST(KeptRoom, aBackupWithALastCopyStays) {
+    const QString texture = u"029H2SU6.BMP"_s;
+    // What happens after the first backup, and what is then nowhere else.
+    const std::pair<QString, QString> cases[] = {
+        {u""_s, {}},
+        {u"changed"_s, texture},
+        {u"taken away"_s, texture},
+        {u"ours"_s, {}}, // so the pilot's was kept
+        {u"ours,torn original"_s, texture},
+        {u"ours alike"_s, texture}, // a restore of the originals takes it away
+        {u"ours alike,backup"_s, texture},
+        {u"backup,taken away"_s, {}},
+        {u"backup,taken away,partial"_s, texture},
+        {u"backup,taken away,torn"_s, texture},
+        {u"backup,taken away,lost"_s, texture},
+        {u"edited"_s, texture},
+        {u"note"_s, u"note.txt"_s},
+        {u"folder"_s, u"older"_s},
+    };
+    for (const auto& [what, lost] : cases) {
+        SCOPED_TRACE(what.toStdString());
+        KeptInstall it;
+        const FilePath folder = it.backups / u"1-Backup";
+        for (const QString& each : what.split(u','))
+            it.happens(each);
+        const auto before = contentsBelow(folder.resolved()), simulator = contentsBelow(it.simulator());
+        EXPECT_EQ(removeBackup(it.session, u"1-Backup"_s), lost.isEmpty());
+        EXPECT_EQ(it.backupNames().startsWith(u"1-Backup"_s), !lost.isEmpty());
+        EXPECT_EQ(contentsBelow(it.simulator()), simulator);
+        EXPECT_EQ(it.files.exists(folder), !lost.isEmpty());
+        if (lost.isEmpty()) continue;
+        EXPECT_EQ(contentsBelow(folder.resolved()), before);
+        EXPECT_TRUE(it.user.told().back().contains(u"1 file is of your own nowhere else: "_s + lost));
+    }
+}
+
+/// Wherever it is cut, what is left is whole or a partial backup, and the next removal takes it.
+TEST(KeptRoom, aRemovalThatIsCutLeavesNoBackupThatCountsAsComplete) {
+    KeptInstall it;
+    it.happens(u"ours"_s);
+    it.happens(u"backup"_s);
+    const FilePath folder = it.backups / u"2-Backup";
+    const auto whole = contentsBelow(folder), simulator = contentsBelow(it.simulator());
+    int failures = 0;
+    for (const Fault fault : {Fault::once, Fault::kill})
+        failures += failEachOperation(
+            it.files, fault, [&] { removeBackup(it.session, u"2-Backup"_s); },
+            [&](int n) {
+                it.session.jobRunning = false;
+                const auto left = contentsBelow(folder);
+                const bool isLeft = it.backupNames() == u"1-Backup 2-Backup"_s;
+                ASSERT_TRUE(isLeft || left.isEmpty()) << n;
+                const bool isWhole = std::ranges::all_of(
+                    whole.keys(), [&](const QString& path) { return left.contains(path); });
+                ASSERT_TRUE(isWhole || !isBackupComplete(it.session, u"2-Backup"_s)) << n;
+                ASSERT_TRUE(left.contains(u"ours.lst"_s) || !left.contains(u"Texture/029H2SU6.BMP"_s)) << n;
+                if (isLeft) {
+                    ASSERT_TRUE(removeBackup(it.session, u"2-Backup"_s)) << n;
+                }
+                ASSERT_EQ(contentsBelow(it.simulator()), simulator) << n;
+                it.session.adoConn->execute(
+                    u"INSERT INTO MV_BACKUP(ID, BACKUP_NAME, BACKUP_DATE_TIME) VALUES "
+                    "(2, '2-Backup', '2007/05/30 21:14:09')"_s);
+                for (auto file = whole.cbegin(); file != whole.cend(); ++file)
+                    writeFile(folder / QString(file.key()).replace(u'/', u'\\'), file.value());
+                clsBackups::reload(it.session);
+            });
+    EXPECT_GT(failures, 60);
+}
+
+TEST(KeptRoom, eachThingIsToldAndGoesBehindItsQuestionAlone) {
+    KeptInstall it;
+    it.happens(u"ours"_s);
+    it.addGroundSet(u"2-Red"_s, u"Sunny"_s, true, {u"Texture\\a.bmp"_s, u"Texture\\b.bmp"_s});
+    it.addGroundSet(u"3-Grey"_s, u"Sunny"_s, true, {u"Texture\\a.bmp"_s});
+    it.addGroundSet(u"4-Pale"_s, u"Sunny"_s, false);
+    it.addSkySet(u"2-Calm"_s, u"Sunny"_s, true, {u"day.bmp"_s});
+    writeFile(it.backups / u"Undo\\3\\Ünten\\a.bmp", "12345");
+    writeFile(it.backups / u"Flights\\Old.flt", "123");
+    writeFile(it.home() / u"TempBitmaps\\Texture\\a.bmp", "1234");
+    it.reload();
+    const QStringList before = it.lines();
+    EXPECT_EQ(before.join(u'\n').toStdString(),
+              "Ground sets, 4 of 5 sets, 62 -\nSky sets, 1 set, 14 -\nNight sets, none, 0\n"
+              "1-Backup, 6 files, 499 -\nYour originals, 2 files, 447\nUndo, 1 file, 5 -\n"
+              "Base images, 5 files, 4110\nIntermediate images, 1 file, 4 -\n"
+              "Other things put aside, 1 file, 3");
+    const auto contents = contentsBelow(it.home());
+    auto& choice = it.session.state<MultiChoice>();
+    it.user.onModal = [&](Screen) { choice.multiConfirmed = choice.multiNames; };
+    const auto removeAll = [&](bool isWanted) {
+        it.user.otherwise = isWanted;
+        for (const KeptItem& item : keptRoom(it.session).items)
+            removeKept(it.session, item);
+    };
+    removeAll(false);
+    EXPECT_EQ(contentsBelow(it.home()), contents);
+    EXPECT_EQ(it.lines(), before);
+    removeAll(true);
+    EXPECT_EQ(it.lines().join(u'\n').toStdString(),
+              "Ground sets, 2 of 5 sets, 4\nSky sets, 0 of 1 set, 0\nNight sets, none, 0\n"
+              "Your originals, 2 files, 447\nUndo, none, 0\nBase images, 5 files, 4110\n"
+              "Other things put aside, 1 file, 3");
+}
+
+TEST(KeptRoom, aBackupThatDoesNotFitIsNotBegun) {
+    KeptInstall it;
+    it.files.toldFree = 100;
+    EXPECT_FALSE(createBackup(it.session, false));
+    ASSERT_EQ(it.user.runs.size(), 1U);
+    EXPECT_EQ(it.user.runs[0].what, u"A backup of 5 textures"_s);
+    EXPECT_EQ(it.backupNames(), u"1-Backup"_s);
+    EXPECT_FALSE(it.session.jobRunning);
+    it.files.toldFree = it.user.runs[0].bytes;
+    EXPECT_TRUE(createBackup(it.session, false));
+}
+
+} // namespace
+} // namespace morvane::test
