@@ -24,11 +24,12 @@ QString question(Session& session, const clsBackup& backup) {
 
 void tellLosses(Session& session, const QString& name, const QStringList& lost) {
     session.user.hideMessage();
-    const QString are = lost.size() == 1 ? u"1 file is"_s : countText(lost.size()) + u" files are"_s;
+    const QString files = countText(lost.size()) + u" of your own files "_s;
+    const QString verb = lost.size() == 1 ? u"is"_s : u"are"_s;
     session.user.showMessage(
         {MessageKind::exclamation, removalTitle,
-         u"The backup %1 stays, as %2 of your own nowhere else: %3.\n\nPut it back into Flight Simulator, or "
-         "make a new backup with these files in place, and it can go."_s.arg(name, are, namesText(lost))});
+         u"The backup %1 stays, as %2 nowhere else: %3.\n\nIt can go when they are somewhere else as well, "
+         "say in Flight Simulator after \"Restore Backup\"."_s.arg(name, files + verb, namesText(lost))});
 }
 
 void emptyFolder(FileSystem& files, const FilePath& folder) {
@@ -70,9 +71,10 @@ bool removeInside(Session& session, const Job& job, const QString& name) {
 
 Reported removeBackup(Session& session, const QString& name) {
     Job job(session, Job::Start::behindQuestions);
-    const auto backup = findTrimmedName(loadedCollection(session, session.rows<clsBackups>()), name);
-    if (!job || !backup) return false;
-    if (!session.user.ask(Question::backup, removalTitle, question(session, *backup)) || !job.begin())
+    if (!job || !clsBackups::reload(session)) return false;
+    const auto backup = findTrimmedName(*session.rows<clsBackups>(), name);
+    if (!backup || !session.user.ask(Question::backup, removalTitle, question(session, *backup)) ||
+        !job.begin())
         return false;
     session.user.showMessage(
         {MessageKind::progress, removalTitle,

@@ -84,7 +84,7 @@ void SetTable::addRow(const SetRow& row) {
     const QColor colour = QColor::fromRgb(paintedColour(row.colour));
     for (int column = 0; column < columnCount(); ++column) {
         item->setText(column, row.texts.value(column));
-        item->setTextAlignment(column, headerItem()->textAlignment(column));
+        item->setTextAlignment(column, Qt::Alignment::fromInt(headerItem()->textAlignment(column)));
         item->setToolTip(column, row.tips.value(column));
         item->setForeground(column, colour);
     }
