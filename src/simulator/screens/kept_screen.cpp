@@ -18,8 +18,8 @@ QString aboutText(const KeptItem& item) {
     case KeptKind::groundSets:
     case KeptKind::skySets:
     case KeptKind::nightSets:
-        return u"Their files can go: the colours stay, and each set can be activated again.  \"Default\" and "
-               "the set that is installed keep their files."_s;
+        return item.name + u": their files can go, as the colours stay and each set can be activated again.  "
+                           "\"Default\" and the set that is installed keep their files."_s;
     case KeptKind::backup:
         return u"The simulator's textures of that day.  It can go when each of your own textures in it is "
                "somewhere else as well; Morvane looks for them first."_s;
