@@ -47,8 +47,7 @@ frm_WhatIsKept::frm_WhatIsKept(Shell& shellOfDialogs)
     lstKept_->setObjectName(u"lstKept"_s);
     lstKept_->setAccessibleName(u"What is kept"_s);
     lstKept_->setGeometry(26, 84, 648, 264);
-    lstKept_->setColumns(
-        {{u"What"_s, 360}, {u"How many"_s, 130, Qt::AlignRight}, {u"Size"_s, 120, Qt::AlignRight}});
+    lstKept_->setColumns({{u"What"_s, 360}, {u"How many"_s, 130}, {u"Size"_s, 120}});
     lstKept_->setSelectionMode(QAbstractItemView::SingleSelection);
     lstKept_->header()->setSectionsClickable(false); // sizes have no order as texts
     connect(lstKept_, &SetTable::rowClicked, this, &frm_WhatIsKept::showItem);

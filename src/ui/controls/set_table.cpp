@@ -71,7 +71,6 @@ void SetTable::setColumns(const std::vector<SetColumn>& columns, bool hasCheckBo
     setHeaderLabels(titles);
     for (int index = 0; const SetColumn& column : columns) {
         headerItem()->setToolTip(index, column.title); // a narrow column cuts it
-        headerItem()->setTextAlignment(index, column.alignment | Qt::AlignVCenter);
         header()->resizeSection(index++, column.width);
     }
 }
@@ -84,7 +83,6 @@ void SetTable::addRow(const SetRow& row) {
     const QColor colour = QColor::fromRgb(paintedColour(row.colour));
     for (int column = 0; column < columnCount(); ++column) {
         item->setText(column, row.texts.value(column));
-        item->setTextAlignment(column, Qt::Alignment::fromInt(headerItem()->textAlignment(column)));
         item->setToolTip(column, row.tips.value(column));
         item->setForeground(column, colour);
     }

@@ -11,7 +11,6 @@ namespace morvane {
 struct SetColumn {
     QString title;
     int width;
-    Qt::Alignment alignment = Qt::AlignLeft; ///< numbers stand at the right
 };
 
 /// One row of the list: a text and a tip for each column. The text of the first column is the row's name.
