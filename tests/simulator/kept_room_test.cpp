@@ -17,8 +17,8 @@ struct KeptInstall : SmallInstall {
     KeptInstall() { createBackup(session, false); }
 
     void installSet(const QByteArray& bytes = "ours") {
-        addGroundSet(u"1-Blue"_s, u"Sunny"_s, true, {u"Texture\\029h2su6.bmp"_s});
-        writeFile(home() / u"Texture Sets\\1-Blue\\Texture\\029h2su6.bmp", bytes);
+        addGroundSet(u"1-Blue"_s, u"Sunny"_s, true);
+        writeFile(home() / u"Texture Sets\\1-Blue\\Texture" / texture, bytes);
         GroundInstallation(session).installTextureSet(u"1-Blue"_s);
     }
     /// "name, how many, bytes", and a sign where it can be removed.
