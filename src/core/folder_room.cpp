@@ -20,7 +20,9 @@ FolderRoom roomBelow(FileSystem& files, const FilePath& folder) {
         });
     for (const QString& name : folders)
         attempt([&] {
-            const FolderRoom inner = roomBelow(files, inside.exactChild(name));
+            const FilePath below = inside.exactChild(name);
+            if (files.isLink(below)) return;
+            const FolderRoom inner = roomBelow(files, below);
             room.files += inner.files;
             room.bytes += inner.bytes;
         });

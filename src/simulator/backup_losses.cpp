@@ -28,6 +28,11 @@ QStringList strangersIn(FileSystem& files, const FilePath& folder, const QString
     return names;
 }
 
+/// Not where it is the same file, reached by a link or by the row of another name: that would go with it.
+bool isCopyOf(const SeenFile& texture, const std::optional<SeenFile>& seen) {
+    return seen && seen->print == texture.print && !seen->stamp.isSameFile(texture.stamp);
+}
+
 } // namespace
 
 BackupLosses::BackupLosses(Session& session, const QString& name)
@@ -72,31 +77,30 @@ QStringList BackupLosses::strangers() const {
 /// What stands in the simulator as ours goes with the next restore, whatever its bytes.
 bool BackupLosses::isElsewhere(const FileCopy& texture, const CheckedFile& file) {
     if (list_.isOurs(texture.source, file.print)) return true;
+    const SeenFile own{file.print, session_.files.stamp(texture.source)};
     const OriginalRecord& record = originals_.recordOf(texture.target);
-    if (file.stands() && !record.isOurs(file.print)) return true;
-    return isAmongOriginals(record, file.print) ||
-           std::ranges::any_of(
-               others_, [&](const OtherBackup& other) { return isIn(other, texture.source, file.print); });
+    if (isCopyOf(own, file.there) && !record.isOurs(own.print)) return true;
+    return isAmongOriginals(record, own) || std::ranges::any_of(others_, [&](const OtherBackup& other) {
+               return isIn(other, texture.source, own);
+           });
 }
 
-bool BackupLosses::isAmongOriginals(const OriginalRecord& record, const FileFingerprint& print) const {
+bool BackupLosses::isAmongOriginals(const OriginalRecord& record, const SeenFile& texture) const {
     const FilePath folder = session_.AppPath / u"Backup\\Originals";
     return std::ranges::any_of(record.kept, [&](const OriginalFact& kept) {
         bool isSound = false;
-        if (kept.print == print)
-            attempt([&] { isSound = fingerprintOf(session_.files, folder / kept.where) == print; });
+        if (kept.print == texture.print)
+            attempt([&] { isSound = isCopyOf(texture, seeFile(session_.files, folder / kept.where)); });
         return isSound;
     });
 }
 
-bool BackupLosses::isIn(const OtherBackup& other, const FilePath& texture,
-                        const FileFingerprint& print) const {
+bool BackupLosses::isIn(const OtherBackup& other, const FilePath& place, const SeenFile& texture) const {
     bool isThere = false;
     attempt([&] {
-        const FilePath twin = (other.folder / texture.parent().fileName()).exactChild(texture.fileName());
-        const std::optional<SeenFile> seen = seeFile(session_.files, twin);
-        isThere = seen && seen->print == print && !other.list.isDamaged(twin, print) &&
-                  !other.list.isOurs(twin, print);
+        const FilePath twin = (other.folder / place.parent().fileName()).exactChild(place.fileName());
+        isThere = isCopyOf(texture, seeFile(session_.files, twin)) &&
+                  !other.list.isDamaged(twin, texture.print) && !other.list.isOurs(twin, texture.print);
     });
     return isThere;
 }

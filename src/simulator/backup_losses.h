@@ -23,8 +23,8 @@ private:
     void addOthers();
     QStringList strangers() const;
     bool isElsewhere(const FileCopy& texture, const CheckedFile& file);
-    bool isAmongOriginals(const OriginalRecord& record, const FileFingerprint& print) const;
-    bool isIn(const OtherBackup& other, const FilePath& texture, const FileFingerprint& print) const;
+    bool isAmongOriginals(const OriginalRecord& record, const SeenFile& texture) const;
+    bool isIn(const OtherBackup& other, const FilePath& place, const SeenFile& texture) const;
 
     Session& session_;
     QString name_;

@@ -5,6 +5,7 @@
 #include "core/numbers.h"
 #include "ground/ground_sets.h"
 #include "night/night_sets.h"
+#include "sets/set_removal.h"
 #include "sets/temp_bitmaps.h"
 #include "simulator/backup_removal.h"
 #include "sky/sky_sets.h"
@@ -47,13 +48,16 @@ void removePlainly(Session& session, const KeptItem& item, const PlainRemoval& r
     session.user.refreshScreen(Screen::frm_Main);
 }
 
+/// Of a link the link alone.
 void removeWhole(FileSystem& files, const FilePath& folder) {
     const FilePath inside = folder.resolved();
-    for (const FilePath& file : filesIn(files, inside, u"*"_s))
-        files.remove(file);
-    for (const QString& name : files.listFolders(inside))
-        removeWhole(files, inside.exactChild(name));
-    files.removeFolder(inside);
+    if (!files.isLink(inside)) {
+        for (const FilePath& file : filesIn(files, inside, u"*"_s))
+            files.remove(file);
+        for (const QString& name : files.listFolders(inside))
+            removeWhole(files, inside.exactChild(name));
+    }
+    removeFolderOrLink(files, inside);
 }
 
 } // namespace

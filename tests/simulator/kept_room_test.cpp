@@ -41,6 +41,8 @@ struct KeptInstall : SmallInstall {
         if (what == u"partial") BackupList::markPartial(session, u"2-Backup"_s);
         if (what == u"torn") write(u"2-Backup\\Texture\\"_s + texture, "torn");
         if (what == u"torn original") write(u"Originals\\Scenery\\World\\texture\\"_s + texture, "torn");
+        if (what == u"alias")
+            session.adoConn->execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME) VALUES ('1-BACKUP')"_s);
         if (what == u"edited") write(u"1-Backup\\Texture\\"_s + texture, "edited");
         if (what == u"note") write(u"1-Backup\\Texture\\note.txt"_s, "a person's");
         if (what == u"folder") write(u"1-Backup\\older\\a.bmp"_s, "a person's");
@@ -65,6 +67,7 @@ TEST(KeptRoom, aBackupWithALastCopyStays) {
         {u"backup,taken away"_s, {}},
         {u"backup,taken away,partial"_s, texture},
         {u"backup,taken away,torn"_s, texture},
+        {u"alias,taken away"_s, texture}, // a second row of that folder
         {u"edited"_s, texture},
         {u"note"_s, u"note.txt"_s},
         {u"folder"_s, u"older"_s},
