@@ -93,13 +93,10 @@ TEST_F(OptionsScreens, whatIsPickedGoesAndTheNextOneIsPicked) {
     createBackup(program.install.session, false);
     program.show(Screen::frm_WhatIsKept, [this](DialogForm& dialog) {
         auto& list = *dialog.findChild<SetTable*>(u"lstKept"_s);
-        const auto removeKey = [&] { return program.stateOf(u"frm_WhatIsKept"_s, u"btn_RemoveKept"_s); };
         clickRow(list, 4);
-        EXPECT_EQ(list.keyOf(4), u"1-Backup"_s);
-        EXPECT_EQ(removeKey(), ButtonState::enabled);
         program.toldDuring([&] { program.press(u"frm_WhatIsKept"_s, u"btn_RemoveKept"_s); });
-        EXPECT_EQ(list.keyOf(list.currentIndex().row() + 1), u"Your originals"_s);
-        EXPECT_EQ(removeKey(), ButtonState::disabled);
+        EXPECT_EQ(list.selectedNames(), QStringList{u"Your originals"_s});
+        EXPECT_EQ(program.stateOf(u"frm_WhatIsKept"_s, u"btn_RemoveKept"_s), ButtonState::disabled);
         dialog.cancel();
     });
 }
