@@ -17,6 +17,7 @@ std::vector<Command> originalsCommands();
 std::vector<Command> pictureCommands();
 std::vector<Command> routeCommands();
 std::vector<Command> skyCommands();
+std::vector<Command> spaceCommands();
 std::vector<Command> stockCommands();
 
 } // namespace morvane

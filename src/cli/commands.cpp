@@ -52,7 +52,7 @@ const std::vector<Command>& commandTable() {
         std::vector<Command> all;
         for (const auto commandsOfSubject :
              {cycleCommands, airportCommands, routeCommands, groundCommands, skyCommands, nightCommands,
-              flightCommands, optionCommands, originalsCommands, stockCommands, configCommands,
+              flightCommands, optionCommands, originalsCommands, stockCommands, spaceCommands, configCommands,
               pictureCommands})
             for (const Command& command : commandsOfSubject())
                 add(command, all);

@@ -75,7 +75,7 @@ void ConsoleUser::tellDone(const DoneLine& line) {
 bool ConsoleUser::allowsRun(const RunSize& run) {
     if (run.fits()) return true;
     failed_ = true;
-    print(run.refusal() + u'\n');
+    print(run.refusal() + u"; 'morvane-cli space' tells what takes the room\n"_s);
     return false;
 }
 

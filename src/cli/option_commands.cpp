@@ -3,6 +3,7 @@
 #include "cli/json_output.h"
 #include "sets/stored_rows.h"
 #include "simulator/backup_files.h"
+#include "simulator/backup_removal.h"
 #include "simulator/backup_restore.h"
 #include "simulator/backups.h"
 #include "simulator/base_install.h"
@@ -71,10 +72,18 @@ void listBackups(CommandContext& context) {
     printJson(QJsonDocument(list));
 }
 
+bool hasBackup(CommandContext& context) {
+    const clsBackups& backups = loadedCollection(context.session, context.session.rows<clsBackups>());
+    return hasName(context, backups, u"backup"_s, context.arguments[0]);
+}
+
+void removeBackupOf(CommandContext& context) {
+    if (hasBackup(context)) removeBackup(context.session, context.arguments[0]);
+}
+
 void restoreBackupOf(CommandContext& context) {
     const QString& name = context.arguments[0];
-    const clsBackups& backups = loadedCollection(context.session, context.session.rows<clsBackups>());
-    if (!hasName(context, backups, u"backup"_s, name)) return;
+    if (!hasBackup(context)) return;
     context.user.onModal = [&](Screen screen) {
         if (screen != Screen::frm_BackupList) return;
         context.session.state<BackupChoice>().chosenBackup = name;
@@ -96,6 +105,7 @@ void setOption(CommandContext& context) {
 } // namespace
 
 std::vector<Command> optionCommands() {
+    const Operand backupName{u"NAME"_s, u"the backup's name"_s};
     Operand option{.name = u"OPTION"_s, .meaning = u"the option"_s};
     for (const SimulatorOption& each : simulatorOptions())
         option.entries << nameOf(each);
@@ -119,8 +129,14 @@ std::vector<Command> optionCommands() {
          .run = listBackups,
          .meaning = u"the backups"_s,
          .example = u"backup list"_s},
+        {.words = u"backup remove"_s,
+         .operands = {backupName},
+         .writes = true,
+         .run = removeBackupOf,
+         .meaning = u"removes a backup; one with a last copy of the pilot's stays, with status 1"_s,
+         .example = u"--answer yes backup remove 1-Backup"_s},
         {.words = u"backup restore"_s,
-         .operands = {{u"NAME"_s, u"the backup's name"_s}},
+         .operands = {backupName},
          .writes = true,
          .run = restoreBackupOf,
          .meaning = u"puts a backup back"_s,

@@ -73,6 +73,13 @@ QString countText(std::int64_t count, const QString& noun) {
     return countText(count) + u' ' + noun + (count == 1 ? QString() : u"s"_s);
 }
 
+QString namesText(const QStringList& names) {
+    constexpr qsizetype shown = 5;
+    const QString more =
+        names.size() > shown ? u" and %1 more"_s.arg(countText(names.size() - shown)) : QString();
+    return names.first(std::min(shown, names.size())).join(u", "_s) + more;
+}
+
 bool isDigits(QStringView text) {
     return !text.isEmpty() &&
            std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });

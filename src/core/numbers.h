@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <cstdint>
 
 namespace morvane {
@@ -20,6 +20,8 @@ QString floatText(float value);
 QString countText(std::int64_t count);
 /// With what was counted, by its name for one: "1 texture", "1,183 textures".
 QString countText(std::int64_t count, const QString& noun);
+/// As many of the names as a message can hold: "a, b and 1,181 more".
+QString namesText(const QStringList& names);
 /// True for one or more digits 0 to 9 and nothing else.
 bool isDigits(QStringView text);
 /// The text without blanks at both ends. Only blanks count, not tabs or line ends.

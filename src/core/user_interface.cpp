@@ -55,6 +55,8 @@ QString screenName(Screen screen) {
         u"frm_NightColorize",
         u"frm_SelectNightTexture",
         u"frm_BackupList",
+        u"frm_MoreSettings",
+        u"frm_WhatIsKept",
         u"frm_Switcher",
         u"frm_InSimulator",
     };

@@ -66,6 +66,8 @@ enum class Screen {
     frm_NightColorize,
     frm_SelectNightTexture,
     frm_BackupList,
+    frm_MoreSettings,
+    frm_WhatIsKept,
     frm_Switcher,
     frm_InSimulator,
 };

@@ -1,8 +1,12 @@
 #include "sets/set_generation.h"
 
 #include "core/failure_report.h"
+#include "core/folder_room.h"
+#include "core/numbers.h"
 #include "sets/colour_settings.h"
+#include "sets/set_names.h"
 #include "sets/set_removal.h"
+#include "sets/set_run_size.h"
 #include "sets/temp_bitmaps.h"
 #include "sets/texture_passes.h"
 #include "sets/undo_step.h"
@@ -28,8 +32,8 @@ void SetGeneration::activateInHand() {
         if (!set_.refresh(session_)) return;
         if (const QStringList names = changeableNames(inHand.selection.selectedRows); names.size() > 1)
             activateSeveral(job, names);
-        else if (const auto set = job.begin() ? set_.find(session_, inHand.name) : std::nullopt)
-            activate(job, *set, {1, 1});
+        else if (hasRoom({inHand.name}) && job.begin())
+            if (const auto set = set_.find(session_, inHand.name)) activate(job, *set, {1, 1});
         session_.user.hideMessage();
     });
     inHand.refreshList = true;
@@ -37,9 +41,21 @@ void SetGeneration::activateInHand() {
     session_.user.showScreen(set_.facts.listScreen);
 }
 
+/// What a set has is written over.
+bool SetGeneration::hasRoom(const QStringList& names) {
+    const auto count = static_cast<int>(names.size());
+    RunSize run =
+        measuredRun(session_, baseFilesOf(defaultSetName), count, session_.AppPath / set_.facts.folder);
+    run.what = countText(count, set_.facts.word.toLower() + u" set"_s);
+    for (const QString& name : names)
+        if (FilePath::isChildName(name))
+            run.bytes -= roomBelow(session_.files, set_.setFolder(session_, name)).bytes;
+    return session_.user.allowsRun(run);
+}
+
 void SetGeneration::activateSeveral(Job& job, const QStringList& names) {
     const QStringList confirmed = confirmedNames(session_, names);
-    if (!job.begin()) return;
+    if ((!confirmed.isEmpty() && !hasRoom(confirmed)) || !job.begin()) return;
     int position = 0;
     for (const QString& name : confirmed) {
         const auto set = set_.find(session_, name);

@@ -23,7 +23,7 @@ public:
     /// As morvane::removeSet.
     bool removeSetFiles(const QString& name, bool keepRecord);
     /// Rebuilds the files of the set in hand, or of several after frm_MultiDelete. A cancel ends the run and
-    /// leaves its unfinished set deactivated.
+    /// leaves its unfinished set deactivated. Refused where the disk has no room for them.
     void activateInHand();
     /// Deletes the set in hand or several; with `deactivateMode` only the files go and the colours stay.
     void deleteInHand(bool deactivateMode);
@@ -44,6 +44,7 @@ protected:
     Session& session_;
 
 private:
+    bool hasRoom(const QStringList& names);
     void activateSeveral(Job& job, const QStringList& names);
     Reported takeInHand(const StoredSet& set);
     bool activate(const Job& job, const StoredSet& set, Counters counters);

@@ -4,6 +4,7 @@
 #include "core/disk_spelling.h"
 #include "core/flag_text.h"
 #include "core/registry.h"
+#include "sets/set_removal.h"
 #include "sets/simulator_copy.h"
 
 #include <QSet>
@@ -20,12 +21,14 @@ FilePath recordFile(const Session& session) {
 }
 
 void removeTree(FileSystem& files, const FilePath& folder) {
-    if (files.isLink(folder)) return files.remove(folder); // what it points to is not ours
-    for (const QString& inner : files.listFolders(folder))
-        removeTree(files, folder.child(inner));
-    for (const FilePath& file : filesIn(files, folder, u"*"_s))
-        files.remove(file);
-    if (files.isFolder(folder)) files.removeFolder(folder);
+    const FilePath inside = folder.resolved();
+    if (!files.isLink(inside)) { // what one points to is not ours
+        for (const QString& inner : files.listFolders(inside))
+            removeTree(files, inside.exactChild(inner));
+        for (const FilePath& file : filesIn(files, inside, u"*"_s))
+            files.remove(file);
+    }
+    removeFolderOrLink(files, inside);
 }
 
 /// Whether that file of ours can be had again where it came from: it was not written since, or has the same

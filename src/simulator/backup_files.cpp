@@ -1,11 +1,12 @@
 #include "simulator/backup_files.h"
 
+#include "core/attempts.h"
 #include "core/failure_report.h"
+#include "core/folder_room.h"
 #include "core/numbers.h"
 #include "core/safe_copy.h"
 #include "simulator/backups.h"
 
-#include <QLocale>
 #include <algorithm>
 
 namespace morvane {
@@ -70,10 +71,35 @@ std::optional<clsBackup> addBackup(Session& session) {
     return backup;
 }
 
+/// What is still to be written of it, of a first run that is gone on with the rest.
+RunSize sizeOf(Session& session, const std::optional<clsBackup>& begun) {
+    RunSize run;
+    int textures = 0;
+    for (const BackupPlace& place : backupPlaces(session, u"new"_s)) {
+        const FilePath folder = place.simulator.resolved();
+        for (const QString& name : session.files.list(folder, u"*.bmp"_s)) {
+            attempt([&] { run.bytes += session.files.size(folder.exactChild(name)); }); // it will be missing
+            ++textures;
+        }
+    }
+    if (begun) run.bytes -= roomBelow(session.files, backupFolder(session, begun->BackupName)).bytes;
+    run.what = u"A backup of "_s + countText(textures, u"texture"_s);
+    run.freeBytes = session.files.freeSpace(session.BackupPath);
+    return run;
+}
+
+/// Where it is refused, that is told in the place of the progress.
+bool hasRoom(Session& session, const RunSize& run) {
+    if (run.fits()) return true;
+    session.user.hideMessage();
+    return session.user.allowsRun(run);
+}
+
 std::optional<BackupReport> runInRow(Session& session, const Job& job, bool isFirstRun) {
     if (!session.rows<clsBackups>() && !clsBackups::reload(session)) return std::nullopt;
     std::optional<clsBackup> backup;
     if (isFirstRun) backup = unfinishedFirstBackup(session);
+    if (!hasRoom(session, sizeOf(session, backup))) return std::nullopt;
     if (!backup) backup = addBackup(session);
     if (!backup) return std::nullopt;
     for (const BackupPlace& place : backupPlaces(session, backup->BackupName))
@@ -113,8 +139,8 @@ DoneLine doneLine(const BackupReport& report) {
     const QString textures = countText(report.files, u"texture"_s);
     const bool hasAll = report.saved == report.files;
     const QString saved = hasAll ? textures : countText(report.saved) + u" of "_s + textures;
-    const QString day = QLocale(QLocale::English).toString(report.takenAt, u"d MMM yyyy, HH:mm"_s);
-    return {saved + u" backed up"_s, report.name + u", "_s + day, !report.isComplete()};
+    const QString remark = report.name + u", "_s + dayText(report.takenAt);
+    return {saved + u" backed up"_s, remark, !report.isComplete()};
 }
 
 } // namespace

@@ -85,6 +85,15 @@ void BackupList::markFirstRun(Session& session, const QString& name) {
     session.files.write(listFile(session, name), firstRunMark.toUtf8());
 }
 
+/// Without a list it is a partial one, too.
+void BackupList::markPartial(Session& session, const QString& name) {
+    const FilePath list = listFile(session, name);
+    if (!session.files.readIfThere(list)) return;
+    BackupList partial;
+    partial.addMissing(backupFolder(session, name), u"?"_s);
+    if (!attempt([&] { partial.write(session, name); })) session.files.remove(list);
+}
+
 void BackupList::add(const FilePath& file, const FileFingerprint& print) {
     text_ += lineOf(file, print);
 }

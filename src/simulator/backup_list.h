@@ -34,6 +34,9 @@ public:
     /// Raises when it cannot be written; the list of before then stays.
     void write(Session& session, const QString& name) const;
     static void markFirstRun(Session& session, const QString& name);
+    /// Says, on the disk, that the backup is a partial one: before its files are removed. A full disk is no
+    /// hindrance.
+    static void markPartial(Session& session, const QString& name);
 
     void add(const FilePath& file, const FileFingerprint& print);
     /// `name` is what can be said of it: a name may be none that the list could hold.

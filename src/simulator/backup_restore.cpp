@@ -6,30 +6,12 @@
 #include "core/numbers.h"
 #include "sets/simulator_copy.h"
 #include "sets/undo_step.h"
-#include "simulator/backup_list.h"
 #include "simulator/backups.h"
 #include "simulator/checked_copies.h"
 
 namespace morvane {
 
 namespace {
-
-/// A texture goes over the one that stands there, however that is spelt. Where the backup has two that differ
-/// in nothing but case, each stands for itself.
-void addTextures(Session& session, const BackupPlace& place, std::vector<FileCopy>& copies) {
-    const FilePath simulator = place.simulator.resolved();
-    DiskSpelling spelling(session.files, simulator);
-    const FilePath backup = place.backup.resolved();
-    const QStringList names = session.files.list(backup, u"*.bmp"_s);
-    QHash<QString, int> spellings;
-    for (const QString& name : names)
-        ++spellings[name.toCaseFolded()];
-    for (const QString& name : names) {
-        const bool isAlone = spellings.value(name.toCaseFolded()) == 1;
-        const QString own = isAlone && FilePath::isChildName(name) ? spelling.find(name).fileName() : name;
-        copies.push_back({backup.exactChild(name), simulator.exactChild(own)});
-    }
-}
 
 std::vector<FileCopy> texturesOf(Session& session, const QString& name) {
     std::vector<FileCopy> copies;
@@ -104,6 +86,21 @@ bool chooseBackup(Session& session) {
 }
 
 } // namespace
+
+void addTextures(Session& session, const BackupPlace& place, std::vector<FileCopy>& copies) {
+    const FilePath simulator = place.simulator.resolved();
+    DiskSpelling spelling(session.files, simulator);
+    const FilePath backup = place.backup.resolved();
+    const QStringList names = session.files.list(backup, u"*.bmp"_s);
+    QHash<QString, int> spellings;
+    for (const QString& name : names)
+        ++spellings[name.toCaseFolded()];
+    for (const QString& name : names) {
+        const bool isAlone = spellings.value(name.toCaseFolded()) == 1;
+        const QString own = isAlone && FilePath::isChildName(name) ? spelling.find(name).fileName() : name;
+        copies.push_back({backup.exactChild(name), simulator.exactChild(own)});
+    }
+}
 
 std::optional<RestoreReport> restoreBackup(Session& session, const QString& name) {
     std::optional<RestoreReport> report;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/session.h"
+#include "sets/originals.h"
+#include "simulator/backup_list.h"
 
 #include <QDateTime>
 #include <QString>
@@ -20,6 +21,11 @@ struct BackupChoice {
     QString chosenBackup;
     bool backupConfirmed = false;
 };
+
+/// Appends the textures that a backup has of that place, each with the file of the simulator that it goes
+/// over, however that is spelt. Where the backup has two that differ in nothing but case, each stands for
+/// itself.
+void addTextures(Session& session, const BackupPlace& place, std::vector<FileCopy>& copies);
 
 /// What became of the files of a backup.
 struct RestoreReport {

@@ -1,5 +1,7 @@
 #include "simulator/backups.h"
 
+#include <QLocale>
+
 namespace morvane {
 
 const StoredTable<clsBackup>& clsBackup::table() {
@@ -14,6 +16,10 @@ const StoredTable<clsBackup>& clsBackup::table() {
                   {u"BACKUP_DATE_TIME"_s, &clsBackup::BackupDateTime}}},
         .tellsLoadInSystemBox = true};
     return table;
+}
+
+QString dayText(const QDateTime& takenAt) {
+    return QLocale(QLocale::English).toString(takenAt, u"d MMM yyyy, HH:mm"_s);
 }
 
 } // namespace morvane

@@ -16,6 +16,9 @@ struct clsBackup {
     static const StoredTable<clsBackup>& table();
 };
 
+/// When it was taken, for the user's eyes: "30 May 2007, 21:14".
+QString dayText(const QDateTime& takenAt);
+
 using clsBackups = StoredRows<clsBackup>;
 
 } // namespace morvane

@@ -71,14 +71,6 @@ std::optional<StockSource> sourceFromSimulator(Session& session, bool isConfirme
                        session.FSPath / u"Scenery\\UTEurLC\\Texture"};
 }
 
-/// As many names as a message can hold.
-QString namesText(const QStringList& names) {
-    constexpr qsizetype shown = 5;
-    const QString more =
-        names.size() > shown ? u" and %1 more"_s.arg(countText(names.size() - shown)) : QString();
-    return names.first(std::min(shown, names.size())).join(u", "_s) + more;
-}
-
 QString unreadableText(const StockImportReport& report) {
     return u"Left out, as they could not be read as textures: "_s + namesText(report.unreadable);
 }

@@ -44,12 +44,16 @@ void DialogForm::addAnswerKeys(const QString& okTip, const QString& cancelTip) {
     const int top = height() - 58;
     addButton(
         {ButtonFamily::StandardButton, u"btn_Ok"_s, u"ok"_s, u"btn_CheckAll"_s, okTip, {width() - 120, top}});
+    addCancelKey(cancelTip);
+}
+
+void DialogForm::addCancelKey(const QString& tip) {
     addButton({ButtonFamily::StandardButton,
                u"btn_Cancel"_s,
                u"cancel"_s,
                u"btn_Cancel"_s,
-               cancelTip,
-               {width() - 65, top}});
+               tip,
+               {width() - 65, height() - 58}});
 }
 
 void DialogForm::run() {
@@ -90,7 +94,8 @@ void DialogForm::allowOk(bool isAllowed) {
 }
 
 bool DialogForm::isOkAllowed() const {
-    return button(u"btn_Ok"_s)->state() != ButtonState::disabled;
+    const SkinnedButton* key = button(u"btn_Ok"_s);
+    return key && key->state() != ButtonState::disabled;
 }
 
 void DialogForm::ok() {

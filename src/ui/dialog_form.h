@@ -34,8 +34,9 @@ protected:
 
     void allowOk(bool isAllowed);
     bool isOkAllowed() const;
-    /// The two keys, with the tips of this dialog.
+    /// The two keys, with the tips of this dialog; and the second alone, where there is nothing to answer.
     void addAnswerKeys(const QString& okTip, const QString& cancelTip);
+    void addCancelKey(const QString& tip);
 
 private:
     void waitForKeyboard();

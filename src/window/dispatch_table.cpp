@@ -10,6 +10,7 @@
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/screens/base_install_screen.h"
+#include "simulator/screens/kept_screen.h"
 #include "simulator/screens/simulator_check_screen.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_launch.h"
@@ -119,6 +120,10 @@ void settleTicked(WindowShell&, SkinnedButton& button) {
     static_cast<frm_InSimulator*>(Form::of(&button))->settle(choice);
 }
 
+void removeKeptThing(WindowShell& shell, SkinnedButton&) {
+    shell.screen<frm_WhatIsKept>(u"frm_WhatIsKept"_s).removeChosen();
+}
+
 void openUpdatePage(WindowShell& shell, SkinnedButton&) {
     shell.openUpdatePage();
 }
@@ -184,8 +189,8 @@ constexpr char16_t main[] = u"frm_Main", ground[] = u"frm_MVTextures", sky[] = u
                    night[] = u"frm_NightTextures", groundColours[] = u"frm_GroundColorize",
                    skyColours[] = u"frm_SkyColorize", nightColours[] = u"frm_NightColorize",
                    wxControl[] = u"frm_WxControl", coverReport[] = u"frm_CC_From_Metar_String",
-                   switcher[] = u"frm_Switcher", config[] = u"frm_Config", links[] = u"frm_Links",
-                   about[] = u"frm_About", inSimulator[] = u"frm_InSimulator";
+                   switcher[] = u"frm_Switcher", config[] = u"frm_Config", kept[] = u"frm_WhatIsKept",
+                   links[] = u"frm_Links", about[] = u"frm_About", inSimulator[] = u"frm_InSimulator";
 constexpr char16_t anyForm[] = u"*"; ///< small keys mean the same wherever they lie, and so do a dialog's
 
 struct Entry {
@@ -244,6 +249,7 @@ constexpr Entry entries[] = {
     {large, inSimulator, u"put ours back", settleTicked<DifferenceChoice::putOursBack>},
     {large, inSimulator, u"put own back", settleTicked<DifferenceChoice::putOwnBack>},
     {standard, switcher, u"regupdate", chooseFlightsFolder},
+    {large, kept, u"remove kept", removeKeptThing},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

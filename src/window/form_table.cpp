@@ -12,6 +12,8 @@
 #include "simulator/screens/backup_list_screen.h"
 #include "simulator/screens/base_install_screen.h"
 #include "simulator/screens/flight_screen.h"
+#include "simulator/screens/kept_screen.h"
+#include "simulator/screens/more_settings_screen.h"
 #include "simulator/screens/options_screen.h"
 #include "simulator/screens/simulator_check_screen.h"
 #include "sky/screens/base_sky_screen.h"
@@ -76,6 +78,8 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_Config>(u"frm_Config"_s),
         screenEntry<frm_BackupList>(u"frm_BackupList"_s),
         screenEntry<frm_InSimulator>(u"frm_InSimulator"_s),
+        screenEntry<frm_MoreSettings>(u"frm_MoreSettings"_s),
+        screenEntry<frm_WhatIsKept>(u"frm_WhatIsKept"_s),
         screenEntry<frm_MVTextures>(u"frm_MVTextures"_s),
         screenEntry<frm_GroundColorize>(u"frm_GroundColorize"_s),
         screenEntry<frm_KMTextures>(u"frm_KMTextures"_s),

@@ -88,7 +88,10 @@ void WindowUser::tellDone(const DoneLine& line) {
 bool WindowUser::allowsRun(const RunSize& run) {
     const QString title = u"Morvane Information"_s;
     if (!run.fits())
-        showMessage({MessageKind::exclamation, title, run.refusal()});
+        showMessage({MessageKind::exclamation, title,
+                     run.refusal() +
+                         u".\n\nOn the configuration page \"More settings\" leads to what Morvane "
+                         "keeps, and to what of it can go."_s});
     else if (run.isQuestionWanted)
         return ask(Question::largeRun, title, run.summary());
     return run.fits();

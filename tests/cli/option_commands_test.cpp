@@ -31,6 +31,7 @@ TEST_F(OptionCommands, baseInstallBackupAndRestore) {
     const QByteArray own = readFile(texture);
     const auto before = contentsBelow(install.folder.path());
     expectSteps(install, {{u"base|install|Fog"_s, {u"There is no base"_s}, 1},
+                          {u"backup|remove|1-Backup"_s, {u"There is no backup"_s}, 1},
                           {u"backup|restore|1-Backup"_s, {u"There is no backup"_s}, 1}});
     EXPECT_TRUE(contentsBelow(install.folder.path()) == before);
     expectSteps(install, {{u"backup|create"_s}, {u"base|install|Global Coverage - Day"_s}});
@@ -41,7 +42,13 @@ TEST_F(OptionCommands, baseInstallBackupAndRestore) {
                           {u"backup|restore|1-Backup"_s, {u"3 put back (2 were there already)"_s}}});
     EXPECT_EQ(readFile(texture), own);
     const UnreadableFile unreadable(texture.parent().child(u"broken.bmp"_s));
-    expectSteps(install, {{u"backup|create"_s, {}, 1}, {u"backup|list"_s, {u"\"complete\":false"_s}}});
+    expectSteps(install, {{u"backup|create"_s, {}, 1},
+                          {u"backup|list"_s, {u"\"complete\":false"_s}},
+                          {u"space"_s, {u"1-Backup, "_s, u", partial"_s, u"Morvane keeps"_s}},
+                          {u"space|--json"_s, {u"\"name\":\"Your originals\""_s}},
+                          {u"backup|remove|2-Backup"_s, {u"2-Backup removed"_s}}});
+    install.files.remove(texture.parent() / u"005A2SU2.BMP");
+    expectSteps(install, {{u"backup|remove|1-Backup"_s, {u"nowhere else: 005A2SU2.BMP"_s}, 1}});
 }
 
 TEST_F(OptionCommands, eachOptionIsKept) {

@@ -21,6 +21,10 @@ TEST_F(NightSets, activationMakesEveryFileInTheColoursOfTheSet) {
     addNightSet(install, u"2-Red"_s, false);
     const FilePath sets = install.home() / u"Night Texture Sets";
     ASSERT_TRUE(clickNightRow(session, u"2-Red"_s));
+    install.files.toldFree = 100; // less than it takes
+    NightGeneration(session).activateInHand();
+    EXPECT_EQ(nightSets(session), u"Default+ 2-Red"_s);
+    install.files.toldFree = -1;
     NightGeneration(session).activateInHand();
     EXPECT_EQ(nightSets(session), u"Default+ 2-Red+"_s);
     EXPECT_EQ(contentsBelow(sets).keys().join(u' '),

@@ -53,6 +53,8 @@ public:
     /// Of each file that was changed and not made durable what stood there before, the new name with nothing
     /// behind it, or what stands there now: any of them may be found after a cut of power.
     void cutPower(unsigned seed);
+    /// What the disk says it has free; below 0 the truth.
+    qint64 toldFree = -1;
     int operations() const { return operations_; }
     /// Whether the operation that failed first was a test of existence.
     bool failedAtTest() const { return failedAtTest_; }
@@ -90,7 +92,9 @@ public:
     void setMode(const FilePath& file, unsigned mode) override { act(file).setMode(file, mode); }
     std::int64_t size(const FilePath& file) override { return act(file).size(file); }
     FileStamp stamp(const FilePath& path) override { return act(path).stamp(path); }
-    std::int64_t freeSpace(const FilePath& folder) override { return act(folder).freeSpace(folder); }
+    std::int64_t freeSpace(const FilePath& folder) override {
+        return toldFree < 0 ? act(folder).freeSpace(folder) : toldFree;
+    }
     QByteArray read(const FilePath& file) override { return act(file).read(file); }
     void write(const FilePath& file, const QByteArray& contents) override {
         takeRoom(file, contents.size());

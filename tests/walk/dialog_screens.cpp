@@ -30,8 +30,9 @@ void giveBaseSets(Session& session) {
 } // namespace
 
 std::vector<WalkScreen> setDialogs() {
+    const Effect closed = closes([](Session&) { return true; }, true);
+    const WalkRows closing{{u"btn_Cancel"_s, closed}, {u"(Escape)"_s, closed}, {u"(close)"_s, closed}};
     const auto isBackupTaken = isSet(&BackupChoice::backupConfirmed);
-    const auto nothingIsConfirmed = [](Session&) { return false; };
     const Effect chosenBackup = becomes(&BackupChoice::chosenBackup);
     return {
         {"ground_counts", u"frm_TsRequired"_s, dialog(Screen::frm_TsRequired), true,
@@ -60,14 +61,18 @@ std::vector<WalkScreen> setDialogs() {
                   {u"(Escape)"_s, closes(isBackupTaken, false)},
                   {u"(close)"_s, closes(isBackupTaken, false)}}},
         {"in_simulator", u"frm_InSimulator"_s, dialog(Screen::frm_InSimulator), true,
-         WalkRows{{u"cmdReadAll"_s, label(u"lblLooked"_s)},
-                  {u"rowCount*"_s, label(u"lblFiles"_s), 5},
-                  {u"chkAll"_s, label(u"lblTicked"_s, u"2 of 2 ticked"_s)},
-                  {u"lstFiles"_s, itself()},
-                  {u"lstFiles|tick"_s, label(u"lblTicked"_s, u"1 of 2 ticked"_s)},
-                  {u"btn_Cancel"_s, closes(nothingIsConfirmed, false)},
-                  {u"(Escape)"_s, closes(nothingIsConfirmed, false)},
-                  {u"(close)"_s, closes(nothingIsConfirmed, false)}}},
+         closing + WalkRows{{u"cmdReadAll"_s, label(u"lblLooked"_s)},
+                            {u"rowCount*"_s, label(u"lblFiles"_s), 5},
+                            {u"chkAll"_s, label(u"lblTicked"_s, u"2 of 2 ticked"_s)},
+                            {u"lstFiles"_s, itself()},
+                            {u"lstFiles|tick"_s, label(u"lblTicked"_s, u"1 of 2 ticked"_s)}}},
+        {"more_settings", u"frm_MoreSettings"_s, dialog(Screen::frm_MoreSettings), true,
+         closing + WalkRows{{u"cmdKept"_s, shows(u"frm_WhatIsKept"_s)},
+                            {u"chkUndo"_s, label(u"lblUndoRoom"_s).lasting()}}},
+        {"kept", u"frm_WhatIsKept"_s, dialog(Screen::frm_WhatIsKept), true,
+         closing + WalkRows{{u"lstKept"_s, label(u"lblAbout"_s)},
+                            {u"(Down)"_s, label(u"lblAbout"_s)},
+                            {u"btn_RemoveKept"_s, shows(u"message Morvane Information"_s)}}},
     };
 }
 

@@ -63,6 +63,7 @@ std::vector<WalkScreen> mainScreens() {
                       {u"chkHalo"_s, option(&OptionsInForce::IsHalo)},
                       {u"chkFastExit"_s, option(&OptionsInForce::IsFastExit)},
                       {u"chkCustomSplash"_s, option(&OptionsInForce::InhibitCustomSplash)},
+                      {u"cmdMoreSettings"_s, shows(u"frm_MoreSettings"_s)},
                       {u"btn_RegOK"_s, shows(u"box Please select a folder..."_s)}}},
         {"base_install", u"frm_Config"_s, page(u"frm_Config"_s), false,
          mainWindowRows(u"btn_Config"_s) +

@@ -44,6 +44,7 @@ by the airport's weather report.</p>
 <li><a href="#colours">Colours of your own</a></li>
 <li><a href="#pages">What each page does</a></li>
 <li><a href="#originals">Getting your own textures back</a></li>
+<li><a href="#room">Room on the disk</a></li>
 <li><a href="#keyboard">Keyboard</a></li>
 </ul>
 </nav>
@@ -89,7 +90,8 @@ with the sets that suit them. <b>Weather Finder</b> looks for airports with a ce
 <b>Saved Flight</b> takes the airports from a flight you have saved, <b>Refresh METAR</b> fetches new reports.</p>
 <h3>Configuration</h3>
 <p>Options of the program and the simulator: whether this PC is a WideClient, the Dutch and tropical textures, the
-halo, the start pictures, whether Morvane asks before it closes, and the folder of your saved flights.</p>
+halo, the start pictures, whether Morvane asks before it closes, and the folder of your saved flights. <b>More
+settings</b> leads to what Morvane keeps on the disk.</p>
 <h3>Base Install</h3>
 <p>Puts Morvane's base textures into the simulator and makes or restores backups. Do this once before you install
 sets.</p>
@@ -106,6 +108,12 @@ to take away what Morvane added, close Morvane, open a terminal and enter</p>
 <code>Backup/Originals</code> of the install folder; leave them there.</p>
 <p>A <b>backup</b> is something else: a copy of the simulator's base files, made when you ask for it on the page
 <b>Base Install</b>. You may keep several, each with its date, and restore any of them on the same page.</p>
+
+<h2 id="room">Room on the disk</h2>
+<p>A ground set takes about 50 MB, a backup as much as the simulator's textures. <b>Configuration</b>, <b>More
+settings</b>, <b>What Morvane keeps</b> shows how much room each of them takes. Select a row and choose <b>Remove</b>:
+sets keep their colours and can be activated again, intermediate images are made again by the next run, and a backup
+goes unless it holds the last copy of a texture of your own.</p>
 
 <h2 id="keyboard">Keyboard</h2>
 <p><kbd>Tab</kbd> moves from key to key, <kbd>Space</kbd> or <kbd>Enter</kbd> presses the one with the frame,

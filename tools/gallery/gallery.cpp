@@ -214,6 +214,8 @@ void Gallery::saveDialogs() {
         {Screen::frm_AddFav, u"add-favourite"},
         {Screen::frm_BackupList, u"backup-list"},
         {Screen::frm_InSimulator, u"in-the-simulator"},
+        {Screen::frm_MoreSettings, u"more-settings"},
+        {Screen::frm_WhatIsKept, u"what-is-kept"},
         {Screen::frm_MultiDelete, u"name-choice"}};
     shell_.session().state<MetarRequest>().metarRequestText =
         u"Do you wish Morvane to download and decode the latest METAR cycle from Orrinsoft?"_s;

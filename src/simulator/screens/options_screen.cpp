@@ -10,6 +10,7 @@
 #include "ui/controls/paper_style.h"
 
 #include <QCheckBox>
+#include <QPushButton>
 #include <algorithm>
 
 namespace morvane {
@@ -38,6 +39,7 @@ frm_Switcher::frm_Switcher(Shell& shellOfPages)
     for (const SimulatorOption* option : optionsOfPage())
         addOption(*option);
     addFlightsFolder();
+    addMoreSettings();
 }
 
 void frm_Switcher::addOption(const SimulatorOption& option) {
@@ -70,6 +72,15 @@ void frm_Switcher::addFlightsFolder() {
                u"Click to enter new Flight Simulator Files directory path."_s,
                {534, 397}},
               paper());
+}
+
+void frm_Switcher::addMoreSettings() {
+    auto* more = new QPushButton(u"More settings"_s, paper());
+    more->setObjectName(u"cmdMoreSettings"_s);
+    more->setToolTip(u"Click for the simulator's folder and the room on the disk."_s);
+    more->setGeometry(482, 8, 100, 22);
+    connect(more, &QPushButton::clicked, this,
+            [this] { session().user.showModal(Screen::frm_MoreSettings); });
 }
 
 void frm_Switcher::formatSwitcherScreen() {

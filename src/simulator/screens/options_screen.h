@@ -20,6 +20,7 @@ public:
 private:
     void addOption(const SimulatorOption& option);
     void addFlightsFolder();
+    void addMoreSettings();
     void formatSwitcherScreen();
     /// Shows the flags and the flights' folder, without any effect and without a question.
     void loadSwitcherValues();

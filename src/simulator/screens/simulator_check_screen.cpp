@@ -19,9 +19,9 @@ namespace morvane {
 
 namespace {
 
-constexpr int left = 26, right = 356, rightEdge = 674, firstRow = 105, pitch = 22, keyRow = 443;
+constexpr int leftEdge = 26, right = 356, rightEdge = 674, firstLine = 105, pitch = 22, keyRow = 443;
 
-/// The rows at the left, in their order.
+/// The rows at the leftEdge, in their order.
 enum CountedFiles : std::size_t { oursRow, ownRow, changedRow, missingRow, keptRow };
 
 QString dayText(std::int64_t nanoseconds) {
@@ -73,15 +73,15 @@ frm_InSimulator::frm_InSimulator(Shell& shell)
 }
 
 void frm_InSimulator::addCounts() {
-    makeLabel(this, u"The files"_s, {left, 86, 200, 14}, TextRole::sectionHeading);
-    makeHair(this, {left, 104, 306, 1});
+    makeLabel(this, u"The files"_s, {leftEdge, 86, 200, 14}, TextRole::sectionHeading);
+    makeHair(this, {leftEdge, 104, 306, 1});
     constexpr const char16_t* signs[countRows] = {u"mark_whole.bmp", u"mark_own.bmp", u"mark_changed.bmp",
                                                   u"mark_missing.bmp", u"mark_kept.bmp"};
     for (std::size_t row = 0; row < countRows; ++row) {
         counts_[row] = new CountRow(skin().picture(QString::fromUtf16(signs[row])), this);
         counts_[row]->setObjectName(u"rowCount%1"_s.arg(row));
         counts_[row]->setToolTip(u"Click to see only these files, and again to see what differs."_s);
-        counts_[row]->setGeometry(left, firstRow + static_cast<int>(row) * pitch, 306, pitch);
+        counts_[row]->setGeometry(leftEdge, firstLine + static_cast<int>(row) * pitch, 306, pitch);
         connect(counts_[row], &CountRow::clicked, this, [this, row] { pick(row); });
     }
 }
@@ -89,7 +89,7 @@ void frm_InSimulator::addCounts() {
 void frm_InSimulator::addParts() {
     makeLabel(this, u"Installed"_s, {right, 86, 200, 14}, TextRole::sectionHeading);
     makeHair(this, {right, 104, rightEdge - right, 1});
-    int top = firstRow;
+    int top = firstLine;
     for (PartLabels& part : parts_) {
         part.kind = makeLabel(this, {}, {right, top, 50, pitch}, TextRole::sliderName);
         part.name = makeLabel(this, {}, {right + 52, top, 140, pitch}, TextRole::value);
@@ -101,14 +101,14 @@ void frm_InSimulator::addParts() {
 }
 
 void frm_InSimulator::addList() {
-    lblFiles_ = makeLabel(this, {}, {left, 225, 400, 14}, TextRole::sectionHeading);
+    lblFiles_ = makeLabel(this, {}, {leftEdge, 225, 400, 14}, TextRole::sectionHeading);
     lblFiles_->setObjectName(u"lblFiles"_s);
     lblTicked_ = makeLabel(this, {}, {426, 223, rightEdge - 426, 18}, TextRole::number);
     lblTicked_->setObjectName(u"lblTicked"_s);
     lstFiles_ = new SetTable(this);
     lstFiles_->setObjectName(u"lstFiles"_s);
     lstFiles_->setAccessibleName(u"Files"_s);
-    lstFiles_->setGeometry(left, 244, 648, 144);
+    lstFiles_->setGeometry(leftEdge, 244, 648, 144);
     lstFiles_->setColumns({{{}, 26},
                            {u"File"_s, 112},
                            {u"Folder"_s, 162},
@@ -120,17 +120,17 @@ void frm_InSimulator::addList() {
     chkAll_->setObjectName(u"chkAll"_s);
     chkAll_->setAccessibleName(u"All files of the list"_s);
     chkAll_->setTristate(true);
-    chkAll_->setGeometry(left + 6, 248, 18, 16);
+    chkAll_->setGeometry(leftEdge + 6, 248, 18, 16);
     connect(chkAll_, &QCheckBox::clicked, this,
             [this] { lstFiles_->checkAll(lstFiles_->checkedKeys().size() < lstFiles_->rowCount()); });
-    lblNothing_ =
-        makeLabel(this, u"Everything is as Morvane left it."_s, {left, 244, 648, 22}, TextRole::value);
+    lblNothing_ = makeLabel(this, u"Everything is as Morvane leftEdge it."_s, {leftEdge, 244, 648, 22},
+                            TextRole::value);
     lblNothing_->setObjectName(u"lblNothing"_s);
     makeLabel(
         this,
         u"Take as mine: the file stays and counts as your own from now on. Put ours back: it is copied from "
         u"its set again.\nPut my own back: the kept original returns, and the file is no longer ours."_s,
-        {left, 393, 648, 32}, TextRole::longHelp);
+        {leftEdge, 393, 648, 32}, TextRole::longHelp);
 }
 
 void frm_InSimulator::addKeys() {
@@ -144,12 +144,7 @@ void frm_InSimulator::addKeys() {
         u"Click to copy the ticked files from their sets again."_s, u"Put Ours\nBack"_s, 164);
     add(u"btn_PutOwn"_s, u"put own back"_s, u"btn_Restore_Backup"_s,
         u"Click to put your own files in the place of the ticked ones."_s, u"Put My Own\nBack"_s, 302);
-    addButton({ButtonFamily::StandardButton,
-               u"btn_Cancel"_s,
-               u"cancel"_s,
-               u"btn_Cancel"_s,
-               u"Click to close."_s,
-               {635, 442}});
+    addCancelKey(u"Click to close."_s);
 }
 
 void frm_InSimulator::prepare() {
@@ -239,7 +234,7 @@ void frm_InSimulator::fillList() {
             const qsizetype end = place.path.lastIndexOf(u'\\');
             const QStringList texts{{},
                                     place.path.mid(end + 1),
-                                    place.path.left(std::max<qsizetype>(end, 0)),
+                                    place.path.leftEdge(std::max<qsizetype>(end, 0)),
                                     happenedText(place),
                                     keptText(place)};
             lstFiles_->addRow({place.path, texts, texts});

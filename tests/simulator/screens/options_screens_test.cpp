@@ -1,5 +1,6 @@
 #include "core/store.h"
 #include "sets/options_in_force.h"
+#include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "support/window_program.h"
 #include "ui/controls/set_table.h"
@@ -86,6 +87,18 @@ TEST_F(OptionsScreens, aBackupIsChosenBeforeOkAndAPartialOneIsMarked) {
         EXPECT_FALSE(dialog.isVisible());
     });
     EXPECT_EQ(session.state<BackupChoice>().chosenBackup, u"4-Backup"_s);
+}
+
+TEST_F(OptionsScreens, whatIsPickedGoesAndTheNextOneIsPicked) {
+    createBackup(program.install.session, false);
+    program.show(Screen::frm_WhatIsKept, [this](DialogForm& dialog) {
+        auto& list = *dialog.findChild<SetTable*>(u"lstKept"_s);
+        clickRow(list, 4);
+        program.toldDuring([&] { program.press(u"frm_WhatIsKept"_s, u"btn_RemoveKept"_s); });
+        EXPECT_EQ(list.selectedNames(), QStringList{u"Your originals"_s});
+        EXPECT_EQ(program.stateOf(u"frm_WhatIsKept"_s, u"btn_RemoveKept"_s), ButtonState::disabled);
+        dialog.cancel();
+    });
 }
 
 } // namespace

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/dialog_form.h"
+
+class QCheckBox;
+class QLabel;
+
+namespace morvane {
+
+/// Settings that are seldom needed, beside the options of the configuration page.
+class frm_MoreSettings : public DialogForm {
+    Q_OBJECT
+public:
+    explicit frm_MoreSettings(Shell& shell);
+
+protected:
+    void prepare() override;
+    void confirm() override {}
+
+private:
+    void addSection(const QString& heading, int top);
+    void showUndo();
+
+    QLabel *lblSimulatorPath_, *lblUndoRoom_;
+    QCheckBox* chkUndo_;
+};
+
+} // namespace morvane
