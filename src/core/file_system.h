@@ -5,7 +5,10 @@
 
 #include <QByteArray>
 #include <cstdint>
+#include <filesystem>
+#include <mutex>
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace morvane {
@@ -71,8 +74,9 @@ public:
     virtual void write(const FilePath& file, const QByteArray& contents) = 0;
     /// Adds to the file's end, making it when missing, and hands it to the system before it returns.
     virtual void append(const FilePath& file, const QByteArray& contents) = 0;
-    /// Returns when what stands in these files, and that they go by these names, outlasts a cut of power.
-    /// Takes as long as the disk does; raises when the system cannot do it.
+    /// Returns when what stands in these files, that they go by these names in folders that may be new, and
+    /// that those of them which are missing are gone, outlasts a cut of power. Takes as long as the disk
+    /// does; raises when the system cannot do it.
     virtual void makeDurable(const std::vector<FilePath>& files) = 0;
 };
 
@@ -106,7 +110,11 @@ public:
     void makeDurable(const std::vector<FilePath>& files) override;
 
 private:
+    void flushOneByOne(const std::vector<FilePath>& files, std::set<std::filesystem::path> folders);
+
     HeldFiles heldFiles_;
+    std::mutex mutex_;
+    std::set<std::filesystem::path> foldersWithNew_; ///< in which a folder was made and not made durable
 };
 
 } // namespace morvane

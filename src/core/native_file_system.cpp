@@ -131,9 +131,15 @@ QStringList NativeFileSystem::listFolders(const FilePath& folder) {
 }
 
 void NativeFileSystem::makeFolder(const FilePath& folder) {
+    std::set<std::filesystem::path> above;
+    for (auto path = systemPath(folder); path.has_relative_path() && !std::filesystem::exists(path);
+         path = path.parent_path())
+        above.insert(path.parent_path());
     std::error_code error;
     std::filesystem::create_directories(systemPath(folder), error);
     raise(error, folder);
+    const std::lock_guard lock(mutex_);
+    foldersWithNew_.merge(above);
 }
 
 void NativeFileSystem::copyContents(const FilePath& source, const FilePath& target) {
@@ -241,10 +247,18 @@ void NativeFileSystem::makeDurable(const std::vector<FilePath>& files) {
                 areDone = false;
         if (areDone) return;
     }
+    flushOneByOne(files, std::move(folders));
+}
+
+void NativeFileSystem::flushOneByOne(const std::vector<FilePath>& files,
+                                     std::set<std::filesystem::path> folders) {
     for (const FilePath& file : files)
-        raise(flushToDisk(systemPath(file)), file);
+        if (exists(file)) raise(flushToDisk(systemPath(file)), file);
+    const std::lock_guard lock(mutex_);
+    folders.insert(foldersWithNew_.begin(), foldersWithNew_.end());
     for (const auto& folder : folders)
         raise(flushToDisk(folder), FilePath(QString::fromStdU16String(folder.u16string())));
+    foldersWithNew_.clear();
 }
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {

@@ -3,6 +3,9 @@
 #include "core/attempts.h"
 #include "core/literals.h"
 #include "core/ordered_work.h"
+#include "core/safe_copy.h"
+
+#include <algorithm>
 
 namespace morvane {
 
@@ -20,8 +23,8 @@ QString numbered(const QString& path, int number) {
 
 Originals::Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath,
                      const QDate& today)
-    : files_(files), simulator_(simulator), folder_(appPath / u"Backup\\Originals"), today_(today),
-      list_(files, simulator, folder_), spelling_(files, simulator) {
+    : files_(files), simulator_(simulator), appPath_(appPath), folder_(appPath / u"Backup\\Originals"),
+      today_(today), list_(files, simulator, folder_), spelling_(files, simulator) {
     respell();
 }
 
@@ -75,17 +78,40 @@ void Originals::addKept(const std::vector<OriginalFact>& facts) {
 Originals::SeenCopy Originals::seeCopy(const FileCopy& copy, const FilePath& place) const {
     SeenCopy seen;
     seen.sourceFailure = failureOf([&] { seen.source = fingerprintOf(files_, copy.source); });
-    if (!seen.sourceFailure) seen.targetFailure = failureOf([&] { seen.target = see(place); });
+    if (!seen.sourceFailure) seen.targetFailure = failureOf([&] { seen.target = see(copy, place); });
+    // A cut of power may have taken the fact of a copy that stands: the place is known, so it is ours.
+    const bool isOurs = seen.target.file && seen.target.file->print == seen.source;
+    if (isOurs && list_.records().contains(place.relative())) seen.target.unknown.reset();
     return seen;
 }
 
-Originals::Standing Originals::see(const FilePath& place) const {
+Originals::Standing Originals::see(const FileCopy& copy, const FilePath& place) const {
     const auto stamp = files_.stampIfThere(place);
     auto contents = stamp ? files_.readIfThere(place) : std::nullopt;
     if (!contents) return {};
     const SeenFile seen{fingerprintOf(*contents), *stamp};
-    if (isOursOrKept(place, seen.print)) contents.reset();
-    return {seen, std::move(contents)};
+    if (isOursOrKept(place, seen.print)) return {seen};
+    const bool isRemnant = isRemnantOfKnown(place, *contents, copy.source);
+    return {seen, std::move(contents), isRemnant};
+}
+
+/// Of one of ours, of the one that was about to come, or of the kept one on its way back. A pilot's file that
+/// looks alike holds nothing that those do not.
+bool Originals::isRemnantOfKnown(const FilePath& place, const QByteArray& contents,
+                                 const std::optional<FilePath>& source) const {
+    const OriginalRecord& known = list_.records().of(place.relative());
+    if (!list_.records().contains(place.relative()) || known.wasKept(fingerprintOf(contents))) return false;
+    const auto isOf = [&](const auto& file) {
+        std::optional<QByteArray> whole; // a set may be gone
+        attempt([&] { whole = files_.readIfThere(file()); });
+        return whole && isRemnant(contents, *whole);
+    };
+    const bool isZero = contents.count('\0') == contents.size();
+    const auto isOfOurs = [&](const OriginalFact& ours) {
+        return (isZero && contents.size() <= ours.print.size) || isOf([&] { return appPath_ / ours.where; });
+    };
+    return (source && isOf([&] { return *source; })) || std::ranges::any_of(known.ours, isOfOurs) ||
+           (!known.kept.empty() && isOf([&] { return folder_ / known.kept.back().where; }));
 }
 
 bool Originals::isOursOrKept(const FilePath& place, const FileFingerprint& print) const {
@@ -107,6 +133,7 @@ void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const S
         failures_.insert(path, *failure);
         return;
     }
+    if (seen.target.file) stood_.insert(path, seen.target.file->print);
     if (seen.target.file && seen.target.file->print == seen.source) standing_.insert(path, *seen.target.file);
     if (list_.records().of(path).isOurs(seen.source)) return;
     OriginalFact ours = factOf(FactKind::ours, place);
@@ -121,7 +148,9 @@ void Originals::note(const FilePath& place, const Standing& standing, bool isFor
                      std::vector<OriginalFact>& facts) {
     const QString path = place.relative();
     if (looked_.contains(path)) return;
-    if (standing.unknown)
+    if (standing.unknown && standing.isRemnant)
+        keepCopy(path, *standing.unknown); // without a fact: no restore brings it back
+    else if (standing.unknown)
         facts.push_back(keep(place, standing.file->print, *standing.unknown));
     else if (!standing.file && isForOurs && !list_.records().contains(path))
         facts.push_back(factOf(FactKind::added, place));
@@ -171,7 +200,7 @@ FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& s
     std::vector<OriginalFact> facts;
     const bool isKnown =
         standing && isOursOrKept(place, standing->print) && isAsSeen(files_, place, standing);
-    note(place, isKnown ? Standing{standing, std::nullopt} : see(place), false, facts);
+    note(place, isKnown ? Standing{standing} : see(copy, place), false, facts);
     addKept(facts);
     return place;
 }
@@ -197,8 +226,16 @@ void Originals::notePlaced(const FileCopy& copy, const FilePath& place) {
 
 void Originals::settle() {
     if (announced_.isEmpty()) return;
-    for (auto last = placed_.cbegin(); last != placed_.cend(); ++last)
-        list_.records()[last.key()].ours = {*last};
+    for (const OriginalFact& last : std::as_const(placed_)) {
+        OriginalRecord& record = list_.records()[last.path];
+        const FileFingerprint stood = stood_.value(last.path);
+        const bool isReplaced = record.isOurs(stood) && !(stood == last.print);
+        list_.records().apply(last);
+        if (isReplaced)
+            std::erase_if(record.ours, [&](const OriginalFact& fact) {
+                return !(fact.print == last.print || fact.print == stood);
+            });
+    }
     list_.write();
 }
 
@@ -238,7 +275,8 @@ const OriginalRecord& Originals::recordOf(const FilePath& target) {
 bool Originals::isOurs(const FilePath& target) {
     const FilePath place = find(target);
     const auto contents = files_.readIfThere(place);
-    return contents && list_.records().of(place.relative()).isOurs(fingerprintOf(*contents));
+    return contents && (list_.records().of(place.relative()).isOurs(fingerprintOf(*contents)) ||
+                        isRemnantOfKnown(place, *contents));
 }
 
 std::optional<FilePath> Originals::keptFile(const FilePath& target) {

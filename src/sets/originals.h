@@ -71,8 +71,8 @@ public:
     bool stands(const FileCopy& copy, const FilePath& place) const;
     /// Call it when the copy stands in its place.
     void notePlaced(const FileCopy& copy, const FilePath& place);
-    /// Call it after the last copy: the list is written anew, so that it does not grow with every flight, and
-    /// of what was put to one path only the last counts.
+    /// Call it after the last copy: the list is written anew, so that it does not grow with every flight. Of
+    /// what was put to one path the last counts, and what it replaced, which a cut of power may bring back.
     void settle();
 
     /// Takes the read-only mark away, where there is one, so that a restore can give it back; true when there
@@ -101,15 +101,18 @@ private:
     void respell();
     /// What stands in a place before a copy goes there.
     struct Standing {
-        std::optional<SeenFile> file;      ///< nothing where none is
-        std::optional<QByteArray> unknown; ///< the contents of one that is neither ours nor kept
+        std::optional<SeenFile> file = {};      ///< nothing where none is
+        std::optional<QByteArray> unknown = {}; ///< the contents of one that is neither ours nor kept
+        bool isRemnant = false;                 ///< that one is what a cut of power left
     };
     struct SeenCopy {
         FileFingerprint source;
         Standing target;
         std::optional<Error> sourceFailure, targetFailure;
     };
-    Standing see(const FilePath& place) const;
+    Standing see(const FileCopy& copy, const FilePath& place) const;
+    bool isRemnantOfKnown(const FilePath& place, const QByteArray& contents,
+                          const std::optional<FilePath>& source = {}) const;
     bool isOursOrKept(const FilePath& place, const FileFingerprint& print) const;
     SeenCopy seeCopy(const FileCopy& copy, const FilePath& place) const;
     void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
@@ -127,6 +130,7 @@ private:
     /// What a file to be put back or taken away has been found to be.
     struct FoundFile {
         std::optional<SeenFile> standing = {}; ///< in its place
+        bool isOurs = false;                   ///< that is one of ours, or what a cut of power left
         bool isKeptSound = false;              ///< where the kept one has to come
         std::optional<Error> failure = {};
     };
@@ -141,15 +145,18 @@ private:
     void restoreKept(const KnownFile& file, const FoundFile& found, OriginalsReport& report);
     static unsigned modeAfter(const KnownFile& file, const FoundFile& found);
     void removeMadeFolders();
+    void forgetRestored();
 
     FileSystem& files_;
-    FilePath simulator_, folder_;
+    FilePath simulator_, appPath_, folder_;
     QDate today_;
     OriginalsList list_;
     DiskSpelling spelling_;
     QHash<QString, FileFingerprint> announced_; ///< by source
     QHash<QString, SeenFile> standing_;         ///< with the bytes of a copy that is to go there
+    QHash<QString, FileFingerprint> stood_;     ///< before the copies, by path
     QHash<QString, OriginalFact> placed_;       ///< the last of each path
+    std::vector<FilePath> restored_;            ///< as they were before us, or gone as nothing was there
     QHash<QString, Error> failures_;            ///< by source or by path of the target
     QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run
     QHash<QString, FilePath> copyFolders_; ///< made, by the folder below `folder_`

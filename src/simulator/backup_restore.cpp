@@ -69,7 +69,8 @@ RestoreReport copyBack(Session& session, const QString& name) {
         else
             ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, source->print), *source));
     });
-    copier.finish();
+    session.user.hideMessage();
+    copier.finish(); // may wait for the disk
     return report;
 }
 
