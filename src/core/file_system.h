@@ -72,6 +72,8 @@ public:
     std::optional<QByteArray> readIfThere(const FilePath& file);
     /// Replaces the file's contents; never leaves half of them, nor anything else when it fails.
     virtual void write(const FilePath& file, const QByteArray& contents) = 0;
+    /// Makes a file; a kill may leave half of it. False when something of that name is there, which stays.
+    virtual bool writeNew(const FilePath& file, const QByteArray& contents) = 0;
     /// Adds to the file's end, making it when missing, and hands it to the system before it returns.
     virtual void append(const FilePath& file, const QByteArray& contents) = 0;
     /// Returns when what stands in these files, that they go by these names in folders that may be new, and
@@ -106,6 +108,7 @@ public:
     std::int64_t freeSpace(const FilePath& folder) override;
     QByteArray read(const FilePath& file) override;
     void write(const FilePath& file, const QByteArray& contents) override;
+    bool writeNew(const FilePath& file, const QByteArray& contents) override;
     void append(const FilePath& file, const QByteArray& contents) override;
     void makeDurable(const std::vector<FilePath>& files) override;
 

@@ -233,6 +233,21 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
     }
 }
 
+bool NativeFileSystem::writeNew(const FilePath& file, const QByteArray& contents) {
+    QFile out(file.native());
+    if (!out.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+        if (exists(file) || isLink(file)) return false;
+        throw Error(codeOf(out.error(), noFolderOrDenied(out)), file.text());
+    }
+    try {
+        writeAll(out, contents.constData(), contents.size(), file);
+    } catch (const Error&) {
+        out.remove();
+        throw;
+    }
+    return true;
+}
+
 void NativeFileSystem::makeDurable(const std::vector<FilePath>& files) {
     constexpr std::size_t few = 16; // from here on one by one costs more than the whole drive
     std::set<std::filesystem::path> folders;

@@ -19,6 +19,10 @@ QString numbered(const QString& path, int number) {
     return path.left(end) + u" (%1)"_s.arg(number) + path.mid(end);
 }
 
+QString folderOf(const QString& path) {
+    return path.left(std::max<qsizetype>(path.lastIndexOf(u'\\'), 0));
+}
+
 } // namespace
 
 Originals::Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath,
@@ -56,13 +60,27 @@ void Originals::prepare(const std::vector<FileCopy>& copies, const std::function
     for (const FileCopy& copy : copies)
         places.push_back(find(copy.target));
     // The records stay as they are until all have been looked at.
-    OrderedShares<SeenCopy> seen(copies.size(), [&](std::size_t i) { return seeCopy(copies[i], places[i]); });
+    const std::vector<bool> mayKeep = mayKeepAhead(places);
+    OrderedShares<SeenCopy> seen(copies.size(),
+                                 [&](std::size_t i) { return seeCopy(copies[i], places[i], mayKeep[i]); });
     std::vector<OriginalFact> facts;
     for (std::size_t i = 0; i < copies.size(); ++i) {
         prepareCopy(copies[i], places[i], seen.next(), facts);
         pump();
     }
     addKept(facts);
+}
+
+/// Of several copies to one place the first keeps what stands there.
+std::vector<bool> Originals::mayKeepAhead(const std::vector<FilePath>& places) {
+    std::vector<bool> mayKeep;
+    QSet<QString> earlier = looked_;
+    for (const FilePath& place : places) {
+        mayKeep.push_back(!earlier.contains(place.relative()));
+        earlier.insert(place.relative());
+        makeCopyFolder(place.relative());
+    }
+    return mayKeep;
 }
 
 /// What was kept is on the disk before a line says so, and the line before the first file is replaced: a cut
@@ -75,13 +93,18 @@ void Originals::addKept(const std::vector<OriginalFact>& facts) {
     list_.add(facts);
 }
 
-Originals::SeenCopy Originals::seeCopy(const FileCopy& copy, const FilePath& place) const {
+Originals::SeenCopy Originals::seeCopy(const FileCopy& copy, const FilePath& place, bool mayKeep) const {
     SeenCopy seen;
     seen.sourceFailure = failureOf([&] { seen.source = fingerprintOf(files_, copy.source); });
-    if (!seen.sourceFailure) seen.targetFailure = failureOf([&] { seen.target = see(copy, place); });
-    // A cut of power may have taken the fact of a copy that stands: the place is known, so it is ours.
-    const bool isOurs = seen.target.file && seen.target.file->print == seen.source;
-    if (isOurs && list_.records().contains(place.relative())) seen.target.unknown.reset();
+    if (seen.sourceFailure) return seen;
+    seen.targetFailure = failureOf([&] {
+        Standing& target = seen.target = see(copy, place);
+        // The copy itself: a cut of power took the fact about it.
+        if (target.isRemnant && target.file->print == seen.source) target.unknown.reset();
+        if (!target.unknown || target.isRemnant || !mayKeep) return;
+        target.kept = keep(place, *target.file, *target.unknown);
+        target.unknown.reset();
+    });
     return seen;
 }
 
@@ -148,48 +171,48 @@ void Originals::note(const FilePath& place, const Standing& standing, bool isFor
                      std::vector<OriginalFact>& facts) {
     const QString path = place.relative();
     if (looked_.contains(path)) return;
-    if (standing.unknown && standing.isRemnant)
+    if (standing.unknown) makeCopyFolder(path);
+    if (standing.kept)
+        facts.push_back(*standing.kept);
+    else if (standing.unknown && standing.isRemnant)
         keepCopy(path, *standing.unknown); // without a fact: no restore brings it back
     else if (standing.unknown)
-        facts.push_back(keep(place, standing.file->print, *standing.unknown));
+        facts.push_back(keep(place, *standing.file, *standing.unknown));
     else if (!standing.file && isForOurs && !list_.records().contains(path))
         facts.push_back(factOf(FactKind::added, place));
     looked_.insert(path);
 }
 
-OriginalFact Originals::keep(const FilePath& place, const FileFingerprint& print,
-                             const QByteArray& contents) {
-    const FileStamp stamp = files_.stamp(place);
+OriginalFact Originals::keep(const FilePath& place, const SeenFile& file, const QByteArray& contents) const {
     OriginalFact kept = factOf(FactKind::kept, place);
-    kept.print = print;
-    kept.time = stamp.time;
-    kept.number = stamp.number;
-    kept.mode = stamp.mode;
+    kept.print = file.print;
+    kept.time = file.stamp.time;
+    kept.number = file.stamp.number;
+    kept.mode = file.stamp.mode;
     kept.where = keepCopy(place.relative(), contents);
     return kept;
 }
 
 /// A kept file is never written over: the next one of its path lies beside it, numbered. One of the same
 /// contents, which a kill or a restore left there without a fact, serves again.
-QString Originals::keepCopy(const QString& path, const QByteArray& contents) {
+QString Originals::keepCopy(const QString& path, const QByteArray& contents) const {
     for (int number = 1;; ++number) {
         const QString where = list_.prefix() + numbered(path, number);
         const FilePath copy = copyPlace(where);
-        const auto there = files_.readIfThere(copy);
-        if (!there) files_.write(copy, contents);
-        if (!there || *there == contents) return where;
+        if (files_.writeNew(copy, contents) || files_.readIfThere(copy) == contents) return where;
     }
 }
 
 /// Folders are made and looked up once for their thousands of files.
-FilePath Originals::copyPlace(const QString& where) {
-    const qsizetype end = where.lastIndexOf(u'\\');
-    const QString folder = where.left(std::max<qsizetype>(end, 0));
-    if (!copyFolders_.contains(folder)) {
-        files_.makeFolder(folder_ / folder);
-        copyFolders_.insert(folder, (folder_ / folder).resolved());
-    }
-    return copyFolders_.value(folder).exactChild(where.mid(end + 1));
+void Originals::makeCopyFolder(const QString& path) {
+    const QString folder = folderOf(list_.prefix() + path);
+    if (copyFolders_.contains(folder)) return;
+    files_.makeFolder(folder_ / folder);
+    copyFolders_.insert(folder, (folder_ / folder).resolved());
+}
+
+FilePath Originals::copyPlace(const QString& where) const {
+    return copyFolders_.value(folderOf(where)).exactChild(where.mid(where.lastIndexOf(u'\\') + 1));
 }
 
 FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& standing) {

@@ -104,6 +104,7 @@ private:
         std::optional<SeenFile> file = {};      ///< nothing where none is
         std::optional<QByteArray> unknown = {}; ///< the contents of one that is neither ours nor kept
         bool isRemnant = false;                 ///< that one is what a cut of power left
+        std::optional<OriginalFact> kept = {};  ///< that one has been kept
     };
     struct SeenCopy {
         FileFingerprint source;
@@ -114,15 +115,17 @@ private:
     bool isRemnantOfKnown(const FilePath& place, const QByteArray& contents,
                           const std::optional<FilePath>& source = {}) const;
     bool isOursOrKept(const FilePath& place, const FileFingerprint& print) const;
-    SeenCopy seeCopy(const FileCopy& copy, const FilePath& place) const;
+    SeenCopy seeCopy(const FileCopy& copy, const FilePath& place, bool mayKeep) const;
+    std::vector<bool> mayKeepAhead(const std::vector<FilePath>& places);
     void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
                      std::vector<OriginalFact>& facts);
     /// Adds what has to be noted before the file is replaced.
     void note(const FilePath& place, const Standing& standing, bool isForOurs,
               std::vector<OriginalFact>& facts);
-    OriginalFact keep(const FilePath& place, const FileFingerprint& print, const QByteArray& contents);
-    QString keepCopy(const QString& path, const QByteArray& contents);
-    FilePath copyPlace(const QString& where);
+    OriginalFact keep(const FilePath& place, const SeenFile& file, const QByteArray& contents) const;
+    QString keepCopy(const QString& path, const QByteArray& contents) const;
+    void makeCopyFolder(const QString& path);
+    FilePath copyPlace(const QString& where) const;
     void addKept(const std::vector<OriginalFact>& facts);
     OriginalFact factOf(FactKind kind, const FilePath& place) const;
 

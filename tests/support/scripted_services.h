@@ -95,6 +95,12 @@ public:
         change(file).write(file, contents);
         noteContents(file);
     }
+    bool writeNew(const FilePath& file, const QByteArray& contents) override {
+        takeRoom(file, contents.size());
+        const bool isMade = change(file).writeNew(file, contents);
+        if (isMade) noteContents(file);
+        return isMade;
+    }
     void append(const FilePath& file, const QByteArray& contents) override {
         takeRoom(file, contents.size());
         change(file).append(file, contents);
