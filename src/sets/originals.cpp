@@ -55,6 +55,16 @@ OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
 }
 
 void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
+    prepareAll(copies, pump, true);
+}
+
+void Originals::keepAll(const std::vector<FileCopy>& copies) {
+    prepareAll(
+        copies, [] {}, false);
+}
+
+void Originals::prepareAll(const std::vector<FileCopy>& copies, const std::function<void()>& pump,
+                           bool areOurs) {
     std::vector<FilePath> places;
     places.reserve(copies.size());
     for (const FileCopy& copy : copies)
@@ -65,7 +75,7 @@ void Originals::prepare(const std::vector<FileCopy>& copies, const std::function
                                  [&](std::size_t i) { return seeCopy(copies[i], places[i], mayKeep[i]); });
     std::vector<OriginalFact> facts;
     for (std::size_t i = 0; i < copies.size(); ++i) {
-        prepareCopy(copies[i], places[i], seen.next(), facts);
+        prepareCopy(copies[i], places[i], seen.next(), areOurs, facts);
         pump();
     }
     addKept(facts);
@@ -142,20 +152,21 @@ bool Originals::isOursOrKept(const FilePath& place, const FileFingerprint& print
     return known.isOurs(print) || known.isKept(print);
 }
 
-void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
+void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen, bool isOurs,
                             std::vector<OriginalFact>& facts) {
     const QString path = place.relative();
     if (seen.sourceFailure) {
         failures_.insert(copy.source.text(), *seen.sourceFailure);
         return;
     }
-    announced_.insert(copy.source.text(), seen.source);
     std::optional<Error> failure = seen.targetFailure;
-    if (!failure) failure = failureOf([&] { note(place, seen.target, true, facts); });
+    if (!failure) failure = failureOf([&] { note(place, seen.target, isOurs, facts); });
     if (failure) {
         failures_.insert(path, *failure);
         return;
     }
+    if (!isOurs) return;
+    announced_.insert(copy.source.text(), seen.source);
     if (seen.target.file) stood_.insert(path, seen.target.file->print);
     if (seen.target.file && seen.target.file->print == seen.source) standing_.insert(path, *seen.target.file);
     if (list_.records().of(path).isOurs(seen.source)) return;

@@ -61,6 +61,12 @@ public:
     /// called after each copy's part.
     void prepare(
         const std::vector<FileCopy>& copies, const std::function<void()>& pump = [] {});
+    /// The same for files of the pilot's own: only what stands in their places is kept.
+    void keepAll(const std::vector<FileCopy>& copies);
+    /// A file of those contents there is ours or kept.
+    bool isKnown(const FilePath& target, const FileFingerprint& print) {
+        return isOursOrKept(find(target), print);
+    }
     /// Where that copy goes, in the spelling of the disk. Raises what kept it from being prepared: it must
     /// not be made then. A copy that was not prepared brings a file of the pilot's own; only what stands in
     /// its place is kept. `standing`: what was read there just now, where somebody has.
@@ -117,7 +123,8 @@ private:
     bool isOursOrKept(const FilePath& place, const FileFingerprint& print) const;
     SeenCopy seeCopy(const FileCopy& copy, const FilePath& place, bool mayKeep) const;
     std::vector<bool> mayKeepAhead(const std::vector<FilePath>& places);
-    void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
+    void prepareAll(const std::vector<FileCopy>& copies, const std::function<void()>& pump, bool areOurs);
+    void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen, bool isOurs,
                      std::vector<OriginalFact>& facts);
     /// Adds what has to be noted before the file is replaced.
     void note(const FilePath& place, const Standing& standing, bool isForOurs,
