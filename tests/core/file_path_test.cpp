@@ -74,6 +74,20 @@ struct FileSizeLimit {
 };
 
 /// The message speaks of the file that was to be, and nothing but that file is there.
+TEST(NativeFileSystem, makesAFileOnlyWhereNoneIsAndFlushesWhatIsGoneToo) {
+    const TemporaryFolder folder;
+    NativeFileSystem files;
+    const FilePath inside = folder / u"new Ü\\newer", file = inside / u"a.bmp";
+    files.makeFolder(inside);
+    EXPECT_TRUE(files.writeNew(file, "the first"));
+    EXPECT_FALSE(files.writeNew(file, "another"));
+    EXPECT_EQ(readFile(file), "the first");
+    files.setReadOnly(file, true);
+    EXPECT_NO_THROW(files.makeDurable({file, inside / u"gone.bmp"}));
+    EXPECT_TRUE(files.isReadOnly(file));
+    EXPECT_THROW(files.writeNew(folder / u"none\\a.bmp", "a"), Error);
+}
+
 TEST(NativeFileSystem, aFailedWriteLeavesNothingAndNamesTheFile) {
     TemporaryFolder folder;
     NativeFileSystem files;

@@ -1,6 +1,7 @@
 #include "ground/ground_installation.h"
 #include "ground/ground_sets.h"
 #include "sets/originals.h"
+#include "simulator/base_install.h"
 #include "support/faulty_store.h"
 #include "support/small_install.h"
 
@@ -115,6 +116,23 @@ TEST_F(InstallFaults, firstInstallKeepsThePilotsFilesWhateverFails) {
             });
     }
     EXPECT_GT(failures, 100);
+}
+
+/// What the end of an install waits for is no concern of the pilot's.
+TEST_F(InstallFaults, theListIsWrittenAnewWhenTheMessageHasClosed) {
+    const FilePath list = install.home() / u"Backup\\Originals\\originals.lst";
+    for (const bool isBase : {false, true}) {
+        QByteArray whenClosed;
+        install.user.onHide = [&] { whenClosed = whenClosed.isEmpty() ? readFile(list) : whenClosed; };
+        if (isBase)
+            install.session.adoConn->execute("INSERT INTO MV_CONFIG(TITLE, MV_FOLDER, FS_FOLDER) VALUES ('" +
+                                             globalDayConfig +
+                                             "', 'GENERIC WORLD', 'Scenery\\World\\texture')");
+        isBase ? copyBaseResources(install.session, {globalDayConfig}) : put("2-Á");
+        install.user.onHide = [] {};
+        EXPECT_FALSE(whenClosed.isEmpty());
+        EXPECT_NE(readFile(list), whenClosed) << isBase;
+    }
 }
 
 } // namespace
