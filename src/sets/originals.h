@@ -44,8 +44,8 @@ struct OriginalsReport {
 /// file that we put there, so that a file of ours is never taken for the pilot's, nor his for ours.
 ///
 /// A file is ours when a fact of the list says so and its bytes are those of the fact; without such a fact it
-/// is the pilot's, whatever its bytes. Facts are on the disk before what they speak of is done, so the worst
-/// that a kill leaves behind is a file that is kept once too often.
+/// is the pilot's, whatever its bytes, but for what a cut of power left of one. Facts are on the disk before
+/// what they speak of is done, so the worst that a kill leaves behind is a file that is kept once too often.
 class Originals {
 public:
     /// Raises when the list cannot be read, or when a newer version wrote it.
