@@ -113,7 +113,7 @@ public:
     void makeDurable(const std::vector<FilePath>& files) override;
 
 private:
-    void flushOneByOne(const std::vector<FilePath>& files, std::set<std::filesystem::path> folders);
+    void flushOneByOne(const std::vector<FilePath>& files, const std::set<std::filesystem::path>& folders);
 
     HeldFiles heldFiles_;
     std::mutex mutex_;

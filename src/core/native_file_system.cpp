@@ -99,6 +99,14 @@ void copyRest(QFile& in, QFile& out, const FilePath& source, const FilePath& tar
     }
 }
 
+/// The file's folder; where that was removed, the one above, which tells so.
+std::filesystem::path folderThere(const std::filesystem::path& file) {
+    std::filesystem::path folder = file.parent_path();
+    while (folder.has_relative_path() && !std::filesystem::exists(folder))
+        folder = folder.parent_path();
+    return folder;
+}
+
 } // namespace
 
 bool NativeFileSystem::exists(const FilePath& path) {
@@ -252,7 +260,7 @@ void NativeFileSystem::makeDurable(const std::vector<FilePath>& files) {
     constexpr std::size_t few = 16; // from here on one by one costs more than the whole drive
     std::set<std::filesystem::path> folders;
     for (const FilePath& file : files)
-        folders.insert(systemPath(file).parent_path());
+        folders.insert(folderThere(systemPath(file)));
     if (files.size() > few) {
         bool areDone = true;
         for (const auto& folder : folders)
@@ -262,18 +270,18 @@ void NativeFileSystem::makeDurable(const std::vector<FilePath>& files) {
                 areDone = false;
         if (areDone) return;
     }
-    flushOneByOne(files, std::move(folders));
+    flushOneByOne(files, folders);
 }
 
 void NativeFileSystem::flushOneByOne(const std::vector<FilePath>& files,
-                                     std::set<std::filesystem::path> folders) {
+                                     const std::set<std::filesystem::path>& folders) {
     for (const FilePath& file : files)
         if (exists(file)) raise(flushToDisk(systemPath(file)), file);
-    const std::lock_guard lock(mutex_);
-    folders.insert(foldersWithNew_.begin(), foldersWithNew_.end());
     for (const auto& folder : folders)
         raise(flushToDisk(folder), FilePath(QString::fromStdU16String(folder.u16string())));
-    foldersWithNew_.clear();
+    const std::lock_guard lock(mutex_);
+    for (const auto& folder : std::exchange(foldersWithNew_, {}))
+        flushToDisk(folder); // one may be gone by now, or closed to readers
 }
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {

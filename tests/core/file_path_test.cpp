@@ -83,7 +83,11 @@ TEST(NativeFileSystem, makesAFileOnlyWhereNoneIsAndFlushesWhatIsGoneToo) {
     EXPECT_FALSE(files.writeNew(file, "another"));
     EXPECT_EQ(readFile(file), "the first");
     files.setReadOnly(file, true);
-    EXPECT_NO_THROW(files.makeDurable({file, inside / u"gone.bmp"}));
+    files.makeFolder(folder / u"passing Ü\\inner");
+    files.removeFolder(folder / u"passing Ü\\inner");
+    files.removeFolder(folder / u"passing Ü");
+    EXPECT_NO_THROW(files.makeDurable({file, folder / u"passing Ü\\inner\\gone.bmp"}));
+    EXPECT_NO_THROW(files.makeDurable(std::vector(20, folder / u"passing Ü\\inner\\gone.bmp")));
     EXPECT_TRUE(files.isReadOnly(file));
     EXPECT_THROW(files.writeNew(folder / u"none\\a.bmp", "a"), Error);
 }
