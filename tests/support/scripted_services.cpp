@@ -64,6 +64,8 @@ void FaultyFileSystem::takeRoom(const FilePath& file, qint64 size) {
 void FaultyFileSystem::killAtChange(int n) {
     killAt(0);
     isWatching_ = true;
+    unsaved_.clear();
+    unsavedFolders_.clear();
     changes_ = 0;
     cutAt_ = n;
 }
@@ -139,8 +141,6 @@ void FaultyFileSystem::cutPower(unsigned seed) {
     }
     for (const QString& folder : unsavedFolders_)
         if (random() % 8 == 0) QDir(folder).removeRecursively();
-    unsaved_.clear();
-    unsavedFolders_.clear();
     isWatching_ = false;
 }
 

@@ -53,7 +53,8 @@ public:
     /// operations end the run with Killed: what only reads makes no moment of its own.
     void killAtChange(int n);
     /// Of each name that was changed and not made durable what stood there before, what stands there now, or
-    /// that torn; of a folder that was made, nothing: any of them may be found after a cut of power.
+    /// that torn; of a folder that was made, nothing: any of them may be found after a cut of power. Cut once
+    /// more, with the tree as it was before, it may be another one.
     void cutPower(unsigned seed);
     int operations() const { return operations_; }
     /// Whether the operation that failed first was a test of existence.
