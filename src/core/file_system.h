@@ -5,7 +5,10 @@
 
 #include <QByteArray>
 #include <cstdint>
+#include <filesystem>
+#include <mutex>
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace morvane {
@@ -69,10 +72,13 @@ public:
     std::optional<QByteArray> readIfThere(const FilePath& file);
     /// Replaces the file's contents; never leaves half of them, nor anything else when it fails.
     virtual void write(const FilePath& file, const QByteArray& contents) = 0;
+    /// Makes a file; a kill may leave half of it. False when something of that name is there, which stays.
+    virtual bool writeNew(const FilePath& file, const QByteArray& contents) = 0;
     /// Adds to the file's end, making it when missing, and hands it to the system before it returns.
     virtual void append(const FilePath& file, const QByteArray& contents) = 0;
-    /// Returns when what stands in these files, and that they go by these names, outlasts a cut of power.
-    /// Takes as long as the disk does; raises when the system cannot do it.
+    /// Returns when what stands in these files, that they go by these names in folders that may be new, and
+    /// that those of them which are missing are gone, outlasts a cut of power. Takes as long as the disk
+    /// does; raises when the system cannot do it.
     virtual void makeDurable(const std::vector<FilePath>& files) = 0;
 };
 
@@ -102,11 +108,16 @@ public:
     std::int64_t freeSpace(const FilePath& folder) override;
     QByteArray read(const FilePath& file) override;
     void write(const FilePath& file, const QByteArray& contents) override;
+    bool writeNew(const FilePath& file, const QByteArray& contents) override;
     void append(const FilePath& file, const QByteArray& contents) override;
     void makeDurable(const std::vector<FilePath>& files) override;
 
 private:
+    void flushOneByOne(const std::vector<FilePath>& files, const std::set<std::filesystem::path>& folders);
+
     HeldFiles heldFiles_;
+    std::mutex mutex_;
+    std::set<std::filesystem::path> foldersWithNew_; ///< in which a folder was made and not made durable
 };
 
 } // namespace morvane

@@ -44,14 +44,29 @@ std::optional<bool> isHeldByOther(const std::filesystem::path& file) {
     return false;
 }
 
-std::error_code flushToDisk(const std::filesystem::path& path) {
-    if (std::filesystem::is_directory(path)) return {};
+namespace {
+
+std::error_code flushWritable(const std::filesystem::path& path) {
     constexpr DWORD everyShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE handle =
         CreateFileW(path.c_str(), GENERIC_WRITE, everyShare, nullptr, OPEN_EXISTING, 0, nullptr);
     if (handle == INVALID_HANDLE_VALUE) return lastErrorUnless(false);
     const std::error_code error = lastErrorUnless(FlushFileBuffers(handle));
     CloseHandle(handle);
+    return error;
+}
+
+} // namespace
+
+/// Only what may be written to can be flushed, so the mark goes for that moment.
+std::error_code flushToDisk(const std::filesystem::path& path) {
+    if (std::filesystem::is_directory(path)) return {};
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_READONLY))
+        return flushWritable(path);
+    SetFileAttributesW(path.c_str(), attributes & ~FILE_ATTRIBUTE_READONLY);
+    const std::error_code error = flushWritable(path);
+    SetFileAttributesW(path.c_str(), attributes);
     return error;
 }
 

@@ -99,6 +99,14 @@ void copyRest(QFile& in, QFile& out, const FilePath& source, const FilePath& tar
     }
 }
 
+/// The file's folder; where that was removed, the one above, which tells so.
+std::filesystem::path folderThere(const std::filesystem::path& file) {
+    std::filesystem::path folder = file.parent_path();
+    while (folder.has_relative_path() && !std::filesystem::exists(folder))
+        folder = folder.parent_path();
+    return folder;
+}
+
 } // namespace
 
 bool NativeFileSystem::exists(const FilePath& path) {
@@ -131,9 +139,15 @@ QStringList NativeFileSystem::listFolders(const FilePath& folder) {
 }
 
 void NativeFileSystem::makeFolder(const FilePath& folder) {
+    std::set<std::filesystem::path> above;
+    for (auto path = systemPath(folder); path.has_relative_path() && !std::filesystem::exists(path);
+         path = path.parent_path())
+        above.insert(path.parent_path());
     std::error_code error;
     std::filesystem::create_directories(systemPath(folder), error);
     raise(error, folder);
+    const std::lock_guard lock(mutex_);
+    foldersWithNew_.merge(above);
 }
 
 void NativeFileSystem::copyContents(const FilePath& source, const FilePath& target) {
@@ -227,11 +241,26 @@ void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
     }
 }
 
+bool NativeFileSystem::writeNew(const FilePath& file, const QByteArray& contents) {
+    QFile out(file.native());
+    if (!out.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+        if (exists(file) || isLink(file)) return false;
+        throw Error(codeOf(out.error(), noFolderOrDenied(out)), file.text());
+    }
+    try {
+        writeAll(out, contents.constData(), contents.size(), file);
+    } catch (const Error&) {
+        out.remove();
+        throw;
+    }
+    return true;
+}
+
 void NativeFileSystem::makeDurable(const std::vector<FilePath>& files) {
     constexpr std::size_t few = 16; // from here on one by one costs more than the whole drive
     std::set<std::filesystem::path> folders;
     for (const FilePath& file : files)
-        folders.insert(systemPath(file).parent_path());
+        folders.insert(folderThere(systemPath(file)));
     if (files.size() > few) {
         bool areDone = true;
         for (const auto& folder : folders)
@@ -241,10 +270,18 @@ void NativeFileSystem::makeDurable(const std::vector<FilePath>& files) {
                 areDone = false;
         if (areDone) return;
     }
+    flushOneByOne(files, folders);
+}
+
+void NativeFileSystem::flushOneByOne(const std::vector<FilePath>& files,
+                                     const std::set<std::filesystem::path>& folders) {
     for (const FilePath& file : files)
-        raise(flushToDisk(systemPath(file)), file);
+        if (exists(file)) raise(flushToDisk(systemPath(file)), file);
     for (const auto& folder : folders)
         raise(flushToDisk(folder), FilePath(QString::fromStdU16String(folder.u16string())));
+    const std::lock_guard lock(mutex_);
+    for (const auto& folder : std::exchange(foldersWithNew_, {}))
+        flushToDisk(folder); // one may be gone by now, or closed to readers
 }
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {

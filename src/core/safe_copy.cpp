@@ -2,6 +2,8 @@
 
 #include "core/attempts.h"
 
+#include <algorithm>
+
 namespace morvane {
 
 namespace {
@@ -48,6 +50,12 @@ void writeDurably(FileSystem& files, const FilePath& file, const QByteArray& con
         files.makeDurable({next});
         files.rename(next, place);
     });
+}
+
+bool isRemnant(const QByteArray& contents, const QByteArray& whole) {
+    const auto isLeft = [](char byte, char own) { return byte == own || byte == 0; };
+    return contents.size() <= whole.size() &&
+           std::equal(contents.begin(), contents.end(), whole.begin(), isLeft);
 }
 
 void removePartialCopies(FileSystem& files, const FilePath& folder) {

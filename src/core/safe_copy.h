@@ -28,6 +28,11 @@ void putPart(FileSystem& files, const FilePath& place);
 /// nothing behind it. For the few files that say what others are.
 void writeDurably(FileSystem& files, const FilePath& file, const QByteArray& contents);
 
+/// Whether that may be what a cut of power left of a copy, whose blocks come to the disk in any order: it is
+/// no longer than the whole and every byte of it is the whole's or zero, so it holds nothing that this does
+/// not.
+bool isRemnant(const QByteArray& contents, const QByteArray& whole);
+
 /// Removes what a killed run left beside its targets in that folder.
 void removePartialCopies(FileSystem& files, const FilePath& folder);
 

@@ -130,6 +130,7 @@ OriginalsText parseOriginals(const QByteArray& bytes, const FilePath& file) {
     if (!lines.isEmpty() && readHead(lines[0], file, text)) lines.removeFirst();
     OldList old;
     for (const QString& line : lines) {
+        if (line.contains(QChar())) continue; // blocks that a cut of power left out: two lines in one
         const QStringList columns = line.split(u'\t');
         const auto fact = text.hasHead ? factOf(columns) : old.factOf(columns);
         if (fact) text.facts.push_back(*fact);

@@ -3,6 +3,7 @@
 #include "core/attempts.h"
 #include "core/literals.h"
 #include "core/ordered_work.h"
+#include "core/safe_copy.h"
 
 #include <algorithm>
 
@@ -16,6 +17,10 @@ QString numbered(const QString& path, int number) {
     const qsizetype dot = path.lastIndexOf(u'.');
     const qsizetype end = dot > path.lastIndexOf(u'\\') ? dot : path.size();
     return path.left(end) + u" (%1)"_s.arg(number) + path.mid(end);
+}
+
+QString folderOf(const QString& path) {
+    return path.left(std::max<qsizetype>(path.lastIndexOf(u'\\'), 0));
 }
 
 } // namespace
@@ -50,18 +55,42 @@ OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
 }
 
 void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
+    prepareAll(copies, pump, true);
+}
+
+void Originals::keepAll(const std::vector<FileCopy>& copies) {
+    prepareAll(
+        copies, [] {}, false);
+}
+
+void Originals::prepareAll(const std::vector<FileCopy>& copies, const std::function<void()>& pump,
+                           bool areOurs) {
     std::vector<FilePath> places;
     places.reserve(copies.size());
     for (const FileCopy& copy : copies)
         places.push_back(find(copy.target));
     // The records stay as they are until all have been looked at.
-    OrderedShares<SeenCopy> seen(copies.size(), [&](std::size_t i) { return seeCopy(copies[i], places[i]); });
+    const std::vector<bool> mayKeep = mayKeepAhead(places);
+    OrderedShares<SeenCopy> seen(copies.size(),
+                                 [&](std::size_t i) { return seeCopy(copies[i], places[i], mayKeep[i]); });
     std::vector<OriginalFact> facts;
     for (std::size_t i = 0; i < copies.size(); ++i) {
-        prepareCopy(copies[i], places[i], seen.next(), facts);
+        prepareCopy(copies[i], places[i], seen.next(), areOurs, facts);
         pump();
     }
     addKept(facts);
+}
+
+/// Of several copies to one place the first keeps what stands there.
+std::vector<bool> Originals::mayKeepAhead(const std::vector<FilePath>& places) {
+    std::vector<bool> mayKeep;
+    QSet<QString> earlier = looked_;
+    for (const FilePath& place : places) {
+        mayKeep.push_back(!earlier.contains(place.relative()));
+        earlier.insert(place.relative());
+        makeCopyFolder(place.relative());
+    }
+    return mayKeep;
 }
 
 /// What was kept is on the disk before a line says so, and the line before the first file is replaced: a cut
@@ -74,20 +103,48 @@ void Originals::addKept(const std::vector<OriginalFact>& facts) {
     list_.add(facts);
 }
 
-Originals::SeenCopy Originals::seeCopy(const FileCopy& copy, const FilePath& place) const {
+Originals::SeenCopy Originals::seeCopy(const FileCopy& copy, const FilePath& place, bool mayKeep) const {
     SeenCopy seen;
     seen.sourceFailure = failureOf([&] { seen.source = fingerprintOf(files_, copy.source); });
-    if (!seen.sourceFailure) seen.targetFailure = failureOf([&] { seen.target = see(place); });
+    if (seen.sourceFailure) return seen;
+    seen.targetFailure = failureOf([&] {
+        Standing& target = seen.target = see(copy, place);
+        // The copy itself: a cut of power took the fact about it.
+        if (target.isRemnant && target.file->print == seen.source) target.unknown.reset();
+        if (!target.unknown || target.isRemnant || !mayKeep) return;
+        target.kept = keep(place, *target.file, *target.unknown);
+        target.unknown.reset();
+    });
     return seen;
 }
 
-Originals::Standing Originals::see(const FilePath& place) const {
+Originals::Standing Originals::see(const FileCopy& copy, const FilePath& place) const {
     const auto stamp = files_.stampIfThere(place);
     auto contents = stamp ? files_.readIfThere(place) : std::nullopt;
     if (!contents) return {};
     const SeenFile seen{fingerprintOf(*contents), *stamp};
-    if (isOursOrKept(place, seen.print)) contents.reset();
-    return {seen, std::move(contents)};
+    if (isOursOrKept(place, seen.print)) return {seen};
+    const bool isRemnant = isRemnantOfKnown(place, *contents, copy.source);
+    return {seen, std::move(contents), isRemnant};
+}
+
+/// Of one of ours, of the one that was about to come, or of the kept one on its way back. A pilot's file that
+/// looks alike holds nothing that those do not.
+bool Originals::isRemnantOfKnown(const FilePath& place, const QByteArray& contents,
+                                 const std::optional<FilePath>& source) const {
+    const OriginalRecord& known = list_.records().of(place.relative());
+    if (!list_.records().contains(place.relative()) || known.wasKept(fingerprintOf(contents))) return false;
+    const auto isOf = [&](const auto& file) {
+        std::optional<QByteArray> whole; // a set may be gone
+        attempt([&] { whole = files_.readIfThere(file()); });
+        return whole && isRemnant(contents, *whole);
+    };
+    const bool isZero = contents.count('\0') == contents.size();
+    const auto isOfOurs = [&](const OriginalFact& ours) {
+        return (isZero && contents.size() <= ours.print.size) || isOf([&] { return appPath_ / ours.where; });
+    };
+    return (source && isOf([&] { return *source; })) || std::ranges::any_of(known.ours, isOfOurs) ||
+           (!known.kept.empty() && isOf([&] { return folder_ / known.kept.back().where; }));
 }
 
 bool Originals::isOursOrKept(const FilePath& place, const FileFingerprint& print) const {
@@ -95,20 +152,21 @@ bool Originals::isOursOrKept(const FilePath& place, const FileFingerprint& print
     return known.isOurs(print) || known.isKept(print);
 }
 
-void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
+void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen, bool isOurs,
                             std::vector<OriginalFact>& facts) {
     const QString path = place.relative();
     if (seen.sourceFailure) {
         failures_.insert(copy.source.text(), *seen.sourceFailure);
         return;
     }
-    announced_.insert(copy.source.text(), seen.source);
     std::optional<Error> failure = seen.targetFailure;
-    if (!failure) failure = failureOf([&] { note(place, seen.target, true, facts); });
+    if (!failure) failure = failureOf([&] { note(place, seen.target, isOurs, facts); });
     if (failure) {
         failures_.insert(path, *failure);
         return;
     }
+    if (!isOurs) return;
+    announced_.insert(copy.source.text(), seen.source);
     if (seen.target.file && seen.target.file->print == seen.source) standing_.insert(path, *seen.target.file);
     if (list_.records().of(path).isOurs(seen.source)) return;
     OriginalFact ours = factOf(FactKind::ours, place);
@@ -123,60 +181,65 @@ void Originals::note(const FilePath& place, const Standing& standing, bool isFor
                      std::vector<OriginalFact>& facts) {
     const QString path = place.relative();
     if (looked_.contains(path)) return;
-    if (standing.unknown)
-        facts.push_back(keep(place, standing.file->print, *standing.unknown));
+    if (standing.unknown) makeCopyFolder(path);
+    if (standing.kept)
+        facts.push_back(*standing.kept);
+    else if (standing.unknown && standing.isRemnant)
+        keepCopy(path, *standing.unknown); // without a fact: no restore brings it back
+    else if (standing.unknown)
+        facts.push_back(keep(place, *standing.file, *standing.unknown));
     else if (!standing.file && isForOurs && !list_.records().contains(path))
         facts.push_back(factOf(FactKind::added, place));
-    if (isForOurs) stood_.push_back(stoodFact(place, standing, facts));
+    if (isForOurs) stood_.insert(path, stoodFact(place, standing, facts));
     looked_.insert(path);
 }
 
-/// `facts`: its keeping is the last of them, where the file was not known before.
+/// `facts`: its keeping is the last of them, where the file was not known before. In the place of what a cut
+/// of power left comes what was to stand there.
 OriginalFact Originals::stoodFact(const FilePath& place, const Standing& standing,
                                   const std::vector<OriginalFact>& facts) const {
     if (!standing.file) return factOf(FactKind::added, place);
     const OriginalRecord& record = list_.records().of(place.relative());
     const auto ours = std::ranges::find(record.ours, standing.file->print, &OriginalFact::print);
-    OriginalFact fact = standing.unknown            ? facts.back()
+    const bool isKeptNow = standing.kept || (standing.unknown && !standing.isRemnant);
+    OriginalFact fact = isKeptNow                   ? facts.back()
                         : ours != record.ours.end() ? *ours
+                        : record.kept.empty()       ? record.ours.back()
                                                     : record.kept.back();
     fact.mode = standing.file->stamp.mode;
     return fact;
 }
 
-OriginalFact Originals::keep(const FilePath& place, const FileFingerprint& print,
-                             const QByteArray& contents) {
-    const FileStamp stamp = files_.stamp(place);
+OriginalFact Originals::keep(const FilePath& place, const SeenFile& file, const QByteArray& contents) const {
     OriginalFact kept = factOf(FactKind::kept, place);
-    kept.print = print;
-    kept.time = stamp.time;
-    kept.number = stamp.number;
-    kept.mode = stamp.mode;
+    kept.print = file.print;
+    kept.time = file.stamp.time;
+    kept.number = file.stamp.number;
+    kept.mode = file.stamp.mode;
     kept.where = keepCopy(place.relative(), contents);
     return kept;
 }
 
 /// A kept file is never written over: the next one of its path lies beside it, numbered. One of the same
 /// contents, which a kill or a restore left there without a fact, serves again.
-QString Originals::keepCopy(const QString& path, const QByteArray& contents) {
+QString Originals::keepCopy(const QString& path, const QByteArray& contents) const {
     for (int number = 1;; ++number) {
         const QString where = list_.prefix() + numbered(path, number);
         const FilePath copy = copyPlace(where);
-        const auto there = files_.readIfThere(copy);
-        if (!there) files_.write(copy, contents);
-        if (!there || *there == contents) return where;
+        if (files_.writeNew(copy, contents) || files_.readIfThere(copy) == contents) return where;
     }
 }
 
 /// Folders are made and looked up once for their thousands of files.
-FilePath Originals::copyPlace(const QString& where) {
-    const qsizetype end = where.lastIndexOf(u'\\');
-    const QString folder = where.left(std::max<qsizetype>(end, 0));
-    if (!copyFolders_.contains(folder)) {
-        files_.makeFolder(folder_ / folder);
-        copyFolders_.insert(folder, (folder_ / folder).resolved());
-    }
-    return copyFolders_.value(folder).exactChild(where.mid(end + 1));
+void Originals::makeCopyFolder(const QString& path) {
+    const QString folder = folderOf(list_.prefix() + path);
+    if (copyFolders_.contains(folder)) return;
+    files_.makeFolder(folder_ / folder);
+    copyFolders_.insert(folder, (folder_ / folder).resolved());
+}
+
+FilePath Originals::copyPlace(const QString& where) const {
+    return copyFolders_.value(folderOf(where)).exactChild(where.mid(where.lastIndexOf(u'\\') + 1));
 }
 
 FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& standing) {
@@ -187,7 +250,7 @@ FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& s
     std::vector<OriginalFact> facts;
     const bool isKnown =
         standing && isOursOrKept(place, standing->print) && isAsSeen(files_, place, standing);
-    note(place, isKnown ? Standing{standing, std::nullopt} : see(place), false, facts);
+    note(place, isKnown ? Standing{standing} : see(copy, place), false, facts);
     addKept(facts);
     return place;
 }
@@ -227,9 +290,16 @@ void Originals::settle() {
 /// bytes can tell.
 void Originals::settlePlaced() {
     const std::int64_t now = momentNow();
-    for (auto last = placed_.begin(); last != placed_.end(); ++last) {
-        if (!showsWritesFrom(now, last->time)) last->number = 0;
-        list_.records()[last.key()].ours = {*last};
+    for (OriginalFact last : std::as_const(placed_)) {
+        if (!showsWritesFrom(now, last.time)) last.number = 0;
+        OriginalRecord& record = list_.records()[last.path];
+        const FileFingerprint stood = stood_.value(last.path).print;
+        const bool isReplaced = record.isOurs(stood) && !(stood == last.print);
+        list_.records().apply(last);
+        if (isReplaced)
+            std::erase_if(record.ours, [&](const OriginalFact& fact) {
+                return !(fact.print == last.print || fact.print == stood);
+            });
     }
 }
 
@@ -269,7 +339,8 @@ const OriginalRecord& Originals::recordOf(const FilePath& target) {
 bool Originals::isOurs(const FilePath& target) {
     const FilePath place = find(target);
     const auto contents = files_.readIfThere(place);
-    return contents && list_.records().of(place.relative()).isOurs(fingerprintOf(*contents));
+    return contents && (list_.records().of(place.relative()).isOurs(fingerprintOf(*contents)) ||
+                        isRemnantOfKnown(place, *contents));
 }
 
 std::optional<FilePath> Originals::keptFile(const FilePath& target) {

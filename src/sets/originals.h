@@ -45,8 +45,8 @@ struct OriginalsReport {
 /// file that we put there, so that a file of ours is never taken for the pilot's, nor his for ours.
 ///
 /// A file is ours when a fact of the list says so and its bytes are those of the fact; without such a fact it
-/// is the pilot's, whatever its bytes. Facts are on the disk before what they speak of is done, so the worst
-/// that a kill leaves behind is a file that is kept once too often.
+/// is the pilot's, whatever its bytes, but for what a cut of power left of one. Facts are on the disk before
+/// what they speak of is done, so the worst that a kill leaves behind is a file that is kept once too often.
 class Originals {
 public:
     /// Raises when the list cannot be read, or when a newer version wrote it.
@@ -62,6 +62,12 @@ public:
     /// called after each copy's part.
     void prepare(
         const std::vector<FileCopy>& copies, const std::function<void()>& pump = [] {});
+    /// The same for files of the pilot's own: only what stands in their places is kept.
+    void keepAll(const std::vector<FileCopy>& copies);
+    /// A file of those contents there is ours or kept.
+    bool isKnown(const FilePath& target, const FileFingerprint& print) {
+        return isOursOrKept(find(target), print);
+    }
     /// Where that copy goes, in the spelling of the disk. Raises what kept it from being prepared: it must
     /// not be made then. A copy that was not prepared brings a file of the pilot's own; only what stands in
     /// its place is kept. `standing`: what was read there just now, where somebody has.
@@ -72,12 +78,12 @@ public:
     bool stands(const FileCopy& copy, const FilePath& place) const;
     /// Call it when the copy stands in its place.
     void notePlaced(const FileCopy& copy, const FilePath& place);
-    /// Call it after the last copy: the list is written anew, so that it does not grow with every flight, and
-    /// of what was put to one path only the last counts.
+    /// Call it after the last copy: the list is written anew, so that it does not grow with every flight. Of
+    /// what was put to one path the last counts, and what it replaced, which a cut of power may bring back.
     void settle();
 
-    /// What stood in the places of the prepared copies, as UndoRecord has it.
-    const std::vector<OriginalFact>& stood() const { return stood_; }
+    /// What stood in the places of the prepared copies, by path, as UndoRecord has it.
+    const QMap<QString, OriginalFact>& stood() const { return stood_; }
     /// Brings back what stood there: the pilot's files, ours from where they came or else from below `saved`,
     /// or nothing. What another hand changed since is left. As `restore` in the rest.
     OriginalsReport undo(
@@ -120,25 +126,32 @@ private:
     void respell();
     /// What stands in a place before a copy goes there.
     struct Standing {
-        std::optional<SeenFile> file;      ///< nothing where none is
-        std::optional<QByteArray> unknown; ///< the contents of one that is neither ours nor kept
+        std::optional<SeenFile> file = {};      ///< nothing where none is
+        std::optional<QByteArray> unknown = {}; ///< the contents of one that is neither ours nor kept
+        bool isRemnant = false;                 ///< that one is what a cut of power left
+        std::optional<OriginalFact> kept = {};  ///< that one has been kept
     };
     struct SeenCopy {
         FileFingerprint source;
         Standing target;
         std::optional<Error> sourceFailure, targetFailure;
     };
-    Standing see(const FilePath& place) const;
+    Standing see(const FileCopy& copy, const FilePath& place) const;
+    bool isRemnantOfKnown(const FilePath& place, const QByteArray& contents,
+                          const std::optional<FilePath>& source = {}) const;
     bool isOursOrKept(const FilePath& place, const FileFingerprint& print) const;
-    SeenCopy seeCopy(const FileCopy& copy, const FilePath& place) const;
-    void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen,
+    SeenCopy seeCopy(const FileCopy& copy, const FilePath& place, bool mayKeep) const;
+    std::vector<bool> mayKeepAhead(const std::vector<FilePath>& places);
+    void prepareAll(const std::vector<FileCopy>& copies, const std::function<void()>& pump, bool areOurs);
+    void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen, bool isOurs,
                      std::vector<OriginalFact>& facts);
     /// Adds what has to be noted before the file is replaced.
     void note(const FilePath& place, const Standing& standing, bool isForOurs,
               std::vector<OriginalFact>& facts);
-    OriginalFact keep(const FilePath& place, const FileFingerprint& print, const QByteArray& contents);
-    QString keepCopy(const QString& path, const QByteArray& contents);
-    FilePath copyPlace(const QString& where);
+    OriginalFact keep(const FilePath& place, const SeenFile& file, const QByteArray& contents) const;
+    QString keepCopy(const QString& path, const QByteArray& contents) const;
+    void makeCopyFolder(const QString& path);
+    FilePath copyPlace(const QString& where) const;
     void addKept(const std::vector<OriginalFact>& facts);
     OriginalFact factOf(FactKind kind, const FilePath& place) const;
 
@@ -171,6 +184,7 @@ private:
     /// What a file to be put back or taken away has been found to be.
     struct FoundFile {
         std::optional<SeenFile> standing = {}; ///< in its place
+        bool isOurs = false;                   ///< that is one of ours, or what a cut of power left
         bool isKeptSound = false;              ///< where the kept one has to come
         std::optional<Error> failure = {};
     };
@@ -187,11 +201,18 @@ private:
     void restoreKept(const KnownFile& file, const FoundFile& found, OriginalsReport& report);
     static unsigned modeAfter(const KnownFile& file, const FoundFile& found);
     void removeMadeFolders();
+    struct ReadFile {
+        SeenFile seen;
+        QByteArray contents;
+    };
+    /// What stands there and is neither ours nor kept.
+    std::optional<ReadFile> readUnknown(const FilePath& place) const;
     CheckedPlace check(const KnownFile& file, CheckDepth depth) const;
     PlaceState stateOf(const KnownFile& file, const FileStamp& stamp, CheckDepth depth) const;
     static PlaceState stateOfNothing(const OriginalRecord& record);
     static bool isUntouched(const OriginalFact& ours, const FileStamp& stamp);
     bool isKeptSound(const OriginalFact& kept, CheckDepth depth) const;
+    void forgetRestored();
 
     FileSystem& files_;
     FilePath simulator_, appPath_, folder_;
@@ -199,11 +220,12 @@ private:
     OriginalsList list_;
     DiskSpelling spelling_;
     QHash<QString, FileFingerprint> announced_; ///< by source
-    std::vector<OriginalFact> stood_;
-    QHash<QString, SeenFile> standing_;    ///< with the bytes of a copy that is to go there
-    QHash<QString, OriginalFact> placed_;  ///< the last of each path
-    QSet<QString> pilots_;                 ///< where his own was put
-    QHash<QString, Error> failures_;       ///< by source or by path of the target
+    QMap<QString, OriginalFact> stood_;         ///< before the copies, by path
+    QHash<QString, SeenFile> standing_;         ///< with the bytes of a copy that is to go there
+    QHash<QString, OriginalFact> placed_;       ///< the last of each path
+    QSet<QString> pilots_;                      ///< where his own was put
+    std::vector<FilePath> restored_;            ///< as they were before us, or gone as nothing was there
+    QHash<QString, Error> failures_;            ///< by source or by path of the target
     QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run
     QHash<QString, FilePath> copyFolders_; ///< made, by the folder below `folder_`
 };

@@ -64,20 +64,32 @@ bool Originals::isKeptSound(const OriginalFact& kept, CheckDepth depth) const {
     return stamp && stamp->size == kept.print.size;
 }
 
+std::optional<Originals::ReadFile> Originals::readUnknown(const FilePath& place) const {
+    const auto stamp = files_.stampIfThere(place);
+    const auto contents = stamp ? files_.readIfThere(place) : std::nullopt;
+    if (!contents) return std::nullopt;
+    const FileFingerprint print = fingerprintOf(*contents);
+    return isOursOrKept(place, print) ? std::nullopt : std::optional(ReadFile{{print, *stamp}, *contents});
+}
+
 bool Originals::takeAsPilots(const QString& path) {
     const FilePath place = spelling_.findExactly(path);
-    const Standing standing = see(place);
-    if (standing.unknown) addKept({keep(place, standing.file->print, *standing.unknown)});
-    return standing.unknown.has_value();
+    const auto unknown = readUnknown(place);
+    if (!unknown) return false;
+    makeCopyFolder(path);
+    addKept({keep(place, unknown->seen, unknown->contents)});
+    return true;
 }
 
 bool Originals::putPilotsBack(const QString& path) {
     const FilePath place = spelling_.findExactly(path);
     const OriginalRecord record = list_.records().of(path);
     if (record.kept.empty() || !isSound(record.kept.back())) return false;
-    const Standing standing = see(place);
-    if (standing.unknown) files_.makeDurable({copyPlace(keepCopy(path, *standing.unknown))});
-    giveBack({place, record}, {.standing = standing.file});
+    makeCopyFolder(path);
+    if (const auto unknown = readUnknown(place))
+        files_.makeDurable({copyPlace(keepCopy(path, unknown->contents))});
+    giveBack({place, record}, {.standing = seeFile(files_, place)});
+    forgetRestored();
     return true;
 }
 

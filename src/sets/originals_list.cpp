@@ -26,10 +26,13 @@ void OriginalsList::add(const std::vector<OriginalFact>& facts) {
     outlastACut(facts);
 }
 
-/// Before any file is replaced that they speak of.
+/// What stood in a place before us is told nowhere else, so it is on the disk before any file is replaced.
+/// What we put there can be told by its contents.
 void OriginalsList::outlastACut(const std::vector<OriginalFact>& facts) {
-    const auto isOfKept = [](const OriginalFact& fact) { return fact.kind == FactKind::kept; };
-    if (std::ranges::any_of(facts, isOfKept)) files_.makeDurable({file(originalsListName)});
+    const auto isOfBefore = [](const OriginalFact& fact) {
+        return fact.kind == FactKind::kept || fact.kind == FactKind::added || fact.kind == FactKind::folder;
+    };
+    if (std::ranges::any_of(facts, isOfBefore)) files_.makeDurable({file(originalsListName)});
 }
 
 void OriginalsList::append(const std::vector<OriginalFact>& facts) {
@@ -48,7 +51,7 @@ void OriginalsList::rename(const QString& from, const QString& to) {
 void OriginalsList::write() {
     const FilePath list = file(originalsListName);
     files_.makeFolder(list.parent());
-    if (!left_.isEmpty()) files_.write(file(leftListName), left_);
+    if (!left_.isEmpty()) writeDurably(files_, file(leftListName), left_);
     left_.clear();
     QByteArray text = headLine(simulator_.native(), files_.stamp(simulator_).number);
     for (const OriginalRecord& record : records_.all())

@@ -17,8 +17,8 @@ public:
     /// Where this simulator's files are kept, below "Backup\Originals": see OriginalsChoice.
     const QString& prefix() const { return prefix_; }
 
-    /// Notes the facts and hands them to the system before it returns. What they say of kept files is on the
-    /// disk then: those have to be there already.
+    /// Notes the facts and hands them to the system before it returns. What they say of what stood there
+    /// before us is on the disk then: kept files have to be there already.
     void add(const std::vector<OriginalFact>& facts);
     /// A file goes by another spelling now. In memory; the next write is of the whole list.
     void rename(const QString& from, const QString& to);

@@ -29,7 +29,7 @@ OriginalsReport Originals::restore(const std::function<void(double)>& progress) 
         progress(++done / static_cast<double>(known.size()));
     }
     failure.attempt([&] { removeMadeFolders(); });
-    if (!known.empty()) failure.attempt([&] { list_.write(); });
+    if (!known.empty()) failure.attempt([&] { forgetRestored(); });
     report.failure = failure.error();
     return report;
 }
@@ -59,6 +59,10 @@ Originals::FoundFile Originals::lookAt(const KnownFile& file) const {
     if (file.record.madeFolder) return found;
     found.failure = failureOf([&] {
         found.standing = seeFile(files_, file.place);
+        const bool isKept = found.standing && file.record.isKept(found.standing->print);
+        found.isOurs = found.standing && file.record.isOurs(found.standing->print);
+        if (found.standing && !isKept && !found.isOurs)
+            found.isOurs = isRemnantOfKnown(file.place, files_.read(file.place));
         if (file.record.kept.empty()) return;
         const OriginalFact& kept = file.record.kept.back();
         const bool stands = found.standing && found.standing->print == kept.print;
@@ -76,25 +80,24 @@ void Originals::restoreFile(const KnownFile& file, const FoundFile& ahead, Origi
     const FoundFile found = holds ? ahead : lookAt(file);
     if (found.failure) throw *found.failure;
     if (!record.kept.empty()) return restoreKept(file, found, report);
-    const bool isOurs = found.standing && record.isOurs(found.standing->print);
-    const bool isLeft = record.added ? found.standing && !isOurs : isOurs;
+    const bool isLeft = record.added ? found.standing && !found.isOurs : found.isOurs;
     if (isLeft) { // of what lists of old call ours it is not known what stood there before
         report.left << place.relative();
         return;
     }
-    if (isOurs) {
+    if (found.isOurs) {
         takeReadOnlyMark(place);
         files_.remove(place);
         ++report.takenAway;
     }
-    list_.add({factOf(FactKind::gone, place)});
+    restored_.push_back(place);
 }
 
 void Originals::restoreKept(const KnownFile& file, const FoundFile& found, OriginalsReport& report) {
     const auto& [place, record] = file;
     const OriginalFact& kept = record.kept.back();
     const bool stands = found.standing && found.standing->print == kept.print;
-    if (found.standing && !stands && !record.isOurs(found.standing->print)) {
+    if (found.standing && !stands && !found.isOurs) {
         report.left << place.relative();
         return;
     }
@@ -115,7 +118,15 @@ void Originals::giveBack(const KnownFile& file, const FoundFile& found) {
         replaceFile(files_, folder_ / kept.where, place);
     }
     if (mode && files_.stamp(place).mode != mode) files_.setMode(place, mode);
-    list_.add({factOf(FactKind::gone, place)});
+    restored_.push_back(place);
+}
+
+/// Only when it is on the disk as it was before us: a cut of power may bring ours back until then.
+void Originals::forgetRestored() {
+    files_.makeDurable(restored_);
+    for (const FilePath& place : std::exchange(restored_, {}))
+        list_.records().apply(factOf(FactKind::gone, place));
+    list_.write();
 }
 
 /// The mode that the pilot's file had: as it was when it was kept, or when we took its mark away. A mark that

@@ -94,8 +94,13 @@ void Originals::giveModeBack(const StoodPlace& stoodPlace) {
     if (stood.mode && files_.stamp(place).mode != stood.mode) files_.setMode(place, stood.mode);
 }
 
-/// What is known of the places is as before the step: no fact speaks of its copies any more.
+/// What is known of the places is as before the step: no fact speaks of its copies any more. Only when they
+/// are so on the disk: a cut of power may bring the copies back until then.
 void Originals::settleUndone(const std::vector<OriginalFact>& undone) {
+    std::vector<FilePath> places;
+    for (const OriginalFact& stood : undone)
+        places.push_back(spelling_.findExactly(stood.path));
+    files_.makeDurable(places);
     settlePlaced();
     OriginalRecords& records = list_.records();
     for (const OriginalFact& stood : undone) {

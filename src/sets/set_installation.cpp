@@ -106,9 +106,9 @@ void SetInstallation::copyAll(SimulatorCopier& copier, const std::vector<FileCop
 }
 
 void SetInstallation::finish(SimulatorCopier& copier) {
-    copier.finish();
     session_.user.updateProgress({}, {}, 100);
     session_.user.hideMessage();
+    copier.finish(); // may wait for the disk, which is nobody else's concern
 }
 
 void SetInstallation::putSet(const QString& coverWord, const std::vector<FileCopy>& copies) {

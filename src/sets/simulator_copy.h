@@ -21,6 +21,11 @@ public:
     void prepare(const std::vector<FileCopy>& copies);
     /// The first half alone, where the files are the pilot's own.
     void clearStrays(const std::vector<FileCopy>& copies);
+    /// Keeps what stands in the places of such files, unless it is known.
+    void keepAll(const std::vector<FileCopy>& copies) { originals_.keepAll(copies); }
+    bool isKnown(const FileCopy& copy, const FileFingerprint& standing) {
+        return originals_.isKnown(copy.target, standing);
+    }
     /// The other half alone, for a file of ours among those.
     void announce(const FileCopy& copy) { originals_.prepare({copy}); }
     /// Something stands where the copy will go.

@@ -78,11 +78,12 @@ void BackupList::write(Session& session, const QString& name) const {
 }
 
 void BackupList::writeOurs(Session& session, const QString& name) const {
-    if (!oursText_.isEmpty()) session.files.write(oursFile(session, name), oursText_.toUtf8());
+    if (!oursText_.isEmpty()) writeDurably(session.files, oursFile(session, name), oursText_.toUtf8());
 }
 
 void BackupList::markFirstRun(Session& session, const QString& name) {
-    session.files.write(listFile(session, name), firstRunMark.toUtf8());
+    writeDurably(session.files, listFile(session, name),
+                 firstRunMark.toUtf8()); // torn it would say "complete"
 }
 
 /// Without a list it is a partial one, too.

@@ -9,6 +9,8 @@
 #include "simulator/backups.h"
 #include "simulator/checked_copies.h"
 
+#include <deque>
+
 namespace morvane {
 
 namespace {
@@ -34,26 +36,44 @@ int RestoreReport::*putBack(Session& session, SimulatorCopier& copier, const Fil
     return isReadOnly ? &RestoreReport::readOnly : &RestoreReport::failed;
 }
 
+/// A sound file of the backup that does not stand yet; of the others the report has the number.
+std::optional<CheckedFile> fileToCome(const BackupList& list, const FileCopy& copy,
+                                      const std::optional<CheckedFile>& source, RestoreReport& report) {
+    if (!source)
+        ++report.failed;
+    else if (list.isDamaged(copy.source, source->print))
+        ++report.damaged;
+    else if (source->stands())
+        ++report.standing;
+    else
+        return source;
+    return std::nullopt;
+}
+
+/// In two rounds, so that the disk is waited for once: what stands there is kept before the first file comes.
 RestoreReport copyBack(Session& session, const QString& name) {
     const std::vector<FileCopy> copies = texturesOf(session, name);
     const BackupList list = BackupList::readIfReadable(session, name);
     forgetLastStep(session); // what it speaks of is replaced
     SimulatorCopier copier(session);
     copier.clearStrays(copies);
-    CheckAhead sources(copies);
     RestoreReport report;
-    CopyWalk(session, copies, 1).round(nullptr, [&](const FileCopy& copy) {
-        const std::optional<CheckedFile> source = sources.next();
-        if (!source)
-            ++report.failed;
-        else if (list.isDamaged(copy.source, source->print))
-            ++report.damaged;
-        else if (source->stands())
-            ++report.standing;
-        else
-            ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, source->print), *source));
+    CheckAhead sources(copies);
+    CopyWalk walk(session, copies, 2);
+    std::deque<std::optional<CheckedFile>> toCome;
+    std::vector<FileCopy> overUnknown;
+    walk.round(nullptr, [&](const FileCopy& copy) {
+        const auto& file = toCome.emplace_back(fileToCome(list, copy, sources.next(), report));
+        if (file && file->there && !copier.isKnown(copy, file->there->print)) overUnknown.push_back(copy);
     });
-    copier.finish();
+    copier.keepAll(overUnknown);
+    walk.round(nullptr, [&](const FileCopy& copy) {
+        const std::optional<CheckedFile> file = std::move(toCome.front());
+        toCome.pop_front();
+        if (file) ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, file->print), *file));
+    });
+    session.user.hideMessage();
+    copier.finish(); // may wait for the disk
     return report;
 }
 

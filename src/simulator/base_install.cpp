@@ -81,7 +81,8 @@ int copyEach(Session& session, const std::vector<FileCopy>& copies) {
         count += attempt([&] { copier.copyOverReadOnly(copy); });
     });
     if (!isWhole) throw Error(ErrorCode::interrupted);
-    copier.finish();
+    session.user.hideMessage();
+    copier.finish(); // may wait for the disk
     return count;
 }
 

@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QSet>
 #include <QStringList>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -25,16 +26,24 @@ struct InstallFile {
 /// by a tab. It is written whole before the first file is replaced and goes after the last one is back, so
 /// every moment in between can be undone: a file is either still in its place or lies here. One that lies
 /// here is never replaced, or the next import would keep what the last one brought.
+///
+/// A move is not safe from a cut of power, which may take it from the one folder and not bring it to the
+/// other. So a copy is on the disk wherever a file is to be moved to, before the list is or the first one
+/// moves.
 class KeptStock {
 public:
     KeptStock(FileSystem& files, const FilePath& appPath);
 
     bool isEmpty() const { return facts_.isEmpty(); }
-    /// Notes the files in the list. Only now may they be replaced.
-    void announce(const std::vector<InstallFile>& files);
+    /// Copies what will be replaced and notes the files in the list. Only now may they be replaced. `pump` is
+    /// called after each file.
+    void announce(
+        const std::vector<InstallFile>& files, const std::function<void()>& pump = [] {});
     /// Puts `part`, a file of the same drive, in the place of an announced file and keeps that one. Where
     /// that fails the file stands as before.
     void replace(const InstallFile& file, const FilePath& part);
+    /// After the last one: of what was announced and not replaced nothing is kept.
+    void forgetUnused();
     /// Where the delivered file of that path lies: here once an import has replaced it, else in its place.
     /// Nothing where an import brings a file for which none was delivered.
     std::optional<FilePath> deliveredPlace(const QString& path) const;
@@ -51,7 +60,9 @@ private:
     void load();
     void loadKept(const QString& folder);
     void add(const QString& path, bool wasThere);
-    bool putBack(const Fact& fact);
+    void copyFirst(const std::vector<InstallFile>& files, const std::function<void()>& pump);
+    void writeList();
+    std::optional<FilePath> copyBack(const Fact& fact);
     void forget();
     FilePath placeOf(const FilePath& root, const InstallFile& file);
 
@@ -59,6 +70,8 @@ private:
     FilePath appPath_, keptPath_, listFile_;
     QMap<QString, Fact> facts_; ///< by path without regard to case
     QSet<QString> kept_;        ///< paths of what lies here, alike
+    QSet<QString> copied_;      ///< of those the ones that are to be moved here
+    bool isAhead_ = false;      ///< the list tells of files that do not lie here
     QHash<QString, FilePath> folders_;
 };
 

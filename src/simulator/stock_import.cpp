@@ -62,6 +62,7 @@ public:
             announce();
             bringWhatCanBeHad();
             attempt([&] { clearParts(); });
+            attempt([&] { kept_.forgetUnused(); });
             if (report_.files == 0 && wasEmpty) attempt([&] { kept_.restore(); }); // no import stands
         }
         report_.categories = std::move(plan_.categories);
@@ -79,7 +80,7 @@ private:
             folders_.insert(folder, (session_.AppPath / folder).resolved());
         }
         clearParts();
-        kept_.announce(targets);
+        kept_.announce(targets, [this] { session_.user.pumpMessages(); });
     }
 
     /// Of files that were made ahead of a cancel, or of a run that died.

@@ -74,6 +74,24 @@ struct FileSizeLimit {
 };
 
 /// The message speaks of the file that was to be, and nothing but that file is there.
+TEST(NativeFileSystem, makesAFileOnlyWhereNoneIsAndFlushesWhatIsGoneToo) {
+    const TemporaryFolder folder;
+    NativeFileSystem files;
+    const FilePath inside = folder / u"new Ü\\newer", file = inside / u"a.bmp";
+    files.makeFolder(inside);
+    EXPECT_TRUE(files.writeNew(file, "the first"));
+    EXPECT_FALSE(files.writeNew(file, "another"));
+    EXPECT_EQ(readFile(file), "the first");
+    files.setReadOnly(file, true);
+    files.makeFolder(folder / u"passing Ü\\inner");
+    files.removeFolder(folder / u"passing Ü\\inner");
+    files.removeFolder(folder / u"passing Ü");
+    EXPECT_NO_THROW(files.makeDurable({file, folder / u"passing Ü\\inner\\gone.bmp"}));
+    EXPECT_NO_THROW(files.makeDurable(std::vector(20, folder / u"passing Ü\\inner\\gone.bmp")));
+    EXPECT_TRUE(files.isReadOnly(file));
+    EXPECT_THROW(files.writeNew(folder / u"none\\a.bmp", "a"), Error);
+}
+
 TEST(NativeFileSystem, aFailedWriteLeavesNothingAndNamesTheFile) {
     TemporaryFolder folder;
     NativeFileSystem files;

@@ -7,6 +7,7 @@
 #include "support/system_files.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <functional>
@@ -69,11 +70,15 @@ TEST_F(OriginalsTest, aFileIsKeptOnceWithAllThatIsKnownOfIt) {
               u"a9993e364706816aba3e25717850c26c9cd0d89d 3"_s);
     EXPECT_TRUE(kept.day == today && kept.mode == modeHere(0640));
     EXPECT_EQ(readFile(keptFiles / kept.copy), "abc");
-    // What stands there now is known, too, as later checks of the simulator need it.
-    const OriginalFact ours = originals().records().of(a).ours.at(0);
+    // What stands there now is known, too, and the copy before, which a cut of power may bring back.
+    ASSERT_EQ(originals().records().of(a).ours.size(), 2U);
+    const OriginalFact ours = originals().records().of(a).ours.back();
     const FileStamp stamp = files.stamp(target(a));
     EXPECT_EQ(ours.where, u"ours.bmp"_s);
     EXPECT_TRUE(ours.time == stamp.time && ours.number == stamp.number && ours.print.size == stamp.size);
+    // Two lines in one, as the blocks between them did not come to the disk.
+    files.append(listFile, "gone\t\t\t\t" + QByteArray(9, '\0') + "\t\t\t\t" + a.toUtf8() + '\n');
+    EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
 }
 
 /// Changed by another hand since ours, a file is kept beside the first; the youngest comes back. A path that
@@ -91,6 +96,31 @@ TEST_F(OriginalsTest, aLaterFileOfThePilotsIsKeptBesideTheFirst) {
     EXPECT_EQ(contents(a), "the third");
     EXPECT_EQ(keptPaths(), QStringList());
     EXPECT_EQ(readFile(keptFiles / u"Texture\\a (3).bmp"), "the third"); // kept files themselves always stay
+}
+
+/// What a cut of power left of a copy of ours is no file of the pilot's: no restore brings it back, before or
+/// after the next install. One byte of another hand makes it his.
+TEST_F(OriginalsTest, aRemnantOfOursIsNoFileOfThePilots) {
+    const std::pair<QByteArray, bool> cases[] = {{"", false},
+                                                 {QByteArray(6, '\0'), false},
+                                                 {QByteArray("ours\0\0", 6), false},
+                                                 {"our", false},
+                                                 {"ours, ", false},
+                                                 {QByteArray(400, '\0'), true},
+                                                 {QByteArray("oUrs\0\0", 6), true},
+                                                 {"ours, new or not", true}};
+    for (const auto& [left, isPilots] : cases)
+        for (const bool isInstalledAgain : {true, false}) {
+            writeFile(target(a), "the first");
+            install("ours, new", {a});
+            writeFile(target(a), left);
+            if (isInstalledAgain) install("ours, new", {a}, false);
+            const auto report = originals().restore();
+            EXPECT_EQ(report.left.size(), isPilots && !isInstalledAgain) << left.toStdString();
+            EXPECT_EQ(contents(a), isPilots ? left : "the first") << left.toStdString();
+            EXPECT_EQ(contentsBelow(keptFiles).values().contains(left), isInstalledAgain);
+            QDir(keptFiles.native()).removeRecursively();
+        }
 }
 
 /// A copy is spared where its bytes stand already, unless they have come to be others since they were read,

@@ -2,7 +2,7 @@
 
 #include "support/temporary_folder.h"
 
-#include <QFile>
+#include <QDir>
 #include <random>
 
 namespace morvane::test {
@@ -61,6 +61,26 @@ void FaultyFileSystem::takeRoom(const FilePath& file, qint64 size) {
     room_ -= size;
 }
 
+void FaultyFileSystem::killAtChange(int n) {
+    killAt(0);
+    isWatching_ = true;
+    unsaved_.clear();
+    unsavedFolders_.clear();
+    changes_ = 0;
+    cutAt_ = n;
+}
+
+void FaultyFileSystem::beginChange(const FilePath& file) {
+    if (cutAt_ > 0 && ++changes_ >= cutAt_) fail(ErrorCode::ioFailure, file);
+    remember(file);
+}
+
+FileSystem& FaultyFileSystem::change(const FilePath& file) {
+    FileSystem& real = act(file);
+    beginChange(file);
+    return real;
+}
+
 /// Before the first change since it was durable.
 void FaultyFileSystem::remember(const FilePath& file) {
     if (!isWatching_) return;
@@ -75,25 +95,52 @@ void FaultyFileSystem::noteContents(const FilePath& file, const FilePath* source
     unsaved_[file.native()].hasContents = source && unsaved_[source->native()].hasContents;
 }
 
+void FaultyFileSystem::makeFolder(const FilePath& folder) {
+    std::set<QString> made;
+    for (QString name = folder.native(); isWatching_ && !QFileInfo::exists(name);
+         name = QFileInfo(name).path())
+        made.insert(name);
+    (made.empty() ? act(folder) : change(folder)).makeFolder(folder);
+    const std::lock_guard lock(mutex_);
+    unsaved_.erase(folder.native());
+    unsavedFolders_.merge(made);
+}
+
 /// Not the real one: a test's disk need not outlast a cut.
 void FaultyFileSystem::makeDurable(const std::vector<FilePath>& files) {
     if (files.empty()) return;
     act(files.front());
     const std::lock_guard lock(mutex_);
-    for (const FilePath& file : files)
+    for (const FilePath& file : files) {
         unsaved_.erase(file.native());
+        std::erase_if(unsavedFolders_,
+                      [&](const QString& folder) { return file.native().startsWith(folder + u'/'); });
+    }
 }
+
+namespace {
+
+/// The blocks that were not written yet are missing or zero; what was there before the end grew is there.
+QByteArray torn(const QByteArray& now, const QByteArray& before, unsigned draw) {
+    const qsizetype sound = now.startsWith(before) ? before.size() : 0;
+    const qsizetype written = sound + (draw % 2) * (now.size() - sound) / 2;
+    return now.first(written) + QByteArray(draw / 2 % 2 ? now.size() - written : 0, '\0');
+}
+
+} // namespace
 
 void FaultyFileSystem::cutPower(unsigned seed) {
     std::mt19937 random(seed);
     for (const auto& [name, unsaved] : unsaved_) {
-        const unsigned fate = random() % 3;
-        QFile file(name);
-        if (fate == 0 && !unsaved.before) file.remove();
-        if (fate == 0 && unsaved.before) writeFile(FilePath(name), *unsaved.before);
-        if (fate == 1 && !unsaved.hasContents && file.exists()) file.resize(0);
+        const unsigned fate = random() % 3, tear = static_cast<unsigned>(random());
+        const QByteArray before = unsaved.before.value_or(QByteArray());
+        if (fate == 0 && !unsaved.before) QFile::remove(name);
+        if (fate == 0 && unsaved.before) writeFile(FilePath(name), before);
+        if (fate == 1 && !unsaved.hasContents && QFileInfo::exists(name))
+            writeFile(FilePath(name), torn(readFile(FilePath(name)), before, tear));
     }
-    unsaved_.clear();
+    for (const QString& folder : unsavedFolders_)
+        if (random() % 8 == 0) QDir(folder).removeRecursively();
     isWatching_ = false;
 }
 
@@ -105,7 +152,7 @@ void FaultyFileSystem::copyContents(const FilePath& source, const FilePath& targ
         fail(ErrorCode::diskFull, target);
     }
     if (room_ >= 0 && real_.exists(source)) takeRoom(target, real_.size(source));
-    remember(target);
+    beginChange(target);
     real_.copyContents(source, target);
     noteContents(target);
 }

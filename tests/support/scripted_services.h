@@ -9,6 +9,7 @@
 #include <deque>
 #include <map>
 #include <mutex>
+#include <set>
 #include <vector>
 
 namespace morvane::test {
@@ -42,16 +43,18 @@ public:
     /// Counted from 1 and from now; 0 means never. `forever`: all later ones fail, too.
     void failAt(int n, bool forever);
     /// Nothing fails any more; what has failed is still told.
-    void heal() { failing_ = 0; }
+    void heal() { failing_ = cutAt_ = 0; }
     /// From now on so many bytes can be written; a file that needs more fails as on a full disk. Below 0, as
     /// at first, the disk has room for everything.
     void leaveRoom(qint64 bytes) { room_ = bytes; }
     /// The n-th operation from now on, and all later ones, end the run with Killed; half of a copy is there.
     void killAt(int n);
-    /// From now on the disk keeps in mind what was not made durable.
-    void watchDurability() { isWatching_ = true; }
-    /// Of each file that was changed and not made durable what stood there before, the new name with nothing
-    /// behind it, or what stands there now: any of them may be found after a cut of power.
+    /// From now on the disk keeps in mind what was not made durable, and the n-th change on it and all later
+    /// operations end the run with Killed: what only reads makes no moment of its own.
+    void killAtChange(int n);
+    /// Of each name that was changed and not made durable what stood there before, what stands there now, or
+    /// that torn; of a folder that was made, nothing: any of them may be found after a cut of power. Cut once
+    /// more, with the tree as it was before, it may be another one.
     void cutPower(unsigned seed);
     /// What the disk says it has free; below 0 the truth.
     qint64 toldFree = -1;
@@ -70,19 +73,15 @@ public:
     int namelessFiles(const FilePath& folder, const QString& ending) override {
         return act(folder).namelessFiles(folder, ending);
     }
-    void makeFolder(const FilePath& folder) override { act(folder).makeFolder(folder); }
+    void makeFolder(const FilePath& folder) override;
     void copyContents(const FilePath& source, const FilePath& target) override;
     void rename(const FilePath& source, const FilePath& target) override {
-        FileSystem& real = act(target);
+        FileSystem& real = change(target);
         remember(source);
-        remember(target);
         real.rename(source, target);
         noteContents(target, &source);
     }
-    void remove(const FilePath& file) override {
-        remember(file);
-        act(file).remove(file);
-    }
+    void remove(const FilePath& file) override { change(file).remove(file); }
     void removeFolder(const FilePath& folder) override { act(folder).removeFolder(folder); }
     bool isReadOnly(const FilePath& file) override { return act(file).isReadOnly(file); }
     void setReadOnly(const FilePath& file, bool readOnly) override { act(file).setReadOnly(file, readOnly); }
@@ -98,16 +97,19 @@ public:
     QByteArray read(const FilePath& file) override { return act(file).read(file); }
     void write(const FilePath& file, const QByteArray& contents) override {
         takeRoom(file, contents.size());
-        FileSystem& real = act(file);
-        remember(file);
-        real.write(file, contents);
+        change(file).write(file, contents);
         noteContents(file);
+    }
+    bool writeNew(const FilePath& file, const QByteArray& contents) override {
+        takeRoom(file, contents.size());
+        const bool isMade = change(file).writeNew(file, contents);
+        if (isMade) noteContents(file);
+        return isMade;
     }
     void append(const FilePath& file, const QByteArray& contents) override {
         takeRoom(file, contents.size());
-        FileSystem& real = act(file);
-        remember(file);
-        real.append(file, contents);
+        change(file).append(file, contents);
+        noteContents(file);
     }
     /// Not the real one: a test's disk need not outlast a cut.
     void makeDurable(const std::vector<FilePath>& files) override;
@@ -119,6 +121,9 @@ private:
     bool test();
     /// The real file system, unless this operation is one to fail.
     FileSystem& act(const FilePath& path);
+    /// One that changes what goes by that name.
+    void beginChange(const FilePath& file);
+    FileSystem& change(const FilePath& file);
     void takeRoom(const FilePath& file, qint64 size);
     void remember(const FilePath& file);
     /// As much on the disk as those of `source`; without one not at all.
@@ -132,6 +137,9 @@ private:
     bool isWatching_ = false;
     std::mutex mutex_;
     std::map<QString, Unsaved> unsaved_;
+    std::set<QString> unsavedFolders_;
+    std::atomic<int> changes_ = 0;
+    int cutAt_ = 0;
     // Several threads of a job work with the same files.
     std::atomic<qint64> room_ = -1;
     std::atomic<int> operations_ = 0;

@@ -25,6 +25,7 @@ void ScriptedUser::updateProgress(const QString&, const QString& text, double va
 
 void ScriptedUser::hideMessage() {
     calls << u"hide message"_s;
+    onHide();
     messageVisible_ = false;
 }
 

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int leftEdge = 26, right = 356, rightEdge = 674, firstLine = 105, pitch = 22, keyRow = 443;
 
-/// The rows at the leftEdge, in their order.
+/// The rows at the left, in their order.
 enum CountedFiles : std::size_t { oursRow, ownRow, changedRow, missingRow, keptRow };
 
 QString dayText(std::int64_t nanoseconds) {
@@ -123,7 +123,7 @@ void frm_InSimulator::addList() {
     chkAll_->setGeometry(leftEdge + 6, 248, 18, 16);
     connect(chkAll_, &QCheckBox::clicked, this,
             [this] { lstFiles_->checkAll(lstFiles_->checkedKeys().size() < lstFiles_->rowCount()); });
-    lblNothing_ = makeLabel(this, u"Everything is as Morvane leftEdge it."_s, {leftEdge, 244, 648, 22},
+    lblNothing_ = makeLabel(this, u"Everything is as Morvane left it."_s, {leftEdge, 244, 648, 22},
                             TextRole::value);
     lblNothing_->setObjectName(u"lblNothing"_s);
     makeLabel(
@@ -234,7 +234,7 @@ void frm_InSimulator::fillList() {
             const qsizetype end = place.path.lastIndexOf(u'\\');
             const QStringList texts{{},
                                     place.path.mid(end + 1),
-                                    place.path.leftEdge(std::max<qsizetype>(end, 0)),
+                                    place.path.left(std::max<qsizetype>(end, 0)),
                                     happenedText(place),
                                     keptText(place)};
             lstFiles_->addRow({place.path, texts, texts});
