@@ -75,7 +75,8 @@ TEST_F(OriginalsTest, aFileIsKeptOnceWithAllThatIsKnownOfIt) {
     const OriginalFact ours = originals().records().of(a).ours.back();
     const FileStamp stamp = files.stamp(target(a));
     EXPECT_EQ(ours.where, u"ours.bmp"_s);
-    EXPECT_TRUE(ours.time == stamp.time && ours.number == stamp.number && ours.print.size == stamp.size);
+    EXPECT_TRUE(ours.time == stamp.time && ours.print.size == stamp.size);
+    EXPECT_EQ(ours.number, 0U) << "a write in the same moment would not show";
     // Two lines in one, as the blocks between them did not come to the disk.
     files.append(listFile, "gone\t\t\t\t" + QByteArray(9, '\0') + "\t\t\t\t" + a.toUtf8() + '\n');
     EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
