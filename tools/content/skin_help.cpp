@@ -80,7 +80,8 @@ a set under a name of your choice; the new set is in the list of sets.</p>
 <h2 id="pages">What each page does</h2>
 <h3>System Status</h3>
 <p>How many sets you have for each cover and how many of them are active, what is in the simulator now, which base
-textures are installed and when you made the last backup.</p>
+textures are installed and when you made the last backup. <b>Check files</b> tells whether the simulator's files are as
+Morvane and you left them; <b>Undo Last Install</b> takes the last install back.</p>
 <h3>Ground Color, Sky Color, Night Color</h3>
 <p>The sets of ground, sky and night pictures. <b>Manage Sets</b> lists them, <b>Colorize</b> makes new colours,
 <b>Back</b> leads to the main window.</p>
@@ -101,11 +102,14 @@ sets.</p>
 <p>The version of the program, for questions about it.</p>
 
 <h2 id="originals">Getting your own textures back</h2>
-<p>Morvane keeps a copy of every file of the simulator before it replaces that file. To put all of them back, and
-to take away what Morvane added, close Morvane, open a terminal and enter</p>
-<p><code>morvane-cli originals restore</code></p>
-<p>The command <code>morvane-cli originals list</code> shows which files are kept. They lie in the folder
-<code>Backup/Originals</code> of the install folder; leave them there.</p>
+<p>Morvane keeps a copy of every file of the simulator before it replaces that file.</p>
+<ul>
+<li>The last install alone: <b>Undo Last Install</b> on the first page.</li>
+<li>All of them, as before Morvane's first copy: <b>Base Install</b>, <b>Put my own textures back</b>.</li>
+<li>One by one, where another program changed something: <b>Check files</b> on the first page.</li>
+</ul>
+<p>At the console: <code>morvane-cli undo</code>, <code>originals restore</code> and <code>verify</code>. The kept files
+lie in the folder <code>Backup/Originals</code> of the install folder; leave them there.</p>
 <p>A <b>backup</b> is something else: a copy of the simulator's base files, made when you ask for it on the page
 <b>Base Install</b>. You may keep several, each with its date, and restore any of them on the same page.</p>
 
