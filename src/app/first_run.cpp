@@ -7,6 +7,7 @@
 #include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
 #include "sets/simulator_copy.h"
+#include "sets/simulator_note.h"
 #include "simulator/backup_files.h"
 #include "simulator/flights.h"
 
@@ -48,9 +49,11 @@ void doFirstRun(Session& session) {
     // Two programs that are started at once make one first backup. Who comes second need not wait for it.
     const Writing writing(session, Writing::Waiting::none);
     if (!writing || !isFirstTime()) return;
+    const bool isClaimed =
+        claimSimulator(session); // else another's textures would be backed up as the pilot's
     // Each is told for itself, costs none of the others, and is no reason not to start.
     reportFailures(session.user, morvaneError, [&] { keepSimulatorSplash(session); });
-    if (!session.state<OptionsInForce>().IsWideClient)
+    if (isClaimed && !session.state<OptionsInForce>().IsWideClient)
         reportFailures(session.user, morvaneError, [&] { copyDeliveredFlights(session); });
     const std::optional<BackupReport> backup = createBackup(session, true);
     session.user.hideMessage();

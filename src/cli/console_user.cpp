@@ -16,9 +16,9 @@ void print(const QString& text) {
 
 /// A No to one of these leaves nothing of the command; the other questions are about something beside it.
 bool isWholeCommand(const UserAnswers& asked) {
-    static constexpr Question deciding[] = {Question::setAction, Question::confirmDelete,
-                                            Question::skyAction, Question::installMatchingSets,
-                                            Question::backup,    Question::undoInstall};
+    static constexpr Question deciding[] = {
+        Question::setAction, Question::confirmDelete, Question::skyAction, Question::installMatchingSets,
+        Question::backup,    Question::undoInstall,   Question::takeOver};
     return std::ranges::any_of(deciding, [&](Question question) { return asked.isPending(question); });
 }
 

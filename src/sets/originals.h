@@ -112,6 +112,10 @@ public:
     /// does not keep the others from it. `progress` is called with a part of 1 after each file.
     OriginalsReport restore(const std::function<void(double)>& progress = [](double) {});
 
+    /// Takes over what the install in that folder knows of this simulator: its facts, and copies of the files
+    /// it kept that are whole. Nothing where its list cannot be read.
+    void adopt(const FilePath& install);
+
     /// What stands in every place where a file of ours was put or the pilot's was kept. `progress` as above.
     std::vector<CheckedPlace> check(
         CheckDepth depth, const std::function<void(double)>& progress = [](double) {});

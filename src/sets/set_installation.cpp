@@ -3,6 +3,7 @@
 #include "core/failure_report.h"
 #include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
+#include "sets/simulator_note.h"
 #include "sets/undo_step.h"
 
 namespace morvane {
@@ -35,7 +36,7 @@ SetInstallation::Outcome SetInstallation::run(Job& job, bool isByHand) {
     reportFailures(session_.user, morvaneError, [&] {
         UndoStep step(session_); // with the match
         if (isByHand && !prepareByHand(job)) return;
-        if (!job.begin()) return;
+        if (!job.begin() || !claimSimulator(session_)) return;
         const QString name = set_.inHand(session_).name;
         step.add(set_.facts.word + u" set "_s + name);
         outcome = installSet(name) ? Outcome::installed : Outcome::storeRefused;

@@ -2,6 +2,7 @@
 
 #include "core/error.h"
 #include "core/safe_copy.h"
+#include "sets/simulator_note.h"
 #include "sets/undo_step.h"
 
 #include <QSet>
@@ -19,6 +20,7 @@ void endWithSession(const Session& session) {
 SimulatorCopier::SimulatorCopier(Session& session) : session_(session), originals_(originalsOf(session)) {}
 
 void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
+    noteSimulator(session_);
     clearStrays(copies);
     // Outside a job a click could begin something else in the middle.
     originals_.prepare(copies, [this] {
@@ -31,6 +33,11 @@ void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
     for (const FileCopy& copy : copies)
         places.push_back(originals_.find(copy.target));
     ahead_.emplace(session_.files, originals_, copies, std::move(places));
+}
+
+void SimulatorCopier::keepAll(const std::vector<FileCopy>& copies) {
+    noteSimulator(session_);
+    originals_.keepAll(copies);
 }
 
 void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {

@@ -22,7 +22,7 @@ public:
     /// The first half alone, where the files are the pilot's own.
     void clearStrays(const std::vector<FileCopy>& copies);
     /// Keeps what stands in the places of such files, unless it is known.
-    void keepAll(const std::vector<FileCopy>& copies) { originals_.keepAll(copies); }
+    void keepAll(const std::vector<FileCopy>& copies);
     bool isKnown(const FileCopy& copy, const FileFingerprint& standing) {
         return originals_.isKnown(copy.target, standing);
     }

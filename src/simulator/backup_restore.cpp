@@ -5,6 +5,7 @@
 #include "core/failure_report.h"
 #include "core/numbers.h"
 #include "sets/simulator_copy.h"
+#include "sets/simulator_note.h"
 #include "sets/undo_step.h"
 #include "simulator/backups.h"
 #include "simulator/checked_copies.h"
@@ -125,7 +126,7 @@ void addTextures(Session& session, const BackupPlace& place, std::vector<FileCop
 std::optional<RestoreReport> restoreBackup(Session& session, const QString& name) {
     std::optional<RestoreReport> report;
     const Job job(session);
-    if (!job) return report;
+    if (!job || !claimSimulator(session)) return report;
     reportFailures(session.user, morvaneError, [&] { report = copyBack(session, name); });
     session.user.updateProgress({}, {}, 100);
     return report;

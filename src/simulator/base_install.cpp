@@ -12,6 +12,7 @@
 #include "night/night_texture_sets.h"
 #include "sets/set_names.h"
 #include "sets/simulator_copy.h"
+#include "sets/simulator_note.h"
 #include "sets/stored_rows.h"
 #include "sets/undo_step.h"
 #include "simulator/base_install_rows.h"
@@ -129,7 +130,7 @@ bool collectFolderFiles(Session& session, const FilePath& sourceFolder, const Fi
 
 void copyBaseResources(Session& session, const QStringList& tickedTitles) {
     const Job job(session);
-    if (!job) return;
+    if (!job || !claimSimulator(session)) return;
     showCopying(session, copyingTitle);
     std::optional<DoneLine> line;
     reportFailures(session.user, morvaneError, [&] { line = copyTicked(session, tickedTitles); });

@@ -7,6 +7,7 @@
 #include "core/registry.h"
 #include "core/store_records.h"
 #include "sets/simulator_copy.h"
+#include "sets/simulator_note.h"
 #include "sets/undo_step.h"
 #include "simulator/option_table.h"
 
@@ -63,7 +64,7 @@ void storeSplashInhibition(Session& session, bool value) {
 void setCustomSplashVal(Session& session, bool value) {
     reportFailures(session.user, optionFailure(u"Sub setCustomSplashVal"_s), [&] {
         Job job(session);
-        if (!job) return;
+        if (!job || (value && !claimSimulator(session))) return;
         UndoStep step(session);
         if (value) step.add(optionPart(&OptionsInForce::InhibitCustomSplash, value));
         storeSplashInhibition(session, value);

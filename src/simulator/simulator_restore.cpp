@@ -3,6 +3,7 @@
 #include "core/failure_report.h"
 #include "core/numbers.h"
 #include "sets/simulator_copy.h"
+#include "sets/simulator_note.h"
 #include "sets/undo_step.h"
 #include "simulator/installed_rows.h"
 
@@ -32,14 +33,20 @@ QString ownFilesQuestion(const Originals& originals) {
 } // namespace
 
 std::optional<OriginalsReport> restoreOriginals(Session& session) {
-    return runRestore(session, {.title = ownFilesTitle,
-                                .text = u"Morvane is putting your own files back.  Please wait......."_s,
-                                .restore =
-                                    [&](const auto& progress) {
-                                        forgetLastStep(session); // what it would bring back is ours
-                                        return originalsOf(session).restore(progress);
-                                    },
-                                .finish = [&](const auto&) { giveBackRows(session, {}); }});
+    return runRestore(session,
+                      {.title = ownFilesTitle,
+                       .text = u"Morvane is putting your own files back.  Please wait......."_s,
+                       .restore =
+                           [&](const auto& progress) {
+                               forgetLastStep(session); // what it would bring back is ours
+                               return originalsOf(session).restore(progress);
+                           },
+                       .finish =
+                           [&](const OriginalsReport& report) {
+                               giveBackRows(session, {});
+                               if (!report.failure && report.left.isEmpty() && report.damaged.isEmpty())
+                                   removeSimulatorNote(session);
+                           }});
 }
 
 std::optional<OriginalsReport> askRestoreOriginals(Session& session) {

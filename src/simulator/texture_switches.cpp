@@ -10,6 +10,7 @@
 #include "sets/options_in_force.h"
 #include "sets/set_names.h"
 #include "sets/simulator_copy.h"
+#include "sets/simulator_note.h"
 #include "sets/undo_step.h"
 #include "simulator/installed_rows.h"
 #include "simulator/option_table.h"
@@ -136,7 +137,7 @@ void tropicalTextures(Session& session, bool isOn, const QString& groundName) {
 
 bool switchDutch(Session& session, bool isOn) {
     Job job(session);
-    if (!job) throw Error(ErrorCode::interrupted);
+    if (!job || !claimSimulator(session)) throw Error(ErrorCode::interrupted);
     if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsDutch = false;
     UndoStep step(session);
     step.add(optionPart(&OptionsInForce::IsDutch, isOn));
@@ -149,7 +150,7 @@ bool switchDutch(Session& session, bool isOn) {
 
 bool switchTropical(Session& session, bool isOn) {
     Job job(session);
-    if (!job) throw Error(ErrorCode::interrupted);
+    if (!job || !claimSimulator(session)) throw Error(ErrorCode::interrupted);
     if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsTropical = false;
     UndoStep step(session);
     step.add(optionPart(&OptionsInForce::IsTropical, isOn));
@@ -161,7 +162,7 @@ bool switchTropical(Session& session, bool isOn) {
 
 void switchHalo(Session& session, bool isOn) {
     Job job(session);
-    if (!job) throw Error(ErrorCode::interrupted);
+    if (!job || !claimSimulator(session)) throw Error(ErrorCode::interrupted);
     UndoStep step(session);
     step.add(optionPart(&OptionsInForce::IsHalo, isOn));
     session.state<OptionsInForce>().IsHalo = isOn;

@@ -8,6 +8,7 @@
 #include "ground/ground_sets.h"
 #include "sets/cloud_cover.h"
 #include "sets/simulator_copy.h"
+#include "sets/simulator_note.h"
 #include "sets/undo_step.h"
 #include "simulator/base_install.h"
 #include "simulator/base_install_rows.h"
@@ -59,7 +60,8 @@ struct UndoTest : InstallTest {
                               : QString());
         return lines;
     }
-    QString summary(CheckDepth depth = CheckDepth::changedFiles) {
+    QString summary(CheckDepth depth = CheckDepth::changedFiles) { return summaryOf(session, depth); }
+    static QString summaryOf(Session& session, CheckDepth depth = CheckDepth::changedFiles) {
         const SimulatorCheck check = checkSimulator(session, depth, false);
         QStringList texts{u"%1 ours, %2 own, %3 changed, %4 missing, %5 damaged"_s.arg(
             QString::number(check.ours), QString::number(check.pilots), QString::number(check.changed),
@@ -189,6 +191,39 @@ TEST_F(UndoTest, tellsAndSettlesDifferences) {
     EXPECT_EQ(report->leftOut.join(u' ').compare(names[0] + u' ' + names[2], Qt::CaseInsensitive), 0)
         << "damaged, and never his";
     EXPECT_EQ(readFile(simulator / names[1]), "another hand's");
+}
+
+/// Two installs on one simulator: the second asks before it takes the first one's textures for the pilot's.
+TEST_F(UndoTest, asksBeforeItTakesOverTheSimulatorOfAnother) {
+    put(u"2-Á"_s);
+    SmallInstall second;
+    second.session.FSPath = simulator;
+    second.addGroundSet(u"2-Zwei"_s, u"Few"_s, true, {u"Texture\\029h2su6.bmp"_s, u"Texture\\zwei.bmp"_s});
+    const auto put2 = [&] { GroundInstallation(second.session).installTextureSet(u"2-Zwei"_s); };
+    const QStringList before = files();
+    second.user.otherwise = false;
+    put2();
+    EXPECT_THROW(switchHalo(second.session, true), Error);
+    EXPECT_EQ(files(), before);
+    EXPECT_TRUE(second.installedSets().isEmpty() && originalsOf(second.session).list().empty());
+    second.user.otherwise = true;
+    put2();
+    EXPECT_NE(files(), before);
+    EXPECT_EQ(summaryOf(second.session).section(u';', 0, 0),
+              "5 ours, 0 own, 0 changed, 0 missing, 0 damaged");
+
+    user.otherwise = false;
+    put(u"3-B"_s);
+    EXPECT_EQ(user.told().last().section(u'|', 1, 1), u"Another Morvane"_s) << "whose turn it was before";
+    restoreOriginals(second.session);
+    EXPECT_EQ(files(), pilots);
+    EXPECT_FALSE(readSimulatorNote(install.files, simulator));
+    put(u"2-Á"_s);
+    EXPECT_EQ(files(), before);
+    // An install that was moved finds its own note.
+    writeFile(simulator / u"Morvane note.ini", "[Morvane]\nInstallFolder=/gone\n");
+    put(u"2-Á"_s);
+    EXPECT_EQ(readSimulatorNote(install.files, simulator)->installFolder, install.home().native());
 }
 
 /// A write that leaves size, time and number is seen by the thorough look alone.

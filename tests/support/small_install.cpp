@@ -114,6 +114,7 @@ QMap<QString, QByteArray> contentsBelow(const FilePath& folder) {
     QDirIterator entry(root, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (entry.hasNext()) {
         const QString path = entry.next();
+        if (entry.fileName() == u"Morvane note.ini") continue;
         contents.insert(path.mid(root.size() + 1), readFile(FilePath(path)));
     }
     return contents;

@@ -108,8 +108,8 @@ sets.</p>
 <li>All of them, as before Morvane's first copy: <b>Base Install</b>, <b>Put my own textures back</b>.</li>
 <li>One by one, where another program changed something: <b>Check files</b> on the first page.</li>
 </ul>
-<p>At the console: <code>morvane-cli undo</code>, <code>originals restore</code> and <code>verify</code>. The kept files
-lie in the folder <code>Backup/Originals</code> of the install folder; leave them there.</p>
+<p>At the console: <code>morvane-cli undo</code>, <code>morvane-cli originals restore</code> and <code>morvane-cli
+verify</code>. The kept files lie in the folder <code>Backup/Originals</code> of the install folder; leave them there.</p>
 <p>A <b>backup</b> is something else: a copy of the simulator's base files, made when you ask for it on the page
 <b>Base Install</b>. You may keep several, each with its date, and restore any of them on the same page.</p>
 
