@@ -122,8 +122,11 @@ public:
     /// What another program put in the place of ours counts as the pilot's own from now on, and is kept.
     /// False when no such file stands there.
     bool takeAsPilots(const QString& path);
-    /// The pilot's youngest file in that place, whatever stands there; what nobody else has is copied beside
-    /// the kept ones first. False when none is kept whole.
+    /// What stands there goes without a fact, as the pilot does not want it; what nobody else has is copied
+    /// beside the kept ones all the same. Call it before `prepare`.
+    void layAside(const FilePath& target);
+    /// The pilot's youngest file in that place, whatever stands there, which is laid aside. False when none
+    /// is kept whole.
     bool putPilotsBack(const QString& path);
 
 private:

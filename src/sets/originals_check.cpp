@@ -81,13 +81,20 @@ bool Originals::takeAsPilots(const QString& path) {
     return true;
 }
 
+void Originals::layAside(const FilePath& target) {
+    const FilePath place = find(target);
+    const QString path = place.relative();
+    makeCopyFolder(path);
+    if (const auto unknown = readUnknown(place))
+        files_.makeDurable({copyPlace(keepCopy(path, unknown->contents))});
+    looked_.insert(path);
+}
+
 bool Originals::putPilotsBack(const QString& path) {
     const FilePath place = spelling_.findExactly(path);
     const OriginalRecord record = list_.records().of(path);
     if (record.kept.empty() || !isSound(record.kept.back())) return false;
-    makeCopyFolder(path);
-    if (const auto unknown = readUnknown(place))
-        files_.makeDurable({copyPlace(keepCopy(path, unknown->contents))});
+    layAside(place);
     giveBack({place, record}, {.standing = seeFile(files_, place)});
     forgetRestored();
     return true;

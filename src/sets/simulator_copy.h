@@ -26,6 +26,8 @@ public:
     bool isKnown(const FileCopy& copy, const FileFingerprint& standing) {
         return originals_.isKnown(copy.target, standing);
     }
+    /// See Originals: for a copy over what the pilot does not want. Before `prepare`.
+    void layAside(const FileCopy& copy) { originals_.layAside(copy.target); }
     /// The other half alone, for a file of ours among those.
     void announce(const FileCopy& copy) { originals_.prepare({copy}); }
     /// Something stands where the copy will go.

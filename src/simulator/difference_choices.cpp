@@ -31,6 +31,8 @@ void putOursBack(Session& session, const std::vector<CheckedPlace>& places, Choi
     for (const CheckedPlace& place : places)
         copies.push_back(copyOf(session, place));
     SimulatorCopier copier(session);
+    for (const FileCopy& copy : copies)
+        attempt([&] { copier.layAside(copy); });
     copier.prepare(copies);
     settleEach(places, report, [&](const CheckedPlace& place) {
         copier.copy(copyOf(session, place));

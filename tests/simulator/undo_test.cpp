@@ -182,6 +182,12 @@ TEST_F(UndoTest, tellsAndSettlesDifferences) {
     EXPECT_EQ(readFile(simulator / names[0]), "another hand's") << "his youngest";
 
     put(u"2-Á"_s);
+    spoil("nobody's");
+    settleDifferences(session, DifferenceChoice::putOursBack, names);
+    restoreOriginals(session);
+    EXPECT_EQ(readFile(simulator / names[0]), "another hand's") << "not what he did not want";
+
+    put(u"2-Á"_s);
     spoil("a third hand's");
     for (const KeptOriginal& kept : originalsOf(session).list())
         if (kept.path.compare(names[0], Qt::CaseInsensitive) == 0)
