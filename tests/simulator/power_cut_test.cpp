@@ -7,6 +7,7 @@
 #include "simulator/base_install.h"
 #include "simulator/kept_stock.h"
 #include "simulator/stock_requests.h"
+#include "simulator/undo_install.h"
 #include "support/small_install.h"
 
 #include <QDir>
@@ -182,6 +183,8 @@ TEST_F(PowerCuts, loseNoOriginalAndAreMended) {
                   writeFile(world / u"Neu Ünï.bmp", "his next");
               },
               [this] { restoreBackup(session, "1-Backup"); }, giveBack, false},
+             {"undo", [&] { put("3-B"), putA(); }, [this] { undoLastInstall(session); }, giveBack, true},
+             {"undo of the first", putA, [this] { undoLastInstall(session); }, giveBack, true},
              {"stock import", nothing, import, stockBack, true},
              {"stock restore", import, stockBack, stockBack, false},
          })
