@@ -123,7 +123,7 @@ void settle(CommandContext& context) {
 }
 
 void undo(CommandContext& context) {
-    if (!lastStep(context.session)) return fail(context, u"There is no install to undo."_s);
+    if (!canUndo(context.session)) return fail(context, u"There is no install to undo."_s);
     if (const auto report = undoLastInstall(context.session)) printJson(QJsonDocument(toJson(*report)));
 }
 

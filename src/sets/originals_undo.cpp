@@ -9,6 +9,7 @@ OriginalsReport Originals::undo(const std::vector<OriginalFact>& stood, const Fi
                                 const std::function<void(double)>& progress) {
     OriginalsReport report;
     std::vector<StoodPlace> places;
+    places.reserve(stood.size());
     for (const OriginalFact& fact : stood)
         places.push_back({spelling_.findExactly(fact.path), fact});
     OrderedShares<FoundPlace> found(places.size(), [&](std::size_t i) { return lookAt(places[i], saved); });
@@ -98,6 +99,7 @@ void Originals::giveModeBack(const StoodPlace& stoodPlace) {
 /// are so on the disk: a cut of power may bring the copies back until then.
 void Originals::settleUndone(const std::vector<OriginalFact>& undone) {
     std::vector<FilePath> places;
+    places.reserve(undone.size());
     for (const OriginalFact& stood : undone)
         places.push_back(spelling_.findExactly(stood.path));
     files_.makeDurable(places);

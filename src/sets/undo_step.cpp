@@ -59,6 +59,12 @@ void saveWhatGoesForEver(Session& session, const std::vector<OriginalFact>& stoo
             save(session, places.findExactly(fact.path), fact);
 }
 
+/// That into this simulator.
+std::optional<UndoRecord> stepHere(const Session& session, const QByteArray& bytes) {
+    auto record = parseUndo(bytes, recordFile(session));
+    return record && record->simulator == session.FSPath.native() ? record : std::nullopt;
+}
+
 } // namespace
 
 UndoStep::UndoStep(Session& session) : session_(session), keeping_(session.state<UndoKeeping>()) {
@@ -126,11 +132,15 @@ void saveForUndo(Session& session, const QStringList& folders) {
 }
 
 std::optional<UndoRecord> lastStep(const Session& session) {
-    const FilePath file = recordFile(session);
-    const auto bytes = session.files.readIfThere(file);
-    if (!bytes) return std::nullopt;
-    auto record = parseUndo(*bytes, file);
-    return record && record->simulator == session.FSPath.native() ? record : std::nullopt;
+    const auto bytes = session.files.readIfThere(recordFile(session));
+    return bytes ? stepHere(session, *bytes) : std::nullopt;
+}
+
+bool canUndo(const Session& session) {
+    const auto bytes = session.files.readIfThere(recordFile(session));
+    if (!bytes) return false;
+    const qsizetype facts = bytes->indexOf('\n', bytes->indexOf('\n') + 1) + 1;
+    return stepHere(session, bytes->first(facts)).has_value();
 }
 
 void forgetLastStep(Session& session) {

@@ -45,6 +45,8 @@ void saveForUndo(Session& session, const QStringList& folders);
 
 /// The record of the last install into this simulator.
 std::optional<UndoRecord> lastStep(const Session& session);
+/// There is one; its facts are not read.
+bool canUndo(const Session& session);
 /// Nothing can be undone any more.
 void forgetLastStep(Session& session);
 

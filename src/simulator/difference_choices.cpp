@@ -28,6 +28,7 @@ void settleEach(const std::vector<CheckedPlace>& places, ChoiceReport& report,
 
 void putOursBack(Session& session, const std::vector<CheckedPlace>& places, ChoiceReport& report) {
     std::vector<FileCopy> copies;
+    copies.reserve(places.size());
     for (const CheckedPlace& place : places)
         copies.push_back(copyOf(session, place));
     SimulatorCopier copier(session);

@@ -82,7 +82,7 @@ void frm_Main::formatMainScreen() {
 void frm_Main::refreshMainStatus() {
     status_->refreshMainStatus();
     bool isUndoable = false;
-    reportFailures(session().user, morvaneError, [&] { isUndoable = lastStep(session()).has_value(); });
+    reportFailures(session().user, morvaneError, [&] { isUndoable = canUndo(session()); });
     button(u"btn_Undo"_s)->setState(isUndoable ? ButtonState::enabled : ButtonState::disabled);
 }
 

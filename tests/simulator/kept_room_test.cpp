@@ -34,7 +34,7 @@ struct KeptInstall : SmallInstall {
     void addRow(const QString& name) {
         session.adoConn->execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME) VALUES ('%1')"_s.arg(name));
     }
-    void write(const QString& file) { writeFile(backups / file, "another hand's"); }
+    void write(const QString& file) const { writeFile(backups / file, "another hand's"); }
     /// One thing that happens to the backups and to a texture in them.
     void happens(const QString& what) {
         if (what == u"taken away") files.remove(place);

@@ -123,8 +123,8 @@ void frm_InSimulator::addList() {
     chkAll_->setGeometry(leftEdge + 6, 248, 18, 16);
     connect(chkAll_, &QCheckBox::clicked, this,
             [this] { lstFiles_->checkAll(lstFiles_->checkedKeys().size() < lstFiles_->rowCount()); });
-    lblNothing_ = makeLabel(this, u"Everything is as Morvane left it."_s, {leftEdge, 244, 648, 22},
-                            TextRole::value);
+    lblNothing_ =
+        makeLabel(this, u"Everything is as Morvane left it."_s, {leftEdge, 244, 648, 22}, TextRole::value);
     lblNothing_->setObjectName(u"lblNothing"_s);
     makeLabel(
         this,
