@@ -1,7 +1,9 @@
 #include "simulator/stock_import.h"
 
 #include "core/attempts.h"
+#include "core/numbers.h"
 #include "core/ordered_work.h"
+#include "core/run_size.h"
 #include "core/safe_copy.h"
 #include "imaging/picture_reader.h"
 #include "imaging/pixel_buffer.h"
@@ -57,7 +59,10 @@ public:
 
     StockImportReport run() {
         report_.planned = static_cast<int>(plan_.files.size());
-        if (report_.planned > 0) {
+        const RunSize size = sizeOfPlan();
+        if (!size.fits()) {
+            report_.failure = size.refusal();
+        } else if (report_.planned > 0) {
             const bool wasEmpty = kept_.isEmpty();
             announce();
             bringWhatCanBeHad();
@@ -70,6 +75,17 @@ public:
     }
 
 private:
+    /// A texture has four bits a pixel, its base image twenty-four.
+    RunSize sizeOfPlan() const {
+        constexpr int growth = 6;
+        RunSize size;
+        size.what = u"An import of "_s + countText(report_.planned, u"file"_s);
+        size.freeBytes = session_.files.freeSpace(session_.AppPath);
+        for (const StockFile& file : plan_.files)
+            attempt([&] { size.bytes += (file.isPicture ? growth : 1) * session_.files.size(file.source); });
+        return size;
+    }
+
     void announce() {
         std::vector<InstallFile> targets;
         for (const StockFile& file : plan_.files) {

@@ -23,7 +23,8 @@ struct StockImportReport {
 
 /// Decodes every file of the plan into 24-bit base images of the same name and keeps what stood there. What
 /// it will replace is noted before the first file is, so a failure, a cancel and a kill can be undone like a
-/// whole import. Raises when it cannot be noted: nothing is replaced then. Shows progress.
+/// whole import. One that would not fit on the disk is not begun. Raises when it cannot be noted: nothing is
+/// replaced then. Shows progress.
 StockImportReport importStock(Session& session, const Job& job, const StockSource& source);
 
 } // namespace morvane

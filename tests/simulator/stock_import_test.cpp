@@ -131,6 +131,16 @@ TEST_F(StockImportTest, whileASetStandsInTheSimulatorTheNewestBackupIsOffered) {
     EXPECT_TRUE(install.files.exists(install.home() / u"Resources\\GENERIC WORLD\\031A2SU1.BMP"));
 }
 
+TEST_F(StockImportTest, whatDoesNotFitIsNotBegun) {
+    const auto before = stock();
+    install.files.toldFree = 100;
+    const auto report = importSimulatorStock(session, true);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->files, 0);
+    EXPECT_TRUE(report->failure.contains(u"needed"_s)) << report->failure.toStdString();
+    EXPECT_EQ(stock(), before);
+}
+
 TEST_F(StockImportTest, noFailureOfAFileLosesTheStock) {
     const auto before = stock();
     int failures = 0;
