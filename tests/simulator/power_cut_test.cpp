@@ -133,12 +133,12 @@ struct PowerCuts : InstallTest {
         if (before[changed] == "his next") own.insert(changed, "his next");
         QSet<size_t> seen;
         int change = 1;
-        for (bool wasHit = true; wasHit; ++change) {
+        for (bool wasHit = true; wasHit; change += faultStride) {
             setTree(before);
             wasHit = runUntilChange(job, change);
             const Tree killed = tree();
             std::vector<Tree> cuts;
-            for (unsigned order = 0; order < 10; ++order) {
+            for (unsigned order = 0; order < 10; order += static_cast<unsigned>(faultStride)) {
                 setTree(killed);
                 install.files.cutPower(order + 10 * static_cast<unsigned>(change));
                 const Tree left = tree();
