@@ -19,6 +19,14 @@ QString questionOf(const UndoRecord& step) {
            u" of the simulator back as they were before it?"_s;
 }
 
+/// Another program may have installed something while the question stood.
+void requireSame(const UndoRecord& asked, const std::optional<UndoRecord>& now) {
+    if (now && now->time == asked.time && now->parts == asked.parts) return;
+    throw Error::withDescription(
+        ErrorCode::permissionDenied,
+        u"Another program has installed or undone something since you were asked."_s);
+}
+
 } // namespace
 
 std::optional<OriginalsReport> undoLastInstall(Session& session) {
@@ -34,6 +42,7 @@ std::optional<OriginalsReport> undoLastInstall(Session& session) {
                                 .text = u"Morvane is undoing the last install.  Please wait......."_s,
                                 .restore =
                                     [&](const auto& progress) {
+                                        requireSame(*step, lastStep(session));
                                         return originalsOf(session).undo(step->stood, savedForUndo(session),
                                                                          progress);
                                     },
