@@ -69,7 +69,8 @@ QString questionOf(const Session& session, const SimulatorNote& note) {
             : u"Its record cannot be read, so what lies there counts as your own from now on."_s;
     return u"The textures in this simulator are those of another Morvane%1, in %2%3.\n\nDo you wish to take "
            u"them "
-           "over?  %4\n\nWith Cancel the simulator stays as it is."_s.arg(who, note.installFolder, day, record);
+           "over?  %4\n\nWith Cancel the simulator stays as it is."_s.arg(who, note.installFolder, day,
+                                                                          record);
 }
 
 } // namespace
