@@ -3,6 +3,7 @@
 #include "core/store.h"
 #include "core/store_schema.h"
 #include "core/text_decoding.h"
+#include "weather/awc_reports.h"
 #include "weather/metar_decoder.h"
 #include "weather/reports.h"
 
@@ -52,9 +53,24 @@ QByteArray fullHour() {
     return hour;
 }
 
+/// The sample list's lines over and over, each under a code of its own.
+QByteArray awcList(int count) {
+    const FilePath sample(QStringLiteral(MORVANE_DATA_DIR "/metar/metars.cache.csv"));
+    const QByteArrayList lines = NativeFileSystem().read(sample).split('\n');
+    constexpr qsizetype head = 6; // some lines about its making, and the columns' names
+    QByteArray list = lines.sliced(0, head).join('\n') + '\n';
+    const qsizetype reportLines = lines.size() - head - 1;
+    for (int made = 0; made < count; ++made) {
+        QByteArray line = lines[head + made % reportLines];
+        const QByteArray code = QString(u"X%1"_s).arg(made, 4, 36, QChar(u'0')).toLatin1();
+        list += line.replace(line.mid(line.indexOf(' ') + 1, 4), code) + '\n';
+    }
+    return list;
+}
+
 struct Install {
-    Install() {
-        files.write(cycle, fullHour());
+    explicit Install(const QByteArray& contents = fullHour()) {
+        files.write(cycle, contents);
         session.adoConn = std::make_unique<Store>();
         session.adoConn->create(path / u"Morvane.mdb");
         createSchema(*session.adoConn);
@@ -98,6 +114,29 @@ BENCHMARK_CAPTURE(loadCycle, plainIntoAnEmptyTable, CycleForm::plain, true)
 BENCHMARK_CAPTURE(loadCycle, plainAgain, CycleForm::plain, false)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
+
+/// The list of the Aviation Weather Center, which has a report a station.
+void loadList(benchmark::State& state) {
+    Install install(awcList(static_cast<int>(state.range(0))));
+    clsWxFinderData data(install.session);
+    for ([[maybe_unused]] auto unused : state) {
+        state.PauseTiming();
+        install.session.adoConn->execute(u"DELETE FROM DECODED_METAR"_s);
+        state.ResumeTiming();
+        data.importCycleFile(install.cycle, CycleForm::awc);
+    }
+    state.counters["stations"] = install.session.rows<clsWxFinders>()->Count();
+    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * state.range(0));
+}
+BENCHMARK(loadList)->Arg(5'000)->Arg(reports)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void readListAlone(benchmark::State& state) {
+    const QByteArray list = awcList(static_cast<int>(state.range(0)));
+    for ([[maybe_unused]] auto unused : state)
+        benchmark::DoNotOptimize(awcReports(decodeText(list)));
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * list.size());
+}
+BENCHMARK(readListAlone)->Arg(5'000)->Arg(reports)->Unit(benchmark::kMillisecond);
 
 void decodeAlone(benchmark::State& state) {
     SilentUser user;

@@ -9,8 +9,11 @@
 #include "core/store_statement.h"
 #include "ground/ground_generation.h"
 #include "ground/ground_selection.h"
+#include "ground/ground_sets.h"
 #include "imaging/program_font.h"
 #include "sets/resource_folders.h"
+#include "sets/sheet_request.h"
+#include "sheets/screens/set_sheet_screen.h"
 #include "sky/sky_generation.h"
 #include "sky/sky_sets.h"
 #include "ui/controls/paper_style.h"
@@ -301,6 +304,43 @@ void changingTheFinder(benchmark::State& state) {
     timeChanges(state, changes);
 }
 BENCHMARK(changingTheFinder)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+/// "See all" on the last ground set: from the key to a window with what is seen in it, and until all pictures
+/// are there; the longest that the event loop stood still meanwhile. 0: without what is kept of the base.
+void seeingAWholeSet(benchmark::State& state) {
+    Program program(benchHome());
+    if (!program.isStarted) return state.SkipWithError("set MORVANE_HOME_BENCH to a sample install");
+    const auto& sets = loadedGroundSets(program.session);
+    program.session.state<SheetRequest>() = {u"Ground"_s, sets.GetItem(sets.Count())->TextureSet};
+    double first = 0, all = 0, longest = 0;
+    for (auto round : state) {
+        if (state.range(0) == 0)
+            QDir((benchHome() / u"Resources\\Small Pictures").native()).removeRecursively();
+        QElapsedTimer clock;
+        clock.start();
+        auto& sheet = program.shell.screen<frm_SetSheet>(u"frm_SetSheet"_s);
+        QTimer watch;
+        std::optional<Liveliness> liveliness;
+        watch.callOnTimeout([&] {
+            if (!liveliness) {
+                sheet.repaint();
+                first += static_cast<double>(clock.elapsed());
+                liveliness.emplace(sheet);
+            }
+            if (!sheet.loading()->isWhole()) return;
+            all += static_cast<double>(clock.elapsed());
+            longest += static_cast<double>(liveliness->longestWait) / 1e6;
+            watch.stop();
+            sheet.cancel();
+        });
+        watch.start(0);
+        sheet.run();
+    }
+    state.counters["ms_first"] = benchmark::Counter(first, benchmark::Counter::kAvgIterations);
+    state.counters["ms_all"] = benchmark::Counter(all, benchmark::Counter::kAvgIterations);
+    state.counters["ms_longest"] = benchmark::Counter(longest, benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(seeingAWholeSet)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 } // namespace
 } // namespace morvane

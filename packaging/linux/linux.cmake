@@ -39,6 +39,7 @@ set(icon ${CMAKE_CURRENT_BINARY_DIR}/morvane.png)
 add_custom_command(OUTPUT ${icon} COMMAND morvane-content --icon ${icon} DEPENDS morvane-content)
 install(FILES ${icon} DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/128x128/apps)
 install(FILES linux/morvane.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES linux/morvane.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${component_id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 
 # The licences of what is in the programs go along with them.

@@ -34,6 +34,7 @@ Var HasEarlier
 !define MUI_UNICON "${ICON}"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\morvane.exe"
 !insertmacro MUI_PAGE_LICENSE "${FOLDER}\licences\LICENSE"
+!insertmacro MUI_PAGE_COMPONENTS
 !insertmacro MUI_PAGE_DIRECTORY
 !define MUI_DIRECTORYPAGE_VARIABLE $DataFolder
 !define MUI_PAGE_HEADER_TEXT "Data folder"
@@ -62,6 +63,53 @@ Var HasEarlier
     ${Else}
         WriteRegStr HKCU "${KEY}" "${VALUE}" `${TEXT}`
     ${EndIf}
+!macroend
+; What the desktop opens with Morvane. Plans belong to the simulator and its planners: for them Morvane is one of those
+; that "Open with" offers. Its own files it opens, unless another program has them.
+!macro writeClass KEY VALUE TEXT
+    ${If} $IsForAll == 1
+        WriteRegStr HKLM "Software\Classes\${KEY}" "${VALUE}" `${TEXT}`
+    ${Else}
+        WriteRegStr HKCU "Software\Classes\${KEY}" "${VALUE}" `${TEXT}`
+    ${EndIf}
+!macroend
+!macro readClass VARIABLE KEY
+    ${If} $IsForAll == 1
+        ReadRegStr ${VARIABLE} HKLM "Software\Classes\${KEY}" ""
+    ${Else}
+        ReadRegStr ${VARIABLE} HKCU "Software\Classes\${KEY}" ""
+    ${EndIf}
+!macroend
+!macro deleteClass KEY
+    ${If} $IsForAll == 1
+        DeleteRegKey HKLM "Software\Classes\${KEY}"
+    ${Else}
+        DeleteRegKey HKCU "Software\Classes\${KEY}"
+    ${EndIf}
+!macroend
+!macro writeKindOfFile CLASS MEANING
+    !insertmacro writeClass "${CLASS}" "" "${MEANING}"
+    !insertmacro writeClass "${CLASS}\DefaultIcon" "" "$INSTDIR\morvane.exe,0"
+    !insertmacro writeClass "${CLASS}\shell\open\command" "" '"$INSTDIR\morvane.exe" "%1"'
+!macroend
+!macro offerToOpen ENDING CLASS
+    !insertmacro writeClass "${ENDING}\OpenWithProgids" "${CLASS}" ""
+    !insertmacro writeClass "Applications\morvane.exe\SupportedTypes" "${ENDING}" ""
+!macroend
+; What others have put there stays, and so does a key with anything left in it.
+!macro withdrawOffer ENDING CLASS
+    ${If} $IsForAll == 1
+        DeleteRegValue HKLM "Software\Classes\${ENDING}\OpenWithProgids" "${CLASS}"
+        DeleteRegKey /ifempty HKLM "Software\Classes\${ENDING}\OpenWithProgids"
+        DeleteRegKey /ifempty HKLM "Software\Classes\${ENDING}"
+    ${Else}
+        DeleteRegValue HKCU "Software\Classes\${ENDING}\OpenWithProgids" "${CLASS}"
+        DeleteRegKey /ifempty HKCU "Software\Classes\${ENDING}\OpenWithProgids"
+        DeleteRegKey /ifempty HKCU "Software\Classes\${ENDING}"
+    ${EndIf}
+!macroend
+!macro tellDesktop
+    System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
 !macroend
 !macro findPlaces
     SetRegView 32 ; the simulator and its companions are 32-bit programs
@@ -124,7 +172,8 @@ Function skipForEarlier
     ${EndIf}
 FunctionEnd
 
-Section
+Section "Morvane"
+    SectionIn RO
     ClearErrors
     SetOutPath "$INSTDIR"
     SetOverwrite on
@@ -163,6 +212,22 @@ Section
     !insertmacro writeOwn "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
 SectionEnd
 
+Section "Open flight plans and shared sets"
+    SetRegView 64 ; where the desktop reads
+    !insertmacro writeKindOfFile "Morvane.FlightPlan" "Flight plan"
+    !insertmacro writeKindOfFile "Morvane.SharedSet" "Morvane texture set"
+    !insertmacro writeClass "Applications\morvane.exe\shell\open\command" "" '"$INSTDIR\morvane.exe" "%1"'
+    !insertmacro offerToOpen ".pln" "Morvane.FlightPlan"
+    !insertmacro offerToOpen ".lnmpln" "Morvane.FlightPlan"
+    !insertmacro offerToOpen ".morvaneset" "Morvane.SharedSet"
+    ReadRegStr $0 HKCR ".morvaneset" ""
+    ${If} $0 == ""
+        !insertmacro writeClass ".morvaneset" "" "Morvane.SharedSet"
+    ${EndIf}
+    !insertmacro tellDesktop
+    SetRegView 32
+SectionEnd
+
 Function un.onInit
     ; Installed for whom? The one whose entry names this folder.
     StrCpy $IsForAll 0
@@ -196,6 +261,23 @@ keep:
     ${Else}
         DeleteRegKey HKCU "${UNINSTALL_KEY}"
     ${EndIf}
+    SetRegView 64
+    !insertmacro readClass $0 ".morvaneset"
+    ${If} $0 == "Morvane.SharedSet"
+        ${If} $IsForAll == 1
+            DeleteRegValue HKLM "Software\Classes\.morvaneset" ""
+        ${Else}
+            DeleteRegValue HKCU "Software\Classes\.morvaneset" ""
+        ${EndIf}
+    ${EndIf}
+    !insertmacro withdrawOffer ".pln" "Morvane.FlightPlan"
+    !insertmacro withdrawOffer ".lnmpln" "Morvane.FlightPlan"
+    !insertmacro withdrawOffer ".morvaneset" "Morvane.SharedSet"
+    !insertmacro deleteClass "Morvane.FlightPlan"
+    !insertmacro deleteClass "Morvane.SharedSet"
+    !insertmacro deleteClass "Applications\morvane.exe"
+    !insertmacro tellDesktop
+    SetRegView 32
     ; The value that says where they are stays, so that a later install finds them.
     MessageBox MB_ICONINFORMATION "Your backups, originals and texture sets are left where they are: $DataFolder" /SD IDOK
 SectionEnd

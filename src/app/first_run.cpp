@@ -57,8 +57,9 @@ void doFirstRun(Session& session) {
         reportFailures(session.user, morvaneError, [&] { copyDeliveredFlights(session); });
     const std::optional<BackupReport> backup = createBackup(session, true);
     session.user.hideMessage();
-    if (backup && backup->isWritten)
-        session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime, u"False"_s);
+    if (!backup || !backup->isWritten) return;
+    session.registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, firstTime, u"False"_s);
+    session.state<FirstRun>().isDone = true;
 }
 
 } // namespace morvane

@@ -4,6 +4,11 @@
 
 namespace morvane {
 
+/// Whether this start was the first one that came to its end.
+struct FirstRun {
+    bool isDone = false;
+};
+
 /// What is done once, at the first start after an install, which leaves "FirstTime" as "True" in the
 /// registry: the simulator's own splash is kept for the option that brings it back, the delivered flights go
 /// into its folder, and its textures are backed up. Any other value, or none, means that it was done. As long

@@ -41,6 +41,7 @@ void joinRooms(Session& session) {
     session.reloadRows = reloadAll;
     session.state<UndoKeeping>().installedRows = installedRows;
     session.state<WeatherKinds>() = {&setKind<GroundKind>(), &setKind<SkyKind>()};
+    session.state<KnownKinds>() = {{&setKind<GroundKind>(), &setKind<SkyKind>(), &setKind<NightKind>()}};
 }
 
 } // namespace morvane

@@ -104,7 +104,8 @@ Reported startUp(Session& session, InstallUse use, const std::function<void()>& 
         session.user.systemBox(problem, {}, SystemBoxButtons::ok);
         return false;
     }
-    const bool isOnlyRead = use == InstallUse::reading && !canWriteInto(session.files, session.AppPath);
+    const bool isOnlyRead = use == InstallUse::trial ||
+                            (use == InstallUse::reading && !canWriteInto(session.files, session.AppPath));
     bool isReady = false;
     const FailureReport report{u"Morvane Error!"_s, MessageKind::exclamation, u"Sub Main\n"_s, true};
     const bool done = reportFailures(session.user, report, [&] {

@@ -4,6 +4,7 @@
 #include "core/error.h"
 #include "core/numbers.h"
 #include "imaging/picture_reader.h"
+#include "sets/cloud_cover.h"
 
 #include <QLocale>
 
@@ -12,11 +13,19 @@ namespace morvane {
 const Operand setName{u"NAME"_s, u"the set's name, in quotes where it has blanks"_s};
 const Operand inPicture{u"IN"_s, u"the picture that is read"_s};
 const CommandOption jsonOption{u"--json"_s, u"prints one JSON object instead of lines"_s};
+const CommandOption dryRunOption{u"--dry-run"_s, u"says what would be done, and changes nothing"_s};
 const Operand outFile{u"OUT"_s, u"the file that is written"_s};
 
 Operand countOperand(const QString& name, const QString& meaning) {
     const auto isCount = [](const QString& word) { return isDigits(word); };
     return {.name = name, .meaning = meaning, .takes = u"a whole number"_s, .isTaken = isCount};
+}
+
+Operand coverOperand() {
+    Operand cover{.name = u"WORD"_s, .meaning = u"the cloud cover"_s};
+    for (int number = 1; number <= cloudCoverCount; ++number)
+        cover.entries << cloudCover(number)->code;
+    return cover;
 }
 
 std::vector<Operand> fiveCounts() {

@@ -11,8 +11,12 @@ namespace morvane {
 extern const Operand setName, inPicture, outFile;
 /// "--json", for what is printed as lines otherwise.
 extern const CommandOption jsonOption;
+/// "--dry-run": with it a command that writes is one that only tells something.
+extern const CommandOption dryRunOption;
 /// A word that is a whole number without a sign.
 Operand countOperand(const QString& name, const QString& meaning);
+/// "WORD", the code of a cloud cover.
+Operand coverOperand();
 /// "N1" to "N5", for the cloud covers in order.
 std::vector<Operand> fiveCounts();
 /// True for a number from `lowest` to `highest`, "." the separator.

@@ -1,6 +1,7 @@
 #include "cli/command_slips.h"
 
 #include "cli/nearest_word.h"
+#include "core/opened_file.h"
 
 #include <algorithm>
 
@@ -14,6 +15,19 @@ QString quoted(const QString& word) {
 
 QString didYouMean(const QString& word) {
     return word.isEmpty() ? QString() : u"; did you mean "_s + quoted(word) + u'?';
+}
+
+/// What opens by a double click is no word of any list, but has an option of its own.
+QString fileHint(const QString& word) {
+    switch (openedFile(word)) {
+    case OpenedFile::flightPlan:
+        return u"; a flight plan is flown by fly --plan "_s + quoted(word);
+    case OpenedFile::sharedSet:
+        return u"; a shared set is taken by ground, sky or night import "_s + quoted(word);
+    case OpenedFile::none:
+        break;
+    }
+    return {};
 }
 
 /// "--home --answer yes" names no folder.
@@ -45,6 +59,8 @@ QString unknownCommand(const TypedLine& line) {
     const QString stray = line.strays.first();
     // As in "list ground".
     if (known.contains(stray)) return quoted(stray) + u" stands in the wrong place: "_s + lead + stray;
+    if (const QString hint = fileHint(stray); !hint.isEmpty())
+        return u"unknown command "_s + quoted(lead + stray) + hint;
     const QString nearest = nearestWord(stray, known);
     return u"unknown command "_s + quoted(lead + stray) +
            (nearest.isEmpty() ? u"; "_s + choice : didYouMean(lead + nearest));
@@ -70,8 +86,9 @@ QString missingOperand(const TypedLine& line) {
 QString refusal(const QString& subject, const Operand& operand, const QString& word) {
     if (!operand.entries.isEmpty()) {
         if (operand.entries.contains(word)) return {};
+        const QString hint = fileHint(word);
         return subject + u" takes "_s + either(operand.entries) + u", not "_s + quoted(word) +
-               didYouMean(nearestWord(word, operand.entries));
+               (hint.isEmpty() ? didYouMean(nearestWord(word, operand.entries)) : hint);
     }
     if (!operand.isTaken || operand.isTaken(word)) return {};
     return subject + u" takes "_s + operand.takes + u", not "_s + quoted(word);

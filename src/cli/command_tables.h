@@ -15,7 +15,9 @@ std::vector<Command> nightCommands();
 std::vector<Command> optionCommands(); ///< base installs and backups, too
 std::vector<Command> originalsCommands();
 std::vector<Command> pictureCommands();
+std::vector<Command> readyCommands();
 std::vector<Command> routeCommands();
+std::vector<Command> sheetCommands();
 std::vector<Command> skyCommands();
 std::vector<Command> spaceCommands();
 std::vector<Command> stockCommands();

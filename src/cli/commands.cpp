@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include "app/start_up.h"
+#include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "core/failure_report.h"
 #include "core/install_folder.h"
@@ -28,9 +29,13 @@ void add(const Command& command, std::vector<Command>& table) {
     table.insert(lastKin == table.rend() ? table.end() : lastKin.base(), command);
 }
 
+InstallUse useOf(const Command& command, const QHash<QString, QString>& options) {
+    if (options.contains(dryRunOption.name)) return InstallUse::trial;
+    return command.writes ? InstallUse::writing : InstallUse::reading;
+}
+
 /// False after the message of what is missing.
-bool makeReady(const Command& command, Session& session) {
-    const InstallUse use = command.writes ? InstallUse::writing : InstallUse::reading;
+bool makeReady(const Command& command, InstallUse use, Session& session) {
     if (command.needs == Needs::simulator) {
         if (!startUp(session, use)) return false;
         // What copies sets has to know whether a splash goes with them.
@@ -53,7 +58,7 @@ const std::vector<Command>& commandTable() {
         for (const auto commandsOfSubject :
              {cycleCommands, airportCommands, routeCommands, groundCommands, skyCommands, nightCommands,
               flightCommands, optionCommands, originalsCommands, stockCommands, spaceCommands, configCommands,
-              pictureCommands})
+              pictureCommands, sheetCommands, readyCommands})
             for (const Command& command : commandsOfSubject())
                 add(command, all);
         return all;
@@ -62,11 +67,12 @@ const std::vector<Command>& commandTable() {
 }
 
 int runCommand(const Command& command, CommandContext context) {
+    const InstallUse use = useOf(command, context.options);
     bool isReady = false;
     try {
         std::optional<Writing> writing; // before the first look at what will be changed
-        if (command.writes) writing.emplace(context.session);
-        isReady = (!writing || *writing) && makeReady(command, context.session);
+        if (use == InstallUse::writing) writing.emplace(context.session);
+        isReady = (!writing || *writing) && makeReady(command, use, context.session);
         if (isReady) reportFailures(context.user, {}, [&] { command.run(context); });
     } catch (const RoadEnded&) {
         isReady = false;

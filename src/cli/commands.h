@@ -52,7 +52,8 @@ struct Command {
     std::vector<Operand> operands = {};
     std::vector<CommandOption> options = {};
     Needs needs = Needs::simulator;
-    bool writes = false; ///< into the install or the simulator
+    bool writes = false;       ///< into the install or the simulator
+    bool makesInstall = false; ///< an install folder in which nothing lies yet is filled first
     /// Failures are messages; the exit status follows from those.
     void (*run)(CommandContext&);
     /// What is wrong with operands and options that are good each by itself; empty when nothing is.

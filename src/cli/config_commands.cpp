@@ -10,12 +10,15 @@
 #include "simulator/option_table.h"
 #include "simulator/options.h"
 #include "weather/active_sky.h"
+#include "weather/weather_sources.h"
 
 #include <algorithm>
 
 namespace morvane {
 
 namespace {
+
+const QString weatherSetting = u"weather"_s;
 
 /// A text among the registry values that the console can set.
 struct Setting {
@@ -37,6 +40,10 @@ QString flightsProblem(Session& session, const QString& folder) {
     return u"Morvane's own Flights folder cannot be the folder of your saved flights: "_s + folder;
 }
 
+QString weatherProblem(Session& session, const QString& names) {
+    return weatherSourcesProblem(session.registry, names);
+}
+
 QString noProblem(Session&, const QString&) {
     return {};
 }
@@ -46,6 +53,7 @@ const std::vector<Setting>& settings() {
         {u"simulator"_s, simulatorKey, u"EXE Path"_s, simulatorProblem, true},
         {u"flights"_s, morvaneKey, u"NonEnglishPath"_s, flightsProblem, true},
         {u"runner"_s, morvaneKey, u"SimulatorRunner"_s, noProblem, false},
+        {weatherSetting, morvaneKey, u"WeatherSources"_s, weatherProblem, false},
     };
     return all;
 }
@@ -62,9 +70,16 @@ QString ownText(const Session& session, const QString& value) {
     return session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, value);
 }
 
+/// Of the weather the sources in force: a name that nobody knows is none of them.
+QString shownText(const Session& session, const Setting& setting) {
+    if (setting.name != weatherSetting) return textOf(session, setting);
+    const QStringList names = weatherSourceNames(session.registry);
+    return names.isEmpty() ? u"none"_s : names.join(u';');
+}
+
 void get(CommandContext& context) {
     const Setting& setting = settingOf(context);
-    printJson(QJsonDocument(QJsonObject{{setting.name, textOf(context.session, setting)}}));
+    printJson(QJsonDocument(QJsonObject{{setting.name, shownText(context.session, setting)}}));
 }
 
 void set(CommandContext& context) {
@@ -103,12 +118,13 @@ void show(CommandContext& context) {
     Session& session = context.session;
     QJsonObject shown{{u"home"_s, session.AppPath.text()}};
     for (const Setting& setting : settings())
-        shown.insert(setting.name, textOf(session, setting));
+        shown.insert(setting.name, shownText(session, setting));
     shown.insert(u"activesky"_s,
                  session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, activeSkyKey, u"Install_Path"_s));
     shown.insert(u"weather"_s, QJsonObject{{u"server"_s, ownText(session, u"WeatherServer"_s)},
                                            {u"path"_s, ownText(session, u"WeatherPath"_s)},
-                                           {u"format"_s, ownText(session, u"WeatherFormat"_s)}});
+                                           {u"format"_s, ownText(session, u"WeatherFormat"_s)},
+                                           {u"sources"_s, shown[weatherSetting]}});
     shown.insert(u"switches"_s, switchesOf(session));
     printJson(QJsonDocument(shown));
 }
@@ -117,28 +133,30 @@ void show(CommandContext& context) {
 
 std::vector<Command> configCommands() {
     Operand setting{.name = u"SETTING"_s,
-                    .meaning = u"the simulator's folder, the saved flights' folder, or the command "
-                               "that starts Windows programs"_s};
+                    .meaning = u"the simulator's folder, the saved flights' folder, the command that "
+                               "starts Windows programs, or the weather's sources in their order"_s};
     for (const Setting& each : settings())
         setting.entries << each.name;
-    return {{.words = u"config show"_s,
-             .needs = Needs::folder,
-             .run = show,
-             .meaning = u"paths, weather source and switches"_s,
-             .example = u"config show"_s},
-            {.words = u"config get"_s,
-             .operands = {setting},
-             .needs = Needs::folder,
-             .run = get,
-             .meaning = u"one of the settings"_s,
-             .example = u"config get simulator"_s},
-            {.words = u"config set"_s,
-             .operands = {setting, {u"VALUE"_s, u"a folder, or a command such as wine"_s}},
-             .needs = Needs::folder,
-             .writes = true,
-             .run = set,
-             .meaning = u"stores one of the settings"_s,
-             .example = u"config set simulator \"/games/Flight Simulator 9\""_s}};
+    return {
+        {.words = u"config show"_s,
+         .needs = Needs::folder,
+         .run = show,
+         .meaning = u"paths, weather source and switches"_s,
+         .example = u"config show"_s},
+        {.words = u"config get"_s,
+         .operands = {setting},
+         .needs = Needs::folder,
+         .run = get,
+         .meaning = u"one of the settings"_s,
+         .example = u"config get simulator"_s},
+        {.words = u"config set"_s,
+         .operands = {setting,
+                      {u"VALUE"_s, u"a folder, a command such as wine, or sources such as \"awc;noaa\""_s}},
+         .needs = Needs::folder,
+         .writes = true,
+         .run = set,
+         .meaning = u"stores one of the settings"_s,
+         .example = u"config set simulator \"/games/Flight Simulator 9\""_s}};
 }
 
 } // namespace morvane

@@ -18,7 +18,7 @@ void print(const QString& text) {
 bool isWholeCommand(const UserAnswers& asked) {
     static constexpr Question deciding[] = {
         Question::setAction, Question::confirmDelete, Question::skyAction, Question::installMatchingSets,
-        Question::backup,    Question::undoInstall,   Question::takeOver};
+        Question::backup,    Question::undoInstall,   Question::takeOver,  Question::replaceFile};
     return std::ranges::any_of(deciding, [&](Question question) { return asked.isPending(question); });
 }
 
@@ -30,7 +30,8 @@ ConsoleUser::ConsoleUser(const Settings& settings)
     lastPaint_.start();
 }
 
-void ConsoleUser::noteFailure() {
+void ConsoleUser::noteFailure(const QString& text) {
+    failure_ = text;
     failedBefore_ = failed_;
     failed_ = true;
 }
@@ -44,7 +45,7 @@ void ConsoleUser::showMessage(const Message& message) {
     endProgressLine();
     const bool harmless = message.kind == MessageKind::information || message.kind == MessageKind::question ||
                           message.kind == MessageKind::progress;
-    if (!harmless) noteFailure();
+    if (!harmless) noteFailure(message.text);
     progressVisible_ = message.isProgress;
     progressTitle_ = message.title;
     progressFile_.clear();
@@ -114,9 +115,13 @@ std::optional<bool> ConsoleUser::answerOfPending() {
     return answerOf(u"OK"_s);
 }
 
-void ConsoleUser::answerPending() {
+void ConsoleUser::endWhereInterrupted() {
     pumpMessages();
     if (isInterrupted_) throw RoadEnded{};
+}
+
+void ConsoleUser::answerPending() {
+    endWhereInterrupted();
     const std::optional<bool> answer = answerOfPending();
     const bool isPersonal = answers().isPending(Question::wideClient);
     if (!answer) {
@@ -131,7 +136,7 @@ bool ConsoleUser::systemBox(const QString& text, const QString& title, SystemBox
     endProgressLine();
     print((title.isEmpty() ? QString() : title + u": "_s) + text + u'\n');
     if (buttons == SystemBoxButtons::ok) {
-        noteFailure();
+        noteFailure(text);
         return true;
     }
     if (canChooseFolder_) return answerOf(u"Yes"_s).value_or(false);

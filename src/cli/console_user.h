@@ -50,11 +50,17 @@ public:
     /// True once a message of any kind but Information, Question and Progress was shown, or a plain box; but
     /// not for one that only asked for a folder and got it.
     bool hasFailed() const { return failed_; }
+    /// The text of the last of those.
+    const QString& lastFailure() const { return failure_; }
+    /// What failed so far was made good in another way.
+    void makeGood() { failed_ = failedBefore_ = false; }
+    /// Ends the road where Ctrl-C was pressed since the last question; for a road that asks none.
+    void endWhereInterrupted();
     /// True once nobody answered a question on which the whole command hangs.
     bool wasLeftOpen() const { return wasLeftOpen_; }
 
 private:
-    void noteFailure();
+    void noteFailure(const QString& text);
     std::optional<bool> answerOf(const QString& question);
     std::optional<bool> answerOfPending();
     void answerPending();
@@ -68,7 +74,7 @@ private:
     bool progressVisible_ = false;
     bool progressLineOpen_ = false;
     bool canChooseFolder_;
-    QString progressTitle_, progressFile_;
+    QString progressTitle_, progressFile_, failure_;
     QElapsedTimer lastPaint_;
 };
 

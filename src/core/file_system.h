@@ -68,6 +68,8 @@ public:
     /// In bytes, for this user; -1 where the system does not tell.
     virtual std::int64_t freeSpace(const FilePath& folder) = 0;
     virtual QByteArray read(const FilePath& file) = 0;
+    /// So many bytes from that offset; fewer where the file ends before.
+    virtual QByteArray readPart(const FilePath& file, std::int64_t from, std::int64_t count) = 0;
     /// Nothing for a file that is not there, nor for a link that leads nowhere.
     std::optional<QByteArray> readIfThere(const FilePath& file);
     /// Replaces the file's contents; never leaves half of them, nor anything else when it fails.
@@ -107,6 +109,7 @@ public:
     FileStamp stamp(const FilePath& path) override;
     std::int64_t freeSpace(const FilePath& folder) override;
     QByteArray read(const FilePath& file) override;
+    QByteArray readPart(const FilePath& file, std::int64_t from, std::int64_t count) override;
     void write(const FilePath& file, const QByteArray& contents) override;
     bool writeNew(const FilePath& file, const QByteArray& contents) override;
     void append(const FilePath& file, const QByteArray& contents) override;

@@ -15,7 +15,11 @@ QString defaultInstallFolder();
 QString userInstallFolder();
 
 /// What the program is started for.
-enum class InstallUse { reading, writing };
+enum class InstallUse {
+    reading, ///< what a start looks after is done all the same, where it can be
+    writing,
+    trial, ///< nothing is written at all
+};
 
 /// Found by writing: what a system tells of a folder need not be so.
 bool canWriteInto(FileSystem& files, const FilePath& folder);

@@ -227,6 +227,16 @@ QByteArray NativeFileSystem::read(const FilePath& file) {
     return contents;
 }
 
+QByteArray NativeFileSystem::readPart(const FilePath& file, std::int64_t from, std::int64_t count) {
+    QFile in(file.native());
+    openFile(in, file, QIODevice::ReadOnly | QIODevice::Unbuffered, heldFiles_);
+    if (!in.seek(from)) throw Error(ErrorCode::ioFailure, file.text());
+    const QByteArray part =
+        in.read(std::min<std::int64_t>(count, std::max<std::int64_t>(in.size() - from, 0)));
+    if (in.error() != QFileDevice::NoError) throw Error(ErrorCode::ioFailure, file.text());
+    return part;
+}
+
 void NativeFileSystem::write(const FilePath& file, const QByteArray& contents) {
     const FilePath placed = file.resolved(), part = partOf(placed);
     try {

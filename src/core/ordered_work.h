@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -42,6 +43,13 @@ public:
         if (started_ < count_) startNext();
         if (threads_.empty()) waiting_.front()(); // a single piece is not worth a thread
         return first.get();
+    }
+
+    /// The next result is there: nobody has to wait for it. False behind the last.
+    bool isNextReady() const {
+        using std::chrono::seconds;
+        if (pending_.empty()) return false;
+        return threads_.empty() || pending_.front().wait_for(seconds(0)) == std::future_status::ready;
     }
 
 private:
@@ -101,6 +109,7 @@ public:
         results_.pop_front();
         return first;
     }
+    bool isNextReady() const { return !results_.empty() || shares_.isNextReady(); }
 
 private:
     static constexpr std::size_t share = 8;

@@ -164,6 +164,19 @@ const Schema& programSchema() {
           {.name = u"METAR_LAT"_s, .width = 50},
           {.name = u"METAR_LONG"_s, .width = 50}}},
         {u"WX_STATIONS"_s, {{.name = u"WX_STATION_ICAO"_s, .width = 50}}},
+        {u"WEATHER_SOURCES"_s,
+         {{.name = u"SOURCE_ADDRESS"_s, .width = 1024, .isLookedUp = true},
+          {.name = u"SOURCE_TEXT"_s, .width = 1024},
+          {.name = u"ASKED_AT"_s, .width = 50},
+          {.name = u"NOT_BEFORE"_s, .width = 50},
+          {.name = u"REFUSALS"_s, .kind = ColumnKind::number},
+          {.name = u"HAS_ANSWERED"_s, .kind = ColumnKind::flag},
+          {.name = u"OUTCOME"_s, .width = 255},
+          {.name = u"IS_STORED"_s, .kind = ColumnKind::flag},
+          {.name = u"STORED_FILE"_s, .width = 1100},
+          {.name = u"ENTITY_TAG"_s, .width = 255},
+          {.name = u"LAST_MODIFIED"_s, .width = 255}},
+         2},
     };
     return schema;
 }

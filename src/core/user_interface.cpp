@@ -59,8 +59,10 @@ QString screenName(Screen screen) {
         u"frm_WhatIsKept",
         u"frm_Switcher",
         u"frm_InSimulator",
+        u"frm_Ready",
+        u"frm_SetSheet",
     };
-    static_assert(std::size(names) == static_cast<std::size_t>(Screen::frm_InSimulator) + 1);
+    static_assert(std::size(names) == static_cast<std::size_t>(Screen::frm_SetSheet) + 1);
     return QString::fromUtf16(names[static_cast<std::size_t>(screen)]);
 }
 

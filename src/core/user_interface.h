@@ -70,6 +70,8 @@ enum class Screen {
     frm_WhatIsKept,
     frm_Switcher,
     frm_InSimulator,
+    frm_Ready,
+    frm_SetSheet,
 };
 
 /// Names as text, for logs of tests and for windows.

@@ -81,12 +81,15 @@ bool GroundGeneration::createAll(const Job& job, int total, bool fromMain) {
         for (int i = 0; i < count; ++i) {
             const bool isStored = createRandomSet(job, cloudNumber, {++setsDone, total}, fromMain);
             if (isStored && !job.isCancelled()) continue;
-            if (job.isCancelled()) dropUnfinishedSet();
             session_.user.hideMessage();
             return false;
         }
     }
     return true;
+}
+
+Reported GroundGeneration::createOneSet(const Job& job, int cloudNumber, int number, int total) {
+    return createRandomSet(job, cloudNumber, {number, total}, true);
 }
 
 void GroundGeneration::dropUnfinishedSet() {
@@ -101,7 +104,9 @@ Reported GroundGeneration::createRandomSet(const Job& job, int cloudNumber, Coun
     session_.state<GroundSelection>().SelectedGroundSet.clear();
     SliderValues sliders{};
     getRandomGroundValues(session_, cloudNumber, sliders);
-    return createSet(job, cloudNumber, sliders, counters, fromMain);
+    const bool isStored = createSet(job, cloudNumber, sliders, counters, fromMain);
+    if (job.isCancelled()) dropUnfinishedSet();
+    return isStored;
 }
 
 /// False when the store refused the set: it would refuse those behind it, too.

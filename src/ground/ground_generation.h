@@ -25,6 +25,10 @@ public:
     /// Asks for the quantities (frm_TsRequired) and makes the sets, all of one cloud cover before the next.
     /// `fromMain` tells which screen started the run and comes back at its end.
     void createTextureSets(bool fromMain);
+    /// One set in random colours for the cloud cover of that number, 1 to 5, as a part of the job. A cancel
+    /// takes it away again. False when the store refused it, which was told: it would refuse another one,
+    /// too.
+    Reported createOneSet(const Job& job, int cloudNumber, int number, int total);
 
 private:
     bool createAll(const Job& job, int total, bool fromMain);

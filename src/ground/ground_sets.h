@@ -3,6 +3,7 @@
 #include "ground/ground_selection.h"
 #include "ground/texture_sets.h"
 #include "sets/recoloured_kind.h"
+#include "sets/recoloured_sharing.h"
 #include "sets/set_kind.h"
 
 namespace morvane {
@@ -14,6 +15,7 @@ class GroundInstallation;
 struct GroundKind : KindOfSet<GroundKind, clsTextureSet, GroundSelection> {
     using Activation = GroundGeneration;
     using Installation = GroundInstallation;
+    using Sharing = RecolouredSharing<GroundKind>;
 
     static const SetKindFacts& facts();
     static constexpr auto nameInHand = &GroundSelection::SelectedGroundSet;

@@ -48,7 +48,6 @@ QString GroundTuning::sampleCaption() const {
 
 void GroundTuning::complete(clsTextureSet& record) const {
     record.CloudCover = tuningCloudWord_;
-    record.IsDutch = true; // as every set, whatever the switch says
 }
 
 } // namespace morvane

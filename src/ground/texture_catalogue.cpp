@@ -9,6 +9,7 @@ namespace morvane {
 namespace {
 
 const QString winterEnding = u"wi*.bmp"_s;
+constexpr int winter = 3;
 
 QStringList split(const char16_t* patterns) {
     return QStringView(patterns).toString().split(u' ', Qt::SkipEmptyParts);
@@ -50,6 +51,7 @@ TextureCatalogue::Folders TextureCatalogue::ruralFoldersOf(const Folders& indust
 
 void TextureCatalogue::walkCategory(std::size_t number, bool forSet, const QString& setName) {
     const CatalogueCategory& category = catalogueTable()[number - 1];
+    category_ = static_cast<int>(number);
     const Folders folders = foldersOf(category, forSet, setName);
     if (number == industrialCategory)
         walkIndustrialRuns(folders, forSet, setName);
@@ -76,13 +78,15 @@ void TextureCatalogue::walkSeasons(const Folders& folders, const Walk& walk) {
                                                 {flags.popFall, u"fa"_s},
                                                 {flags.popWinter, u"wi"_s}};
     const QString ending = walk.firstFileOnly ? u"1.bmp"_s : u"*.bmp"_s;
+    season_ = 0;
     for (const auto& [wanted, season] : seasons) {
-        if (!wanted) continue;
-        for (const QString& pattern : walk.patterns)
+        for (const QString& pattern : wanted ? walk.patterns : QStringList())
             listMatches(folders, pattern + season + ending);
+        ++season_;
     }
     // Winter once more, without a look at its flag: the files then stand twice and are made twice. Wanted.
     if (!walk.extraWinter) return;
+    season_ = winter;
     for (const QString& pattern : walk.patterns)
         listMatches(folders, pattern + winterEnding);
 }
@@ -100,7 +104,7 @@ void TextureCatalogue::listMatches(const Folders& folders, const QString& filePa
     if (!listings_.contains(folder)) listings_[folder] = session_.files.list(folders.source, u"*.*"_s);
     for (const QString& name : listings_[folder])
         if (matchesMask(name, filePattern))
-            files_.push_back({name, folders.source, folders.target, folders.temp});
+            files_.push_back({name, folders.source, folders.target, folders.temp, category_, season_});
 }
 
 } // namespace morvane

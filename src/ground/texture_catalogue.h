@@ -49,6 +49,7 @@ private:
 
     Session& session_;
     std::vector<CatalogueFile> files_;
+    int category_ = 0, season_ = 0;        ///< of the files that are listed now
     QHash<QString, QStringList> listings_; ///< of each folder, read once for its hundreds of patterns
 };
 

@@ -28,14 +28,16 @@ void cColourise::processSky(const cDIBSection& source, cDIBSection& destination)
 }
 
 void cColourise::processGroups(const SkyGroups& groups, const cDIBSection& source, cDIBSection& destination) {
-    report([&] {
-        walkPixels(source, destination, [&](RgbColour colour, std::uint8_t* target, int x, int y) {
-            // What goes on to the next group is not clamped; only what is stored.
-            for (const SkyGroup& group : groups) {
-                if (belongsToGroup(group, x, y)) colour = recolouredByGroup(group, colour);
-                storeClamped(colour, target);
-            }
-        });
+    report([&] { recolourSky(groups, source, destination); });
+}
+
+void recolourSky(const SkyGroups& groups, const cDIBSection& source, cDIBSection& destination) {
+    walkPixels(source, destination, [&](RgbColour colour, std::uint8_t* target, int x, int y) {
+        // What goes on to the next group is not clamped; only what is stored.
+        for (const SkyGroup& group : groups) {
+            if (belongsToGroup(group, x, y)) colour = recolouredByGroup(group, colour);
+            storeClamped(colour, target);
+        }
     });
 }
 

@@ -42,4 +42,8 @@ private:
     std::optional<Recolouring> recolouring_; ///< of the last values: a set has the same for all its files
 };
 
+/// `cColourise.processSkyTexture` as a pure operation, for any thread. Raises what walkPixels and the
+/// arithmetic of a group raise.
+void recolourSky(const SkyGroups& groups, const cDIBSection& source, cDIBSection& destination);
+
 } // namespace morvane

@@ -27,13 +27,13 @@ Picture readPixels(const BitmapHeader& header, Bytes file) {
     refusePicture(u"unknown compression");
 }
 
+} // namespace
+
 void turnOver(Picture& picture) {
     const int size = bytesPerRow(picture.width);
     for (int low = 0, high = picture.height - 1; low < high; ++low, --high)
         std::swap_ranges(rowOf(picture, low), rowOf(picture, low) + size, rowOf(picture, high));
 }
-
-} // namespace
 
 Picture readPicture(const QByteArray& bytes) {
     const Bytes file(reinterpret_cast<const std::uint8_t*>(bytes.constData()),

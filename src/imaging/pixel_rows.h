@@ -33,6 +33,9 @@ inline Picture blackPicture(const BitmapHeader& header) {
     return {header.width, header.height, std::vector<std::uint8_t>(size)};
 }
 
+/// The first row becomes the last.
+void turnOver(Picture& picture);
+
 /// The first byte of row y of the picture, 0 the first in memory.
 inline std::uint8_t* rowOf(Picture& picture, int y) {
     return picture.rows.data() +

@@ -3,6 +3,7 @@
 #include "night/night_selection.h"
 #include "night/night_texture_sets.h"
 #include "sets/recoloured_kind.h"
+#include "sets/recoloured_sharing.h"
 #include "sets/set_kind.h"
 
 namespace morvane {
@@ -14,6 +15,7 @@ class NightInstallation;
 struct NightKind : KindOfSet<NightKind, clsNightTextureSet, NightSelection> {
     using Activation = NightGeneration;
     using Installation = NightInstallation;
+    using Sharing = RecolouredSharing<NightKind>;
 
     static const SetKindFacts& facts();
     static constexpr auto nameInHand = &NightSelection::SelectedNightSet;

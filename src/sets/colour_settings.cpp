@@ -2,8 +2,10 @@
 
 #include "core/error.h"
 #include "core/numbers.h"
+#include "imaging/slider_steps.h"
 
 #include <QStringList>
+#include <algorithm>
 
 namespace morvane {
 
@@ -11,6 +13,10 @@ namespace {
 
 constexpr double channelScale = 20.0 / 100;
 constexpr double levelScale = 30.0 / 100;
+
+bool isWithin(float value, double scale) {
+    return value >= sliderLowest * scale && value <= sliderHighest * scale;
+}
 
 } // namespace
 
@@ -32,6 +38,15 @@ ColourValues parseColourSettings(const QString& text, const QString& decimalSepa
         return static_cast<float>(textToNumber(number));
     };
     return {field(0), field(1), field(2), field(3), field(4), field(5)};
+}
+
+bool areWithinSliders(const ColourValues& values) {
+    const auto areWithin = [](std::initializer_list<float> fields, double scale) {
+        return std::ranges::all_of(fields, [scale](float field) { return isWithin(field, scale); });
+    };
+    return isWithin(values.saturation, 1) &&
+           areWithin({values.red, values.green, values.blue}, channelScale) &&
+           areWithin({values.brightness, values.contrast}, levelScale);
 }
 
 ColourValues effectiveColours(const SliderValues& sliders) {

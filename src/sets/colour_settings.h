@@ -12,6 +12,8 @@ namespace morvane {
 QString colourSettingsText(const ColourValues& values);
 /// Raises "Subscript out of range" with fewer than six fields and "Type mismatch" when one is no number.
 ColourValues parseColourSettings(const QString& text, const QString& decimalSeparator = u"."_s);
+/// Whether sliders can stand so: within the ranges that `ColourValues` names.
+bool areWithinSliders(const ColourValues& values);
 /// Slider positions as effective values: saturation as it is, red, green and blue times 20/100, brightness
 /// and contrast times 30/100, in double precision and then cut to 32 bits.
 ColourValues effectiveColours(const SliderValues& sliders);

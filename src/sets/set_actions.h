@@ -22,15 +22,35 @@ bool SetActions<Kind>::install(Session& session) {
 }
 
 template <class Kind>
-int SetActions<Kind>::install(Session& session, const QString& name) {
+InstalledFiles SetActions<Kind>::install(Session& session, const QString& name) {
     typename Kind::Installation installation(session);
-    installation.install(name);
-    return installation.filesCopied();
+    const Reported isWhole = installation.install(name);
+    return {installation.filesCopied(), isWhole};
 }
 
 template <class Kind>
 Reported SetActions<Kind>::installInside(Session& session, Job& job, const QString& name) {
     return typename Kind::Installation(session).installInside(job, name);
+}
+
+template <class Kind>
+SharedSet SetActions<Kind>::share(Session& session, const QString& name) {
+    const auto set = findSet<Kind>(session, name);
+    SharedSet shared = Kind::Sharing::share(session, *set);
+    shared.kind = Kind::facts().word.toLower();
+    shared.name = nameWithoutKey(nameOf(*set));
+    shared.description = set->Description;
+    if constexpr (requires { set->CloudCover; }) shared.cover = set->CloudCover;
+    return shared;
+}
+
+template <class Kind>
+Reported SetActions<Kind>::receive(Session& session, const SharedSet& shared) {
+    typename Kind::Record record;
+    record.*Kind::Record::table().rows.name = shared.name;
+    record.Description = sharedDescription(shared);
+    if constexpr (requires { record.CloudCover; }) record.CloudCover = checkedCover(shared);
+    return Kind::Sharing::save(session, std::move(record), shared);
 }
 
 } // namespace morvane

@@ -14,9 +14,9 @@ bool SetInstallation::install() {
     return isInstalled && !session_.CommandLineRun && kind_.match.has_value();
 }
 
-void SetInstallation::install(const QString& name) {
+Reported SetInstallation::install(const QString& name) {
     set_.inHand(session_).name = name;
-    runAlone(false);
+    return runAlone(false) == Outcome::installed;
 }
 
 Reported SetInstallation::installInside(Job& job, const QString& name) {

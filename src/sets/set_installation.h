@@ -40,7 +40,7 @@ public:
     /// offerSimulatorStart): behind the install of a kind that the weather chooses.
     bool install();
     /// The set of that name, which is taken in hand, without a question: as on the road from the weather.
-    void install(const QString& name);
+    Reported install(const QString& name);
     /// The same as a part of a job that is running already. False when the store refused to record it: the
     /// job then ends, too.
     Reported installInside(Job& job, const QString& name);

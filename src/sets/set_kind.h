@@ -4,6 +4,7 @@
 #include "core/reported.h"
 #include "sets/set_choice.h"
 #include "sets/set_selection.h"
+#include "sets/shared_set.h"
 #include "sets/stored_rows.h"
 
 #include <optional>
@@ -11,6 +12,12 @@
 namespace morvane {
 
 class Job;
+
+/// What an install of a set came to.
+struct InstalledFiles {
+    int copied = 0;       ///< the splash left out
+    bool isWhole = false; ///< it went through its list; else the user knows why, or wanted it so
+};
 
 /// What tells one kind of set from another wherever sets are made, installed and removed.
 struct SetKindFacts {
@@ -54,9 +61,16 @@ public:
     // Both are of a set that is there.
     virtual Reported storeActivation(Session& session, const QString& name, bool activated) const = 0;
     virtual Reported removeRecord(Session& session, const QString& name) const = 0;
+    /// As pilots pass it on. Raises for damaged colours.
+    virtual SharedSet share(Session& session, const QString& name) const = 0;
+
+    /// Stores it as a favourite, which the list then shows in hand: a row and empty folders, not activated.
+    /// Raises what is wrong with it before anything is made, as half a sentence.
+    virtual Reported receive(Session& session, const SharedSet& shared) const = 0;
+
     // Both take the named set in hand.
-    /// Without a question; gives the number of files that were copied.
-    virtual int install(Session& session, const QString& name) const = 0;
+    /// Without a question.
+    virtual InstalledFiles install(Session& session, const QString& name) const = 0;
     /// As a part of the job.
     virtual Reported installInside(Session& session, Job& job, const QString& name) const = 0;
 
@@ -73,6 +87,11 @@ struct WeatherKinds {
     const SetKind* sky = nullptr;
 };
 
+/// All of them; the start of the program brings them together.
+struct KnownKinds {
+    std::vector<const SetKind*> kinds;
+};
+
 /// What the user starts with a key or a command, on the sets of a kind in hand. What it does is in
 /// sets/set_actions.h.
 template <class Kind>
@@ -81,14 +100,17 @@ struct SetActions {
     static void activate(Session& session);
     /// Removes it or them; with `deactivateMode` only the files go and the colours stay.
     static void remove(Session& session, bool deactivateMode);
-    /// As SetInstallation has them; that of a name gives the number of files that were copied.
+    /// As SetInstallation has them.
     static bool install(Session& session);
-    static int install(Session& session, const QString& name);
+    static InstalledFiles install(Session& session, const QString& name);
     static Reported installInside(Session& session, Job& job, const QString& name);
+    /// As SetKind has them.
+    static SharedSet share(Session& session, const QString& name);
+    static Reported receive(Session& session, const SharedSet& shared);
 };
 
 /// What GroundKind, NightKind and SkyKind have; each adds its `facts()`, pointers to members of its
-/// selection, and the types `Activation` and `Installation`.
+/// selection, and the types `Activation`, `Installation` and `Sharing`.
 template <class Kind, class SetRecord, class KindSelection>
 struct KindOfSet : SetActions<Kind> {
     using Record = SetRecord;
@@ -158,9 +180,17 @@ public:
     Reported removeRecord(Session& session, const QString& name) const override {
         return loadedSets<Kind>(session).RemoveItem(keyOf(*findSet<Kind>(session, name)));
     }
-    int install(Session& session, const QString& name) const override { return Kind::install(session, name); }
+    InstalledFiles install(Session& session, const QString& name) const override {
+        return Kind::install(session, name);
+    }
     Reported installInside(Session& session, Job& job, const QString& name) const override {
         return Kind::installInside(session, job, name);
+    }
+    SharedSet share(Session& session, const QString& name) const override {
+        return Kind::share(session, name);
+    }
+    Reported receive(Session& session, const SharedSet& shared) const override {
+        return Kind::receive(session, shared);
     }
 };
 

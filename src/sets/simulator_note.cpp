@@ -84,6 +84,10 @@ std::optional<SimulatorNote> readSimulatorNote(FileSystem& files, const FilePath
         QDate::fromString(note.rawValue(section, u"Day"_s).value_or(QString()), Qt::ISODate)};
 }
 
+bool belongsToAnother(const Session& session) {
+    return ownerOf(session, readSimulatorNote(session.files, session.FSPath)) == Owner::another;
+}
+
 bool claimSimulator(Session& session) {
     const auto note = readSimulatorNote(session.files, session.FSPath);
     if (ownerOf(session, note) != Owner::another) return true;

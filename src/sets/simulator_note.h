@@ -18,6 +18,8 @@ struct SimulatorNote {
 /// Nothing without a readable one.
 std::optional<SimulatorNote> readSimulatorNote(FileSystem& files, const FilePath& simulator);
 
+/// Whether another install has put its textures there, so that `claimSimulator` would ask.
+bool belongsToAnother(const Session& session);
 /// Call it before anything is stored about a copy into the simulator. Where another install has put its
 /// textures there, the user is asked whether its record is to be taken over: with Yes that one's kept files
 /// and facts become ours, as far as they can be read. False when he wants to stay away.

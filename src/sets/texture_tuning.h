@@ -2,7 +2,7 @@
 
 #include "core/numbers.h"
 #include "sets/favourite_name.h"
-#include "sets/recoloured_kind.h"
+#include "sets/favourite_saving.h"
 #include "sets/slider_values.h"
 #include "sets/texture_sample.h"
 
@@ -29,7 +29,7 @@ public:
     void newFavourite() {
         if (askFavouriteName(session_))
             reportFailures(session_.user, morvaneError,
-                           [this] { saveFavourite(session_.state<FavouriteAnswer>()); });
+                           [this] { saveNamed(session_.state<FavouriteAnswer>()); });
     }
 
 protected:
@@ -45,23 +45,13 @@ protected:
 private:
     auto& selection() { return session_.state<typename Kind::Selection>(); }
 
-    /// The row is written before the folders: when they cannot be made it stands.
-    void saveFavourite(const FavouriteAnswer& answer) {
+    void saveNamed(const FavouriteAnswer& answer) {
         typename Kind::Record record;
         record.ColorSettings = colourSettingsText(selection().colours);
         record.TextureSet = trimmedBlanks(answer.favName);
-        record.Actvated = flagText(false); // it gets its files by activation only
         record.Description = trimmedBlanks(answer.favDescription);
-        record.IsNew = true;
         complete(record);
-        if (!loadedSets<Kind>(session_).Save(record)) return;
-        selection().*Kind::refreshList = true;
-        selection().madeSet = record.TextureSet;
-        loadSelection<Kind>(session_, listKeyOf(record));
-        for (const QString& subfolder : Kind::facts().subfolders)
-            session_.files.makeFolder(setFolder<Kind>(session_, record.TextureSet).child(subfolder));
-        session_.user.refreshScreen(Kind::facts().listScreen);
-        session_.user.showScreen(Kind::facts().listScreen);
+        saveFavourite<Kind>(session_, std::move(record));
     }
 };
 

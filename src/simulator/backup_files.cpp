@@ -145,8 +145,8 @@ DoneLine doneLine(const BackupReport& report) {
 
 } // namespace
 
-std::optional<BackupReport> createBackup(Session& session, bool isFirstRun) {
-    if (session.jobRunning || !isWanted(session, isFirstRun)) return std::nullopt;
+std::optional<BackupReport> createBackup(Session& session, bool isFirstRun, bool isConfirmed) {
+    if (session.jobRunning || !(isConfirmed || isWanted(session, isFirstRun))) return std::nullopt;
     const std::optional<BackupReport> report = runBackup(session, isFirstRun);
     if (report && !report->isComplete()) tellPartial(session, *report);
     return report;

@@ -164,6 +164,17 @@ QStringList savedFlights(Session& session) {
     return names;
 }
 
+QStringList flightsToGather(Session& session) {
+    QStringList names;
+    for (const FilePath& folder :
+         {flightsFolder(session), deliveredFlightsFolder(session), FilePath(usersFlightsFolder(session))})
+        if (!folder.isEmpty())
+            for (const QString& fileName : session.files.list(folder, flightMask))
+                names << baseName(fileName);
+    names.removeDuplicates();
+    return names;
+}
+
 FilePath savedFlightFile(const Session& session, const QString& name) {
     return flightsFolder(session).child(name + u".FLT"_s);
 }

@@ -28,6 +28,9 @@ extern const QString flightsProgressText;
 /// The names in "flights.cfg"; none, after a message, when that file is missing.
 QStringList savedFlights(Session& session);
 
+/// What `savedFlights` would name once the flights are gathered; nothing is asked, told or changed.
+QStringList flightsToGather(Session& session);
+
 /// The flight's file in the program's folder. A name with a separator in it raises "Path not found".
 FilePath savedFlightFile(const Session& session, const QString& name);
 

@@ -69,6 +69,8 @@ KeptItem passingOf(Session& session) {
 
 KeptItem baseImagesOf(Session& session) {
     KeptItem item = folderOf(session, KeptKind::baseImages, u"Base images"_s, session.AppPath / u"Resources");
+    // The small ones beside them are no base images, but take their room.
+    item.count -= roomBelow(session.files, session.AppPath / u"Resources\\Small Pictures").files;
     item.remark = hasKeptStock(session) ? u"of your simulator"_s : u"as delivered"_s;
     return item;
 }

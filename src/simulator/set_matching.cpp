@@ -19,18 +19,32 @@ struct MatchedKind {
     ClosestSearch search;
 };
 
-QString chooseSet(Session& session, const MatchedKind& matched, const std::vector<ActivatedSet>& sets,
-                  const CloudCover& cover) {
+const MatchedKind& groundMatch() {
+    static const MatchedKind matched{setKind<GroundKind>(), ClosestSearch::nextCover};
+    return matched;
+}
+
+const MatchedKind& skyMatch() {
+    static const MatchedKind matched{setKind<SkyKind>(), ClosestSearch::currentCover};
+    return matched;
+}
+
+ChosenSet chooseSet(Session& session, const MatchedKind& matched, const std::vector<ActivatedSet>& sets,
+                    const CloudCover& cover) {
     const QStringList names = namesForCover(sets, cover.word);
     // The draw stops short of the upper index, so the last candidate never comes, and of two always the
     // first. It stays as it is.
-    if (!names.isEmpty()) return drawName(session, names, names.size() - 1);
+    if (!names.isEmpty()) return {drawName(session, names, names.size() - 1), SetFit::fitting};
+    const auto closest = closestSet(sets, matched.search, cover);
+    return closest ? ChosenSet{*closest, SetFit::nearest} : ChosenSet{defaultSetName};
+}
+
+void tellNoneFits(Session& session, const MatchedKind& matched, const CloudCover& cover) {
     const QString& word = matched.kind.facts.word;
     session.user.showMessage({MessageKind::information, u"No Activated %1 Texture Sets"_s.arg(word),
                               u"you have no activated %1 texture sets equivalent to %2 MV will now install "
                               "the closest %1 texture set to %2"_s.arg(word.toLower(), cover.word),
                               true, false, false});
-    return closestSet(sets, matched.search, cover);
 }
 
 } // namespace
@@ -51,7 +65,8 @@ const CloudCover& getClosestCloudCover(const CloudCover& cover) {
     return *cloudCover(next[cover.number - 1]);
 }
 
-QString closestSet(const std::vector<ActivatedSet>& sets, ClosestSearch search, const CloudCover& cover) {
+std::optional<QString> closestSet(const std::vector<ActivatedSet>& sets, ClosestSearch search,
+                                  const CloudCover& cover) {
     const CloudCover* current = &cover;
     for (int round = 0; round < 4; ++round) {
         const CloudCover& next = getClosestCloudCover(*current);
@@ -61,7 +76,13 @@ QString closestSet(const std::vector<ActivatedSet>& sets, ClosestSearch search, 
         if (!names.isEmpty()) return names.front();
         current = &next;
     }
-    return defaultSetName;
+    return std::nullopt;
+}
+
+MatchedSets chooseMatchingSets(Session& session, const CloudCover& cover) {
+    // Both before the first draw: an empty collection is read from the store, which may fail.
+    const auto grounds = groundMatch().kind.activated(session), skies = skyMatch().kind.activated(session);
+    return {chooseSet(session, groundMatch(), grounds, cover), chooseSet(session, skyMatch(), skies, cover)};
 }
 
 MatchedSets installMatchingSets(Session& session, const CloudCover& cover) {
@@ -71,19 +92,24 @@ MatchedSets installMatchingSets(Session& session, const CloudCover& cover) {
         const Writing writing(session); // for both, so that they go together
         if (!writing) return;
         const UndoStep step(session); // one, of two installs
-        const MatchedKind ground{setKind<GroundKind>(), ClosestSearch::nextCover},
-            sky{setKind<SkyKind>(), ClosestSearch::currentCover};
-        const auto grounds = ground.kind.activated(session), skies = sky.kind.activated(session);
-        matched.ground = chooseSet(session, ground, grounds, cover);
-        matched.sky = chooseSet(session, sky, skies, cover);
-        matched.filesCopied += ground.kind.install(session, matched.ground);
-        matched.filesCopied += sky.kind.install(session, matched.sky);
+        matched = chooseMatchingSets(session, cover);
+        if (matched.ground.fit != SetFit::fitting) tellNoneFits(session, groundMatch(), cover);
+        if (matched.sky.fit != SetFit::fitting) tellNoneFits(session, skyMatch(), cover);
+        const InstalledFiles ground = groundMatch().kind.install(session, matched.ground.name);
+        const InstalledFiles sky = skyMatch().kind.install(session, matched.sky.name);
+        matched.filesCopied = ground.copied + sky.copied;
+        matched.isWhole = ground.isWhole && sky.isWhole;
     });
     return matched;
 }
 
 FlyReport flyNow(Session& session) {
     const auto cloudClass = selectCloudCoverMethod(session);
+    return cloudClass ? flyWithCover(session, coverOfClass(*cloudClass)) : FlyReport{};
+}
+
+FlyReport flyAlongPlan(Session& session, const FilePath& plan) {
+    const auto cloudClass = coverAlongPlan(session, plan);
     return cloudClass ? flyWithCover(session, coverOfClass(*cloudClass)) : FlyReport{};
 }
 

@@ -24,6 +24,14 @@ bool startSimulator(Session& session, const FilePath& flight) {
     return true;
 }
 
+/// On a WideFS client, after the notice.
+bool isLeftToServer(Session& session) {
+    if (!session.state<OptionsInForce>().IsWideClient) return false;
+    session.user.showMessage({MessageKind::information, u"Processing Complete"_s,
+                              u"Processing complete. You can now start Flight Simulator on the server."_s});
+    return true;
+}
+
 } // namespace
 
 bool startSavedFlight(Session& session) {
@@ -39,13 +47,13 @@ bool startSavedFlight(Session& session) {
     return startSimulator(session, savedFlightFile(session, choice.SelectedFlightName));
 }
 
+bool startUnasked(Session& session, const QString& flightName) {
+    if (isLeftToServer(session)) return false;
+    return startSimulator(session, flightName.isEmpty() ? FilePath() : savedFlightFile(session, flightName));
+}
+
 bool launchFlightSimulator(Session& session) {
-    if (session.state<OptionsInForce>().IsWideClient) {
-        session.user.showMessage(
-            {MessageKind::information, u"Processing Complete"_s,
-             u"Processing complete. You can now start Flight Simulator on the server."_s});
-        return false;
-    }
+    if (isLeftToServer(session)) return false;
     if (session.user.ask(Question::launch, u"Launch Flight Simulator?"_s,
                          u"Would you like Morvane to start Flight Simulator now?"_s))
         return startSimulator(session, {});

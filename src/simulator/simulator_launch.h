@@ -20,6 +20,10 @@ bool startSavedFlight(Session& session);
 /// that it can be started on the server. True when it was started; why it was not is told.
 bool launchFlightSimulator(Session& session);
 
+/// The start without a question, as somebody has asked for it beforehand: with that saved flight, or with
+/// none where the name is empty. Else as `launchFlightSimulator`.
+bool startUnasked(Session& session, const QString& flightName);
+
 /// The same behind an install by hand, where nobody needs to know; a failure is told.
 void offerSimulatorStart(Session& session);
 

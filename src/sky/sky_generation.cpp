@@ -205,7 +205,6 @@ void SkyGeneration::newFavSky() {
     if (askFavouriteName(session_)) saveSkySetFromTuning(session_.state<FavouriteAnswer>().favName);
 }
 
-/// The rows are written before the folder: when it cannot be made they stand.
 void SkyGeneration::saveSkySetFromTuning(const QString& name) {
     reportFailures(session_.user, morvaneError, [&] {
         loadSkyTuning(session_);
@@ -215,14 +214,19 @@ void SkyGeneration::saveSkySetFromTuning(const QString& name) {
         set.SkyTextureSet = trimmedBlanks(name);
         set.Description = trimmedBlanks(session_.state<FavouriteAnswer>().favDescription);
         set.CloudCover = trimmedBlanks(tuning.cloudCover);
-        set.Activated = flagText(false); // it gets its files by activation only
-        set.IsNew = true;
-        if (!loadedSkySets(session_).Save(set)) return;
-        session_.state<SkySelection>().RefreshSkyList = true;
-        if (!storeSubSet(set, tunedStrings())) return;
-        session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
-        showNewestSet();
+        saveFavourite(std::move(set), tunedStrings());
     });
+}
+
+Reported SkyGeneration::saveFavourite(clsSkyTextureSet set, const SkyStrings& strings) {
+    set.Activated = flagText(false); // it gets its files by activation only
+    set.IsNew = true;
+    if (!loadedSkySets(session_).Save(set)) return false;
+    session_.state<SkySelection>().RefreshSkyList = true;
+    if (!storeSubSet(set, strings)) return false;
+    session_.files.makeFolder(skySetFolder(session_, set.SkyTextureSet));
+    showNewestSet();
+    return true;
 }
 
 /// The table gets the regions too: a group that was never clicked has none there.

@@ -42,6 +42,9 @@ public:
     void newFavSky();
     /// The saving alone, with the description of the dialog: rows and an empty folder, not activated.
     void saveSkySetFromTuning(const QString& name);
+    /// The same of any set and its colours. The rows are written before the folder: when it cannot be made
+    /// they stand.
+    Reported saveFavourite(clsSkyTextureSet set, const SkyStrings& strings);
 
 private:
     void createAll(const Job& job);

@@ -3,6 +3,7 @@
 #include "sets/set_actions.h"
 #include "sky/sky_activation.h"
 #include "sky/sky_installation.h"
+#include "sky/sky_sharing.h"
 
 namespace morvane {
 

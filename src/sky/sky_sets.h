@@ -8,11 +8,13 @@ namespace morvane {
 
 class SkyActivation;
 class SkyInstallation;
+struct SkySharing;
 
 /// The sky as a kind of set.
 struct SkyKind : KindOfSet<SkyKind, clsSkyTextureSet, SkySelection> {
     using Activation = SkyActivation;
     using Installation = SkyInstallation;
+    using Sharing = SkySharing;
 
     static const SetKindFacts& facts();
     static constexpr auto nameInHand = &SkySelection::SelectedSkySet;

@@ -19,7 +19,7 @@ public:
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         state.disabled = key().state() == ButtonState::disabled;
-        state.pressed = key().state() == ButtonState::down;
+        state.pressed = key().state() == ButtonState::down || key().isLatched();
         state.hotTracked = key().state() == ButtonState::highlight;
         return state;
     }

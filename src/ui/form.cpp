@@ -1,10 +1,25 @@
 #include "ui/form.h"
 
+#include "core/opened_file.h"
 #include "ui/shell.h"
 
+#include <QDropEvent>
+#include <QMimeData>
 #include <QRadioButton>
+#include <QUrl>
 
 namespace morvane {
+
+namespace {
+
+/// The first that the shell opens; empty where there is none.
+QString droppedFile(const QMimeData& data) {
+    for (const QUrl& url : data.urls())
+        if (const QString file = url.toLocalFile(); openedFile(file) != OpenedFile::none) return file;
+    return {};
+}
+
+} // namespace
 
 Form::Form(Shell& shell, const QString& name, QWidget* parent) : QWidget(parent), shell_(shell) {
     setObjectName(name);
@@ -52,6 +67,19 @@ bool Form::focusFirst() {
     if (control == this) return false;
     control->setFocus();
     return true;
+}
+
+void Form::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+/// The file stays where it is, whatever the other program would have liked.
+void Form::dropEvent(QDropEvent* event) {
+    const QString file = droppedFile(*event->mimeData());
+    if (file.isEmpty()) return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    shell_.openFile(file);
 }
 
 /// A group of options has one stop of Tab. Left to itself it is the option that had the focus last, even

@@ -55,6 +55,9 @@ public:
 
 protected:
     void setFirstFocus(QWidget* control) { firstFocus_ = control; }
+    // Of a screen that accepts drops: one file that the shell opens, whatever else is dropped with it.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     bool canHaveFocus(const QWidget* control) const;

@@ -31,6 +31,8 @@ const WindowLook nightLook{u"MVNightInterface.bmp"_s, mainRegion, mainSize};
 const WindowLook messageLook{u"MVMsg_BG.bmp"_s, u"MsgRegion.dat"_s, {400, 300}};
 const WindowLook smallDialogLook{u"MVAdd_BG.bmp"_s, u"AddRegion.dat"_s, {400, 360}};
 const WindowLook wideDialogLook{u"MVWide_BG.bmp"_s, u"RandomizerRegion.dat"_s, {700, 500}};
+const WindowLook readyDialogLook{u"MVReady_BG.bmp"_s, u"ReadyRegion.dat"_s, {520, 424}};
+const WindowLook sheetLook{u"MVSheet_BG.bmp"_s, u"SheetRegion.dat"_s, {880, 580}};
 
 QRegion outlineOf(const QPixmap& picture, const QSize& size) {
     const QImage scaled = picture.toImage().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

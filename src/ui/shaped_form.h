@@ -14,7 +14,7 @@ struct WindowLook {
 };
 
 extern const WindowLook mainLook, groundLook, skyLook, nightLook; ///< one outline for all four
-extern const WindowLook messageLook, smallDialogLook, wideDialogLook;
+extern const WindowLook messageLook, smallDialogLook, wideDialogLook, readyDialogLook, sheetLook;
 
 /// The part of the picture that is not transparent, when it has been scaled to that size.
 QRegion outlineOf(const QPixmap& picture, const QSize& size);

@@ -19,6 +19,11 @@ public:
     Session& session() const { return session_; }
     Skin& skin() const { return skin_; }
 
+    /// Takes a file that was dropped or that the program was started with: a flight plan is shown with its
+    /// weather, a shared set is imported. Returns at once; what runs or waits for an answer comes to its end
+    /// before. A file of another kind is passed over.
+    virtual void openFile(const QString& file) = 0;
+
     // Each tells when there is nothing to open, or no program here that opens it.
     /// The help file, or its pages where the compiled one is missing.
     virtual void openHelp() = 0;

@@ -100,7 +100,7 @@ void SkinnedButton::setState(ButtonState state) {
 }
 
 int SkinnedButton::frameOffset() const {
-    return -frameOf(state_) * height();
+    return -frameOf(shownState()) * height();
 }
 
 QFont SkinnedButton::captionFont() const {
@@ -199,12 +199,21 @@ void SkinnedButton::paintEvent(QPaintEvent*) {
 /// In the strip's own pixels, which are more than one to a logical pixel on a dense display.
 QRect SkinnedButton::frameInStrip() const {
     const int frameHeight = strip_.height() / frameCount;
-    return {0, frameOf(state_) * frameHeight, strip_.width(), frameHeight};
+    return {0, frameOf(shownState()) * frameHeight, strip_.width(), frameHeight};
+}
+
+ButtonState SkinnedButton::shownState() const {
+    return isLatched_ && !isDead() ? ButtonState::down : state_;
+}
+
+void SkinnedButton::setLatched(bool isLatched) {
+    isLatched_ = isLatched;
+    update();
 }
 
 void SkinnedButton::paintPlain(QPainter& painter) const {
     painter.setPen(QColor::fromRgb(palette::line));
-    painter.setBrush(QColor::fromRgb(state_ == ButtonState::down ? palette::deck : palette::bezelMid));
+    painter.setBrush(QColor::fromRgb(shownState() == ButtonState::down ? palette::deck : palette::bezelMid));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
     if (!traitsOf(family_).caption.isEmpty()) return;
     painter.setPen(QColor::fromRgb(palette::textBright));

@@ -36,6 +36,9 @@ public:
     void setState(ButtonState state);
     const QString& form_name() const { return formName_; }
     void setFormName(const QString& name) { formName_ = name; }
+    /// A key that stays down behind a click, until it is clicked again.
+    bool isLatched() const { return isLatched_; }
+    void setLatched(bool isLatched);
     /// The key by which the click is looked up, without regard to case.
     const QString& button_type() const { return buttonType_; }
     void setButtonType(const QString& key) { buttonType_ = key; }
@@ -71,6 +74,7 @@ protected:
 
 private:
     bool isDead() const { return state_ == ButtonState::disabled || state_ == ButtonState::deactivate; }
+    ButtonState shownState() const;
     void press();
     void release();
     void takeMouseAway();
@@ -85,6 +89,7 @@ private:
     ButtonState state_ = ButtonState::enabled;
     bool mouseHasLeft_ = false;
     bool isKeyDown_ = false;
+    bool isLatched_ = false;
     QString toolTip_, picture_, helpText_, formName_, buttonType_, buttonText_;
 };
 

@@ -11,17 +11,6 @@ namespace morvane {
 
 namespace {
 
-/// The airport's own report or, without one, its nearest neighbour's, which then reads as the airport's own:
-/// the code in front is exchanged. Raises.
-clsWxFinder reportFor(const Session& session, const Airport& airport, const QString& icao) {
-    if (icao.isEmpty()) throw Error(ErrorCode::invalidCall);
-    if (const auto own = findReport(session, icao)) return *own;
-    clsWxFinder report =
-        findReport(session, getClosestMetarStation(session, airport.latitude, airport.longitude)).value();
-    report.WxFinderMetar = icao + u' ' + report.WxFinderMetar.section(u' ', 1);
-    return report;
-}
-
 void takeReport(WeatherState& weather, const QString& report) {
     if (weather.optDepAirport) weather.DepMetar = report;
     if (weather.optDestAirport) weather.DestMetar = report;
@@ -38,10 +27,20 @@ const Message notAvailable{
 
 } // namespace
 
+/// The code in front of a neighbour's is exchanged.
+clsWxFinder reportOfAirport(const Session& session, const Airport& airport, const QString& icao) {
+    if (icao.isEmpty()) throw Error(ErrorCode::invalidCall);
+    if (const auto own = findReport(session, icao)) return *own;
+    clsWxFinder report =
+        findReport(session, getClosestMetarStation(session, airport.latitude, airport.longitude)).value();
+    report.WxFinderMetar = icao + u' ' + report.WxFinderMetar.section(u' ', 1);
+    return report;
+}
+
 std::optional<QString> getMetar(Session& session, const Airport& airport) {
     try {
         const QString code = trimmedBlanks(airport.icao);
-        const clsWxFinder report = reportFor(session, airport, code);
+        const clsWxFinder report = reportOfAirport(session, airport, code);
         const QString heading =
             u"ICAO Code: "_s + code + u", City: "_s + airport.city + u", Airport Name: "_s + airport.name;
         WeatherState& weather = session.state<WeatherState>();

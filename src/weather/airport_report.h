@@ -1,10 +1,15 @@
 #pragma once
 
 #include "weather/airport_data.h"
+#include "weather/weather_report.h"
 
 namespace morvane {
 
 class Session;
+
+/// The airport's own report or, without one, its nearest neighbour's, which then reads as the airport's own.
+/// `icao` is the airport's code, trimmed. Raises where there is none.
+clsWxFinder reportOfAirport(const Session& session, const Airport& airport, const QString& icao);
 
 /// The report of an airport from the stored cycle, or, where it has none of its own, that of the nearest
 /// station under the airport's code. The end of the flight that is being chosen takes it, and unless

@@ -2,6 +2,7 @@
 
 #include "core/numbers.h"
 #include "core/session.h"
+#include "weather/flight_plan.h"
 #include "weather/metar_decoder.h"
 #include "weather/weather_state.h"
 
@@ -52,6 +53,17 @@ std::int16_t processMetarString(Session& session, const QString& metar) {
                                   u"METAR String format not recognised please enter new string to process"_s,
                                   true, false, false});
     return cloudClass;
+}
+
+std::optional<std::int16_t> coverAlongPlan(Session& session, const FilePath& file) {
+    if (!readFlightPlan(session, file)) return std::nullopt; // told before there is an empty dialog
+    auto& choice = session.state<CoverChoice>();
+    choice.planFile = file;
+    choice.coverConfirmed = false;
+    session.user.showModal(Screen::frm_FlightPlan);
+    choice.planFile = {};
+    if (!choice.coverConfirmed || session.ExitInProgress.endsWork()) return std::nullopt;
+    return choice.cloudClass;
 }
 
 std::optional<std::int16_t> selectCloudCoverMethod(Session& session) {

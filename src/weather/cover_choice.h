@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/file_path.h"
+
 #include <QString>
 #include <cstdint>
 #include <optional>
@@ -20,6 +22,8 @@ struct CoverChoice {
     /// The class that the last of them found, 0 where none is known. It outlives them: OK on a report that
     /// was not processed takes the class of before.
     std::int16_t cloudClass = 0;
+    FilePath planFile =
+        {}; ///< frm_FlightPlan: the only plan that it shows; empty for those of the user's folder
 };
 
 /// The class of an average. One between 1 and 2 becomes 2 and one between 4 and 5 becomes 4, so that covers
@@ -38,5 +42,8 @@ std::int16_t processMetarString(Session& session, const QString& metar);
 /// back to the choice. Nothing when the choice is cancelled or the program ends. The main window is away
 /// meanwhile.
 std::optional<std::int16_t> selectCloudCoverMethod(Session& session);
+/// The same by one plan, which was chosen already: it is shown with its weather, and cancel is the end.
+/// Nothing after the message that its form is not known, too; raises when it cannot be read.
+std::optional<std::int16_t> coverAlongPlan(Session& session, const FilePath& file);
 
 } // namespace morvane

@@ -8,6 +8,7 @@ namespace morvane {
 enum class CycleForm {
     plain, ///< every line is handed on as it comes
     noaa,  ///< the public service's records: a date line, the report, an empty line
+    awc,   ///< the Aviation Weather Center's list: a table with column names (see awc_reports.h)
 };
 
 /// The reports of such records: of each station the newest one by its date line, the later line of two with

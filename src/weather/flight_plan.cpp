@@ -2,15 +2,19 @@
 
 #include "core/error.h"
 #include "core/numbers.h"
+#include "core/opened_file.h"
 #include "core/session.h"
 #include "core/text_decoding.h"
 #include "weather/coordinates.h"
 #include "weather/cover_choice.h"
 #include "weather/nearest_station.h"
+#include "weather/xml_flight_plan.h"
 
 namespace morvane {
 
 namespace {
+
+constexpr std::int64_t largestPlan = 4 << 20; ///< thousands of waypoints
 
 /// Positions of the fields in a waypoint's value.
 struct WaypointLayout {
@@ -37,7 +41,7 @@ void readLine(const QString& line, FlightPlan& plan) {
     if (trimmed.startsWith(u"destination_name")) plan.destination = valueOf(trimmed);
     if (trimmed.startsWith(u"cruising_altitude")) plan.altitude = valueOf(trimmed);
     // An indented waypoint is left out, unlike the keys above: wanted.
-    if (line.startsWith(u"waypoint")) plan.waypoints << valueOf(line);
+    if (line.startsWith(u"waypoint")) plan.waypoints.push_back(parseWaypoint(valueOf(line)));
 }
 
 /// The class of the waypoint's own report or else of its nearest station's. A position that cannot be read
@@ -66,20 +70,32 @@ double averageIcon(const std::vector<Waypoint>& waypoints) {
 } // namespace
 
 QStringList flightPlanNames(Session& session, const FilePath& folder) {
-    return folder.isEmpty() ? QStringList() : session.files.list(folder, u"*.pln"_s);
+    if (folder.isEmpty()) return {};
+    QStringList names;
+    for (const QString& ending : flightPlanEndings())
+        names << session.files.list(folder, u'*' + ending);
+    return names;
+}
+
+std::optional<FlightPlan> parseFlightPlan(const QByteArray& contents) {
+    const QString text = decodeText(contents);
+    if (auto plan = parseXmlFlightPlan(text)) return plan;
+    if (text.contains(u"?xml", Qt::CaseInsensitive)) return std::nullopt;
+    FlightPlan plan;
+    for (const QString& line : splitLines(text))
+        readLine(line, plan);
+    return plan;
 }
 
 std::optional<FlightPlan> readFlightPlan(Session& session, const FilePath& file) {
-    FlightPlan plan;
-    for (const QString& line : splitLines(decodeText(session.files.read(file)))) {
-        if (line.contains(u"?xml", Qt::CaseInsensitive)) {
-            session.user.showMessage(
-                {MessageKind::exclamation, u"FSX Flight Plan"_s,
-                 u"FSX flight plan format is not supported by Morvane, please try another Flight Plan"_s});
-            return std::nullopt;
-        }
-        readLine(line, plan);
-    }
+    if (session.files.size(file) > largestPlan)
+        throw Error::withDescription(ErrorCode::ioFailure,
+                                     file.fileName() + u" is far too large for a flight plan"_s);
+    const auto plan = parseFlightPlan(session.files.read(file));
+    if (!plan)
+        session.user.showMessage(
+            {MessageKind::exclamation, u"FSX Flight Plan"_s,
+             u"FSX flight plan format is not supported by Morvane, please try another Flight Plan"_s});
     return plan;
 }
 
@@ -107,10 +123,9 @@ std::int16_t getCloudIcon(std::int16_t cloudClass) {
 PlanWeather processFlightPlan(Session& session, const FlightPlan& plan,
                               const std::function<void(double)>& progress) {
     PlanWeather weather;
-    if (plan.waypoints.isEmpty()) return weather;
+    if (plan.waypoints.empty()) return weather;
     const StationIndex stations(session);
-    for (const QString& value : plan.waypoints) {
-        Waypoint waypoint = parseWaypoint(value);
+    for (Waypoint waypoint : plan.waypoints) {
         waypoint.cloudClass = cloudClassAt(stations, waypoint);
         weather.waypoints.push_back(waypoint);
         progress(100.0 * static_cast<double>(weather.waypoints.size()) /

@@ -11,17 +11,16 @@ namespace morvane {
 
 class Session;
 
-/// A flight plan of the simulator: text, "key=value" a line. Coordinates are as the plan has them, "N51*
-/// 28.65'".
-struct FlightPlan {
-    QString departure, destination, altitude;
-    QStringList waypoints; ///< the values of the waypoint lines, in file order
+/// One waypoint and the weather over it. Coordinates are in the simulator's form, "N51* 28.65'".
+struct Waypoint {
+    QString name = {}, type = {}, latitude = {}, longitude = {}, airway = {};
+    std::int16_t cloudClass = 0; ///< of its own report or its nearest station's; 0 when there is none
 };
 
-/// One waypoint and the weather over it.
-struct Waypoint {
-    QString name, type, latitude, longitude, airway;
-    std::int16_t cloudClass = 0; ///< of its own report or its nearest station's; 0 when there is none
+/// A flight plan as it was read, without weather.
+struct FlightPlan {
+    QString departure, destination, altitude;
+    std::vector<Waypoint> waypoints; ///< in file order
 };
 
 /// A plan over the stored weather.
@@ -34,12 +33,16 @@ struct PlanWeather {
 /// Names of the plans in the folder (see `userFlightsFolder`); none without a folder.
 QStringList flightPlanNames(Session& session, const FilePath& folder);
 
-/// Reads a plan. Nothing, after a message, for the XML form of the simulator's next version. Raises when the
-/// file cannot be read; one that is no plan at all has no waypoints.
+/// The plan of a file's contents: the simulator's text, "key=value" a line, the XML form of its later
+/// versions or Little Navmap's. Nothing for XML that is neither; what is no plan at all has no waypoints.
+/// Raises for XML that is damaged.
+std::optional<FlightPlan> parseFlightPlan(const QByteArray& contents);
+/// Reads a plan. Nothing, after a message, for XML that is none. Raises when the file cannot be read, is
+/// damaged or is far too large for a plan.
 std::optional<FlightPlan> readFlightPlan(Session& session, const FilePath& file);
 
-/// The waypoint of a line's value, in one of its layouts, without weather: texts for fields that are missing
-/// are empty.
+/// The waypoint of a text line's value, in one of its layouts, without weather: texts for fields that are
+/// missing are empty.
 Waypoint parseWaypoint(const QString& value);
 /// "a" is "Airport", "v" "VOR", "i" "Intersection/Fix", "n" "NDB", in either case; empty for anything else.
 QString getWaypointType(const QString& letter);

@@ -130,6 +130,12 @@ std::optional<clsWxFinder> findReport(const Session& session, const QString& ica
     return icao.isEmpty() || row.atEnd() ? std::nullopt : std::optional(reportOf(row));
 }
 
+bool hasAirportPlace(const Session& session, const QString& icao) {
+    StoreStatement airport(connectedStore(session), rowStatements().place);
+    airport.bind(icao);
+    return airport.step() && !std::holds_alternative<std::monostate>(airport.value(0));
+}
+
 void storeReport(const Session& session, const clsWxFinder& report, const StationPlace& place) {
     Store& store = connectedStore(session);
     clsWxFinder written = report;

@@ -6,13 +6,13 @@
 #include "core/store_records.h"
 #include "core/text_decoding.h"
 #include "weather/active_sky.h"
+#include "weather/awc_reports.h"
 #include "weather/cycle_contents.h"
-#include "weather/cycle_download.h"
 #include "weather/cycle_progress.h"
 #include "weather/metar_decoder.h"
 #include "weather/report_age.h"
 #include "weather/report_rows.h"
-#include "weather/weather_endpoint.h"
+#include "weather/weather_download.h"
 #include "weather/weather_state.h"
 
 #include <QHash>
@@ -70,14 +70,54 @@ bool endsTheLoad(ErrorCode code) {
     return code == ErrorCode::diskFull || code == ErrorCode::ioFailure || code == ErrorCode::permissionDenied;
 }
 
-/// The lines of a cycle file, packed or not.
-QStringList cycleLines(FileSystem& files, const FilePath& file) {
+/// The text of a file of reports, packed or not.
+QString textOf(const QByteArray& bytes) {
+    return decodeText(cycleContents(bytes));
+}
+
+std::vector<StationReport> reportsOf(const QStringList& lines) {
+    std::vector<StationReport> reports;
+    reports.reserve(static_cast<std::size_t>(lines.size()));
+    for (const QString& line : lines)
+        reports.push_back({line});
+    return reports;
+}
+
+std::vector<StationReport> cycleReports(const QString& text, CycleForm form) {
+    if (form == CycleForm::awc) return awcReports(text);
+    QStringList lines = splitLines(text);
+    if (form == CycleForm::noaa) lines = newestReports(lines);
+    // Wanted: the last line is never read. It is empty in a whole file and cut off in any other.
+    if (!lines.isEmpty()) lines.removeLast();
+    return reportsOf(lines);
+}
+
+/// The reports of a file by hand: whatever is wrong with it is told with its name.
+template <class Reading>
+auto readFile(FileSystem& files, const FilePath& file, Reading reading) {
     const QByteArray bytes = files.read(file);
     try {
-        return splitLines(decodeText(cycleContents(bytes)));
+        return reading(textOf(bytes));
     } catch (const Error& error) {
         throw Error::withDescription(error.code(), file.text() + u": "_s + error.description());
     }
+}
+
+/// Why no source delivered, a line a source.
+QString failureText(const WeatherArrival& arrival) {
+    if (arrival.lines.empty())
+        return u"No weather server is set. Please set WeatherServer, WeatherPath and WeatherFormat in the "
+               "registry key of Morvane, or add a source under \"More settings\"."_s;
+    if (arrival.isOffline)
+        return u"Your internet connection is not functioning please check the connection and try again."_s;
+    if (const SourceLine& line = arrival.lines.front(); arrival.lines.size() == 1)
+        return line.asked.isEmpty()
+                   ? line.text
+                   : line.asked.toDisplayString() + u" could not be downloaded: "_s + line.text;
+    QStringList lines;
+    for (const SourceLine& line : arrival.lines)
+        lines << line.name + u": "_s + line.text;
+    return lines.join(u'\n');
 }
 
 /// Another program may be writing the store just now.
@@ -150,38 +190,43 @@ Reported clsWxFinderData::GetWeatherFromNOAA() {
     const Job job(session_);
     if (!job) return false;
     bool isLoaded = false;
-    reportFailures(session_.user, loadFailure, [&] {
-        const auto endpoint = weatherEndpoint(session_.registry);
-        if (!endpoint)
-            throw Error::withDescription(
-                ErrorCode::pathNotFound,
-                u"No weather server is set. Please set WeatherServer, WeatherPath and "
-                "WeatherFormat in the registry key of Morvane."_s);
-        if (!isOnline(*endpoint, QNetworkInterface::allInterfaces()))
-            throw Error::withDescription(ErrorCode::ioFailure,
-                                         u"Your internet connection is not functioning please check the "
-                                         "connection and try again."_s);
-        const QString name = cycleNameAt(session_.clock.utcTime()) + u"Z.txt"_s;
-        const FilePath file = session_.AppPath / u"METAR" / name;
-        if (!downloadCycle(*endpoint, file)) return session_.user.hideMessage();
-        isLoaded = loadCycleFile(file, endpoint->form);
-    });
+    reportFailures(session_.user, loadFailure, [&] { isLoaded = downloadWeather(); });
+    if (session_.state<WeatherState>().NoSourceAnswered) tellNoSource();
     return isLoaded;
 }
 
-bool clsWxFinderData::downloadCycle(const WeatherEndpoint& endpoint, const FilePath& file) {
-    showProgress(u"Morvane is downloading the latest Metar cycle from Orrinsoft.  Please wait....."_s, true);
-    CycleDownload download(session_.files);
+bool clsWxFinderData::downloadWeather() {
+    std::vector<StationReport> reports;
+    WeatherDownload download(session_);
+    download.onRequest = [this] {
+        if (session_.user.isMessageVisible()) return; // another source was asked before
+        showProgress(u"Morvane is downloading the latest Metar cycle from Orrinsoft.  Please wait....."_s,
+                     true);
+    };
     download.onProgress = [this](std::int64_t bytes, std::int64_t total) {
         if (total > 0) session_.user.updateProgress({}, {}, std::floor(100.0 * bytes / total));
     };
-    download.isCancelled = [this] {
-        session_.user.pumpMessages();
-        return isWorkCancelled(session_);
+    download.onFile = [&](const FilePath& file, CycleForm form) {
+        reports = cycleReports(textOf(session_.files.read(file)), form);
     };
-    session_.files.makeFolder(file.parent());
-    // The server knows the file by an ending in capitals.
-    return download.fetch(endpoint.urlOf(file.fileName().left(2) + u"Z.TXT"_s), file);
+    const WeatherArrival arrival = session_.state<WeatherArrival>() =
+        download.fetch(cycleNameAt(session_.clock.utcTime()));
+    session_.state<WeatherState>().NoSourceAnswered = arrival.end == WeatherArrival::End::failed;
+    if (arrival.end == WeatherArrival::End::failed)
+        throw Error::withDescription(ErrorCode::ioFailure, failureText(arrival));
+    if (arrival.end == WeatherArrival::End::delivered) return takeServerReports(reports, arrival.note);
+    session_.user.hideMessage();
+    if (arrival.end == WeatherArrival::End::cancelled) return false;
+    if (!session_.rows<clsWxFinders>() && !clsWxFinders::reload(session_)) return false;
+    const SourceLine& newest = arrival.lines.back();
+    session_.user.tellDone({reportAgeText(session_), newest.name + u": "_s + newest.text});
+    return true;
+}
+
+/// What is stored goes on serving.
+void clsWxFinderData::tellNoSource() {
+    session_.user.tellDone({reportAgeText(session_), {}, true});
+    session_.user.refreshScreen(Screen::frm_WxControl);
 }
 
 Reported clsWxFinderData::GetWeatherFromASv6() {
@@ -202,23 +247,24 @@ Reported clsWxFinderData::importExportFile(const FilePath& file) {
 }
 
 bool clsWxFinderData::loadCycleFile(const FilePath& file, CycleForm form) {
-    QStringList lines = cycleLines(session_.files, file);
-    if (form == CycleForm::noaa) lines = newestReports(lines);
+    const auto reports =
+        readFile(session_.files, file, [form](const QString& text) { return cycleReports(text, form); });
+    return takeServerReports(reports, {.text = u"a file"_s});
+}
+
+bool clsWxFinderData::takeServerReports(const std::vector<StationReport>& reports, const SourceNote& note) {
     showProgress(u"Decoding Orrinsoft Metars.  Please wait until the process has finished........."_s);
-    const double step = 100.0 / std::max(1.0, static_cast<double>(lines.size()));
-    // Wanted: the last line is never read. It is empty in a whole file and cut off in any other.
-    if (!lines.isEmpty()) lines.removeLast();
-    return takeReports(lines, serverCycle(session_.clock.utcTime()), step);
+    return takeReports(reports, serverCycle(session_.clock.utcTime()), note);
 }
 
 bool clsWxFinderData::loadExportFile(const FilePath& file) {
-    QStringList lines = cycleLines(session_.files, file);
+    QStringList lines = readFile(session_.files, file, splitLines);
     const QDateTime time = exportCycleTime(session_, file);
     showProgress(u"Decoding Active Sky Metars.  Please wait until the process has finished........."_s);
-    const double step = 100.0 / static_cast<double>(lines.size() + 1);
     if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
     const QString year = QString::number(session_.clock.localTime().date().year());
-    const bool isLoaded = takeReports(lines, {time.date(), toInteger(time.time().hour()), year}, step);
+    const bool isLoaded = takeReports(reportsOf(lines), {time.date(), toInteger(time.time().hour()), year},
+                                      {.text = u"Active Sky"_s});
     if (!isLoaded) return false;
     session_.state<WeatherState>().ASv6ExportDate = time;
     session_.state<WeatherState>().ASv6Imported = true;
@@ -226,8 +272,9 @@ bool clsWxFinderData::loadExportFile(const FilePath& file) {
 }
 
 /// Until all of them are in the table, the collection and the cycle in memory stay as they were.
-bool clsWxFinderData::takeReports(const QStringList& lines, const CycleMoment& cycle, double step) {
-    storeReports(lines, cycle, step);
+bool clsWxFinderData::takeReports(const std::vector<StationReport>& reports, const CycleMoment& cycle,
+                                  const SourceNote& note) {
+    storeReports(reports, cycle, note);
     takeCycle(session_.state<WeatherState>(), cycle);
     auto before = std::exchange(session_.rows<clsWxFinders>(), std::make_unique<clsWxFinders>(session_));
     if (!GetWeatherFromDb()) {
@@ -236,39 +283,44 @@ bool clsWxFinderData::takeReports(const QStringList& lines, const CycleMoment& c
     }
     session_.user.updateProgress({}, {}, 100);
     session_.user.hideMessage();
+    session_.state<WeatherState>().NoSourceAnswered = false;
     if (session_.rows<clsWxFinders>()->Count() > 0)
         session_.user.tellDone({reportAgeText(session_), reportSourceText(session_)});
     return true;
 }
 
 /// Of each station the last report alone: what it would overwrite is not written first. One transaction, as a
-/// flush of the disk a row would take minutes. Rows of stations that the lines do not name stay, however old
-/// they are: wanted, nothing is aged out.
-void clsWxFinderData::storeReports(const QStringList& lines, const CycleMoment& cycle, double step) {
+/// flush of the disk a row would take minutes. Rows of stations that the reports do not name stay, however
+/// old they are: wanted, nothing is aged out.
+void clsWxFinderData::storeReports(const std::vector<StationReport>& reports, const CycleMoment& cycle,
+                                   const SourceNote& note) {
     // Wanted: the month is today's, even where a report's day belongs to the last one.
     const QString month = QLocale::c().monthName(session_.clock.localTime().date().month());
-    CycleProgress progress(session_.user, {}, step);
-    std::map<qsizetype, clsWxFinder> lastReports; // by line
-    QHash<QString, qsizetype> lastLines;          // by station
-    for (qsizetype line = 0; line < lines.size(); ++line, progress.advance()) {
-        clsWxFinder report = clsDecodeMetar(session_.user).decodeMetarString(lines[line]);
+    CycleProgress progress(session_.user, {}, 100.0 / static_cast<double>(reports.size() + 1));
+    std::map<std::size_t, clsWxFinder> lastReports; // by line
+    QHash<QString, std::size_t> lastLines;          // by station
+    for (std::size_t line = 0; line < reports.size(); ++line, progress.advance()) {
+        clsWxFinder report = clsDecodeMetar(session_.user).decodeMetarString(reports[line].line);
         report.WxFinderCycle = QString::number(cycle.hour);
         report.WxFinderMonth = month;
         report.WxFinderYear = cycle.year;
         const QString station = trimmedBlanks(report.WxFinderIcao);
-        lastReports.erase(lastLines.value(station, -1));
+        lastReports.erase(lastLines.value(station, reports.size()));
         lastLines.insert(station, line);
         lastReports.emplace(line, std::move(report));
     }
     auto transaction = transactionOfLoad(session_);
     for (const auto& [line, report] : lastReports)
-        storeOrTell(report);
+        storeOrTell(report, reports[line].place);
+    keepStoredNote(session_, note);
     transaction->commit();
 }
 
-void clsWxFinderData::storeOrTell(const clsWxFinder& report) {
+/// The directory knows better than a list of reports where an airport is.
+void clsWxFinderData::storeOrTell(const clsWxFinder& report, const StationPlace& place) {
     try {
-        storeReport(session_, report);
+        const bool isNew = !place.latitude.isEmpty() && !hasAirportPlace(session_, report.WxFinderIcao);
+        storeReport(session_, report, isNew ? place : StationPlace());
     } catch (const Error& error) {
         if (endsTheLoad(error.code())) throw;
         showFailure(session_.user, rowFailure, error.description());

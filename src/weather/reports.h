@@ -8,9 +8,10 @@
 namespace morvane {
 
 struct CycleMoment;
+struct SourceNote;
+struct StationReport;
 class FilePath;
 class Session;
-struct WeatherEndpoint;
 
 /// The whole of `DECODED_METAR` in memory, in the order of the station codes.
 class clsWxFinders : public KeyedCollection<clsWxFinder> {
@@ -38,7 +39,9 @@ public:
     Reported GetWeatherFromDb();
     // A load ends with the line that tells number and age of the reports. One that fails leaves the
     // collection in memory as it was; a store that another program writes is waited for, two seconds.
-    /// Fetches the last hour's cycle file into "\\METAR", stores its reports and reloads the collection.
+    /// Fetches the newest reports of the first source that delivers (see weather_download.h), stores them and
+    /// reloads the collection. True also where the stored ones are the newest. What the sources said is in
+    /// the session's WeatherArrival.
     Reported GetWeatherFromNOAA();
     /// Stores the reports of Active Sky's export file and reloads the collection.
     Reported GetWeatherFromASv6();
@@ -48,12 +51,16 @@ public:
     Reported importExportFile(const FilePath& file);
 
 private:
-    bool downloadCycle(const WeatherEndpoint& endpoint, const FilePath& file);
+    bool downloadWeather();
     bool loadCycleFile(const FilePath& file, CycleForm form);
     bool loadExportFile(const FilePath& file);
-    bool takeReports(const QStringList& lines, const CycleMoment& cycle, double step);
-    void storeReports(const QStringList& lines, const CycleMoment& cycle, double step);
-    void storeOrTell(const clsWxFinder& report);
+    bool takeServerReports(const std::vector<StationReport>& reports, const SourceNote& note);
+    bool takeReports(const std::vector<StationReport>& reports, const CycleMoment& cycle,
+                     const SourceNote& note);
+    void storeReports(const std::vector<StationReport>& reports, const CycleMoment& cycle,
+                      const SourceNote& note);
+    void tellNoSource();
+    void storeOrTell(const clsWxFinder& report, const StationPlace& place);
     void showProgress(const QString& text, bool withCancel = false) const;
     void takeCycleOf(const clsWxFinder& reference);
 

@@ -17,13 +17,6 @@ bool isWanted(Session& session) {
     return session.state<MetarRequest>().metarRequested;
 }
 
-/// The first cycle of a table comes without a question, a picture or a wait.
-bool loadFirstCycle(Session& session) {
-    clsWxFinderData data(session);
-    return session.state<WeatherState>().ASv6VersionOK ? data.GetWeatherFromASv6()
-                                                       : data.GetWeatherFromNOAA();
-}
-
 bool loadNewCycle(Session& session, ActiveSkyPlatform& platform) {
     if (session.state<WeatherState>().ASv6VersionOK) return ActiveSky(session, platform).refresh();
     return clsWxFinderData(session, u"orrinsoft.jpg"_s).GetWeatherFromNOAA();
@@ -31,10 +24,19 @@ bool loadNewCycle(Session& session, ActiveSkyPlatform& platform) {
 
 } // namespace
 
+bool refreshUnasked(Session& session) {
+    clsWxFinderData data(session);
+    WeatherState& weather = session.state<WeatherState>();
+    if (!(weather.ASv6VersionOK ? data.GetWeatherFromASv6() : data.GetWeatherFromNOAA())) return false;
+    weather.FlyNowDisabled = session.rows<clsWxFinders>()->Count() == 0;
+    return true;
+}
+
+/// The first cycle of a table comes without a question, a picture or a wait, too.
 void refreshWeather(Session& session, ActiveSkyPlatform& platform) {
     const bool hasData = session.state<WeatherState>().MetarDataLoaded;
     if (hasData && !isWanted(session)) return;
-    if (!(hasData ? loadNewCycle(session, platform) : loadFirstCycle(session))) return;
+    if (!(hasData ? loadNewCycle(session, platform) : refreshUnasked(session))) return;
     session.state<WeatherState>().FlyNowDisabled = session.rows<clsWxFinders>()->Count() == 0;
     if (session.state<WeatherState>().FlyNowDisabled)
         session.user.showMessage(

@@ -18,4 +18,8 @@ struct MetarRequest {
 /// (WeatherState::FlyNowDisabled); after a load that failed it stays as it was.
 void refreshWeather(Session& session, ActiveSkyPlatform& platform = systemActiveSky());
 
+/// The same without a question and without anything shown but the load itself; false after the message of why
+/// there is no new cycle.
+bool refreshUnasked(Session& session);
+
 } // namespace morvane

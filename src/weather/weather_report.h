@@ -37,6 +37,12 @@ struct clsWxFinder {
     QString WxFinderTime; ///< HHMM
 };
 
+/// Where a station is: signed decimal degrees with ".".
+struct StationPlace {
+    QString latitude = {}; ///< empty: not known
+    QString longitude = {};
+};
+
 /// The key in the table is never read: there is one report a station.
 inline QString keyOf(const clsWxFinder& record) {
     return trimmedBlanks(record.WxFinderIcao);

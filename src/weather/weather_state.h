@@ -14,8 +14,9 @@ namespace morvane {
 struct WeatherState {
     /// Date and hour of the cycle; a day of 0 means that none is known.
     std::int16_t MetarCycleDay = 0, MetarCycleMonth = 0, MetarCycleYear = 0, MetarCycleHour = 0;
-    bool MetarDataLoaded = false; ///< the table of decoded reports holds rows
-    bool FlyNowDisabled = false;  ///< a refresh left not one report
+    bool MetarDataLoaded = false;  ///< the table of decoded reports holds rows
+    bool FlyNowDisabled = false;   ///< a refresh left not one report
+    bool NoSourceAnswered = false; ///< at the last refresh
 
     FilePath ASv6Path;
     bool ASv6Present = false, ASv6VersionOK = false;

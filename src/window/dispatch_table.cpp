@@ -7,6 +7,7 @@
 #include "ground/screens/ground_colour_screen.h"
 #include "night/night_sets.h"
 #include "night/screens/night_colour_screen.h"
+#include "sheets/screens/set_sheet_screen.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
 #include "simulator/screens/base_install_screen.h"
@@ -120,6 +121,15 @@ void settleTicked(WindowShell&, SkinnedButton& button) {
     static_cast<frm_InSimulator*>(Form::of(&button))->settle(choice);
 }
 
+template <void (frm_SetSheet::*action)()>
+void onSheet(WindowShell&, SkinnedButton& button) {
+    (static_cast<frm_SetSheet*>(Form::of(&button))->*action)();
+}
+
+void getReady(WindowShell& shell, SkinnedButton&) {
+    shell.session().user.showModal(Screen::frm_Ready);
+}
+
 void removeKeptThing(WindowShell& shell, SkinnedButton&) {
     shell.screen<frm_WhatIsKept>(u"frm_WhatIsKept"_s).removeChosen();
 }
@@ -190,7 +200,8 @@ constexpr char16_t main[] = u"frm_Main", ground[] = u"frm_MVTextures", sky[] = u
                    skyColours[] = u"frm_SkyColorize", nightColours[] = u"frm_NightColorize",
                    wxControl[] = u"frm_WxControl", coverReport[] = u"frm_CC_From_Metar_String",
                    switcher[] = u"frm_Switcher", config[] = u"frm_Config", kept[] = u"frm_WhatIsKept",
-                   links[] = u"frm_Links", about[] = u"frm_About", inSimulator[] = u"frm_InSimulator";
+                   moreSettings[] = u"frm_MoreSettings", sheet[] = u"frm_SetSheet", links[] = u"frm_Links",
+                   about[] = u"frm_About", inSimulator[] = u"frm_InSimulator";
 constexpr char16_t anyForm[] = u"*"; ///< small keys mean the same wherever they lie, and so do a dialog's
 
 struct Entry {
@@ -248,8 +259,11 @@ constexpr Entry entries[] = {
     {large, inSimulator, u"take as mine", settleTicked<DifferenceChoice::takeAsMine>},
     {large, inSimulator, u"put ours back", settleTicked<DifferenceChoice::putOursBack>},
     {large, inSimulator, u"put own back", settleTicked<DifferenceChoice::putOwnBack>},
+    {large, sheet, u"base beside", onSheet<&frm_SetSheet::turnBeside>},
+    {large, sheet, u"save sheet", onSheet<&frm_SetSheet::savePicture>},
     {standard, switcher, u"regupdate", chooseFlightsFolder},
     {large, kept, u"remove kept", removeKeptThing},
+    {large, moreSettings, u"get ready", getReady},
 
     {medium, sky, u"home", leaveHost},
     {medium, sky, u"sky texture sets", showList},

@@ -9,12 +9,14 @@
 #include "night/screens/night_sets_screen.h"
 #include "sets/screens/favourite_screen.h"
 #include "sets/screens/name_choice_screen.h"
+#include "sheets/screens/set_sheet_screen.h"
 #include "simulator/screens/backup_list_screen.h"
 #include "simulator/screens/base_install_screen.h"
 #include "simulator/screens/flight_screen.h"
 #include "simulator/screens/kept_screen.h"
 #include "simulator/screens/more_settings_screen.h"
 #include "simulator/screens/options_screen.h"
+#include "simulator/screens/ready_screen.h"
 #include "simulator/screens/simulator_check_screen.h"
 #include "sky/screens/base_sky_screen.h"
 #include "sky/screens/sky_colour_screen.h"
@@ -77,7 +79,9 @@ const std::vector<FormEntry>& formEntries() {
         screenEntry<frm_Switcher>(u"frm_Switcher"_s),
         screenEntry<frm_Config>(u"frm_Config"_s),
         screenEntry<frm_BackupList>(u"frm_BackupList"_s),
+        screenEntry<frm_Ready>(u"frm_Ready"_s),
         screenEntry<frm_InSimulator>(u"frm_InSimulator"_s),
+        screenEntry<frm_SetSheet>(u"frm_SetSheet"_s),
         screenEntry<frm_MoreSettings>(u"frm_MoreSettings"_s),
         screenEntry<frm_WhatIsKept>(u"frm_WhatIsKept"_s),
         screenEntry<frm_MVTextures>(u"frm_MVTextures"_s),

@@ -1,3 +1,4 @@
+#include "app/first_install.h"
 #include "core/clock.h"
 #include "core/file_system.h"
 #include "core/install_folder.h"
@@ -67,6 +68,8 @@ int main(int argc, char** argv) {
     loadProgramFont();
     applyPaperStyle();
 
+    const QString file = line.file.isEmpty() ? QString() : QFileInfo(line.file).absoluteFilePath();
+    if (!file.isEmpty() && !isThere(file)) return 1;
     const QString home = line.home.isEmpty() ? defaultInstallFolder() : line.home;
     const bool isUsual = line.home.isEmpty() && !qEnvironmentVariableIsSet("MORVANE_HOME");
     const bool isFirstStart = isUsual && awaitsFirstStart(home);
@@ -74,7 +77,7 @@ int main(int argc, char** argv) {
     if (isFirstStart && !makeInstallFolder(home)) return requests.hasEnded() ? 0 : 1;
     const FilePath folder(QFileInfo(home).absoluteFilePath());
     SingleWindow window(folder);
-    if (line.coverCode.isEmpty() && !window.take()) return 0;
+    if (line.coverCode.isEmpty() && !window.take(file)) return 0;
     // A run for another program is to be short, and shows no windows.
     if (line.coverCode.isEmpty() && awaitsContentUpdate(folder)) updateDeliveredContent(folder);
     if (requests.hasEnded()) return 0;
@@ -91,5 +94,6 @@ int main(int argc, char** argv) {
     user.setShell(&shell);
     window.serve(shell);
     requests.handTo(shell);
+    shell.openFile(file);
     return runProgram(shell, line.coverCode);
 }

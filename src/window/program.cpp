@@ -2,6 +2,7 @@
 
 #include "app/command_line_run.h"
 #include "app/exit_flow.h"
+#include "app/first_run.h"
 #include "app/start_up.h"
 #include "core/failure_report.h"
 #include "core/file_helpers.h"
@@ -23,6 +24,7 @@
 #include "window/window_shell.h"
 
 #include <QApplication>
+#include <QTimer>
 
 namespace morvane {
 
@@ -88,6 +90,12 @@ void showMainWindow(WindowShell& shell) {
     shell.reportMissingSkin();
 }
 
+/// Behind the first run the program has a backup and no set yet: from the loop, as any dialog.
+void offerFirstSteps(Session& session) {
+    if (!session.state<FirstRun>().isDone) return;
+    QTimer::singleShot(0, [&session] { session.user.showModal(Screen::frm_Ready); });
+}
+
 } // namespace
 
 int runProgram(WindowShell& shell, const QString& commandLine) {
@@ -98,6 +106,7 @@ int runProgram(WindowShell& shell, const QString& commandLine) {
         tellActiveSkyProblem(session);
         loadBehindSplash(shell);
         showMainWindow(shell);
+        offerFirstSteps(session);
     };
     if (!commandLine.isEmpty()) session.writing->beUnattended();
     const bool isReady = startUp(session, InstallUse::writing, [&] {

@@ -18,11 +18,24 @@ namespace {
 
 constexpr int answerMilliseconds = 5000, connectMilliseconds = 500;
 constexpr unsigned long restMilliseconds = 50;
+constexpr qsizetype longestPath = 32 << 10;
 
 QString nameOf(const FilePath& installFolder) {
     const QByteArray path = QFileInfo(installFolder.native()).canonicalFilePath().toUtf8();
     return u"morvane-"_s +
            QString::fromLatin1(QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex());
+}
+
+/// The path is whole when the caller has gone. Who calls is this user, and may yet be any program of his.
+void listenTo(QLocalSocket& caller, WindowShell& shell) {
+    const auto take = [&caller, &shell] {
+        const QString file = QString::fromUtf8(caller.readAll());
+        if (file.size() < longestPath && QFileInfo(file).isAbsolute()) shell.openFile(file);
+        caller.deleteLater();
+    };
+    caller.setReadBufferSize(longestPath);
+    QObject::connect(&caller, &QLocalSocket::disconnected, &shell, take);
+    if (caller.state() == QLocalSocket::UnconnectedState) take();
 }
 
 } // namespace
@@ -33,10 +46,10 @@ SingleWindow::SingleWindow(const FilePath& installFolder)
 }
 
 /// One that just starts or ends may not answer for a moment, and then its lock may be ours.
-bool SingleWindow::take() {
+bool SingleWindow::take(const QString& file) {
     const QDeadlineTimer deadline(answerMilliseconds);
     while (!lock_.tryTake()) {
-        if (callOther()) return false;
+        if (callOther(file)) return false;
         if (deadline.hasExpired()) {
             std::fprintf(stderr, "morvane: %s does not answer\n", qUtf8Printable(lock_.holder()));
             return false;
@@ -48,17 +61,24 @@ bool SingleWindow::take() {
     return true;
 }
 
-bool SingleWindow::callOther() const {
+/// The call is the connection; what is written on it is the file's path.
+bool SingleWindow::callOther(const QString& file) const {
     letOthersComeToFront();
     QLocalSocket socket;
     socket.connectToServer(name_);
-    return socket.waitForConnected(connectMilliseconds);
+    if (!socket.waitForConnected(connectMilliseconds)) return false;
+    socket.write(file.toUtf8());
+    while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(answerMilliseconds)) {
+    }
+    socket.disconnectFromServer();
+    if (socket.state() != QLocalSocket::UnconnectedState) socket.waitForDisconnected(answerMilliseconds);
+    return true;
 }
 
 void SingleWindow::serve(WindowShell& shell) {
     const auto answer = [this, &shell] {
         while (QLocalSocket* caller = server_.nextPendingConnection())
-            caller->deleteLater();
+            listenTo(*caller, shell);
         shell.bringToFront();
     };
     QObject::connect(&server_, &QLocalServer::newConnection, &shell, answer);

@@ -13,13 +13,14 @@ class SingleWindow {
 public:
     explicit SingleWindow(const FilePath& installFolder);
 
-    /// False when another process has the windows open; it was told to show them, and this one is to end.
-    bool take();
-    /// From now on the calls of later ones reach this shell.
+    /// False when another process has the windows open; it was told to show them, and to open the file where
+    /// one is named, and this one is to end.
+    bool take(const QString& file = {});
+    /// From now on the calls of later ones reach this shell, and their files.
     void serve(WindowShell& shell);
 
 private:
-    bool callOther() const;
+    bool callOther(const QString& file) const;
 
     InstallLock lock_;
     QString name_; ///< by which the one calls the other, the same for every spelling of the folder

@@ -1,6 +1,7 @@
 #include "window/window_line.h"
 
 #include "core/literals.h"
+#include "core/opened_file.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -13,9 +14,10 @@ namespace {
 const QString help = u"help"_s, version = u"version"_s, home = u"home"_s;
 
 QString helpText() {
-    return u"Usage: morvane [--home DIR] [CLR|FEW|SCT|BKN|OVC]\n\n"
+    return u"Usage: morvane [--home DIR] [CLR|FEW|SCT|BKN|OVC|FILE]\n\n"
            "Opens the windows. With a cloud cover it installs the sets for that cover and ends, so that "
-           "another\nprogram can drive it.\n\n"
+           "another\nprogram can drive it. A FILE ends in .pln or .lnmpln, a flight plan, which is shown "
+           "with its weather,\nor in .morvaneset, a set of another pilot's, which is imported.\n\n"
            "Options:\n"
            "  --home DIR   the install folder\n"
            "  -h, --help   shows this text\n"
@@ -35,18 +37,21 @@ QString slipOf(const QCommandLineParser& parser, bool isUnderstood) {
 
 } // namespace
 
-WindowLine readWindowLine(const QStringList& words) {
+WindowLine readWindowLine(const QStringList& typed) {
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions); // "-OVC" is one word
     parser.addOption({{u"h"_s, help}, {}});
     parser.addOption({version, {}});
     parser.addOption({home, {}, u"DIR"_s});
-    const bool isUnderstood = parser.parse(QStringList{u"morvane"_s} + words);
+    const bool isUnderstood = parser.parse(QStringList{u"morvane"_s} + typed);
     if (parser.isSet(help)) return {.output = helpText()};
     if (parser.isSet(version))
         return {.output = u"morvane "_s + QCoreApplication::applicationVersion() + u'\n'};
+    const QString words = parser.positionalArguments().join(u' '); // a name with blanks may lack its quotes
+    const bool isFile = openedFile(words) != OpenedFile::none;
     return {.home = parser.value(home),
-            .coverCode = parser.positionalArguments().join(u' '),
+            .coverCode = isFile ? QString() : words,
+            .file = isFile ? words : QString(),
             .slip = slipOf(parser, isUnderstood)};
 }
 

@@ -2,9 +2,13 @@
 
 #include "core/changed_rows.h"
 #include "core/failure_report.h"
+#include "core/opened_file.h"
 #include "core/registry.h"
 #include "core/session.h"
 #include "core/writing.h"
+#include "sets/set_kind.h"
+#include "sets/set_sharing.h"
+#include "simulator/set_matching.h"
 #include "ui/accessible_controls.h"
 #include "ui/dialog_form.h"
 #include "ui/host_form.h"
@@ -20,6 +24,7 @@
 #include <QFileDialog>
 #include <QUrl>
 #include <QUrlQuery>
+#include <algorithm>
 
 namespace morvane {
 
@@ -31,8 +36,17 @@ bool isWebAddress(const QString& text) {
     return address.isValid() && (address.scheme() == u"http" || address.scheme() == u"https");
 }
 
+namespace {
+
+/// For the end of whatever keeps a file from being opened.
+constexpr int lookAgainMilliseconds = 100;
+
+} // namespace
+
 WindowShell::WindowShell(Session& session, Skin& skin) : Shell(session, skin) {
     installAccessibleControls();
+    fileTimer_.setInterval(lookAgainMilliseconds);
+    connect(&fileTimer_, &QTimer::timeout, this, &WindowShell::openWaitingFile);
 }
 
 WindowShell::~WindowShell() {
@@ -143,6 +157,51 @@ void WindowShell::openOutside(const QUrl& address) {
         showFailure(session().user, {u"Morvane Error"_s, MessageKind::exclamation},
                     u"There is no program here that opens "_s +
                         address.toDisplayString(QUrl::PreferLocalFile));
+}
+
+/// From the event loop alone: a drop waits for its answer, and a start has no windows yet.
+void WindowShell::openFile(const QString& file) {
+    if (openedFile(file) == OpenedFile::none) return;
+    waitingFile_ = file;
+    fileTimer_.start();
+}
+
+bool WindowShell::isIdle() const {
+    const auto isShown = [this](const QString& name) {
+        const Form* window = loadedForm(name);
+        return window && window->isVisible();
+    };
+    return !session().StartingUp && !session().jobRunning && session().writing->holders == 0 &&
+           !session().user.isMessageVisible() && !QApplication::activeModalWidget() &&
+           std::ranges::any_of(windowNames, isShown);
+}
+
+/// From whichever windows stand there: a set may be of another kind than the list that it was dropped on.
+void WindowShell::showOnlyList(const QString& formName) {
+    for (const QString& name : windowNames)
+        if (const Form* window = loadedForm(name);
+            window && window->isVisible() && name != formName && name != u"frm_Main")
+            leaveHost(name);
+    if (form(u"frm_Main"_s)->isVisible())
+        showHost(formName);
+    else
+        showList(formName);
+}
+
+void WindowShell::openWaitingFile() {
+    if (session().ExitInProgress.stage() == ExitStage::running && !isIdle()) return;
+    fileTimer_.stop();
+    const FilePath file(std::exchange(waitingFile_, {}));
+    if (file.isEmpty() || session().ExitInProgress.stage() != ExitStage::running) return;
+    bringToFront();
+    reportFailures(session().user, {}, [&] {
+        reloadChangedRows(session());
+        if (openedFile(file.fileName()) == OpenedFile::flightPlan)
+            flyAlongPlan(session(), file);
+        else if (const SetKind* kind = openLook(session(), file))
+            showOnlyList(screenName(kind->facts.listScreen));
+    });
+    reportMissingSkin();
 }
 
 void WindowShell::openHelp() {

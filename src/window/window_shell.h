@@ -5,6 +5,7 @@
 #include "ui/shell.h"
 
 #include <QHash>
+#include <QTimer>
 
 class QUrl;
 
@@ -54,6 +55,7 @@ public:
     /// The list page of a list window in the place of its colour page.
     void showList(const QString& formName);
 
+    void openFile(const QString& file) override;
     void openHelp() override;
     void openWebPage(const QString& address, const QString& registryValue = {}) override;
     /// Asks the maker's server for newer versions.
@@ -80,10 +82,15 @@ private:
     /// Every loop is left, dialogs and messages with a "no"; the exit flow runs behind the main one.
     void leave(ExitStage stage);
     void openOutside(const QUrl& address);
+    void showOnlyList(const QString& formName);
+    bool isIdle() const;
+    void openWaitingFile();
     void giveFocus(Form& page);
 
     QHash<QString, Form*> forms_; ///< by lower-cased name
     QHash<QString, QPointer<QWidget>> formerParents_;
+    QString waitingFile_; ///< to be opened; the last one counts
+    QTimer fileTimer_;
     bool hasReportedSkin_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "window/window_user.h"
 
+#include "core/progress_taker.h"
 #include "core/session.h"
 #include "core/writing.h"
 #include "ui/controls/foot_line.h"
@@ -44,9 +45,13 @@ frm_Msg& WindowUser::messageForm() const {
     return shell_->screen<frm_Msg>(u"frm_Msg"_s);
 }
 
+ProgressTaker* WindowUser::taker() const {
+    return shell_ ? shell_->session().state<TakenProgress>().taker : nullptr;
+}
+
 QWidget* WindowUser::boxParent() const {
     if (!shell_) return nullptr;
-    return isMessageVisible() ? shell_->loadedForm(u"frm_Msg"_s) : shell_->messageAnchor();
+    return isMessageFormVisible() ? shell_->loadedForm(u"frm_Msg"_s) : shell_->messageAnchor();
 }
 
 bool WindowUser::isSilent() const {
@@ -55,7 +60,9 @@ bool WindowUser::isSilent() const {
 
 void WindowUser::showMessage(const Message& message) {
     if (shell_->session().writing->isUnattended) writeOnStandardError(message);
-    if (!isSilent())
+    if (taker() && !answers().isPending()) {
+        if (!message.isProgress) taker()->takeMessage(message);
+    } else if (!isSilent())
         messageForm().showMessage(message);
     else if (!message.isProgress)
         answers().answer(false);
@@ -65,17 +72,19 @@ void WindowUser::showMessage(const Message& message) {
 void WindowUser::updateProgress(const QString& title, const QString& text, double value) {
     if (shell_->session().StartingUp)
         shell_->screen<frm_Splash>(u"frm_Splash"_s).showStep(text, value);
+    else if (taker())
+        taker()->takeProgress(value);
     else
         messageForm().updateProgress(title, text, value);
     pumpMessages();
 }
 
 void WindowUser::setProgressFile(const QString& line) {
-    messageForm().setProgressFile(line);
+    if (!taker()) messageForm().setProgressFile(line);
 }
 
 void WindowUser::hideMessage() {
-    if (isMessageVisible()) messageForm().hide();
+    if (isMessageFormVisible()) messageForm().hide();
 }
 
 /// Which window will be shown once the job has ended is the job's to know, and the next click or key takes
@@ -98,6 +107,10 @@ bool WindowUser::allowsRun(const RunSize& run) {
 }
 
 bool WindowUser::isMessageVisible() const {
+    return taker() || isMessageFormVisible();
+}
+
+bool WindowUser::isMessageFormVisible() const {
     const Form* form = shell_ ? shell_->loadedForm(u"frm_Msg"_s) : nullptr;
     return form && form->isVisible();
 }
@@ -122,7 +135,7 @@ void WindowUser::showModal(Screen screen) {
 
 /// A list window shows its list: a colour page that stands before it goes.
 void WindowUser::showScreen(Screen screen) {
-    Form* form = shell_->form(screenName(screen));
+    Form* form = taker() ? nullptr : shell_->form(screenName(screen));
     if (!form) return;
     if (const auto* host = qobject_cast<HostForm*>(form)) {
         shell_->hideChildScreen(host->colourPage());
@@ -132,6 +145,7 @@ void WindowUser::showScreen(Screen screen) {
 }
 
 void WindowUser::hideScreen(Screen screen) {
+    if (taker()) return; // the windows stay where they are behind it
     if (Form* form = shell_->loadedForm(screenName(screen))) form->hide();
 }
 

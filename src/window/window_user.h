@@ -6,6 +6,7 @@ class QWidget;
 
 namespace morvane {
 
+class ProgressTaker;
 class WindowShell;
 class frm_Msg;
 
@@ -33,8 +34,11 @@ public:
 
 private:
     frm_Msg& messageForm() const;
+    /// Null where messages have their own screen.
+    ProgressTaker* taker() const;
     /// On the way out of the program nobody is asked any more: every answer is "no".
     bool isSilent() const;
+    bool isMessageFormVisible() const;
     QWidget* boxParent() const;
 
     WindowShell* shell_ = nullptr;

@@ -17,7 +17,8 @@ TEST(CommandLine, aSlipIsNamedInOneLine) {
     const std::pair<QString, QString> cases[] = {
         {"", "a command is missing; 'morvane-cli --help' lists them"},
         {"groun", "unknown command 'groun'; did you mean 'ground'?"},
-        {"ground", "'ground' takes create, list, activate, deactivate, delete or install"},
+        {"ground",
+         "'ground' takes create, list, activate, deactivate, delete, install, export, import or sheet"},
         {"ground|instal|2-Storm", "unknown command 'ground instal'; did you mean 'ground install'?"},
         {"ground|--|list", "'list' stands in the wrong place: ground list"},
         {"ground|install", "NAME is missing: ground install NAME"},
@@ -28,7 +29,17 @@ TEST(CommandLine, aSlipIsNamedInOneLine) {
         {"metar|find|--cover|Cloudy", "--cover takes Any, "},
         {"--home", "--home stands without its value"},
         {"--answer|maybe|decode", "--answer takes yes, no or ask, not 'maybe'"},
-        {"fly", "WORD or --metar is missing: fly WORD, fly --metar TEXT"},
+        {"fly", "WORD or one of --from, --plan, --cover and --metar is missing"},
+        {"fly|--from|EHAM|--plan|a.pln", "--from and --plan exclude each other"},
+        {"fly|--cover|OVC|--to|EHAM", "--to goes with --from ICAO"},
+        {"fly|--from|the sea", "--from takes an airport's code, not 'the sea'"},
+        {"fly|OVC|--dry-run", "--dry-run goes with --from, --plan, --cover or --metar"},
+        {"fly|--cover|OVC|--flight|A|--no-start", "--flight and --no-start exclude each other"},
+        {"fly|--cover|OVC|--max-age|-5", "--max-age takes a whole number of minutes, not '-5'"},
+        {"fly|Route.PLN", "WORD takes CLR, FEW, SCT, BKN or OVC, not 'Route.PLN'; a flight plan is flown by "
+                          "fly --plan 'Route.PLN'"},
+        {"look.morvaneset", "unknown command 'look.morvaneset'; a shared set is taken by ground, sky or "
+                            "night import 'look.morvaneset'"},
         {"fly|ovc", "WORD takes CLR, FEW, SCT, BKN or OVC, not 'ovc'; did you mean 'OVC'?"},
         {"fly|OVC|--metar|EHAM OVC010", "WORD and --metar exclude each other"},
         {"recolour|red|a.bmp|b.bmp",
@@ -54,7 +65,7 @@ TEST(CommandLine, helpAndVersionGoToStandardOutput) {
         {"-h", {"Usage: morvane-cli COMMAND"}},
         {"sky|--help", {"Usage: morvane-cli sky COMMAND", "\n  sky show NAME "}},
         {"fly|--help|--answer|yes",
-         {"Usage: morvane-cli fly [WORD] [--metar TEXT]", "CLR, FEW, SCT, BKN or OVC"}},
+         {"Usage: morvane-cli fly [WORD] [OPTION...]", "CLR, FEW, SCT, BKN or OVC"}},
         {"station|nearest|north|-h", {"\nExample:\n  morvane-cli station nearest -33.9 151.2\n"}},
         {"--version", {"morvane-cli 2."}},
     };

@@ -48,6 +48,35 @@ TEST_F(PictureCommands, spoiltMissingAndUnwritableFilesAreTold) {
     EXPECT_EQ(readFile(outFile).mid(30, 4), "DXT1");
 }
 
+/// Of each kind and of the simulator; what is there already is written over only behind a Yes.
+TEST(SheetCommands, writeAPictureOfAllTextures) {
+    ConsoleInstall install;
+    install.addSet(u"2-Störm"_s, u"Overcast"_s, false);
+    const FilePath file = install.folder / u"shéet.png";
+    const QString out = file.native();
+    const std::pair<QStringList, QString> commands[] = {
+        {{"ground", "sheet", "2-Störm", out}, u"2-Störm: 5 textures, not activated yet"_s},
+        {{"ground", "sheet", "2-Störm", out, "--zoom", "128", "--beside"}, u"2-Störm: 5 textures"_s},
+        {{"originals", "sheet", out}, u"In the simulator now: 5 textures"_s}};
+    QImage last;
+    for (const auto& [words, said] : commands) {
+        const auto run = install.run({}, words);
+        EXPECT_EQ(run.status, 0) << run.messages.toStdString();
+        EXPECT_TRUE(run.messages.contains(said)) << run.messages.toStdString();
+        const QImage written(out);
+        EXPECT_GT(written.width(), 300);
+        EXPECT_NE(written, last);
+        last = written;
+    }
+    const QByteArray before = readFile(file);
+    EXPECT_EQ(install.run(u"--answer no night sheet Default"_s, {out}).status, 1); // there is nothing to show
+    EXPECT_EQ(install.run(u"--answer no ground sheet Default"_s, {out}).status, 0);
+    EXPECT_EQ(install.run(u"ground sheet Nothing"_s, {out}).status, 1);
+    EXPECT_EQ(readFile(file), before);
+    const QString nowhere = (install.folder / u"no folder").native() + u"/out.png"_s;
+    EXPECT_EQ(install.run(u"ground sheet Default"_s, {nowhere}).status, 1);
+}
+
 struct SkyCommands : testing::Test {
     ConsoleInstall install;
 

@@ -153,10 +153,11 @@ TEST_F(StoreFailureTest, failedWritesLeaveASoundStore) {
 /// A table and a column of a later version, and an upgrade of old that is still to come.
 Schema laterSchema() {
     Schema schema = programSchema();
-    schema[1].columns.push_back({.name = u"BACKUP_NOTE"_s, .width = 9, .isLookedUp = true, .since = 2});
-    schema[1].columns.push_back({.name = u"BACKUP_KEPT"_s, .kind = ColumnKind::flag, .since = 3});
-    schema.push_back({u"NOTES"_s, {{.name = u"NOTE"_s, .width = 9}}, 2});
-    schema.push_back({u"NOT_YET"_s, {{.name = u"NOTE"_s}, {.name = u"LATER"_s, .since = 3}}, 1});
+    const int next = versionOf(schema) + 1;
+    schema[1].columns.push_back({.name = u"BACKUP_NOTE"_s, .width = 9, .isLookedUp = true, .since = next});
+    schema[1].columns.push_back({.name = u"BACKUP_KEPT"_s, .kind = ColumnKind::flag, .since = next + 1});
+    schema.push_back({u"NOTES"_s, {{.name = u"NOTE"_s, .width = 9}}, next});
+    schema.push_back({u"NOT_YET"_s, {{.name = u"NOTE"_s}, {.name = u"LATER"_s, .since = next + 1}}, 1});
     return schema;
 }
 
@@ -164,7 +165,9 @@ Schema laterSchema() {
 TEST_F(StoreFailureTest, aPresentStoreIsBroughtUpToDateStepByStep) {
     store.open(file);
     execute(u"PRAGMA user_version = 0"_s); // as before stores had a number
+    execute(u"DROP TABLE WEATHER_SOURCES"_s);
     updateSchema(store);
+    EXPECT_TRUE(store.hasTable(u"WEATHER_SOURCES"_s)) << "of the second version";
     EXPECT_FALSE(store.hasTable(u"NOTES"_s)) << "the program's own schema has no later version";
     store.close();
     bool wasHit = true;

@@ -248,6 +248,10 @@ firstStart() {
     waitFor "the main window" hasWindow Morvane $mainSize
     front=$(windowOf Morvane $mainSize)
     waitFor "the splash to go" hasNoWindow Morvane $wideSize
+    inFront "Get ready to fly"
+    press "$front" Escape
+    waitFor "what a first flight needs to be put off" hasNoWindow "Get ready to fly"
+    front=$(windowOf Morvane $mainSize)
     byMouse
     expectEnd $patient Default
 }

@@ -95,6 +95,9 @@ public:
         return toldFree < 0 ? act(folder).freeSpace(folder) : toldFree;
     }
     QByteArray read(const FilePath& file) override { return act(file).read(file); }
+    QByteArray readPart(const FilePath& file, std::int64_t from, std::int64_t count) override {
+        return act(file).readPart(file, from, count);
+    }
     void write(const FilePath& file, const QByteArray& contents) override {
         takeRoom(file, contents.size());
         change(file).write(file, contents);

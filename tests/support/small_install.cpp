@@ -129,6 +129,7 @@ SmallInstall::SmallInstall(const SmallInstallOptions& options)
     registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, simulatorKey, u"EXE Path"_s, simulator().native());
     registry.CreateRegKey(HKEY_LOCAL_MACHINE_ROOT, morvaneKey);
     registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, u"IsWideClient"_s, u"False"_s);
+    storeOwnValue(registry, u"WeatherSources"_s, u"none"_s); // no test asks the world
     if (!startUp(session) || !user.messages.empty())
         throw std::runtime_error("the small install does not start");
 }

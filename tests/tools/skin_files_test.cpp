@@ -66,11 +66,11 @@ TEST_F(SkinFiles, haveEveryPictureInBothSizesAsPlainBitmapsWithHardEdges) {
 }
 
 TEST_F(SkinFiles, regionsAreThoseOfTheirPictures) {
-    const QStringView pairs[][2] = {{u"MainRegion.dat", u"MVMainInterface.bmp"},
-                                    {u"MainRegion.dat", u"MVSkyInterface.bmp"},
-                                    {u"MsgRegion.dat", u"MVMsg_BG.bmp"},
-                                    {u"AddRegion.dat", u"MVAdd_BG.bmp"},
-                                    {u"RandomizerRegion.dat", u"MVWide_BG.bmp"}};
+    const QStringView pairs[][2] = {
+        {u"MainRegion.dat", u"MVMainInterface.bmp"}, {u"MainRegion.dat", u"MVSkyInterface.bmp"},
+        {u"MsgRegion.dat", u"MVMsg_BG.bmp"},         {u"AddRegion.dat", u"MVAdd_BG.bmp"},
+        {u"RandomizerRegion.dat", u"MVWide_BG.bmp"}, {u"ReadyRegion.dat", u"MVReady_BG.bmp"},
+        {u"SheetRegion.dat", u"MVSheet_BG.bmp"}};
     for (const auto& [region, picture] : pairs) {
         const WindowRegion read = readWindowRegion(files.read(media().child(region.toString())));
         EXPECT_EQ(read, scanRegion(imageOf(picture), skin::keyColour.rgb()))

@@ -1,4 +1,6 @@
 #include "core/literals.h"
+#include "sheets/screens/sheet_loading.h"
+#include "support/small_install.h"
 #include "support/temporary_folder.h"
 #include "support/testing.h"
 #include "ui/controls/foot_line.h"
@@ -232,6 +234,26 @@ TEST_F(SkinnedButtonTest, livesWithFilesThatAreMissingOrBroken) {
             EXPECT_EQ(own.cursor(name, Qt::SizeAllCursor).shape(), Qt::SizeAllCursor);
         }
     EXPECT_EQ(own.missing(), wanted) << "each is told once";
+}
+
+/// Small or large, seen or behind: each picture comes once, and then all are there.
+TEST(SheetLoadingTest, loadsWhatIsSeenAndThenTheRest) {
+    TemporaryFolder folder;
+    NativeFileSystem files;
+    Sheet sheet;
+    for (int number = 0; number < 40; ++number) {
+        sheet.textures.push_back({u"%1.bmp"_s.arg(number), folder.path().child(u"%1.bmp"_s.arg(number))});
+        writeFile(sheet.textures.back().base, smallBitmap(16, number));
+    }
+    for (const int side : {SheetPictures::smallSide, 128}) {
+        SheetLoading loading(std::make_unique<SheetPictures>(files, folder.path(), sheet), nullptr);
+        loading.see({30, 31}, side);
+        loading.wait(10'000);
+        EXPECT_TRUE(loading.pair(30) && loading.pair(31));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return loading.isWhole(); }));
+        for (std::size_t texture = 0; texture < sheet.textures.size(); ++texture)
+            EXPECT_TRUE(loading.pair(texture)) << texture;
+    }
 }
 
 } // namespace

@@ -98,6 +98,7 @@ void addWeather(Session& session) {
 }
 
 void addAddresses(Registry& registry) {
+    storeOwnValue(registry, u"WeatherSources"_s, u"noaa;awc"_s);
     for (const char16_t* value : {u"HomePage", u"UpdateServer", u"ActiveSkyPage"})
         registry.SetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, QString::fromUtf16(value),
                               u"https://%1.example/"_s.arg(QString::fromUtf16(value).toLower()));

@@ -1,6 +1,8 @@
 #include "walk/native_hands.h"
 
 #include "core/literals.h"
+#include "sheets/screens/sheet_view.h"
+#include "ui/controls/picture_frame.h"
 #include "ui/controls/slider.h"
 #include "ui/skinned_button.h"
 #include "walk/screen_contents.h"
@@ -114,6 +116,10 @@ void useMouse(QWidget& control, const QString& part, const QString& typed) {
     }
     if (auto* choice = qobject_cast<QComboBox*>(&control)) return clickInPopup(*choice);
     QPoint place = livePoint(control);
+    if (part == u"twice")
+        return QTest::mouseDClick(&nativeWindow(control), Qt::LeftButton, {},
+                                  control.mapTo(control.window(), place));
+    if (auto* sheet = qobject_cast<SheetView*>(&control)) place = sheet->middleOf(1);
     if (qobject_cast<ucSlider*>(&control)) place.setX(control.width() * 3 / 4);
     click(control, place);
     if (isEdit(control)) typeInto(control, typed);
@@ -137,6 +143,8 @@ QString wayName(Way way) {
 }
 
 std::vector<Way> waysOf(const QWidget& control, const QString& part) {
+    const bool isPicture = qobject_cast<const PictureFrame*>(&control);
+    if (part == u"twice" && isPicture) return {Way::mouse, Way::enter};
     if (part == u"head" || part == u"twice") return {Way::mouse};
     if (part == u"tick") return {Way::mouse, Way::space};
     if (qobject_cast<const SkinnedButton*>(&control)) return {Way::mouse, Way::space, Way::enter};

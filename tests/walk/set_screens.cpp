@@ -105,6 +105,10 @@ Effect setBecomes(const QString& name, const QString& state) {
     return becomes(stateNow, state);
 }
 
+Effect sampleStays() {
+    return nothing("a double click or Enter opens it");
+}
+
 QString groundTexture(Session& session) {
     return QString::fromUtf8(readFile(session.FSPath / u"Scenery\\World\\texture\\029b2su6.bmp"));
 }
@@ -116,6 +120,11 @@ std::vector<WalkScreen> groundScreens() {
                   install = u"btn_TextureInstall"_s, remove = u"btn_TextureDelete"_s;
     const WalkRows always =
         hostRows(ground, {}) + WalkRows{{u"lstTextureSets"_s, becomes(&GroundSelection::SelectedGroundSet)},
+                                        {u"cmdSeeAll"_s, shows(u"frm_SetSheet"_s)},
+                                        {u"picTextureSetResult"_s, sampleStays()},
+                                        {u"picTextureSetResult|twice"_s, shows(u"frm_SetSheet"_s)},
+                                        {u"cmdImport"_s, shows(u"box Import a Set"_s)},
+                                        {u"cmdExport"_s, shows(u"box Export This Set"_s)},
                                         {create, shows(u"frm_TsRequired"_s)}};
     return {
         {"list", ground, list(ground), false,
@@ -141,6 +150,11 @@ std::vector<WalkScreen> skyScreens() {
                   install = u"btn_SkyTextureInstall"_s, remove = u"btn_SkyTextureDelete"_s;
     const WalkRows always =
         hostRows(sky, {}) + WalkRows{{u"lstSkyTextureSets"_s, becomes(&SkySelection::SelectedSkySet)},
+                                     {u"cmdSeeAll"_s, shows(u"frm_SetSheet"_s)},
+                                     {u"picSkyTextureSetResult"_s, sampleStays()},
+                                     {u"picSkyTextureSetResult|twice"_s, shows(u"frm_SetSheet"_s)},
+                                     {u"cmdImport"_s, shows(u"box Import a Set"_s)},
+                                     {u"cmdExport"_s, shows(u"box Export This Set"_s)},
                                      {create, shows(u"frm_SelectSkyTexture"_s)}};
     return {
         {"list", sky, list(sky), false,
@@ -165,7 +179,12 @@ std::vector<WalkScreen> nightScreens() {
     const QString activate = u"btn_TextureActivate"_s, install = u"btn_TextureInstall"_s,
                   remove = u"btn_TextureDelete"_s;
     const WalkRows always =
-        hostRows(night, {}) + WalkRows{{u"lstTextureSets"_s, becomes(&NightSelection::SelectedNightSet)}};
+        hostRows(night, {}) + WalkRows{{u"cmdSeeAll"_s, shows(u"frm_SetSheet"_s)},
+                                       {u"picTextureSetResult"_s, sampleStays()},
+                                       {u"picTextureSetResult|twice"_s, shows(u"frm_SetSheet"_s)},
+                                       {u"cmdImport"_s, shows(u"box Import a Set"_s)},
+                                       {u"cmdExport"_s, shows(u"box Export This Set"_s)},
+                                       {u"lstTextureSets"_s, becomes(&NightSelection::SelectedNightSet)}};
     return {
         {"list_on_an_activated_set", night, listOn(night, 1), false,
          always + WalkRows{{activate, shows(information)},

@@ -110,7 +110,7 @@ TEST_F(ActiveSkyTest, itsFileGivesAllItsLinesAndTheCycleItsOwnTime) {
     EXPECT_EQ(session.state<WeatherState>().MetarCycleDay, 14);
     EXPECT_TRUE(session.state<WeatherState>().ASv6Imported);
     EXPECT_EQ(user.calls.filter(u"done "_s).last(),
-              u"done 3 reports, the youngest of 13:53Z 14 May, 16 days old"_s);
+              u"done 3 reports of 13:00Z, 14 May; the youngest is 16 days old"_s);
     install.files.remove(exported);
     const auto* before = session.rows<clsWxFinders>().get();
     EXPECT_FALSE(clsWxFinderData(session).GetWeatherFromASv6());

@@ -1,3 +1,4 @@
+#include "core/error.h"
 #include "sets/cloud_cover.h"
 #include "simulator/set_matching.h"
 #include "support/small_install.h"
@@ -59,6 +60,8 @@ QString joined(const Waypoint& waypoint) {
     return QStringList{name, type, latitude, longitude, airway}.join(u'|');
 }
 
+const QString plans = QStringLiteral(MORVANE_PLAN_SAMPLES_DIR "/");
+
 struct FlightPlanTest : InstallTest {
     std::optional<FlightPlan> delivered(const QString& name) {
         return readFlightPlan(session, FilePath(QStringLiteral(MORVANE_DATA_DIR "/plans/") + name));
@@ -66,26 +69,64 @@ struct FlightPlanTest : InstallTest {
 };
 
 TEST_F(FlightPlanTest, deliveredPlans) {
-    const std::tuple<QString, QString, QString, QString, int> cases[] = {
+    const std::tuple<QString, QString, QString, QString, std::size_t> cases[] = {
         {u"TBPBEGCC06R.PLN"_s, u"Grantley Adams Intl>Manchester>41000"_s,
          u"TBPB|Airport|N13* 04.48'|W059* 29.53'|"_s, u"EGCC|Airport|N53* 21.22'|W002* 16.50'|"_s, 11},
         {u"c04_planner_form_south_west_kinds.pln"_s,
          u"Guarulhos (São Paulo)>Ministro Pistarini (Ezeiza)>35000"_s,
          u"SBGR|Airport|S23* 25.88'|W46* 28.20'|"_s, u"SAEZ|Airport|S34* 49.33'|W58* 32.15'|"_s, 5},
+        {u"fsx IFR Vaasa to Arlanda.PLN"_s, u"Vaasa>Arlanda>35000"_s,
+         u"EFVA|Airport|N63* 2.76'|E21* 45.63'|"_s, u"ESSA|Airport|N59* 38.26'|E17* 54.80'|"_s, 12},
+        {u"fsx fsbuilderror.pln"_s, u"BEN_GURION>ELEFTHERIOS_VENIZELOS_INTL>38000"_s,
+         u"LLBG|Airport|N32* 0.57'|E34* 52.62'|"_s, u"LGAV|Airport|N37* 56.20'|E23* 56.67'|"_s, 18},
     };
     for (const auto& [file, heading, first, last, count] : cases) {
         const auto plan = delivered(file);
         ASSERT_TRUE(plan) << file.toStdString();
         EXPECT_EQ(plan->departure + u'>' + plan->destination + u'>' + plan->altitude, heading);
         ASSERT_EQ(plan->waypoints.size(), count);
-        EXPECT_EQ(joined(parseWaypoint(plan->waypoints.front())), first);
-        EXPECT_EQ(joined(parseWaypoint(plan->waypoints.back())), last);
+        EXPECT_EQ(joined(plan->waypoints.front()), first);
+        EXPECT_EQ(joined(plan->waypoints.back()), last);
     }
     EXPECT_TRUE(install.user.told().isEmpty());
-    EXPECT_FALSE(delivered(u"fsx IFR Vaasa to Arlanda.PLN"_s));
+    const FilePath page = install.folder / u"other.pln";
+    writeFile(page, "<?xml version=\"1.0\"?>\n<kml><Flightplan/></kml>\nwaypoint.0=KSEA,A,,\n");
+    EXPECT_FALSE(readFlightPlan(session, page));
     EXPECT_EQ(install.user.told(),
               QStringList(u"Exclamation|FSX Flight Plan|FSX flight plan format is not supported by "
                           "Morvane, please try another Flight Plan"_s));
+}
+
+/// Two forms in XML.
+TEST_F(FlightPlanTest, xmlPlansAreReadAsAWhole) {
+    const std::tuple<QString, QString, QStringList> cases[] = {
+        {u"simulator.pln"_s,
+         u"São Paulo & Guarulhos>SAEZ>35000"_s,
+         {u"SBGR|Airport|S23* 25.88'|W46* 28.20'|"_s, u"over the sea||N0* 0.00'|E180* 0.00'|"_s,
+          u"DORVO|Intersection/Fix|S33* 6.50'|W55* 0.00'|UN741"_s, u"SAEZ|Airport|||"_s}},
+        {u"navmap.lnmpln"_s,
+         u"Hamburg>Frankfurt>28000"_s,
+         {u"EDDH|Airport|N53* 37.82'|E9* 59.29'|"_s, u"NORVA|Intersection/Fix|N52* 48.82'|E9* 46.05'|Z10"_s,
+          u"WRB|VOR||E9* 6.65'|"_s, u"FAR||S0* 30.00'|W72* 0.00'|"_s,
+          u"EDDF|Airport|N50* 1.60'|E8* 33.50'|"_s}},
+    };
+    for (const auto& [name, heading, waypoints] : cases) {
+        const QByteArray contents = readFile(FilePath(plans + name));
+        const auto plan = parseFlightPlan(contents);
+        ASSERT_TRUE(plan) << name.toStdString();
+        EXPECT_EQ(plan->departure + u'>' + plan->destination + u'>' + plan->altitude, heading);
+        QStringList read;
+        for (const Waypoint& waypoint : plan->waypoints)
+            read << joined(waypoint);
+        EXPECT_EQ(read, waypoints);
+        EXPECT_THROW(parseFlightPlan(contents.left(contents.size() * 3 / 4)), Error) << "half a route";
+        EXPECT_THROW(
+            parseFlightPlan(QByteArray(contents).replace("35000<", "&a;<").replace("28000<", "&a;<")), Error);
+    }
+    EXPECT_FALSE(parseFlightPlan(readFile(FilePath(plans + u"entities.lnmpln"_s)))) << "no plan declares any";
+    const FilePath huge = install.folder / u"huge.pln";
+    writeFile(huge, QByteArray((4 << 20) + 1, ' '));
+    EXPECT_THROW(readFlightPlan(session, huge), Error);
 }
 
 TEST_F(FlightPlanTest, layoutsOfAWaypoint) {
@@ -107,12 +148,11 @@ TEST_F(FlightPlanTest, weatherOfEachWaypoint) {
     addStation(session, u"VVVV"_s, 6, -30, -51);
     addStation(session, u"  "_s, 4); // a line that was no report
     const auto weather = processFlightPlan(
-        session, {{},
-                  {},
-                  {},
-                  {u"ksea,A,,"_s, u"FIX, I, N45* 50.0', W122* 30.0',"_s, u"S, V, S30* 3.0', W51* 6.0'"_s,
-                   u", , , , A, N47* 0.0', W122* 0.0'"_s, u"BAD, I, Nx* 50.0', W122* 30.0'"_s,
-                   u"FAR, I, N1e300* 0.0', E999* 0.0'"_s, u"SHORT"_s}});
+        session,
+        *parseFlightPlan("waypoint.0=ksea,A,,\nwaypoint.1=FIX, I, N45* 50.0', W122* 30.0',\n"
+                         "waypoint.2=S, V, S30* 3.0', W51* 6.0'\nwaypoint=, , , , A, N47* 0.0', W122* 0.0'\n"
+                         "waypoint=BAD, I, Nx* 50.0', W122* 30.0'\n"
+                         "waypoint=FAR, I, N1e300* 0.0', E999* 0.0'\nwaypoint=SHORT\n"));
     QStringList classes;
     for (const Waypoint& waypoint : weather.waypoints)
         classes << QString::number(waypoint.cloudClass);

@@ -18,15 +18,16 @@ namespace {
 using Reply = LoopbackServer::Reply;
 
 struct CycleDownloadTest : testing::Test {
-    /// What a fetch of that path ends with: "done", "cancelled" or the reason of its failure.
+    /// What a fetch of that path ends with: "done", "cancelled" or why there is no file.
     QString fetch(const QString& path, const QString& server) {
         CycleDownload download(files, limits);
         download.isCancelled = isCancelled;
         download.onProgress = [this](std::int64_t bytes, std::int64_t total) { progress = {bytes, total}; };
         try {
-            return download.fetch(QUrl(server + path), target) ? u"done"_s : u"cancelled"_s;
+            const FetchedFile fetched = download.fetch(QUrl(server + path), target);
+            return fetched.end == FetchedFile::End::delivered ? u"done"_s : fetched.outcome;
         } catch (const Error& error) {
-            return error.description().section(u"could not be downloaded: "_s, 1);
+            return error.description();
         }
     }
     QString fetchFrom(const LoopbackServer::Handler& handler) {
@@ -77,13 +78,18 @@ TEST_F(CycleDownloadTest, aPackedBodyIsUnpackedAndAFailureLeavesTheFileOfBefore)
         {packed("gzip", u"page.gz"_s), page},
         {headed("Content-Encoding: br\r\n", "EHAM\n"), u"the server sends it packed as \"br\""_s},
         {LoopbackServer::statusReply("304 Not Modified"), u"304"_s},
+        {LoopbackServer::statusReply("429 Too Many Requests"), u"status 429"_s},
         {LoopbackServer::statusReply("302 Found", "Location: /weather/09Z.TXT\r\n"), {}}, // to itself
+        {LoopbackServer::statusReply("302 Found", "Location: file:///etc/passwd\r\n"), u"no web address"_s},
+        {LoopbackServer::statusReply("301 Moved", "Location: http://weather.invalid/\r\n"),
+         u"the server sends us to http://weather.invalid/"_s},
         {headed("Content-Length: 400\r\n", "EHAM"), {}},
         {headed("Content-Type: text/HTML; charset=utf-8\r\n", "EHAM"), u"the server sends a page"_s},
         {headed("", "\xEF\xBB\xBF \r\n\t<html>"), page},
         {headed("", QByteArray("\xFE\xFF\0\n\0<\0h", 8)), page},
         {headed("", "\xEF\xBB\xBF \r\n\n"), u"an empty file"_s},
         {headed("", QByteArray(1 << 19, 'A')), u"too large"_s},
+        {{headed("", "A").bytes, false, QByteArray(1 << 12, 'A')}, u"too large"_s},
     };
     for (const auto& [reply, expected] : cases) {
         writeFile(target, "of before");
@@ -102,6 +108,10 @@ TEST_F(CycleDownloadTest, aSilentServerIsLeftAndACancelIsHeardMeanwhile) {
         const auto hang = [&](const QByteArray&) { return Reply{begun, false}; };
         limits.silenceMilliseconds = 60;
         EXPECT_EQ(fetchFrom(hang), u"the server has stopped answering"_s);
+        limits.silenceMilliseconds = 60'000;
+        limits.wholeMilliseconds = 60;
+        EXPECT_EQ(fetchFrom(hang), u"the server takes too long"_s);
+        limits.wholeMilliseconds = 60'000;
         limits.silenceMilliseconds = 60'000;
         int looks = 0;
         isCancelled = [&] { return ++looks == 2; };

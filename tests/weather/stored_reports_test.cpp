@@ -156,8 +156,20 @@ TEST_F(StoredReports, theAgeCountsFromTheYoungestByWhatTheReportsSay) {
     };
     for (const auto& [clock, age] : ages) {
         install.clock.now = utc(clock);
-        EXPECT_EQ(reportAgeText(session), u"4 reports, the youngest of 02:00Z 21 Nov, "_s + age + u" old"_s);
+        EXPECT_EQ(reportAgeText(session),
+                  u"4 reports of 02:00Z, 21 Nov; the youngest is "_s + age + u" old"_s);
     }
+    session.state<WeatherState>().NoSourceAnswered = true;
+    EXPECT_EQ(reportAgeText(session), u"No source answered; 4 stored reports, the youngest 2 days old"_s);
+    const std::pair<QString, QString> reports[] = {
+        {u"KSEA 230131Z 24015KT 312359Z"_s, u"01:31Z, 29 minutes old"_s},
+        {u"KSEA AUTO 230131Z"_s, u"01:31Z, 29 minutes old"_s},
+        {u"230131Z"_s, {}},
+        {u"KSEA 320131Z"_s, {}},
+        {{}, {}},
+    };
+    for (const auto& [report, age] : reports)
+        EXPECT_EQ(reportAgeText(session, report), age) << report.toStdString();
 }
 
 struct WxFilterTest : InstallTest {

@@ -1,3 +1,4 @@
+#include "app/first_install.h"
 #include "core/install_lock.h"
 #include "core/literals.h"
 #include "core/store_connection.h"
@@ -24,12 +25,32 @@
 namespace morvane::test {
 namespace {
 
+/// Cancels a progress that shows as soon as that is wanted, and counts the boxes that it accepts.
+struct Hand {
+    std::function<bool()> isCancelWanted;
+    int boxes = 0;
+    QTimer timer;
+
+    explicit Hand(const std::function<bool()>& isWanted) : isCancelWanted(isWanted) {
+        timer.callOnTimeout([this] {
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (auto* progress = qobject_cast<QProgressDialog*>(window);
+                    progress && progress->isVisible() && isCancelWanted())
+                    progress->findChild<QPushButton*>()->click();
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                ++boxes, box->accept();
+        });
+        timer.start(0);
+    }
+};
+
 TEST(WindowLine, wordsAreACoverCodeButForThoseWithADash) {
     const std::tuple<QStringList, QString, QString, QString> cases[] = {
         // words; home, cover code, slip
         {{u"fog"_s}, {}, u"fog"_s, {}}, // unknown, and taken: wanted
         {{u"OVC"_s, u"010"_s}, {}, u"OVC 010"_s, {}},
         {{u"OVC"_s, u"--home=/a b"_s}, u"/a b"_s, u"OVC"_s, {}},
+        {{u"fog.pln.bak"_s}, {}, u"fog.pln.bak"_s, {}},
         {{u"--hlep"_s}, {}, {}, u"Unknown option 'hlep'."_s},
         {{u"--"_s, u"-OVC"_s}, {}, u"-OVC"_s, u"Unknown option '-OVC'."_s},
         {{u"--home"_s}, {}, {}, u"Missing value after '--home'."_s},
@@ -40,6 +61,18 @@ TEST(WindowLine, wordsAreACoverCodeButForThoseWithADash) {
         EXPECT_EQ((QStringList{line.home, line.coverCode, line.slip, line.output}),
                   (QStringList{home, coverCode, slip, {}}))
             << words.join(u' ').toStdString();
+    }
+}
+
+TEST(WindowLine, whatEndsAsAFileDoesIsNeverACoverCode) {
+    for (const QStringList& words : std::vector<QStringList>{
+             {u"/nowhere/Route.PLN"_s}, {u"my"_s, u"route.LnmPln"_s}, {u"Look.MORVANESET"_s}}) {
+        const WindowLine line = readWindowLine(words);
+        EXPECT_EQ(line.file, words.join(u' '));
+        EXPECT_TRUE(line.coverCode.isEmpty() && line.slip.isEmpty());
+        Hand hand([] { return false; });
+        EXPECT_FALSE(isThere(line.file));
+        EXPECT_EQ(hand.boxes, 1) << "one message";
     }
 }
 
@@ -65,25 +98,6 @@ TEST(WindowLine, theProgramAnswersWithoutADisplay) {
         EXPECT_TRUE(program.readAllStandardError().replace("\r\n", "\n").endsWith(errors));
     }
 }
-
-/// Cancels a progress that shows as soon as that is wanted, and counts the boxes that it accepts.
-struct Hand {
-    std::function<bool()> isCancelWanted;
-    int boxes = 0;
-    QTimer timer;
-
-    explicit Hand(const std::function<bool()>& isWanted) : isCancelWanted(isWanted) {
-        timer.callOnTimeout([this] {
-            for (QWidget* window : QApplication::topLevelWidgets())
-                if (auto* progress = qobject_cast<QProgressDialog*>(window);
-                    progress && progress->isVisible() && isCancelWanted())
-                    progress->findChild<QPushButton*>()->click();
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-                ++boxes, box->accept();
-        });
-        timer.start(0);
-    }
-};
 
 TEST(FirstStart, leavesNothingWhenItIsCancelled) {
     const TemporaryFolder folder;

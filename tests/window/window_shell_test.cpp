@@ -13,12 +13,16 @@
 #include "weather/weather_state.h"
 #include "window/form_table.h"
 #include "window/message_screen.h"
+#include "window/single_window.h"
 
 #include <QCheckBox>
 #include <QDir>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
+#include <QProcess>
 #include <QPushButton>
 
 namespace morvane::test {
@@ -41,6 +45,74 @@ TEST_F(ShellTest, findsHomeFromAPageThatAListWindowHasComeBackTo) {
     program.press(u"frm_Main"_s, u"btn_Home"_s);
     EXPECT_FALSE(weather->isVisible());
     EXPECT_EQ(program.stateOf(u"frm_Main"_s, u"btn_Home"_s), ButtonState::disabled);
+}
+
+/// Dropped, or handed over by a second start while a dialog waits.
+TEST_F(ShellTest, opensFilesOnceNothingElseIsOpen) {
+    const auto drop = [&](const QString& form, const QString& file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile((program.install.folder / u"notes.txt").native()),
+                      QUrl::fromLocalFile((program.install.folder / file).native())});
+        QDragEnterEvent enter({300, 300}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(shell.form(form), &enter);
+        if (!enter.isAccepted()) return false;
+        QDropEvent event({300, 300}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(shell.form(form), &event);
+        return event.isAccepted();
+    };
+    writeFile(program.install.folder / u"Rückweg.PLN", "departure_name=Hamburg\nwaypoint.0=EDDH,A,,\n");
+    writeFile(program.install.folder / u"look.morvaneset",
+              R"({"morvaneset":1,"kind":"sky","name":"x","colours":["damaged"]})");
+    program.press(u"frm_Main"_s, u"btn_FlightConfig"_s);
+    EXPECT_FALSE(drop(u"frm_WxControl"_s, u"other.txt"_s));
+    QStringList opened;
+    bool isClosed = false;
+    const auto look = [&](DialogForm& dialog) {
+        opened << dialog.findChild<QLabel*>(u"lblDepVal"_s)->text()
+               << QString::number(dialog.findChild<SetTable*>(u"lvwFPList"_s)->rowCount());
+        dialog.cancel();
+        isClosed = true;
+    };
+    program.whenShown(u"frm_FlightPlan"_s, look);
+    program.show(Screen::frm_metar_request, [&](DialogForm& waiting) {
+        EXPECT_TRUE(drop(u"frm_WxControl"_s, u"Rückweg.PLN"_s));
+        QTest::qWait(300);
+        EXPECT_TRUE(opened.isEmpty()) << "the dialog's answer comes first";
+        waiting.cancel();
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isClosed; }));
+    EXPECT_EQ(opened, (QStringList{u"Hamburg"_s, u"1"_s}));
+    program.press(u"frm_Main"_s, u"btn_MVTextures"_s);
+    const QStringList told = program.toldDuring(
+        [&] {
+            EXPECT_TRUE(drop(u"frm_MVTextures"_s, u"look.morvaneset"_s));
+            QTest::qWait(300);
+        },
+        {}, u"lbl_Message"_s);
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_TRUE(told[0].contains(u"look.morvaneset"_s)) << told[0].toStdString();
+}
+
+TEST_F(ShellTest, takesTheFileOfASecondStart) {
+    SingleWindow window(program.install.home());
+    ASSERT_TRUE(window.take());
+    window.serve(shell);
+    const FilePath plan = program.install.folder / u"Rückweg.lnmpln";
+    writeFile(plan, "<LittleNavmap><Flightplan/></LittleNavmap>");
+    bool isOpened = false;
+    program.whenShown(u"frm_FlightPlan"_s, [&](DialogForm& dialog) {
+        isOpened = true;
+        dialog.cancel();
+    });
+    QProcess second;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    second.setProcessEnvironment(environment);
+    second.start(QStringLiteral(MORVANE_BIN_DIR "/morvane"),
+                 {u"--home"_s, program.install.home().native(), plan.native()});
+    const auto isDone = [&] { return isOpened && second.state() == QProcess::NotRunning; };
+    EXPECT_TRUE(QTest::qWaitFor(isDone, 60000));
+    EXPECT_EQ(second.exitCode(), 0);
 }
 
 TEST_F(ShellTest, theStatusPageCountsSetsAndTellsOfAWideClient) {

@@ -41,7 +41,9 @@ by the airport's weather report.</p>
 <li><a href="#first">First steps</a></li>
 <li><a href="#create">Creating sets</a></li>
 <li><a href="#activate">Activating and installing</a></li>
+<li><a href="#sheet">Looking at a whole set</a></li>
 <li><a href="#colours">Colours of your own</a></li>
+<li><a href="#share">Looks to share</a></li>
 <li><a href="#pages">What each page does</a></li>
 <li><a href="#originals">Getting your own textures back</a></li>
 <li><a href="#room">Room on the disk</a></li>
@@ -51,11 +53,12 @@ by the airport's weather report.</p>
 
 <h2 id="first">First steps</h2>
 <ol>
-<li>Open <b>Base Install</b> and make a backup of the simulator's files.</li>
-<li>On <b>System Status</b>, choose <b>Create Ground Sets</b> and ask for two or three sets of each cloud cover.
-A set takes a while; the bar shows how far it is, and you can cancel at any time.</li>
-<li>Open <b>Ground Color</b>, select one of the new sets and install it.</li>
-<li>Start the simulator. It shows the new ground from its next start on.</li>
+<li><b>Get ready to fly</b> comes up behind the first start: it looks for the backup and the base textures, makes three
+sets of ground and sky for each cloud cover and fetches the weather. What is done stays when you cancel; <b>More
+settings</b> on the configuration page opens it again.</li>
+<li>Open <b>Ground Color</b>, select a set, and let <b>See all</b> show it to you.</li>
+<li>Open <b>Wx Control</b>, choose your airports, then <b>Fly Now</b>: the sets that fit the weather go into the simulator,
+which starts. Or install any set from its list; the simulator shows it from its next start on.</li>
 </ol>
 
 <h2 id="create">Creating sets</h2>
@@ -71,11 +74,22 @@ again; those that are finished stay.</p>
 set again later. <b>Install</b> copies a set into the simulator; the list shows the installed set in red.
 <b>Delete</b> removes a set for good. The set named Default holds the pictures without any change of colour.</p>
 
+<h2 id="sheet">Looking at a whole set</h2>
+<p><b>See all</b> on a list page, or a double click on the sample, shows every texture of the selected set, whether it has
+files yet or not. <b>All</b> below a name opens the rest of that row. Hold <kbd>Space</kbd> to see the base in all places,
+or choose <b>Base Beside</b> to see both halves. The arrows move the frame, <kbd>Enter</kbd> or a double click shows one
+texture alone, <kbd>Esc</kbd> goes back, <kbd>A</kbd> opens a row. <b>Save Picture</b> writes the whole set as one
+picture. The same for what lies in the simulator: <b>Check files</b>, <b>See all</b>.</p>
+
 <h2 id="colours">Colours of your own</h2>
 <p><b>Colorize</b> shows a sample picture beside the same picture in new colours. Move the sliders for saturation,
 red, green, blue, brightness and contrast, or let <b>Random</b> draw values for the cover that is chosen at the
 right. <b>Open Texture</b> shows another kind of land or another season. <b>Add Favorite</b> saves the values as
 a set under a name of your choice; the new set is in the list of sets.</p>
+
+<h2 id="share">Looks to share</h2>
+<p><b>Export</b> on a list page saves the colours of the selected set in a small file, which you can give to other pilots.
+<b>Import</b>, a drop on the page or a double click takes theirs into the list; <b>Activate</b> then makes its files.</p>
 
 <h2 id="pages">What each page does</h2>
 <h3>System Status</h3>
@@ -87,12 +101,15 @@ Morvane and you left them; <b>Undo Last Install</b> takes the last install back.
 <b>Back</b> leads to the main window.</p>
 <h3>Wx Control</h3>
 <p>Choose the airport you leave from and the one you fly to, read their weather reports, and start the simulator
-with the sets that suit them. <b>Weather Finder</b> looks for airports with a certain kind of weather,
-<b>Saved Flight</b> takes the airports from a flight you have saved, <b>Refresh METAR</b> fetches new reports.</p>
+with the sets that suit them. A flight plan of the simulator, of its successors or of Little Navmap can be dropped on
+the page, or opened with Morvane by a double click. <b>Weather Finder</b> looks for airports with a certain kind of weather,
+<b>Saved Flight</b> takes the airports from a flight you have saved, <b>Refresh METAR</b> fetches new reports
+from the first weather source that answers. The line below the page says which one that was and how old the youngest
+report is; where no source answers, the stored reports go on serving.</p>
 <h3>Configuration</h3>
 <p>Options of the program and the simulator: whether this PC is a WideClient, the Dutch and tropical textures, the
 halo, the start pictures, whether Morvane asks before it closes, and the folder of your saved flights. <b>More
-settings</b> leads to what Morvane keeps on the disk.</p>
+settings</b> has the weather's sources in their order, and leads to what Morvane keeps on the disk.</p>
 <h3>Base Install</h3>
 <p>Puts Morvane's base textures into the simulator and makes or restores backups. Do this once before you install
 sets.</p>

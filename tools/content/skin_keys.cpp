@@ -43,6 +43,7 @@ constexpr KeyImage images[] = {
     {u"btn_Backup", KeyFamily::large, Pictogram::archiveIn},
     {u"btn_Restore_Backup", KeyFamily::large, Pictogram::archiveOut},
     {u"btn_Undo", KeyFamily::large, Pictogram::arrowBack},
+    {u"btn_Beside", KeyFamily::large, Pictogram::twoHalves},
     {u"btn_Take", KeyFamily::large, Pictogram::shieldWithTick},
     {u"btn_Update", KeyFamily::large, Pictogram::arrowDownInRing},
     {u"btn_WxFinder", KeyFamily::large, Pictogram::lensWithCloud},

@@ -101,6 +101,8 @@ const Drawing drawings[] = {
     {Pictogram::shieldWithTick,
      "M 12 2.8 L 19.8 5.6 L 19.8 11.6 C 19.8 16.2 16.6 19.6 12 21.3 C 7.4 19.6 4.2 16.2 4.2 11.6 L 4.2 5.6 Z "
      "M 8.4 11.9 L 11 14.5 L 15.8 9.2"},
+    {Pictogram::twoHalves,
+     "R 3 4.4 18 15.2 1.8 M 12 2.2 L 12 21.8 M 6.2 8.4 L 9.2 8.4 M 6.2 12 L 9.2 12 M 6.2 15.6 L 9.2 15.6"},
     {Pictogram::openFolder,
      "M 3.4 19 L 3.4 5 L 9.4 5 L 11.4 7.4 L 19 7.4 L 19 10.4 M 3.4 19 L 6.3 10.4 L 21.6 10.4 L 18.8 19 Z"},
     {Pictogram::warning, "M 12 3.3 L 21.6 20.4 L 2.4 20.4 Z M 12 9.4 L 12 14.8 D 12 17.6 1"},

@@ -44,6 +44,7 @@ enum class Pictogram {
     tickInRing,
     lineInRing,
     shieldWithTick,
+    twoHalves,
     openFolder,
     warning,
     stop,

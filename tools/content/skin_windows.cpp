@@ -17,6 +17,7 @@ constexpr QSize mainSize(880, 580);
 constexpr QSize messageSize(400, 300);
 constexpr QSize listSize(400, 360);
 constexpr QSize wideSize(700, 500);
+constexpr QSize readySize(520, 424);
 
 constexpr WindowPicture pictures[] = {
     {u"MVMainInterface", u"MainRegion.dat", mainSize},
@@ -26,6 +27,8 @@ constexpr WindowPicture pictures[] = {
     {u"MVMsg_BG", u"MsgRegion.dat", messageSize},
     {u"MVAdd_BG", u"AddRegion.dat", listSize},
     {u"MVWide_BG", u"RandomizerRegion.dat", wideSize},
+    {u"MVReady_BG", u"ReadyRegion.dat", readySize},
+    {u"MVSheet_BG", u"SheetRegion.dat", mainSize},
 };
 
 /// What the windows with pages show besides the frame, in the order of their pictures.
@@ -44,10 +47,17 @@ constexpr PageWindow pageWindows[] = {
     {Pictogram::moon, u"Night Textures", 3, 0},
 };
 
-WindowOutline outlineOf(QSize size) {
-    if (size == mainSize) return {size, 24, 18, 288, 64};
+bool hasPages(const WindowPicture& picture) {
+    return &picture - pictures < static_cast<std::ptrdiff_t>(std::size(pageWindows));
+}
+
+WindowOutline outlineOf(const WindowPicture& picture) {
+    const QSize size = picture.size;
+    if (hasPages(picture)) return {size, 24, 18, 288, 64};
+    if (size == mainSize) return {size, 12, 14, 380, 56};
     // The lip with its shoulders takes about the middle half.
     if (size == wideSize) return {size, 12, 14, 254, 48};
+    if (size == readySize) return {size, 12, 14, 176, 44};
     return {size, 12, 14, 128, 40};
 }
 
@@ -104,11 +114,10 @@ QImage drawWindow(QStringView name, int scale) {
     const auto* found = std::find_if(std::begin(pictures), std::end(pictures),
                                      [&](const auto& picture) { return name == picture.name; });
     if (found == std::end(pictures)) throw Error(ErrorCode::invalidCall, name.toString());
-    const WindowOutline shape = outlineOf(found->size);
+    const WindowOutline shape = outlineOf(*found);
     QImage picture = drawPicture(found->size, scale, bezel, [&](QPainter& painter) {
-        const bool hasPages = found->size == mainSize;
-        drawBezel(painter, shape, hasPages ? 94 : 44);
-        if (hasPages)
+        drawBezel(painter, shape, hasPages(*found) ? 94 : 44);
+        if (hasPages(*found))
             drawPageWindow(painter, pageWindows[found - pictures]);
         else
             drawPaperWindow(painter, found->size);

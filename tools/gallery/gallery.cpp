@@ -2,9 +2,14 @@
 
 #include "app/exit_flow.h"
 #include "core/session.h"
+#include "ground/ground_selection.h"
+#include "night/night_selection.h"
 #include "sets/set_removal.h"
+#include "sets/sheet_request.h"
+#include "sheets/screens/set_sheet_screen.h"
 #include "simulator/backup_restore.h"
 #include "sky/screens/palette_picture.h"
+#include "sky/sky_selection.h"
 #include "ui/controls/set_table.h"
 #include "ui/controls/slider.h"
 #include "weather/cover_choice.h"
@@ -19,6 +24,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QImage>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -54,7 +60,8 @@ void Gallery::saveModal(const QString& name, const QString& form, const std::fun
         timer.stop();
         act(*dialog);
         save(name, *dialog);
-        dialog->cancel();
+        while (dialog->isVisible()) // a part of it may go first
+            dialog->cancel();
     });
     timer.start(0);
     call();
@@ -215,6 +222,7 @@ void Gallery::saveDialogs() {
         {Screen::frm_BackupList, u"backup-list"},
         {Screen::frm_InSimulator, u"in-the-simulator"},
         {Screen::frm_MoreSettings, u"more-settings"},
+        {Screen::frm_Ready, u"ready"},
         {Screen::frm_WhatIsKept, u"what-is-kept"},
         {Screen::frm_MultiDelete, u"name-choice"}};
     shell_.session().state<MetarRequest>().metarRequestText =
@@ -226,6 +234,43 @@ void Gallery::saveDialogs() {
     for (const auto& [screen, picture] : dialogs)
         saveModal(QString::fromUtf16(picture), screenName(screen),
                   [&, which = screen] { shell_.session().user.showModal(which); });
+}
+
+/// Each kind as the list page opens it, one texture alone, the base beside the set, and the simulator.
+void Gallery::saveSheets() {
+    Session& session = shell_.session();
+    const auto showSheet = [&](const QString& picture, const SheetRequest& request,
+                               const std::function<void(frm_SetSheet&)>& act) {
+        session.state<SheetRequest>() = request;
+        saveModal(
+            picture, u"frm_SetSheet"_s, [&] { session.user.showModal(Screen::frm_SetSheet); },
+            [&](QWidget& dialog) {
+                auto& sheet = static_cast<frm_SetSheet&>(dialog);
+                while (sheet.loading() && !sheet.loading()->isWhole())
+                    QCoreApplication::processEvents();
+                act(sheet);
+            });
+    };
+    const auto pressKey = [](frm_SetSheet& sheet, Qt::Key key) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(sheet.findChild<QWidget*>(u"lstSheet"_s), &press);
+    };
+    const SheetRequest ground{u"Ground"_s, session.state<GroundSelection>().SelectedGroundSet};
+    showSheet(u"see-all"_s, ground, [](frm_SetSheet&) {});
+    showSheet(u"see-all-beside"_s, ground, [&](frm_SetSheet& sheet) {
+        sheet.findChild<ucSlider*>()->setValue(100);
+        pressKey(sheet, Qt::Key_Down);
+        sheet.turnBeside();
+    });
+    showSheet(u"see-all-alone"_s, ground, [&](frm_SetSheet& sheet) {
+        pressKey(sheet, Qt::Key_Right);
+        pressKey(sheet, Qt::Key_Return);
+    });
+    showSheet(u"see-all-sky"_s, {u"Sky"_s, session.state<SkySelection>().SelectedSkySet},
+              [&](frm_SetSheet& sheet) { pressKey(sheet, Qt::Key_A); });
+    showSheet(u"see-all-night"_s, {u"Night"_s, session.state<NightSelection>().SelectedNightSet},
+              [](frm_SetSheet&) {});
+    showSheet(u"see-all-simulator"_s, {}, [](frm_SetSheet&) {});
 }
 
 void Gallery::saveNight() {
@@ -297,6 +342,7 @@ void Gallery::saveAll() {
     saveGround();
     saveSky();
     saveNight();
+    saveSheets();
     saveDialogs();
     saveMessages();
     saveProgress();

@@ -34,6 +34,7 @@ private:
     void saveGround();
     void saveSky();
     void saveNight();
+    void saveSheets();
     void saveDialogs();
     void saveMessages();
     void saveProgress();

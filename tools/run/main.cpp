@@ -123,7 +123,7 @@ FlyReport fly(Session& session, const CloudCover& cover) {
         say(u"Nothing was installed."_s);
     else
         say(u"Installed ground set '%1' and sky set '%2': %3 files in %4 s, into %5"_s
-                .arg(report.installed->ground, report.installed->sky)
+                .arg(report.installed->ground.name, report.installed->sky.name)
                 .arg(report.installed->filesCopied)
                 .arg(timer.elapsed() / 1000.0, 0, 'f', 1)
                 .arg(session.FSPath.text()));

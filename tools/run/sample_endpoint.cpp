@@ -4,13 +4,15 @@
 
 namespace morvane {
 
-SampleEndpoint::SampleEndpoint(Registry& real) : real_(real), server_(sampleCycleReply) {}
+SampleEndpoint::SampleEndpoint(Registry& real)
+    : real_(real), server_(LoopbackServer::RequestHandler(sampleReply)) {}
 
 QString SampleEndpoint::GetRegString(int root, const QString& key, const QString& name,
                                      const QString& machine) const {
     if (name == u"WeatherServer") return address();
     if (name == u"WeatherPath") return u"/weather/"_s;
     if (name == u"WeatherFormat") return u"noaa"_s;
+    if (name == u"WeatherSources") return u"none"_s;
     return real_.GetRegString(root, key, name, machine);
 }
 

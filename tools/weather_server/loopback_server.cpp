@@ -5,7 +5,17 @@
 
 namespace morvane {
 
-LoopbackServer::LoopbackServer(Handler handler, quint16 port) : handler_(std::move(handler)) {
+QByteArray LoopbackServer::Request::header(const QByteArray& name) const {
+    for (const QByteArray& line : head.split('\n'))
+        if (line.toLower().startsWith(name.toLower() + ':')) return line.mid(name.size() + 1).trimmed();
+    return {};
+}
+
+LoopbackServer::LoopbackServer(const Handler& handler, quint16 port)
+    : LoopbackServer(RequestHandler([handler](const Request& request) { return handler(request.path); }),
+                     port) {}
+
+LoopbackServer::LoopbackServer(RequestHandler handler, quint16 port) : handler_(std::move(handler)) {
     QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] { accept(); });
     server_.listen(QHostAddress::LocalHost, port);
 }
@@ -29,11 +39,19 @@ void LoopbackServer::read(QTcpSocket& connection) {
     QByteArray& head = heads_[&connection];
     head += connection.readAll();
     if (!head.contains("\r\n\r\n")) return;
-    const QByteArray path = head.left(head.indexOf("\r\n")).split(' ').value(1);
+    const Request request{head.left(head.indexOf("\r\n")).split(' ').value(1), head};
     head.clear();
     ++requests_;
-    const Reply reply = handler_(path);
+    answer(connection, handler_(request));
+}
+
+void LoopbackServer::answer(QTcpSocket& connection, const Reply& reply) {
     connection.write(reply.bytes);
+    if (!reply.endless.isEmpty()) {
+        QObject::connect(&connection, &QTcpSocket::bytesWritten, &server_,
+                         [&connection, part = reply.endless] { connection.write(part); });
+        return;
+    }
     if (reply.closes) connection.disconnectFromHost(); // once all of it is written
 }
 

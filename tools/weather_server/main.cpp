@@ -1,4 +1,4 @@
-// Serves the sample cycle, in the public service's form, under every hour's name below /weather/.
+// Serves the sample reports in the three forms, and answers that a client has to be ready for.
 // usage: morvane-weather-server [PORT]
 
 #include "loopback_server.h"
@@ -12,7 +12,7 @@ using namespace morvane;
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    const LoopbackServer server(sampleCycleReply, arguments.value(1).toUShort());
+    const LoopbackServer server(LoopbackServer::RequestHandler(sampleReply), arguments.value(1).toUShort());
     if (!server.isListening()) {
         std::fputs("The port cannot be had.\n", stderr);
         return 1;

@@ -27,6 +27,7 @@ protected:
     }
 
 private:
+    const SetKind& kind() const override { return setKind<Kind>(); }
     std::vector<SetRow> setRows() override {
         std::vector<SetRow> rows;
         for (const auto& set : refreshedSets())

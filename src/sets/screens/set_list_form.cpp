@@ -3,12 +3,18 @@
 #include "core/failure_report.h"
 #include "core/flag_text.h"
 #include "core/numbers.h"
+#include "core/opened_file.h"
 #include "core/session.h"
+#include "sets/set_kind.h"
+#include "sets/set_sharing.h"
+#include "sets/sheet_request.h"
 #include "ui/buffer_picture.h"
 #include "ui/controls/picture_frame.h"
+#include "ui/file_choice.h"
 #include "ui/shell.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <algorithm>
 
 namespace morvane {
@@ -16,6 +22,8 @@ namespace morvane {
 namespace {
 
 constexpr int pageRight = 582, pictureTop = 129, keyRow = 397, activatedColumn = 1;
+
+const QString lookFiles = fileKinds(u"Looks of sets"_s, sharedSetEnding);
 
 void addRule(QWidget* paper, const QRect& place) {
     auto* rule = new QWidget(paper);
@@ -35,6 +43,8 @@ SetListForm::SetListForm(Shell& shell, const QString& name, const WindowLook& lo
     addPictures();
     addDescription();
     addKeys();
+    addLookButtons();
+    setAcceptDrops(true);
 }
 
 void SetListForm::addInstructionsAndList() {
@@ -58,10 +68,13 @@ void SetListForm::addPictures() {
         picture->setAccessibleName(caption);
         picture->placePicture({left, pictureTop, side, side});
         picture->setSmooth(setup_.isSmooth);
+        picture->setToolTip(u"Double click to see every texture of the set."_s);
+        connect(picture, &PictureFrame::opened, this, &SetListForm::seeAll);
         return picture;
     };
     source_ = add(setup_.sourceName, u"Original"_s, setup_.pictureLefts[0]);
     result_ = add(setup_.resultName, u"This set"_s, setup_.pictureLefts[1]);
+    result_->setFocusPolicy(Qt::TabFocus);
 }
 
 void SetListForm::addDescription() {
@@ -92,6 +105,51 @@ void SetListForm::addKeys() {
     remove_ = add(setup_.remove, u"btn_Delete"_s, u"Click to delete selected texture set."_s, u"Delete"_s);
 }
 
+void SetListForm::addLookButtons() {
+    const auto add = [this](const QString& name, const QString& text, const QString& tip, int left,
+                            void (SetListForm::*use)()) {
+        auto* button = new QPushButton(text, paper());
+        button->setObjectName(name);
+        button->setAccessibleName(text);
+        button->setToolTip(tip);
+        button->setGeometry(left, 14, 66, 20);
+        connect(button, &QPushButton::clicked, this, use);
+        return button;
+    };
+    seeAll_ = new QPushButton(u"See all"_s, paper());
+    seeAll_->setObjectName(u"cmdSeeAll"_s);
+    seeAll_->setAccessibleName(seeAll_->text());
+    seeAll_->setToolTip(u"Click to see every texture of the selected set."_s);
+    seeAll_->setGeometry(494, 14, 88, 20);
+    connect(seeAll_, &QPushButton::clicked, this, &SetListForm::seeAll);
+    export_ = add(u"cmdExport"_s, u"Export"_s, u"Click to save the colours of this set for other pilots."_s,
+                  350, &SetListForm::exportLook);
+    add(u"cmdImport"_s, u"Import"_s, u"Click to take a set's colours that another pilot has saved."_s, 422,
+        &SetListForm::importLook);
+}
+
+void SetListForm::seeAll() {
+    if (!seeAll_->isEnabled()) return;
+    session().state<SheetRequest>() = {kind().facts.word, kind().inHand(session()).name};
+    session().user.showModal(Screen::frm_SetSheet);
+}
+
+void SetListForm::exportLook() {
+    const QString name = kind().inHand(session()).name;
+    const QString file =
+        chooseFileToSave(this, u"Export This Set"_s, nameWithoutKey(name), lookFiles, sharedSetEnding);
+    if (!file.isEmpty() && exportSet(session(), kind(), name, FilePath(file)))
+        session().user.tellDone({u"The colours of %1 are saved"_s.arg(name), file});
+}
+
+void SetListForm::importLook() {
+    const QString file = chooseFileToOpen(this, u"Import a Set"_s, lookFiles);
+    if (openedFile(file) != OpenedFile::none)
+        shell().openFile(file); // it may be of another kind than this list
+    else if (!file.isEmpty())
+        openLook(session(), FilePath(file));
+}
+
 void SetListForm::formatSets(int& selectedRow) {
     reportFailures(session().user, {}, [&] {
         markListKey();
@@ -115,6 +173,8 @@ void SetListForm::selectFilledRow(int row) {
 
 void SetListForm::formatKeys() {
     remove_->setState(ButtonState::disabled);
+    export_->setEnabled(false);
+    seeAll_->setEnabled(false);
     if (create_) create_->setState(ButtonState::enabled);
     setActivateState(ButtonState::enabled);
     install_->setState(ButtonState::disabled);
@@ -173,9 +233,13 @@ void SetListForm::takeInHand(int row, bool hasColours, ButtonState ofActivated) 
     install_->setState(isActivated ? ofWhole : ButtonState::disabled);
     setActivateState(isActivated ? ofActivated : ofWhole);
     remove_->setState(ButtonState::enabled);
+    export_->setEnabled(hasColours);
+    seeAll_->setEnabled(true);
 }
 
 void SetListForm::disableSetKeys() {
+    export_->setEnabled(false);
+    seeAll_->setEnabled(false);
     setActivateState(ButtonState::disabled);
     for (SkinnedButton* key : {install_, remove_})
         key->setState(ButtonState::disabled);

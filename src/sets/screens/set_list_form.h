@@ -7,10 +7,12 @@
 #include <array>
 
 class QLabel;
+class QPushButton;
 
 namespace morvane {
 
 class PictureFrame;
+class SetKind;
 class cDIBSection;
 
 /// What tells the list page of one kind of sets from that of another.
@@ -53,6 +55,7 @@ protected:
     SetListForm(Shell& shell, const QString& name, const WindowLook& look, const HostKeys& keys,
                 const QString& colourPage, const SetListSetup& setup);
 
+    virtual const SetKind& kind() const = 0;
     /// The rows of all sets, from a collection that is read anew when the session's refresh flag is set.
     virtual std::vector<SetRow> setRows() = 0;
     /// Before a clicked row is taken in hand; false when its set is not there any more.
@@ -79,6 +82,10 @@ private:
     void addPictures();
     void addDescription();
     void addKeys();
+    void addLookButtons();
+    void seeAll();
+    void exportLook();
+    void importLook();
     void formatKeys();
     void fillRows();
     void selectFilledRow(int row);
@@ -98,6 +105,7 @@ private:
     QLabel* description_;
     SkinnedButton *activate_, *install_, *remove_;
     SkinnedButton* create_ = nullptr; ///< null for a page without it
+    QPushButton *seeAll_, *export_;
 };
 
 } // namespace morvane

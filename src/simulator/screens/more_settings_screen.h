@@ -7,6 +7,8 @@ class QLabel;
 
 namespace morvane {
 
+class WeatherSourcesPanel;
+
 /// Settings that are seldom needed, beside the options of the configuration page.
 class frm_MoreSettings : public DialogForm {
     Q_OBJECT
@@ -22,6 +24,7 @@ private:
     void showUndo();
 
     QLabel *lblSimulatorPath_, *lblUndoRoom_;
+    WeatherSourcesPanel* weather_;
     QCheckBox* chkUndo_;
 };
 

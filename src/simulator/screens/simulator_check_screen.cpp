@@ -3,6 +3,7 @@
 #include "core/failure_report.h"
 #include "core/numbers.h"
 #include "core/session.h"
+#include "sets/sheet_request.h"
 #include "ui/controls/count_row.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/set_table.h"
@@ -66,6 +67,15 @@ frm_InSimulator::frm_InSimulator(Shell& shell)
     readAll->setToolTip(u"Click to read every file, also those that look untouched."_s);
     readAll->setGeometry(566, 57, 108, 20);
     connect(readAll, &QPushButton::clicked, this, [this] { look(CheckDepth::everyFile); });
+    auto* seeAll = new QPushButton(u"See all"_s, this);
+    seeAll->setObjectName(u"cmdSeeAll"_s);
+    seeAll->setAccessibleName(seeAll->text());
+    seeAll->setToolTip(u"Click to see the textures that lie there, over your own."_s);
+    seeAll->setGeometry(586, 81, 88, 20);
+    connect(seeAll, &QPushButton::clicked, this, [this] {
+        session().state<SheetRequest>() = {};
+        session().user.showModal(Screen::frm_SetSheet);
+    });
     addCounts();
     addParts();
     addList();

@@ -33,6 +33,7 @@ constexpr RoleStyle roleStyles[] = {
     {TextRole::number, 12, QFont::Medium, palette::textBlue, atRight},
     {TextRole::total, 12, QFont::Bold, palette::textBlue, atRight},
     {TextRole::longHelp, 11, QFont::Normal, palette::textBlue, atTop, true},
+    {TextRole::remark, 11, QFont::Normal, palette::textBlue, atRight},
     {TextRole::fieldCaption, 11, QFont::Medium, palette::textBlue},
     {TextRole::sectionHeading, 11, QFont::Bold, palette::textBlue},
     {TextRole::listHead, 11, QFont::Bold, palette::textBlue},

@@ -22,6 +22,7 @@ enum class TextRole {
     number,      ///< a value at the right of its box
     total,       ///< a sum at the right of its box
     longHelp,    ///< wraps
+    remark,      ///< at the right of its box
     fieldCaption,
     sectionHeading, ///< shown in upper case
     listHead,

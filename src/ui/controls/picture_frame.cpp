@@ -3,6 +3,7 @@
 #include "core/literals.h"
 #include "ui/controls/palette.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -69,7 +70,26 @@ void PictureFrame::paintFrame(QPainter& painter) const {
     paintShadow(painter, place.adjusted(-1, -1, 1, 1));
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(place.adjusted(-2, -2, 2, 2), Qt::white);
-    painter.fillRect(place.adjusted(-1, -1, 1, 1), QColor::fromRgb(palette::pictureLine));
+    const bool isInHand = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    painter.fillRect(place.adjusted(-1, -1, 1, 1),
+                     QColor::fromRgb(isInHand ? palette::accentOnPaper : palette::pictureLine));
+}
+
+void PictureFrame::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) Q_EMIT opened();
+}
+
+void PictureFrame::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QWidget::keyPressEvent(event);
+    Q_EMIT opened();
+}
+
+void PictureFrame::focusInEvent(QFocusEvent*) {
+    update();
+}
+
+void PictureFrame::focusOutEvent(QFocusEvent*) {
+    update();
 }
 
 void PictureFrame::paintEvent(QPaintEvent* event) {

@@ -21,7 +21,14 @@ public:
     /// A small picture that is enlarged shows its pixels as squares when it is not smooth.
     void setSmooth(bool isSmooth);
 
+Q_SIGNALS:
+    void opened(); ///< by a double click, or by Enter where it has the keyboard
+
 protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

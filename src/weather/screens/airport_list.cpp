@@ -11,8 +11,8 @@ namespace morvane {
 
 namespace {
 
-/// Logical pixels; the last column takes what is left over.
-constexpr int columnWidths[] = {42, 134, 72, 78, 88, 64};
+/// Logical pixels. The names take what is left over: they make room for the scroll bar.
+constexpr int columnWidths[] = {44, 164, 66, 84, 92, 54, 62}, nameColumn = 1;
 
 } // namespace
 
@@ -23,6 +23,8 @@ AirportList::AirportList(QWidget* parent) : QTreeView(parent), model_(new Airpor
     setModel(model_);
     for (int column = 0; const int width : columnWidths)
         header()->resizeSection(column++, width);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
     connect(header(), &QHeaderView::sectionClicked, this, &AirportList::sortBy);
     connect(this, &QTreeView::clicked, this, &AirportList::choose);
 }

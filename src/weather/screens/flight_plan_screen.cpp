@@ -90,10 +90,11 @@ QLabel* frm_FlightPlan::addHeading(const QString& caption, const QString& name, 
 void frm_FlightPlan::prepare() {
     clearPlan();
     lvwFPList_->clearRows();
+    const FilePath& chosen = session().state<CoverChoice>().planFile;
     QStringList names;
     reportFailures(session().user, morvaneError, [&] {
-        folder_ = userFlightsFolder(session());
-        names = flightPlanNames(session(), folder_);
+        folder_ = chosen.isEmpty() ? userFlightsFolder(session()) : chosen.parent();
+        names = chosen.isEmpty() ? flightPlanNames(session(), folder_) : QStringList{chosen.fileName()};
     });
     for (const QString& name : names)
         lvwFPList_->addRow({name, {name}, {name}});
@@ -104,6 +105,7 @@ void frm_FlightPlan::prepare() {
     lvwFPList_->selectRow(1);
     setFirstFocus(lvwFPList_);
     allowOk(!names.isEmpty());
+    if (!chosen.isEmpty()) openPlan();
 }
 
 void frm_FlightPlan::clearPlan() {
@@ -143,8 +145,8 @@ void frm_FlightPlan::processFlightPlan(const FlightPlan& plan) {
     lblDepVal_->setText(plan.departure);
     lblDestVal_->setText(plan.destination);
     lblAltVal_->setText(plan.altitude);
-    lvwFlightPlan_->setVisible(!plan.waypoints.isEmpty());
-    lblNoWaypoints_->setVisible(plan.waypoints.isEmpty());
+    lvwFlightPlan_->setVisible(!plan.waypoints.empty());
+    lblNoWaypoints_->setVisible(plan.waypoints.empty());
     lblProgress_->show();
     pbFlightPlan_->show();
     const PlanWeather weather = morvane::processFlightPlan(session(), plan, [this](double value) {

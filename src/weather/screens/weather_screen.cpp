@@ -61,6 +61,9 @@ frm_WxControl::frm_WxControl(Shell& shellOfPages)
     addOptions();
     addReports();
     addKeys();
+    setAcceptDrops(true);
+    for (QLineEdit* box : std::as_const(searchBoxes_))
+        box->setAcceptDrops(false); // it would take a file's name for what is typed
     auto* age = new QTimer(this);
     connect(age, &QTimer::timeout, this, &frm_WxControl::showAge);
     age->start(showAgeEvery);
@@ -144,11 +147,15 @@ void frm_WxControl::addOptions() {
 
 void frm_WxControl::addReports() {
     const auto add = [this](const QString& name, const QString& caption, int left) {
-        makeLabel(paper(), caption, {left, 288, 278, 14}, TextRole::sectionHeading);
+        makeLabel(paper(), caption, {left, 288, 122, 14}, TextRole::sectionHeading);
         return new MetarBox(name, caption, {left, 306, 278, 72}, paper());
     };
     departure_ = add(u"lblDepMetar"_s, u"Departure METAR"_s, 14);
     destination_ = add(u"lblDestMetar"_s, u"Destination METAR"_s, 304);
+    lblDepAge_ = makeLabel(paper(), {}, {132, 289, 160, 14}, TextRole::remark);
+    lblDepAge_->setObjectName(u"lblDepAge"_s);
+    lblDestAge_ = makeLabel(paper(), {}, {422, 289, 160, 14}, TextRole::remark);
+    lblDestAge_->setObjectName(u"lblDestAge"_s);
 }
 
 void frm_WxControl::addKeys() {
@@ -189,7 +196,11 @@ void frm_WxControl::refresh() {
 }
 
 void frm_WxControl::showAge() {
-    setFootText({reportAgeText(session()), reportSourceText(session())});
+    const WeatherState& weather = session().state<WeatherState>();
+    setFootText({reportAgeText(session()), reportSourceText(session()),
+                 weather.NoSourceAnswered ? FootSign::warning : FootSign::cloud});
+    lblDepAge_->setText(reportAgeText(session(), weather.DepMetar));
+    lblDestAge_->setText(reportAgeText(session(), weather.DestMetar));
 }
 
 // Searching ----------------------------------------------------------------------------------------------

@@ -51,7 +51,7 @@ private:
     QList<QLineEdit*> searchBoxes_;
     FilterChoice *cboCountry_, *cboState_, *cboCity_;
     AirportList* lvwAirports_;
-    QLabel *lblAirportCount_, *lblASv6FileTime_, *picASv6_;
+    QLabel *lblAirportCount_, *lblASv6FileTime_, *picASv6_, *lblDepAge_, *lblDestAge_;
     QRadioButton *optDepAirport_, *optDestAirport_;
     QCheckBox* chkNoWeatherReports_;
     MetarBox *departure_, *destination_;

@@ -1,3 +1,4 @@
+#include "core/registry.h"
 #include "core/store.h"
 #include "sets/options_in_force.h"
 #include "simulator/backup_files.h"
@@ -6,6 +7,8 @@
 #include "ui/controls/set_table.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace morvane::test {
@@ -69,6 +72,58 @@ TEST_F(OptionsScreens, thePilotsOwnTexturesBecomeBaseImages) {
         program.toldDuring([&] { program.control<QPushButton>(u"frm_Config"_s, button).click(); });
         expectOwn(button == u"cmdUseSimulator");
     }
+}
+
+/// The row that is picked, the button that is pressed, and what is stored and picked then.
+TEST_F(OptionsScreens, theWeathersSourcesAreArranged) {
+    storeOwnValue(program.install.registry, u"WeatherSources"_s, u"noaa;awc;vatsim"_s);
+    program.show(Screen::frm_MoreSettings, [&](DialogForm& dialog) {
+        auto& list = *dialog.findChild<SetTable*>(u"lstSources"_s);
+        auto& choice = *dialog.findChild<QComboBox*>(u"cboNewSource"_s);
+        auto& address = *dialog.findChild<QLineEdit*>(u"txtOwnServer"_s);
+        const auto button = [&](const QString& name) {
+            return dialog.findChild<QPushButton*>(u"cmdSource"_s + name);
+        };
+        const auto own = [&](const QString& value) {
+            return ownValue(program.install.registry, u"Weather"_s + value);
+        };
+        const struct {
+            int row;
+            QString pressed, sources, picked;
+        } cases[] = {
+            {3, u"Up"_s, u"noaa;vatsim;awc"_s, u"vatsim"_s},
+            {1, u"Down"_s, u"vatsim;noaa;awc"_s, u"noaa"_s},
+            {1, u"Remove"_s, u"noaa;awc"_s, u"noaa"_s},
+            {2, u"Remove"_s, u"noaa"_s, u"noaa"_s},
+            {1, u"Remove"_s, u"none"_s, {}},
+            {0, u"Add"_s, u"noaa"_s, u"noaa"_s},
+        };
+        for (const auto& [row, pressed, sources, picked] : cases) {
+            if (row > 0) clickRow(list, row);
+            button(pressed)->click();
+            EXPECT_EQ(own(u"Sources"_s), sources);
+            EXPECT_EQ(list.selectedNames().join(u' '), picked);
+        }
+        EXPECT_FALSE(button(u"Up"_s)->isEnabled() || button(u"Down"_s)->isEnabled() || address.isVisible());
+        choice.setCurrentIndex(choice.findText(u"Own server: one table"_s));
+        EXPECT_TRUE(address.isVisible());
+        for (const auto& [text, problems] : {std::pair(u"club.example"_s, 1),
+                                             {u"https://club.example/r?id=1"_s, 1},
+                                             {u" https://club.example:81/list.csv "_s, 0}}) {
+            address.setText(text);
+            EXPECT_EQ(program.toldDuring([&] { button(u"Add"_s)->click(); }).size(), problems)
+                << text.toStdString();
+        }
+        EXPECT_EQ(own(u"Server"_s) + own(u"Path"_s) + own(u"Format"_s),
+                  u"https://club.example:81/list.csvawc"_s);
+        EXPECT_EQ(list.selectedNames(), QStringList{u"club.example"_s})
+            << "before all others, and there it stays";
+        EXPECT_FALSE(button(u"Up"_s)->isEnabled() || button(u"Down"_s)->isEnabled());
+        button(u"Remove"_s)->click();
+        EXPECT_EQ(own(u"Server"_s), QString());
+        EXPECT_EQ(list.selectedNames(), QStringList{u"noaa"_s});
+        dialog.cancel();
+    });
 }
 
 TEST_F(OptionsScreens, aBackupIsChosenBeforeOkAndAPartialOneIsMarked) {

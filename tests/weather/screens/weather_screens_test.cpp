@@ -1,8 +1,10 @@
 
 #include "support/window_program.h"
+#include "ui/controls/foot_line.h"
 #include "ui/controls/set_table.h"
 #include "weather/cover_choice.h"
 #include "weather/report_filter.h"
+#include "weather/reports.h"
 #include "weather/screens/airport_list.h"
 #include "weather/screens/filter_choice.h"
 #include "weather/screens/link_label.h"
@@ -107,6 +109,8 @@ TEST_F(WeatherScreenTest, aChosenAirportShowsItsReportAndItsEndKeepsIt) {
     }
     EXPECT_EQ(label(u"lblDepMetar"_s), u"DIAP 010000Z 00000KT"_s);
     EXPECT_EQ(label(u"lblDestMetar"_s), u"KBFI 010000Z 00000KT"_s);
+    EXPECT_EQ(label(u"lblDepAge"_s), u"00:00Z, 29 days old"_s);
+    EXPECT_EQ(label(u"lblDestAge"_s), u"00:00Z, 29 days old"_s);
 }
 
 TEST_F(WeatherScreenTest, theFinderFiltersAtEachKeyAndItsReportBecomesTheEndThatWasSet) {
@@ -124,6 +128,18 @@ TEST_F(WeatherScreenTest, theFinderFiltersAtEachKeyAndItsReportBecomesTheEndThat
     showWxFinder(session);
     EXPECT_TRUE(weather.optDestAirport && !weather.optDepAirport);
     EXPECT_EQ(weather.DestIcao, u"DIAP"_s);
+}
+
+TEST_F(WeatherScreenTest, theFootLineWarnsWhereNoSourceAnswered) {
+    const auto& line = *program.shell.form(u"frm_Main"_s)->findChild<FootLine*>();
+    EXPECT_EQ(line.shown().text, u"2 reports, none with a time"_s);
+    program.toldDuring([&] { clsWxFinderData(session).GetWeatherFromNOAA(); });
+    EXPECT_EQ(line.shown().text, u"No source answered; 2 stored reports, none with a time"_s);
+    QTest::keyClick(&list, Qt::Key_Tab); // takes away what the job said
+    EXPECT_EQ(line.shown().text, u"No source answered; 2 stored reports, none with a time"_s);
+    EXPECT_EQ(line.shown().sign, FootSign::warning);
+    EXPECT_EQ(line.shown().remark, u"No weather source is set"_s);
+    EXPECT_EQ(label(u"lblDepAge"_s), QString()) << "there is no report in the box";
 }
 
 TEST_F(WeatherScreenTest, anImportOfActiveSkysFileThatIsDueIsOffered) {
