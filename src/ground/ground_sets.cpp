@@ -3,14 +3,9 @@
 #include "ground/ground_generation.h"
 #include "ground/ground_installation.h"
 #include "sets/set_actions.h"
+#include "sets/set_names.h"
 
 namespace morvane {
-
-namespace {
-
-constexpr qsizetype descriptionLength = 255;
-
-} // namespace
 
 const SetKindFacts& GroundKind::facts() {
     static const SetKindFacts facts{
@@ -29,7 +24,7 @@ void GroundKind::takeInHand(GroundSelection& selection, const clsTextureSet& set
     selection.SelectedGroundSet = set.TextureSet;
     selection.SelectedGroundActivated = set.Actvated == flagText(true);
     selection.SelectedGroundCover = set.CloudCover;
-    selection.SelectedGroundDescription = set.Description.left(descriptionLength);
+    selection.SelectedGroundDescription = set.Description.left(longestDescription);
     selection.colours = {};
 }
 

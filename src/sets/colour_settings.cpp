@@ -57,4 +57,9 @@ ColourValues effectiveColours(const SliderValues& sliders) {
             scaled(3, channelScale),        scaled(4, levelScale),   scaled(5, levelScale)};
 }
 
+std::array<double, 6> sliderPositions(const ColourValues& values) {
+    return {values.saturation,          values.red / channelScale,      values.green / channelScale,
+            values.blue / channelScale, values.brightness / levelScale, values.contrast / levelScale};
+}
+
 } // namespace morvane

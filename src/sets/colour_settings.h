@@ -4,6 +4,8 @@
 #include "imaging/colour_values.h"
 #include "sets/slider_values.h"
 
+#include <array>
+
 namespace morvane {
 
 /// A `ColorSettings` text: saturation, red, green, blue, brightness, contrast, joined by ":", effective
@@ -17,5 +19,7 @@ bool areWithinSliders(const ColourValues& values);
 /// Slider positions as effective values: saturation as it is, red, green and blue times 20/100, brightness
 /// and contrast times 30/100, in double precision and then cut to 32 bits.
 ColourValues effectiveColours(const SliderValues& sliders);
+/// The other way, for effective values that came from anywhere; not rounded.
+std::array<double, 6> sliderPositions(const ColourValues& values);
 
 } // namespace morvane

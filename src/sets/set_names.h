@@ -9,6 +9,8 @@ inline const QString defaultSetName = u"Default"_s;
 
 /// Letters in the name of a set, its key included.
 inline constexpr qsizetype longestSetName = 50;
+/// Letters in its description.
+inline constexpr qsizetype longestDescription = 255;
 
 /// The name of a new set from its key and what the user typed: "12-Storm". A set's folder bears it too, so
 /// whatever a path does not take is out of it: control characters and \ / : * ? " < > | become "_", the whole

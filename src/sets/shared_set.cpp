@@ -4,6 +4,7 @@
 #include "core/numbers.h"
 #include "sets/cloud_cover.h"
 #include "sets/colour_settings.h"
+#include "sets/set_names.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -14,7 +15,7 @@ namespace morvane {
 namespace {
 
 constexpr int newestVersion = 1;
-constexpr qsizetype longestDescription = 255, mostColours = 10;
+constexpr qsizetype mostColours = 10;
 const QString versionKey = u"morvaneset"_s, coloursKey = u"colours"_s;
 
 struct TextField {

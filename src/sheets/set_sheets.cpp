@@ -34,10 +34,8 @@ QString sliderText(double value) {
 
 /// What the colour page would show of a set's effective values.
 void putColours(Sheet& sheet, const ColourValues& colours) {
-    constexpr double channel = 100.0 / 20, level = 100.0 / 30; // undo what effectiveColours does
-    const double sliders[] = {colours.saturation,     colours.red * channel,      colours.green * channel,
-                              colours.blue * channel, colours.brightness * level, colours.contrast * level};
-    for (std::size_t i = 0; i < std::size(sliders); ++i)
+    const auto sliders = sliderPositions(colours);
+    for (std::size_t i = 0; i < sliders.size(); ++i)
         sheet.colours.emplace_back(QString::fromUtf16(colourNames[i]), sliderText(sliders[i]));
 }
 
@@ -50,7 +48,7 @@ QString stateOf(const Record& set, std::size_t ownFiles) {
 }
 
 template <class Record>
-void putSet(SheetBuilder& builder, const Record& set) {
+void putSet(const Session& session, SheetBuilder& builder, const Record& set) {
     Sheet& sheet = builder.sheet();
     sheet.title = nameOf(set);
     sheet.state = stateOf(set, builder.ownFiles());
@@ -60,7 +58,7 @@ void putSet(SheetBuilder& builder, const Record& set) {
     if constexpr (requires { set.CloudCover; }) sheet.cover = trimmedBlanks(set.CloudCover);
     if constexpr (requires { set.ColorSettings; })
         attempt([&] {
-            const ColourValues colours = parseColourSettings(set.ColorSettings);
+            const ColourValues colours = parseColourSettings(set.ColorSettings, session.DecimalSep);
             sheet.recolouring = std::make_shared<Recolouring>(colours);
             putColours(sheet, colours);
         });
@@ -95,7 +93,7 @@ std::optional<Sheet> groundSheet(Session& session, const QString& name) {
     for (const CatalogueFile& file : TextureCatalogue(session).popTextureList(0, 0, true, set->TextureSet))
         builder.addOfSet({categoryName(file.category), static_cast<std::size_t>(file.season)},
                          file.sourceFolder, file.fileName, file.targetFolder);
-    putSet(builder, *set);
+    putSet(session, builder, *set);
     return std::move(builder.sheet());
 }
 
@@ -105,7 +103,7 @@ std::optional<Sheet> nightSheet(Session& session, const QString& name) {
     SheetBuilder builder(session.files, oneColumn);
     for (const auto& [category, file] : nightFilesByCategory(session, set->TextureSet))
         builder.addOfSet({categoryName(category)}, file.sourceFolder, file.fileName, file.targetFolder);
-    putSet(builder, *set);
+    putSet(session, builder, *set);
     return std::move(builder.sheet());
 }
 
@@ -119,7 +117,7 @@ std::optional<Sheet> skySheet(Session& session, const QString& name) {
         for (const QString& file : session.files.list(stock, u"*.bmp"_s))
             builder.addOfSet({time, {}, time != skyDay}, stock, file, own);
     }
-    putSet(builder, *set);
+    putSet(session, builder, *set);
     builder.sheet().skyGroups = groupsOf(session, *set);
     if (builder.sheet().skyGroups) putSkyColours(builder.sheet(), *builder.sheet().skyGroups);
     return std::move(builder.sheet());

@@ -60,6 +60,15 @@ QString setText(const ReadySet& set, int number, int total) {
                                          cloudCover(set.cloudNumber)->word);
 }
 
+/// The sky's files are small beside those of the ground.
+bool hasRoom(Session& session, const std::vector<ReadySet>& sets) {
+    const auto ground = std::ranges::count_if(sets, &ReadySet::isGround);
+    if (ground == 0) return true;
+    RunSize run = groundRunSize(session, static_cast<int>(ground));
+    run.isQuestionWanted = false;
+    return session.user.allowsRun(run);
+}
+
 } // namespace
 
 QString readyCaption(ReadyStep step, int setsOfEach) {
@@ -130,7 +139,8 @@ bool GetReady::run(const Told& told) {
             line.mark = ReadyMark::leftOut;
         } else if (line.mark != ReadyMark::done) {
             told(step, {ReadyMark::working, line.text});
-            const bool isDone = doStep(step, told);
+            bool isDone = false; // whoever shows the steps has to live until here
+            reportFailures(session_.user, morvaneError, [&] { isDone = doStep(step, told); });
             line = lineOf(step);
             if (!isDone) line.mark = isCancelled_ ? ReadyMark::waiting : ReadyMark::failed;
             isReady = isReady && isDone;
@@ -177,9 +187,7 @@ bool GetReady::makeSets(const Told& told) {
     const bool cameToItsEnd = reportFailures(session_.user, morvaneError, [&] {
         const std::vector<ReadySet> sets = missingReadySets(session_, wishes_.setsOfEach);
         const int total = static_cast<int>(sets.size());
-        RunSize run = groundRunSize(session_, total); // a sky is the smaller half of them
-        run.isQuestionWanted = false;
-        isWhole = session_.user.allowsRun(run);
+        isWhole = hasRoom(session_, sets);
         for (int i = 0; i < total && isWhole; ++i) {
             const ReadySet& set = sets[static_cast<std::size_t>(i)];
             told(ReadyStep::sets, {ReadyMark::working, setText(set, i + 1, total), 100.0 * i / total});

@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "core/session.h"
 #include "sets/favourite_name.h"
+#include "sets/set_names.h"
 #include "ui/controls/description_edit.h"
 #include "ui/controls/labels.h"
 
@@ -11,12 +12,6 @@
 #include <QSignalBlocker>
 
 namespace morvane {
-
-namespace {
-
-constexpr int longestDescription = 255; // as long as the selection's field
-
-} // namespace
 
 frm_AddFav::frm_AddFav(Shell& shell)
     : DialogForm(shell, u"frm_AddFav"_s, smallDialogLook, u"Texture Set Information"_s) {

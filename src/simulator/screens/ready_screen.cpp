@@ -181,7 +181,7 @@ void frm_Ready::showLine(ReadyStep step, const ReadyLine& line) {
     row.line->setText(row.line->fontMetrics().elidedText(text, Qt::ElideRight, row.line->width()));
     row.line->setToolTip(text);
     row.state->setText(stateText(step, line));
-    row.mark->show(signOf(line.mark), line.percent);
+    row.mark->setSign(signOf(line.mark), line.percent);
     row.box->setEnabled(line.mark == ReadyMark::waiting && stage_ != Stage::after);
     const bool showsOptions = step == ReadyStep::baseTextures && !isFailed;
     if (step == ReadyStep::baseTextures) {
@@ -203,7 +203,7 @@ void frm_Ready::takeProgress(double percent) {
     const Row& row = rows_[indexOf(step_)];
     pbReady_->setValue(percent);
     row.state->setText(QString::number(static_cast<int>(percent)) + u" %"_s);
-    row.mark->show(StepMark::Sign::share, percent);
+    row.mark->setSign(StepMark::Sign::share, percent);
 }
 
 void frm_Ready::takeMessage(const Message& message) {

@@ -28,7 +28,7 @@ StepMark::StepMark(QWidget* parent) : QWidget(parent) {
     resize(20, 20);
 }
 
-void StepMark::show(Sign sign, double percent) {
+void StepMark::setSign(Sign sign, double percent) {
     const bool isNew = std::exchange(sign_, sign) != sign;
     if (isNew || std::exchange(percent_, percent) != percent) update();
 }

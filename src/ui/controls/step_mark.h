@@ -14,7 +14,7 @@ public:
     explicit StepMark(QWidget* parent);
 
     /// `percent` is of the share alone.
-    void show(Sign sign, double percent = 0);
+    void setSign(Sign sign, double percent = 0);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
