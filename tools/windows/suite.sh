@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # suite.sh [CTEST ARGUMENT...]: builds all for Windows and runs the tests under Wine, whole programs side by side, in a
-# prefix of the project's own that is made anew. At the end it names the cases that are tests of Linux alone.
+# prefix of the project's own that is made anew. At the end it names the cases that are tests of Linux alone, and what
+# failed.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . tools/windows/prefix.sh
@@ -27,10 +28,22 @@ casesOf() {
     done | sort
 }
 
-status=0
-ctest --test-dir build/windows/release -j "$(nproc)" --output-on-failure "$@" || status=$?
+suite() {
+    ctest --test-dir build/windows/release --output-on-failure "$@"
+}
+
+# What fails is run once more by itself: Wine has failed a program that then passed three hundred times. Only what fails
+# again fails the suite, but the last lines name all that did.
+status=0 failed=
+suite -j "$(nproc)" "$@" || {
+    failed=$(sed 's/^[0-9]*://' build/windows/release/Testing/Temporary/LastTestsFailed.log | tr '\n' ' ')
+    suite --rerun-failed || status=$?
+}
 comm -23 <(casesOf build/release "") <(casesOf build/windows/release .exe tools/windows/under_wine) \
     >"$windowsFolder/linux_alone.txt"
 echo "$(wc -l <"$windowsFolder/linux_alone.txt") cases are of Linux alone:"
 cat "$windowsFolder/linux_alone.txt"
+[ -z "$failed" ] || echo "FAILED at first: $failed"
+[ $status -eq 0 ] || echo "FAILED again, by itself: $(sed 's/^[0-9]*://' \
+    build/windows/release/Testing/Temporary/LastTestsFailed.log | tr '\n' ' ')"
 exit $status
