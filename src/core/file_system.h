@@ -67,6 +67,8 @@ public:
     std::optional<FileStamp> stampIfThere(const FilePath& path);
     /// In bytes, for this user; -1 where the system does not tell.
     virtual std::int64_t freeSpace(const FilePath& folder) = 0;
+    /// Whether it lies on another machine, whose files no two programs can share as memory.
+    virtual bool isOnNetwork(const FilePath& folder) = 0;
     virtual QByteArray read(const FilePath& file) = 0;
     /// So many bytes from that offset; fewer where the file ends before.
     virtual QByteArray readPart(const FilePath& file, std::int64_t from, std::int64_t count) = 0;
@@ -108,6 +110,7 @@ public:
     std::int64_t size(const FilePath& file) override;
     FileStamp stamp(const FilePath& path) override;
     std::int64_t freeSpace(const FilePath& folder) override;
+    bool isOnNetwork(const FilePath& folder) override;
     QByteArray read(const FilePath& file) override;
     QByteArray readPart(const FilePath& file, std::int64_t from, std::int64_t count) override;
     void write(const FilePath& file, const QByteArray& contents) override;

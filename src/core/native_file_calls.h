@@ -32,6 +32,9 @@ std::error_code flushToDisk(const std::filesystem::path& path);
 /// such call.
 std::optional<std::error_code> flushDrive(const std::filesystem::path& folder);
 
+/// The drive of that folder is another machine's; false where the system does not tell.
+bool isNetworkDrive(const std::filesystem::path& folder);
+
 /// Refuses a folder that is not empty, and what is no folder.
 std::error_code removeEmptyFolder(const std::filesystem::path& folder);
 

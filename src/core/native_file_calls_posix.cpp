@@ -1,7 +1,10 @@
 #include "core/native_file_calls.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace morvane {
@@ -49,6 +52,14 @@ std::error_code flushToDisk(const std::filesystem::path& path) {
 
 std::optional<std::error_code> flushDrive(const std::filesystem::path& folder) {
     return flushOpened(folder, ::syncfs);
+}
+
+bool isNetworkDrive(const std::filesystem::path& folder) {
+    constexpr std::int64_t kinds[] = {NFS_SUPER_MAGIC, SMB_SUPER_MAGIC, CIFS_SUPER_MAGIC, SMB2_SUPER_MAGIC,
+                                      V9FS_MAGIC,      AFS_SUPER_MAGIC, CODA_SUPER_MAGIC, CEPH_SUPER_MAGIC};
+    struct statfs drive {};
+    return ::statfs(folder.c_str(), &drive) == 0 &&
+           std::ranges::find(kinds, static_cast<std::int64_t>(drive.f_type)) != std::end(kinds);
 }
 
 std::error_code removeEmptyFolder(const std::filesystem::path& folder) {

@@ -76,6 +76,11 @@ std::optional<std::error_code> flushDrive(const std::filesystem::path&) {
 }
 
 // The library's own tries to remove a file next and tells of that.
+bool isNetworkDrive(const std::filesystem::path& folder) {
+    wchar_t drive[MAX_PATH + 1] = {};
+    return GetVolumePathNameW(folder.c_str(), drive, MAX_PATH) && GetDriveTypeW(drive) == DRIVE_REMOTE;
+}
+
 std::error_code removeEmptyFolder(const std::filesystem::path& folder) {
     return lastErrorUnless(RemoveDirectoryW(folder.c_str()));
 }

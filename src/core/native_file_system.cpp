@@ -219,6 +219,10 @@ std::int64_t NativeFileSystem::freeSpace(const FilePath& folder) {
     return error ? -1 : static_cast<std::int64_t>(space.available);
 }
 
+bool NativeFileSystem::isOnNetwork(const FilePath& folder) {
+    return isNetworkDrive(systemPath(folder));
+}
+
 QByteArray NativeFileSystem::read(const FilePath& file) {
     QFile in(file.native());
     openFile(in, file, QIODevice::ReadOnly, heldFiles_);

@@ -41,10 +41,10 @@ void Store::create(const FilePath& file) {
     const QString native = file.native();
     if (QFileInfo::exists(native))
         throw Error(ErrorCode::storeFailure, u"the file is there already: "_s + file.text());
-    connect(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    connect(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, StoreDrive::ownMachine);
 }
 
-void Store::open(const FilePath& file, StoreAccess access) {
+void Store::open(const FilePath& file, StoreAccess access, StoreDrive drive) {
     // SQLite makes a missing file in some of its modes; the program must never start on an empty store.
     if (!QFileInfo(file.native()).isFile())
         throw Error(ErrorCode::storeFailure, u"file not found: "_s + file.text());
@@ -53,7 +53,7 @@ void Store::open(const FilePath& file, StoreAccess access) {
     if (access == StoreAccess::reading)
         connectToRead(file);
     else
-        connect(file, SQLITE_OPEN_READWRITE);
+        connect(file, SQLITE_OPEN_READWRITE, drive);
     try {
         if (tables().isEmpty()) throw Error(ErrorCode::storeFailure, u"it holds no tables: "_s + file.text());
     } catch (const Error&) {
@@ -62,20 +62,30 @@ void Store::open(const FilePath& file, StoreAccess access) {
     }
 }
 
-void Store::connect(const FilePath& file, int flags) {
+void Store::connect(const FilePath& file, int flags, StoreDrive drive) {
     close();
     path_ = file.text();
     try {
         openConnection(file.native().toUtf8(), flags);
-        // A write then never waits for the disk, and a kill can lose nothing that had been written.
-        run(u"PRAGMA journal_mode = WAL"_s);
-        run(u"PRAGMA synchronous = NORMAL"_s);
-        run(u"PRAGMA wal_autocheckpoint = 4000"_s); // pages; each time costs two waits for the disk
+        chooseJournal(drive);
         dataVersion_ = dataVersion();
     } catch (const Error&) {
         close();
         throw;
     }
+}
+
+void Store::chooseJournal(StoreDrive drive) {
+    if (drive == StoreDrive::network) {
+        run(u"PRAGMA locking_mode = EXCLUSIVE"_s); // a log of before is then taken in without shared memory
+        run(u"PRAGMA journal_mode = DELETE"_s);
+        run(u"PRAGMA locking_mode = NORMAL"_s);
+        return;
+    }
+    // A write then never waits for the disk, and a kill can lose nothing that had been written.
+    run(u"PRAGMA journal_mode = WAL"_s);
+    run(u"PRAGMA synchronous = NORMAL"_s);
+    run(u"PRAGMA wal_autocheckpoint = 4000"_s); // pages; each time costs two waits for the disk
 }
 
 /// Beside the store of a program that runs lies its log. Without one the store is read as the file that it

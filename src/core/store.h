@@ -17,6 +17,8 @@ struct TranslatedStatement;
 
 /// What a store is opened for.
 enum class StoreAccess { reading, writing };
+/// Where it lies: programs share the index of the store's log as memory, which a network drive cannot give.
+enum class StoreDrive { ownMachine, network };
 
 /// The one relational database file, `Morvane.mdb`, and the connection to it. Statements are those of the
 /// program (see statement_translation.h); texts compare without regard to case.
@@ -35,8 +37,10 @@ public:
     /// Makes a new, empty store and opens it. An existing file raises.
     void create(const FilePath& file);
     /// Opens an existing store. A missing file raises and is not made; so do a file that is no database, one
-    /// without any table, and a locked one. Nothing is written beside one that is opened for reading.
-    void open(const FilePath& file, StoreAccess access = StoreAccess::writing);
+    /// without any table, and a locked one. Nothing is written beside one that is opened for reading. On a
+    /// network drive the store keeps no log: each write waits for the disk.
+    void open(const FilePath& file, StoreAccess access = StoreAccess::writing,
+              StoreDrive drive = StoreDrive::ownMachine);
     bool isOpen() const { return connection_ != nullptr; }
     /// Moves everything into the one file and leaves no other beside it. A closed store stays closed.
     void close();
@@ -65,7 +69,8 @@ private:
     };
     using Prepared = std::shared_ptr<sqlite3_stmt>;
 
-    void connect(const FilePath& file, int flags);
+    void connect(const FilePath& file, int flags, StoreDrive drive);
+    void chooseJournal(StoreDrive drive);
     void connectToRead(const FilePath& file);
     void openConnection(const QByteArray& name, int flags);
     std::int64_t dataVersion();

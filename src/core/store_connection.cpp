@@ -16,7 +16,9 @@ QString getDecimalSeparator() {
 void connectDatabase(Session& session, StoreAccess access) {
     try {
         session.adoConn = std::make_unique<Store>();
-        session.adoConn->open(session.AppPath / u"Morvane.mdb", access);
+        session.adoConn->open(
+            session.AppPath / u"Morvane.mdb", access,
+            session.files.isOnNetwork(session.AppPath) ? StoreDrive::network : StoreDrive::ownMachine);
     } catch (const Error& error) {
         session.user.systemBox(error.description(), {}, SystemBoxButtons::ok);
     }

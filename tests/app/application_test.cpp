@@ -56,6 +56,12 @@ TEST_F(ApplicationTest, startsOnWhatTheRegistryAndTheStoreHold) {
     store.close();
     EXPECT_TRUE(reloadChangedRows(session) && options.IsDutch);
     EXPECT_TRUE(user.calls.isEmpty());
+    for (const bool isOnNetwork : {false, true}) {
+        closeDatabase(session);
+        install.files.isToldNetwork = isOnNetwork;
+        ASSERT_TRUE(startUp(session));
+        EXPECT_EQ(install.files.exists(install.home() / u"Morvane.mdb-wal"), !isOnNetwork);
+    }
 }
 
 /// The trial of the folder is the second of the file operations.

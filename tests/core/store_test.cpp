@@ -86,6 +86,21 @@ TEST_F(StoreTest, keysAreNeverUsedTwiceAndClosingLeavesOneFile) {
     EXPECT_EQ(column("ID", "MV_BACKUP WHERE BACKUP_NAME = 'C'").join(u' '), "3");
 }
 
+TEST_F(StoreTest, onANetworkDriveItTakesInTheLogOfBeforeAndKeepsNone) {
+    addBackups({"of the log"});
+    const FilePath moved = folder / u"moved.mdb";
+    for (const QString& ending : {QString(), u"-wal"_s}) // as a kill leaves them
+        writeFile(FilePath(moved.text() + ending), readFile(FilePath(file.text() + ending)));
+    Store other;
+    store.open(moved, StoreAccess::writing, StoreDrive::network);
+    other.open(moved, StoreAccess::writing, StoreDrive::network);
+    addBackups({"new"});
+    other.execute(u"DELETE FROM MV_BACKUP WHERE ID = 3"_s); // takes no lock that stays
+    EXPECT_EQ(backups(), (QStringList{u"of the log"_s, u"new"_s}));
+    for (const QString& ending : {u"-wal"_s, u"-shm"_s})
+        EXPECT_FALSE(QFileInfo::exists(moved.native() + ending)) << ending.toStdString();
+}
+
 TEST_F(StoreTest, transactionsNest) {
     {
         StoreTransaction outer(store);

@@ -26,17 +26,18 @@ mkdir "$HOME"
 programs=$PWD/build/release/bin
 "$programs/morvane-content" --home "$root/new/data" --simulator "$root/new/simulator" >/dev/null
 
-# Starts at the second of Greenwich that stands in $second.
+# Starts at the second of Greenwich that stands in $second; the install and its simulator lie below $at.
 console() {
     env FAKETIME_DONT_FAKE_MONOTONIC=1 FAKETIME_FMT=%s TZ="$zone" LC_ALL="$language" \
-        faketime -f "@$second" "$programs/morvane-cli" --home "$root/at/data" --answer yes "$@" 2>&1
+        faketime -f "@$second" "$programs/morvane-cli" --home "$at/data" --answer yes "$@" 2>&1
 }
 
 # What a pilot does, step by step, and all that it leaves.
 work() {
-    rm -rf "$root/at"
-    cp -a "$root/new" "$root/at"
-    console config set simulator "$root/at/simulator"
+    rm -rf "$at"
+    mkdir -p "$(dirname "$at")"
+    cp -a "$root/new" "$at"
+    console config set simulator "$at/simulator"
     console backup create
     console metar import "$PWD/data/metar/02Z.TXT" noaa
     console night favourite 'İki Ω 100 % & "q"' 10:20:-30:40:50:-60
@@ -45,18 +46,19 @@ work() {
     for list in "night list" "metar rows" "metar find" "backup list" "originals list --json" verify; do console $list; done
     console undo
     console originals restore
-    (cd "$root/at" && find . -type f ! -name '*.mdb*' ! -name '*.ini' -exec md5sum {} + | LC_ALL=C sort -k 2)
+    (cd "$at" && find . -type f ! -name '*.mdb*' ! -name '*.ini' -exec md5sum {} + | LC_ALL=C sort -k 2)
 }
 
 # Leaves out what has to differ: the folder, and the pilot's own date, which also names the month of a report and stands
 # in the list of what is kept.
 plain() {
-    sed -E "s|$root||g; /originals.lst$/d; s/(\"METAR_MONTH\":\")[A-Za-z]*/\1/
+    sed -E "s|$at||g; /originals.lst$/d; s/(\"METAR_MONTH\":\")[A-Za-z]*/\1/
         s/[0-9]{1,2} [A-Z][a-z]{2} [0-9]{4}, [0-9]{2}:[0-9]{2}//; s|[0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}||
         s/[0-9]{4}-[0-9]{2}-[0-9]{2}(T[0-9]{2}:[0-9]{2}:[0-9]{2})?//g"
 }
 
 found=0
+at=$root/at
 for time in "2026-06-15 00:30:00" "2026-06-30 23:59:58" "2026-12-31 23:59:58" "2026-10-25 00:59:58"; do
     second=$(date -u -d "$time" +%s)
     language=C zone=UTC work | plain >"$root/greenwich"
@@ -66,4 +68,22 @@ for time in "2026-06-15 00:30:00" "2026-06-30 23:59:58" "2026-12-31 23:59:58" "2
         work | plain | diff "$root/greenwich" - | cut -c1-300 || found=1
     done
 done
+
+language=C zone=UTC
+long=$(printf 'long %.0s' {1..40})
+for name in "100 % & Ω 'single' \"double\"/with a dot at its end." "${long:0:$((180 - ${#root}))}"; do
+    at=$root/$name
+    echo "In a folder with ${#at} characters: $at"
+    work | plain | diff "$root/greenwich" - | cut -c1-300 || found=1
+done
+
+# A disk that nobody can write to serves reading, and refuses the rest in one line.
+echo "On a disk that is read only"
+at=$root/at
+rm -rf "$at"
+cp -a "$root/new" "$at"
+console config set simulator "$at/simulator" >/dev/null
+unshare -m bash -c "mount --bind '$at/data' '$at/data' && mount -o remount,ro,bind '$at/data' &&
+    '$programs/morvane-cli' --home '$at/data' night list >/dev/null &&
+    ! '$programs/morvane-cli' --home '$at/data' --answer yes night favourite New 0:0:0:0:0:0" || found=1
 exit $found

@@ -58,6 +58,8 @@ public:
     void cutPower(unsigned seed);
     /// What the disk says it has free; below 0 the truth.
     qint64 toldFree = -1;
+    /// Whether it says that it is another machine's.
+    bool isToldNetwork = false;
     int operations() const { return operations_; }
     /// Whether the operation that failed first was a test of existence.
     bool failedAtTest() const { return failedAtTest_; }
@@ -91,6 +93,9 @@ public:
     void setMode(const FilePath& file, unsigned mode) override { act(file).setMode(file, mode); }
     std::int64_t size(const FilePath& file) override { return act(file).size(file); }
     FileStamp stamp(const FilePath& path) override { return act(path).stamp(path); }
+    bool isOnNetwork(const FilePath& folder) override {
+        return isToldNetwork || act(folder).isOnNetwork(folder);
+    }
     std::int64_t freeSpace(const FilePath& folder) override {
         return toldFree < 0 ? act(folder).freeSpace(folder) : toldFree;
     }
