@@ -117,14 +117,22 @@ void Store::openConnection(const QByteArray& name, int flags) {
     installTextRules(connection);
 }
 
-std::int64_t Store::dataVersion() {
-    StoreStatement statement(*this, u"PRAGMA data_version"_s);
+std::int64_t Store::pragma(const QString& name) {
+    StoreStatement statement(*this, u"PRAGMA "_s + name);
     return statement.step() ? statement.number(0) : 0;
 }
 
 bool Store::wasChangedByOthers() {
     const std::int64_t known = std::exchange(dataVersion_, dataVersion());
     return dataVersion_ != known;
+}
+
+void Store::giveRoomBack() {
+    constexpr std::int64_t least = 1 << 20, share = 4;
+    const std::int64_t free = pragma(u"freelist_count"_s);
+    if (free * share < pragma(u"page_count"_s) || free * pragma(u"page_size"_s) < least) return;
+    prepared_.clear(); // one that was not read to its end would keep the tables
+    run(u"VACUUM"_s);
 }
 
 void Store::close() {

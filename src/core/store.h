@@ -45,6 +45,11 @@ public:
     /// Moves everything into the one file and leaves no other beside it. A closed store stays closed.
     void close();
 
+    /// Gives the disk the room that removed rows left, where that is a megabyte and a quarter of the file.
+    /// The store is then written anew beside itself: it stays as it is where a kill, a full disk or another
+    /// program's lock comes between.
+    void giveRoomBack();
+
     /// Runs a statement that returns no rows. One that changes the schema runs whole or not at all.
     void execute(const QString& statement);
 
@@ -73,7 +78,8 @@ private:
     void chooseJournal(StoreDrive drive);
     void connectToRead(const FilePath& file);
     void openConnection(const QByteArray& name, int flags);
-    std::int64_t dataVersion();
+    std::int64_t dataVersion() { return pragma(u"data_version"_s); }
+    std::int64_t pragma(const QString& name);
     Prepared prepared(const QString& statement);
     void run(const QString& statement, const QStringList& texts = {});
     void runSchemaChange(const TranslatedStatement& change);

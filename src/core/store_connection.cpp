@@ -1,5 +1,6 @@
 #include "core/store_connection.h"
 
+#include "core/attempts.h"
 #include "core/failure_report.h"
 #include "core/store_records.h"
 
@@ -16,9 +17,9 @@ QString getDecimalSeparator() {
 void connectDatabase(Session& session, StoreAccess access) {
     try {
         session.adoConn = std::make_unique<Store>();
-        session.adoConn->open(
-            session.AppPath / u"Morvane.mdb", access,
-            session.files.isOnNetwork(session.AppPath) ? StoreDrive::network : StoreDrive::ownMachine);
+        session.adoConn->open(session.AppPath / u"Morvane.mdb", access,
+                              session.files.isOnNetwork(session.AppPath) ? StoreDrive::network
+                                                                         : StoreDrive::ownMachine);
     } catch (const Error& error) {
         session.user.systemBox(error.description(), {}, SystemBoxButtons::ok);
     }
@@ -30,7 +31,9 @@ void updateDatabase(Session& session, const Schema& schema) {
 }
 
 void closeDatabase(Session& session) {
-    if (session.adoConn) session.adoConn->close();
+    if (!session.adoConn) return;
+    if (session.adoConn->isOpen()) attempt([&] { session.adoConn->giveRoomBack(); });
+    session.adoConn->close();
     session.adoConn.reset();
 }
 

@@ -101,6 +101,23 @@ TEST_F(StoreTest, onANetworkDriveItTakesInTheLogOfBeforeAndKeepsNone) {
         EXPECT_FALSE(QFileInfo::exists(moved.native() + ending)) << ending.toStdString();
 }
 
+TEST_F(StoreTest, roomOfManyRemovedRowsIsGivenBackAndTheRestStays) {
+    const auto sizeAfter = [this](const QString& statement) {
+        store.open(file);
+        execute(statement);
+        store.giveRoomBack();
+        store.close();
+        return QFileInfo(file.native()).size();
+    };
+    const qint64 empty = QFileInfo(file.native()).size();
+    addRows(u"MV_BACKUP(BACKUP_NAME)"_s, QStringList(40000, QString(50, u'x')) << u"kept"_s);
+    EXPECT_GT(sizeAfter(u"DELETE FROM MV_BACKUP WHERE ID < 8000"_s), empty + 2'000'000) << "not worth it yet";
+    EXPECT_LT(sizeAfter(u"DELETE FROM MV_BACKUP WHERE ID <= 40000"_s), empty + 100'000);
+    store.open(file);
+    addBackups({"new"});
+    EXPECT_EQ(column("ID", "MV_BACKUP").join(u' '), "40001 40002");
+}
+
 TEST_F(StoreTest, transactionsNest) {
     {
         StoreTransaction outer(store);
