@@ -27,7 +27,8 @@ void decode(CommandContext& context) {
     if (!input.open(stdin, QIODevice::ReadOnly)) throw Error(ErrorCode::ioFailure);
     const QByteArray text = input.read(largestCycle + 1);
     if (text.size() > largestCycle)
-        fail(context, u"The input is "_s + tooLargeText(u"a cycle"_s, largestCycle));
+        throw Error::withDescription(ErrorCode::ioFailure,
+                                     u"The input is "_s + tooLargeText(u"a cycle"_s, largestCycle));
     requireBoundedLines(text);
     QStringList lines = splitLines(decodeText(text));
     if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
