@@ -4,6 +4,8 @@
 #include "core/numbers.h"
 #include "core/reading_limits.h"
 
+#include <algorithm>
+
 namespace morvane {
 
 namespace {

@@ -5,6 +5,7 @@
 
 #include <QMultiHash>
 #include <array>
+#include <optional>
 
 namespace morvane {
 

@@ -11,6 +11,7 @@
 #include "weather/weather_state.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 namespace morvane::test {
 namespace {
