@@ -2,7 +2,9 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "cli/terminal.h"
+#include "core/bounded_reading.h"
 #include "core/error.h"
+#include "core/reading_limits.h"
 #include "core/row_set.h"
 #include "core/store.h"
 #include "core/store_schema.h"
@@ -23,7 +25,12 @@ namespace {
 void decode(CommandContext& context) {
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly)) throw Error(ErrorCode::ioFailure);
-    QStringList lines = splitLines(decodeText(input.readAll()));
+    const QByteArray text = input.read(largestCycle + 1);
+    if (text.size() > largestCycle)
+        throw Error::withDescription(ErrorCode::ioFailure,
+                                     u"The input is "_s + tooLargeText(u"a cycle"_s, largestCycle));
+    requireBoundedLines(text);
+    QStringList lines = splitLines(decodeText(text));
     if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
     for (const QString& line : lines) {
         printJson(QJsonDocument(toJson(clsDecodeMetar(context.user).decodeMetarString(line))));

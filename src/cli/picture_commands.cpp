@@ -1,12 +1,11 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
+#include "core/bounded_reading.h"
 #include "core/error.h"
+#include "core/reading_limits.h"
 #include "imaging/texture_codec.h"
 #include "sets/colour_settings.h"
 #include "sky/sky_groups.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 namespace morvane {
 
@@ -36,15 +35,14 @@ void recolour(CommandContext& context) {
     });
 }
 
-/// Raises "Type mismatch" for anything but an array of ten colour texts.
+/// Whatever is wrong with the file is told with its name.
 SkyGroupTable readGroups(Session& session, const FilePath& path) {
-    const QJsonArray texts = QJsonDocument::fromJson(session.files.read(path)).array();
-    if (texts.size() != skyGroupCount) throw Error(ErrorCode::typeMismatch, path.text());
-    SkyGroupTable groups;
-    for (int number = 1; number <= skyGroupCount; ++number)
-        if (const auto record = parseSkyColourString(texts[number - 1].toString()))
-            skyRecord(groups, number) = *record;
-    return groups;
+    const QByteArray json = readAtMost(session.files, path, largestColourFile, u"ten colour texts"_s);
+    try {
+        return parseSkyGroups(json);
+    } catch (const Error& error) {
+        throw Error::withDescription(error.code(), error.description() + u": "_s + path.text());
+    }
 }
 
 void recolourSky(CommandContext& context) {

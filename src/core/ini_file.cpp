@@ -25,14 +25,6 @@ std::optional<QStringView> sectionName(QStringView line) {
     return close > 0 ? text.mid(1, close - 1) : text.mid(1);
 }
 
-IniFile readIni(FileSystem& files, const FilePath& file) {
-    try {
-        return IniFile::parse(files.read(file));
-    } catch (const Error&) {
-        return {}; // an unreadable profile reads as empty, as the system's does
-    }
-}
-
 } // namespace
 
 IniFile IniFile::parse(const QByteArray& bytes) {
@@ -98,6 +90,25 @@ void IniFile::setRawValue(const QString& section, const QString& key, const QStr
     lines_.insert(linesOf(section)->end, text);
 }
 
+QString IniFile::text(const QString& section, const QString& key) const {
+    QString value = withoutQuotes(rawValue(section, key).value_or(QString()));
+    value.replace(QChar(u'\0'), u' ');
+    return trimmedBlanks(value.left(longestValue));
+}
+
+int IniFile::number(const QString& section, const QString& key) const {
+    static const QRegularExpression digits(u"^-?[0-9]+"_s);
+    return digits.match(text(section, key)).captured().toInt();
+}
+
+IniFile readIni(FileSystem& files, const FilePath& file) {
+    try {
+        return IniFile::parse(files.read(file));
+    } catch (const Error&) {
+        return {};
+    }
+}
+
 QString withoutQuotes(const QString& value) {
     const bool quoted = value.size() >= 2 && value.front() == value.back() &&
                         (value.front() == u'"' || value.front() == u'\'');
@@ -105,14 +116,11 @@ QString withoutQuotes(const QString& value) {
 }
 
 int GetIniInt(FileSystem& files, const QString& section, const QString& key, const FilePath& file) {
-    static const QRegularExpression number(u"^-?[0-9]+"_s);
-    return number.match(GetIniString(files, section, key, file)).captured().toInt();
+    return readIni(files, file).number(section, key);
 }
 
 QString GetIniString(FileSystem& files, const QString& section, const QString& key, const FilePath& file) {
-    QString value = withoutQuotes(readIni(files, file).rawValue(section, key).value_or(QString()));
-    value.replace(QChar(u'\0'), u' ');
-    return trimmedBlanks(value.left(longestValue));
+    return readIni(files, file).text(section, key);
 }
 
 int WriteIni(FileSystem& files, const QString& section, const QString& key, const QString& value,

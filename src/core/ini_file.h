@@ -20,6 +20,12 @@ public:
     std::optional<QString> rawValue(const QString& section, const QString& key) const;
     void setRawValue(const QString& section, const QString& key, const QString& value);
 
+    /// The value without surrounding quotes, cut at 511 characters, NULs turned to blanks, trimmed; "" when
+    /// absent.
+    QString text(const QString& section, const QString& key) const;
+    /// The number at the text's beginning; 0 when there is none.
+    int number(const QString& section, const QString& key) const;
+
 private:
     struct Span {
         qsizetype first, end;
@@ -29,10 +35,10 @@ private:
     QStringList lines_;
 };
 
-/// The number at the value's beginning; 0 when there is none.
+/// The file as it stands there; empty where it is missing or cannot be read, as the system's profiles read.
+IniFile readIni(FileSystem& files, const FilePath& file);
+/// The number of one value of a file, and its text, as IniFile gives them.
 int GetIniInt(FileSystem& files, const QString& section, const QString& key, const FilePath& file);
-/// The value without surrounding quotes, cut at 511 characters, NULs turned to blanks, trimmed; "" when
-/// absent.
 QString GetIniString(FileSystem& files, const QString& section, const QString& key, const FilePath& file);
 /// Writes the value, making file, section and key when missing. 1 when done, 0 when the file was refused.
 int WriteIni(FileSystem& files, const QString& section, const QString& key, const QString& value,

@@ -234,9 +234,11 @@ QByteArray NativeFileSystem::read(const FilePath& file) {
 QByteArray NativeFileSystem::readPart(const FilePath& file, std::int64_t from, std::int64_t count) {
     QFile in(file.native());
     openFile(in, file, QIODevice::ReadOnly | QIODevice::Unbuffered, heldFiles_);
-    if (!in.seek(from)) throw Error(ErrorCode::ioFailure, file.text());
-    const QByteArray part =
-        in.read(std::min<std::int64_t>(count, std::max<std::int64_t>(in.size() - from, 0)));
+    if (!in.isSequential()) { // a pipe has no size, and no other place to begin at
+        if (!in.seek(from)) throw Error(ErrorCode::ioFailure, file.text());
+        count = std::clamp<std::int64_t>(in.size() - from, 0, count);
+    }
+    const QByteArray part = in.read(count);
     if (in.error() != QFileDevice::NoError) throw Error(ErrorCode::ioFailure, file.text());
     return part;
 }

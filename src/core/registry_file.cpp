@@ -1,6 +1,7 @@
 #include "core/registry_file.h"
 
 #include "core/literals.h"
+#include "core/reading_limits.h"
 
 #include <algorithm>
 #include <optional>
@@ -8,9 +9,6 @@
 namespace morvane {
 
 namespace {
-
-/// No path and no name of a key comes near it; what is longer is passed over.
-constexpr qsizetype longestLine = 8192;
 
 /// Takes the next line off, without its end.
 QByteArrayView takeLine(QByteArrayView& rest) {
@@ -93,7 +91,7 @@ QStringList textsInRegistryFile(const QByteArray& contents, const QStringList& k
         QByteArrayView line = takeLine(rest);
         const bool isKey = takeSign(line, "[");
         if (isKey) current = -1;
-        if ((!isKey && current < 0) || line.size() > longestLine) continue;
+        if ((!isKey && current < 0) || line.size() > longestRegistryLine) continue;
         if (isKey)
             current = indexOf(keys, takeText(line, ']'));
         else if (const std::optional<QString> text = valueOf(line, name))

@@ -2,6 +2,7 @@
 
 #include "core/attempts.h"
 #include "core/file_helpers.h"
+#include "core/reading_limits.h"
 #include "core/registry.h"
 #include "core/registry_file.h"
 #include "core/session.h"
@@ -15,7 +16,6 @@ namespace morvane {
 namespace {
 
 /// Those of prefixes with all that was ever installed have some fifty million bytes.
-constexpr std::int64_t largestRegistryFile = 256 << 20;
 
 /// A character that stands as "\x", "\u" or "\U" and its number, or as itself behind a "\".
 QString withoutEscapes(const QString& text) {

@@ -1,6 +1,7 @@
 #include "core/attempts.h"
 #include "core/file_helpers.h"
 #include "core/literals.h"
+#include "core/reading_limits.h"
 #include "core/wine_call.h"
 #include "core/wine_prefixes.h"
 
@@ -14,7 +15,6 @@ namespace morvane {
 namespace {
 
 /// What the programs that keep prefixes say of them is short.
-constexpr std::int64_t longestNote = 1 << 20;
 
 /// Where a program has its files: as packed by the distribution, and by Flatpak.
 QStringList dataFolders(const QString& flatpak) {
@@ -30,7 +30,7 @@ QStringList configFolders(const QString& flatpak) {
 const QString lutrisPackage = u"net.lutris.Lutris"_s, bottlesPackage = u"com.usebottles.bottles"_s;
 
 QByteArray note(FileSystem& files, const QString& path) {
-    return readBounded(files, FilePath(path), longestNote);
+    return readBounded(files, FilePath(path), largestPrefixNote);
 }
 
 /// Whole paths; none of a folder that cannot be read.

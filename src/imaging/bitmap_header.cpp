@@ -1,5 +1,7 @@
 #include "imaging/bitmap_header.h"
 
+#include "core/reading_limits.h"
+
 #include <QtEndian>
 #include <algorithm>
 
@@ -73,8 +75,7 @@ void setSides(BitmapHeader& header, std::int64_t width, std::int64_t height) {
     header.topDown = height < 0;
     const std::int64_t rows = header.topDown ? -height : height;
     if (width < 1 || rows < 1) refusePicture(u"it has no pixels");
-    if (width > BitmapHeader::largestSide || rows > BitmapHeader::largestSide ||
-        width * rows > BitmapHeader::largestArea)
+    if (width > largestPictureSide || rows > largestPictureSide || width * rows > largestPictureArea)
         refusePicture(u"it is too large");
     header.width = static_cast<int>(width);
     header.height = static_cast<int>(rows);

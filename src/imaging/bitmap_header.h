@@ -20,8 +20,8 @@ enum class PixelKind {
 /// What the headers of a bitmap file say, checked as far as headers can be: the sides are within bounds and
 /// kind and depth go together. Whether the pixels are there is the loaders' matter.
 struct BitmapHeader {
-    int width = 0;  ///< 1 to largestSide
-    int height = 0; ///< 1 to largestSide
+    int width = 0;  ///< 1 to largestPictureSide
+    int height = 0; ///< 1 to largestPictureSide
     bool topDown = false;
     int bitsPerPixel = 0; ///< of no meaning in the DXT kinds
     PixelKind kind = PixelKind::plain;
@@ -30,9 +30,6 @@ struct BitmapHeader {
     int paletteEntries = 0;    ///< 0 without a palette
     int paletteEntrySize = 0;  ///< bytes: blue, green, red, and but for the oldest header one unused
     std::array<std::uint32_t, 3> masks = {}; ///< red, green, blue; for the masked kind
-
-    static constexpr int largestSide = 8192;
-    static constexpr int largestArea = 4096 * 4096;
 };
 
 /// Takes plain bitmaps with info headers of 12, 40, 52, 56, 108 and 124 bytes and the simulator's extended

@@ -7,7 +7,7 @@ namespace morvane {
 
 PicturePair loadPicturePair(FileSystem& files, const FilePath& path) {
     PicturePair pair;
-    pair.source.CreateFromPicture(loadPicture(files, path));
+    pair.source.CreateFromPicture(loadPicture(files, path, largestTextureSide));
     if (!pair.result.Create(pair.source.Width(), pair.source.Height())) throw Error(ErrorCode::outOfMemory);
     return pair;
 }

@@ -35,19 +35,21 @@ void turnOver(Picture& picture) {
         std::swap_ranges(rowOf(picture, low), rowOf(picture, low) + size, rowOf(picture, high));
 }
 
-Picture readPicture(const QByteArray& bytes) {
+Picture readPicture(const QByteArray& bytes, int largestSide) {
     const Bytes file(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
                      static_cast<std::size_t>(bytes.size()));
     const BitmapHeader header = readBitmapHeader(file);
+    if (std::max(header.width, header.height) > largestSide)
+        throw Error(ErrorCode::invalidPicture, u"it is larger than %1 pixels a side"_s.arg(largestSide));
     Picture picture = readPixels(header, file);
     if (header.topDown) turnOver(picture);
     return picture;
 }
 
-Picture loadPicture(FileSystem& files, const FilePath& path) {
+Picture loadPicture(FileSystem& files, const FilePath& path, int largestSide) {
     const QByteArray bytes = files.read(path);
     try {
-        return readPicture(bytes);
+        return readPicture(bytes, largestSide);
     } catch (const Error& error) {
         throw Error::withDescription(error.code(), error.description() + u": "_s + path.text());
     }

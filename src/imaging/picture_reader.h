@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/file_system.h"
+#include "core/reading_limits.h"
 #include "imaging/picture.h"
 
 namespace morvane {
@@ -10,11 +11,11 @@ namespace morvane {
 /// or without their FS70 block). Alpha is dropped, smaller levels behind the picture are passed over.
 ///
 /// Raises ErrorCode::invalidPicture for anything else, a file that is cut short and sides beyond the bounds
-/// of BitmapHeader included.
-Picture readPicture(const QByteArray& bytes);
+/// of `core/reading_limits.h` included: "it is larger than 1024 pixels a side".
+Picture readPicture(const QByteArray& bytes, int largestSide = largestPictureSide);
 
 /// The same from a file; its path is then in the error's description. A missing file raises what
 /// FileSystem::read raises.
-Picture loadPicture(FileSystem& files, const FilePath& path);
+Picture loadPicture(FileSystem& files, const FilePath& path, int largestSide = largestPictureSide);
 
 } // namespace morvane

@@ -18,8 +18,12 @@ SaturationKernel::SaturationKernel(const ChannelTables& tables, float saturation
             levels_[channel][level] = static_cast<float>(tables[channel][level] / 255.0);
 }
 
+#ifdef __clang__
+#pragma clang attribute push(__attribute__((target("avx2,fma"))), apply_to = function)
+#else
 #pragma GCC push_options
 #pragma GCC target("avx2,fma")
+#endif
 #define MORVANE_INLINE inline __attribute__((always_inline))
 
 namespace {
@@ -236,6 +240,10 @@ void SaturationKernel::run(const std::uint8_t* source, std::uint8_t* destination
 }
 
 #undef MORVANE_INLINE
+#ifdef __clang__
+#pragma clang attribute pop
+#else
 #pragma GCC pop_options
+#endif
 
 } // namespace morvane

@@ -1,6 +1,7 @@
 #include "imaging/texture_codec.h"
 
 #include "core/error.h"
+#include "core/reading_limits.h"
 #include "imaging/block_group.h"
 #include "imaging/block_stream.h"
 #include "imaging/picture_reader.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr int headerSize = 74;
 constexpr int blockSize = 8;
-constexpr int largestSide = 1024;
 
 /// Bytes of the first `levels` levels. A level of fewer pixels than a block still takes a whole one.
 int sizeOfLevels(int width, int height, int levels) {
@@ -67,7 +67,8 @@ bool isOnlySelection(const QString& format, int levels, int alpha, int options) 
 } // namespace
 
 bool isTextureSide(int side) {
-    return side >= blockSide && side <= largestSide && std::has_single_bit(static_cast<unsigned>(side));
+    return side >= blockSide && side <= largestTextureSide &&
+           std::has_single_bit(static_cast<unsigned>(side));
 }
 
 QByteArray compressTexture(const Picture& picture) {
@@ -91,7 +92,7 @@ bool BMPScompressBMPVB(FileSystem& files, const FilePath& source, const QString&
                        int alpha, int options, const FilePath& target) {
     if (!isOnlySelection(format, levels, alpha, options)) return false;
     try {
-        const QByteArray texture = compressTexture(loadPicture(files, source));
+        const QByteArray texture = compressTexture(loadPicture(files, source, largestTextureSide));
         if (texture.isEmpty()) return false;
         files.write(target, texture);
         return true;

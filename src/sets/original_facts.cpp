@@ -29,7 +29,7 @@ std::optional<FactKind> kindOf(const QString& word) {
 
 /// Names may hold what ends columns and lines.
 QString escaped(QString text) {
-    for (const char16_t c : {u'%', u'\t', u'\n', u'\r'})
+    for (const char16_t c : {u'%', u'\t', u'\n', u'\r', u'\0'})
         text.replace(QChar(c), u"%%1"_s.arg(int(c), 2, 16, QChar(u'0')));
     return text;
 }

@@ -2,6 +2,7 @@
 
 #include "core/failure_report.h"
 #include "core/job.h"
+#include "core/reading_limits.h"
 #include "sets/set_kind.h"
 
 #include <algorithm>

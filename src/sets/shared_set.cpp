@@ -1,13 +1,14 @@
 #include "sets/shared_set.h"
 
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "core/numbers.h"
+#include "core/reading_limits.h"
 #include "sets/cloud_cover.h"
 #include "sets/colour_settings.h"
 #include "sets/set_names.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 namespace morvane {
@@ -69,7 +70,7 @@ QByteArray sharedSetBytes(const SharedSet& set) {
 
 SharedSet readSharedSet(const QByteArray& bytes) {
     if (bytes.size() > largestSharedSet) refuseLook(u"it is too large for a look of a set"_s);
-    const QJsonObject object = QJsonDocument::fromJson(bytes).object();
+    const QJsonObject object = parseJson(bytes).object();
     checkVersion(object);
     SharedSet set;
     for (const TextField& field : textFields())

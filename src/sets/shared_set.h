@@ -42,9 +42,6 @@ QString checkedCover(const SharedSet& set);
 /// Its only colour text; raises as above for one that no sliders can give.
 ColourValues checkedColours(const SharedSet& set);
 
-/// Beyond this a file is not read at all. The largest look is a sky's, some 2 KB.
-inline constexpr int largestSharedSet = 64 << 10;
-
 /// The name without the key that a stored set's name begins with: "Storm" of "12-Storm".
 QString nameWithoutKey(const QString& name);
 /// What a set's row takes as its description: the set's own and its author's text, cut to the column.

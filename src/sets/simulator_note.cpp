@@ -4,6 +4,7 @@
 #include "core/failure_report.h"
 #include "core/file_helpers.h"
 #include "core/ini_file.h"
+#include "core/reading_limits.h"
 #include "sets/simulator_copy.h"
 
 #include <QSysInfo>
@@ -13,7 +14,6 @@ namespace morvane {
 namespace {
 
 const QString section = u"Morvane"_s, noteTitle = u"Another Morvane"_s;
-constexpr std::int64_t largestNote = 4096;
 
 FilePath noteFile(const FilePath& simulator) {
     return simulator / u"Morvane note.ini";
@@ -76,7 +76,7 @@ QString questionOf(const Session& session, const SimulatorNote& note) {
 } // namespace
 
 std::optional<SimulatorNote> readSimulatorNote(FileSystem& files, const FilePath& simulator) {
-    const IniFile note = IniFile::parse(readBounded(files, noteFile(simulator), largestNote));
+    const IniFile note = IniFile::parse(readBounded(files, noteFile(simulator), largestSimulatorNote));
     const auto folder = note.rawValue(section, u"InstallFolder"_s);
     if (!folder || folder->isEmpty()) return std::nullopt;
     return SimulatorNote{

@@ -1,9 +1,9 @@
 #include "sets/undo_record.h"
 
+#include "core/bounded_reading.h"
 #include "core/literals.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 
 namespace morvane {
 
@@ -16,7 +16,7 @@ std::optional<QJsonObject> doneIn(const QByteArray& bytes) {
     const qsizetype begin = bytes.indexOf('\n') + 1;
     const QByteArray line = bytes.mid(begin, bytes.indexOf('\n', begin) - begin);
     if (!line.startsWith(mark)) return std::nullopt;
-    const QJsonDocument document = QJsonDocument::fromJson(line.mid(qstrlen(mark)));
+    const QJsonDocument document = parseJson(line.mid(qstrlen(mark)));
     return document.isObject() ? std::optional(document.object()) : std::nullopt;
 }
 

@@ -52,12 +52,15 @@ std::array<BackupPlace, 2> backupPlaces(const Session& session, const QString& n
 }
 
 BackupList BackupList::read(Session& session, const QString& name) {
-    BackupList list;
-    if (const auto text = session.files.readIfThere(listFile(session, name)))
-        list.parse(QString::fromUtf8(*text));
-    if (const auto text = session.files.readIfThere(oursFile(session, name)))
-        list.ours_ = filesOf(QString::fromUtf8(*text));
-    return list;
+    return of(session.files.readIfThere(listFile(session, name)),
+              session.files.readIfThere(oursFile(session, name)));
+}
+
+BackupList BackupList::of(const std::optional<QByteArray>& list, const std::optional<QByteArray>& ours) {
+    BackupList backup;
+    if (list) backup.parse(QString::fromUtf8(*list));
+    if (ours) backup.ours_ = filesOf(QString::fromUtf8(*ours));
+    return backup;
 }
 
 BackupList BackupList::readIfReadable(Session& session, const QString& name) {

@@ -5,6 +5,7 @@
 
 #include <QMultiHash>
 #include <array>
+#include <optional>
 
 namespace morvane {
 
@@ -29,7 +30,9 @@ class BackupList {
 public:
     /// As found in the folder. Raises when there is one and it cannot be read.
     static BackupList read(Session& session, const QString& name);
-    /// The same; one that cannot be read counts as none.
+    /// Of the contents of its two files, nothing for one that is not there.
+    static BackupList of(const std::optional<QByteArray>& list, const std::optional<QByteArray>& ours);
+    /// As `read`; one that cannot be read counts as none.
     static BackupList readIfReadable(Session& session, const QString& name);
     /// Raises when it cannot be written; the list of before then stays.
     void write(Session& session, const QString& name) const;

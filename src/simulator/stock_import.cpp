@@ -29,7 +29,8 @@ bool copyReadable(FileSystem& files, const FilePath& source, const FilePath& par
 /// The same for a picture; one that no texture can be made of is as good as none.
 bool convertReadable(FileSystem& files, const FilePath& source, const FilePath& part) {
     cDIBSection image;
-    const bool isRead = attempt([&] { image.CreateFromPicture(loadPicture(files, source)); });
+    const bool isRead =
+        attempt([&] { image.CreateFromPicture(loadPicture(files, source, largestTextureSide)); });
     if (!isRead || !isTextureSide(image.Width()) || !isTextureSide(image.Height())) return false;
     if (!image.SavePicture(part)) throw Error(ErrorCode::diskFull);
     return true;

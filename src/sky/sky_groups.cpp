@@ -1,8 +1,10 @@
 #include "sky/sky_groups.h"
 
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "core/numbers.h"
 
+#include <QJsonArray>
 #include <QStringList>
 
 namespace morvane {
@@ -93,6 +95,16 @@ std::optional<SkyGroup> parseSkyColourString(const QString& text) {
     for (const SkyField& field : skyFields())
         record.*field.value = static_cast<float>(textToNumber(QString(*number++).replace(u',', u'.')));
     return record;
+}
+
+SkyGroupTable parseSkyGroups(const QByteArray& json) {
+    const QJsonArray texts = parseJson(json).array();
+    if (texts.size() != skyGroupCount) throw Error(ErrorCode::typeMismatch);
+    SkyGroupTable groups;
+    for (int number = 1; number <= skyGroupCount; ++number)
+        if (const auto record = parseSkyColourString(texts[number - 1].toString()))
+            skyRecord(groups, number) = *record;
+    return groups;
 }
 
 } // namespace morvane

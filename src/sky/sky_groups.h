@@ -60,5 +60,8 @@ QString skyColourString(const SkyGroup& colours, const SkyGroupConstants& group)
 /// The nine fields of a colour text; nothing when it is blank. A number is read with "," as with ".". Raises
 /// "Subscript out of range" with fewer fields and "Type mismatch" when one is no number.
 std::optional<SkyGroup> parseSkyColourString(const QString& text);
+/// The table of a JSON array of ten colour texts; a blank one leaves its record at zero. Raises as above,
+/// "Type mismatch" also for anything but such an array.
+SkyGroupTable parseSkyGroups(const QByteArray& json);
 
 } // namespace morvane

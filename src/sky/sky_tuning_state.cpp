@@ -1,7 +1,6 @@
 #include "sky/sky_tuning_state.h"
 
 #include "core/error.h"
-#include "core/ini_file.h"
 #include "core/numbers.h"
 #include "sets/cloud_cover.h"
 #include "sky/sky_base_sets.h"
@@ -27,24 +26,24 @@ void startAnew(Session& session) {
 }
 
 /// Numbers are read as whole ones: a fraction is cut off, what is missing or unreadable is 0.
-void readTable(Session& session, const FilePath& file) {
-    for (const SkyGroupConstants& group : skyGroups()) {
-        SkyGroup& record = skyRecord(session.state<SkyColourTables>().skyPaletteGroups, group.number);
+void readTable(const IniFile& settings, SkyGroups& table) {
+    for (const SkyGroupConstants& group : skyGroups())
         for (const SkyField& field : skyFields())
-            record.*field.value =
-                static_cast<float>(GetIniInt(session.files, field.name, QString::number(group.number), file));
-    }
-}
-
-void readSettings(Session& session, const FilePath& file, const QString& coverWord) {
-    SkyTuningState& tuning = session.state<SkyTuningState>();
-    tuning.cloudCover = coverWord.left(longestWord);
-    if (const CloudCover* cover = cloudCover(coverWord)) tuning.cloudIndex = toInteger(cover->number);
-    tuning.baseSet = GetIniString(session.files, baseSection, onlyKey, file).left(longestWord);
-    readTable(session, file);
+            skyRecord(table, group.number).*field.value =
+                static_cast<float>(settings.number(field.name, QString::number(group.number)));
 }
 
 } // namespace
+
+bool readSkySettings(const IniFile& settings, SkyTuningState& tuning, SkyGroups& table) {
+    const QString coverWord = settings.text(coverSection, onlyKey);
+    if (coverWord.isEmpty()) return false;
+    tuning.cloudCover = coverWord.left(longestWord);
+    if (const CloudCover* cover = cloudCover(coverWord)) tuning.cloudIndex = toInteger(cover->number);
+    tuning.baseSet = settings.text(baseSection, onlyKey).left(longestWord);
+    readTable(settings, table);
+    return true;
+}
 
 void tuneCloudCover(Session& session, int cloudIndex) {
     const CloudCover* cover = cloudCover(cloudIndex);
@@ -54,15 +53,13 @@ void tuneCloudCover(Session& session, int cloudIndex) {
 }
 
 void loadSkyTuning(Session& session) {
-    if (session.state<SkyTuningState>().isLoaded) return;
-    const FilePath file = settingsFile(session);
-    const QString coverWord = GetIniString(session.files, coverSection, onlyKey, file);
-    if (coverWord.isEmpty())
+    SkyTuningState& tuning = session.state<SkyTuningState>();
+    if (tuning.isLoaded) return;
+    const IniFile settings = readIni(session.files, settingsFile(session));
+    if (!readSkySettings(settings, tuning, session.state<SkyColourTables>().skyPaletteGroups))
         startAnew(session);
-    else
-        readSettings(session, file, coverWord);
-    session.state<SkyTuningState>().selectedGroup = 1;
-    session.state<SkyTuningState>().isLoaded = true;
+    tuning.selectedGroup = 1;
+    tuning.isLoaded = true;
 }
 
 void saveLastSkySettings(Session& session) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "core/ini_file.h"
 #include "core/session.h"
+#include "imaging/sky_group.h"
 
 namespace morvane {
 
@@ -13,9 +15,12 @@ struct SkyTuningState {
     QString baseSet;
 };
 
+/// Takes what a settings file says; false, and nothing taken, where it names no cloud cover. One that is none
+/// of the five is kept as text and leaves the index as it was.
+bool readSkySettings(const IniFile& settings, SkyTuningState& tuning, SkyGroups& table);
+
 /// Loads what the colour page is set to, once in a run: from "LastSkySettings.cfg", or, when there is none or
-/// it names no cloud cover, as for a first run (a clear sky over "Default", all numbers and regions zero). A
-/// cloud cover that is none of the five is kept as text and leaves the index as it was.
+/// it names no cloud cover, as for a first run (a clear sky over "Default", all numbers and regions zero).
 void loadSkyTuning(Session& session);
 
 /// Writes "LastSkySettings.cfg" with the regions of the map, whatever the table holds. A state that was not

@@ -1,11 +1,14 @@
 #include "ui/skin.h"
 
 #include "core/literals.h"
+#include "core/reading_limits.h"
 #include "imaging/window_region.h"
 
+#include <QBuffer>
 #include <QDataStream>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <algorithm>
 
 namespace morvane {
@@ -32,8 +35,12 @@ QImage withoutKeyColour(const QImage& picture) {
 
 } // namespace
 
-void Skin::noteMissing(const QString& fileName) {
-    if (!missing_.contains(fileName)) missing_ << fileName;
+/// What is said of it the first time stays.
+void Skin::noteMissing(const QString& fileName, const QString& remark) {
+    const auto isOfFile = [&](const QString& told) {
+        return told == fileName || told.startsWith(fileName + u" ("_s);
+    };
+    if (std::ranges::none_of(missing_, isOfFile)) missing_ << fileName + remark;
 }
 
 QByteArray Skin::bytesOf(const QString& fileName) {
@@ -44,8 +51,15 @@ QByteArray Skin::bytesOf(const QString& fileName) {
     }
 }
 
+/// The size is looked at before memory is taken.
 QImage Skin::imageOf(const QString& fileName) {
-    return QImage::fromData(bytesOf(fileName));
+    QByteArray bytes = bytesOf(fileName);
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    if (std::max(size.width(), size.height()) <= largestPictureSide) return reader.read();
+    noteMissing(fileName, u" (larger than %1 pixels a side)"_s.arg(largestPictureSide));
+    return {};
 }
 
 QPixmap Skin::picture(const QString& fileName) {

@@ -29,7 +29,7 @@ public:
 private:
     QByteArray bytesOf(const QString& fileName);
     QImage imageOf(const QString& fileName);
-    void noteMissing(const QString& fileName);
+    void noteMissing(const QString& fileName, const QString& remark = {});
 
     FileSystem& files_;
     FilePath media_;

@@ -1,6 +1,7 @@
 #include "weather/awc_reports.h"
 
 #include "core/error.h"
+#include "core/reading_limits.h"
 #include "weather/csv_line.h"
 
 #include <QDateTime>
@@ -12,7 +13,7 @@ namespace morvane {
 
 namespace {
 
-constexpr qsizetype longestReport = 4'000, longestDegrees = 20, mostReports = 100'000;
+constexpr qsizetype longestDegrees = 20;
 constexpr int mostLinesBefore = 100;
 
 /// Where the columns stand; -1 for one that is missing.
@@ -99,7 +100,8 @@ std::vector<StationReport> awcReports(QStringView text) {
         take(takeLine(text), columns, newest);
     if (newest.isEmpty()) throw Error::withDescription(ErrorCode::ioFailure, u"the file has no reports"_s);
     if (newest.size() > mostReports)
-        throw Error::withDescription(ErrorCode::ioFailure, u"the file has far too many reports"_s);
+        throw Error::withDescription(ErrorCode::ioFailure,
+                                     u"the file has more than %1 reports"_s.arg(mostReports));
     std::vector<StationReport> reports;
     reports.reserve(static_cast<std::size_t>(newest.size()));
     for (DatedReport& each : newest)

@@ -1,5 +1,6 @@
 #include "weather/cycle_contents.h"
 
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "weather/gzip_reader.h"
 
@@ -27,6 +28,7 @@ QByteArray cycleContents(const QByteArray& bytes, std::int64_t largestSize) {
         throw Error::withDescription(ErrorCode::ioFailure, u"the file is a page instead of reports"_s);
     if (isGzip(contents))
         throw Error::withDescription(ErrorCode::ioFailure, u"the file is compressed more than once"_s);
+    requireBoundedLines(contents);
     return contents;
 }
 

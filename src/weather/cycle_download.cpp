@@ -1,5 +1,6 @@
 #include "weather/cycle_download.h"
 
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "weather/gzip_reader.h"
 #include "weather/weather_sources.h"
@@ -131,7 +132,8 @@ private:
     void take() {
         listenOn();
         if (reply_->isOpen()) bytes_ += reply_->readAll();
-        if (bytes_.size() > limits_.largestSize) stop(u"the file is far too large for a cycle"_s);
+        if (bytes_.size() > limits_.largestSize)
+            stop(u"the file is "_s + tooLargeText(u"a cycle"_s, limits_.largestSize));
     }
     void goOnTo(const QUrl& to) {
         if (!isFollowed(reply_->request().url(), to))

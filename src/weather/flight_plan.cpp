@@ -1,8 +1,10 @@
 #include "weather/flight_plan.h"
 
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "core/numbers.h"
 #include "core/opened_file.h"
+#include "core/reading_limits.h"
 #include "core/session.h"
 #include "core/text_decoding.h"
 #include "weather/coordinates.h"
@@ -13,8 +15,6 @@
 namespace morvane {
 
 namespace {
-
-constexpr std::int64_t largestPlan = 4 << 20; ///< thousands of waypoints
 
 /// Positions of the fields in a waypoint's value.
 struct WaypointLayout {
@@ -81,6 +81,7 @@ std::optional<FlightPlan> parseFlightPlan(const QByteArray& contents) {
     const QString text = decodeText(contents);
     if (auto plan = parseXmlFlightPlan(text)) return plan;
     if (text.contains(u"?xml", Qt::CaseInsensitive)) return std::nullopt;
+    requireBoundedLines(contents); // of the XML forms all may stand in one
     FlightPlan plan;
     for (const QString& line : splitLines(text))
         readLine(line, plan);
@@ -88,10 +89,7 @@ std::optional<FlightPlan> parseFlightPlan(const QByteArray& contents) {
 }
 
 std::optional<FlightPlan> readFlightPlan(Session& session, const FilePath& file) {
-    if (session.files.size(file) > largestPlan)
-        throw Error::withDescription(ErrorCode::ioFailure,
-                                     file.fileName() + u" is far too large for a flight plan"_s);
-    const auto plan = parseFlightPlan(session.files.read(file));
+    const auto plan = parseFlightPlan(readAtMost(session.files, file, largestPlan, u"a flight plan"_s));
     if (!plan)
         session.user.showMessage(
             {MessageKind::exclamation, u"FSX Flight Plan"_s,

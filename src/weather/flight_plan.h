@@ -35,7 +35,7 @@ QStringList flightPlanNames(Session& session, const FilePath& folder);
 
 /// The plan of a file's contents: the simulator's text, "key=value" a line, the XML form of its later
 /// versions or Little Navmap's. Nothing for XML that is neither; what is no plan at all has no waypoints.
-/// Raises for XML that is damaged.
+/// Raises for XML that is damaged and for a line of text beyond all measure.
 std::optional<FlightPlan> parseFlightPlan(const QByteArray& contents);
 /// Reads a plan. Nothing, after a message, for XML that is none. Raises when the file cannot be read, is
 /// damaged or is far too large for a plan.

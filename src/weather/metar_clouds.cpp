@@ -27,7 +27,7 @@ struct Mark {
 };
 
 /// In the order of the texts; "tcu" stands before "cu", which ends it.
-constexpr std::array<Mark, 3> marks{{
+constexpr std::array<Mark, 3> cumulusMarks{{
     {u"cb", u": Cumulonimbus observed"},
     {u"tcu", u": Towering Cumulonimbus observed"},
     {u"cu", u": Cumulus observed"},
@@ -49,8 +49,8 @@ const CloudLayer* findCloudLayer(QStringView token) {
 }
 
 void CumulusMarks::note(QStringView token) {
-    for (std::size_t i = 0; i < marks.size(); ++i) {
-        if (!token.endsWith(marks[i].ending)) continue;
+    for (std::size_t i = 0; i < cumulusMarks.size(); ++i) {
+        if (!token.endsWith(cumulusMarks[i].ending)) continue;
         seen_.set(i);
         return;
     }
@@ -58,8 +58,8 @@ void CumulusMarks::note(QStringView token) {
 
 QString CumulusMarks::text() const {
     QString text;
-    for (std::size_t i = 0; i < marks.size(); ++i)
-        if (seen_.test(i)) text += marks[i].text;
+    for (std::size_t i = 0; i < cumulusMarks.size(); ++i)
+        if (seen_.test(i)) text += cumulusMarks[i].text;
     return text;
 }
 

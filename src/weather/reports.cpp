@@ -1,14 +1,14 @@
 #include "weather/reports.h"
 
+#include "core/bounded_reading.h"
 #include "core/failure_report.h"
 #include "core/file_helpers.h"
 #include "core/job.h"
+#include "core/reading_limits.h"
 #include "core/store_records.h"
-#include "core/text_decoding.h"
 #include "weather/active_sky.h"
-#include "weather/awc_reports.h"
-#include "weather/cycle_contents.h"
 #include "weather/cycle_progress.h"
+#include "weather/cycle_reports.h"
 #include "weather/metar_decoder.h"
 #include "weather/report_age.h"
 #include "weather/report_rows.h"
@@ -70,34 +70,12 @@ bool endsTheLoad(ErrorCode code) {
     return code == ErrorCode::diskFull || code == ErrorCode::ioFailure || code == ErrorCode::permissionDenied;
 }
 
-/// The text of a file of reports, packed or not.
-QString textOf(const QByteArray& bytes) {
-    return decodeText(cycleContents(bytes));
-}
-
-std::vector<StationReport> reportsOf(const QStringList& lines) {
-    std::vector<StationReport> reports;
-    reports.reserve(static_cast<std::size_t>(lines.size()));
-    for (const QString& line : lines)
-        reports.push_back({line});
-    return reports;
-}
-
-std::vector<StationReport> cycleReports(const QString& text, CycleForm form) {
-    if (form == CycleForm::awc) return awcReports(text);
-    QStringList lines = splitLines(text);
-    if (form == CycleForm::noaa) lines = newestReports(lines);
-    // Wanted: the last line is never read. It is empty in a whole file and cut off in any other.
-    if (!lines.isEmpty()) lines.removeLast();
-    return reportsOf(lines);
-}
-
 /// The reports of a file by hand: whatever is wrong with it is told with its name.
 template <class Reading>
 auto readFile(FileSystem& files, const FilePath& file, Reading reading) {
-    const QByteArray bytes = files.read(file);
+    const QByteArray bytes = readAtMost(files, file, largestCycle, u"a cycle"_s);
     try {
-        return reading(textOf(bytes));
+        return reading(bytes);
     } catch (const Error& error) {
         throw Error::withDescription(error.code(), file.text() + u": "_s + error.description());
     }
@@ -207,7 +185,7 @@ bool clsWxFinderData::downloadWeather() {
         if (total > 0) session_.user.updateProgress({}, {}, std::floor(100.0 * bytes / total));
     };
     download.onFile = [&](const FilePath& file, CycleForm form) {
-        reports = cycleReports(textOf(session_.files.read(file)), form);
+        reports = cycleReports(session_.files.read(file), form);
     };
     const WeatherArrival arrival = session_.state<WeatherArrival>() =
         download.fetch(cycleNameAt(session_.clock.utcTime()));
@@ -248,7 +226,7 @@ Reported clsWxFinderData::importExportFile(const FilePath& file) {
 
 bool clsWxFinderData::loadCycleFile(const FilePath& file, CycleForm form) {
     const auto reports =
-        readFile(session_.files, file, [form](const QString& text) { return cycleReports(text, form); });
+        readFile(session_.files, file, [form](const QByteArray& bytes) { return cycleReports(bytes, form); });
     return takeServerReports(reports, {.text = u"a file"_s});
 }
 
@@ -258,13 +236,12 @@ bool clsWxFinderData::takeServerReports(const std::vector<StationReport>& report
 }
 
 bool clsWxFinderData::loadExportFile(const FilePath& file) {
-    QStringList lines = readFile(session_.files, file, splitLines);
+    const auto reports = readFile(session_.files, file, exportReports);
     const QDateTime time = exportCycleTime(session_, file);
     showProgress(u"Decoding Active Sky Metars.  Please wait until the process has finished........."_s);
-    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
     const QString year = QString::number(session_.clock.localTime().date().year());
-    const bool isLoaded = takeReports(reportsOf(lines), {time.date(), toInteger(time.time().hour()), year},
-                                      {.text = u"Active Sky"_s});
+    const bool isLoaded =
+        takeReports(reports, {time.date(), toInteger(time.time().hour()), year}, {.text = u"Active Sky"_s});
     if (!isLoaded) return false;
     session_.state<WeatherState>().ASv6ExportDate = time;
     session_.state<WeatherState>().ASv6Imported = true;

@@ -73,7 +73,7 @@ TEST_F(SetSharing, NothingIsMadeOfADamagedFile) {
         {"", u"it is no look of a set"_s},
         {"{}", u"it is no look of a set"_s},
         {QByteArray(1 << 17, '['), u"it is no look of a set"_s},
-        {QByteArray(1 << 15, '['), u"it is no look of a set"_s},
+        {QByteArray(1 << 15, '['), u"it is nested deeper than 32 brackets"_s},
         {R"({"morvaneset":2})", u"it was written by a newer Morvane"_s},
         {R"({"morvaneset":1,"name":7})", u"its \"name\" is no text"_s},
         {R"({"morvaneset":1,"kind":"ground","cover":"Overcast"})", u"it has no colours"_s},

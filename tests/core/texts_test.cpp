@@ -1,7 +1,11 @@
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "core/numbers.h"
+#include "core/reading_limits.h"
 #include "core/run_size.h"
 #include "core/text_collation.h"
+#include "support/raised_error.h"
+#include "support/temporary_folder.h"
 #include "support/testing.h"
 
 namespace morvane {
@@ -37,6 +41,33 @@ TEST(RunSize, isToldInRoundNumbers) {
     for (const auto& [seconds, text] : times)
         EXPECT_EQ(durationText(seconds), text) << seconds;
     EXPECT_TRUE((RunSize{"", 0, 1, -1}.fits())) << "where nobody knows";
+}
+
+TEST(ReadingLimits, whatGoesBeyondIsToldInOneLine) {
+    const test::TemporaryFolder folder;
+    NativeFileSystem files;
+    const FilePath file = folder / u"long Ω.txt";
+    const auto toldOfSize = [&](qsizetype size) {
+        test::writeFile(file, QByteArray(size, 'A'));
+        return test::descriptionRaisedBy(
+            [&] { EXPECT_EQ(readAtMost(files, file, megabyte, u"a plan"_s).size(), size); });
+    };
+    EXPECT_EQ(toldOfSize(megabyte), "");
+    EXPECT_EQ(toldOfSize(megabyte + 1), "long Ω.txt is far too large for a plan: more than 1 MB");
+#ifndef Q_OS_WIN
+    EXPECT_THROW(readAtMost(files, FilePath(u"/dev/zero"_s), megabyte, u"a plan"_s), Error) << "without end";
+#endif
+    const QByteArray longest(longestTextLine, 'A');
+    EXPECT_EQ(test::descriptionRaisedBy([&] { requireBoundedLines("\n" + longest + "\n\n" + longest); }), "");
+    EXPECT_EQ(test::descriptionRaisedBy([&] { requireBoundedLines("\n" + longest + "A"); }),
+              "line 2 has more than 1 MB");
+    EXPECT_EQ(test::descriptionRaisedBy([&] { requireBoundedLines(QByteArray(mostTextLines, '\n')); }), "");
+    EXPECT_EQ(test::descriptionRaisedBy([&] { requireBoundedLines(QByteArray(mostTextLines + 1, '\n')); }),
+              "the file has more than 1,000,000 lines");
+    const QByteArray opened(deepestJson - 1, '['), closed(deepestJson - 1, ']');
+    EXPECT_TRUE(parseJson(opened + R"(["\"[[", "]", 0])" + closed).isArray());
+    EXPECT_EQ(test::descriptionRaisedBy([&] { parseJson(opened + "[{}]" + closed); }),
+              "it is nested deeper than 32 brackets");
 }
 
 using TextPair = std::pair<const char*, const char*>;

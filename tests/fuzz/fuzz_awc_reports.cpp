@@ -1,12 +1,8 @@
-#include "core/error.h"
 #include "core/text_decoding.h"
+#include "fuzz_entry.h"
 #include "weather/awc_reports.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace morvane;
-    try {
-        awcReports(decodeText({reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)}));
-    } catch (const Error&) { // a refusal is an answer; anything else is a fault
-    }
-    return 0;
+    return test::feed(data, size, [](const QByteArray& bytes) { awcReports(decodeText(bytes)); });
 }

@@ -1,10 +1,6 @@
-#include "core/error.h"
+#include "fuzz_entry.h"
 #include "imaging/picture_reader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    try {
-        morvane::readPicture(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
-    } catch (const morvane::Error&) { // a refusal is an answer; anything else is a fault
-    }
-    return 0;
+    return morvane::test::feed(data, size, [](const QByteArray& bytes) { morvane::readPicture(bytes); });
 }

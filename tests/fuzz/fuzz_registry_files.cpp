@@ -1,10 +1,10 @@
 #include "core/literals.h"
 #include "core/registry.h"
 #include "core/registry_file.h"
+#include "fuzz_entry.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace morvane;
-    const QByteArray contents(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    textsInRegistryFile(contents, {simulatorKey, QString::fromUtf8("a]空")}, u"EXE Path"_s);
+    textsInRegistryFile(test::bytesOf(data, size), {simulatorKey, QString::fromUtf8("a]空")}, u"EXE Path"_s);
     return 0;
 }

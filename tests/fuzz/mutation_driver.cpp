@@ -1,12 +1,13 @@
-// Feeds one fuzz entry: every sample of a folder as it is, then a number of mutations of them, the same ones
-// in every run, so that a debugger finds a fault again. Usage: PROGRAM FOLDER COUNT.
+// Stands in for libFuzzer, and is called as that is: PROGRAM -runs=COUNT FOLDER... Feeds one fuzz entry:
+// every sample of the folders as it is, then mutations of them up to that count, the same ones in every run,
+// so that a debugger finds a fault again.
+
+#include "fuzz_entry.h"
 
 #include <QDir>
 #include <QFile>
 #include <cstdio>
 #include <random>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
 
@@ -46,17 +47,24 @@ void change(QByteArray& input) {
 } // namespace
 
 int main(int count, char** arguments) {
-    if (count != 3) return 2;
-    const QList<QByteArray> samples = samplesIn(QDir(QString::fromLocal8Bit(arguments[1])));
+    QList<QByteArray> samples;
+    int runs = 0;
+    for (int i = 1; i < count; ++i) {
+        const QByteArray word = arguments[i];
+        if (word.startsWith("-runs="))
+            runs = word.mid(6).toInt();
+        else if (!word.startsWith('-'))
+            samples << samplesIn(QDir(QString::fromLocal8Bit(word)));
+    }
     if (samples.isEmpty()) return 2; // nothing fed would look like nothing found
     for (const QByteArray& sample : samples)
         run(sample);
-    for (int left = QByteArray(arguments[2]).toInt(); left > 0; --left) {
+    for (qsizetype left = runs - samples.size(); left > 0; --left) {
         QByteArray input = samples[below(samples.size())];
         for (qsizetype changes = 1 + below(4); changes > 0; --changes)
             change(input);
         run(input);
     }
-    std::printf("%lld samples and %s mutations, no fault\n", static_cast<long long>(samples.size()),
-                arguments[2]);
+    std::printf("%lld samples and their mutations, %d runs, no fault\n",
+                static_cast<long long>(samples.size()), runs);
 }

@@ -2,7 +2,9 @@
 
 #include "core/error.h"
 #include "imaging/bitmap_builder.h"
+#include "imaging/picture_pair.h"
 #include "imaging/pixel_buffer.h"
+#include "support/raised_error.h"
 #include "support/temporary_folder.h"
 #include "support/testing.h"
 
@@ -82,6 +84,20 @@ TEST(PictureReader, brokenHeaders) {
 }
 
 // Enough of them to make a 32-bit row number run over and come back into the picture.
+TEST(PictureReader, aBaseImageIsNoLargerThanATexture) {
+    const TemporaryFolder folder;
+    NativeFileSystem files;
+    const FilePath file = folder / u"base.bmp";
+    const auto toldOfWidth = [&](int width) {
+        writeFile(
+            file,
+            bitmapFile({.width = width, .height = 1, .bits = 24, .pixels = QByteArray(3 * width + 4, 'A')}));
+        return descriptionRaisedBy([&] { EXPECT_EQ(loadPicturePair(files, file).result.Width(), width); });
+    };
+    EXPECT_EQ(toldOfWidth(1024), "");
+    EXPECT_EQ(toldOfWidth(1025), u"Invalid picture: it is larger than 1024 pixels a side: "_s + file.text());
+}
+
 TEST(PictureReader, manyJumpsStayOutside) {
     const QByteArray jumps = hex("0002 00FF").repeated(8421505), palette(8, '\x11');
     const QByteArray file = bitmapFile(

@@ -234,6 +234,9 @@ TEST_F(SkinnedButtonTest, livesWithFilesThatAreMissingOrBroken) {
             EXPECT_EQ(own.cursor(name, Qt::SizeAllCursor).shape(), Qt::SizeAllCursor);
         }
     EXPECT_EQ(own.missing(), wanted) << "each is told once";
+    ASSERT_TRUE(QImage(8193, 1, QImage::Format_Mono).save((folder / u"wide.bmp").native()));
+    EXPECT_TRUE(own.picture(u"wide.bmp"_s).isNull());
+    EXPECT_EQ(own.missing(), wanted + QStringList{u"wide.bmp (larger than 8192 pixels a side)"_s});
 }
 
 /// Small or large, seen or behind: each picture comes once, and then all are there.

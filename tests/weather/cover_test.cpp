@@ -1,6 +1,7 @@
 #include "core/error.h"
 #include "sets/cloud_cover.h"
 #include "simulator/set_matching.h"
+#include "support/raised_error.h"
 #include "support/small_install.h"
 #include "weather/cover_choice.h"
 #include "weather/flight_plan.h"
@@ -126,7 +127,9 @@ TEST_F(FlightPlanTest, xmlPlansAreReadAsAWhole) {
     EXPECT_FALSE(parseFlightPlan(readFile(FilePath(plans + u"entities.lnmpln"_s)))) << "no plan declares any";
     const FilePath huge = install.folder / u"huge.pln";
     writeFile(huge, QByteArray((4 << 20) + 1, ' '));
-    EXPECT_THROW(readFlightPlan(session, huge), Error);
+    EXPECT_EQ(descriptionRaisedBy([&] { readFlightPlan(session, huge); }),
+              "huge.pln is far too large for a flight plan: more than 4 MB");
+    EXPECT_THROW(parseFlightPlan("title=" + QByteArray(1 << 20, 'A')), Error);
 }
 
 TEST_F(FlightPlanTest, layoutsOfAWaypoint) {

@@ -11,6 +11,7 @@
 #include "weather/weather_state.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 namespace morvane::test {
 namespace {
@@ -181,6 +182,16 @@ TEST_F(CycleLoading, everyLineButTheLastBecomesTheRowOfItsFirstWord) {
         EXPECT_EQ(session.rows<clsWxFinders>()->Count(), 4);
     }
     EXPECT_TRUE(user.told().isEmpty());
+}
+
+TEST_F(CycleLoading, aFileBeyondAllMeasureIsToldWithItsNameAndTheLimit) {
+    EXPECT_FALSE(importLines("KSEA\n" + QByteArray(longestTextLine + 1, 'A')));
+    ASSERT_TRUE(QFile::resize(file.native(), largestCycle + 1));
+    EXPECT_FALSE(clsWxFinderData(session).importExportFile(file));
+    ASSERT_EQ(user.told().size(), 2);
+    EXPECT_TRUE(user.told()[0].endsWith(u"cycle.txt: line 2 has more than 1 MB"_s))
+        << user.told()[0].toStdString();
+    EXPECT_TRUE(user.told()[1].endsWith(u"cycle.txt is far too large for a cycle: more than 64 MB"_s));
 }
 
 TEST_F(CycleLoading, theServicesFormKeepsTheNewestReportOfEachStation) {
