@@ -11,6 +11,7 @@ class QEventLoop;
 class QLabel;
 class QMovie;
 class QPushButton;
+class SkinSign;
 
 namespace morvane {
 
@@ -54,7 +55,8 @@ private:
     bool isTimeToPaint(double value);
 
     QString msgType_;
-    QLabel *lbl_Title_, *lbl_Message_, *pic_Icon_, *lblProcessDescription_, *lblProcessFile_, *picASv6_;
+    QLabel *lbl_Title_, *lbl_Message_, *lblProcessDescription_, *lblProcessFile_, *picASv6_;
+    SkinSign* pic_Icon_;
     SkinnedButton *btn_Ok_, *btn_Cancel_;
     SkinnedProgressBar* pbMessage_;
     QPushButton* cmdCancel_;
