@@ -13,6 +13,7 @@ Paper::Paper(Form& form, const QString& picture, Title title, QWidget* parent)
     : QWidget(parent ? parent : &form), form_(form), picture_(picture),
       picHeader_(new SkinSign(form.skin(), this)), lblHeader_(makeLabel(this, {}, {}, TextRole::pageTitle)) {
     const int lift = title == Title::compact ? 2 : 0;
+    form.skin().ground(picture_); // where it is missing, that is noted before the first report
     resize(pagePlace.size());
     setAttribute(Qt::WA_OpaquePaintEvent); // else the window's picture is painted beneath at each change
     picHeader_->setObjectName(u"picHeader"_s);

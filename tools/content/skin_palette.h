@@ -23,7 +23,7 @@ constexpr QColor slotLine(24, 35, 44);
 constexpr QColor accent(76, 196, 242);
 constexpr QColor textBright(230, 239, 244);
 constexpr QColor textQuiet(175, 194, 206);
-constexpr QColor pictogramOff(86, 107, 121);
+constexpr QColor pictogramOff(98, 119, 133); ///< 3 to 1 on a dead key
 constexpr QColor wordMark(242, 247, 250);
 
 constexpr QColor white(255, 255, 255);

@@ -22,10 +22,8 @@ constexpr QRgb key = qRgb(255, 0, 255); ///< transparent in the pictures
 constexpr QRgb outline = qRgb(7, 12, 17);
 constexpr QRgb line = qRgb(11, 18, 25);
 constexpr QRgb bezel = qRgb(30, 43, 54);
-constexpr QRgb bezelTop = qRgb(67, 90, 105);
 constexpr QRgb bezelMid = qRgb(44, 61, 73);
 constexpr QRgb deck = qRgb(22, 32, 42);
-constexpr QRgb deckRim = qRgb(43, 59, 71);
 constexpr QRgb accent = qRgb(76, 196, 242);
 constexpr QRgb glow = qRgba(76, 196, 242, 70); ///< round a progress bar's fill
 
@@ -33,8 +31,6 @@ constexpr QRgb textBright = qRgb(230, 239, 244);
 constexpr QRgb textQuiet = qRgb(175, 194, 206);
 constexpr QRgb textOff = qRgb(127, 149, 163);
 constexpr QRgb textLit = qRgb(255, 255, 255); ///< of a key below the mouse
-constexpr QRgb pictogramOff = qRgb(86, 107, 121);
-constexpr QRgb wordMark = qRgb(242, 247, 250);
 
 constexpr QRgb keyTop = qRgb(58, 78, 92); ///< a skinned key, and the plain button that looks like one
 constexpr QRgb keyFoot = qRgb(42, 59, 71);
