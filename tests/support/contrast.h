@@ -18,7 +18,7 @@ inline double luminance(QRgb colour) {
 
 /// 1 to 21.
 inline double contrast(QRgb one, QRgb other) {
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 

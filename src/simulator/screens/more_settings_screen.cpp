@@ -9,6 +9,7 @@
 #include "simulator/screens/palette_keeper.h"
 #include "simulator/screens/weather_sources_panel.h"
 #include "ui/controls/labels.h"
+#include "ui/controls/wrapped_tip.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -86,7 +87,7 @@ void frm_MoreSettings::addPalette() {
     for (std::size_t index = 0; const Option& option : options) {
         auto* button = new QRadioButton(option.caption, this);
         button->setObjectName(option.name);
-        button->setToolTip(option.tip);
+        button->setToolTip(wrappedTip(option.tip));
         button->setGeometry(option.left, lastRow + 24, option.caption.size() > 6 ? 134 : 62, 20);
         const auto choice = static_cast<PaletteChoice>(index);
         connect(button, &QRadioButton::clicked, this, [this, choice] {
