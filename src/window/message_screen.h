@@ -11,10 +11,10 @@ class QEventLoop;
 class QLabel;
 class QMovie;
 class QPushButton;
-class SkinSign;
 
 namespace morvane {
 
+class SkinSign;
 class SkinnedProgressBar;
 
 /// The one message screen: reports, questions and the progress of long work.
