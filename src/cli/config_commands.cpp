@@ -9,6 +9,7 @@
 #include "core/store_connection.h"
 #include "simulator/option_table.h"
 #include "simulator/options.h"
+#include "simulator/palette_choice.h"
 #include "weather/active_sky.h"
 #include "weather/weather_sources.h"
 
@@ -18,7 +19,7 @@ namespace morvane {
 
 namespace {
 
-const QString weatherSetting = u"weather"_s;
+const QString weatherSetting = u"weather"_s, paletteSetting = u"palette"_s;
 
 /// A text among the registry values that the console can set.
 struct Setting {
@@ -44,6 +45,11 @@ QString weatherProblem(Session& session, const QString& names) {
     return weatherSourcesProblem(session.registry, names);
 }
 
+QString paletteProblem(Session&, const QString& word) {
+    if (paletteWords().contains(word)) return {};
+    return u"The palette is day, night or clock: "_s + word;
+}
+
 QString noProblem(Session&, const QString&) {
     return {};
 }
@@ -54,6 +60,7 @@ const std::vector<Setting>& settings() {
         {u"flights"_s, morvaneKey, u"NonEnglishPath"_s, flightsProblem, true},
         {u"runner"_s, morvaneKey, u"SimulatorRunner"_s, noProblem, false},
         {weatherSetting, morvaneKey, u"WeatherSources"_s, weatherProblem, false},
+        {paletteSetting, morvaneKey, u"Palette"_s, paletteProblem, false},
     };
     return all;
 }
@@ -70,8 +77,10 @@ QString ownText(const Session& session, const QString& value) {
     return session.registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, morvaneKey, value);
 }
 
-/// Of the weather the sources in force: a name that nobody knows is none of them.
+/// Of weather and palette what is in force: a word that nobody knows is not.
 QString shownText(const Session& session, const Setting& setting) {
+    if (setting.name == paletteSetting)
+        return paletteWords()[static_cast<qsizetype>(paletteChoice(session.registry))];
     if (setting.name != weatherSetting) return textOf(session, setting);
     const QStringList names = weatherSourceNames(session.registry);
     return names.isEmpty() ? u"none"_s : names.join(u';');
@@ -132,9 +141,11 @@ void show(CommandContext& context) {
 } // namespace
 
 std::vector<Command> configCommands() {
-    Operand setting{.name = u"SETTING"_s,
-                    .meaning = u"the simulator's folder, the saved flights' folder, the command that "
-                               "starts Windows programs, or the weather's sources in their order"_s};
+    Operand setting{
+        .name = u"SETTING"_s,
+        .meaning = u"the simulator's folder, the saved flights' folder, the command that "
+                   "starts Windows programs, the weather's sources in their order, or the palette of the "
+                   "windows"_s};
     for (const Setting& each : settings())
         setting.entries << each.name;
     return {
@@ -150,8 +161,10 @@ std::vector<Command> configCommands() {
          .meaning = u"one of the settings"_s,
          .example = u"config get simulator"_s},
         {.words = u"config set"_s,
-         .operands = {setting,
-                      {u"VALUE"_s, u"a folder, a command such as wine, or sources such as \"awc;noaa\""_s}},
+         .operands =
+             {setting,
+              {u"VALUE"_s,
+               u"a folder, a command such as wine, sources such as \"awc;noaa\", or day, night or clock"_s}},
          .needs = Needs::folder,
          .writes = true,
          .run = set,

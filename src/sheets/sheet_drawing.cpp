@@ -87,6 +87,12 @@ void paintTexture(QPainter& painter, const Sheet& sheet, const SheetLayout& layo
 
 } // namespace
 
+SheetColours sheetColours(PaperPalette palette) {
+    return {paper::text.in(palette),    paper::field.in(palette),    paper::hair.in(palette),
+            paper::headTop.in(palette), paper::headFoot.in(palette), paper::headGap.in(palette),
+            paper::rowLine.in(palette), paper::accent.in(palette)};
+}
+
 void paintPair(QPainter& painter, const QRect& place, const SheetPair& pair, const SheetLook& view, int cut) {
     const QImage& base = pair.base.isNull() ? pair.own : pair.base;
     const QImage& own = pair.own.isNull() ? pair.base : pair.own;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "imaging/paper_palette.h"
 #include "sheets/sheet_layout.h"
 #include "sheets/sheet_pictures.h"
 
@@ -10,13 +11,13 @@ class QPainter;
 
 namespace morvane {
 
-/// What a sheet is drawn with; a saved one with these, which are the paper's by day.
+/// What a sheet is drawn with.
 struct SheetColours {
-    QRgb text = qRgb(0, 101, 161), ground = qRgb(255, 255, 255), rowLine = qRgb(220, 228, 230);
-    QRgb headTop = qRgb(238, 243, 245), headFoot = qRgb(225, 233, 237), headGap = qRgb(195, 208, 216);
-    QRgb waiting = qRgb(237, 241, 243); ///< a picture that is not there yet
-    QRgb picked = qRgb(19, 135, 190);
+    QRgb text, ground, rowLine, headTop, headFoot, headGap;
+    QRgb waiting; ///< a picture that is not there yet
+    QRgb picked;
 };
+SheetColours sheetColours(PaperPalette palette);
 
 /// How the textures are seen.
 struct SheetLook {

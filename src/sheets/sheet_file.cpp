@@ -45,7 +45,7 @@ QImage drawnSheet(SheetPictures& pictures, int zoom, const SheetLook& view) {
     pictures.keepSmall();
     QImage image(size, QImage::Format_RGB32);
     if (image.isNull()) return {};
-    const SheetColours colours;
+    const SheetColours colours = sheetColours(PaperPalette::day); // it may be printed
     image.fill(colours.ground);
     QPainter painter(&image);
     painter.translate(margin, margin);

@@ -10,9 +10,10 @@
 namespace morvane {
 
 Paper::Paper(Form& form, const QString& picture, Title title, QWidget* parent)
-    : QWidget(parent ? parent : &form), form_(form), background_(form.skin().picture(picture)),
-      picHeader_(new QLabel(this)), lblHeader_(makeLabel(this, {}, {}, TextRole::pageTitle)) {
+    : QWidget(parent ? parent : &form), form_(form), picture_(picture),
+      picHeader_(new SkinSign(form.skin(), this)), lblHeader_(makeLabel(this, {}, {}, TextRole::pageTitle)) {
     const int lift = title == Title::compact ? 2 : 0;
+    form.skin().ground(picture_); // where it is missing, that is noted before the first report
     resize(pagePlace.size());
     setAttribute(Qt::WA_OpaquePaintEvent); // else the window's picture is painted beneath at each change
     picHeader_->setObjectName(u"picHeader"_s);
@@ -22,17 +23,18 @@ Paper::Paper(Form& form, const QString& picture, Title title, QWidget* parent)
 }
 
 void Paper::setTitle(const QString& icon, const QString& text) {
-    picHeader_->setPixmap(form_.skin().picture(icon));
+    picHeader_->showSign(icon);
     picHeader_->setAccessibleName(text);
     lblHeader_->setText(text);
 }
 
 void Paper::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (background_.isNull())
-        painter.fillRect(rect(), QColor::fromRgb(palette::paperTop));
+    const QPixmap background = form_.skin().ground(picture_);
+    if (background.isNull())
+        painter.fillRect(rect(), QColor::fromRgb(palette::now(paper::top)));
     else
-        painter.drawPixmap(rect(), background_);
+        painter.drawPixmap(rect(), background);
 }
 
 PageForm::PageForm(Shell& shell, const QString& name, const QString& picture, Paper::Title title)

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ui/controls/foot_line.h"
+#include "ui/controls/skin_sign.h"
 #include "ui/form.h"
 
 #include <QLabel>
-#include <QPixmap>
 
 namespace morvane {
 
@@ -28,8 +28,8 @@ protected:
 
 private:
     Form& form_;
-    QPixmap background_;
-    QLabel* picHeader_;
+    QString picture_;
+    SkinSign* picHeader_;
     QLabel* lblHeader_;
 };
 

@@ -24,10 +24,10 @@ const QString mainRegion = u"MainRegion.dat"_s;
 
 } // namespace
 
-const WindowLook mainLook{u"MVMainInterface.bmp"_s, mainRegion, mainSize};
-const WindowLook groundLook{u"MVGroundInterface.bmp"_s, mainRegion, mainSize};
-const WindowLook skyLook{u"MVSkyInterface.bmp"_s, mainRegion, mainSize};
-const WindowLook nightLook{u"MVNightInterface.bmp"_s, mainRegion, mainSize};
+const WindowLook mainLook{u"MVMainInterface.bmp"_s, mainRegion, mainSize, false};
+const WindowLook groundLook{u"MVGroundInterface.bmp"_s, mainRegion, mainSize, false};
+const WindowLook skyLook{u"MVSkyInterface.bmp"_s, mainRegion, mainSize, false};
+const WindowLook nightLook{u"MVNightInterface.bmp"_s, mainRegion, mainSize, false};
 const WindowLook messageLook{u"MVMsg_BG.bmp"_s, u"MsgRegion.dat"_s, {400, 300}};
 const WindowLook smallDialogLook{u"MVAdd_BG.bmp"_s, u"AddRegion.dat"_s, {400, 360}};
 const WindowLook wideDialogLook{u"MVWide_BG.bmp"_s, u"RandomizerRegion.dat"_s, {700, 500}};
@@ -56,14 +56,19 @@ void clsTransForm::moveTo(const QPoint& pointer) {
 }
 
 ShapedForm::ShapedForm(Shell& shell, const QString& name, const WindowLook& look)
-    : Form(shell, name), background_(skin().picture(look.picture)), shape_(*this) {
+    : Form(shell, name), picture_(look.picture), isPaper_(look.isPaper), shape_(*this) {
     setFixedSize(look.size);
     setWindowTitle(u"Morvane"_s);
     // A picture that no outline cuts would show its key colour as holes: both or neither.
-    if (!background_.isNull() && shape_.ShapeMe(skin(), look.region))
+    if (!background().isNull() && shape_.ShapeMe(skin(), look.region))
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     else
-        background_ = {};
+        picture_.clear();
+}
+
+QPixmap ShapedForm::background() const {
+    if (picture_.isEmpty()) return {};
+    return isPaper_ ? skin().ground(picture_) : skin().picture(picture_);
 }
 
 void ShapedForm::centreOver(const QWidget* other) {
@@ -84,8 +89,9 @@ void ShapedForm::keepOnScreen() {
 /// one.
 void ShapedForm::cutOutline() {
     cutScale_ = devicePixelRatioF();
-    if (background_.isNull() || !hasPixelOutlines() || (cutScale_ == 1 && !mask().isEmpty())) return;
-    cutToPixels(*this, outlineOf(background_, size() * cutScale_));
+    const QPixmap picture = background();
+    if (picture.isNull() || !hasPixelOutlines() || (cutScale_ == 1 && !mask().isEmpty())) return;
+    cutToPixels(*this, outlineOf(picture, size() * cutScale_));
 }
 
 void ShapedForm::showEvent(QShowEvent* event) {
@@ -100,11 +106,12 @@ void ShapedForm::showEvent(QShowEvent* event) {
 void ShapedForm::paintEvent(QPaintEvent*) {
     if (cutScale_ != devicePixelRatioF()) cutOutline();
     QPainter painter(this);
-    if (background_.isNull()) return painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
+    const QPixmap picture = background();
+    if (picture.isNull()) return painter.fillRect(rect(), QColor::fromRgb(palette::bezel));
     // On a dense display the picture's edge is finer than the outline that the window is cut to.
     painter.fillRect(rect(), QColor::fromRgb(palette::outline));
     painter.setRenderHint(QPainter::SmoothPixmapTransform); // letters in it would lose lines at 150 %
-    painter.drawPixmap(rect(), background_);
+    painter.drawPixmap(rect(), picture);
 }
 
 void ShapedForm::mousePressEvent(QMouseEvent* event) {

@@ -11,6 +11,7 @@ struct WindowLook {
     QString picture; ///< below "\Media"
     QString region;  ///< likewise
     QSize size;
+    bool isPaper = true; ///< a dialog's, which is another one at night
 };
 
 extern const WindowLook mainLook, groundLook, skyLook, nightLook; ///< one outline for all four
@@ -60,7 +61,11 @@ private:
     void keepOnScreen();
     void cutOutline();
 
-    QPixmap background_;
+    /// Null for a plain window.
+    QPixmap background() const;
+
+    QString picture_; ///< empty for a plain window
+    bool isPaper_;
     qreal cutScale_ = 1; ///< that the outline was cut for
     clsTransForm shape_;
 };

@@ -3,6 +3,7 @@
 #include "core/literals.h"
 #include "core/reading_limits.h"
 #include "imaging/window_region.h"
+#include "ui/controls/palette.h"
 
 #include <QBuffer>
 #include <QDataStream>
@@ -15,7 +16,6 @@ namespace morvane {
 
 namespace {
 
-constexpr QRgb keyColour = qRgb(255, 0, 255);
 constexpr int denseFactor = 2;
 constexpr int hotSpotOffset = 10; ///< in a ".cur" file
 
@@ -24,11 +24,19 @@ QString denseName(const QString& fileName) {
     return name.completeBaseName() + u"@2x."_s + name.suffix();
 }
 
+bool isNight() {
+    return palette::inUse() == PaperPalette::night;
+}
+
+QString nightName(const QString& fileName, QStringView ending) {
+    return QFileInfo(fileName).completeBaseName() + ending.toString();
+}
+
 QImage withoutKeyColour(const QImage& picture) {
     QImage masked = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < masked.height(); ++y) {
         auto* row = reinterpret_cast<QRgb*>(masked.scanLine(y));
-        std::replace(row, row + masked.width(), keyColour, QRgb(0));
+        std::replace(row, row + masked.width(), palette::key, QRgb(0));
     }
     return masked;
 }
@@ -72,6 +80,20 @@ QPixmap Skin::picture(const QString& fileName) {
     QPixmap picture = image.isNull() ? QPixmap() : QPixmap::fromImage(withoutKeyColour(image));
     if (foundDense) picture.setDevicePixelRatio(denseFactor);
     return *pictures_.insert(fileName, picture);
+}
+
+QPixmap Skin::ground(const QString& fileName) {
+    return picture(isNight() ? nightName(fileName, u"_night.png") : fileName);
+}
+
+QPixmap Skin::sign(const QString& fileName) {
+    const QPixmap own = ground(fileName);
+    return own.isNull() ? picture(fileName) : own;
+}
+
+FilePath Skin::animation(const QString& fileName) const {
+    const FilePath ofNight = media_.child(nightName(fileName, u"_night.gif"));
+    return isNight() && files_.exists(ofNight) ? ofNight : media_.child(fileName);
 }
 
 QRegion Skin::outline(const QString& fileName) {

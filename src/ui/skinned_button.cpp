@@ -227,8 +227,9 @@ void SkinnedButton::paintCaption(QPainter& painter) const {
     // "deactivate" key is alive and keeps its bright caption.
     const bool isOff = state_ == ButtonState::disabled && family_ == ButtonFamily::LargeButton;
     const bool isLit = state_ == ButtonState::highlight || state_ == ButtonState::disabled;
-    painter.setPen(isOff ? QColor::fromRgb(palette::textOff)
-                         : (isLit ? QColor(Qt::white) : QColor::fromRgb(palette::textBright)));
+    painter.setPen(isOff
+                       ? QColor::fromRgb(palette::textOff)
+                       : (isLit ? QColor::fromRgb(palette::textLit) : QColor::fromRgb(palette::textBright)));
     painter.setFont(captionFont());
     const QStringList lines = buttonText_.split(u'\n');
     const QRect place = captionPlace();

@@ -5,6 +5,9 @@
 #include "core/registry.h"
 #include "core/session.h"
 #include "imaging/program_font.h"
+#include "simulator/palette_choice.h"
+#include "simulator/screens/palette_keeper.h"
+#include "ui/controls/palette.h"
 #include "ui/controls/paper_style.h"
 #include "ui/skin.h"
 #include "window/content_update.h"
@@ -78,20 +81,22 @@ int main(int argc, char** argv) {
     const FilePath folder(QFileInfo(home).absoluteFilePath());
     SingleWindow window(folder);
     if (line.coverCode.isEmpty() && !window.take(file)) return 0;
+    NativeFileSystem files;
+    SystemClock clock;
+    const auto registry =
+        openRegistry(files, folder, line.home.isEmpty() ? FolderChoice::usual : FolderChoice::named);
+    palette::use(paletteNow(*registry, clock));
     // A run for another program is to be short, and shows no windows.
     if (line.coverCode.isEmpty() && awaitsContentUpdate(folder)) updateDeliveredContent(folder);
     if (requests.hasEnded()) return 0;
-    NativeFileSystem files;
-    SystemClock clock;
     ReseedingRandomSource random;
     WindowUser user;
-    const auto registry =
-        openRegistry(files, folder, line.home.isEmpty() ? FolderChoice::usual : FolderChoice::named);
     Session session({user, files, clock, random, *registry}, folder);
     Skin skin(files, folder / u"Media");
     QApplication::setWindowIcon(skin.picture(u"morvane.png"_s));
     WindowShell shell(session, skin);
     user.setShell(&shell);
+    const PaletteKeeper keeper(session);
     window.serve(shell);
     requests.handTo(shell);
     shell.openFile(file);

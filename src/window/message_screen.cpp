@@ -4,8 +4,8 @@
 #include "core/session.h"
 #include "simulator/options.h"
 #include "ui/controls/labels.h"
-#include "ui/controls/palette.h"
 #include "ui/controls/paper_style.h"
+#include "ui/controls/skin_sign.h"
 #include "ui/controls/skinned_progress_bar.h"
 #include "ui/shell.h"
 #include "ui/skin.h"
@@ -24,7 +24,6 @@ namespace morvane {
 namespace {
 
 constexpr int paintEveryMilliseconds = 33;
-constexpr QRgb quietTitle = qRgb(92, 104, 130);
 constexpr QPoint besideCancel{280, 242}, alone{335, 242};
 
 } // namespace
@@ -40,7 +39,7 @@ QLabel* frm_Msg::addText(const QString& name, const QRect& place, TextRole role)
 }
 
 void frm_Msg::makeControls() {
-    pic_Icon_ = new QLabel(this);
+    pic_Icon_ = new SkinSign(skin(), this);
     pic_Icon_->setObjectName(u"pic_Icon"_s);
     pic_Icon_->setGeometry(26, 60, 40, 40);
     picASv6_ = new QLabel(this);
@@ -90,11 +89,11 @@ void frm_Msg::fill(const Message& message) {
     msgType_ = kindWord(message.kind);
     isProgress_ = message.isProgress;
     isWaiting_ = message.isProgress && session().state<WeatherState>().ASv6Busy;
-    pic_Icon_->setPixmap(skin().picture(u"icon_"_s + msgType_ + u".bmp"_s));
+    pic_Icon_->showSign(u"icon_"_s + msgType_ + u".bmp"_s);
     pic_Icon_->setAccessibleName(msgType_);
     setWindowTitle(message.title);
     showPicture(message.picture);
-    setTextColour(*lbl_Title_, message.hasQuietTitle ? quietTitle : palette::signalRed);
+    setInk(*lbl_Title_, message.hasQuietTitle ? Ink::quietTitle : Ink::signalRed);
     showTitle(message.title);
     lbl_Message_->setText(message.text);
     lblProcessDescription_->clear();
@@ -110,7 +109,7 @@ void frm_Msg::showPicture(const QString& fileName) {
     picASv6_->clear();
     picASv6_->setVisible(!fileName.isEmpty());
     if (fileName.endsWith(u".gif"_s, Qt::CaseInsensitive)) {
-        anGifASv6_->setFileName((session().AppPath / u"Media").child(fileName).native());
+        anGifASv6_->setFileName(skin().animation(fileName).native());
         picASv6_->setMovie(anGifASv6_);
         anGifASv6_->start();
     } else if (!fileName.isEmpty()) {

@@ -14,6 +14,7 @@ class QPushButton;
 
 namespace morvane {
 
+class SkinSign;
 class SkinnedProgressBar;
 
 /// The one message screen: reports, questions and the progress of long work.
@@ -54,7 +55,8 @@ private:
     bool isTimeToPaint(double value);
 
     QString msgType_;
-    QLabel *lbl_Title_, *lbl_Message_, *pic_Icon_, *lblProcessDescription_, *lblProcessFile_, *picASv6_;
+    QLabel *lbl_Title_, *lbl_Message_, *lblProcessDescription_, *lblProcessFile_, *picASv6_;
+    SkinSign* pic_Icon_;
     SkinnedButton *btn_Ok_, *btn_Cancel_;
     SkinnedProgressBar* pbMessage_;
     QPushButton* cmdCancel_;

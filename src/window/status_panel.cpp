@@ -77,8 +77,8 @@ void StatusPanel::addHeadings() {
         makeLabel(this, QString::fromUtf16(kind), {rightColumn, top, 54, 16}, TextRole::body);
     for (int i = 0; i < cloudCoverCount; ++i) {
         const CloudCover& cover = cloudCovers()[i];
-        auto* disc = new QLabel(this);
-        disc->setPixmap(form_.skin().picture(u"cover_"_s + cover.tag.mid(2, 3).toLower() + u".bmp"_s));
+        auto* disc = new SkinSign(form_.skin(), this);
+        disc->showSign(u"cover_"_s + cover.tag.mid(2, 3).toLower() + u".bmp"_s);
         disc->setGeometry(left + 2, firstRow + i * rowPitch + 5, 12, 12);
         makeLabel(this, cover.word + cover.tag, {left + 20, firstRow + i * rowPitch + 1, 136, rowHeight},
                   TextRole::body)

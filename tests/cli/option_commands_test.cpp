@@ -112,12 +112,15 @@ TEST_F(ConfigCommands, everythingIsShownWithoutASimulatorToo) {
     const auto run = install.run(u"config show"_s);
     EXPECT_EQ(run.status, 0) << run.messages.toStdString();
     const QJsonObject shown = run.objects().at(0);
-    EXPECT_EQ(shown.keys().join(u' '), u"activesky flights home runner simulator switches weather"_s);
+    EXPECT_EQ(shown.keys().join(u' '), u"activesky flights home palette runner simulator switches weather"_s);
     EXPECT_EQ(shown["home"], install.home().text());
     EXPECT_EQ(shown["switches"]["halo"], true);
     for (const QJsonObject& object : {shown, install.run("config get runner").objects().at(0)})
         EXPECT_EQ(object["runner"], "wine --quiet");
     EXPECT_EQ(contentsBelow(install.folder.path()), before) << "looking changes nothing";
+    expectSteps(install, {{u"config|get|palette"_s, {u"{\"palette\":\"day\"}"_s}},
+                          {u"config|set|palette|dusk"_s, {u"day, night or clock: dusk"_s}, 1},
+                          {u"config|set|palette|clock"_s, {u"{\"palette\":\"clock\"}"_s}}});
 
     Store store; // as one of version 2 before its upgrade
     store.open(install.home() / u"Morvane.mdb");

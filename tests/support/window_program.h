@@ -6,6 +6,7 @@
 #include "sky/sky_install.h"
 #include "sky/sky_selection.h"
 #include "support/night_install.h"
+#include "ui/controls/palette.h"
 #include "ui/controls/picture_frame.h"
 #include "ui/controls/set_table.h"
 #include "ui/dialog_form.h"
@@ -61,6 +62,10 @@ public:
         confirmNext(u"frm_Msg"_s); // the skin that is not there is told of once
         shell.reportMissingSkin();
     }
+
+    ~WindowProgram() { palette::use(PaperPalette::day); }
+    WindowProgram(const WindowProgram&) = delete;
+    WindowProgram& operator=(const WindowProgram&) = delete;
 
     /// Runs `action` as soon as the screen of that name shows: arm it before the call that waits for the
     /// screen's answer. `action` has to close it.

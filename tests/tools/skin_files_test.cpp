@@ -3,6 +3,7 @@
 #include "core/literals.h"
 #include "imaging/window_region.h"
 #include "skin_palette.h"
+#include "support/contrast.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -21,6 +22,11 @@ struct SkinFiles : testing::Test {
     }
     static void TearDownTestSuite() { folder_.reset(); }
 
+    /// Name and size of each picture.
+    QStringList listed() {
+        const FilePath list = FilePath(QStringLiteral(MORVANE_TEST_FOLDER)) / u"skin_pictures.txt";
+        return QString::fromUtf8(files.read(list)).split(u'\n', Qt::SkipEmptyParts);
+    }
     static FilePath media() { return *folder_ / u"Media"; }
     static QImage imageOf(QStringView name) { return QImage(media().child(name.toString()).native()); }
 
@@ -44,9 +50,7 @@ int tintedPixels(const QImage& picture) {
 }
 
 TEST_F(SkinFiles, haveEveryPictureInBothSizesAsPlainBitmapsWithHardEdges) {
-    const FilePath list = FilePath(QStringLiteral(MORVANE_TEST_FOLDER)) / u"skin_pictures.txt";
-    const QString lines = QString::fromUtf8(files.read(list));
-    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts)) {
+    for (const QString& line : listed()) {
         const QStringList words = line.split(u' ');
         const QSize size(words[1].toInt(), words[2].toInt());
         for (const int scale : {1, 2}) {
@@ -62,7 +66,50 @@ TEST_F(SkinFiles, haveEveryPictureInBothSizesAsPlainBitmapsWithHardEdges) {
             }
         }
     }
-    EXPECT_EQ(files.list(media(), u"*.bmp"_s).size(), 2 * lines.count(u'\n') + 4); // and the previews
+    EXPECT_EQ(files.list(media(), u"*.bmp"_s).size(), 2 * listed().size() + 4); // and the previews
+}
+
+/// What has paper or its text in it is marked in the list.
+TEST_F(SkinFiles, areThereForTheNightWhereTheyArePaper) {
+    int paperPictures = 0;
+    for (const QString& line : listed()) {
+        const QStringList words = line.split(u' ');
+        const bool isSign = words[1].toInt() <= 44;
+        paperPictures += words.value(3) == u"night";
+        for (const int scale : {1, 2}) {
+            const QImage night = imageOf(words[0] + (scale == 2 ? u"_night@2x.png"_s : u"_night.png"_s));
+            EXPECT_EQ(!night.isNull(), words.value(3) == u"night") << line.toStdString();
+            if (night.isNull()) continue;
+            EXPECT_EQ(night.size(), imageOf(words[0] + u".bmp"_s).size() * scale) << line.toStdString();
+            EXPECT_EQ(tintedPixels(night), 0) << line.toStdString();
+            const QRgb middle = isSign ? 0 : night.pixel(20 * scale, night.height() / 2);
+            EXPECT_GE(
+                isSign ? contrasts(night, paper::top.night).second : contrast(middle, paper::text.night), 4.5)
+                << line.toStdString();
+        }
+    }
+    EXPECT_EQ(files.list(media(), u"*_night*.png"_s).size(), 2 * paperPictures);
+}
+
+/// The last of the four frames of a key.
+TEST_F(SkinFiles, deadKeysCanBeRead) {
+    for (const QString& line : listed()) {
+        if (!line.startsWith(u"btn_")) continue;
+        const QImage strip = imageOf(line.section(u' ', 0, 0) + u"@2x.bmp"_s);
+        const int height = strip.height() / 4, edge = 10;
+        const QImage dead = strip.copy(edge, 3 * height + edge, strip.width() - 2 * edge, height - 2 * edge);
+        EXPECT_GE(contrasts(dead, commonest(dead)).second, 3) << line.toStdString();
+    }
+}
+
+TEST_F(SkinFiles, textIsReadableOnTheHillsOfTheStatusPage) {
+    for (const auto& [name, text] : {std::pair{u"page_status.bmp"_s, paper::text.day},
+                                     {u"page_status_night.png"_s, paper::text.night}}) {
+        const QImage page = imageOf(name);
+        const auto place = [&](int y) { return page.copy(0, y, page.width(), 1); };
+        for (int y = 305; y < 388; ++y)
+            EXPECT_GE(contrasts(place(y), text).first, 4.5) << name.toStdString() << " line " << y;
+    }
 }
 
 TEST_F(SkinFiles, regionsAreThoseOfTheirPictures) {

@@ -56,6 +56,7 @@ Effect staysDown() {
 std::vector<WalkScreen> otherDialogs() {
     const Effect closed = closes([](Session&) { return true; }, true);
     const WalkRows closing{{u"btn_Cancel"_s, closed}, {u"(Escape)"_s, closed}, {u"(close)"_s, closed}};
+    const auto paletteWord = [](Session& session) { return ownValue(session.registry, u"Palette"_s); };
     const auto sources = [](Session& session) { return ownValue(session.registry, u"WeatherSources"_s); };
     return {
         {"in_simulator", u"frm_InSimulator"_s, dialog(Screen::frm_InSimulator), true,
@@ -83,7 +84,10 @@ std::vector<WalkScreen> otherDialogs() {
                             {u"cmdSourceAdd"_s, becomes(sources, u"noaa;awc;vatsim"_s).lasting()},
                             {u"cmdKept"_s, shows(u"frm_WhatIsKept"_s)},
                             {u"btn_Ready"_s, shows(u"frm_Ready"_s)},
-                            {u"chkUndo"_s, label(u"lblUndoRoom"_s).lasting()}}},
+                            {u"chkUndo"_s, label(u"lblUndoRoom"_s).lasting()},
+                            {u"optPaletteDay"_s, becomes(paletteWord, u"day"_s).lasting()},
+                            {u"optPaletteNight"_s, becomes(paletteWord, u"night"_s).lasting()},
+                            {u"optPaletteClock"_s, becomes(paletteWord, u"clock"_s).lasting()}}},
         {"ready", u"frm_Ready"_s, dialog(Screen::frm_Ready), true,
          closing + WalkRows{{u"chkStep1"_s, itself()},
                             {u"chkStep3"_s, itself()},

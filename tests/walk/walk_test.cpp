@@ -2,9 +2,14 @@
 // plug-in.
 
 #include "skin_files.h"
+#include "support/contrast.h"
+#include "ui/controls/palette.h"
 #include "walk/walk_tables.h"
 #include "window/form_table.h"
 
+#include <QAbstractButton>
+#include <QLabel>
+#include <QPushButton>
 #include <QWindow>
 #include <gtest/gtest.h>
 
@@ -51,6 +56,41 @@ TEST(Walk, aShortProgressLeavesTheKeyboardWhereItWas) {
         user.pumpMessages();
         user.hideMessage();
         ASSERT_TRUE(QTest::qWaitFor([window] { return window->isActive(); })) << "after " << i << " times";
+    }
+}
+
+/// The ink of what is written, against what it was painted on.
+double contrastOf(QWidget& form, const QWidget& written, QPalette::ColorRole ink) {
+    const QRect place(written.mapTo(&form, QPoint()), written.size());
+    const QRect inside = place.adjusted(2, 2, -2, -2); // without a button's border
+    return contrast(written.palette().color(ink).rgb(), commonest(form.grab(inside).toImage()));
+}
+
+TEST(Walk, everyTextIsReadableInBothPalettes) {
+    Walk walk(skin(), furnish);
+    WindowShell& shell = walk.program().shell;
+    for (const PaperPalette palette : {PaperPalette::day, PaperPalette::night}) {
+        palette::use(palette);
+        QCoreApplication::processEvents();
+        int texts = 0;
+        for (const QString& name : formNames()) {
+            QWidget* form = shell.form(name);
+            if (childPage(name)) shell.goToPage(name);
+            const auto expectReadable = [&](const QWidget& written, const QString& text,
+                                            QPalette::ColorRole ink) {
+                if (text.isEmpty() || !written.isVisibleTo(form) || written.size().isEmpty()) return;
+                ++texts;
+                EXPECT_GE(contrastOf(*form, written, ink), 4.5)
+                    << int(palette) << ", " << name.toStdString() << ": " << text.toStdString();
+            };
+            for (const QLabel* label : form->findChildren<QLabel*>())
+                expectReadable(*label, label->text(), label->foregroundRole());
+            for (const QAbstractButton* button : form->findChildren<QAbstractButton*>())
+                expectReadable(*button, button->text(),
+                               qobject_cast<const QPushButton*>(button) ? QPalette::ButtonText
+                                                                        : QPalette::WindowText);
+        }
+        EXPECT_GT(texts, 200);
     }
 }
 

@@ -17,7 +17,7 @@ constexpr int frameCount = 8;
 constexpr qreal degreesPerFrame = 180.0 / frameCount;
 constexpr quint16 hundredthsPerFrame = 9;
 
-/// Colours from paper to text blue.
+/// Colours from paper to that of text.
 constexpr int shadeCount = 128;
 /// log2 of the shades: the code size with which an image begins.
 constexpr quint8 shadeBits = 7;
@@ -56,17 +56,18 @@ void writeBytes(QDataStream& stream, const QByteArray& bytes) {
     stream.writeRawData(bytes.constData(), static_cast<int>(bytes.size()));
 }
 
-void writeHead(QDataStream& stream) {
+void writeHead(QDataStream& stream, PaperPalette palette) {
     writeBytes(stream, "GIF89a");
     const quint8 hasTable = 0x80, tableBits = shadeBits - 1;
     stream << quint16(frameSide) << quint16(frameSide) << quint8(hasTable | tableBits) << quint8(0)
            << quint8(0);
+    const QColor ground = inkOf(paper::top, palette), ink = inkOf(paper::text, palette);
     for (int shade = 0; shade < shadeCount; ++shade) {
-        const auto mixed = [&](int paper, int blue) {
-            return static_cast<quint8>(paper + (blue - paper) * shade / (shadeCount - 1));
+        const auto mixed = [&](int from, int to) {
+            return static_cast<quint8>(from + (to - from) * shade / (shadeCount - 1));
         };
-        stream << mixed(paperTop.red(), textBlue.red()) << mixed(paperTop.green(), textBlue.green())
-               << mixed(paperTop.blue(), textBlue.blue());
+        stream << mixed(ground.red(), ink.red()) << mixed(ground.green(), ink.green())
+               << mixed(ground.blue(), ink.blue());
     }
     // The extension that every reader takes for "without end".
     writeBytes(stream, QByteArray("\x21\xFF\x0BNETSCAPE2.0\x03\x01\x00\x00\x00", 19));
@@ -90,11 +91,11 @@ void writeFrame(QDataStream& stream, const QImage& image) {
 
 } // namespace
 
-QByteArray turningArrowsAnimation() {
+QByteArray turningArrowsAnimation(PaperPalette palette) {
     QByteArray file;
     QDataStream stream(&file, QIODevice::WriteOnly);
     stream.setByteOrder(QDataStream::LittleEndian);
-    writeHead(stream);
+    writeHead(stream, palette);
     for (int frame = 0; frame < frameCount; ++frame)
         writeFrame(stream, drawTurned(frame * degreesPerFrame));
     stream << quint8(0x3B);

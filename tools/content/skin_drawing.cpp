@@ -53,11 +53,12 @@ void drawInnerEdge(QPainter& painter, const QPainterPath& shape, qreal width, co
     painter.restore();
 }
 
-void drawPaper(QPainter& painter, const QRectF& place, qreal length) {
+void drawPaper(QPainter& painter, const QRectF& place, qreal length, PaperPalette palette) {
     const QRectF gradientPlace(place.topLeft(), QSizeF(place.width(), length));
-    painter.fillRect(place, downward(gradientPlace, paperTop, paperFoot));
+    painter.fillRect(place, downward(gradientPlace, inkOf(paper::top, palette), inkOf(paper::foot, palette)));
     const QRectF shadePlace(place.topLeft(), QSizeF(place.width(), 6));
-    painter.fillRect(shadePlace, downward(shadePlace, faded(paperShade, 0.20), faded(paperShade, 0)));
+    const QColor shade = inkOf(paper::topShade, palette);
+    painter.fillRect(shadePlace, downward(shadePlace, shade, faded(shade, 0)));
 }
 
 QFont programFont(int pixels, QFont::Weight weight) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "imaging/paper_palette.h"
+
 #include <QFont>
 #include <QImage>
 #include <QLinearGradient>
@@ -28,7 +30,7 @@ QLinearGradient downward(const QRectF& rectangle, const QColor& top, const QColo
 void drawInnerEdge(QPainter& painter, const QPainterPath& shape, qreal width, const QBrush& brush);
 
 /// Paper with its shade below the upper edge; the gradient ends `length` below the top.
-void drawPaper(QPainter& painter, const QRectF& place, qreal length);
+void drawPaper(QPainter& painter, const QRectF& place, qreal length, PaperPalette palette);
 
 /// The program's typeface in whole pixels.
 QFont programFont(int pixels, QFont::Weight weight);

@@ -35,6 +35,15 @@ public:
         writePicture(QString(name % u"@2x.bmp"), draw(2));
     }
 
+    /// `draw(scale, palette)`: the night's stands beside the day's, packed, as there are many dots of few
+    /// colours.
+    template <class Draw>
+    void writeBothPalettes(QStringView name, Draw draw) {
+        writeBothSizes(name, [&](int scale) { return draw(scale, PaperPalette::day); });
+        writePicture(QString(name % u"_night.png"), draw(1, PaperPalette::night));
+        writePicture(QString(name % u"_night@2x.png"), draw(2, PaperPalette::night));
+    }
+
     /// In the format that the file's ending tells.
     void writePicture(QStringView fileName, const QImage& picture) {
         const QByteArray format = fileName.mid(fileName.lastIndexOf(u'.') + 1).toLatin1();
@@ -58,10 +67,16 @@ private:
 
 void writeWindows(SkinWriter& writer) {
     for (const WindowPicture& window : windowPictures()) {
-        writer.writeBothSizes(window.name, [&](int scale) { return drawWindow(window.name, scale); });
+        const auto draw = [&](int scale, PaperPalette palette) {
+            return drawWindow(window.name, scale, palette);
+        };
+        if (hasPaper(window))
+            writer.writeBothPalettes(window.name, draw);
+        else
+            writer.writeBothSizes(window.name, [&](int scale) { return draw(scale, PaperPalette::day); });
         if (!window.regionFile.isEmpty())
             writer.write(window.regionFile,
-                         writeWindowRegion(scanRegion(drawWindow(window.name, 1), keyColour.rgb())));
+                         writeWindowRegion(scanRegion(draw(1, PaperPalette::day), keyColour.rgb())));
     }
 }
 
@@ -72,14 +87,17 @@ void writeKeys(SkinWriter& writer) {
 
 void writePages(SkinWriter& writer) {
     for (const PagePicture& page : pagePictures())
-        writer.writeBothSizes(page.name, [&](int scale) { return drawPage(page, scale); });
+        writer.writeBothPalettes(
+            page.name, [&](int scale, PaperPalette palette) { return drawPage(page, scale, palette); });
 }
 
 void writeIcons(SkinWriter& writer) {
     for (const IconImage& icon : iconImages())
-        writer.writeBothSizes(icon.name, [&](int scale) { return drawIcon(icon, scale); });
+        writer.writeBothPalettes(
+            icon.name, [&](int scale, PaperPalette palette) { return drawIcon(icon, scale, palette); });
     for (const CoverImage& cover : coverImages())
-        writer.writeBothSizes(cover.name, [&](int scale) { return drawCover(cover, scale); });
+        writer.writeBothPalettes(
+            cover.name, [&](int scale, PaperPalette palette) { return drawCover(cover, scale, palette); });
 }
 
 void writePhotos(SkinWriter& writer) {
@@ -93,7 +111,8 @@ void writePhotos(SkinWriter& writer) {
 void writeEmblems(SkinWriter& writer) {
     writer.write(u"HMOVE.cur", cursorFile(drawMoveCursor(), moveHotSpot));
     writer.write(u"Hand.cur", cursorFile(drawHandCursor(), handHotSpot));
-    writer.write(u"ASv6Process.gif", turningArrowsAnimation());
+    writer.write(u"ASv6Process.gif", turningArrowsAnimation(PaperPalette::day));
+    writer.write(u"ASv6Process_night.gif", turningArrowsAnimation(PaperPalette::night));
     writer.write(u"morvane.ico", iconFile({drawProgramIcon(16), drawProgramIcon(32), drawProgramIcon(48)}));
     writer.writePicture(u"morvane.png", drawProgramIcon(128));
 }

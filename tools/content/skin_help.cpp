@@ -109,7 +109,8 @@ report is; where no source answers, the stored reports go on serving.</p>
 <h3>Configuration</h3>
 <p>Options of the program and the simulator: whether this PC is a WideClient, the Dutch and tropical textures, the
 halo, the start pictures, whether Morvane asks before it closes, and the folder of your saved flights. <b>More
-settings</b> has the weather's sources in their order, and leads to what Morvane keeps on the disk.</p>
+settings</b> has the weather's sources in their order and the palette of the pages, day, night or by the clock, and
+leads to what Morvane keeps on the disk.</p>
 <h3>Base Install</h3>
 <p>Puts Morvane's base textures into the simulator and makes or restores backups. Do this once before you install
 sets.</p>

@@ -45,11 +45,12 @@ constexpr CoverImage covers[] = {
 };
 
 /// Draws on paper and gives every pixel that stayed untouched the key colour.
-QImage drawOnPaper(int side, int scale, const Paint& paint) {
-    QImage picture = drawPicture({side, side}, scale, paperTop, paint);
+QImage drawOnPaper(int side, int scale, PaperPalette palette, const Paint& paint) {
+    const QColor ground = inkOf(paper::top, palette);
+    QImage picture = drawPicture({side, side}, scale, ground, paint);
     for (int y = 0; y < picture.height(); ++y) {
         auto* pixels = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        std::replace(pixels, pixels + picture.width(), paperTop.rgb(), keyColour.rgb());
+        std::replace(pixels, pixels + picture.width(), ground.rgb(), keyColour.rgb());
     }
     return picture;
 }
@@ -60,9 +61,10 @@ std::span<const IconImage> iconImages() {
     return icons;
 }
 
-QImage drawIcon(const IconImage& icon, int scale) {
-    return drawOnPaper(icon.side, scale, [&](QPainter& painter) {
-        drawPictogram(painter, icon.pictogram, QRectF(0, 0, icon.side, icon.side), 1.6, textBlue);
+QImage drawIcon(const IconImage& icon, int scale, PaperPalette palette) {
+    return drawOnPaper(icon.side, scale, palette, [&](QPainter& painter) {
+        drawPictogram(painter, icon.pictogram, QRectF(0, 0, icon.side, icon.side), 1.6,
+                      inkOf(paper::text, palette));
     });
 }
 
@@ -70,12 +72,12 @@ std::span<const CoverImage> coverImages() {
     return covers;
 }
 
-QImage drawCover(const CoverImage& cover, int scale) {
+QImage drawCover(const CoverImage& cover, int scale, PaperPalette palette) {
     const bool isSmall = cover.side < titleSide;
-    return drawOnPaper(cover.side, scale, [&](QPainter& painter) {
+    return drawOnPaper(cover.side, scale, palette, [&](QPainter& painter) {
         const qreal margin = isSmall ? 0 : 2;
         const QRectF place = QRectF(0, 0, cover.side, cover.side).adjusted(margin, margin, -margin, -margin);
-        drawCoverDisc(painter, place, cover.quarters, isSmall ? 1 : 1.6, textBlue);
+        drawCoverDisc(painter, place, cover.quarters, isSmall ? 1 : 1.6, inkOf(paper::text, palette));
     });
 }
 

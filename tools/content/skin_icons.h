@@ -1,5 +1,6 @@
 #pragma once
 
+#include "imaging/paper_palette.h"
 #include "skin_pictograms.h"
 
 #include <QImage>
@@ -17,8 +18,8 @@ struct IconImage {
 
 std::span<const IconImage> iconImages();
 
-/// In text blue on key colour; its lines are blended with paper, on which all icons lie.
-QImage drawIcon(const IconImage& icon, int scale);
+/// In the colour of text on key colour; its lines are blended with paper, on which all icons lie.
+QImage drawIcon(const IconImage& icon, int scale, PaperPalette palette);
 
 /// The weather chart's disc for a cloud cover: `quarters` of it, 0 to 4, are full.
 struct CoverImage {
@@ -30,7 +31,7 @@ struct CoverImage {
 std::span<const CoverImage> coverImages();
 
 /// Like an icon.
-QImage drawCover(const CoverImage& cover, int scale);
+QImage drawCover(const CoverImage& cover, int scale, PaperPalette palette);
 
 /// The same disc in any colour, with a ring of that width.
 void drawCoverDisc(QPainter& painter, const QRectF& place, int quarters, qreal ringWidth,

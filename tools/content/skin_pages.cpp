@@ -32,7 +32,7 @@ QPainterPath hillPath(std::initializer_list<QPointF> crest, qreal foot) {
     return path;
 }
 
-void drawHills(QPainter& painter, qreal foot) {
+void drawHills(QPainter& painter, qreal foot, PaperPalette palette) {
     const QPainterPath hills[] = {
         hillPath({{-30, 350}, {112, 322}, {186, 336}, {316, 303}, {426, 328}, {590, 297}, {620, 300}}, foot),
         hillPath({{-60, 370}, {178, 347}, {378, 363}, {558, 344}, {640, 348}}, foot),
@@ -40,22 +40,24 @@ void drawHills(QPainter& painter, qreal foot) {
     painter.setClipRect(QRectF(0, 290, pageSize.width(), foot - 290));
     for (const QPainterPath& hill : hills) {
         const QRectF bounds = hill.boundingRect();
-        painter.fillPath(hill, downward(bounds, faded(textBlue, 0.085), faded(textBlue, 0.02)));
+        painter.fillPath(hill,
+                         downward(bounds, inkOf(paper::hillTop, palette), inkOf(paper::hillFoot, palette)));
     }
     painter.setClipping(false);
 }
 
 /// The lines of the tables on the status page: where they lie and how long they are.
-void drawStatusLines(QPainter& painter) {
+void drawStatusLines(QPainter& painter, PaperPalette palette) {
+    const QColor rule = inkOf(paper::rule, palette), hair = inkOf(paper::hair, palette);
     const auto draw = [&](int x, int width, std::initializer_list<int> tops, const QColor& colour) {
         for (const int top : tops)
             painter.fillRect(x, top, width, 1, colour);
     };
-    draw(14, 290, {86}, ruleColour);
-    draw(14, 290, {108, 130, 152, 174, 196}, hairColour);
-    painter.fillRect(230, 54, 1, 163, hairColour);
-    draw(326, 256, {70, 211}, ruleColour);
-    draw(326, 256, {110, 150, 176, 234, 257, 280, 303}, hairColour);
+    draw(14, 290, {86}, rule);
+    draw(14, 290, {108, 130, 152, 174, 196}, hair);
+    painter.fillRect(230, 54, 1, 163, hair);
+    draw(326, 256, {70, 211}, rule);
+    draw(326, 256, {110, 150, 176, 234, 257, 280, 303}, hair);
 }
 
 void drawDeck(QPainter& painter, int top) {
@@ -71,14 +73,14 @@ std::span<const PagePicture> pagePictures() {
     return pages;
 }
 
-QImage drawPage(const PagePicture& page, int scale) {
+QImage drawPage(const PagePicture& page, int scale, PaperPalette palette) {
     return drawPicture(pageSize, scale, lineColour, [&](QPainter& painter) {
-        drawPaper(painter, pagePlace, paperLength);
+        drawPaper(painter, pagePlace, paperLength, palette);
         if (page.isStatus) {
-            drawHills(painter, page.deckTop);
-            drawStatusLines(painter);
+            drawHills(painter, page.deckTop, palette);
+            drawStatusLines(painter, palette);
         }
-        painter.fillRect(14, page.ruleTop, pageSize.width() - 28, 1, ruleColour);
+        painter.fillRect(14, page.ruleTop, pageSize.width() - 28, 1, inkOf(paper::rule, palette));
         if (page.deckTop < pageSize.height()) drawDeck(painter, page.deckTop);
         // The page lies in a frame with round corners; it paints the frame's inner ones itself.
         QPainterPath corners;

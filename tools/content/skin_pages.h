@@ -1,5 +1,7 @@
 #pragma once
 
+#include "imaging/paper_palette.h"
+
 #include <QImage>
 #include <span>
 
@@ -21,6 +23,6 @@ std::span<const PagePicture> pagePictures();
 /// The size of every page, in logical pixels.
 constexpr QSize pageSize(596, 450);
 
-QImage drawPage(const PagePicture& page, int scale);
+QImage drawPage(const PagePicture& page, int scale, PaperPalette palette);
 
 } // namespace morvane::skin

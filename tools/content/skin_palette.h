@@ -1,8 +1,10 @@
 #pragma once
 
+#include "imaging/paper_palette.h"
+
 #include <QColor>
 
-/// The colours of the window program's skin.
+/// The colours of the window program's skin, but for those of the paper.
 namespace morvane::skin {
 
 /// Cut away by the program: outside windows, in the corners of keys, round icons. Nowhere else.
@@ -21,19 +23,16 @@ constexpr QColor slotLine(24, 35, 44);
 constexpr QColor accent(76, 196, 242);
 constexpr QColor textBright(230, 239, 244);
 constexpr QColor textQuiet(175, 194, 206);
-constexpr QColor pictogramOff(86, 107, 121);
+constexpr QColor pictogramOff(98, 119, 133); ///< 3 to 1 on a dead key
 constexpr QColor wordMark(242, 247, 250);
-
-// Light parts.
-constexpr QColor textBlue(0, 101, 161);
-constexpr QColor paperTop(250, 250, 246);
-constexpr QColor paperFoot(241, 243, 240);
-constexpr QColor paperShade(12, 32, 48);
-constexpr QColor ruleColour(185, 201, 210);
-constexpr QColor hairColour(220, 228, 230);
 
 constexpr QColor white(255, 255, 255);
 constexpr QColor black(0, 0, 0);
+
+/// A colour of the paper.
+inline QColor inkOf(const PaperColour& colour, PaperPalette palette) {
+    return QColor::fromRgba(colour.in(palette));
+}
 
 /// The colour at that opacity, 0 to 1.
 inline QColor faded(QColor colour, double opacity) {

@@ -94,13 +94,13 @@ void drawPageWindow(QPainter& painter, const PageWindow& window) {
 }
 
 /// Message and dialogs: paper down to the band that holds their keys.
-void drawPaperWindow(QPainter& painter, QSizeF size) {
+void drawPaperWindow(QPainter& painter, QSizeF size, PaperPalette palette) {
     const qreal middle = size.width() / 2;
     const QRectF paper(12, 46, size.width() - 24, size.height() - 116);
     drawHorizon(painter, {{middle, 30}, middle - 50, 24, 20.0 / 26});
     drawPageFrame(painter, paper);
     painter.setClipPath(roundedPath(paper, 6));
-    drawPaper(painter, paper, paper.height());
+    drawPaper(painter, paper, paper.height(), palette);
     painter.setClipping(false);
 }
 
@@ -110,7 +110,11 @@ std::span<const WindowPicture> windowPictures() {
     return pictures;
 }
 
-QImage drawWindow(QStringView name, int scale) {
+bool hasPaper(const WindowPicture& window) {
+    return !hasPages(window);
+}
+
+QImage drawWindow(QStringView name, int scale, PaperPalette palette) {
     const auto* found = std::find_if(std::begin(pictures), std::end(pictures),
                                      [&](const auto& picture) { return name == picture.name; });
     if (found == std::end(pictures)) throw Error(ErrorCode::invalidCall, name.toString());
@@ -120,7 +124,7 @@ QImage drawWindow(QStringView name, int scale) {
         if (hasPages(*found))
             drawPageWindow(painter, pageWindows[found - pictures]);
         else
-            drawPaperWindow(painter, found->size);
+            drawPaperWindow(painter, found->size, palette);
         drawBezelEdge(painter, shape);
     });
     cutToOutline(picture, outlinePath(shape), scale);

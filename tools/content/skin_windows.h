@@ -1,5 +1,7 @@
 #pragma once
 
+#include "imaging/paper_palette.h"
+
 #include <QImage>
 #include <QString>
 #include <span>
@@ -15,9 +17,13 @@ struct WindowPicture {
     QSize size;
 };
 
+/// A dialog's, whose paper there is in both palettes; the windows with pages have none.
+bool hasPaper(const WindowPicture& window);
+
 std::span<const WindowPicture> windowPictures();
 
-/// The picture of that name; a name that is not in the list raises "Invalid procedure call".
-QImage drawWindow(QStringView name, int scale);
+/// The picture of that name with paper of that palette; a name that is not in the list raises "Invalid
+/// procedure call".
+QImage drawWindow(QStringView name, int scale, PaperPalette palette);
 
 } // namespace morvane::skin

@@ -1,5 +1,6 @@
-// morvane-gallery: a picture of every screen, made without a display, at 100, 150 and 200 per cent. With
-// --against it names those that differ from earlier ones, which shows what a change did to the screens.
+// morvane-gallery: a picture of every screen, made without a display, at 100, 150 and 200 per cent and in
+// both palettes. With --against it names those that differ from earlier ones, which shows what a change did
+// to the screens.
 
 #include "app/start_up.h"
 #include "core/clock.h"
@@ -11,6 +12,7 @@
 #include "imaging/program_font.h"
 #include "sets/resource_folders.h"
 #include "simulator/flights.h"
+#include "ui/controls/palette.h"
 #include "ui/controls/paper_style.h"
 #include "ui/skin.h"
 #include "weather/reports.h"
@@ -27,6 +29,7 @@
 #include <cstdio>
 #include <exception>
 #include <functional>
+#include <vector>
 
 using namespace morvane;
 
@@ -57,6 +60,10 @@ bool isLike(const QDir& folder, const QDir& earlier) {
     return names.isEmpty();
 }
 
+QString homeOf(const QCommandLineParser& parser) {
+    return QFileInfo(parser.value(u"home"_s)).absoluteFilePath();
+}
+
 int run(const FilePath& home, const QString& folder) {
     NativeFileSystem files;
     SystemClock clock;
@@ -79,31 +86,43 @@ int run(const FilePath& home, const QString& folder) {
     return skin.missing().isEmpty() ? 0 : 1;
 }
 
-/// The scale of a program is fixed when it starts, so the dense ones are runs of their own, in folders below.
-int runScaled(const QString& home, const QString& folder, const QString& earlier) {
-    int status = 0;
-    for (const auto& [scale, name] : {std::pair(u"1.5"_s, u"at-150"_s), std::pair(u"2"_s, u"at-200"_s)}) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"QT_SCALE_FACTOR"_s, scale);
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.setProcessChannelMode(QProcess::ForwardedChannels);
-        QStringList arguments{u"--home"_s, home, QDir(folder).filePath(name)};
-        if (!earlier.isEmpty()) arguments << u"--against"_s << QDir(earlier).filePath(name);
-        process.start(QCoreApplication::applicationFilePath(), arguments);
-        if (!process.waitForFinished(-1) || process.exitCode() != 0) status = 1;
-    }
-    return status;
+/// One run of this program: what it saves goes below the folder of the whole.
+struct GalleryPart {
+    QString folder, scale;
+    bool isAtNight;
+};
+
+/// The scale of a program is fixed when it starts, and screens of the other palette are to be as fresh.
+int runPart(const GalleryPart& part, const QCommandLineParser& parser) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!part.scale.isEmpty()) environment.insert(u"QT_SCALE_FACTOR"_s, part.scale);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    const QString earlier = parser.value(u"against"_s);
+    QStringList arguments{u"--home"_s, homeOf(parser), u"--one"_s};
+    if (part.isAtNight) arguments << u"--night"_s;
+    if (!earlier.isEmpty()) arguments << u"--against"_s << QDir(earlier).filePath(part.folder);
+    arguments << QDir(parser.positionalArguments()[0]).filePath(part.folder);
+    process.start(QCoreApplication::applicationFilePath(), arguments);
+    return process.waitForFinished(-1) && process.exitCode() == 0 ? 0 : 1;
 }
 
 int runGallery(const QCommandLineParser& parser) {
-    const QString home = QFileInfo(parser.value(u"home"_s)).absoluteFilePath();
-    const QString folder = parser.positionalArguments()[0];
-    const QString earlier = parser.value(u"against"_s);
-    int status = run(FilePath(home), folder);
+    const bool isAtNight = parser.isSet(u"night"_s);
+    palette::use(isAtNight ? PaperPalette::night : PaperPalette::day);
+    const QString folder = parser.positionalArguments()[0], earlier = parser.value(u"against"_s);
+    int status = run(FilePath(homeOf(parser)), folder);
     if (status == 0 && !earlier.isEmpty() && !isLike(folder, earlier)) status = 1;
-    if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) return status;
-    return std::max(status, runScaled(home, folder, earlier));
+    if (parser.isSet(u"one"_s)) return status;
+    std::vector<GalleryPart> parts{{u"at-150"_s, u"1.5"_s, isAtNight}, {u"at-200"_s, u"2"_s, isAtNight}};
+    if (!isAtNight)
+        parts.insert(
+            parts.end(),
+            {{u"night"_s, {}, true}, {u"night/at-150"_s, u"1.5"_s, true}, {u"night/at-200"_s, u"2"_s, true}});
+    for (const GalleryPart& part : parts)
+        status = std::max(status, runPart(part, parser));
+    return status;
 }
 
 } // namespace
@@ -120,6 +139,8 @@ int main(int argc, char** argv) {
     parser.addHelpOption();
     parser.addOption({u"home"_s, u"The install folder."_s, u"DIR"_s, defaultInstallFolder()});
     parser.addOption({u"against"_s, u"Earlier pictures; those that differ are named."_s, u"DIR"_s});
+    parser.addOption({u"night"_s, u"Only the pictures at night."_s});
+    parser.addOption({u"one"_s, u"Only those of one palette at the display's own scale."_s});
     parser.addPositionalArgument(u"OUTDIR"_s, u"Where the pictures go."_s);
     parser.process(application);
     if (parser.positionalArguments().size() != 1) parser.showHelp(2);

@@ -77,7 +77,7 @@ QRadioButton* ColourPage::addOption(const ColourPageSetup::Option& option, int t
     button->setFont(fontOf(TextRole::longHelp));
     setCaptionOffset(*button, 18);
     if (option.disc.isEmpty()) return button;
-    new OptionPicture(*button, skin().picture(option.disc), {574, top + 2, 12, 12});
+    new OptionPicture(*button, skin(), option.disc, {574, top + 2, 12, 12});
     return button;
 }
 

@@ -18,7 +18,7 @@ frm_MultiDelete::frm_MultiDelete(Shell& shell)
 void frm_MultiDelete::popMultiDeleteList() {
     list_->clearRows();
     for (const QString& name : session().state<MultiChoice>().multiNames)
-        list_->addRow({name, {name}, {name}, palette::textBlue, true});
+        list_->addRow({name, {name}, {name}, paper::text.day, true});
     list_->selectRow(1);
     setFirstFocus(list_);
 }

@@ -25,15 +25,6 @@ constexpr int pageRight = 582, pictureTop = 129, keyRow = 397, activatedColumn =
 
 const QString lookFiles = fileKinds(u"Looks of sets"_s, sharedSetEnding);
 
-void addRule(QWidget* paper, const QRect& place) {
-    auto* rule = new QWidget(paper);
-    QPalette colours;
-    colours.setColor(QPalette::Window, QColor::fromRgb(palette::rule));
-    rule->setPalette(colours);
-    rule->setAutoFillBackground(true);
-    rule->setGeometry(place);
-}
-
 } // namespace
 
 SetListForm::SetListForm(Shell& shell, const QString& name, const WindowLook& look, const HostKeys& keys,
@@ -81,7 +72,7 @@ void SetListForm::addDescription() {
     const int left = setup_.pictureLefts[0] - 1, width = pageRight - left;
     const int top = pictureTop + setup_.pictureSide + 13;
     makeLabel(paper(), u"Description"_s, {left, top, width, 14}, TextRole::sectionHeading);
-    addRule(paper(), {left, top + 18, width, 1});
+    makeRule(paper(), {left, top + 18, width, 1});
     description_ = makeLabel(paper(), {}, {left, top + 23, width, 385 - (top + 23)}, setup_.descriptionRole);
     description_->setObjectName(setup_.descriptionName);
 }

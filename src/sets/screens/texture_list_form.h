@@ -39,7 +39,7 @@ private:
         SetRow row{listKeyOf(set),
                    {nameOf(set), activationOf(set)},
                    {nameOf(set), u"Activated?"_s},
-                   set.Installed ? installedSetColour : palette::textBlue};
+                   set.Installed ? installedSetColour : paper::text.day};
         if constexpr (requires { set.CloudCover; }) {
             row.texts << set.CloudCover;
             row.tips << u"Cloud Cover"_s;

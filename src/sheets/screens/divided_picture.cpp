@@ -61,10 +61,12 @@ void DividedPicture::paintEvent(QPaintEvent* event) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QPointF middle(place.left() + part_ * place.width(), place.center().y());
     painter.setClipRect(place);
-    painter.setPen(QPen(hasFocus() ? QColor::fromRgb(palette::accentOnPaper) : Qt::white, 1.5));
+    painter.setPen(QPen(hasFocus() ? QColor::fromRgb(palette::now(paper::accent))
+                                   : QColor::fromRgb(palette::overPicture),
+                        1.5));
     painter.setBrush(QColor::fromRgb(palette::deck));
     painter.drawEllipse(middle, handleRadius, handleRadius);
-    painter.setPen(QPen(Qt::white, 1.4));
+    painter.setPen(QPen(QColor::fromRgb(palette::overPicture), 1.4));
     for (const int way : {-1, 1}) {
         const QPointF tip = middle + QPointF(5 * way, 0);
         painter.drawPolyline(QPolygonF{tip + QPointF(-2.5 * way, -2.5), tip, tip + QPointF(-2.5 * way, 2.5)});

@@ -11,6 +11,7 @@
 #include "sheets/simulator_sheet.h"
 #include "ui/controls/labels.h"
 #include "ui/controls/sign_button.h"
+#include "ui/controls/skin_sign.h"
 #include "ui/controls/slider.h"
 #include "ui/file_choice.h"
 #include "ui/skin.h"
@@ -51,7 +52,7 @@ frm_SetSheet::frm_SetSheet(Shell& shell) : DialogForm(shell, u"frm_SetSheet"_s, 
 
 void frm_SetSheet::addHead() {
     lblTitle_ = findChild<QLabel*>(u"lblTitle"_s);
-    picCover_ = new QLabel(this);
+    picCover_ = new SkinSign(skin(), this);
     picCover_->setObjectName(u"picCover"_s);
     lblCover_ = makeLabel(this, {}, {}, TextRole::optionCaption);
     lblCover_->setObjectName(u"lblCover"_s);
@@ -146,7 +147,7 @@ void frm_SetSheet::showHead(const Sheet& sheet) {
     picCover_->setVisible(cover);
     lblCover_->setText(cover ? sheet.cover : QString());
     if (cover) {
-        picCover_->setPixmap(skin().picture(u"cover_"_s + cover->tag.mid(2, 3).toLower() + u".bmp"_s));
+        picCover_->showSign(u"cover_"_s + cover->tag.mid(2, 3).toLower() + u".bmp"_s);
         picCover_->setGeometry(x, 61, 12, 12);
         lblCover_->setGeometry(x + 18, 57, textSize(*lblCover_).width() + 4, 20);
         x = lblCover_->geometry().right() + 24;

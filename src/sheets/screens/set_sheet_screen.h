@@ -10,6 +10,7 @@ namespace morvane {
 class SheetPanel;
 class SheetView;
 class SingleTexture;
+class SkinSign;
 class ucSlider;
 
 /// "See all": a whole set as pictures, or what lies in the simulator (sets/sheet_request.h).
@@ -46,7 +47,8 @@ private:
     void showBase(bool isWanted);
     bool moveAlone(int key);
 
-    QLabel *lblTitle_, *picCover_, *lblCover_, *lblState_, *lblZoom_;
+    QLabel *lblTitle_, *lblCover_, *lblState_, *lblZoom_;
+    SkinSign* picCover_;
     ucSlider* vcZoom_;
     SheetView* view_;
     SingleTexture* alone_;

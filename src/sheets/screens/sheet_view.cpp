@@ -14,11 +14,8 @@ namespace {
 
 constexpr int lineStep = 30;
 
-const SheetColours& paperColours() {
-    static const SheetColours colours{palette::textBlue,    palette::field,        palette::hair,
-                                      palette::listHeadTop, palette::listHeadFoot, palette::listHeadGap,
-                                      palette::rowLine,     palette::accentOnPaper};
-    return colours;
+SheetColours paperColours() {
+    return sheetColours(palette::inUse());
 }
 
 } // namespace

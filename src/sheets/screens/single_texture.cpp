@@ -44,8 +44,8 @@ void SingleTexture::showBase(bool isWanted) {
 
 void SingleTexture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor::fromRgb(palette::field));
-    painter.setPen(QColor::fromRgb(palette::fieldLine));
+    painter.fillRect(rect(), QColor::fromRgb(palette::now(paper::field)));
+    painter.setPen(QColor::fromRgb(palette::now(paper::fieldLine)));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     const QSize room((width() - 2 * margin - gap) / 2, height() - 2 * margin - 2 * captionHeight);
     const QSize largest = pair_.base.size().expandedTo(pair_.own.size());
@@ -56,7 +56,7 @@ void SingleTexture::paintEvent(QPaintEvent*) {
     int left = margin + std::max(0, room.width() - qRound(scale * largest.width()));
     const auto draw = [&](const QString& caption, const QImage& picture) {
         const QRect place(QPoint(left, margin + captionHeight), (QSizeF(largest) * scale).toSize());
-        painter.setPen(QColor::fromRgb(palette::textBlue));
+        painter.setPen(QColor::fromRgb(palette::now(paper::text)));
         painter.setFont(fontOf(TextRole::value));
         painter.drawText(QRect(left, margin, place.width(), captionHeight), Qt::AlignVCenter, caption);
         if (!picture.isNull()) painter.drawImage(place, picture);

@@ -25,7 +25,7 @@ void frm_flight::prepare() {
     lstFlights_->clearRows();
     const QStringList names = savedFlights(session());
     for (const QString& name : names)
-        lstFlights_->addRow({name, {name}, {name}, palette::textBlue});
+        lstFlights_->addRow({name, {name}, {name}});
     QString& chosen = session().state<FlightChoice>().SelectedFlightName;
     if (!names.contains(chosen)) chosen = names.value(0);
     lstFlights_->selectRow(static_cast<int>(names.indexOf(chosen)) + 1);

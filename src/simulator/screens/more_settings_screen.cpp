@@ -5,29 +5,33 @@
 #include "core/session.h"
 #include "sets/undo_step.h"
 #include "simulator/kept_room.h"
+#include "simulator/palette_choice.h"
+#include "simulator/screens/palette_keeper.h"
 #include "simulator/screens/weather_sources_panel.h"
 #include "ui/controls/labels.h"
+#include "ui/controls/wrapped_tip.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace morvane {
 
 namespace {
 
-constexpr int left = 26, innerWidth = 648;
+constexpr int left = 26, innerWidth = 648, undoWidth = 340, lastRow = 376;
 
 } // namespace
 
 frm_MoreSettings::frm_MoreSettings(Shell& shellOfDialogs)
     : DialogForm(shellOfDialogs, u"frm_MoreSettings"_s, wideDialogLook, u"More Settings"_s) {
-    addSection(u"The simulator's folder"_s, 84);
+    addSection(u"The simulator's folder"_s, {left, 84, innerWidth, 16});
     lblSimulatorPath_ = makeLabel(this, {}, {left, 105, innerWidth, 18}, TextRole::value);
     lblSimulatorPath_->setObjectName(u"lblSimulatorPath"_s);
-    addSection(u"Where the weather comes from, in this order"_s, 130);
+    addSection(u"Where the weather comes from, in this order"_s, {left, 130, innerWidth, 16});
     weather_ = new WeatherSourcesPanel(session(), {left, 155, innerWidth, 160}, this);
-    addSection(u"Room on the disk"_s, 322);
+    addSection(u"Room on the disk"_s, {left, 322, innerWidth, 16});
     makeLabel(this, u"Sets, backups and originals: how much room they take, and what of it can go."_s,
               {left, 348, 470, 18}, TextRole::body);
     auto* kept = new QPushButton(u"What Morvane keeps"_s, this);
@@ -35,17 +39,8 @@ frm_MoreSettings::frm_MoreSettings(Shell& shellOfDialogs)
     kept->setToolTip(u"Click to see what takes the room and to remove what you do not need."_s);
     kept->setGeometry(524, 345, 150, 26);
     connect(kept, &QPushButton::clicked, this, [this] { session().user.showModal(Screen::frm_WhatIsKept); });
-    addSection(u"Undo"_s, 376);
-    chkUndo_ = new QCheckBox(u"Keep what is needed to undo the last install"_s, this);
-    chkUndo_->setObjectName(u"chkUndo"_s);
-    chkUndo_->setGeometry(left, 400, 320, 20);
-    connect(chkUndo_, &QCheckBox::clicked, this, [this](bool isWanted) {
-        reportFailures(session().user, morvaneError, [&] { setUndoWanted(session(), isWanted); });
-        showUndo();
-        session().user.refreshScreen(Screen::frm_Main);
-    });
-    lblUndoRoom_ = makeLabel(this, {}, {left + 330, 402, innerWidth - 330, 18}, TextRole::remark);
-    lblUndoRoom_->setObjectName(u"lblUndoRoom"_s);
+    addUndo();
+    addPalette();
     addButton({ButtonFamily::LargeButton,
                u"btn_Ready"_s,
                u"get ready"_s,
@@ -56,9 +51,52 @@ frm_MoreSettings::frm_MoreSettings(Shell& shellOfDialogs)
     addCancelKey(u"Click to close."_s);
 }
 
-void frm_MoreSettings::addSection(const QString& heading, int top) {
-    makeLabel(this, heading, {left, top, innerWidth, 16}, TextRole::sectionHeading);
-    makeHair(this, {left, top + 18, innerWidth, 1});
+void frm_MoreSettings::addSection(const QString& heading, const QRect& place) {
+    makeLabel(this, heading, place, TextRole::sectionHeading);
+    makeHair(this, {place.left(), place.top() + 18, place.width(), 1});
+}
+
+void frm_MoreSettings::addUndo() {
+    addSection(u"Undo"_s, {left, lastRow, undoWidth, 16});
+    lblUndoRoom_ = makeLabel(this, {}, {left + 60, lastRow, undoWidth - 60, 16}, TextRole::remark);
+    lblUndoRoom_->setObjectName(u"lblUndoRoom"_s);
+    chkUndo_ = new QCheckBox(u"Keep what is needed to undo the last install"_s, this);
+    chkUndo_->setObjectName(u"chkUndo"_s);
+    chkUndo_->setGeometry(left, lastRow + 24, 320, 20);
+    connect(chkUndo_, &QCheckBox::clicked, this, [this](bool isWanted) {
+        reportFailures(session().user, morvaneError, [&] { setUndoWanted(session(), isWanted); });
+        showUndo();
+        session().user.refreshScreen(Screen::frm_Main);
+    });
+}
+
+/// The choice is seen at once, and so needs no OK.
+void frm_MoreSettings::addPalette() {
+    struct Option {
+        QString name, caption, tip;
+        int left;
+    };
+    const Option options[] = {{u"optPaletteDay"_s, u"Day"_s, u"Click for light pages."_s, 398},
+                              {u"optPaletteNight"_s, u"Night"_s, u"Click for dark pages."_s, 464},
+                              {u"optPaletteClock"_s, u"By the clock"_s,
+                               u"Click for dark pages from sunset to sunrise, at the airport that is chosen "
+                               u"for the weather, else at "
+                               "52 degrees north."_s,
+                               540}};
+    addSection(u"Palette"_s, {options[0].left, lastRow, left + innerWidth - options[0].left, 16});
+    for (std::size_t index = 0; const Option& option : options) {
+        auto* button = new QRadioButton(option.caption, this);
+        button->setObjectName(option.name);
+        button->setToolTip(wrappedTip(option.tip));
+        button->setGeometry(option.left, lastRow + 24, option.caption.size() > 6 ? 134 : 62, 20);
+        const auto choice = static_cast<PaletteChoice>(index);
+        connect(button, &QRadioButton::clicked, this, [this, choice] {
+            storePaletteChoice(session().registry, choice);
+            usePaletteNow(session());
+            showPalette();
+        });
+        optPalettes_[index++] = button;
+    }
 }
 
 void frm_MoreSettings::showUndo() {
@@ -68,8 +106,13 @@ void frm_MoreSettings::showUndo() {
                                                 : u"No install can be undone."_s);
 }
 
+void frm_MoreSettings::showPalette() {
+    optPalettes_[static_cast<std::size_t>(paletteChoice(session().registry))]->setChecked(true);
+}
+
 void frm_MoreSettings::prepare() {
     showUndo();
+    showPalette();
     weather_->refresh();
     const QString path = session().FSPath.text();
     lblSimulatorPath_->setAccessibleName(path);

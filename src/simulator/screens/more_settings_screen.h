@@ -2,8 +2,11 @@
 
 #include "ui/dialog_form.h"
 
+#include <array>
+
 class QCheckBox;
 class QLabel;
+class QRadioButton;
 
 namespace morvane {
 
@@ -20,12 +23,16 @@ protected:
     void confirm() override {}
 
 private:
-    void addSection(const QString& heading, int top);
+    void addSection(const QString& heading, const QRect& place);
+    void addUndo();
+    void addPalette();
     void showUndo();
+    void showPalette();
 
     QLabel *lblSimulatorPath_, *lblUndoRoom_;
     WeatherSourcesPanel* weather_;
     QCheckBox* chkUndo_;
+    std::array<QRadioButton*, 3> optPalettes_{}; ///< in the order of PaletteChoice
 };
 
 } // namespace morvane

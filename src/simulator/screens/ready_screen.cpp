@@ -3,7 +3,6 @@
 #include "core/session.h"
 #include "simulator/stock_requests.h"
 #include "ui/controls/labels.h"
-#include "ui/controls/palette.h"
 #include "ui/controls/paper_style.h"
 #include "ui/controls/skinned_progress_bar.h"
 
@@ -65,9 +64,7 @@ frm_Ready::Row frm_Ready::addRow(ReadyStep step) {
     row.box = new QCheckBox(readyCaption(step, wishes_.setsOfEach), this);
     row.box->setObjectName(u"chkStep%1"_s.arg(index));
     row.box->setFont(fontOf(TextRole::optionCaption));
-    QPalette colours = row.box->palette(); // a fixed row is done or under way, not out of reach
-    colours.setColor(QPalette::Disabled, QPalette::WindowText, QColor::fromRgb(palette::textBlue));
-    row.box->setPalette(colours);
+    keepCaptionAlive(*row.box); // a fixed row is done or under way, not out of reach
     row.box->setGeometry(stepLeft, top + 6, 350, 22);
     connect(row.box, &QCheckBox::toggled, this,
             [this, index](bool isTicked) { wishes_.isWanted[static_cast<std::size_t>(index)] = isTicked; });

@@ -88,7 +88,7 @@ void frm_InSimulator::addCounts() {
     constexpr const char16_t* signs[countRows] = {u"mark_whole.bmp", u"mark_own.bmp", u"mark_changed.bmp",
                                                   u"mark_missing.bmp", u"mark_kept.bmp"};
     for (std::size_t row = 0; row < countRows; ++row) {
-        counts_[row] = new CountRow(skin().picture(QString::fromUtf16(signs[row])), this);
+        counts_[row] = new CountRow(skin(), QString::fromUtf16(signs[row]), this);
         counts_[row]->setObjectName(u"rowCount%1"_s.arg(row));
         counts_[row]->setToolTip(u"Click to see only these files, and again to see what differs."_s);
         counts_[row]->setGeometry(leftEdge, firstLine + static_cast<int>(row) * pitch, 306, pitch);

@@ -94,7 +94,8 @@ void PalettePicture::paintEvent(QPaintEvent* event) {
     PictureFrame::paintEvent(event);
     QPainter painter(this);
     if (!picture().isNull()) paintMark(painter);
-    if (hasFocus()) paintRing(painter, QRectF(picturePlace()).adjusted(-2, -2, 2, 2), palette::accentOnPaper);
+    if (hasFocus())
+        paintRing(painter, QRectF(picturePlace()).adjusted(-2, -2, 2, 2), palette::now(paper::accent));
 }
 
 /// Two lines inside the group's edge, which lies on whole dots of the screen as the enlarged pixels do.

@@ -1,16 +1,18 @@
 #pragma once
 
 #include <QAbstractButton>
-#include <QPixmap>
 
 namespace morvane {
+
+class Skin;
 
 /// A line of a small table that can be picked: a sign, what is counted, and how many at the right. Bold where
 /// the eye has to fall on it.
 class CountRow : public QAbstractButton {
     Q_OBJECT
 public:
-    CountRow(const QPixmap& sign, QWidget* parent);
+    /// `sign` is a file below "\\Media".
+    CountRow(Skin& skin, const QString& sign, QWidget* parent);
 
     void setCount(const QString& what, std::int64_t count, bool isBold = false);
 
@@ -18,8 +20,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QPixmap sign_;
-    QString count_;
+    Skin& skin_;
+    QString sign_, count_;
     bool isBold_ = false;
 };
 

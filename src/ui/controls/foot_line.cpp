@@ -96,7 +96,7 @@ void FootLine::refresh() {
     const QString cut = lblText_->fontMetrics().elidedText(line.text, Qt::ElideRight, lblText_->width());
     lblText_->setText(cut);
     lblText_->setAccessibleName(line.text);
-    setTextColour(*lblText_, line.sign == FootSign::cloud ? palette::textQuiet : palette::textBright);
+    setInk(*lblText_, line.sign == FootSign::cloud ? Ink::quiet : Ink::bright);
     setToolTip(cut == line.text ? QString() : wrappedTip(line.text));
     setVisible(!line.text.isEmpty());
     update();

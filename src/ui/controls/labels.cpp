@@ -14,7 +14,7 @@ struct RoleStyle {
     TextRole role;
     int pixels;
     QFont::Weight weight;
-    QRgb colour;
+    Ink ink;
     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     bool wraps = false;
 };
@@ -23,26 +23,26 @@ constexpr Qt::Alignment atTop = Qt::AlignLeft | Qt::AlignTop;
 constexpr Qt::Alignment atRight = Qt::AlignRight | Qt::AlignVCenter;
 
 constexpr RoleStyle roleStyles[] = {
-    {TextRole::pageTitle, 16, QFont::Bold, palette::textBlue},
-    {TextRole::messageTitle, 15, QFont::Bold, palette::signalRed},
-    {TextRole::optionCaption, 13, QFont::Medium, palette::textBlue},
-    {TextRole::body, 12, QFont::Normal, palette::textBlue, atTop, true},
-    {TextRole::sliderName, 12, QFont::Normal, palette::textBlue},
-    {TextRole::sliderValue, 12, QFont::Normal, palette::textBlue, atRight},
-    {TextRole::value, 12, QFont::Medium, palette::textBlue},
-    {TextRole::number, 12, QFont::Medium, palette::textBlue, atRight},
-    {TextRole::total, 12, QFont::Bold, palette::textBlue, atRight},
-    {TextRole::longHelp, 11, QFont::Normal, palette::textBlue, atTop, true},
-    {TextRole::remark, 11, QFont::Normal, palette::textBlue, atRight},
-    {TextRole::fieldCaption, 11, QFont::Medium, palette::textBlue},
-    {TextRole::sectionHeading, 11, QFont::Bold, palette::textBlue},
-    {TextRole::listHead, 11, QFont::Bold, palette::textBlue},
-    {TextRole::darkTitle, 13, QFont::Medium, palette::textBright},
-    {TextRole::darkBody, 12, QFont::Normal, palette::textQuiet, atTop, true},
-    {TextRole::darkCaption, 12, QFont::Medium, palette::textBright},
-    {TextRole::darkRemark, 11, QFont::Normal, palette::textQuiet, atRight},
-    {TextRole::progressText, 12, QFont::Normal, palette::textBright, Qt::AlignLeft | Qt::AlignBottom, true},
-    {TextRole::valueTip, 12, QFont::Medium, palette::textBright, Qt::AlignCenter},
+    {TextRole::pageTitle, 16, QFont::Bold, Ink::text},
+    {TextRole::messageTitle, 15, QFont::Bold, Ink::signalRed},
+    {TextRole::optionCaption, 13, QFont::Medium, Ink::text},
+    {TextRole::body, 12, QFont::Normal, Ink::text, atTop, true},
+    {TextRole::sliderName, 12, QFont::Normal, Ink::text},
+    {TextRole::sliderValue, 12, QFont::Normal, Ink::text, atRight},
+    {TextRole::value, 12, QFont::Medium, Ink::text},
+    {TextRole::number, 12, QFont::Medium, Ink::text, atRight},
+    {TextRole::total, 12, QFont::Bold, Ink::text, atRight},
+    {TextRole::longHelp, 11, QFont::Normal, Ink::text, atTop, true},
+    {TextRole::remark, 11, QFont::Normal, Ink::text, atRight},
+    {TextRole::fieldCaption, 11, QFont::Medium, Ink::text},
+    {TextRole::sectionHeading, 11, QFont::Bold, Ink::text},
+    {TextRole::listHead, 11, QFont::Bold, Ink::text},
+    {TextRole::darkTitle, 13, QFont::Medium, Ink::bright},
+    {TextRole::darkBody, 12, QFont::Normal, Ink::quiet, atTop, true},
+    {TextRole::darkCaption, 12, QFont::Medium, Ink::bright},
+    {TextRole::darkRemark, 11, QFont::Normal, Ink::quiet, atRight},
+    {TextRole::progressText, 12, QFont::Normal, Ink::bright, Qt::AlignLeft | Qt::AlignBottom, true},
+    {TextRole::valueTip, 12, QFont::Medium, Ink::bright, Qt::AlignCenter},
 };
 
 const RoleStyle& styleOf(TextRole role) {
@@ -72,25 +72,41 @@ QLabel* makeLabel(QWidget* parent, const QString& text, const QRect& place, Text
     label->setAlignment(style.alignment);
     label->setWordWrap(style.wraps);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    setTextColour(*label, style.colour);
+    setInk(*label, style.ink);
     label->setText(text);
     label->setGeometry(place);
     return label;
 }
 
+QWidget* makeRule(QWidget* parent, const QRect& place) {
+    QWidget* rule = makeHair(parent, place);
+    rule->setBackgroundRole(QPalette::Dark);
+    return rule;
+}
+
 QWidget* makeHair(QWidget* parent, const QRect& place) {
     auto* hair = new QWidget(parent);
-    QPalette colours;
-    colours.setColor(QPalette::Window, QColor::fromRgb(palette::hair));
-    hair->setPalette(colours);
+    hair->setBackgroundRole(QPalette::Midlight);
     hair->setAutoFillBackground(true);
     hair->setGeometry(place);
     return hair;
 }
 
-void setTextColour(QLabel& label, QRgb colour) {
+void setInk(QLabel& label, Ink ink) {
+    switch (ink) {
+    case Ink::text:
+        return label.setForegroundRole(QPalette::WindowText);
+    case Ink::signalRed:
+        return label.setForegroundRole(QPalette::BrightText);
+    case Ink::quietTitle:
+        return label.setForegroundRole(QPalette::LinkVisited);
+    case Ink::bright:
+    case Ink::quiet:
+        break;
+    }
     QPalette colours = label.palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(colour));
+    colours.setColor(QPalette::WindowText,
+                     QColor::fromRgb(ink == Ink::bright ? palette::textBright : palette::textQuiet));
     label.setPalette(colours);
 }
 

@@ -2,7 +2,6 @@
 
 #include <QFont>
 #include <QRect>
-#include <QRgb>
 #include <QString>
 
 class QLabel;
@@ -34,13 +33,18 @@ enum class TextRole {
     valueTip,
 };
 
+/// The colours of text: three on paper, two on bezel and deck.
+enum class Ink { text, signalRed, quietTitle, bright, quiet };
+
 QFont fontOf(TextRole role);
 /// A label of that role in that place (logical pixels of the parent). The text is shown as it reads, never as
 /// mark-up, and lets the mouse through.
 QLabel* makeLabel(QWidget* parent, const QString& text, const QRect& place, TextRole role);
 /// A fine line that parts one field of a page from the next.
 QWidget* makeHair(QWidget* parent, const QRect& place);
-/// Paints the label's text in that colour, whatever its role says.
-void setTextColour(QLabel& label, QRgb colour);
+/// The stronger line below a heading.
+QWidget* makeRule(QWidget* parent, const QRect& place);
+/// Paints the label's text in that ink, whatever its role says. Those of the paper follow the palette.
+void setInk(QLabel& label, Ink ink);
 
 } // namespace morvane

@@ -5,9 +5,9 @@
 
 namespace morvane {
 
-OptionPicture::OptionPicture(QAbstractButton& option, const QPixmap& picture, const QRect& place)
-    : QLabel(option.parentWidget()), option_(option) {
-    setPixmap(picture);
+OptionPicture::OptionPicture(QAbstractButton& option, Skin& skin, const QString& picture, const QRect& place)
+    : SkinSign(skin, option.parentWidget()), option_(option) {
+    showSign(picture);
     setGeometry(place);
     setAccessibleName(option.accessibleName());
 }

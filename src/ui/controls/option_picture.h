@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include "ui/controls/skin_sign.h"
 
 class QAbstractButton;
 
@@ -8,11 +8,11 @@ namespace morvane {
 
 /// The picture of an option, such as the disc of a cloud cover. A click on it is a click on the option, which
 /// is all that it says to those who cannot see it.
-class OptionPicture : public QLabel {
+class OptionPicture : public SkinSign {
     Q_OBJECT
 public:
-    /// Lies on the option's parent, at `place` of that.
-    OptionPicture(QAbstractButton& option, const QPixmap& picture, const QRect& place);
+    /// `picture` is a file below "\\Media". Lies on the option's parent, at `place` of that.
+    OptionPicture(QAbstractButton& option, Skin& skin, const QString& picture, const QRect& place);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

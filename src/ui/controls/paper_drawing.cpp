@@ -49,7 +49,7 @@ bool has(const QStyleOption& option, QStyle::StateFlag flag) {
 }
 
 QRgb markOf(const QStyleOption& option) {
-    return has(option, QStyle::State_Enabled) ? palette::textBlue : palette::markLine;
+    return has(option, QStyle::State_Enabled) ? palette::now(paper::text) : palette::now(paper::markLine);
 }
 
 /// A button's ring is for those who go by keys: it shows once Tab was pressed in the window.
@@ -59,7 +59,7 @@ bool showsFocus(const QStyleOption& option) {
 
 PaperBox markBox(const QStyleOption& option, QRgb ground, double radius) {
     const bool isLit = has(option, QStyle::State_MouseOver) || showsFocus(option);
-    return {ground, ground, isLit ? palette::accentOnPaper : palette::markLine, radius};
+    return {ground, ground, isLit ? palette::now(paper::accent) : palette::now(paper::markLine), radius};
 }
 
 } // namespace
@@ -74,19 +74,21 @@ void drawPaperBox(QPainter& painter, const QRect& place, const PaperBox& box) {
 
 void drawFocusRing(QPainter& painter, const QRect& place, double radius) {
     const Smooth smooth(painter);
-    painter.setPen(QPen(QColor::fromRgb(palette::accentOnPaper), 2));
+    painter.setPen(QPen(QColor::fromRgb(palette::now(paper::accent)), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(borderOf(place, .5), radius - 1, radius - 1);
 }
 
 void drawPlainButton(QPainter& painter, const QStyleOption& option) {
     constexpr double radius = 4;
+    const bool isDead = !has(option, QStyle::State_Enabled);
     const bool isPressed = has(option, QStyle::State_Sunken);
-    const bool isHovered = has(option, QStyle::State_MouseOver) && has(option, QStyle::State_Enabled);
+    const bool isHovered = has(option, QStyle::State_MouseOver) && !isDead;
+    const PaperColour& top = isDead ? paper::buttonDead : isPressed ? paper::buttonFoot : paper::buttonTop;
+    const PaperColour& foot = isDead ? paper::buttonDead : isPressed ? paper::buttonTop : paper::buttonFoot;
     drawPaperBox(painter, option.rect,
-                 {isPressed ? palette::buttonFoot : palette::field,
-                  isPressed ? palette::field : palette::buttonFoot,
-                  isHovered ? palette::accentOnPaper : palette::fieldLine, radius});
+                 {palette::now(top), palette::now(foot),
+                  palette::now(isHovered ? paper::accent : paper::fieldLine), radius});
     if (showsFocus(option)) drawFocusRing(painter, option.rect, radius);
 }
 
@@ -98,24 +100,25 @@ void drawDarkButton(QPainter& painter, const QStyleOption& option) {
     else if (has(option, QStyle::State_Sunken))
         box = {palette::keyPressedTop, palette::keyPressedFoot, palette::line, radius};
     else if (has(option, QStyle::State_MouseOver))
-        box = {palette::keyHoverTop, palette::keyHoverFoot, palette::accentOnPaper, radius};
+        box = {palette::keyHoverTop, palette::keyHoverFoot, palette::keyHoverLine, radius};
     drawPaperBox(painter, option.rect, box);
     const QRect inner = option.rect.adjusted(4, 1, -4, -1);
-    drawLine(painter, {inner.left(), inner.top(), inner.width(), 1}, qRgba(255, 255, 255, 41));
-    drawLine(painter, {inner.left(), inner.bottom(), inner.width(), 1}, qRgba(0, 0, 0, 56));
+    drawLine(painter, {inner.left(), inner.top(), inner.width(), 1}, palette::keyLight);
+    drawLine(painter, {inner.left(), inner.bottom(), inner.width(), 1}, palette::keyShade);
     if (showsFocus(option)) drawFocusRing(painter, option.rect, radius);
 }
 
 void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool isSet = has(option, QStyle::State_On);
     const QRect& place = option.rect;
-    PaperBox box = markBox(option, isSet ? markOf(option) : palette::field, 3);
+    PaperBox box = markBox(option, isSet ? markOf(option) : palette::now(paper::field), 3);
     if (isSet) box.border = markOf(option);
     drawPaperBox(painter, place, box);
     if (showsFocus(option)) drawFocusRing(painter, place, 3);
     if (!isSet) return;
     const Smooth smooth(painter);
-    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(QColor::fromRgb(palette::now(paper::tick)), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF corner = place.topLeft();
     painter.drawPolyline(
         QPolygonF({corner + QPointF(4, 7.8), corner + QPointF(6.5, 10.3), corner + QPointF(11, 5)}));
@@ -123,7 +126,7 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
 
 void drawOptionBox(QPainter& painter, const QStyleOption& option) {
     const double round = option.rect.width() / 2.0;
-    drawPaperBox(painter, option.rect, markBox(option, palette::field, round));
+    drawPaperBox(painter, option.rect, markBox(option, palette::now(paper::field), round));
     if (showsFocus(option)) drawFocusRing(painter, option.rect, round);
     if (!has(option, QStyle::State_On)) return;
     const Smooth smooth(painter);
@@ -135,8 +138,11 @@ void drawOptionBox(QPainter& painter, const QStyleOption& option) {
 void drawField(QPainter& painter, const QStyleOption& option) {
     constexpr double radius = 3;
     const QRect& place = option.rect;
-    drawPaperBox(painter, place, {palette::field, palette::field, palette::fieldLine, radius});
-    drawLine(painter, {place.left() + 2, place.top() + 1, place.width() - 4, 1}, palette::fieldShade);
+    drawPaperBox(
+        painter, place,
+        {palette::now(paper::field), palette::now(paper::field), palette::now(paper::fieldLine), radius});
+    drawLine(painter, {place.left() + 2, place.top() + 1, place.width() - 4, 1},
+             palette::now(paper::fieldShade));
     if (has(option, QStyle::State_HasFocus)) drawFocusRing(painter, place, radius);
 }
 
@@ -149,34 +155,35 @@ void drawChoiceBox(QPainter& painter, const QStyleOption& option) {
 }
 
 void drawListHead(QPainter& painter, const QRect& place, bool hasGap) {
-    painter.fillRect(place, shadeFrom(place, palette::listHeadTop, palette::listHeadFoot));
-    drawLine(painter, {place.left(), place.bottom(), place.width(), 1}, palette::rule);
+    painter.fillRect(place, shadeFrom(place, palette::now(paper::headTop), palette::now(paper::headFoot)));
+    drawLine(painter, {place.left(), place.bottom(), place.width(), 1}, palette::now(paper::rule));
     if (hasGap)
-        drawLine(painter, {place.right(), place.top() + 4, 1, place.height() - 8}, palette::listHeadGap);
+        drawLine(painter, {place.right(), place.top() + 4, 1, place.height() - 8},
+                 palette::now(paper::headGap));
 }
 
 void drawRowCell(QPainter& painter, const QStyleOptionViewItem& option) {
     const QRect& place = option.rect;
     const bool isSelected = has(option, QStyle::State_Selected);
-    if (isSelected) painter.fillRect(place, QColor::fromRgb(palette::selectedRow));
-    drawLine(painter, {place.left(), place.bottom(), place.width(), 1}, palette::rowLine);
+    if (isSelected) painter.fillRect(place, QColor::fromRgb(palette::now(paper::selectedRow)));
+    drawLine(painter, {place.left(), place.bottom(), place.width(), 1}, palette::now(paper::rowLine));
     const bool isFirst = option.viewItemPosition == QStyleOptionViewItem::Beginning ||
                          option.viewItemPosition == QStyleOptionViewItem::OnlyOne;
     if (isSelected && isFirst)
-        drawLine(painter, {place.left(), place.top(), 2, place.height()}, palette::accentOnPaper);
+        drawLine(painter, {place.left(), place.top(), 2, place.height()}, palette::now(paper::accent));
 }
 
 void drawScrollBar(QPainter& painter, const QRect& place, const QRect& handle, Qt::Orientation orientation) {
     constexpr int handleInset = 3; // leaves 7 of the bar's 12 beside the hair
     const bool isUpright = orientation == Qt::Vertical;
-    painter.fillRect(place, QColor::fromRgb(palette::scrollGround));
+    painter.fillRect(place, QColor::fromRgb(palette::now(paper::scrollGround)));
     drawLine(painter,
              isUpright ? QRect(place.left(), place.top(), 1, place.height())
                        : QRect(place.left(), place.top(), place.width(), 1),
-             palette::hair);
+             palette::now(paper::hair));
     const Smooth smooth(painter);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgb(palette::scrollHandle));
+    painter.setBrush(QColor::fromRgb(palette::now(paper::scrollHandle)));
     const QRect bar =
         isUpright ? handle.adjusted(handleInset, 3, -2, -3) : handle.adjusted(3, handleInset, -3, -2);
     painter.drawRoundedRect(bar, 3.5, 3.5);
@@ -197,7 +204,7 @@ void drawProgress(QPainter& painter, const QRect& place, double fraction) {
     shape.addRoundedRect({full.topLeft(), QSizeF(std::max(length, full.height()), full.height())}, round,
                          round);
     painter.setClipRect(QRectF(place.topLeft(), QSizeF(inset + length + inset, place.height())));
-    painter.setPen(QPen(QColor::fromRgba(qRgba(76, 196, 242, 70)), 2));
+    painter.setPen(QPen(QColor::fromRgba(palette::glow), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(shape);
     painter.setClipRect(QRectF(full.topLeft(), QSizeF(length, full.height())));

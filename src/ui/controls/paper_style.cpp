@@ -20,7 +20,7 @@ namespace {
 
 constexpr int headMargin = 6, mostRowsOfChoice = 14;
 constexpr int boxSize = 15, tipDelay = 250, tipTime = 10'000, shortestHandle = 24;
-constexpr char onDarkName[] = "onDark", captionOffsetName[] = "captionOffset";
+constexpr char onDarkName[] = "onDark", captionOffsetName[] = "captionOffset", aliveName[] = "captionIsAlive";
 
 bool isOnDark(const QWidget* widget) {
     return widget && widget->property(onDarkName).toBool();
@@ -43,22 +43,6 @@ QRect cellBoxPlace(const QRect& cell) {
 bool hasFeature(const QStyleOption* option, QStyleOptionViewItem::ViewItemFeature feature) {
     const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
     return item && item->features.testFlag(feature);
-}
-
-QPalette paperPalette() {
-    const QColor blue = QColor::fromRgb(palette::textBlue), off = QColor::fromRgb(palette::markLine);
-    QPalette colours(blue, QColor::fromRgb(palette::paperFoot), Qt::white, QColor::fromRgb(palette::rule),
-                     QColor::fromRgb(palette::fieldLine), blue, blue, QColor::fromRgb(palette::field),
-                     QColor::fromRgb(palette::paperTop));
-    colours.setColor(QPalette::Highlight, QColor::fromRgb(palette::selectedRow));
-    colours.setColor(QPalette::HighlightedText, blue);
-    colours.setColor(QPalette::PlaceholderText, off);
-    colours.setColor(QPalette::ToolTipBase, QColor::fromRgb(palette::tipGround));
-    colours.setColor(QPalette::ToolTipText, QColor::fromRgb(palette::tipText));
-    for (const auto role :
-         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::HighlightedText})
-        colours.setColor(QPalette::Disabled, role, off);
-    return colours;
 }
 
 /// A scroll bar has no arrow keys at its ends: the groove takes its whole length.
@@ -93,7 +77,7 @@ QRect scrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
 PaperStyle::PaperStyle() : QProxyStyle(u"Fusion"_s) {}
 
 QPalette PaperStyle::standardPalette() const {
-    return paperPalette();
+    return palette::ofWidgets();
 }
 
 void PaperStyle::polish(QWidget* widget) {
@@ -195,7 +179,8 @@ void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         return drawRowCell(*painter, *qstyleoption_cast<const QStyleOptionViewItem*>(option));
     case PE_PanelTipLabel:
         return drawPaperBox(*painter, option->rect,
-                            {palette::tipGround, palette::tipGround, palette::fieldLine, 0});
+                            {palette::now(paper::tipGround), palette::now(paper::tipGround),
+                             palette::now(paper::fieldLine), 0});
     case PE_PanelItemViewRow: // the cells draw their own ground
     case PE_FrameFocusRect:   // each control shows the focus by its own border
     case PE_PanelStatusBar:
@@ -218,6 +203,14 @@ void PaperStyle::drawControl(ControlElement element, const QStyleOption* option,
         // The margin that was taken off all round is for the sides; above and below it would cut the letters.
         QStyleOptionHeader label(*qstyleoption_cast<const QStyleOptionHeader*>(option));
         label.rect.adjust(0, -headMargin, headMargin - 2, headMargin);
+        return QProxyStyle::drawControl(element, &label, painter, widget);
+    }
+    case CE_CheckBoxLabel: {
+        QStyleOptionButton label(*qstyleoption_cast<const QStyleOptionButton*>(option));
+        if (widget && widget->property(aliveName).toBool()) {
+            label.state |= State_Enabled;
+            label.palette.setCurrentColorGroup(QPalette::Active);
+        }
         return QProxyStyle::drawControl(element, &label, painter, widget);
     }
     case CE_HeaderEmptyArea:
@@ -243,11 +236,10 @@ void PaperStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 
 void applyPaperStyle() {
     QApplication::setStyle(new PaperStyle);
-    QApplication::setPalette(paperPalette());
+    palette::use(palette::inUse());
     QApplication::setFont(fontOf(TextRole::body));
     QApplication::setFont(fontOf(TextRole::value), "QPushButton");
     QApplication::setFont(fontOf(TextRole::listHead), "QHeaderView");
-    QToolTip::setPalette(paperPalette());
     QToolTip::setFont(fontOf(TextRole::body));
 }
 
@@ -259,6 +251,10 @@ void setOnDark(QAbstractButton& button) {
         colours.setColor(QPalette::Disabled, role, QColor::fromRgb(palette::textOff));
     }
     button.setPalette(colours);
+}
+
+void keepCaptionAlive(QAbstractButton& button) {
+    button.setProperty(aliveName, true);
 }
 
 void setCaptionOffset(QAbstractButton& button, int offset) {

@@ -40,5 +40,7 @@ void setOnDark(QAbstractButton& button);
 /// Where the caption of a check or option box starts, in logical pixels from the box's left edge, where that
 /// is not the style's own 23 or 21.
 void setCaptionOffset(QAbstractButton& button, int offset);
+/// A check box that is dead shows its caption as if it were not.
+void keepCaptionAlive(QAbstractButton& button);
 
 } // namespace morvane

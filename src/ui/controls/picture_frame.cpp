@@ -16,7 +16,7 @@ constexpr int margin = 6; // a line, a white line and a shadow of four
 /// Four rings, fainter outward, one pixel lower than the picture.
 void paintShadow(QPainter& painter, const QRect& place) {
     constexpr int reach = 4;
-    QColor shade = QColor::fromRgba(palette::pictureShade);
+    QColor shade = QColor::fromRgba(palette::now(paper::pictureShade));
     const double most = shade.alphaF() / reach;
     painter.setPen(Qt::NoPen);
     for (int ring = 1; ring <= reach; ++ring) {
@@ -69,10 +69,11 @@ void PictureFrame::paintFrame(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing);
     paintShadow(painter, place.adjusted(-1, -1, 1, 1));
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(place.adjusted(-2, -2, 2, 2), Qt::white);
+    painter.fillRect(place.adjusted(-2, -2, 2, 2), QColor::fromRgb(palette::now(paper::pictureEdge)));
     const bool isInHand = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
-    painter.fillRect(place.adjusted(-1, -1, 1, 1),
-                     QColor::fromRgb(isInHand ? palette::accentOnPaper : palette::pictureLine));
+    painter.fillRect(
+        place.adjusted(-1, -1, 1, 1),
+        QColor::fromRgb(isInHand ? palette::now(paper::accent) : palette::now(paper::pictureLine)));
 }
 
 void PictureFrame::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -97,7 +98,7 @@ void PictureFrame::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     if (!place.contains(event->rect())) paintFrame(painter);
     if (picture_.isNull())
-        painter.fillRect(place, QColor::fromRgb(palette::paperFoot));
+        painter.fillRect(place, QColor::fromRgb(palette::now(paper::foot)));
     else
         painter.drawImage(place.topLeft(), sizedPicture());
 }

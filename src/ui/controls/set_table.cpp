@@ -18,6 +18,11 @@ constexpr int keyRole = Qt::UserRole, colourRole = Qt::UserRole + 1;
 /// Sorts without regard to case, as a reader expects of names.
 class Row : public QTreeWidgetItem {
 public:
+    /// Asked for at each painting, as it goes by the palette.
+    QVariant data(int column, int role) const override {
+        if (role != Qt::ForegroundRole) return QTreeWidgetItem::data(column, role);
+        return QColor::fromRgb(paintedColour(QTreeWidgetItem::data(0, colourRole).toUInt()));
+    }
     bool operator<(const QTreeWidgetItem& other) const override {
         const int column = treeWidget() ? treeWidget()->sortColumn() : 0;
         return text(column).compare(other.text(column), Qt::CaseInsensitive) < 0;
@@ -42,8 +47,8 @@ bool isListKey(const QKeyEvent& event) {
 } // namespace
 
 QRgb paintedColour(QRgb stored) {
-    if (stored == qRgb(255, 0, 0)) return palette::signalRed;
-    if (stored == qRgb(0, 0, 255)) return palette::textBlue;
+    if (stored == qRgb(255, 0, 0)) return palette::now(paper::signalRed);
+    if (stored == qRgb(0, 0, 255) || stored == paper::text.day) return palette::now(paper::text);
     return stored;
 }
 
@@ -83,11 +88,9 @@ void SetTable::addRow(const SetRow& row) {
     item->setData(0, keyRole, row.key);
     item->setData(0, colourRole, row.colour);
     if (hasCheckBoxes_) item->setCheckState(0, row.isChecked ? Qt::Checked : Qt::Unchecked);
-    const QColor colour = QColor::fromRgb(paintedColour(row.colour));
     for (int column = 0; column < columnCount(); ++column) {
         item->setText(column, row.texts.value(column));
         item->setToolTip(column, row.tips.value(column));
-        item->setForeground(column, colour);
     }
     addTopLevelItem(item);
 }
@@ -110,7 +113,7 @@ int SetTable::rowOf(const QString& name) const {
 
 QRgb SetTable::storedColour(int row) const {
     const QTreeWidgetItem* item = topLevelItem(row - 1);
-    return item ? item->data(0, colourRole).toUInt() : palette::textBlue;
+    return item ? item->data(0, colourRole).toUInt() : paper::text.day;
 }
 
 void SetTable::selectRow(int row) {

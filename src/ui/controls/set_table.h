@@ -17,14 +17,15 @@ struct SetColumn {
 struct SetRow {
     QString key;
     QStringList texts, tips;
-    QRgb colour = palette::textBlue; ///< as it is stored; see `paintedColour`
-    bool isChecked = false;          ///< where the list has check boxes
+    QRgb colour = paper::text.day; ///< as it is stored; see `paintedColour`
+    bool isChecked = false;        ///< where the list has check boxes
 
     bool operator==(const SetRow&) const = default;
 };
 
 /// The colour in which a stored one is painted. The pure red of an installed set and the pure blue of the sky
-/// list have too little contrast on white; they stay as stored and are shown as signal red and text blue.
+/// list have too little contrast on a field; they stay as stored and are shown as signal red and as text,
+/// which is what the usual colour of a row is shown as, too.
 QRgb paintedColour(QRgb stored);
 
 /// The list of texture sets: several rows can be selected, a click on a head sorts by that column.

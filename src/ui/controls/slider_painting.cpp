@@ -27,11 +27,11 @@ void paintRailBody(QPainter& painter, const SliderLook& look) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgb(palette::rail));
+    painter.setBrush(QColor::fromRgb(palette::now(paper::rail)));
     painter.drawRoundedRect(QRectF(0, top, length, railThickness), 2, 2);
     painter.restore();
-    fill(painter, {1, top, length - 2, 1}, palette::railShade);
-    fill(painter, {1, top + railThickness - 1, length - 2, 1}, palette::rail);
+    fill(painter, {1, top, length - 2, 1}, palette::now(paper::railTop));
+    fill(painter, {1, top + railThickness - 1, length - 2, 1}, palette::now(paper::rail));
 }
 
 } // namespace
@@ -41,9 +41,9 @@ void paintSliderRail(QPainter& painter, const SliderLook& look) {
     const double middle = look.control.width() / 2, thumb = look.thumb.center().x(), top = railTop(look);
     const double low = std::min(middle, thumb), high = std::max(middle, thumb);
     fill(painter, {low, top, high - low, railThickness},
-         look.isEnabled ? palette::accentOnPaper : palette::railShade);
+         look.isEnabled ? palette::now(paper::accent) : palette::now(paper::railTop));
     for (double across : {top - tickGap - tickLength, top + railThickness + tickGap})
-        fill(painter, {std::floor(middle), across, 1, tickLength}, palette::markLine);
+        fill(painter, {std::floor(middle), across, 1, tickLength}, palette::now(paper::markLine));
 }
 
 void paintSliderThumb(QPainter& painter, const SliderLook& look) {
@@ -57,13 +57,13 @@ void paintSliderThumb(QPainter& painter, const SliderLook& look) {
     painter.setBrush(ground);
     painter.drawRoundedRect(thumb.adjusted(.5, .5, -.5, -.5), 2.5, 2.5);
     if (look.hasFocus) {
-        painter.setPen(QColor::fromRgb(palette::accentOnPaper));
+        painter.setPen(QColor::fromRgb(palette::now(paper::accent)));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(thumb.adjusted(-.5, -.5, .5, .5), 3.5, 3.5);
     }
     painter.restore();
     painter.fillRect(QRectF(thumb.left() + 2, thumb.top() + 1, thumb.width() - 4, 1),
-                     QColor(255, 255, 255, 64));
+                     QColor::fromRgba(palette::thumbLight));
     const QPointF centre = thumb.center();
     constexpr QSizeF index(1, indexLength);
     fill(painter, QRectF(centre - QPointF(index.width(), index.height()) / 2, index),

@@ -37,16 +37,16 @@ void StepMark::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool isPale = sign_ == Sign::empty || sign_ == Sign::share;
-    painter.setPen(penOf(!isPale                ? palette::textBlue
-                         : sign_ == Sign::share ? palette::rule
-                                                : palette::markLine));
+    painter.setPen(penOf(!isPale                ? palette::now(paper::text)
+                         : sign_ == Sign::share ? palette::now(paper::rule)
+                                                : palette::now(paper::markLine)));
     if (sign_ == Sign::warning) return drawWarning(painter);
     painter.drawEllipse(ring);
     if (sign_ == Sign::tick) painter.drawPolyline(QPolygonF{{6.4, 10.2}, {9, 12.8}, {13.8, 7.4}});
     if (sign_ == Sign::line) painter.drawLine(QPointF(6.5, 10), QPointF(13.5, 10));
     if (sign_ != Sign::share) return;
     constexpr int top = 90 * 16, wholeTurn = 360 * 16;
-    painter.setPen(penOf(palette::accentOnPaper, 2.2));
+    painter.setPen(penOf(palette::now(paper::accent), 2.2));
     painter.drawArc(ring, top, -static_cast<int>(wholeTurn * percent_ / 100));
 }
 

@@ -48,7 +48,7 @@ void frm_FromDepDestVal::prepare() {
         session().state<CoverChoice>().cloudClass = average;
         average_.showCover(average);
     } else {
-        average_.showText(u"No Airport data entered for processing"_s, palette::signalRed);
+        average_.showText(u"No Airport data entered for processing"_s, Ink::signalRed);
     }
     allowOk(average > 0);
 }

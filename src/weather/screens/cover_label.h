@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ui/controls/labels.h"
+#include "ui/controls/skin_sign.h"
+
 #include <QLabel>
 
 namespace morvane {
@@ -19,13 +22,13 @@ public:
 
     /// Shows a class above 0.
     void showCover(int cloudClass);
-    /// Words without a picture, in that colour.
-    void showText(const QString& text, QRgb colour);
+    /// Words without a picture, in that ink.
+    void showText(const QString& text, Ink ink);
     void clear();
 
 private:
-    Form& form_;
-    QLabel *picture_, *text_;
+    SkinSign* picture_;
+    QLabel* text_;
 };
 
 } // namespace morvane

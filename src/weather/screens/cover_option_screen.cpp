@@ -34,7 +34,7 @@ frm_CC_From_Option::frm_CC_From_Option(Shell& shell)
         option->setAccessibleName(caption);
         option->setFont(fontOf(TextRole::body));
         option->setGeometry(placeOf(index).x() + CoverLabel::side + 10, placeOf(index).y() + 10, 110, 24);
-        new OptionPicture(*option, skin().picture(coverOfClass(index + 1).picture),
+        new OptionPicture(*option, skin(), coverOfClass(index + 1).picture,
                           {placeOf(index), QSize(CoverLabel::side, CoverLabel::side)});
         optCloudCover_->addButton(option, index++);
     }

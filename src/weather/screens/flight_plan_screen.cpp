@@ -18,7 +18,7 @@ namespace morvane {
 namespace {
 
 constexpr QRect plansPlace{26, 106, 178, 308}, waypointsPlace{218, 168, 456, 196};
-constexpr int planLeft = 218, cloudColumn = 5;
+constexpr int planLeft = 218, cloudColumn = 5, discRole = Qt::UserRole + 2;
 
 /// The small pictures of the classes 1 to 5.
 QString iconFile(std::int16_t icon) {
@@ -169,8 +169,20 @@ void frm_FlightPlan::addWaypoint(const Waypoint& waypoint) {
                             waypoint.airway};
     lvwFlightPlan_->addRow({waypoint.name, texts, texts + QStringList{cloud}});
     QTreeWidgetItem* item = lvwFlightPlan_->topLevelItem(lvwFlightPlan_->rowCount() - 1);
-    item->setIcon(cloudColumn, skin().picture(iconFile(icon)));
+    item->setData(cloudColumn, discRole, iconFile(icon));
+    showDisc(*item);
     item->setData(cloudColumn, Qt::AccessibleTextRole, cloud);
+}
+
+void frm_FlightPlan::showDisc(QTreeWidgetItem& waypoint) {
+    waypoint.setIcon(cloudColumn, skin().sign(waypoint.data(cloudColumn, discRole).toString()));
+}
+
+void frm_FlightPlan::changeEvent(QEvent* event) {
+    CoverDialog::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    for (int row = 0; row < lvwFlightPlan_->rowCount(); ++row)
+        showDisc(*lvwFlightPlan_->topLevelItem(row));
 }
 
 void frm_FlightPlan::ok() {

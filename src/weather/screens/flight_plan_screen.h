@@ -4,6 +4,8 @@
 #include "weather/screens/cover_dialog.h"
 #include "weather/screens/cover_label.h"
 
+class QTreeWidgetItem;
+
 namespace morvane {
 
 class SetTable;
@@ -22,6 +24,7 @@ public:
 
 protected:
     void prepare() override;
+    void changeEvent(QEvent* event) override;
     /// Enter on a plan opens it; on the one that is open it says OK.
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -36,6 +39,7 @@ private:
     void readFlightPlan(const QString& name);
     void processFlightPlan(const FlightPlan& plan);
     void addWaypoint(const Waypoint& waypoint);
+    void showDisc(QTreeWidgetItem& waypoint);
 
     FilePath folder_;
     QString openPlan_; ///< the name of the plan that is shown; empty for none

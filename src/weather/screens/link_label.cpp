@@ -18,7 +18,7 @@ void LinkLabel::paintEvent(QPaintEvent*) {
     QFont font = this->font();
     font.setUnderline(isEnabled() && underMouse());
     painter.setFont(font);
-    painter.setPen(QColor::fromRgb(palette::textBlue));
+    painter.setPen(QColor::fromRgb(palette::now(paper::text)));
     painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, text());
     constexpr double radius = 3;
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))

@@ -35,7 +35,7 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
     case icaoRole:
         return finder.WxFinderIcao;
     case Qt::ForegroundRole:
-        return QColor::fromRgb(palette::textBlue);
+        return QColor::fromRgb(palette::now(paper::text));
     default:
         return {};
     }

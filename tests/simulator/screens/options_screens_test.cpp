@@ -3,13 +3,18 @@
 #include "sets/options_in_force.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_restore.h"
+#include "simulator/screens/palette_keeper.h"
 #include "support/window_program.h"
+#include "ui/controls/palette.h"
 #include "ui/controls/set_table.h"
+#include "weather/weather_rows.h"
+#include "weather/weather_state.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace morvane::test {
 namespace {
@@ -124,6 +129,45 @@ TEST_F(OptionsScreens, theWeathersSourcesAreArranged) {
         EXPECT_EQ(list.selectedNames(), QStringList{u"noaa"_s});
         dialog.cancel();
     });
+}
+
+TEST_F(OptionsScreens, thePaletteIsInUseAsSoonAsItIsChosen) {
+    addAirports(session, {{u"NZAA"_s, u"Auckland"_s, {}, {}, {}, u"-37.008"_s, u"174.792"_s}});
+    auto& weather = session.state<WeatherState>();
+    const QDateTime noon(QDate(2026, 6, 21), QTime(12, 0), Qt::UTC);
+    const struct {
+        QString option, word, departure, destination;
+        int hours; ///< behind noon in Greenwich
+        PaperPalette palette;
+    } cases[] = {
+        {u"Night"_s, u"night"_s, {}, {}, 0, PaperPalette::night},
+        {u"Day"_s, u"day"_s, {}, {}, 12, PaperPalette::day},
+        {u"Clock"_s, u"clock"_s, {}, {}, 12, PaperPalette::night},
+        {u"Clock"_s, u"clock"_s, {}, {}, 0, PaperPalette::day},
+        {u"Clock"_s, u"clock"_s, u"NZAA"_s, {}, 12, PaperPalette::day},
+        {u"Clock"_s, u"clock"_s, {}, u"NZAA"_s, 0, PaperPalette::night},
+        {u"Clock"_s, u"clock"_s, u"XXXX"_s, u"NZAA"_s, 0, PaperPalette::day},
+    };
+    program.show(Screen::frm_MoreSettings, [&](DialogForm& dialog) {
+        EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"optPaletteDay"_s)->isChecked()) << "the usual";
+        for (const auto& [option, word, departure, destination, hours, wanted] : cases) {
+            weather.DepIcao = departure;
+            weather.DestIcao = destination;
+            program.install.clock.now = noon.addSecs(3600 * hours);
+            dialog.findChild<QRadioButton*>(u"optPalette"_s + option)->click();
+            EXPECT_EQ(ownValue(session.registry, u"Palette"_s), word);
+            EXPECT_EQ(palette::inUse(), wanted) << option.toStdString() << hours;
+        }
+        dialog.cancel();
+    });
+    program.install.clock.now = noon;
+    weather.DestIcao.clear();
+    usePaletteNow(session);
+    EXPECT_EQ(palette::inUse(), PaperPalette::day) << "the sun rises";
+    storeOwnValue(session.registry, u"Palette"_s, u"dusk"_s);
+    program.install.clock.now = noon.addSecs(12 * 3600);
+    usePaletteNow(session);
+    EXPECT_EQ(palette::inUse(), PaperPalette::day) << "a word that is none";
 }
 
 TEST_F(OptionsScreens, aBackupIsChosenBeforeOkAndAPartialOneIsMarked) {
