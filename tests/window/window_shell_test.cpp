@@ -271,7 +271,7 @@ struct MessageScreenTest : testing::Test {
 };
 
 TEST_F(MessageScreenTest, asksBeforeItCancelsAndOnlyWhereThatIsOffered) {
-    Job job(program.session);
+    Job job(program.session, u"work"_s);
     program.user.showMessage(progress);
     answerBox(QMessageBox::Cancel);
     control<QPushButton>(u"cmdCancel"_s).click();
