@@ -1,5 +1,6 @@
 #include "app/logged_run.h"
 
+#include "app/delivered_texts.h"
 #include "core/private_texts.h"
 #include "core/program_log.h"
 #include "core/registry.h"
@@ -70,7 +71,7 @@ LoggedRun::LoggedRun(Session& session, const QString& program, const QString& wh
     log.open({session.files, session.clock, session.AppPath, program},
              [&session](const QString& text) { return withoutPrivate(session, text); });
     session.user.setListener(&log);
-    log.note(u"Begin"_s, QStringLiteral(MORVANE_VERSION) + u", "_s + QSysInfo::prettyProductName() +
+    log.note(u"Begin"_s, programVersion() + u", "_s + QSysInfo::prettyProductName() +
                              (what.isEmpty() ? QString() : u": "_s + what));
 }
 

@@ -75,7 +75,7 @@ const std::vector<Command>& commandTable() {
         for (const auto commandsOfSubject :
              {cycleCommands, airportCommands, routeCommands, groundCommands, skyCommands, nightCommands,
               flightCommands, optionCommands, originalsCommands, stockCommands, spaceCommands, configCommands,
-              pictureCommands, sheetCommands, readyCommands})
+              pictureCommands, sheetCommands, readyCommands, reportCommands})
             for (const Command& command : commandsOfSubject())
                 add(command, all);
         return all;
