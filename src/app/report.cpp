@@ -28,6 +28,7 @@ QByteArray contentsOf(Session& session, const ReportPart& part) {
     try {
         return part.text(session).toUtf8();
     } catch (const Error& error) {
+        if (error.code() == ErrorCode::interrupted) throw;
         return u"This part could not be had: %1\n"_s.arg(withoutPrivate(session, error.description()))
             .toUtf8();
     }
@@ -55,9 +56,13 @@ Reported saveReport(Session& session, const FilePath& file) {
     bool isWritten = false;
     const bool cameToItsEnd = reportFailures(session.user, morvaneError, [&] {
         if (!mayWrite(session, file)) return;
+        session.user.showMessage({MessageKind::progress, u"Save a Report"_s,
+                                  u"Morvane is gathering the report.  Please wait......."_s, false, false,
+                                  true});
         session.files.write(file, zipOf(entriesOf(session), session.clock.utcTime()));
         isWritten = true;
     });
+    session.user.hideMessage();
     if (isWritten) session.user.tellDone({u"The report is saved"_s, file.text()});
     return cameToItsEnd && isWritten;
 }

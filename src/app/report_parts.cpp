@@ -152,7 +152,7 @@ QString rowsText(Session& session) {
 }
 
 QString verifyText(Session& session) {
-    SimulatorCheck check = checkSimulator(session, CheckDepth::changedFiles, false);
+    SimulatorCheck check = checkSimulator(session, CheckDepth::changedFiles, true);
     for (InstalledPart& part : check.installed)
         part.name = keyOfName(part.name);
     QStringList lines = check.text().split(u'\n');

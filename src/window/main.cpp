@@ -14,6 +14,7 @@
 #include "window/first_start.h"
 #include "window/letter_engine.h"
 #include "window/program.h"
+#include "window/report_saving.h"
 #include "window/screen_scale.h"
 #include "window/single_window.h"
 #include "window/typed_texts.h"
@@ -95,6 +96,7 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(skin.picture(u"morvane.png"_s));
     WindowShell shell(session, skin);
     user.setShell(&shell);
+    session.state<LastRun>().wasCut = window.wasLastOneCut();
     window.serve(shell);
     requests.handTo(shell);
     session.state<PrivateTexts>().sources.push_back(typedInWindows);

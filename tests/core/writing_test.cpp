@@ -75,12 +75,14 @@ TEST(InstallLock, isHeldByWhoHoldsItsFileAndNotByANumber) {
     const FilePath file = folder / u"Writing.lock";
     std::optional<InstallLock> holder(std::in_place, folder.path(), u"Writing.lock"_s);
     InstallLock other(folder.path(), u"Writing.lock"_s);
-    EXPECT_TRUE(holder->tryTake());
+    EXPECT_TRUE(holder->tryTake() && !holder->wasLeftBehind());
     EXPECT_FALSE(other.tryTake());
     const QByteArray left = readFile(file);
     holder.reset();
     writeFile(file, left); // this process is alive, and did not write it
-    EXPECT_TRUE(other.tryTake());
+    EXPECT_TRUE(other.tryTake() && other.wasLeftBehind()) << "as behind a crash";
+    other.release();
+    EXPECT_TRUE(other.tryTake() && !other.wasLeftBehind()) << "not behind an end";
 }
 
 } // namespace
