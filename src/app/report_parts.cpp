@@ -10,6 +10,7 @@
 #include "core/wine_prefixes.h"
 #include "simulator/simulator_check.h"
 #include "weather/active_sky.h"
+#include "weather/weather_sources.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -53,8 +54,7 @@ constexpr ReportedSetting settings[] = {
     {u"KeepUndo"},
     {u"NonEnglishPath"},
     {u"DataFolder"},
-    {u"WeatherSources"},
-    {u"WeatherFormat"},
+    {u"WeatherFormat", SettingForm::ownText},
     {u"WeatherServer", SettingForm::ownText},
     {u"WeatherPath", SettingForm::ownText},
     {u"SimulatorRunner", SettingForm::ownText},
@@ -62,6 +62,13 @@ constexpr ReportedSetting settings[] = {
     {u"UpdateServer", SettingForm::ownText},
     {u"ActiveSkyPage", SettingForm::ownText},
 };
+
+QString weatherText(Session& session) {
+    QStringList sources;
+    for (const WeatherSource& source : weatherSources(session.registry))
+        sources << withoutPrivate(session, source.text());
+    return sources.join(u"; "_s);
+}
 
 // Rows ---------------------------------------------------------------------------------------------------
 
@@ -134,6 +141,7 @@ QString settingsText(Session& session) {
         const bool isOwn = setting.form == SettingForm::ownText && !value.isEmpty();
         text += line(name, isOwn ? u"set"_s : withoutPrivate(session, value));
     }
+    text += line(u"Weather in force"_s, weatherText(session));
     for (const auto& [name, key, value] : {std::tuple(u"Simulator"_s, simulatorKey, u"EXE Path"_s),
                                            std::tuple(u"Active Sky"_s, activeSkyKey, u"Install_Path"_s)})
         text += line(name, withoutPrivate(registry.GetRegString(HKEY_LOCAL_MACHINE_ROOT, key, value), {}));

@@ -10,7 +10,7 @@ namespace morvane {
 
 /// Raise it whenever what the content tool makes changes: samples of another version are made anew, and a
 /// pilot's install is brought up to date.
-inline constexpr int contentVersion = 10;
+inline constexpr int contentVersion = 11;
 
 /// What the content tool laid down in an install folder, in the file "content.version" there. Its first line
 /// says by whom, "content 8 density 1 by 2.1.0"; behind it stands a line a file, check sum and path with a

@@ -56,13 +56,20 @@ std::vector<PrivateText> homeTexts() {
     return texts;
 }
 
-/// Names that no list knows any more, such as that of a set that was removed, and those of files.
+/// Names that no list knows any more, such as that of a set that was removed; those of files; and a home in
+/// the short spelling of Windows.
 void replaceNames(QString& line) {
-    static const QRegularExpression quoted(u"'(\\d{1,5})-[^\\n]*'"_s), named(u"\\bset (\\d{1,5})-[^\\n]*"_s),
-        file(
-            u"[^\\\\/\\n\"]*[^\\\\/\\n\"\\s]\\.(morvaneset|pln|lnmpln|flt|wx|zip|png|txt)(?![\\p{L}\\p{N}])"_s,
-            anyCase);
-    line.replace(quoted, u"'#\\1'"_s).replace(named, u"set #\\1"_s).replace(file, u"<file>.\\1"_s);
+    static const std::pair<QRegularExpression, QString> rules[] = {
+        {QRegularExpression(u"'(\\d{1,5})-[^\\n]*'"_s), u"'#\\1'"_s},
+        {QRegularExpression(u"\\bset (\\d{1,5})-[^\\n]*"_s), u"set #\\1"_s},
+        {QRegularExpression(u"(texture sets[\\\\/])(\\d{1,5})-[^\\\\/\\n]*"_s, anyCase), u"\\1#\\2"_s},
+        {QRegularExpression(u"(users[\\\\/])[^\\\\/\\n\"]*~\\d"_s, anyCase), u"\\1~"_s},
+        {QRegularExpression(u"[^\\\\/\\n\"]*[^\\\\/\\n\"\\s]\\.(morvaneset|pln|lnmpln|flt|wx|zip|png|txt)"
+                            "(?![\\p{L}\\p{N}])"_s,
+                            anyCase),
+         u"<file>.\\1"_s}};
+    for (const auto& [pattern, standIn] : rules)
+        line.replace(pattern, standIn);
 }
 
 QString asOneLine(QString text) {

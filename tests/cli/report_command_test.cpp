@@ -51,6 +51,9 @@ TEST_F(Report, HoldsWhatHappenedAndNothingThatWasTyped) {
     install.withStore([](Session& session) {
         session.adoConn->execute(u"UPDATE TEXTURE_SETS SET DESCRIPTION = 'Gehéim, too'"_s);
         storeOwnValue(session.registry, u"WeatherServer"_s, u"https://geheim.example/metar/"_s);
+        storeOwnValue(session.registry, u"WeatherSources"_s, u"geheim;awc;geheimer"_s);
+        storeOwnValue(session.registry, u"WeatherSource-geheim"_s, u"plain https://b.example/geheim.txt"_s);
+        storeOwnValue(session.registry, u"WeatherFormat"_s, u"geheim"_s);
         storeOwnValue(session.registry, u"SimulatorRunner"_s, u"/bin/geheim"_s);
         storeOwnValue(session.registry, u"NonEnglishPath"_s, QDir::homePath() + u"/Flights"_s);
     });

@@ -26,6 +26,8 @@ TEST(PrivateTexts, nothingOfThePilotsIsLeftInAText) {
         {u"Delete '9-Jan's own'?"_s, u"Delete '#9'?"_s}, // which no list has
         {u"of 2026/11/23:\nGround set 9-My own\nSky set 8-b"_s,
          u"of 2026/11/23: / Ground set #9 / Sky set #8"_s},
+        {u"/x/Texture Sets/9-My own/Texture/a.bmp"_s, u"/x/Texture Sets/#9/Texture/a.bmp"_s},
+        {u"C:\\Users\\JANSMI~1\\AppData"_s, u"C:\\Users\\~\\AppData"_s},
         {u"Nothing is taken from My own.MorvaneSet: why"_s, u"<file>.MorvaneSet: why"_s},
         {u"/mnt/x/Flight of Ann.flt is there"_s, u"/mnt/x/<file>.flt is there"_s},
         {u"a\r\nb\tc\x1b[2J\u202E"_s, u"a /  / b c [2J"_s},
