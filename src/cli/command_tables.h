@@ -16,6 +16,7 @@ std::vector<Command> optionCommands(); ///< base installs and backups, too
 std::vector<Command> originalsCommands();
 std::vector<Command> pictureCommands();
 std::vector<Command> readyCommands();
+std::vector<Command> reportCommands();
 std::vector<Command> routeCommands();
 std::vector<Command> sheetCommands();
 std::vector<Command> skyCommands();

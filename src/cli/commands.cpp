@@ -1,10 +1,12 @@
 #include "cli/commands.h"
 
+#include "app/logged_run.h"
 #include "app/start_up.h"
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
 #include "core/failure_report.h"
 #include "core/install_folder.h"
+#include "core/private_texts.h"
 #include "core/store_connection.h"
 #include "core/writing.h"
 #include "sets/options_in_force.h"
@@ -34,6 +36,21 @@ InstallUse useOf(const Command& command, const QHash<QString, QString>& options)
     return command.writes ? InstallUse::writing : InstallUse::reading;
 }
 
+/// Of a closed list of words nothing was typed that could be the pilot's own.
+void keepTypedPrivate(const Command& command, const CommandContext& context) {
+    QStringList typed = context.options.values();
+    for (qsizetype i = 0; i < context.arguments.size(); ++i) {
+        const auto last = static_cast<qsizetype>(command.operands.size()) - 1;
+        const Operand& operand = command.operands[static_cast<std::size_t>(std::min(i, last))];
+        if (operand.entries.isEmpty()) typed << context.arguments[i];
+    }
+    std::vector<PrivateText> texts;
+    for (const QString& text : typed)
+        for (const auto& some : {typedTexts(text), folderTexts(pathOfArgument(text).text(), u"<typed>"_s)})
+            texts.insert(texts.end(), some.begin(), some.end());
+    context.session.state<PrivateTexts>().sources.push_back([texts] { return texts; });
+}
+
 /// False after the message of what is missing.
 bool makeReady(const Command& command, InstallUse use, Session& session) {
     if (command.needs == Needs::simulator) {
@@ -58,7 +75,7 @@ const std::vector<Command>& commandTable() {
         for (const auto commandsOfSubject :
              {cycleCommands, airportCommands, routeCommands, groundCommands, skyCommands, nightCommands,
               flightCommands, optionCommands, originalsCommands, stockCommands, spaceCommands, configCommands,
-              pictureCommands, sheetCommands, readyCommands})
+              pictureCommands, sheetCommands, readyCommands, reportCommands})
             for (const Command& command : commandsOfSubject())
                 add(command, all);
         return all;
@@ -68,6 +85,11 @@ const std::vector<Command>& commandTable() {
 
 int runCommand(const Command& command, CommandContext context) {
     const InstallUse use = useOf(command, context.options);
+    std::optional<LoggedRun> run;
+    if (command.needs != Needs::nothing && use != InstallUse::trial) {
+        keepTypedPrivate(command, context);
+        run.emplace(context.session, u"morvane-cli"_s, command.words);
+    }
     bool isReady = false;
     try {
         std::optional<Writing> writing; // before the first look at what will be changed

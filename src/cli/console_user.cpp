@@ -42,6 +42,7 @@ void ConsoleUser::endProgressLine() {
 }
 
 void ConsoleUser::showMessage(const Message& message) {
+    noteShown(message);
     endProgressLine();
     const bool harmless = message.kind == MessageKind::information || message.kind == MessageKind::question ||
                           message.kind == MessageKind::progress;
@@ -69,6 +70,7 @@ void ConsoleUser::hideMessage() {
 }
 
 void ConsoleUser::tellDone(const DoneLine& line) {
+    noteShown(line);
     endProgressLine();
     print(line.text + (line.remark.isEmpty() ? QString() : u" ("_s + line.remark + u')') + u'\n');
 }
@@ -76,6 +78,7 @@ void ConsoleUser::tellDone(const DoneLine& line) {
 bool ConsoleUser::allowsRun(const RunSize& run) {
     if (run.fits()) return true;
     failed_ = true;
+    noteShown(u"Refused"_s, {}, run.refusal());
     print(run.refusal() + u"; 'morvane-cli space' tells what takes the room\n"_s);
     return false;
 }
@@ -133,6 +136,7 @@ void ConsoleUser::answerPending() {
 }
 
 bool ConsoleUser::systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) {
+    noteShown(u"Box"_s, title, text);
     endProgressLine();
     print((title.isEmpty() ? QString() : title + u": "_s) + text + u'\n');
     if (buttons == SystemBoxButtons::ok) {

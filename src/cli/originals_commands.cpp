@@ -2,7 +2,6 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "cli/terminal.h"
-#include "core/numbers.h"
 #include "sets/simulator_copy.h"
 #include "sets/undo_step.h"
 #include "simulator/difference_choices.h"
@@ -83,24 +82,6 @@ QJsonObject toJson(const SimulatorCheck& check) {
             {u"differences"_s, toJsonArray(check.differences())}};
 }
 
-QString textOf(const SimulatorCheck& check) {
-    const auto line = [](const QString& what, const QString& state) {
-        return what.leftJustified(32) + state + u'\n';
-    };
-    QString text =
-        line(u"Ours and whole"_s, countText(check.ours)) + line(u"Your own"_s, countText(check.pilots)) +
-        line(u"Changed by another program"_s, countText(check.changed)) +
-        line(u"Missing"_s, countText(check.missing)) + line(u"Kept originals"_s, countText(check.kept)) +
-        line(u"Damaged of these"_s, countText(check.damagedKept.size()));
-    for (const InstalledPart& part : check.installed)
-        text += line(part.kind + u' ' + part.name, part.stateText());
-    for (const CheckedPlace& place : check.differences())
-        text += (place.state == PlaceState::missing ? u"missing  "_s : u"changed  "_s) + place.path + u'\n';
-    for (const QString& path : check.damagedKept)
-        text += u"damaged  kept original of "_s + path + u'\n';
-    return text;
-}
-
 void verify(CommandContext& context) {
     const CheckDepth depth =
         context.options.contains(deepOption) ? CheckDepth::everyFile : CheckDepth::changedFiles;
@@ -108,7 +89,7 @@ void verify(CommandContext& context) {
     if (context.options.contains(jsonOption.name))
         printJson(QJsonDocument(toJson(check)));
     else
-        writeStandardOutput(textOf(check));
+        writeStandardOutput(check.text());
     if (!check.isAsLeft()) fail(context, u"Not everything is as Morvane left it."_s);
 }
 

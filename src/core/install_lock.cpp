@@ -2,6 +2,7 @@
 
 #include "core/literals.h"
 
+#include <QFileInfo>
 #include <QSysInfo>
 
 namespace morvane {
@@ -23,10 +24,19 @@ InstallLock::InstallLock(const FilePath& installFolder, const QString& fileName)
     file_.setStaleLockTime(0); // a holder may work for hours: it is gone when its process is
 }
 
+/// A holder that comes to its end takes its file along.
+bool InstallLock::tryTake() {
+    if (file_.isLocked()) return true;
+    const bool isThere = QFileInfo::exists(file_.fileName());
+    const bool isTaken = tryTakeFile();
+    wasLeftBehind_ = isThere && isTaken && file_.isLocked();
+    return isTaken;
+}
+
 /// The number of a killed holder may be that of another program now, or of this very one: whether anybody
 /// holds the file is then for the file itself to tell, which cannot be removed while it is held here.
-bool InstallLock::tryTake() {
-    if (file_.isLocked() || file_.tryLock(0) || file_.error() != QLockFile::LockFailedError) return true;
+bool InstallLock::tryTakeFile() {
+    if (file_.tryLock(0) || file_.error() != QLockFile::LockFailedError) return true;
     qint64 process = 0;
     QString computer, program;
     const bool isHere = file_.getLockInfo(&process, &computer, &program) && isThisComputer(computer);

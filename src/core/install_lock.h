@@ -15,12 +15,18 @@ public:
     /// False when another process holds it. A folder that takes no such file (read-only, full) counts as
     /// locked by us: what is written there next fails by itself, and says why.
     bool tryTake();
+    /// The last `tryTake` took over what a process had left behind that never came to its end: it was killed,
+    /// or the machine lost its power.
+    bool wasLeftBehind() const { return wasLeftBehind_; }
     void release() { file_.unlock(); }
     /// Program and process, "morvane-cli (process 4711)"; "another program" when that cannot be told.
     QString holder() const;
 
 private:
+    bool tryTakeFile();
+
     QLockFile file_;
+    bool wasLeftBehind_ = false;
 };
 
 } // namespace morvane

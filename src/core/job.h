@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/program_log.h"
 #include "core/session.h"
 #include "core/writing.h"
 
@@ -15,17 +16,19 @@ class Job {
 public:
     enum class Start { atOnce, behindQuestions };
 
-    /// `behindQuestions`: other programs may write as long as the user has not answered; `begin` comes behind
-    /// that.
-    explicit Job(Session& session, Start start = Start::atOnce)
-        : session_(session), started_(!session.jobRunning) {
+    /// `what` the log calls it. `behindQuestions`: other programs may write as long as the user has not
+    /// answered; `begin` comes behind that.
+    Job(Session& session, const QString& what, Start start = Start::atOnce)
+        : session_(session), what_(what), started_(!session.jobRunning) {
         if (!started_) return;
         setRunning(true);
         if (start == Start::atOnce) started_ = begin();
         if (!started_) setRunning(false);
     }
     ~Job() {
-        if (started_) setRunning(false);
+        if (!started_) return;
+        if (hasBegun_) note(isCancelled() ? u" was cancelled"_s : u" ended"_s);
+        setRunning(false);
     }
     Job(const Job&) = delete;
     Job& operator=(const Job&) = delete;
@@ -35,7 +38,10 @@ public:
     /// False when another program writes; the user was told.
     bool begin() {
         if (!writing_) writing_.emplace(session_);
-        return static_cast<bool>(*writing_);
+        const bool isHeld = static_cast<bool>(*writing_);
+        if (isHeld && !hasBegun_) note(u" began"_s);
+        hasBegun_ = hasBegun_ || isHeld;
+        return isHeld;
     }
     /// Nothing more is written: other programs may, while the user reads what the job has to tell.
     void end() { writing_.reset(); }
@@ -47,8 +53,12 @@ private:
         session_.jobRunning = running;
         session_.user.answers().cancelRequested = false;
     }
+    void note(const QString& verb) { session_.state<ProgramLog>().note(u"Job"_s, what_ + verb); }
+
     Session& session_;
+    QString what_;
     bool started_;
+    bool hasBegun_ = false;
     std::optional<Writing> writing_;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -16,6 +17,10 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
 /// drives can do that: some only note that two files share their blocks. Both files then stand behind what
 /// was copied. Of a failure nothing is told: the rest, copied in another way, meets it again.
 void copyInsideSystem(int source, int target, std::int64_t size);
+
+/// Opens it so that what one call writes comes to its end in one piece, whatever other programs append there
+/// at the same time; makes it when missing. False as `QFile::open`.
+bool openToAppend(QFile& file);
 
 /// Whether it may be written to or not, as the folder alone decides.
 std::error_code removeFile(const std::filesystem::path& file);

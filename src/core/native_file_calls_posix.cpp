@@ -24,6 +24,10 @@ void copyInsideSystem(int source, int target, std::int64_t size) {
     }
 }
 
+bool openToAppend(QFile& file) {
+    return file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered);
+}
+
 std::error_code removeFile(const std::filesystem::path& file) {
     return ::unlink(file.c_str()) == 0 ? std::error_code() : std::error_code(errno, std::system_category());
 }

@@ -1,5 +1,7 @@
 #include "core/native_file_calls.h"
 
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 
 namespace morvane {
@@ -21,6 +23,30 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
 
 /// The system's own copy takes times and attributes along, which a copy of the contents must not have.
 void copyInsideSystem(int, int, std::int64_t) {}
+
+namespace {
+
+/// Of a byte that no file reaches; it goes with the handle.
+void lockForWriters(HANDLE file) {
+    OVERLAPPED place{};
+    place.OffsetHigh = 1U << 30;
+    LockFileEx(file, LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &place);
+}
+
+} // namespace
+
+/// The toolkit goes to the end and then writes, which another program may come between; so does Wine.
+bool openToAppend(QFile& file) {
+    constexpr DWORD everyShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    constexpr QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered;
+    const std::filesystem::path path = file.fileName().toStdU16String();
+    const HANDLE handle = CreateFileW(path.c_str(), GENERIC_READ | FILE_APPEND_DATA, everyShare, nullptr,
+                                      OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return file.open(mode);
+    lockForWriters(handle);
+    const int number = _open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_APPEND | _O_BINARY);
+    return file.open(number, mode, QFileDevice::AutoCloseHandle);
+}
 
 std::error_code removeFile(const std::filesystem::path& file) {
     if (DeleteFileW(file.c_str())) return {};

@@ -302,7 +302,8 @@ void NativeFileSystem::flushOneByOne(const std::vector<FilePath>& files,
 
 void NativeFileSystem::append(const FilePath& file, const QByteArray& contents) {
     QFile out(file.native());
-    openFile(out, file, QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered, heldFiles_);
+    if (!openToAppend(out) && !(heldFiles_.outlast(file) && openToAppend(out)))
+        throw Error(codeOf(out.error(), noFolderOrDenied(out)), file.text());
     writeAll(out, contents.constData(), contents.size(), file);
 }
 

@@ -24,8 +24,9 @@ enum class Question {
     putOwnBack,          ///< give back what Morvane ever replaced
     takeOver,            ///< take over the simulator of another install
     replaceFile,         ///< write over a file of the user's
+    saveReport,          ///< save a report of what happened before this start
 };
-inline constexpr std::size_t questionCount = 16;
+inline constexpr std::size_t questionCount = 17;
 
 /// What the user said: the answer flags of the message screen and the one flag of a wanted cancel.
 /// A message returns nothing; the caller marks its question before showing it and reads the flag afterwards.

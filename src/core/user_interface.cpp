@@ -75,7 +75,20 @@ bool UserInterface::ask(Question question, const Message& message) {
     answers_.mark(question);
     showMessage(message);
     answers_.unmark(question);
+    noteShown(u"Answer"_s, message.title, answers_.flag(question) ? u"yes"_s : u"no"_s);
     return answers_.flag(question);
+}
+
+void UserInterface::noteShown(const Message& message) {
+    noteShown(kindWord(message.kind), message.title, message.text);
+}
+
+void UserInterface::noteShown(const DoneLine& line) {
+    noteShown(u"Done"_s, {}, line.remark.isEmpty() ? line.text : line.text + u" ("_s + line.remark + u')');
+}
+
+void UserInterface::noteShown(const QString& kind, const QString& title, const QString& text) {
+    if (listener_) listener_->hear(kind, title, text);
 }
 
 } // namespace morvane

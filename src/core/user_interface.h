@@ -79,6 +79,13 @@ QString screenName(Screen screen);
 
 enum class SystemBoxButtons { ok, okCancel, yesNo };
 
+/// Hears what the user is told and what he answers, for the log. It shows nothing itself.
+class UserListener {
+public:
+    virtual ~UserListener() = default;
+    virtual void hear(const QString& kind, const QString& title, const QString& text) = 0;
+};
+
 /// The one seam between the engine and whoever sits in front of it: windows, a console or a test's script.
 /// The engine never asks which one it has.
 class UserInterface {
@@ -128,8 +135,18 @@ public:
     bool ask(Question question, const QString& title, const QString& text);
     bool ask(Question question, const Message& message);
 
+    /// Null for none. It has to outlive what it hears.
+    void setListener(UserListener* listener) { listener_ = listener; }
+
+protected:
+    // For who shows them: each is heard once, when it is shown.
+    void noteShown(const Message& message);
+    void noteShown(const DoneLine& line);
+    void noteShown(const QString& kind, const QString& title, const QString& text);
+
 private:
     UserAnswers answers_;
+    UserListener* listener_ = nullptr;
 };
 
 } // namespace morvane

@@ -24,6 +24,9 @@ std::vector<WinePrefix> winePrefixes(FileSystem& files);
 /// The prefix that the file lies in, whether it is among the user's or not.
 std::optional<WinePrefix> winePrefixAbove(FileSystem& files, const FilePath& file);
 
+/// Of the Wine that this program runs in; empty for none.
+QString wineVersion();
+
 /// What a small text of `NAME: text` lines has for that name, at any depth; empty when it has none.
 QString textOfLine(const QByteArray& lines, const QByteArray& name);
 

@@ -155,4 +155,8 @@ std::optional<WinePrefix> winePrefixAbove(FileSystem& files, const FilePath& fil
     return described(files, folder, truePrefixes(lutrisPrefixes(files)));
 }
 
+QString wineVersion() {
+    return {};
+}
+
 } // namespace morvane

@@ -53,7 +53,7 @@ GroundGeneration::GroundGeneration(Session& session)
     : SetGeneration(session, setKind<GroundKind>(), groundKind, session.state<GroundSelection>().colours) {}
 
 void GroundGeneration::createTextureSets(bool fromMain) {
-    Job job(session_, Job::Start::behindQuestions);
+    Job job(session_, u"making of ground sets"_s, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, morvaneError, [&] {
         session_.state<GroundSetCounts>().setCountsConfirmed = false;

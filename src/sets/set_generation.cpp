@@ -25,7 +25,7 @@ void SetGeneration::makeFiles(const Job& job, Counters counters, Screen hiddenSc
 }
 
 void SetGeneration::activateInHand() {
-    Job job(session_, Job::Start::behindQuestions);
+    Job job(session_, u"activation of %1 sets"_s.arg(set_.facts.word.toLower()), Job::Start::behindQuestions);
     if (!job) return;
     const SetInHand inHand = set_.inHand(session_);
     reportFailures(session_.user, morvaneError, [&] {
@@ -87,7 +87,10 @@ bool SetGeneration::activate(const Job& job, const StoredSet& set, Counters coun
 }
 
 void SetGeneration::deleteInHand(bool deactivateMode) {
-    Job job(session_, Job::Start::behindQuestions);
+    Job job(session_,
+            (deactivateMode ? u"deactivation of %1 sets"_s : u"removal of %1 sets"_s)
+                .arg(set_.facts.word.toLower()),
+            Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, morvaneError, [&] {
         if (!set_.refresh(session_)) return;

@@ -26,7 +26,7 @@ Reported SetInstallation::installInside(Job& job, const QString& name) {
 
 SetInstallation::Outcome SetInstallation::runAlone(bool isByHand) {
     if (session_.jobRunning) return Outcome::failed;
-    Job job(session_, Job::Start::behindQuestions);
+    Job job(session_, u"install of a %1 set"_s.arg(set_.facts.word.toLower()), Job::Start::behindQuestions);
     return run(job, isByHand);
 }
 

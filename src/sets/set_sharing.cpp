@@ -44,7 +44,7 @@ Reported exportSet(Session& session, const SetKind& kind, const QString& name, c
 }
 
 const SetKind* importSharedSet(Session& session, const FilePath& file) {
-    Job job(session);
+    Job job(session, u"import of a look"_s);
     if (!job) return nullptr;
     const SetKind* kind = nullptr;
     const FailureReport report{.prefix = u"Nothing is taken from %1: "_s.arg(file.fileName())};

@@ -111,7 +111,7 @@ std::optional<BackupReport> runInRow(Session& session, const Job& job, bool isFi
 
 std::optional<BackupReport> runBackup(Session& session, bool isFirstRun) {
     std::optional<BackupReport> report;
-    const Job job(session);
+    const Job job(session, u"backup"_s);
     if (!job) return report;
     session.user.showMessage({MessageKind::information, progressTitle,
                               u"Morvane is backing up your Flight Simulator Texture Files.  This may take a "

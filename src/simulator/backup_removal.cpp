@@ -70,7 +70,7 @@ bool removeInside(Session& session, const Job& job, const QString& name) {
 } // namespace
 
 Reported removeBackup(Session& session, const QString& name) {
-    Job job(session, Job::Start::behindQuestions);
+    Job job(session, u"removal of a backup"_s, Job::Start::behindQuestions);
     if (!job || !clsBackups::reload(session)) return false;
     const auto backup = findTrimmedName(*session.rows<clsBackups>(), name);
     if (!backup || !session.user.ask(Question::backup, removalTitle, question(session, *backup)) ||

@@ -125,7 +125,7 @@ void addTextures(Session& session, const BackupPlace& place, std::vector<FileCop
 
 std::optional<RestoreReport> restoreBackup(Session& session, const QString& name) {
     std::optional<RestoreReport> report;
-    const Job job(session);
+    const Job job(session, u"restore of a backup"_s);
     if (!job || !claimSimulator(session)) return report;
     reportFailures(session.user, morvaneError, [&] { report = copyBack(session, name); });
     session.user.updateProgress({}, {}, 100);

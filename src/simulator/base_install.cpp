@@ -129,7 +129,7 @@ bool collectFolderFiles(Session& session, const FilePath& sourceFolder, const Fi
 }
 
 void copyBaseResources(Session& session, const QStringList& tickedTitles) {
-    const Job job(session);
+    const Job job(session, u"base install"_s);
     if (!job || !claimSimulator(session)) return;
     showCopying(session, copyingTitle);
     std::optional<DoneLine> line;

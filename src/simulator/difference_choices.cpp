@@ -63,7 +63,7 @@ void settle(Session& session, DifferenceChoice choice, const QStringList& paths,
 
 std::optional<ChoiceReport> settleDifferences(Session& session, DifferenceChoice choice,
                                               const QStringList& paths) {
-    const Job job(session);
+    const Job job(session, u"settling of differences"_s);
     if (!job) return std::nullopt;
     ChoiceReport report;
     if (!reportFailures(session.user, morvaneError, [&] { settle(session, choice, paths, report); }))

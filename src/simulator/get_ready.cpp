@@ -181,7 +181,7 @@ bool GetReady::prepareBaseTextures() {
 }
 
 bool GetReady::makeSets(const Told& told) {
-    Job job(session_);
+    Job job(session_, u"making of the first sets"_s);
     if (!job) return false;
     bool isWhole = true;
     const bool cameToItsEnd = reportFailures(session_.user, morvaneError, [&] {

@@ -38,7 +38,7 @@ struct PlainRemoval {
 };
 
 void removePlainly(Session& session, const KeptItem& item, const PlainRemoval& removal) {
-    Job job(session, Job::Start::behindQuestions);
+    Job job(session, u"removal of kept files"_s, Job::Start::behindQuestions);
     if (!job) return;
     const QString text =
         removal.question + u"  Up to %1 of the disk will be free."_s.arg(keptText(item.bytes));

@@ -63,7 +63,7 @@ void storeSplashInhibition(Session& session, bool value) {
 
 void setCustomSplashVal(Session& session, bool value) {
     reportFailures(session.user, optionFailure(u"Sub setCustomSplashVal"_s), [&] {
-        Job job(session);
+        Job job(session, u"option for the splash"_s);
         if (!job || (value && !claimSimulator(session))) return;
         UndoStep step(session);
         if (value) step.add(optionPart(&OptionsInForce::InhibitCustomSplash, value));

@@ -48,7 +48,7 @@ QString listedPaths(const QStringList& paths) {
 }
 
 std::optional<OriginalsReport> runRestore(Session& session, const RestoreRun& run) {
-    const Job job(session);
+    const Job job(session, run.title);
     if (!job) return std::nullopt;
     std::optional<OriginalsReport> report;
     reportFailures(session.user, morvaneError, [&] {

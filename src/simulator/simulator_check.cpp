@@ -112,6 +112,23 @@ bool SimulatorCheck::isAsLeft() const {
            std::ranges::all_of(installed, &InstalledPart::isWhole);
 }
 
+QString SimulatorCheck::text() const {
+    const auto line = [](const QString& what, const QString& state) {
+        return what.leftJustified(32) + state + u'\n';
+    };
+    QString lines = line(u"Ours and whole"_s, countText(ours)) + line(u"Your own"_s, countText(pilots)) +
+                    line(u"Changed by another program"_s, countText(changed)) +
+                    line(u"Missing"_s, countText(missing)) + line(u"Kept originals"_s, countText(kept)) +
+                    line(u"Damaged of these"_s, countText(damagedKept.size()));
+    for (const InstalledPart& part : installed)
+        lines += line(part.kind + u' ' + part.name, part.stateText());
+    for (const CheckedPlace& place : differences())
+        lines += (place.state == PlaceState::missing ? u"missing  "_s : u"changed  "_s) + place.path + u'\n';
+    for (const QString& path : damagedKept)
+        lines += u"damaged  kept original of "_s + path + u'\n';
+    return lines;
+}
+
 SimulatorCheck checkSimulator(Session& session, CheckDepth depth, bool tellsProgress) {
     SimulatorCheck check;
     check.places = originalsOf(session).check(depth, [&](double part) {

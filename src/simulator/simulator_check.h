@@ -34,6 +34,8 @@ struct SimulatorCheck {
     /// Those that differ, in the order of their paths.
     std::vector<CheckedPlace> differences() const;
     bool isAsLeft() const;
+    /// A line for each number and each part, then one for each difference.
+    QString text() const;
 };
 
 /// Looks at every file that Morvane ever put or kept; `tellsProgress` for the bar of a message. Raises when

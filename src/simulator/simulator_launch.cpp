@@ -1,6 +1,7 @@
 #include "simulator/simulator_launch.h"
 
 #include "core/failure_report.h"
+#include "core/program_log.h"
 #include "core/program_runner.h"
 #include "sets/options_in_force.h"
 #include "simulator/flights.h"
@@ -20,6 +21,8 @@ void leaveTheScreenToTheSimulator(Session& session) {
 
 bool startSimulator(Session& session, const FilePath& flight) {
     if (!startWithRunner(session, u"Flight Simulator"_s, session.FSPath / u"fs9.exe", flight)) return false;
+    session.state<ProgramLog>().note(
+        u"Start"_s, flight.isEmpty() ? u"of the simulator"_s : u"of the simulator with a saved flight"_s);
     leaveTheScreenToTheSimulator(session);
     return true;
 }

@@ -117,7 +117,7 @@ void tellEnd(Session& session, const StockImportReport& report, const StockSourc
 std::optional<StockImportReport> importStock(Session& session, const StockSource& source) {
     std::optional<StockImportReport> report;
     {
-        const Job job(session);
+        const Job job(session, u"import of base textures"_s);
         if (!job) return report;
         reportFailures(session.user, morvaneError, [&] {
             saveForUndo(session, bodyFolders);
@@ -141,7 +141,7 @@ std::optional<int> restoreStock(Session& session, bool isConfirmed) {
         "own textures go; they can be made again."_s;
     std::optional<int> count;
     if (!isConfirmed && !session.user.ask(Question::backup, stockTitle, question)) return count;
-    const Job job(session);
+    const Job job(session, u"return to the delivered base textures"_s);
     if (!job) return count;
     reportFailures(session.user, morvaneError, [&] {
         saveForUndo(session, bodyFolders);

@@ -136,7 +136,7 @@ void tropicalTextures(Session& session, bool isOn, const QString& groundName) {
 }
 
 bool switchDutch(Session& session, bool isOn) {
-    Job job(session);
+    Job job(session, u"option for the Netherlands"_s);
     if (!job || !claimSimulator(session)) throw Error(ErrorCode::interrupted);
     if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsDutch = false;
     UndoStep step(session);
@@ -149,7 +149,7 @@ bool switchDutch(Session& session, bool isOn) {
 }
 
 bool switchTropical(Session& session, bool isOn) {
-    Job job(session);
+    Job job(session, u"option for the tropics"_s);
     if (!job || !claimSimulator(session)) throw Error(ErrorCode::interrupted);
     if (!hasGroundSets(session)) return session.state<OptionsInForce>().IsTropical = false;
     UndoStep step(session);
@@ -161,7 +161,7 @@ bool switchTropical(Session& session, bool isOn) {
 }
 
 void switchHalo(Session& session, bool isOn) {
-    Job job(session);
+    Job job(session, u"option for the halo"_s);
     if (!job || !claimSimulator(session)) throw Error(ErrorCode::interrupted);
     UndoStep step(session);
     step.add(optionPart(&OptionsInForce::IsHalo, isOn));

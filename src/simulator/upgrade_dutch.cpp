@@ -67,7 +67,7 @@ void createDutchForAllSets(Session& session) {
         {MessageKind::information, u"Create Dutch Textures"_s,
          u"Morvane will now create updated textures for all your existing texture sets.  This will take "
          "approximately 1 - 2 minutes per set"_s});
-    const Job job(session);
+    const Job job(session, u"upgrade of the Dutch textures"_s);
     if (!job || !clsTextureSets::reload(session)) return;
     std::vector<clsTextureSet> sets;
     for (const auto& set : *session.rows<clsTextureSets>())

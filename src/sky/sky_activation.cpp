@@ -13,7 +13,7 @@
 namespace morvane {
 
 void SkyActivation::activateInHand() {
-    Job job(session_, Job::Start::behindQuestions);
+    Job job(session_, u"activation of sky sets"_s, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, morvaneError, [&] {
         if (!refreshSkySets(session_)) return;
@@ -70,7 +70,8 @@ bool SkyActivation::activate(const Job& job, const clsSkyTextureSet& set, const 
 }
 
 void SkyActivation::deleteInHand(bool deactivateMode) {
-    Job job(session_, Job::Start::behindQuestions);
+    Job job(session_, deactivateMode ? u"deactivation of sky sets"_s : u"removal of sky sets"_s,
+            Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, morvaneError, [&] {
         if (!refreshSkySets(session_)) return;

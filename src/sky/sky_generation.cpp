@@ -60,7 +60,7 @@ RunSize runSize(Session& session) {
 } // namespace
 
 void SkyGeneration::createSkySets(bool fromHomeScreen) {
-    Job job(session_, Job::Start::behindQuestions);
+    Job job(session_, u"making of sky sets"_s, Job::Start::behindQuestions);
     if (!job) return;
     reportFailures(session_.user, morvaneError, [&] {
         session_.state<SkySetCounts>().skySetsConfirmed = false;

@@ -165,7 +165,7 @@ void clsWxFinderData::showProgress(const QString& text, bool withCancel) const {
 }
 
 Reported clsWxFinderData::GetWeatherFromNOAA() {
-    const Job job(session_);
+    const Job job(session_, u"refresh of the weather"_s);
     if (!job) return false;
     bool isLoaded = false;
     reportFailures(session_.user, loadFailure, [&] { isLoaded = downloadWeather(); });
@@ -218,7 +218,7 @@ Reported clsWxFinderData::importCycleFile(const FilePath& file, CycleForm form) 
 }
 
 Reported clsWxFinderData::importExportFile(const FilePath& file) {
-    const Job job(session_);
+    const Job job(session_, u"import of Active Sky's weather"_s);
     bool isLoaded = false;
     if (job) reportFailures(session_.user, loadFailure, [&] { isLoaded = loadExportFile(file); });
     return isLoaded;

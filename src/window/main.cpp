@@ -1,7 +1,9 @@
 #include "app/first_install.h"
+#include "app/logged_run.h"
 #include "core/clock.h"
 #include "core/file_system.h"
 #include "core/install_folder.h"
+#include "core/private_texts.h"
 #include "core/registry.h"
 #include "core/session.h"
 #include "imaging/program_font.h"
@@ -15,8 +17,10 @@
 #include "window/first_start.h"
 #include "window/letter_engine.h"
 #include "window/program.h"
+#include "window/report_saving.h"
 #include "window/screen_scale.h"
 #include "window/single_window.h"
+#include "window/typed_texts.h"
 #include "window/window_line.h"
 #include "window/window_shell.h"
 #include "window/window_user.h"
@@ -97,8 +101,11 @@ int main(int argc, char** argv) {
     WindowShell shell(session, skin);
     user.setShell(&shell);
     const PaletteKeeper keeper(session);
+    session.state<LastRun>().wasCut = window.wasLastOneCut();
     window.serve(shell);
     requests.handTo(shell);
+    session.state<PrivateTexts>().sources.push_back(typedInWindows);
+    const LoggedRun run(session, u"morvane"_s, line.coverCode.isEmpty() ? QString() : u"for a cover"_s);
     shell.openFile(file);
     return runProgram(shell, line.coverCode);
 }

@@ -20,6 +20,7 @@
 #include "weather/active_sky.h"
 #include "weather/reports.h"
 #include "window/main_screen.h"
+#include "window/report_saving.h"
 #include "window/splash_screen.h"
 #include "window/window_shell.h"
 
@@ -90,10 +91,13 @@ void showMainWindow(WindowShell& shell) {
     shell.reportMissingSkin();
 }
 
-/// Behind the first run the program has a backup and no set yet: from the loop, as any dialog.
-void offerFirstSteps(Session& session) {
-    if (!session.state<FirstRun>().isDone) return;
-    QTimer::singleShot(0, [&session] { session.user.showModal(Screen::frm_Ready); });
+/// From the loop, as any dialog. Behind the first run the program has a backup and no set yet.
+void offerNextSteps(WindowShell& shell) {
+    QTimer::singleShot(0, &shell, [&shell] {
+        Session& session = shell.session();
+        if (session.state<FirstRun>().isDone) session.user.showModal(Screen::frm_Ready);
+        offerReport(session, shell.messageAnchor());
+    });
 }
 
 } // namespace
@@ -106,7 +110,7 @@ int runProgram(WindowShell& shell, const QString& commandLine) {
         tellActiveSkyProblem(session);
         loadBehindSplash(shell);
         showMainWindow(shell);
-        offerFirstSteps(session);
+        offerNextSteps(shell);
     };
     if (!commandLine.isEmpty()) session.writing->beUnattended();
     const bool isReady = startUp(session, InstallUse::writing, [&] {

@@ -48,7 +48,9 @@ SingleWindow::SingleWindow(const FilePath& installFolder)
 /// One that just starts or ends may not answer for a moment, and then its lock may be ours.
 bool SingleWindow::take(const QString& file) {
     const QDeadlineTimer deadline(answerMilliseconds);
+    bool isAlone = true;
     while (!lock_.tryTake()) {
+        isAlone = false;
         if (callOther(file)) return false;
         if (deadline.hasExpired()) {
             std::fprintf(stderr, "morvane: %s does not answer\n", qUtf8Printable(lock_.holder()));
@@ -56,6 +58,7 @@ bool SingleWindow::take(const QString& file) {
         }
         QThread::msleep(restMilliseconds);
     }
+    wasLastOneCut_ = isAlone && lock_.wasLeftBehind();
     QLocalServer::removeServer(name_); // what a killed one left
     server_.listen(name_);
     return true;

@@ -16,6 +16,9 @@ public:
     /// False when another process has the windows open; it was told to show them, and to open the file where
     /// one is named, and this one is to end.
     bool take(const QString& file = {});
+    /// Behind `take`: whether the last window program of this install was killed, or never came to its end
+    /// otherwise. False behind one that ended while this one waited for it.
+    bool wasLastOneCut() const { return wasLastOneCut_; }
     /// From now on the calls of later ones reach this shell, and their files.
     void serve(WindowShell& shell);
 
@@ -23,6 +26,7 @@ private:
     bool callOther(const QString& file) const;
 
     InstallLock lock_;
+    bool wasLastOneCut_ = false;
     QString name_; ///< by which the one calls the other, the same for every spelling of the folder
     QLocalServer server_;
 };

@@ -59,6 +59,7 @@ bool WindowUser::isSilent() const {
 }
 
 void WindowUser::showMessage(const Message& message) {
+    noteShown(message);
     if (shell_->session().writing->isUnattended) writeOnStandardError(message);
     if (taker() && !answers().isPending()) {
         if (!message.isProgress) taker()->takeMessage(message);
@@ -90,6 +91,7 @@ void WindowUser::hideMessage() {
 /// Which window will be shown once the job has ended is the job's to know, and the next click or key takes
 /// the line from all of them.
 void WindowUser::tellDone(const DoneLine& line) {
+    noteShown(line);
     for (const QString& name : windowNames)
         if (const Form* window = shell_->loadedForm(name)) window->findChild<FootLine*>()->tellDone(line);
 }
@@ -116,11 +118,14 @@ bool WindowUser::isMessageFormVisible() const {
 }
 
 bool WindowUser::systemBox(const QString& text, const QString& title, SystemBoxButtons buttons) {
+    noteShown(u"Box"_s, title, text);
     if (isSilent()) return false;
     QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? u"Morvane"_s : title, text, boxButtons(buttons),
                     boxParent());
     const int answer = box.exec();
-    return answer == QMessageBox::Ok || answer == QMessageBox::Yes;
+    const bool isYes = answer == QMessageBox::Ok || answer == QMessageBox::Yes;
+    noteShown(u"Answer"_s, title, isYes ? u"yes"_s : u"no"_s);
+    return isYes;
 }
 
 QString WindowUser::browseForFolder(const QString& startFolder) {

@@ -269,7 +269,7 @@ private:
 
     void importSimulator() {
         const FilePath scenery = current_->folder / u"Scenery";
-        const Job job(*session_);
+        const Job job(*session_, u"work"_s);
         importStock(*session_, job, StockSource{scenery / u"World\\texture", scenery / u"UTEurLC\\Texture"});
     }
 

@@ -35,22 +35,22 @@ TEST_F(WritingTest, aSecondWriterIsToldWhoTheFirstIsAndBeginsNothing) {
         second.writing->patience = {};
         second.writing->wasRefused = false;
         user.messages.clear();
-        EXPECT_FALSE(Job(second));
+        EXPECT_FALSE(Job(second, u"work"_s));
         const QString process = QString::number(QCoreApplication::applicationPid());
         EXPECT_TRUE(user.told().value(0).contains(u" (process %1)"_s.arg(process)));
         EXPECT_EQ(user.messages.back().isProgress, isUnattended) << "which waits for no click";
         EXPECT_TRUE(second.writing->wasRefused && !second.jobRunning);
     }
     first.reset();
-    EXPECT_FALSE(Job(second)) << "an unattended run that was refused once is over";
+    EXPECT_FALSE(Job(second, u"work"_s)) << "an unattended run that was refused once is over";
 }
 
 TEST_F(WritingTest, theWaitIsLeftByACancelAndByTheEndOfTheProgramWithoutAWord) {
     second.writing->patience = std::chrono::minutes(1);
     user.onPump = [this] { user.answers().cancelRequested = true; };
-    EXPECT_FALSE(Job(second));
+    EXPECT_FALSE(Job(second, u"work"_s));
     user.onPump = [this] { second.ExitInProgress.moveTo(ExitStage::sessionEnd); };
-    EXPECT_FALSE(Job(second));
+    EXPECT_FALSE(Job(second, u"work"_s));
     EXPECT_TRUE(user.told().isEmpty());
     EXPECT_FALSE(user.isMessageVisible() || user.answers().cancelRequested);
 }
@@ -61,7 +61,7 @@ TEST_F(WritingTest, rowsThatAnotherProgramChangedAreReadAnew) {
     install.addGroundSet("2-Storm", "Overcast", true);
     install.session.adoConn->execute(u"UPDATE TEXTURE_SWITCH SET ISHALO = TRUE"_s);
     first.reset();
-    const Job job(second);
+    const Job job(second, u"work"_s);
     EXPECT_EQ(second.rows<clsTextureSets>()->Count(), 2);
     EXPECT_TRUE(second.state<OptionsInForce>().IsHalo && second.state<GroundSelection>().RefreshGroundList);
     EXPECT_FALSE(reloadChangedRows(second)) << "once";
@@ -75,12 +75,14 @@ TEST(InstallLock, isHeldByWhoHoldsItsFileAndNotByANumber) {
     const FilePath file = folder / u"Writing.lock";
     std::optional<InstallLock> holder(std::in_place, folder.path(), u"Writing.lock"_s);
     InstallLock other(folder.path(), u"Writing.lock"_s);
-    EXPECT_TRUE(holder->tryTake());
+    EXPECT_TRUE(holder->tryTake() && !holder->wasLeftBehind());
     EXPECT_FALSE(other.tryTake());
     const QByteArray left = readFile(file);
     holder.reset();
     writeFile(file, left); // this process is alive, and did not write it
-    EXPECT_TRUE(other.tryTake());
+    EXPECT_TRUE(other.tryTake() && other.wasLeftBehind()) << "as behind a crash";
+    other.release();
+    EXPECT_TRUE(other.tryTake() && !other.wasLeftBehind()) << "not behind an end";
 }
 
 } // namespace

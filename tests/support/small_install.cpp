@@ -2,6 +2,7 @@
 
 #include "app/start_up.h"
 #include "core/flag_text.h"
+#include "core/program_log.h"
 #include "core/row_set.h"
 #include "core/store.h"
 #include "core/store_schema.h"
@@ -114,7 +115,7 @@ QMap<QString, QByteArray> contentsBelow(const FilePath& folder) {
     QDirIterator entry(root, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (entry.hasNext()) {
         const QString path = entry.next();
-        if (entry.fileName() == u"Morvane note.ini") continue;
+        if (entry.fileName() == u"Morvane note.ini" || entry.fileName() == logFileName) continue;
         contents.insert(path.mid(root.size() + 1), readFile(FilePath(path)));
     }
     return contents;

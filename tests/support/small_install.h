@@ -74,7 +74,7 @@ QString setStates(Session& session) {
 
 /// A picture file of one colour with a few marks, 24 bits.
 QByteArray smallBitmap(int side, int shade);
-/// Contents of every file below a folder, by path below it, the note in a simulator left out.
+/// Contents of every file below a folder, by path below it, the note in a simulator and the log left out.
 QMap<QString, QByteArray> contentsBelow(const FilePath& folder);
 
 } // namespace morvane::test

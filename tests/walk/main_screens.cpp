@@ -83,7 +83,9 @@ std::vector<WalkScreen> mainScreens() {
                       {u"cmdOpen4"_s, opens(u"https://ourairports.com/"_s)},
                       {u"cmdOpen5"_s, opens(u"https://www.flightsim.com/"_s)},
                       {u"cmdOpen6"_s, opens(u"https://www.fsdeveloper.com/"_s)}}},
-        {"about", u"frm_About"_s, page(u"frm_About"_s), false, mainWindowRows(u"btn_About"_s)},
+        {"about", u"frm_About"_s, page(u"frm_About"_s), false,
+         mainWindowRows(u"btn_About"_s) + WalkRows{{u"txtNews"_s, nothing("it is there to be read")},
+                                                   {u"cmdSaveReport"_s, shows(u"box Save a Report"_s)}}},
     };
 }
 

@@ -27,7 +27,7 @@ void openInformation(Walk& walk) {
 
 void openProgress(Walk& walk) {
     openHome(walk);
-    const Job job(walk.session());
+    const Job job(walk.session(), u"work"_s);
     UserInterface& user = walk.session().user;
     user.showMessage({MessageKind::progress, u"Working"_s, u"Please wait..."_s, false, true, true});
     while (user.isMessageVisible())

@@ -13,7 +13,9 @@
 #include "weather/weather_state.h"
 #include "window/form_table.h"
 #include "window/message_screen.h"
+#include "window/report_saving.h"
 #include "window/single_window.h"
+#include "window/typed_texts.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -22,6 +24,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
 
@@ -113,6 +116,21 @@ TEST_F(ShellTest, takesTheFileOfASecondStart) {
     const auto isDone = [&] { return isOpened && second.state() == QProcess::NotRunning; };
     EXPECT_TRUE(QTest::qWaitFor(isDone, 60000));
     EXPECT_EQ(second.exitCode(), 0);
+}
+
+TEST_F(ShellTest, aRunThatWasCutIsAskedAboutOnceAndWhatIsTypedIsNoBusinessOfTheLog) {
+    LastRun& last = program.session.state<LastRun>();
+    QStringList told = program.toldDuring([&] { offerReport(program.session, shell.messageAnchor()); });
+    EXPECT_TRUE(told.isEmpty());
+    last.wasCut = true;
+    const auto offer = [&] { offerReport(program.session, shell.messageAnchor()); };
+    told = program.toldDuring([&] { offer(), offer(); }, {u"Save a Report?"_s});
+    EXPECT_EQ(told, QStringList{u"Save a Report?"_s});
+    program.control<QLineEdit>(u"frm_AddFav"_s, u"txtFavName"_s).setText(u"Geheim storm"_s);
+    program.control<QPlainTextEdit>(u"frm_CC_From_Metar_String"_s, u"txtMetarString"_s)
+        .setPlainText(u"EHAM 9X"_s);
+    EXPECT_EQ(withoutPrivate(u"'GEHEIM STORM' of EHAM 9X, Morvane.log"_s, typedInWindows()),
+              u"'<typed>' of <typed>, Morvane.log"_s);
 }
 
 TEST_F(ShellTest, theStatusPageCountsSetsAndTellsOfAWideClient) {
@@ -271,7 +289,7 @@ struct MessageScreenTest : testing::Test {
 };
 
 TEST_F(MessageScreenTest, asksBeforeItCancelsAndOnlyWhereThatIsOffered) {
-    Job job(program.session);
+    Job job(program.session, u"work"_s);
     program.user.showMessage(progress);
     answerBox(QMessageBox::Cancel);
     control<QPushButton>(u"cmdCancel"_s).click();

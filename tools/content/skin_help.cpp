@@ -117,7 +117,9 @@ sets.</p>
 <h3>Links</h3>
 <p>Pages on the web that may help you.</p>
 <h3>About</h3>
-<p>The version of the program, for questions about it.</p>
+<p>The version of the program and what is new in it. <b>Save a report</b> writes what helps to find out what went wrong
+into one file: what the program told and did, versions, settings. Nothing that you typed is in it, and nothing is
+sent; pass it on to whom you ask.</p>
 
 <h2 id="originals">Getting your own textures back</h2>
 <p>Morvane keeps a copy of every file of the simulator before it replaces that file.</p>
