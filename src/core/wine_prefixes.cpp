@@ -15,8 +15,6 @@ namespace morvane {
 
 namespace {
 
-/// Those of prefixes with all that was ever installed have some fifty million bytes.
-
 /// A character that stands as "\x", "\u" or "\U" and its number, or as itself behind a "\".
 QString withoutEscapes(const QString& text) {
     static const QRegularExpression escape(

@@ -14,8 +14,6 @@ namespace morvane {
 
 namespace {
 
-/// What the programs that keep prefixes say of them is short.
-
 /// Where a program has its files: as packed by the distribution, and by Flatpak.
 QStringList dataFolders(const QString& flatpak) {
     return {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
