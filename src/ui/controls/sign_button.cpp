@@ -30,8 +30,7 @@ void SignButton::paintEvent(QPaintEvent* event) {
     QPushButton::paintEvent(event);
     QPainter painter(this);
     const QPointF centre(width() / 2.0, height() / 2.0);
-    const QColor colour =
-        QColor::fromRgb(palette::now(isEnabled() ? paper::text : paper::textOff));
+    const QColor colour = QColor::fromRgb(palette::now(isEnabled() ? paper::text : paper::textOff));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     if (sign_ == ButtonSign::reset) return paintReset(painter, centre);
