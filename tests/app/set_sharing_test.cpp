@@ -1,6 +1,7 @@
 // A look that pilots pass on: a set's colours in a small file.
 
 #include "app/joined_rooms.h"
+#include "app/logged_run.h"
 #include "core/store.h"
 #include "ground/ground_sets.h"
 #include "night/night_sets.h"
@@ -53,6 +54,15 @@ TEST_F(SetSharing, GroundAndNightComeBackAsFavourites) {
               &setKind<NightKind>());
     EXPECT_EQ(setStates<NightKind>(session), u"1-.._a_b"_s);
     EXPECT_TRUE(user.told().isEmpty()) << user.told().join(u'\n').toStdString();
+}
+
+TEST_F(SetSharing, TheLogNamesSetsByTheirKeys) {
+    const int ground = install.addGroundSet(u"7-Geheim storm"_s, u"Overcast"_s, true);
+    const int sky = install.addSkySet(u"8-Geheim"_s, u"Overcast"_s, true);
+    install.reload();
+    const QString text = u"8-Geheim with 7-GEHEIM storm, from "_s + session.AppPath.native() + u"/x and "_s;
+    EXPECT_EQ(withoutPrivate(session, text + session.FSPath.text()),
+              u"#%1 with #%2, from <data>/x and <simulator>"_s.arg(sky).arg(ground));
 }
 
 TEST_F(SetSharing, SkyBringsItsBaseSetAndTenTexts) {
