@@ -25,7 +25,7 @@ namespace {
 void decode(CommandContext& context) {
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly)) throw Error(ErrorCode::ioFailure);
-    const QByteArray text = input.read(largestCycle + 1);
+    const QByteArray text = readUpTo(input, largestCycle + 1);
     if (text.size() > largestCycle)
         throw Error::withDescription(ErrorCode::ioFailure,
                                      u"The input is "_s + tooLargeText(u"a cycle"_s, largestCycle));

@@ -4,6 +4,7 @@
 #include "core/numbers.h"
 #include "core/reading_limits.h"
 
+#include <QIODevice>
 #include <algorithm>
 
 namespace morvane {
@@ -41,6 +42,16 @@ QByteArray readAtMost(FileSystem& files, const FilePath& file, std::int64_t most
     if (contents.size() > most)
         throw Error::withDescription(ErrorCode::ioFailure,
                                      file.fileName() + u" is "_s + tooLargeText(kind, most));
+    return contents;
+}
+
+QByteArray readUpTo(QIODevice& device, std::int64_t most) {
+    QByteArray contents;
+    while (contents.size() < most) {
+        const QByteArray part = device.read(std::min<std::int64_t>(megabyte, most - contents.size()));
+        if (part.isEmpty()) break;
+        contents += part;
+    }
     return contents;
 }
 

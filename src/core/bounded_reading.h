@@ -4,6 +4,8 @@
 
 #include <QJsonDocument>
 
+class QIODevice;
+
 namespace morvane {
 
 /// The contents of a file of at most `most` bytes, a whole number of megabytes. Raises "NAME is far too large
@@ -12,6 +14,9 @@ namespace morvane {
 QByteArray readAtMost(FileSystem& files, const FilePath& file, std::int64_t most, const QString& kind);
 /// "far too large for a cycle: more than 64 MB".
 QString tooLargeText(const QString& kind, std::int64_t most);
+
+/// The next bytes of an open device, to its end or to so many: a single read of a pipe gives what is in it.
+QByteArray readUpTo(QIODevice& device, std::int64_t most);
 
 /// Raises "line 12 has more than 1 MB" for the first line beyond `longestTextLine`, and "the file has more
 /// than 1,000,000 lines" beyond `mostTextLines`.

@@ -1,3 +1,4 @@
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "core/file_system.h"
 #include "core/native_file_calls.h"
@@ -238,7 +239,7 @@ QByteArray NativeFileSystem::readPart(const FilePath& file, std::int64_t from, s
         if (!in.seek(from)) throw Error(ErrorCode::ioFailure, file.text());
         count = std::clamp<std::int64_t>(in.size() - from, 0, count);
     }
-    const QByteArray part = in.read(count);
+    const QByteArray part = readUpTo(in, count);
     if (in.error() != QFileDevice::NoError) throw Error(ErrorCode::ioFailure, file.text());
     return part;
 }
