@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/file_path.h"
+#include "core/literals.h"
 #include "core/reported.h"
 
 namespace morvane {

@@ -48,7 +48,7 @@ void keepTypedPrivate(const Command& command, const CommandContext& context) {
     for (const QString& text : typed)
         for (const auto& some : {typedTexts(text), folderTexts(pathOfArgument(text).text(), u"<typed>"_s)})
             texts.insert(texts.end(), some.begin(), some.end());
-    context.session.state<PrivateTexts>().sources.push_back([texts] { return texts; });
+    context.session.state<PrivateTexts>().sources.emplace_back([texts] { return texts; });
 }
 
 /// False after the message of what is missing.

@@ -104,7 +104,7 @@ int main(int argc, char** argv) {
     session.state<LastRun>().wasCut = window.wasLastOneCut();
     window.serve(shell);
     requests.handTo(shell);
-    session.state<PrivateTexts>().sources.push_back(typedInWindows);
+    session.state<PrivateTexts>().sources.emplace_back(typedInWindows);
     const LoggedRun run(session, u"morvane"_s, line.coverCode.isEmpty() ? QString() : u"for a cover"_s);
     shell.openFile(file);
     return runProgram(shell, line.coverCode);
