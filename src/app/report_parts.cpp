@@ -52,6 +52,7 @@ constexpr ReportedSetting settings[] = {
     {u"IsWideClient"},
     {u"InhibitCustomSplash"},
     {u"KeepUndo"},
+    {u"Palette"},
     {u"NonEnglishPath"},
     {u"DataFolder"},
     {u"WeatherFormat", SettingForm::ownText},
