@@ -9,27 +9,27 @@ export HOME=$root/home
 mkdir "$HOME"
 programs=$PWD/build/release/bin
 echo '#include <stdlib.h>
-int get_nprocs(void) { return atoi(getenv("WORKERS")); }' >"$root/workers.c"
-cc -shared -fPIC -o "$root/workers.so" "$root/workers.c"
+int get_nprocs(void) { return atoi(getenv("WORKERS")); }' | cc -shared -fPIC -xc -o build/workers.so - # no blank in its path
 "$programs/morvane-content" --home "$root/data" --simulator "$root/simulator" >/dev/null
 
 console() {
-    "$programs/morvane-cli" --home "$root/data" --answer yes "$@" >/dev/null 2>&1
+    "$programs/morvane-cli" --home "$root/data" --answer yes "$@" 2>/dev/null
 }
-console config set simulator "$root/simulator"
-console night favourite Lights 10:20:-30:40:50:-60
-name=$("$programs/morvane-cli" --home "$root/data" night list 2>/dev/null | grep -o '[0-9]*-Lights')
+console config set simulator "$root/simulator" >/dev/null
+console ground create 0 0 1 0 0 >/dev/null
+name=$(console ground list | grep -o '"TextureSet":"[0-9]*-[^"]*"' | cut -d '"' -f 4)
 
 for workers in 1 2 8; do
+    console ground deactivate "$name" >/dev/null
     most=0
-    WORKERS=$workers LD_PRELOAD=$root/workers.so console night activate "$name" &
+    WORKERS=$workers LD_PRELOAD=$PWD/build/workers.so "$programs/morvane-cli" --home "$root/data" --answer yes \
+        ground activate "$name" >/dev/null 2>&1 &
     while kill -0 $! 2>/dev/null; do
-        threads=$(ls "/proc/$!/task" 2>/dev/null | wc -l)
-        most=$((threads > most ? threads : most))
+        tasks=(/proc/$!/task/*)
+        most=$((${#tasks[@]} > most ? ${#tasks[@]} : most))
     done
     wait $!
-    (cd "$root/data/Night Texture Sets/$name" && find . -type f -exec md5sum {} + | sort -k 2) >"$root/by $workers"
+    (cd "$root/data/Texture Sets/$name" && find . -type f -exec md5sum {} + | sort -k 2) >"$root/by $workers"
     echo "$(wc -l <"$root/by $workers") files by $workers workers, at most $most threads"
     cmp "$root/by 1" "$root/by $workers"
-    console night deactivate "$name"
 done
