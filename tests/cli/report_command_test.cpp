@@ -40,7 +40,7 @@ struct Report : testing::Test {
     FilePath file = install.folder / u"Mein Gehéim.zip";
 
     QByteArray log() const { return readFile(logFiles(install.home())[0]); }
-    QMap<QString, QByteArray> saved() {
+    QMap<QString, QByteArray> saved() const {
         EXPECT_EQ(install.run(u"report"_s, {file.native()}).status, 0);
         return unzipped(readFile(file));
     }
