@@ -11,14 +11,12 @@ namespace {
 
 TEST(PrivateTexts, nothingOfThePilotsIsLeftInAText) {
     const HomeFolder homeFolder;
-    const QString home = homeFolder.path(), name = home.section(u'/', -1);
+    const QString home = QDir::homePath(), name = home.section(u'/', -1);
     const std::vector<PrivateText> known{
         {u"40-Störm"_s, u"#40"_s}, {u"40-Störm old"_s, u"#41"_s}, {u"/mnt/my sim"_s, u"<simulator>"_s}};
-    const std::pair<QString, QString> cases[] = {
+    std::vector<std::pair<QString, QString>> cases{
         {u"Path not found: %1/a b/c.bmp"_s.arg(home), u"Path not found: ~/a b/c.bmp"_s},
         {home.toUpper() + u"/A"_s, u"~/A"_s},
-        {QString(u"Z:"_s + home).replace(u'/', u'\\') + u"\\x"_s, u"~\\x"_s},
-        {u"c:\\USERS\\%1\\y, %2"_s.arg(name.toUpper(), home), u"c:\\users/~\\y, ~"_s},
         {home + u"x/y"_s, home + u"x/y"_s}, // another one's
         {u"The set 40-STÖRM old is gone"_s, u"The set #41 is gone"_s},
         {u"made of 40-Störm."_s, u"made of #40."_s},
@@ -32,6 +30,10 @@ TEST(PrivateTexts, nothingOfThePilotsIsLeftInAText) {
         {u"/mnt/x/Flight of Ann.flt is there"_s, u"/mnt/x/<file>.flt is there"_s},
         {u"a\r\nb\tc\x1b[2J\u202E"_s, u"a /  / b c [2J"_s},
     };
+    if (home.startsWith(u'/')) { // as programs in Wine have them
+        cases.emplace_back(QString(u"Z:"_s + home).replace(u'/', u'\\') + u"\\x"_s, u"~\\x"_s);
+        cases.emplace_back(u"c:\\USERS\\%1\\y, %2"_s.arg(name.toUpper(), home), u"c:\\users/~\\y, ~"_s);
+    }
     for (const auto& [text, clean] : cases)
         EXPECT_EQ(withoutPrivate(text, known), clean);
     EXPECT_LE(withoutPrivate(QString(100'000, u'a'), {}).size(), 2000);
