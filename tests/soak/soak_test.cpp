@@ -6,11 +6,11 @@
 #include "sets/set_removal.h"
 #include "simulator/simulator_restore.h"
 #include "simulator/undo_install.h"
+#include "support/system_files.h"
 #include "support/window_program.h"
 #include "weather/reports.h"
 #include "window/form_table.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <fstream>
 #include <iostream>
@@ -27,7 +27,7 @@ int rounds() {
 
 /// What a process holds and an install keeps.
 struct Held {
-    qint64 openFiles = 0; ///< none where the system does not list them
+    qint64 openFiles = 0; ///< or whatever the system counts with them
     qint64 memory = 0;    ///< in bytes, what lies in the machine's
     qint64 storeBytes = 0, rows = 0, keptFiles = 0;
 };
@@ -40,7 +40,7 @@ qint64 memoryHeld() {
 }
 
 Held heldBy(Session& session) {
-    Held held{QDir(u"/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size(), memoryHeld()};
+    Held held{openHandles(), memoryHeld()};
     for (const QString& table : session.adoConn->tables())
         for (RowSet rows(*session.adoConn, u"SELECT * FROM "_s + table); !rows.atEnd(); rows.next())
             ++held.rows;

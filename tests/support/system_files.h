@@ -20,6 +20,9 @@ extern const QString programEnding;
 /// The permission bits that the system keeps of these.
 unsigned modeHere(unsigned mode);
 
+/// What this process has open: files, and on some systems other things too.
+qint64 openHandles();
+
 /// A file that can be listed and not be read, while this lives.
 class UnreadableFile {
 public:

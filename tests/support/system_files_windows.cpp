@@ -17,6 +17,11 @@ unsigned modeHere(unsigned mode) {
     return (mode & 0200) != 0 ? 0666 : 0444;
 }
 
+qint64 openHandles() {
+    DWORD count = 0;
+    return GetProcessHandleCount(GetCurrentProcess(), &count) ? count : 0;
+}
+
 struct UnreadableFile::Hold {
     HANDLE handle;
 };
