@@ -100,6 +100,7 @@ TEST_F(ActiveSkyTest, isFoundStepByStep) {
 TEST_F(ActiveSkyTest, itsFileGivesAllItsLinesAndTheCycleItsOwnTime) {
     makeSupported();
     EXPECT_FALSE(session.state<WeatherState>().ASv6Imported);
+    install.clock.now = QDateTime({2007, 5, 31}, {0, 0}, Qt::UTC).toLocalTime(); // a moment of every zone
     writeExport("EHAM 1\r\nKSEA 141353Z\r\nLFPG 4", {14, 7});
     session.rows<clsWxFinders>() = std::make_unique<clsWxFinders>(session);
     ASSERT_TRUE(clsWxFinderData(session).GetWeatherFromASv6());
