@@ -44,18 +44,12 @@ std::vector<ZipEntry> entriesOf(Session& session) {
     return entries;
 }
 
-bool mayWrite(Session& session, const FilePath& file) {
-    return !session.files.exists(file) ||
-           session.user.ask(Question::replaceFile, u"Morvane Information"_s,
-                            u"%1 is there already. Write over it?"_s.arg(file.text()));
-}
-
 } // namespace
 
 Reported saveReport(Session& session, const FilePath& file) {
     bool isWritten = false;
     const bool cameToItsEnd = reportFailures(session.user, morvaneError, [&] {
-        if (!mayWrite(session, file)) return;
+        if (!mayReplace(session, file)) return;
         session.user.showMessage({MessageKind::progress, u"Save a Report"_s,
                                   u"Morvane is gathering the report.  Please wait......."_s, false, false,
                                   true});

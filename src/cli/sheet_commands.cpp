@@ -1,5 +1,6 @@
 #include "cli/command_helpers.h"
 #include "cli/command_tables.h"
+#include "core/file_helpers.h"
 #include "core/numbers.h"
 #include "sheets/set_sheets.h"
 #include "sheets/sheet_drawing.h"
@@ -16,17 +17,11 @@ bool isZoom(const QString& word) {
     return isDigits(word) && word.size() < 4 && word.toInt() >= smallestZoom && word.toInt() <= largestZoom;
 }
 
-bool mayWrite(CommandContext& context, const FilePath& target) {
-    return !context.session.files.exists(target) ||
-           context.user.ask(Question::replaceFile, u"Morvane Information"_s,
-                            u"%1 is there already. Write over it?"_s.arg(target.text()));
-}
-
 /// The last argument is the file.
 void save(CommandContext& context, Sheet sheet) {
     const FilePath target = pathOfArgument(context.arguments.last());
     if (sheet.textures.empty()) return fail(context, u"There are no textures to show"_s);
-    if (!mayWrite(context, target)) return;
+    if (!mayReplace(context.session, target)) return;
     const QString done = sheet.title + u": "_s + sheet.summary();
     SheetPictures pictures(context.session.files, context.session.AppPath, std::move(sheet));
     const int zoom = context.options.value(zoomOption, QString::number(savedZoom)).toInt();

@@ -76,6 +76,12 @@ QString getFileVersionText(FileSystem& files, const FilePath& path) {
     return u"%1.%2.%3.%4"_s.arg(part(10)).arg(part(8)).arg(part(14)).arg(part(12));
 }
 
+bool mayReplace(Session& session, const FilePath& file) {
+    return !session.files.exists(file) ||
+           session.user.ask(Question::replaceFile, u"Morvane Information"_s,
+                            u"%1 is there already. Write over it?"_s.arg(file.text()));
+}
+
 int versionPart(const QString& version, int index) {
     return version.split(u'.').value(index).toInt();
 }

@@ -23,6 +23,9 @@ Message unreadableFileMessage();
 /// else that would never end, such as a pipe.
 QByteArray readBounded(FileSystem& files, const FilePath& path, std::int64_t most);
 
+/// Nothing of that name is there, or the user has agreed that it is written over.
+bool mayReplace(Session& session, const FilePath& file);
+
 /// The user's folder of that number, with a separator behind it; empty for a number without a folder here.
 /// Known is 5, the documents.
 QString GetSpecialFolder(int number);

@@ -1,6 +1,7 @@
 #include "sets/set_sharing.h"
 
 #include "core/failure_report.h"
+#include "core/file_helpers.h"
 #include "core/job.h"
 #include "core/reading_limits.h"
 #include "sets/set_kind.h"
@@ -33,10 +34,7 @@ Reported exportSet(Session& session, const SetKind& kind, const QString& name, c
     const bool cameToItsEnd = reportFailures(session.user, morvaneError, [&] {
         SharedSet shared = kind.share(session, name);
         shared.author = author.trimmed();
-        const QString question = u"%1 is there already. Write over it?"_s.arg(file.text());
-        if (session.files.exists(file) &&
-            !session.user.ask(Question::replaceFile, u"Morvane Information"_s, question))
-            return;
+        if (!mayReplace(session, file)) return;
         session.files.write(file, sharedSetBytes(shared));
         isWritten = true;
     });

@@ -61,7 +61,8 @@ PaperPalette paletteNow(Session& session) {
     const WeatherState& weather = session.state<WeatherState>();
     const QString icao = weather.DepIcao.isEmpty() ? weather.DestIcao : weather.DepIcao;
     std::optional<Airport> airport;
-    if (!icao.isEmpty()) attempt([&] { airport = findAirport(session, icao); });
+    const bool isAsked = paletteChoice(session.registry) == PaletteChoice::byClock && !icao.isEmpty();
+    if (isAsked) attempt([&] { airport = findAirport(session, icao); });
     return paletteNow(session.registry, session.clock, airport);
 }
 

@@ -1,6 +1,7 @@
 #include "sheets/screens/set_sheet_screen.h"
 
 #include "core/failure_report.h"
+#include "core/file_helpers.h"
 #include "core/session.h"
 #include "sets/cloud_cover.h"
 #include "sets/sheet_request.h"
@@ -195,10 +196,7 @@ void frm_SetSheet::savePicture() {
                                           fileKinds(u"Pictures"_s, u"png"_s), u"png"_s);
     if (file.isEmpty()) return;
     const FilePath target(file);
-    if (session().files.exists(target) &&
-        !session().user.ask(Question::replaceFile, u"Morvane Information"_s,
-                            u"%1 is there already. Write over it?"_s.arg(file)))
-        return;
+    if (!mayReplace(session(), target)) return;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool isSaved = reportFailures(session().user, morvaneError, [&] {
         saveSheet(session().files, drawnSheet(loading_->pictures(), view_->zoom(), {.isCut = view_->isCut()}),
