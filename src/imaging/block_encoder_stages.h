@@ -20,16 +20,21 @@ using FloatRow = float[BlockGroup::blocks];
 /// side.
 struct GroupWork {
     FloatRow sum[3]; ///< of each channel over the sixteen pixels
+    WordRow isFlat;  ///< all bits where the pixels hardly differ
     /// The line on which the pixels are told apart, both halves alike. The magnitudes of the three add up to
     /// 127.5 at most, so that the product with a pixel fits 16 bits.
     WordRow direction[3];
     /// A pixel's weight, 0 to 3, is the number of these that its product with the direction exceeds; both
     /// halves.
     WordRow threshold[3];
-    WordRow ends[2]; ///< of 5, 6 and 5 bits
+    WordRow ends; ///< of 5, 6 and 5 bits, the first in the lower half and the second in the upper
 };
 
 constexpr float directionLength = 126;
+
+inline Words halves(unsigned value) {
+    return Lanes::words(static_cast<int>(value * 0x10001));
+}
 
 /// Two pixels of each block, one a half.
 struct PixelPair {
@@ -69,12 +74,11 @@ inline void storeDirection(GroupWork& work, std::size_t at, const Floats (&line)
         Lanes::store(&work.direction[i][at], Lanes::bothHalves(Lanes::rounded(line[i] * scale)));
 }
 
-/// A product that equals a threshold counts upward: the other way costs the worst picture a decibel.
 inline void storeThresholds(GroupWork& work, std::size_t at, Floats low, Floats high) {
     const float parts[] = {1.0F / 6.0F, 0.5F, 5.0F / 6.0F};
     for (std::size_t i = 0; i < 3; ++i) {
         const Words border = Lanes::rounded(low + (high - low) * Lanes::floats(parts[i]));
-        Lanes::store(&work.threshold[i][at], Lanes::bothHalves(Lanes::add(border, Lanes::words(-1))));
+        Lanes::store(&work.threshold[i][at], Lanes::bothHalves(border));
     }
 }
 
@@ -94,6 +98,14 @@ inline Floats spread(Words products, Floats sum, Floats otherSum) {
     return Lanes::floats(Lanes::leftBy<4>(products)) - sum * otherSum;
 }
 
+/// The sum of the squared distances of all pixels' channels from their mean: below one step each, ends of
+/// their own lose more by their rounding than they give.
+constexpr int flatBelow = 48;
+
+inline void storeFlatness(GroupWork& work, std::size_t at, Floats variance) {
+    Lanes::store(&work.isFlat[at], Lanes::greater(Lanes::words(16 * flatBelow), Lanes::rounded(variance)));
+}
+
 /// The matrix's greatest direction by three steps of the power method, begun with the row of the greatest
 /// variance.
 inline void storeMainDirection(GroupWork& work, std::size_t at, const Moments& moments,
@@ -103,6 +115,7 @@ inline void storeMainDirection(GroupWork& work, std::size_t at, const Moments& m
                  gg = spread(moments.greenGreen, sum[1], sum[1]),
                  gb = spread(moments.greenBlue, sum[1], sum[2]),
                  bb = spread(moments.blueBlue, sum[2], sum[2]);
+    storeFlatness(work, at, rr + gg + bb);
     const Floats isRed = Lanes::isAtLeast(rr, gg), most = Lanes::larger(rr, gg),
                  isBlue = Lanes::isAtLeast(bb, most);
     Floats line[3] = {Lanes::chosen(isBlue, rb, Lanes::chosen(isRed, rr, rg)),
@@ -214,8 +227,7 @@ inline void storeEnds(GroupWork& work, std::size_t at, const WeightSums& sums) {
         ends[0][i] = (sum - slope * weight) * Lanes::floats(0.0625F);
         ends[1][i] = ends[0][i] + slope * Lanes::floats(3.0F);
     }
-    Lanes::store(&work.ends[0][at], packed(ends[0]));
-    Lanes::store(&work.ends[1][at], packed(ends[1]));
+    Lanes::store(&work.ends[at], Lanes::either(packed(ends[0]), Lanes::leftBy<16>(packed(ends[1]))));
 }
 
 inline void refineEnds(const BlockGroup& group, GroupWork& work) {
@@ -238,45 +250,63 @@ inline void refineEnds(const BlockGroup& group, GroupWork& work) {
     }
 }
 
-inline void widen(Words end, Floats (&colour)[3]) {
-    const Words red = Lanes::rightBy<11>(end), blue = Lanes::both(end, Lanes::words(31)),
-                green = Lanes::both(Lanes::rightBy<5>(end), Lanes::words(63));
-    colour[0] = Lanes::floats(Lanes::either(Lanes::leftBy<3>(red), Lanes::rightBy<2>(red)));
-    colour[1] = Lanes::floats(Lanes::either(Lanes::leftBy<2>(green), Lanes::rightBy<4>(green)));
-    colour[2] = Lanes::floats(Lanes::either(Lanes::leftBy<3>(blue), Lanes::rightBy<2>(blue)));
+/// As readers widen them, which is by repeating their first bits: five bits at the top of a half, times
+/// 264 / 65536, are 8.25 times themselves, cut.
+inline PixelPair widened(Words ends) {
+    const Words five = halves(0xF800), six = halves(0x07E0);
+    return {Lanes::highProducts(Lanes::both(ends, five), halves(264)),
+            Lanes::highProducts(Lanes::both(ends, six), halves(8320)),
+            Lanes::highProducts(Lanes::both(Lanes::leftBy<11>(ends), five), halves(264))};
+}
+
+/// The two colours between the ends, each cut to a whole number as readers do: borders in the middle of what
+/// is really there are worth up to 0.8 decibels in a sky.
+inline Words between(Words ends) {
+    const Words turned = Lanes::either(Lanes::leftBy<16>(ends), Lanes::rightBy<16>(ends));
+    return Lanes::highProducts(Lanes::addHalves(Lanes::addHalves(ends, ends), turned), halves(21846));
+}
+
+inline void aimFromEndToEnd(GroupWork& work, std::size_t at, const PixelPair& ends) {
+    const Words channels[] = {ends.red, ends.green, ends.blue};
+    Floats line[3];
+    for (std::size_t i = 0; i < 3; ++i)
+        line[i] = Lanes::floats(
+            Lanes::signedRightBy<16>(Lanes::subtractHalves(channels[i], Lanes::leftBy<16>(channels[i]))));
+    storeDirection(work, at, line);
 }
 
 /// Direction and thresholds for the ends as a reader sees them.
 inline void aimAtEnds(GroupWork& work) {
     for (std::size_t at = 0; at < BlockGroup::blocks; at += Lanes::count) {
-        Floats first[3], second[3], line[3];
-        widen(Lanes::load(&work.ends[0][at]), first);
-        widen(Lanes::load(&work.ends[1][at]), second);
-        for (std::size_t i = 0; i < 3; ++i)
-            line[i] = second[i] - first[i];
-        storeDirection(work, at, line);
-        Floats low = Lanes::floats(0.0F), high = low;
-        for (std::size_t i = 0; i < 3; ++i) {
-            const Words both = Lanes::load(&work.direction[i][at]);
-            const Floats part = Lanes::floats(Lanes::signedRightBy<16>(both));
-            low = low + part * first[i];
-            high = high + part * second[i];
-        }
-        storeThresholds(work, at, low, high);
+        const PixelPair ends = widened(Lanes::load(&work.ends[at]));
+        aimFromEndToEnd(work, at, ends);
+        const Line line = lineAt(work, at);
+        const Words outer = line * ends,
+                    inner = line * PixelPair{between(ends.red), between(ends.green), between(ends.blue)};
+        const Words border = Lanes::averageHalves(outer, inner);
+        Lanes::store(&work.threshold[0][at], Lanes::bothHalves(border));
+        Lanes::store(&work.threshold[1][at],
+                     Lanes::bothHalves(Lanes::averageHalves(inner, Lanes::rightBy<16>(inner))));
+        Lanes::store(&work.threshold[2][at], Lanes::bothHalves(Lanes::rightBy<16>(border)));
     }
 }
 
-/// A block whose ends fell together is matched best by a point between two others.
-inline void spreadEqualEnds(GroupWork& work) {
-    for (std::size_t at = 0; at < BlockGroup::blocks; ++at) {
-        if (work.ends[0][at] != work.ends[1][at]) continue;
-        std::uint32_t mean[3];
-        for (std::size_t i = 0; i < 3; ++i)
-            mean[i] = (static_cast<std::uint32_t>(work.sum[i][at]) + 8) / 16;
-        const EndPair red = fiveBitEnds.of[mean[0]], green = sixBitEnds.of[mean[1]],
-                      blue = fiveBitEnds.of[mean[2]];
-        work.ends[0][at] = static_cast<std::uint32_t>(red.first << 11 | green.first << 5 | blue.first);
-        work.ends[1][at] = static_cast<std::uint32_t>(red.second << 11 | green.second << 5 | blue.second);
+inline std::uint32_t singleColourEnds(const GroupWork& work, std::size_t at) {
+    std::uint32_t mean[3];
+    for (std::size_t i = 0; i < 3; ++i)
+        mean[i] = (static_cast<std::uint32_t>(work.sum[i][at]) + 8) / 16;
+    return fiveBitEnds.of[mean[0]] << 11 | sixBitEnds.of[mean[1]] << 5 | fiveBitEnds.of[mean[2]];
+}
+
+/// Where the block is almost of one colour, or its ends fell together, a point between two others is a better
+/// match. Outside of skies few groups of lanes have such a block.
+inline void spreadCloseEnds(GroupWork& work) {
+    for (std::size_t at = 0; at < BlockGroup::blocks; at += Lanes::count) {
+        const Words ends = Lanes::load(&work.ends[at]);
+        const Words isEqual = Lanes::equal(Lanes::both(ends, Lanes::words(0xFFFF)), Lanes::rightBy<16>(ends));
+        unsigned lanes = Lanes::bitsOf(Lanes::either(isEqual, Lanes::load(&work.isFlat[at])));
+        for (std::size_t block = at; lanes != 0; ++block, lanes >>= 1)
+            if (lanes % 2 != 0) work.ends[block] = singleColourEnds(work, block);
     }
 }
 
@@ -297,7 +327,8 @@ inline Words indexesOf(const BlockGroup& group, const GroupWork& work, std::size
 /// The greater end goes first, which makes a block one of four colours, and where the ends are equal all
 /// indexes are 0: readers take equal ends for three colours, where only that one is safe.
 inline void storeBlocks(std::size_t at, Words indexes, const GroupWork& work, EncodedGroup& encoded) {
-    const Words first = Lanes::load(&work.ends[0][at]), second = Lanes::load(&work.ends[1][at]);
+    const Words ends = Lanes::load(&work.ends[at]);
+    const Words first = Lanes::both(ends, Lanes::words(0xFFFF)), second = Lanes::rightBy<16>(ends);
     const Words isTurned = Lanes::greater(second, first);
     const Words isOrdered = Lanes::greater(first, second);
     const Words turn = Lanes::both(Lanes::differing(first, second), isTurned);
@@ -327,7 +358,7 @@ inline void encodeAll(const BlockGroup& group, EncodedGroup& encoded) {
     // decibel.
     aimAtEnds(work);
     refineEnds(group, work);
-    spreadEqualEnds(work);
+    spreadCloseEnds(work);
     aimAtEnds(work);
     writeBlocks(group, work, encoded);
 }

@@ -41,11 +41,20 @@ struct Lanes {
         return _mm256_srai_epi32(value, bits);
     }
     static Words add(Words a, Words b) { return _mm256_add_epi32(a, b); }
+    static Words equal(Words a, Words b) { return _mm256_cmpeq_epi32(a, b); }
     static Words greater(Words a, Words b) { return _mm256_cmpgt_epi32(a, b); }
+
+    static unsigned bitsOf(Words mask) {
+        return static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(mask)));
+    }
 
     static Words addHalves(Words a, Words b) { return _mm256_add_epi16(a, b); }
     static Words subtractHalves(Words a, Words b) { return _mm256_sub_epi16(a, b); }
     static Words multiplyHalves(Words a, Words b) { return _mm256_mullo_epi16(a, b); }
+    static Words highProducts(Words a, Words b) { return _mm256_mulhi_epu16(a, b); }
+    static Words averageHalves(Words a, Words b) {
+        return addHalves(both(a, b), _mm256_srai_epi16(differing(a, b), 1));
+    }
     static Words smallerHalves(Words a, Words b) { return _mm256_min_epi16(a, b); }
     static Words largerHalves(Words a, Words b) { return _mm256_max_epi16(a, b); }
     static Words greaterHalves(Words a, Words b) { return _mm256_cmpgt_epi16(a, b); }

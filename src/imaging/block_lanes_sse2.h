@@ -42,11 +42,23 @@ struct Lanes {
         return _mm_srai_epi32(value, bits);
     }
     static Words add(Words a, Words b) { return _mm_add_epi32(a, b); }
+    static Words equal(Words a, Words b) { return _mm_cmpeq_epi32(a, b); }
     static Words greater(Words a, Words b) { return _mm_cmpgt_epi32(a, b); }
+
+    /// One bit a lane, the lowest first, of a mask of whole lanes.
+    static unsigned bitsOf(Words mask) {
+        return static_cast<unsigned>(_mm_movemask_ps(_mm_castsi128_ps(mask)));
+    }
 
     static Words addHalves(Words a, Words b) { return _mm_add_epi16(a, b); }
     static Words subtractHalves(Words a, Words b) { return _mm_sub_epi16(a, b); }
     static Words multiplyHalves(Words a, Words b) { return _mm_mullo_epi16(a, b); }
+    /// The upper 16 bits of the products, the halves taken as numbers without a sign.
+    static Words highProducts(Words a, Words b) { return _mm_mulhi_epu16(a, b); }
+    /// Cut downward.
+    static Words averageHalves(Words a, Words b) {
+        return addHalves(both(a, b), _mm_srai_epi16(differing(a, b), 1));
+    }
     static Words smallerHalves(Words a, Words b) { return _mm_min_epi16(a, b); }
     static Words largerHalves(Words a, Words b) { return _mm_max_epi16(a, b); }
     /// All bits of a half where it is so, that is -1.

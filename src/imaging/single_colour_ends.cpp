@@ -13,17 +13,17 @@ constexpr int widened(int value, int bits) {
     return value << (8 - bits) | value >> (2 * bits - 8);
 }
 
-/// Three times the distance; of equal ones the pair that lies closer together, as readers round in different
-/// ways.
+/// The distance of the point, cut as readers do; of equal ones that of the ends from each other, as not all
+/// readers round alike.
 constexpr int penalty(int value, int first, int second) {
-    return magnitude(2 * first + second - 3 * value) * 256 + magnitude(first - second);
+    return magnitude((2 * first + second) / 3 - value) * 256 + magnitude(first - second);
 }
 
-constexpr EndPair nearestPair(int value, int bits) {
+constexpr std::uint32_t nearestPair(int value, int bits) {
     int least = penalty(value, 0, 0);
-    EndPair nearest{0, 0};
+    std::uint32_t nearest = 0;
     const int around = value >> (8 - bits);
-    // Farther ends hit no value better than these.
+    // Farther ends hit a few values better, but only for readers that cut exactly so.
     constexpr int reach = 6;
     for (int first = around - reach; first <= around + reach; ++first)
         for (int second = around - reach; second <= around + reach; ++second) {
@@ -31,7 +31,7 @@ constexpr EndPair nearestPair(int value, int bits) {
             const int found = penalty(value, widened(first, bits), widened(second, bits));
             if (found >= least) continue;
             least = found;
-            nearest = {static_cast<std::uint8_t>(first), static_cast<std::uint8_t>(second)};
+            nearest = static_cast<std::uint32_t>(second << 16 | first);
         }
     return nearest;
 }

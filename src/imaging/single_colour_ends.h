@@ -4,14 +4,11 @@
 
 namespace morvane {
 
-/// The ends whose point one third of the way from the first to the second comes nearest to a value.
-struct EndPair {
-    std::uint8_t first, second;
-};
-
-/// For each value 0 to 255 of a channel of five or six bits. Either end may be the greater.
+/// For each value 0 to 255 of a channel of five or six bits: the ends whose point one third of the way from
+/// the first to the second comes nearest to it, the first in the lower 16 bits and the second in the upper.
+/// Either may be the greater.
 struct EndTable {
-    EndPair of[256];
+    std::uint32_t of[256];
 };
 extern const EndTable fiveBitEnds, sixBitEnds;
 

@@ -36,7 +36,10 @@ struct Lanes {
         return words(number(value) >> bits);
     }
     static Words add(Words a, Words b) { return a + b; }
+    static Words equal(Words a, Words b) { return a == b ? ~0U : 0U; }
     static Words greater(Words a, Words b) { return number(a) > number(b) ? ~0U : 0U; }
+
+    static unsigned bitsOf(Words mask) { return mask & 1; }
 
     static Words addHalves(Words a, Words b) {
         return ofHalves(a, b, [](int x, int y) { return x + y; });
@@ -46,6 +49,12 @@ struct Lanes {
     }
     static Words multiplyHalves(Words a, Words b) {
         return ofHalves(a, b, [](int x, int y) { return x * y; });
+    }
+    static Words highProducts(Words a, Words b) {
+        return (a & 0xFFFF) * (b & 0xFFFF) >> 16 | ((a >> 16) * (b >> 16) & 0xFFFF0000);
+    }
+    static Words averageHalves(Words a, Words b) {
+        return ofHalves(a, b, [](int x, int y) { return (x + y) >> 1; });
     }
     static Words smallerHalves(Words a, Words b) {
         return ofHalves(a, b, [](int x, int y) { return std::min(x, y); });
