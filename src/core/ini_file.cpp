@@ -1,8 +1,10 @@
 #include "core/ini_file.h"
 
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "core/literals.h"
 #include "core/numbers.h"
+#include "core/reading_limits.h"
 #include "core/text_decoding.h"
 
 #include <QRegularExpression>
@@ -101,9 +103,18 @@ int IniFile::number(const QString& section, const QString& key) const {
     return digits.match(text(section, key)).captured().toInt();
 }
 
+IniFile loadIni(FileSystem& files, const FilePath& file) {
+    try {
+        return IniFile::parse(readAtMost(files, file, largestSettings, u"a file of settings"_s));
+    } catch (const Error& error) {
+        if (error.code() == ErrorCode::fileNotFound) return {};
+        throw;
+    }
+}
+
 IniFile readIni(FileSystem& files, const FilePath& file) {
     try {
-        return IniFile::parse(files.read(file));
+        return loadIni(files, file);
     } catch (const Error&) {
         return {};
     }
@@ -125,9 +136,9 @@ QString GetIniString(FileSystem& files, const QString& section, const QString& k
 
 int WriteIni(FileSystem& files, const QString& section, const QString& key, const QString& value,
              const FilePath& file) {
-    IniFile ini = readIni(files, file);
-    ini.setRawValue(section, key, value);
     try {
+        IniFile ini = loadIni(files, file);
+        ini.setRawValue(section, key, value);
         files.write(file, ini.toBytes());
         return 1;
     } catch (const Error&) {

@@ -35,7 +35,10 @@ private:
     QStringList lines_;
 };
 
-/// The file as it stands there; empty where it is missing or cannot be read, as the system's profiles read.
+/// The file as it stands there; empty where it is missing. Raises where it cannot be read, or is larger than
+/// `largestSettings`: what is not known is not to be written over.
+IniFile loadIni(FileSystem& files, const FilePath& file);
+/// The same, and empty where it cannot be read, too, as the system's profiles read.
 IniFile readIni(FileSystem& files, const FilePath& file);
 /// The number of one value of a file, and its text, as IniFile gives them.
 int GetIniInt(FileSystem& files, const QString& section, const QString& key, const FilePath& file);

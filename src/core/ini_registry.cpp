@@ -20,15 +20,6 @@ QString sectionOf(int root, const QString& key) {
     return rootName(root) + u'\\' + key;
 }
 
-IniFile readRegistry(FileSystem& files, const FilePath& file) {
-    try {
-        return IniFile::parse(files.read(file));
-    } catch (const Error& error) {
-        if (error.code() == ErrorCode::fileNotFound) return {};
-        throw;
-    }
-}
-
 bool isDword(const QString& raw) {
     return raw.startsWith(dwordMark, Qt::CaseInsensitive);
 }
@@ -39,7 +30,7 @@ QString IniRegistry::rawValue(int root, const QString& key, const QString& name,
                               const QString& machine) const {
     if (rootName(root).isEmpty() || !machine.isEmpty()) return {};
     try {
-        return readRegistry(files_, file_).rawValue(sectionOf(root, key), name).value_or(QString());
+        return loadIni(files_, file_).rawValue(sectionOf(root, key), name).value_or(QString());
     } catch (const Error&) {
         return {};
     }
@@ -60,7 +51,7 @@ void IniRegistry::SetRegString(int root, const QString& key, const QString& name
     if (rootName(root).isEmpty() || !machine.isEmpty() || text.contains(u'\n') || text.contains(u'\r'))
         return;
     try {
-        IniFile ini = readRegistry(files_, file_);
+        IniFile ini = loadIni(files_, file_);
         if (!ini.hasSection(sectionOf(root, key))) return;
         ini.setRawValue(sectionOf(root, key), name, u'"' + text + u'"');
         files_.write(file_, ini.toBytes());
@@ -75,7 +66,7 @@ bool IniRegistry::RegValueIsDword(int root, const QString& key, const QString& n
 
 bool IniRegistry::hasValue(int root, const QString& key, const QString& name) const {
     try {
-        return readRegistry(files_, file_).rawValue(sectionOf(root, key), name).has_value();
+        return loadIni(files_, file_).rawValue(sectionOf(root, key), name).has_value();
     } catch (const Error&) {
         return false;
     }
@@ -84,7 +75,7 @@ bool IniRegistry::hasValue(int root, const QString& key, const QString& name) co
 bool IniRegistry::CreateRegKey(int root, const QString& key) {
     if (rootName(root).isEmpty()) return false;
     try {
-        IniFile ini = readRegistry(files_, file_);
+        IniFile ini = loadIni(files_, file_);
         if (ini.hasSection(sectionOf(root, key))) return true;
         ini.addSection(sectionOf(root, key));
         files_.write(file_, ini.toBytes());

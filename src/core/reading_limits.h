@@ -13,6 +13,7 @@ inline constexpr std::int64_t largestCycle = 64 * megabyte; ///< as it comes and
 inline constexpr std::int64_t largestPlan = 4 * megabyte;   ///< thousands of waypoints
 inline constexpr std::int64_t largestColourFile = megabyte; ///< ten colour texts in JSON
 inline constexpr std::int64_t largestSharedSet = 64 * kilobyte; ///< the largest look is a sky's, some 2 KB
+inline constexpr std::int64_t largestSettings = 4 * megabyte; ///< an INI, ours or the simulator's: some 10 KB
 inline constexpr std::int64_t largestRegistryFile = 256 * megabyte; ///< passed over
 inline constexpr std::int64_t largestPrefixNote = megabyte;         ///< of a keeper of prefixes: passed over
 inline constexpr std::int64_t largestSimulatorNote = 4 * kilobyte;  ///< passed over

@@ -103,7 +103,7 @@ void copyEach(const std::vector<FileCopy>& flights, Copy copy) {
 /// have hundreds.
 void writeList(Session& session) {
     const FilePath file = listFile(session);
-    IniFile list = session.files.exists(file) ? IniFile::parse(session.files.read(file)) : IniFile();
+    IniFile list = loadIni(session.files, file);
     const QStringList flights = session.files.list(flightsFolder(session), flightMask);
     list.setRawValue(section, totalKey, QString::number(flights.size()));
     for (qsizetype i = 0; i < flights.size(); ++i)

@@ -65,8 +65,7 @@ void loadSkyTuning(Session& session) {
 void saveLastSkySettings(Session& session) {
     if (!session.state<SkyTuningState>().isLoaded) return;
     const FilePath path = settingsFile(session);
-    IniFile settings;
-    if (session.files.exists(path)) settings = IniFile::parse(session.files.read(path));
+    IniFile settings = loadIni(session.files, path);
     settings.setRawValue(coverSection, onlyKey, trimmedBlanks(session.state<SkyTuningState>().cloudCover));
     settings.setRawValue(baseSection, onlyKey, trimmedBlanks(session.state<SkyTuningState>().baseSet));
     for (const SkyGroupConstants& group : skyGroups()) {

@@ -9,4 +9,8 @@ namespace morvane {
 /// 0 for any other event, and where windows are neither those of X nor of Windows.
 WId windowToClose(const QByteArray& type, const void* event);
 
+/// The session of the desktop is over, and the program killed as soon as it has taken this event. Windows
+/// alone says so.
+bool isSessionOver(const QByteArray& type, const void* event);
+
 } // namespace morvane

@@ -32,4 +32,8 @@ WId windowToClose(const QByteArray& type, const void* event) {
     return sent->type == protocols && sent->data.data32[0] == close ? sent->window : 0;
 }
 
+bool isSessionOver(const QByteArray&, const void*) {
+    return false;
+}
+
 } // namespace morvane

@@ -11,4 +11,9 @@ WId windowToClose(const QByteArray&, const void* event) {
     return isClose ? reinterpret_cast<WId>(sent->hwnd) : 0;
 }
 
+bool isSessionOver(const QByteArray&, const void* event) {
+    const auto* sent = static_cast<const MSG*>(event);
+    return sent->message == WM_ENDSESSION && sent->wParam != FALSE;
+}
+
 } // namespace morvane

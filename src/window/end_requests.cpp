@@ -40,6 +40,7 @@ bool EndRequests::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 bool EndRequests::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
+    if (isSessionOver(type, message)) Q_EMIT sessionIsOver();
     const WId id = windowToClose(type, message);
     QWidget* window = id ? QWidget::find(id) : nullptr;
     if (!shell_ || !window || !isBlocked(window) || !windowNames.contains(window->objectName())) return false;

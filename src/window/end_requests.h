@@ -13,6 +13,7 @@ class WindowShell;
 /// blocks, which the toolkit passes over. The shell acts on it; before there is one, an end leaves every
 /// loop. One lives at a time.
 class EndRequests : public QObject, public QAbstractNativeEventFilter {
+    Q_OBJECT
 public:
     EndRequests();
 
@@ -23,6 +24,10 @@ public:
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+
+Q_SIGNALS:
+    /// The last that the program hears: whoever is connected acts before it returns.
+    void sessionIsOver();
 
 private:
     void end();

@@ -85,6 +85,7 @@ int main(int argc, char** argv) {
     const FilePath folder(QFileInfo(home).absoluteFilePath());
     SingleWindow window(folder);
     if (line.coverCode.isEmpty() && !window.take(file)) return 0;
+    window.releaseBehind(requests);
     NativeFileSystem files;
     SystemClock clock;
     const auto registry =

@@ -1,6 +1,7 @@
 #include "window/single_window.h"
 
 #include "core/literals.h"
+#include "window/end_requests.h"
 #include "window/foreground.h"
 #include "window/window_shell.h"
 
@@ -85,6 +86,10 @@ void SingleWindow::serve(WindowShell& shell) {
         shell.bringToFront();
     };
     QObject::connect(&server_, &QLocalServer::newConnection, &shell, answer);
+}
+
+void SingleWindow::releaseBehind(EndRequests& requests) {
+    QObject::connect(&requests, &EndRequests::sessionIsOver, &server_, [this] { lock_.release(); });
 }
 
 } // namespace morvane

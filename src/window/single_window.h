@@ -6,6 +6,7 @@
 
 namespace morvane {
 
+class EndRequests;
 class WindowShell;
 
 /// Keeps an install to one window program at a time: a second one brings the first to the front.
@@ -21,6 +22,8 @@ public:
     bool wasLastOneCut() const { return wasLastOneCut_; }
     /// From now on the calls of later ones reach this shell, and their files.
     void serve(WindowShell& shell);
+    /// No crash is seen in a program that the system kills behind the session's end.
+    void releaseBehind(EndRequests& requests);
 
 private:
     bool callOther(const QString& file) const;

@@ -1,4 +1,5 @@
 #include "core/ini_file.h"
+#include "core/reading_limits.h"
 #include "core/registry.h"
 #include "support/temporary_folder.h"
 #include "support/testing.h"
@@ -36,6 +37,9 @@ TEST_F(IniFileTest, writesOneKeyAndKeepsTheRest) {
     EXPECT_EQ(WriteIni(files, "C", "four", "", file), 1);
     EXPECT_EQ(readFile(file), "; a remark\r\n[A]\r\nONE=2\r\nthree=3\r\n[B]\r\ntwo=Ünï\r\n[C]\r\nfour=\r\n");
     EXPECT_EQ(WriteIni(files, "A", "one", "1", folder / u"no such folder\\settings.cfg"), 0);
+    writeFile(file, QByteArray(largestSettings + 1, ';'));
+    EXPECT_EQ(WriteIni(files, "A", "one", "1", file), 0) << "nobody knows what stands in it";
+    EXPECT_EQ(readFile(file).size(), largestSettings + 1);
 }
 
 TEST_F(IniFileTest, theRegistryKeepsTextsAndTypes) {
