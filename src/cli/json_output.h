@@ -7,8 +7,8 @@
 
 namespace morvane {
 
-class clsWxFinder;
-class clsTextureSet;
+struct clsWxFinder;
+struct clsTextureSet;
 struct CatalogueFile;
 struct clsNightTextureSet;
 struct clsSkyTextureSet;
