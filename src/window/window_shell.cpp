@@ -207,9 +207,9 @@ void WindowShell::openWaitingFile() {
 void WindowShell::openHelp() {
     const FilePath folder = session().AppPath / u"MV Help";
     const bool hasCompiled = session().files.exists(folder / u"Morvane.chm");
-    const FilePath help = folder / (hasCompiled ? u"Morvane.chm" : u"index.html");
-    if (session().files.exists(help))
-        openOutside(QUrl::fromLocalFile(help.native()));
+    const FilePath page = folder / (hasCompiled ? u"Morvane.chm" : u"index.html");
+    if (session().files.exists(page))
+        openOutside(QUrl::fromLocalFile(page.native()));
     else
         showFailure(session().user, {u"Morvane Error"_s, MessageKind::exclamation},
                     u"There is no help file in "_s + folder.text());

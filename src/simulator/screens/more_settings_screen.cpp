@@ -20,20 +20,20 @@ namespace morvane {
 
 namespace {
 
-constexpr int left = 26, innerWidth = 648, undoWidth = 340, lastRow = 376;
+constexpr int sectionLeft = 26, innerWidth = 648, undoWidth = 340, lastRow = 376;
 
 } // namespace
 
 frm_MoreSettings::frm_MoreSettings(Shell& shellOfDialogs)
     : DialogForm(shellOfDialogs, u"frm_MoreSettings"_s, wideDialogLook, u"More Settings"_s) {
-    addSection(u"The simulator's folder"_s, {left, 84, innerWidth, 16});
-    lblSimulatorPath_ = makeLabel(this, {}, {left, 105, innerWidth, 18}, TextRole::value);
+    addSection(u"The simulator's folder"_s, {sectionLeft, 84, innerWidth, 16});
+    lblSimulatorPath_ = makeLabel(this, {}, {sectionLeft, 105, innerWidth, 18}, TextRole::value);
     lblSimulatorPath_->setObjectName(u"lblSimulatorPath"_s);
-    addSection(u"Where the weather comes from, in this order"_s, {left, 130, innerWidth, 16});
-    weather_ = new WeatherSourcesPanel(session(), {left, 155, innerWidth, 160}, this);
-    addSection(u"Room on the disk"_s, {left, 322, innerWidth, 16});
+    addSection(u"Where the weather comes from, in this order"_s, {sectionLeft, 130, innerWidth, 16});
+    weather_ = new WeatherSourcesPanel(session(), {sectionLeft, 155, innerWidth, 160}, this);
+    addSection(u"Room on the disk"_s, {sectionLeft, 322, innerWidth, 16});
     makeLabel(this, u"Sets, backups and originals: how much room they take, and what of it can go."_s,
-              {left, 348, 470, 18}, TextRole::body);
+              {sectionLeft, 348, 470, 18}, TextRole::body);
     auto* kept = new QPushButton(u"What Morvane keeps"_s, this);
     kept->setObjectName(u"cmdKept"_s);
     kept->setToolTip(u"Click to see what takes the room and to remove what you do not need."_s);
@@ -46,7 +46,7 @@ frm_MoreSettings::frm_MoreSettings(Shell& shellOfDialogs)
                u"get ready"_s,
                u"btn_Install"_s,
                u"Click to make what a first flight needs: a backup, sets for every weather, reports."_s,
-               {left, 443},
+               {sectionLeft, 443},
                u"Get Ready\nto Fly"_s});
     addCancelKey(u"Click to close."_s);
 }
@@ -57,12 +57,12 @@ void frm_MoreSettings::addSection(const QString& heading, const QRect& place) {
 }
 
 void frm_MoreSettings::addUndo() {
-    addSection(u"Undo"_s, {left, lastRow, undoWidth, 16});
-    lblUndoRoom_ = makeLabel(this, {}, {left + 60, lastRow, undoWidth - 60, 16}, TextRole::remark);
+    addSection(u"Undo"_s, {sectionLeft, lastRow, undoWidth, 16});
+    lblUndoRoom_ = makeLabel(this, {}, {sectionLeft + 60, lastRow, undoWidth - 60, 16}, TextRole::remark);
     lblUndoRoom_->setObjectName(u"lblUndoRoom"_s);
     chkUndo_ = new QCheckBox(u"Keep what is needed to undo the last install"_s, this);
     chkUndo_->setObjectName(u"chkUndo"_s);
-    chkUndo_->setGeometry(left, lastRow + 24, 320, 20);
+    chkUndo_->setGeometry(sectionLeft, lastRow + 24, 320, 20);
     connect(chkUndo_, &QCheckBox::clicked, this, [this](bool isWanted) {
         reportFailures(session().user, morvaneError, [&] { setUndoWanted(session(), isWanted); });
         showUndo();
@@ -83,7 +83,7 @@ void frm_MoreSettings::addPalette() {
                                u"for the weather, else at "
                                "52 degrees north."_s,
                                540}};
-    addSection(u"Palette"_s, {options[0].left, lastRow, left + innerWidth - options[0].left, 16});
+    addSection(u"Palette"_s, {options[0].left, lastRow, sectionLeft + innerWidth - options[0].left, 16});
     for (std::size_t index = 0; const Option& option : options) {
         auto* button = new QRadioButton(option.caption, this);
         button->setObjectName(option.name);
