@@ -8,7 +8,7 @@ namespace morvane {
 
 namespace {
 
-/// Nothing when none is. Compared once more: folded texts are alike where the names are not ("ß" and "ss").
+/// Nothing when none is.
 QString spellingAmong(const QStringList& names, const QString& name) {
     if (names.contains(name)) return name;
     const auto same = std::ranges::find_if(
@@ -31,26 +31,35 @@ FilePath DiskSpelling::spelled(const QString& path, bool isExact) {
     Folder& inside = folder(path.left(std::max<qsizetype>(end, 0)));
     const QString name = path.mid(end + 1);
     const FilePath asGiven = inside.path.exactChild(name);
-    QStringList& alike = inside.names[name.toCaseFolded()];
-    const QString known = spellingAmong(alike, name);
+    const QString known = inside.names.spellingOf(name);
     if (!known.isEmpty() && (!isExact || known == name || files_.exists(asGiven)))
         return inside.path.exactChild(known);
-    alike << name;
+    inside.names.add(name);
     return asGiven;
+}
+
+std::vector<FilePath> DiskSpelling::filesEndingWith(const QString& path, QStringView ending) {
+    const Folder& inside = folder(path);
+    std::vector<FilePath> found;
+    for (const QString& name : inside.names.endingWith(ending))
+        found.push_back(inside.path.exactChild(name));
+    return found;
 }
 
 DiskSpelling::Folder& DiskSpelling::folder(const QString& path) {
     if (!spelledFolders_.contains(path)) {
         const FilePath found = findFolder(path);
+        if (!folders_.contains(found.relative())) folders_.insert(found.relative(), list(found));
         spelledFolders_.insert(path, found.relative());
-        if (!folders_.contains(found.relative())) {
-            Folder& listed = folders_[found.relative()];
-            listed.path = found;
-            for (const QString& name : files_.list(found, u"*"_s))
-                listed.names[name.toCaseFolded()] << name;
-        }
     }
     return folders_[spelledFolders_.value(path)];
+}
+
+DiskSpelling::Folder DiskSpelling::list(const FilePath& folder) {
+    Folder listed{folder, {}};
+    files_.tellNames(folder, [&](QStringView name) { listed.names.add(name); });
+    listed.names.endListing();
+    return listed;
 }
 
 FilePath DiskSpelling::findFolder(const QString& path) {

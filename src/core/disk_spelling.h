@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/file_system.h"
+#include "core/folder_names.h"
 
 #include <QHash>
 
@@ -22,13 +23,16 @@ public:
     FilePath findExactly(const QString& path);
     /// The folder of that path, alike.
     FilePath findFolder(const QString& path);
+    /// The files with such an ending that the folder of that path had when it was listed.
+    std::vector<FilePath> filesEndingWith(const QString& folder, QStringView ending);
 
 private:
     struct Folder {
         FilePath path;
-        QHash<QString, QStringList> names; ///< by the name without regard to case
+        FolderNames names;
     };
     Folder& folder(const QString& path);
+    Folder list(const FilePath& folder);
     FilePath spelled(const QString& path, bool isExact);
 
     FileSystem& files_;

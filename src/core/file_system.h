@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <set>
@@ -39,6 +40,9 @@ public:
     /// Names of the files (never folders) that the mask takes, hidden and read-only ones included, sorted by
     /// upper-cased name: the order decides the order of a copy. A missing folder lists nothing.
     virtual QStringList list(const FilePath& folder, const QString& mask) = 0;
+    /// Tells the names of all its files in the order of the system; the text stands for the call alone.
+    /// Folders have thousands of names, and few are asked for.
+    virtual void tellNames(const FilePath& folder, const std::function<void(QStringView)>& tell) = 0;
     /// Names of the folders in it, sorted alike, links left out. A missing folder lists nothing.
     virtual QStringList listFolders(const FilePath& folder) = 0;
     /// How many files in the folder have such an ending and a name that is no text on this system: no listing
@@ -95,6 +99,7 @@ public:
     bool exists(const FilePath& path) override;
     bool isFolder(const FilePath& path) override;
     QStringList list(const FilePath& folder, const QString& mask) override;
+    void tellNames(const FilePath& folder, const std::function<void(QStringView)>& tell) override;
     QStringList listFolders(const FilePath& folder) override;
     int namelessFiles(const FilePath& folder, const QString& ending) override;
     void makeFolder(const FilePath& folder) override;

@@ -119,12 +119,15 @@ bool NativeFileSystem::isFolder(const FilePath& path) {
 }
 
 QStringList NativeFileSystem::list(const FilePath& folder, const QString& mask) {
-    const std::optional<QStringList> names = namesOfFiles(folder.native());
-    if (!names) throw Error(ErrorCode::permissionDenied, folder.text());
     QStringList taken;
-    for (const QString& name : *names)
-        if (matchesMask(name, mask)) taken << name;
+    tellNames(folder, [&](QStringView name) {
+        if (matchesMask(name, mask)) taken << name.toString();
+    });
     return sortedByUpperName(taken);
+}
+
+void NativeFileSystem::tellNames(const FilePath& folder, const std::function<void(QStringView)>& tell) {
+    if (!tellNamesOfFiles(folder.native(), tell)) throw Error(ErrorCode::permissionDenied, folder.text());
 }
 
 int NativeFileSystem::namelessFiles(const FilePath& folder, const QString& ending) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QStringList>
-#include <optional>
+#include <functional>
 
 namespace morvane {
 
@@ -14,10 +14,11 @@ inline QString withSeparator(const QString& root) {
 /// that its folder has, or as given where there is none in any case.
 QString spelledAsOnDisk(const QString& root, const QStringList& names);
 
-/// Names of all in the folder that is no folder, a link taken for what it leads to and names that are no text
-/// left out; empty where there is no such folder, nothing where it cannot be read. Folders have thousands of
-/// names, so no file's properties are read where the system tells its kind with the name.
-std::optional<QStringList> namesOfFiles(const QString& folder);
+/// Tells the name of all in the folder that is no folder, a link taken for what it leads to and names that
+/// are no text left out; of no such folder none. False where it cannot be read. Folders have thousands of
+/// names, so no file's properties are read where the system tells its kind with the name, and the text, which
+/// stands for the call alone, takes memory for no name of plain letters.
+bool tellNamesOfFiles(const QString& folder, const std::function<void(QStringView)>& tell);
 
 /// Files whose names are no text on this system: no listing has them and no path reaches them.
 int countNamelessFiles(const QString& folder, const QString& ending);

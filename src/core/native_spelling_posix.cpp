@@ -42,6 +42,18 @@ QString spellingOnDisk(const QString& folder, const QString& name) {
     return found.isEmpty() ? name : found;
 }
 
+void tellName(const char* name, const std::function<void(QStringView)>& tell) {
+    char16_t plain[sizeof(dirent::d_name)];
+    char16_t* end = plain;
+    for (; *name > 0; ++name)
+        *end++ = static_cast<char16_t>(*name);
+    const char* const start = name - (end - plain);
+    if (*name == 0)
+        tell(QStringView(plain, end));
+    else if (QUtf8StringView(start).isValidUtf8())
+        tell(QFile::decodeName(start));
+}
+
 } // namespace
 
 QString spelledAsOnDisk(const QString& root, const QStringList& names) {
@@ -56,14 +68,12 @@ QString spelledAsOnDisk(const QString& root, const QStringList& names) {
     return path;
 }
 
-std::optional<QStringList> namesOfFiles(const QString& folder) {
+bool tellNamesOfFiles(const QString& folder, const std::function<void(QStringView)>& tell) {
     const Directory directory = openDirectory(folder);
-    QStringList names;
-    if (!directory) return errno == ENOENT || errno == ENOTDIR ? std::optional(names) : std::nullopt;
+    if (!directory) return errno == ENOENT || errno == ENOTDIR;
     while (const dirent* entry = readdir(directory.get()))
-        if (QUtf8StringView(entry->d_name).isValidUtf8() && !leadsToFolder(directory, *entry))
-            names << QFile::decodeName(entry->d_name);
-    return names;
+        if (!leadsToFolder(directory, *entry)) tellName(entry->d_name, tell);
+    return true;
 }
 
 int countNamelessFiles(const QString& folder, const QString& ending) {

@@ -8,11 +8,13 @@ QString spelledAsOnDisk(const QString& root, const QStringList& names) {
     return withSeparator(root) + names.join(u'/');
 }
 
-std::optional<QStringList> namesOfFiles(const QString& folder) {
+bool tellNamesOfFiles(const QString& folder, const std::function<void(QStringView)>& tell) {
     const QDir directory(folder);
-    if (!directory.exists()) return QStringList();
-    if (!directory.isReadable()) return std::nullopt;
-    return directory.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Unsorted);
+    if (!directory.exists()) return true;
+    if (!directory.isReadable()) return false;
+    for (const QString& name : directory.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Unsorted))
+        tell(name);
+    return true;
 }
 
 int countNamelessFiles(const QString&, const QString&) {

@@ -110,6 +110,10 @@ bool readHead(const QString& line, const FilePath& file, OriginalsText& text) {
 
 } // namespace
 
+QString folderOf(const QString& path) {
+    return path.left(std::max<qsizetype>(path.lastIndexOf(u'\\'), 0));
+}
+
 QByteArray headLine(const QString& simulator, std::uint64_t folderNumber) {
     return lineOf(
         {formatName, QString::number(currentVersion), QString::number(folderNumber), escaped(simulator)});

@@ -32,6 +32,9 @@ struct OriginalFact {
     QString where = {};
 };
 
+/// The folder of such a path; empty where it has none.
+QString folderOf(const QString& path);
+
 /// The whole of a list.
 struct OriginalsText {
     bool hasHead = false;           ///< lists of old had none

@@ -19,10 +19,6 @@ QString numbered(const QString& path, int number) {
     return path.left(end) + u" (%1)"_s.arg(number) + path.mid(end);
 }
 
-QString folderOf(const QString& path) {
-    return path.left(std::max<qsizetype>(path.lastIndexOf(u'\\'), 0));
-}
-
 } // namespace
 
 Originals::Originals(FileSystem& files, const FilePath& simulator, const FilePath& appPath,

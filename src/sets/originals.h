@@ -55,6 +55,8 @@ public:
 
     /// The target in the spelling of the disk, found without a look at each file.
     FilePath find(const FilePath& target);
+    /// Removes what killed runs left beside such a target.
+    void clearStraysBeside(const FilePath& target);
 
     /// Call it with all copies before the first of them is made: looks at every target, keeps the pilot's
     /// files and notes, in one write, what is about to be put where. A file that cannot be read or kept does
@@ -188,6 +190,7 @@ private:
     void settleUndone(const std::vector<OriginalFact>& undone);
 
     void clearStrays();
+    void clearStraysIn(const QString& folder);
     /// What a file to be put back or taken away has been found to be.
     struct FoundFile {
         std::optional<SeenFile> standing = {}; ///< in its place
@@ -233,6 +236,7 @@ private:
     QSet<QString> pilots_;                      ///< where his own was put
     std::vector<FilePath> restored_;            ///< as they were before us, or gone as nothing was there
     QHash<QString, Error> failures_;            ///< by source or by path of the target
+    QSet<QString> cleared_;                     ///< folders without strays
     QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run
     QHash<QString, FilePath> copyFolders_; ///< made, by the folder below `folder_`
 };

@@ -36,14 +36,21 @@ OriginalsReport Originals::restore(const std::function<void(double)>& progress) 
 
 /// What killed runs left beside their targets, where we put files of ours or those of a backup.
 void Originals::clearStrays() {
-    QMap<QString, FilePath> folders;
-    const auto add = [&](const FilePath& folder) { folders.insert(folder.relative(), folder); };
     for (const QString& backedUp : {u"Scenery\\World\\Texture"_s, u"Scenery\\UTEurLC\\Texture"_s})
-        add(spelling_.findFolder(backedUp));
+        clearStraysIn(backedUp);
     for (const QString& path : list_.records().all().keys())
-        add(spelling_.find(path).parent());
-    for (const FilePath& folder : folders)
-        removePartialCopies(files_, folder);
+        clearStraysIn(folderOf(path));
+}
+
+void Originals::clearStraysBeside(const FilePath& target) {
+    clearStraysIn(folderOf(target.relativeTo(simulator_)));
+}
+
+void Originals::clearStraysIn(const QString& folder) {
+    if (cleared_.contains(folder)) return;
+    cleared_.insert(folder);
+    for (const FilePath& stray : spelling_.filesEndingWith(folder, partialCopySuffix))
+        if (files_.exists(stray)) files_.remove(stray); // another spelling may stand for the same folder
 }
 
 bool Originals::holds(const FilePath& file, const FileFingerprint& print) const {

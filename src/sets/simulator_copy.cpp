@@ -5,8 +5,6 @@
 #include "sets/simulator_note.h"
 #include "sets/undo_step.h"
 
-#include <QSet>
-
 namespace morvane {
 
 Originals originalsOf(const Session& session) {
@@ -41,13 +39,8 @@ void SimulatorCopier::keepAll(const std::vector<FileCopy>& copies) {
 }
 
 void SimulatorCopier::clearStrays(const std::vector<FileCopy>& copies) {
-    QSet<QString> seen;
-    for (const FileCopy& copy : copies) {
-        const FilePath folder = copy.target.parent();
-        if (seen.contains(folder.relative())) continue;
-        seen.insert(folder.relative());
-        removePartialCopies(session_.files, folder);
-    }
+    for (const FileCopy& copy : copies)
+        originals_.clearStraysBeside(copy.target);
 }
 
 void SimulatorCopier::copy(const FileCopy& copy, const std::optional<SeenFile>& standing) {

@@ -1,3 +1,4 @@
+#include "core/disk_spelling.h"
 #include "core/file_path.h"
 #include "core/file_system.h"
 #include "core/safe_copy.h"
@@ -110,6 +111,34 @@ TEST(NativeFileSystem, aFailedWriteLeavesNothingAndNamesTheFile) {
     }
     EXPECT_EQ(readFile(target), "old");
     EXPECT_EQ(files.list(folder.path(), u"*"_s), (QStringList{u"source.bmp"_s, u"Ünï.bmp"_s}));
+}
+
+/// On a disk that tells letters apart.
+TEST(DiskSpelling, findsTheNameItselfElseTheFirstThatDiffersInCaseAlone) {
+    const TemporaryFolder folder;
+    NativeFileSystem files;
+    files.makeFolder(folder / u"Ünder\\inner.part");
+    for (const char16_t* name : {u"ab.bmp", u"Ab.bmp", u"aB.bmp", u"straße.bmp", u"Ärger.BMP", u"\u212A.bmp",
+                                 u"STRASSE.txt", u"a\U00010400.bmp", u"one.bmp.Part", u"part"})
+        files.write((folder / u"Ünder").exactChild(QStringView(name).toString()), "x");
+    DiskSpelling spelling(files, folder.path());
+    const std::pair<QStringView, QStringView> cases[] = {
+        {u"aB.bmp", u"aB.bmp"},
+        {u"AB.BMP", u"Ab.bmp"},
+        {u"äRGER.bmp", u"Ärger.BMP"},
+        {u"STRASSE.bmp", u"STRASSE.bmp"},
+        {u"k.bmp", u"\u212A.bmp"},
+        {u"strasse.TXT", u"STRASSE.txt"},
+        {u"A\U00010428.bmp", u"a\U00010400.bmp"},
+        {u"New.bmp", u"New.bmp"},
+        {u"new.bmp", u"New.bmp"},
+    };
+    for (const auto& [asked, found] : cases)
+        EXPECT_EQ(spelling.find(u"ünder\\"_s + asked.toString()).fileName(), found.toString());
+    EXPECT_EQ(spelling.findExactly(u"ünder\\STRAßE.bmp"_s).fileName(), "STRAßE.bmp");
+    const std::vector<FilePath> parts = spelling.filesEndingWith(u"Ünder"_s, u".part");
+    ASSERT_EQ(parts.size(), 1U);
+    EXPECT_EQ(parts[0].fileName(), "one.bmp.Part");
 }
 
 #endif

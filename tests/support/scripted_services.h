@@ -71,6 +71,9 @@ public:
     QStringList list(const FilePath& folder, const QString& mask) override {
         return act(folder).list(folder, mask);
     }
+    void tellNames(const FilePath& folder, const std::function<void(QStringView)>& tell) override {
+        act(folder).tellNames(folder, tell);
+    }
     QStringList listFolders(const FilePath& folder) override { return act(folder).listFolders(folder); }
     int namelessFiles(const FilePath& folder, const QString& ending) override {
         return act(folder).namelessFiles(folder, ending);
