@@ -33,7 +33,7 @@ FilePath DiskSpelling::spelled(const QString& path, bool isExact) {
     const FilePath asGiven = inside.path.exactChild(name);
     const QString known = inside.names.spellingOf(name);
     if (!known.isEmpty() && (!isExact || known == name || files_.exists(asGiven)))
-        return inside.path.exactChild(known);
+        return known == name ? asGiven : inside.path.exactChild(known);
     inside.names.add(name);
     return asGiven;
 }

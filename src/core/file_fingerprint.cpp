@@ -1,13 +1,25 @@
 #include "core/file_fingerprint.h"
 
-#include "core/native_check_sum.h"
-
+#include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace morvane {
 
+QByteArray CheckSum::hex() const {
+    if (*this == CheckSum()) return {};
+    return QByteArray::fromRawData(bytes.data(), bytes.size()).toHex();
+}
+
+CheckSum CheckSum::ofHex(const QByteArray& text) {
+    CheckSum sum;
+    const QByteArray bytes = QByteArray::fromHex(text);
+    if (std::cmp_equal(bytes.size(), sum.bytes.size())) std::ranges::copy(bytes, sum.bytes.begin());
+    return sum;
+}
+
 FileFingerprint fingerprintOf(const QByteArray& contents) {
-    return {contents.size(), QString::fromLatin1(sha1Of(contents).toHex())};
+    return {contents.size(), {sha1Of(contents)}};
 }
 
 FileFingerprint fingerprintOf(FileSystem& files, const FilePath& file) {

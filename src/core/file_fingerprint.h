@@ -1,16 +1,29 @@
 #pragma once
 
 #include "core/file_system.h"
+#include "core/native_check_sum.h"
 
 #include <cstdint>
 #include <optional>
 
 namespace morvane {
 
+/// SHA-1 of a file's bytes; nothing but zeros where none is known.
+struct CheckSum {
+    Sha1 bytes{};
+
+    bool operator==(const CheckSum&) const = default;
+    /// 40 small letters; none where no sum is known.
+    QByteArray hex() const;
+    QString text() const { return QString::fromLatin1(hex()); }
+    /// No sum from a text that is none.
+    static CheckSum ofHex(const QByteArray& text);
+};
+
 /// What tells one file's contents from another's.
 struct FileFingerprint {
     std::int64_t size = 0;
-    QString checksum; ///< SHA-1, hexadecimal
+    CheckSum checksum = {};
 
     bool operator==(const FileFingerprint&) const = default;
 };

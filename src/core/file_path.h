@@ -2,8 +2,11 @@
 
 #include <QString>
 #include <QStringList>
+#include <memory>
 
 namespace morvane {
+
+struct PathName;
 
 /// A path as the program speaks of it. The program and the simulator join their paths with "\" and read them
 /// without regard to case, while the folder may lie on a file system that knows case. Texts joined here take
@@ -31,18 +34,22 @@ public:
     /// A file beside this one whose name on the disk has that ending; in messages it goes by this one's name.
     FilePath withEnding(const QString& ending) const;
     /// A spelling was settled on, by `exactChild` or `resolved`.
-    bool isResolved() const { return !resolved_.isEmpty(); }
+    bool isResolved() const;
     /// The folder above; a path without joined names loses the last name of its root.
     FilePath parent() const;
 
-    bool isEmpty() const { return root_.isEmpty(); }
+    bool isEmpty() const;
     QString fileName() const;
     /// The part that was joined behind the root, with "\" between the names.
-    QString relative() const { return names_.join(u'\\'); }
+    QString relative() const { return relativeTo({}); }
     /// The part that was joined behind `folder`, which this path was joined from.
-    QString relativeTo(const FilePath& folder) const { return names_.mid(folder.names_.size()).join(u'\\'); }
+    QString relativeTo(const FilePath& folder) const;
     /// For messages: the path as joined, with the system's separators.
     QString text() const;
+    /// Whether they are joined alike, however they are spelled.
+    friend bool operator==(const FilePath& one, const FilePath& other) {
+        return one.last_ == other.last_ || one.text() == other.text();
+    }
     /// The path on this system. Each name is taken in the spelling found on the disk, if need be without
     /// regard to case; names that do not exist stay as joined. Exact spelling wins over any other.
     QString native() const;
@@ -50,10 +57,15 @@ public:
     FilePath resolved() const;
 
 private:
-    QString root_;
-    QStringList names_;
-    QString resolved_; ///< empty until looked up
+    explicit FilePath(std::shared_ptr<const PathName> last) : last_(std::move(last)) {}
+    FilePath settled(const QString& spelling) const;
+
+    /// Lists have thousands of paths that lie in few folders: the names above are shared. None in an empty
+    /// one.
+    std::shared_ptr<const PathName> last_;
 };
+
+std::size_t qHash(const FilePath& path, std::size_t seed = 0);
 
 /// True when the mask ("*" any run, "?" one character) takes the whole name, without regard to case.
 /// "*.*" takes every name, with or without a dot.

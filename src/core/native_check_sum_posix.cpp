@@ -4,8 +4,8 @@
 
 namespace morvane {
 
-QByteArray sha1Of(const QByteArray& bytes) {
-    QByteArray sum(SHA_DIGEST_LENGTH, Qt::Uninitialized);
+Sha1 sha1Of(const QByteArray& bytes) {
+    Sha1 sum;
     SHA1(reinterpret_cast<const unsigned char*>(bytes.constData()), static_cast<std::size_t>(bytes.size()),
          reinterpret_cast<unsigned char*>(sum.data()));
     return sum;

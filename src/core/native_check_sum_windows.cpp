@@ -1,6 +1,7 @@
 #include "core/native_check_sum.h"
 
 #include <QCryptographicHash>
+#include <algorithm>
 #include <limits>
 #include <windows.h>
 
@@ -26,14 +27,16 @@ PUCHAR bytesOf(const QByteArray& bytes) {
 
 } // namespace
 
-QByteArray sha1Of(const QByteArray& bytes) {
-    QByteArray sum(20, Qt::Uninitialized);
+Sha1 sha1Of(const QByteArray& bytes) {
+    Sha1 sum;
     const bool isInRange = bytes.size() <= std::numeric_limits<ULONG>::max();
     if (isInRange && sha1() &&
         BCryptHash(sha1(), nullptr, 0, bytesOf(bytes), static_cast<ULONG>(bytes.size()),
                    reinterpret_cast<PUCHAR>(sum.data()), static_cast<ULONG>(sum.size())) >= 0)
         return sum;
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+    const QByteArray otherwise = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+    std::copy_n(otherwise.cbegin(), sum.size(), sum.begin());
+    return sum;
 }
 
 } // namespace morvane

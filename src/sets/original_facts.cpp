@@ -2,9 +2,9 @@
 
 #include "core/error.h"
 #include "core/literals.h"
-#include "core/text_decoding.h"
 
 #include <QHash>
+#include <QVarLengthArray>
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -14,28 +14,47 @@ namespace morvane {
 namespace {
 
 constexpr int currentVersion = 2, octal = 8;
-const QString formatName = u"morvane-originals"_s;
+constexpr QByteArrayView formatName = "morvane-originals";
 
-constexpr std::pair<FactKind, QLatin1StringView> factWords[] = {
-    {FactKind::kept, QLatin1StringView("kept")},     {FactKind::added, QLatin1StringView("added")},
-    {FactKind::ours, QLatin1StringView("ours")},     {FactKind::mode, QLatin1StringView("mode")},
-    {FactKind::folder, QLatin1StringView("folder")}, {FactKind::gone, QLatin1StringView("gone")}};
+constexpr std::pair<FactKind, QByteArrayView> factWords[] = {
+    {FactKind::kept, "kept"}, {FactKind::added, "added"},   {FactKind::ours, "ours"},
+    {FactKind::mode, "mode"}, {FactKind::folder, "folder"}, {FactKind::gone, "gone"}};
 
-std::optional<FactKind> kindOf(const QString& word) {
+std::optional<FactKind> kindOf(QByteArrayView word) {
     for (const auto& [kind, known] : factWords)
         if (word == known) return kind;
     return std::nullopt;
 }
 
 /// Names may hold what ends columns and lines.
-QString escaped(QString text) {
-    for (const char16_t c : {u'%', u'\t', u'\n', u'\r', u'\0'})
-        text.replace(QChar(c), u"%%1"_s.arg(int(c), 2, 16, QChar(u'0')));
-    return text;
+bool isEscaped(char c) {
+    return c == '%' || c == '\t' || c == '\n' || c == '\r' || c == '\0';
 }
 
-QString unescaped(const QString& text) {
-    return QString::fromUtf8(QByteArray::fromPercentEncoding(text.toUtf8()));
+void addEscaped(QByteArray& line, const QString& text) {
+    const QByteArray bytes = text.toUtf8();
+    if (std::ranges::none_of(bytes, isEscaped)) {
+        line += bytes;
+        return;
+    }
+    for (const char c : bytes)
+        if (isEscaped(c))
+            line += '%' + QByteArray(1, c).toHex();
+        else
+            line += c;
+}
+
+QString unescaped(QByteArrayView text) {
+    if (!text.contains('%')) return QString::fromUtf8(text);
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(text.toByteArray()));
+}
+
+/// As Qt::ISODate, which takes the longest of all columns.
+void addDay(QByteArray& line, const QDate& day) {
+    if (!day.isValid()) return;
+    const int number = (day.year() * 100 + day.month()) * 100 + day.day();
+    const QByteArray digits = QByteArray::number(number).rightJustified(8, '0');
+    line += digits.first(4) + '-' + digits.sliced(4, 2) + '-' + digits.sliced(6);
 }
 
 /// The path as the program joins it; empty for one that would lead out of its folder.
@@ -47,44 +66,85 @@ QString insidePath(const QString& text) {
     }
 }
 
+/// Reads columns that most lines have in common with the one before.
+class CommonColumns {
+public:
+    /// One text for all facts of a path.
+    QString path(QByteArrayView text) {
+        if (text != pathText_) path_ = inside(unescaped(text));
+        pathText_ = text;
+        return path_;
+    }
+    QDate day(QByteArrayView text) {
+        if (text != dayText_) day_ = QDate::fromString(QString::fromLatin1(text), Qt::ISODate);
+        dayText_ = text;
+        return day_;
+    }
+
+private:
+    QString inside(const QString& text) {
+        const QString folder = folderOf(text);
+        const bool isKnown = !folder.isEmpty() && folder == folder_;
+        if (isKnown && FilePath::isChildName(text.mid(folder.size() + 1))) return text;
+        const QString path = insidePath(text);
+        if (path == text) folder_ = folder;
+        return path;
+    }
+
+    QByteArrayView pathText_, dayText_;
+    QString path_, folder_;
+    QDate day_;
+};
+
+/// None for zero.
 template <class Number>
-QString textOf(Number number, int base = 10) {
-    return number ? QString::number(number, base) : QString();
+void addNumber(QByteArray& line, Number number, int base = 10) {
+    if (number) line += QByteArray::number(number, base);
 }
 
-QByteArray lineOf(const QStringList& columns) {
-    return columns.join(u'\t').toUtf8() + '\n';
+using Columns = QVarLengthArray<QByteArrayView, 12>;
+
+Columns columnsOf(QByteArrayView line) {
+    Columns columns;
+    while (true) {
+        const qsizetype end = line.indexOf('\t');
+        columns.append(end < 0 ? line : line.first(end));
+        if (end < 0) return columns;
+        line = line.sliced(end + 1);
+    }
 }
 
 /// The columns in their order: fact, size, check sum, time, number, mode, day, where, path.
 constexpr int columnCount = 9;
 
-std::optional<OriginalFact> factOf(const QStringList& columns) {
+std::optional<OriginalFact> factOf(const Columns& columns, CommonColumns& common) {
     if (columns.size() != columnCount) return std::nullopt;
     const std::optional<FactKind> kind = kindOf(columns[0]);
-    const QString path = insidePath(unescaped(columns[8]));
+    const QString path = common.path(columns[8]), where = unescaped(columns[7]);
     if (!kind || path.isEmpty()) return std::nullopt;
     return OriginalFact{*kind,
                         path,
-                        {columns[1].toLongLong(), columns[2]},
+                        {columns[1].toLongLong(), CheckSum::ofHex(columns[2].toByteArray())},
                         columns[3].toLongLong(),
                         columns[4].toULongLong(),
                         columns[5].toUInt(nullptr, octal),
-                        QDate::fromString(columns[6], Qt::ISODate),
-                        unescaped(columns[7])};
+                        common.day(columns[6]),
+                        where == path ? path : where};
 }
 
 /// Lists of old: "kept" or "ours", size, check sum, path. Their paths were spelled as our own files are and
 /// stood for every spelling, so all facts of one file come under the first; a kept file lay under its path.
 class OldList {
 public:
-    std::optional<OriginalFact> factOf(const QStringList& columns) {
+    std::optional<OriginalFact> factOf(const Columns& columns) {
+        if (columns.size() != 4) return std::nullopt;
         const std::optional<FactKind> kind = kindOf(columns[0]);
-        const QString path = insidePath(columns.value(3));
-        if (columns.size() != 4 || path.isEmpty() || !kind) return std::nullopt;
+        const QString path = insidePath(QString::fromUtf8(columns[3]));
+        if (path.isEmpty() || !kind) return std::nullopt;
         QString& spelling = spellings_[path.toCaseFolded()];
         if (spelling.isEmpty()) spelling = path;
-        OriginalFact fact{*kind, spelling, {columns[1].toLongLong(), columns[2]}};
+        OriginalFact fact{
+            *kind, spelling, {columns[1].toLongLong(), CheckSum::ofHex(columns[2].toByteArray())}};
         if (fact.kind == FactKind::kept) fact.where = path;
         return fact;
     }
@@ -94,8 +154,8 @@ private:
 };
 
 /// False when the line is no head.
-bool readHead(const QString& line, const FilePath& file, OriginalsText& text) {
-    const QStringList columns = line.split(u'\t');
+bool readHead(QByteArrayView line, const FilePath& file, OriginalsText& text) {
+    const Columns columns = columnsOf(line);
     if (columns[0] != formatName) return false;
     if (columns.value(1).toInt() > currentVersion)
         throw Error::withDescription(ErrorCode::permissionDenied,
@@ -108,6 +168,14 @@ bool readHead(const QString& line, const FilePath& file, OriginalsText& text) {
     return true;
 }
 
+/// Takes the first line off the text, which ends in a line end.
+QByteArrayView takeLine(QByteArrayView& text) {
+    const qsizetype end = text.indexOf('\n');
+    const QByteArrayView line = text.first(end);
+    text = text.sliced(end + 1);
+    return line.endsWith('\r') ? line.chopped(1) : line;
+}
+
 } // namespace
 
 QString folderOf(const QString& path) {
@@ -115,28 +183,51 @@ QString folderOf(const QString& path) {
 }
 
 QByteArray headLine(const QString& simulator, std::uint64_t folderNumber) {
-    return lineOf(
-        {formatName, QString::number(currentVersion), QString::number(folderNumber), escaped(simulator)});
+    QByteArray line = formatName.toByteArray() + '\t' + QByteArray::number(currentVersion) + '\t' +
+                      QByteArray::number(qulonglong{folderNumber}) + '\t';
+    addEscaped(line, simulator);
+    return line += '\n';
 }
 
-QByteArray factLine(const OriginalFact& fact) {
-    const auto word =
-        std::ranges::find(factWords, fact.kind, &std::pair<FactKind, QLatin1StringView>::first)->second;
-    return lineOf({word, textOf(fact.print.size), fact.print.checksum, textOf(fact.time), textOf(fact.number),
-                   textOf(fact.mode, octal), fact.day.toString(Qt::ISODate), escaped(fact.where),
-                   escaped(fact.path)});
+void addFactLine(QByteArray& lines, const OriginalFact& fact) {
+    lines.append(
+        std::ranges::find(factWords, fact.kind, &std::pair<FactKind, QByteArrayView>::first)->second);
+    lines += '\t';
+    addNumber(lines, fact.print.size);
+    lines += '\t';
+    lines += fact.print.checksum.hex();
+    lines += '\t';
+    addNumber(lines, fact.time);
+    lines += '\t';
+    addNumber(lines, fact.number);
+    lines += '\t';
+    addNumber(lines, fact.mode, octal);
+    lines += '\t';
+    addDay(lines, fact.day);
+    lines += '\t';
+    addEscaped(lines, fact.where);
+    lines += '\t';
+    addEscaped(lines, fact.path);
+    lines += '\n';
+}
+
+qsizetype usualLength(const OriginalFact& fact) {
+    constexpr qsizetype otherColumns = 120;
+    return otherColumns + fact.where.size() + fact.path.size();
 }
 
 OriginalsText parseOriginals(const QByteArray& bytes, const FilePath& file) {
     OriginalsText text;
-    const QByteArray whole = bytes.first(bytes.lastIndexOf('\n') + 1); // without the line that a kill tore
-    QStringList lines = splitLines(QString::fromUtf8(whole));
-    if (!lines.isEmpty() && readHead(lines[0], file, text)) lines.removeFirst();
+    QByteArrayView left(bytes);
+    left.truncate(bytes.lastIndexOf('\n') + 1); // without the line that a kill tore
+    CommonColumns common;
     OldList old;
-    for (const QString& line : lines) {
-        if (line.contains(QChar())) continue; // blocks that a cut of power left out: two lines in one
-        const QStringList columns = line.split(u'\t');
-        const auto fact = text.hasHead ? factOf(columns) : old.factOf(columns);
+    for (bool isFirst = true; !left.isEmpty(); isFirst = false) {
+        const QByteArrayView line = takeLine(left);
+        if (isFirst && readHead(line, file, text)) continue;
+        if (line.contains('\0')) continue; // blocks that a cut of power left out: two lines in one
+        const Columns columns = columnsOf(line);
+        const auto fact = text.hasHead ? factOf(columns, common) : old.factOf(columns);
         if (fact) text.facts.push_back(*fact);
     }
     return text;

@@ -45,7 +45,9 @@ struct OriginalsText {
 
 /// The first line: the format's name, its version, number and path of the simulator's folder.
 QByteArray headLine(const QString& simulator, std::uint64_t folderNumber);
-QByteArray factLine(const OriginalFact& fact);
+void addFactLine(QByteArray& lines, const OriginalFact& fact);
+/// Room for that line, where names are of plain letters.
+qsizetype usualLength(const OriginalFact& fact);
 /// Stands in front of whatever is added to a list: the line that a kill tore must not swallow the next one,
 /// nor, torn inside its path, pass for a line about another file. The tab gives it a column too many.
 inline constexpr char tornLineEnd[] = "\t\n";

@@ -16,38 +16,50 @@ bool OriginalRecord::wasKept(const FileFingerprint& print) const {
     return std::ranges::find(kept, print, &OriginalFact::print) != kept.end();
 }
 
-std::vector<OriginalFact> OriginalRecord::facts() const {
-    std::vector<OriginalFact> facts = kept;
-    facts.insert(facts.end(), ours.begin(), ours.end());
-    for (const auto& fact : {madeFolder, added, takenMode})
-        if (fact) facts.push_back(*fact);
-    return facts;
-}
-
-void OriginalRecords::apply(const OriginalFact& fact) {
+void OriginalRecords::apply(OriginalFact fact) {
+    fact.path = oneText(fact.path);
     OriginalRecord& record = records_[fact.path];
+    const OriginalRecord::Mark mark{fact.mode, fact.day};
     switch (fact.kind) {
     case FactKind::kept:
-        record.kept.push_back(fact);
+        record.kept.push_back(std::move(fact));
         record.takenMode.reset(); // the mode is noted with the file
         break;
     case FactKind::ours:
         std::erase_if(record.ours, [&](const OriginalFact& other) { return other.print == fact.print; });
-        record.ours.push_back(fact);
+        record.ours.push_back(std::move(fact));
         break;
     case FactKind::added:
-        record.added = fact;
+        record.added = mark;
         break;
     case FactKind::mode:
-        record.takenMode = fact;
+        record.takenMode = mark;
         break;
     case FactKind::folder:
-        record.madeFolder = fact;
+        record.madeFolder = mark;
         break;
     case FactKind::gone:
         records_.remove(fact.path);
         break;
     }
+}
+
+void OriginalRecords::tellFacts(const std::function<void(const OriginalFact&)>& tell) const {
+    for (auto record = records_.begin(); record != records_.end(); ++record) {
+        for (const auto* facts : {&record->kept, &record->ours})
+            std::ranges::for_each(*facts, tell);
+        const auto tellMark = [&](FactKind kind, const std::optional<OriginalRecord::Mark>& mark) {
+            if (mark) tell({.kind = kind, .path = record.key(), .mode = mark->mode, .day = mark->day});
+        };
+        tellMark(FactKind::folder, record->madeFolder);
+        tellMark(FactKind::added, record->added);
+        tellMark(FactKind::mode, record->takenMode);
+    }
+}
+
+QString OriginalRecords::oneText(const QString& path) const {
+    const auto found = records_.find(path);
+    return found == records_.end() ? path : found.key();
 }
 
 const OriginalRecord& OriginalRecords::of(const QString& path) const {
@@ -61,8 +73,6 @@ void OriginalRecords::rename(const QString& from, const QString& to) {
     const auto setPath = [&](OriginalFact& fact) { fact.path = to; };
     std::ranges::for_each(renamed.kept, setPath);
     std::ranges::for_each(renamed.ours, setPath);
-    for (auto* fact : {&renamed.added, &renamed.takenMode, &renamed.madeFolder})
-        if (*fact) setPath(**fact);
     records_.insert(to, renamed);
 }
 

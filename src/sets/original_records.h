@@ -3,6 +3,7 @@
 #include "sets/original_facts.h"
 
 #include <QMap>
+#include <functional>
 #include <optional>
 
 namespace morvane {
@@ -12,7 +13,12 @@ struct OriginalRecord {
     std::vector<OriginalFact>
         kept; ///< oldest first: the pilot's, each kept before a copy of ours replaced it
     std::vector<OriginalFact> ours; ///< newest last; several where a run did not come to its end
-    std::optional<OriginalFact> added, takenMode, madeFolder;
+    /// All that is known beside the path of a fact of the other kinds.
+    struct Mark {
+        unsigned mode = 0;
+        QDate day = {};
+    };
+    std::optional<Mark> added, takenMode, madeFolder;
 
     /// A fact says that we put a file of those contents there.
     bool isOurs(const FileFingerprint& print) const;
@@ -20,22 +26,24 @@ struct OriginalRecord {
     bool isKept(const FileFingerprint& print) const;
     /// One of the pilot's has.
     bool wasKept(const FileFingerprint& print) const;
-    /// The facts that make the same record.
-    std::vector<OriginalFact> facts() const;
 };
 
 /// The facts of a list by the files that they are about.
 class OriginalRecords {
 public:
-    void apply(const OriginalFact& fact);
+    void apply(OriginalFact fact);
     OriginalRecord& operator[](const QString& path) { return records_[path]; }
     bool contains(const QString& path) const { return records_.contains(path); }
+    /// The path, in one text with its record's where it has one: thousands are kept in more than one place.
+    QString oneText(const QString& path) const;
     /// The record of that path; an empty one when nothing is known of it.
     const OriginalRecord& of(const QString& path) const;
     /// What was noted under one spelling goes by the other from now on.
     void rename(const QString& from, const QString& to);
 
     const QMap<QString, OriginalRecord>& all() const { return records_; }
+    /// The facts that make the same records.
+    void tellFacts(const std::function<void(const OriginalFact&)>& tell) const;
 
 private:
     QMap<QString, OriginalRecord> records_;

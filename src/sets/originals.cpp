@@ -44,14 +44,15 @@ FilePath Originals::find(const FilePath& target) {
     return spelling_.findExactly(path.left(end) + FilePath(target.native()).fileName());
 }
 
-OriginalFact Originals::factOf(FactKind kind, const FilePath& place) const {
-    OriginalFact fact{kind, place.relative()};
+OriginalFact Originals::factOf(FactKind kind, const QString& path) const {
+    OriginalFact fact{kind, path};
     fact.day = today_;
     return fact;
 }
 
-void Originals::prepare(const std::vector<FileCopy>& copies, const std::function<void()>& pump) {
-    prepareAll(copies, pump, true);
+std::vector<FilePath> Originals::prepare(const std::vector<FileCopy>& copies,
+                                         const std::function<void()>& pump) {
+    return prepareAll(copies, pump, true);
 }
 
 void Originals::keepAll(const std::vector<FileCopy>& copies) {
@@ -59,8 +60,8 @@ void Originals::keepAll(const std::vector<FileCopy>& copies) {
         copies, [] {}, false);
 }
 
-void Originals::prepareAll(const std::vector<FileCopy>& copies, const std::function<void()>& pump,
-                           bool areOurs) {
+std::vector<FilePath> Originals::prepareAll(const std::vector<FileCopy>& copies,
+                                            const std::function<void()>& pump, bool areOurs) {
     std::vector<FilePath> places;
     places.reserve(copies.size());
     for (const FileCopy& copy : copies)
@@ -75,6 +76,7 @@ void Originals::prepareAll(const std::vector<FileCopy>& copies, const std::funct
         pump();
     }
     addKept(facts);
+    return places;
 }
 
 /// Of several copies to one place the first keeps what stands there.
@@ -150,22 +152,22 @@ bool Originals::isOursOrKept(const FilePath& place, const FileFingerprint& print
 
 void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen, bool isOurs,
                             std::vector<OriginalFact>& facts) {
-    const QString path = place.relative();
+    const QString path = list_.records().oneText(place.relative());
     if (seen.sourceFailure) {
         failures_.insert(copy.source.text(), *seen.sourceFailure);
         return;
     }
     std::optional<Error> failure = seen.targetFailure;
-    if (!failure) failure = failureOf([&] { note(place, seen.target, isOurs, facts); });
+    if (!failure) failure = failureOf([&] { note(place, path, seen.target, isOurs, facts); });
     if (failure) {
         failures_.insert(path, *failure);
         return;
     }
     if (!isOurs) return;
-    announced_.insert(copy.source.text(), seen.source);
+    announced_.insert(copy.source, seen.source);
     if (seen.target.file && seen.target.file->print == seen.source) standing_.insert(path, *seen.target.file);
     if (list_.records().of(path).isOurs(seen.source)) return;
-    OriginalFact ours = factOf(FactKind::ours, place);
+    OriginalFact ours = factOf(FactKind::ours, path);
     ours.print = seen.source;
     ours.where = copy.source.relative();
     facts.push_back(ours);
@@ -173,9 +175,8 @@ void Originals::prepareCopy(const FileCopy& copy, const FilePath& place, const S
 
 /// Before the announcement is noted, not after: it would pass the pilot's file for ours where both have the
 /// same bytes.
-void Originals::note(const FilePath& place, const Standing& standing, bool isForOurs,
+void Originals::note(const FilePath& place, const QString& path, const Standing& standing, bool isForOurs,
                      std::vector<OriginalFact>& facts) {
-    const QString path = place.relative();
     if (looked_.contains(path)) return;
     if (standing.unknown) makeCopyFolder(path);
     if (standing.kept)
@@ -185,17 +186,17 @@ void Originals::note(const FilePath& place, const Standing& standing, bool isFor
     else if (standing.unknown)
         facts.push_back(keep(place, *standing.file, *standing.unknown));
     else if (!standing.file && isForOurs && !list_.records().contains(path))
-        facts.push_back(factOf(FactKind::added, place));
-    if (isForOurs) stood_.insert(path, stoodFact(place, standing, facts));
+        facts.push_back(factOf(FactKind::added, path));
+    if (isForOurs) stood_.insert(path, stoodFact(path, standing, facts));
     looked_.insert(path);
 }
 
 /// `facts`: its keeping is the last of them, where the file was not known before. In the place of what a cut
 /// of power left comes what was to stand there.
-OriginalFact Originals::stoodFact(const FilePath& place, const Standing& standing,
+OriginalFact Originals::stoodFact(const QString& path, const Standing& standing,
                                   const std::vector<OriginalFact>& facts) const {
-    if (!standing.file) return factOf(FactKind::added, place);
-    const OriginalRecord& record = list_.records().of(place.relative());
+    if (!standing.file) return factOf(FactKind::added, path);
+    const OriginalRecord& record = list_.records().of(path);
     const auto ours = std::ranges::find(record.ours, standing.file->print, &OriginalFact::print);
     const bool isKeptNow = standing.kept || (standing.unknown && !standing.isRemnant);
     OriginalFact fact = isKeptNow                   ? facts.back()
@@ -240,37 +241,39 @@ FilePath Originals::copyPlace(const QString& where) const {
 
 FilePath Originals::place(const FileCopy& copy, const std::optional<SeenFile>& standing) {
     const FilePath place = find(copy.target);
-    for (const QString& part : {copy.source.text(), place.relative()})
-        if (const auto failure = failures_.constFind(part); failure != failures_.cend()) throw *failure;
-    if (looked_.contains(place.relative())) return place;
+    const QString path = place.relative();
+    if (!failures_.isEmpty())
+        for (const QString& part : {copy.source.text(), path})
+            if (const auto failure = failures_.constFind(part); failure != failures_.cend()) throw *failure;
+    if (looked_.contains(path)) return place;
     std::vector<OriginalFact> facts;
     const bool isKnown =
         standing && isOursOrKept(place, standing->print) && isAsSeen(files_, place, standing);
-    note(place, isKnown ? Standing{standing} : see(copy, place), false, facts);
+    note(place, path, isKnown ? Standing{standing} : see(copy, place), false, facts);
     addKept(facts);
     return place;
 }
 
 bool Originals::stands(const FileCopy& copy, const FilePath& place) const {
     const auto seen = standing_.constFind(place.relative());
-    if (seen == standing_.cend() || announced_.value(copy.source.text()) != seen->print) return false;
+    if (seen == standing_.cend() || announced_.value(copy.source) != seen->print) return false;
     const bool isReplaced = files_.isLink(place) || seen->stamp.isReadOnly();
     return !isReplaced && isAsSeen(files_, place, *seen);
 }
 
 void Originals::notePlaced(const FileCopy& copy, const FilePath& place) {
-    const auto print = announced_.constFind(copy.source.text());
+    const auto print = announced_.constFind(copy.source);
     if (print == announced_.cend()) {
         pilots_.insert(place.relative());
         return;
     }
     const FileStamp stamp = files_.stamp(place);
-    OriginalFact ours = factOf(FactKind::ours, place);
+    OriginalFact ours = factOf(FactKind::ours, list_.records().oneText(place.relative()));
     ours.print = *print;
     ours.where = copy.source.relative();
     ours.time = stamp.time;
     ours.number = stamp.number;
-    placed_.insert(place.relative(), ours);
+    placed_.insert(ours.path, ours);
 }
 
 void Originals::settle() {
@@ -322,8 +325,8 @@ std::vector<KeptOriginal> Originals::list() const {
     for (const OriginalRecord& record : list_.records().all()) {
         int number = 0;
         for (const OriginalFact& fact : record.kept)
-            kept.push_back(
-                {fact.path, fact.print.size, fact.print.checksum, ++number, fact.day, fact.where, fact.mode});
+            kept.push_back({fact.path, fact.print.size, fact.print.checksum.text(), ++number, fact.day,
+                            fact.where, fact.mode});
     }
     return kept;
 }

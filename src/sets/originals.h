@@ -26,9 +26,7 @@ struct FileCopy {
     FilePath source; ///< joined behind the install folder
     FilePath target; ///< joined behind the simulator's folder
 
-    bool isFor(const FileCopy& other) const {
-        return source.text() == other.source.text() && target.text() == other.target.text();
-    }
+    bool isFor(const FileCopy& other) const { return source == other.source && target == other.target; }
 };
 
 /// What a restore did with the files that are known.
@@ -62,7 +60,8 @@ public:
     /// files and notes, in one write, what is about to be put where. A file that cannot be read or kept does
     /// not stop the others: its failure is raised by `place`. A first install takes its time here; `pump` is
     /// called after each copy's part.
-    void prepare(
+    /// Gives the place of each in the spelling of the disk.
+    std::vector<FilePath> prepare(
         const std::vector<FileCopy>& copies, const std::function<void()>& pump = [] {});
     /// The same for files of the pilot's own: only what stands in their places is kept.
     void keepAll(const std::vector<FileCopy>& copies);
@@ -151,20 +150,22 @@ private:
     bool isOursOrKept(const FilePath& place, const FileFingerprint& print) const;
     SeenCopy seeCopy(const FileCopy& copy, const FilePath& place, bool mayKeep) const;
     std::vector<bool> mayKeepAhead(const std::vector<FilePath>& places);
-    void prepareAll(const std::vector<FileCopy>& copies, const std::function<void()>& pump, bool areOurs);
+    std::vector<FilePath> prepareAll(const std::vector<FileCopy>& copies, const std::function<void()>& pump,
+                                     bool areOurs);
     void prepareCopy(const FileCopy& copy, const FilePath& place, const SeenCopy& seen, bool isOurs,
                      std::vector<OriginalFact>& facts);
     /// Adds what has to be noted before the file is replaced.
-    void note(const FilePath& place, const Standing& standing, bool isForOurs,
+    void note(const FilePath& place, const QString& path, const Standing& standing, bool isForOurs,
               std::vector<OriginalFact>& facts);
     OriginalFact keep(const FilePath& place, const SeenFile& file, const QByteArray& contents) const;
     QString keepCopy(const QString& path, const QByteArray& contents) const;
     void makeCopyFolder(const QString& path);
     FilePath copyPlace(const QString& where) const;
     void addKept(const std::vector<OriginalFact>& facts);
-    OriginalFact factOf(FactKind kind, const FilePath& place) const;
+    OriginalFact factOf(FactKind kind, const FilePath& place) const { return factOf(kind, place.relative()); }
+    OriginalFact factOf(FactKind kind, const QString& path) const;
 
-    OriginalFact stoodFact(const FilePath& place, const Standing& standing,
+    OriginalFact stoodFact(const QString& path, const Standing& standing,
                            const std::vector<OriginalFact>& facts) const;
     void settlePlaced();
 
@@ -229,14 +230,14 @@ private:
     QDate today_;
     OriginalsList list_;
     DiskSpelling spelling_;
-    QHash<QString, FileFingerprint> announced_; ///< by source
-    QMap<QString, OriginalFact> stood_;         ///< before the copies, by path
-    QHash<QString, SeenFile> standing_;         ///< with the bytes of a copy that is to go there
-    QHash<QString, OriginalFact> placed_;       ///< the last of each path
-    QSet<QString> pilots_;                      ///< where his own was put
-    std::vector<FilePath> restored_;            ///< as they were before us, or gone as nothing was there
-    QHash<QString, Error> failures_;            ///< by source or by path of the target
-    QSet<QString> cleared_;                     ///< folders without strays
+    QHash<FilePath, FileFingerprint> announced_; ///< by source
+    QMap<QString, OriginalFact> stood_;          ///< before the copies, by path
+    QHash<QString, SeenFile> standing_;          ///< with the bytes of a copy that is to go there
+    QHash<QString, OriginalFact> placed_;        ///< the last of each path
+    QSet<QString> pilots_;                       ///< where his own was put
+    std::vector<FilePath> restored_;             ///< as they were before us, or gone as nothing was there
+    QHash<QString, Error> failures_;             ///< by source or by path of the target
+    QSet<QString> cleared_;                      ///< folders without strays
     QSet<QString> looked_;                 ///< paths of which nothing has to be kept any more in this run
     QHash<QString, FilePath> copyFolders_; ///< made, by the folder below `folder_`
 };

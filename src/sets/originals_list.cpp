@@ -8,12 +8,12 @@ namespace morvane {
 
 OriginalsList::OriginalsList(FileSystem& files, const FilePath& simulator, const FilePath& folder)
     : files_(files), simulator_(simulator), folder_(folder) {
-    const OriginalsChoice choice = findOriginals(files, simulator, folder);
+    OriginalsChoice choice = findOriginals(files, simulator, folder);
     prefix_ = choice.prefix;
     isOnDisk_ = choice.isOnDisk;
     left_ = choice.left;
-    for (const OriginalFact& fact : choice.facts)
-        records_.apply(fact);
+    for (OriginalFact& fact : choice.facts)
+        records_.apply(std::move(fact));
 }
 
 void OriginalsList::add(const std::vector<OriginalFact>& facts) {
@@ -38,7 +38,7 @@ void OriginalsList::outlastACut(const std::vector<OriginalFact>& facts) {
 void OriginalsList::append(const std::vector<OriginalFact>& facts) {
     QByteArray lines = tornLineEnd;
     for (const OriginalFact& fact : facts)
-        lines += factLine(fact);
+        addFactLine(lines, fact);
     files_.append(file(originalsListName), lines);
     outlastACut(facts);
 }
@@ -54,9 +54,10 @@ void OriginalsList::write() {
     if (!left_.isEmpty()) writeDurably(files_, file(leftListName), left_);
     left_.clear();
     QByteArray text = headLine(simulator_.native(), files_.stamp(simulator_).number);
-    for (const OriginalRecord& record : records_.all())
-        for (const OriginalFact& fact : record.facts())
-            text += factLine(fact);
+    qsizetype size = text.size();
+    records_.tellFacts([&](const OriginalFact& fact) { size += usualLength(fact); });
+    text.reserve(size);
+    records_.tellFacts([&](const OriginalFact& fact) { addFactLine(text, fact); });
     writeDurably(files_, list, text);
     isOnDisk_ = true;
 }

@@ -146,12 +146,12 @@ unsigned Originals::modeAfter(const KnownFile& file, const FoundFile& found) {
 }
 
 void Originals::removeMadeFolders() {
-    std::vector<OriginalFact> folders;
-    for (const OriginalRecord& record : list_.records().all())
-        if (record.madeFolder) folders.push_back(*record.madeFolder);
-    std::ranges::sort(folders, std::greater(), [](const OriginalFact& fact) { return fact.path.size(); });
-    for (const OriginalFact& made : folders) { // the inner ones first
-        const FilePath folder = spelling_.find(made.path);
+    QStringList folders;
+    for (const auto& [path, record] : list_.records().all().asKeyValueRange())
+        if (record.madeFolder) folders << path;
+    std::ranges::sort(folders, std::greater(), &QString::size);
+    for (const QString& made : folders) { // the inner ones first
+        const FilePath folder = spelling_.find(made);
         try {
             if (!files_.isLink(folder)) files_.removeFolder(folder); // a link came later, from the pilot
         } catch (const Error& error) {

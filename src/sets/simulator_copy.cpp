@@ -21,15 +21,11 @@ void SimulatorCopier::prepare(const std::vector<FileCopy>& copies) {
     noteSimulator(session_);
     clearStrays(copies);
     // Outside a job a click could begin something else in the middle.
-    originals_.prepare(copies, [this] {
+    std::vector<FilePath> places = originals_.prepare(copies, [this] {
         if (session_.jobRunning) session_.user.pumpMessages();
         endWithSession(session_);
     });
     keepForUndo(session_, originals_);
-    std::vector<FilePath> places;
-    places.reserve(copies.size());
-    for (const FileCopy& copy : copies)
-        places.push_back(originals_.find(copy.target));
     ahead_.emplace(session_.files, originals_, copies, std::move(places));
 }
 

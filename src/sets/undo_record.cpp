@@ -29,7 +29,7 @@ QByteArray undoText(const UndoRecord& record) {
     QByteArray lines = headLine(record.simulator, 0);
     lines += mark + QJsonDocument(done).toJson(QJsonDocument::Compact) + '\n';
     for (const OriginalFact& fact : record.stood)
-        lines += factLine(fact);
+        addFactLine(lines, fact);
     return lines;
 }
 

@@ -24,7 +24,7 @@ QString pathOf(const FilePath& file) {
 }
 
 QString lineOf(const FilePath& file, const FileFingerprint& print) {
-    return QString::number(print.size) + u'\t' + print.checksum + u'\t' + pathOf(file) + u'\n';
+    return QString::number(print.size) + u'\t' + print.checksum.text() + u'\t' + pathOf(file) + u'\n';
 }
 
 /// By path without regard to case; those that are missing have none.
@@ -34,7 +34,7 @@ QMultiHash<QString, FileFingerprint> filesOf(const QString& text) {
         const QStringList fields = line.split(u'\t');
         if (fields.size() != 3) continue;
         const QString key = fields[0] == missingWord ? QString() : fields[2].toCaseFolded();
-        files.insert(key, {fields[0].toLongLong(), fields[1]});
+        files.insert(key, {fields[0].toLongLong(), CheckSum::ofHex(fields[1].toLatin1())});
     }
     return files;
 }

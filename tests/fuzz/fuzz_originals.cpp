@@ -6,7 +6,7 @@ namespace {
 QByteArray linesOf(const morvane::OriginalsText& list) {
     QByteArray lines = morvane::headLine(list.simulator, list.folderNumber);
     for (const morvane::OriginalFact& fact : list.facts)
-        lines += morvane::factLine(fact);
+        morvane::addFactLine(lines, fact);
     return lines;
 }
 

@@ -447,7 +447,7 @@ TEST_F(OriginalsTest, aListOfOldIsTakenOver) {
     writeFile(target(a), "ours");
     writeFile(target(other), "ours");
     writeFile(keptFiles / a, "abc");
-    const QByteArray ours = fingerprintOf(QByteArray("ours")).checksum.toUtf8();
+    const QByteArray ours = fingerprintOf(QByteArray("ours")).checksum.hex();
     writeFile(listFile, "\t\nours\t4\t" + ours + "\tTEXTURE\\A.bmp\n\t\nkept\t3\t" +
                             "a9993e364706816aba3e25717850c26c9cd0d89d\ttexture\\a.bmp\nours\t4\t" + ours +
                             "\tTexture\\other.bmp\nkept\t9\tbeef\t..\\..\\out.bmp\nkept\t12\ttorn");

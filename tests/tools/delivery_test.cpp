@@ -47,7 +47,7 @@ struct DeliveryTest : testing::Test {
             if (files.exists(file)) files.setReadOnly(file, false), files.remove(file);
             if (!piece.present.isNull()) writeFile(file, piece.present);
             if (!piece.known.isNull())
-                list += (fingerprintOf(piece.known).checksum + u'\t' + piece.path + u'\n').toUtf8();
+                list += (fingerprintOf(piece.known).checksum.text() + u'\t' + piece.path + u'\n').toUtf8();
         }
         writeFile(home / u"content.version", list + "0123456789"); // its last line was cut
         writeFile(home / u"Resources kept\\kept.lst",
@@ -55,7 +55,7 @@ struct DeliveryTest : testing::Test {
         files.setReadOnly(home / (theirs + u"protected.bmp"_s), true);
     }
     void deliver() {
-        Delivery delivery(files, home, {fingerprintOf(QByteArray("earlier")).checksum});
+        Delivery delivery(files, home, {fingerprintOf(QByteArray("earlier")).checksum.text()});
         for (const Piece& piece : pieces)
             if (!piece.delivered.isNull()) delivery.put(home / piece.path, asNow(piece.delivered));
         delivery.finish(2);
