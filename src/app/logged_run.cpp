@@ -63,7 +63,7 @@ Texts privateTextsOf(Session& session) {
 } // namespace
 
 QString withoutPrivate(Session& session, const QString& text) {
-    return withoutPrivate(text, privateTextsOf(session));
+    return text.isEmpty() ? QString() : withoutPrivate(text, privateTextsOf(session));
 }
 
 LoggedRun::LoggedRun(Session& session, const QString& program, const QString& what) : session_(session) {

@@ -92,7 +92,8 @@ void addOption(CLI::App& app, const CommandOption& option) {
 /// `slipOf`, in this program's words and in one line.
 class Grammar {
 public:
-    Grammar();
+    /// Of all that such a line can mean: most of a command's start is the grammar of others.
+    explicit Grammar(const QStringList& words);
     CommandLine read(const QStringList& words);
 
 private:
@@ -104,7 +105,7 @@ private:
     CLI::App program_;
 };
 
-Grammar::Grammar()
+Grammar::Grammar(const QStringList& words)
     : program_("Drives Morvane's engine. JSON goes to stdout, messages and progress to stderr.",
                programName) {
     program_.formatter(std::make_shared<HelpForm>());
@@ -118,7 +119,7 @@ Grammar::Grammar()
     for (const CommandOption& option : commonOptions())
         addOption(program_, option);
     for (const Command& command : commandTable())
-        add(command);
+        if (words.contains(subjectOf(command))) add(command);
     program_.footer(
         "'morvane-cli COMMAND --help' shows a command's operands and an example. Questions are asked at a\n"
         "terminal; elsewhere their answer is No, unless --answer says otherwise.");
@@ -209,7 +210,7 @@ CommandLine Grammar::read(const QStringList& words) {
 } // namespace
 
 CommandLine readCommandLine(const QStringList& words) {
-    return Grammar().read(words);
+    return Grammar(words).read(words);
 }
 
 } // namespace morvane

@@ -20,13 +20,9 @@ namespace morvane {
 
 namespace {
 
-QString firstWord(const Command& command) {
-    return command.words.section(u' ', 0, 0);
-}
-
 /// Those that share their first word stand together.
 void add(const Command& command, std::vector<Command>& table) {
-    const auto isKin = [&](const Command& each) { return firstWord(each) == firstWord(command); };
+    const auto isKin = [&](const Command& each) { return subjectOf(each) == subjectOf(command); };
     const auto lastKin = std::find_if(table.rbegin(), table.rend(), isKin);
     table.insert(lastKin == table.rend() ? table.end() : lastKin.base(), command);
 }
@@ -58,7 +54,7 @@ bool makeReady(const Command& command, InstallUse use, Session& session) {
         // What copies sets has to know whether a splash goes with them.
         session.state<OptionsInForce>().InhibitCustomSplash = isCustomSplashInhibited(session);
         // Whatever else runs is not held up by a weather program it does not ask.
-        if (firstWord(command) == u"metar") tellActiveSkyProblem(session);
+        if (subjectOf(command) == u"metar") tellActiveSkyProblem(session);
     } else if (command.needs == Needs::folder) {
         const QString problem = installFolderProblem(session.files, session.AppPath, use);
         if (!problem.isEmpty()) session.user.systemBox(problem, {}, SystemBoxButtons::ok);
@@ -68,6 +64,11 @@ bool makeReady(const Command& command, InstallUse use, Session& session) {
 }
 
 } // namespace
+
+QStringView subjectOf(const Command& command) {
+    const qsizetype end = command.words.indexOf(u' ');
+    return QStringView(command.words).first(end < 0 ? command.words.size() : end);
+}
 
 const std::vector<Command>& commandTable() {
     static const std::vector<Command> table = [] {

@@ -62,6 +62,9 @@ struct Command {
     QString example; ///< behind the program's name
 };
 
+/// Its first word.
+QStringView subjectOf(const Command& command);
+
 /// All of them, in the order of the help text.
 const std::vector<Command>& commandTable();
 

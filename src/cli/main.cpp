@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 using namespace morvane;
 
@@ -73,18 +74,20 @@ bool drawsWords(int argc, char** argv) {
 
 /// Words are drawn without a display; all other commands do without what that takes. Qt asks for the folder
 /// of a user's session in any case, and complains where there is none.
-std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, const QString& runFolder) {
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv,
+                                                  std::optional<QTemporaryDir>& runFolder) {
     if (!drawsWords(argc, argv)) return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", runFolder.toLocal8Bit());
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", runFolder.emplace().path().toLocal8Bit());
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const QTemporaryDir runFolder;
-    const auto application = makeApplication(argc, argv, runFolder.path());
+    std::optional<QTemporaryDir> runFolder;
+    const auto application = makeApplication(argc, argv, runFolder);
     leaveBytesAlone();
     const int status = runLine(QCoreApplication::arguments().mid(1));
     if (isOutputWhole()) return status;

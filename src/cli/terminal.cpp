@@ -27,8 +27,10 @@ bool isTerminal() {
     return isTerminalFile(stdin) && isTerminalFile(stderr);
 }
 
+/// Asked at each file of a run.
 bool isErrorTerminal() {
-    return isTerminalFile(stderr);
+    static const bool isTerminal = isTerminalFile(stderr);
+    return isTerminal;
 }
 
 /// Stdout goes before it, so that both in one file stand in the order in which they were said.

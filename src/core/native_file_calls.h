@@ -13,10 +13,14 @@ namespace morvane {
 /// Replaces a file of that name; from drive to drive it fails.
 std::error_code renameInOneStep(const std::filesystem::path& source, const std::filesystem::path& target);
 
-/// Copies up to so many bytes from one open file to the other without reading them, where the system and both
-/// drives can do that: some only note that two files share their blocks. Both files then stand behind what
-/// was copied. Of a failure nothing is told: the rest, copied in another way, meets it again.
-void copyInsideSystem(int source, int target, std::int64_t size);
+/// A plain file's bytes in as few calls to the system as can be. Nothing where it cannot be had so: read in
+/// another way, it tells why.
+std::optional<QByteArray> readPlainFile(const QString& file);
+
+/// Copies a plain file's contents without reading them, where the system and both drives can do that: some
+/// only note that two files share their blocks. False where it cannot be done so, or not to the end: copied in
+/// another way, it tells why.
+bool copyInsideSystem(const QString& source, const QString& target);
 
 /// Opens it so that what one call writes comes to its end in one piece, whatever other programs append there
 /// at the same time; makes it when missing. False as `QFile::open`.

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <linux/magic.h>
+#include <sys/stat.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 
@@ -15,13 +16,59 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
     return error;
 }
 
-void copyInsideSystem(int source, int target, std::int64_t size) {
-    while (size > 0) {
-        const ssize_t count =
-            ::copy_file_range(source, nullptr, target, nullptr, static_cast<std::size_t>(size), 0);
-        if (count <= 0) return;
-        size -= count;
+namespace {
+
+/// Closed with this.
+class Descriptor {
+public:
+    Descriptor(const QString& file, int flags)
+        : number_(::open(QFile::encodeName(file).constData(), flags | O_CLOEXEC, 0666)) {}
+    ~Descriptor() {
+        if (number_ >= 0) ::close(number_);
     }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int number() const { return number_; }
+
+private:
+    int number_;
+};
+
+/// Of one that is no plain file, or has no size, as those that the system makes up while they are read: none.
+std::int64_t sizeOfPlain(const Descriptor& file) {
+    struct stat known {};
+    return ::fstat(file.number(), &known) == 0 && S_ISREG(known.st_mode) ? known.st_size : 0;
+}
+
+} // namespace
+
+std::optional<QByteArray> readPlainFile(const QString& file) {
+    const Descriptor in(file, O_RDONLY);
+    const std::int64_t size = sizeOfPlain(in);
+    if (size == 0) return std::nullopt;
+    QByteArray contents(size, Qt::Uninitialized);
+    std::int64_t done = 0;
+    while (done < size) {
+        const ssize_t count =
+            ::read(in.number(), contents.data() + done, static_cast<std::size_t>(size - done));
+        if (count <= 0) return std::nullopt;
+        done += count;
+    }
+    return contents;
+}
+
+bool copyInsideSystem(const QString& source, const QString& target) {
+    const Descriptor in(source, O_RDONLY);
+    std::int64_t left = sizeOfPlain(in);
+    if (left == 0) return false;
+    const Descriptor out(target, O_WRONLY | O_CREAT | O_TRUNC);
+    while (left > 0) {
+        const ssize_t count =
+            ::copy_file_range(in.number(), nullptr, out.number(), nullptr, static_cast<std::size_t>(left), 0);
+        if (count <= 0) return false;
+        left -= count;
+    }
+    return true;
 }
 
 bool openToAppend(QFile& file) {

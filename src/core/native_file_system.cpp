@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <set>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -46,8 +47,13 @@ ErrorCode codeOf(QFileDevice::FileError error, ErrorCode otherwise) {
     }
 }
 
+/// In the system's own letters: the library takes its time to convert others.
 std::filesystem::path systemPath(const FilePath& path) {
-    return path.native().toStdU16String();
+    using Letter = std::filesystem::path::value_type;
+    if constexpr (std::is_same_v<Letter, char>)
+        return QFile::encodeName(path.native()).toStdString();
+    else
+        return path.native().toStdU16String();
 }
 
 void raise(const std::error_code& error, const FilePath& path) {
@@ -88,15 +94,13 @@ QStringList sortedByUpperName(const QStringList& names) {
     return sorted;
 }
 
-/// What the system copies by itself is not read here: see copyInsideSystem.
-void copyRest(QFile& in, QFile& out, const FilePath& source, const FilePath& target) {
-    QByteArray block(1, Qt::Uninitialized); // there is nothing left, most of the time
+void copyByBlocks(QFile& in, QFile& out, const FilePath& source, const FilePath& target) {
+    QByteArray block(copyBlockSize, Qt::Uninitialized);
     while (true) {
         const qint64 count = in.read(block.data(), block.size());
         if (count < 0) throw Error(ErrorCode::ioFailure, source.text());
         if (count == 0) break;
         writeAll(out, block.constData(), count, target);
-        block.resize(copyBlockSize);
     }
 }
 
@@ -155,12 +159,12 @@ void NativeFileSystem::makeFolder(const FilePath& folder) {
 }
 
 void NativeFileSystem::copyContents(const FilePath& source, const FilePath& target) {
-    QFile in(source.native());
+    const QString from = source.native(), to = target.native();
+    if (copyInsideSystem(from, to)) return;
+    QFile in(from), out(to);
     openFile(in, source, QIODevice::ReadOnly | QIODevice::Unbuffered, heldFiles_);
-    QFile out(target.native());
     openFile(out, target, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered, heldFiles_);
-    copyInsideSystem(in.handle(), out.handle(), in.size());
-    copyRest(in, out, source, target);
+    copyByBlocks(in, out, source, target);
 }
 
 void NativeFileSystem::rename(const FilePath& source, const FilePath& target) {
@@ -228,7 +232,9 @@ bool NativeFileSystem::isOnNetwork(const FilePath& folder) {
 }
 
 QByteArray NativeFileSystem::read(const FilePath& file) {
-    QFile in(file.native());
+    const QString path = file.native();
+    if (const auto contents = readPlainFile(path)) return *contents;
+    QFile in(path);
     openFile(in, file, QIODevice::ReadOnly, heldFiles_);
     const QByteArray contents = in.readAll();
     if (in.error() != QFileDevice::NoError) throw Error(ErrorCode::ioFailure, file.text());

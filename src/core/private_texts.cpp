@@ -12,6 +12,9 @@ namespace {
 
 constexpr qsizetype longestLine = 2000, longestTyped = 500, longestWord = 3;
 
+const QStringList fileEndings{u"morvaneset"_s, u"pln"_s, u"lnmpln"_s, u"flt"_s,
+                              u"wx"_s,         u"zip"_s, u"png"_s,    u"txt"_s};
+
 using Option = QRegularExpression::PatternOption;
 constexpr auto anyCase = Option::CaseInsensitiveOption | Option::UseUnicodePropertiesOption;
 
@@ -59,17 +62,26 @@ std::vector<PrivateText> homeTexts() {
 /// Names that no list knows any more, such as that of a set that was removed; those of files; and a home in
 /// the short spelling of Windows.
 void replaceNames(QString& line) {
-    static const std::pair<QRegularExpression, QString> rules[] = {
-        {QRegularExpression(u"'(\\d{1,5})-[^\\n]*'"_s), u"'#\\1'"_s},
-        {QRegularExpression(u"\\bset (\\d{1,5})-[^\\n]*"_s), u"set #\\1"_s},
-        {QRegularExpression(u"(texture sets[\\\\/])(\\d{1,5})-[^\\\\/\\n]*"_s, anyCase), u"\\1#\\2"_s},
-        {QRegularExpression(u"(users[\\\\/])[^\\\\/\\n\"]*~\\d"_s, anyCase), u"\\1~"_s},
-        {QRegularExpression(u"[^\\\\/\\n\"]*[^\\\\/\\n\"\\s]\\.(morvaneset|pln|lnmpln|flt|wx|zip|png|txt)"
-                            "(?![\\p{L}\\p{N}])"_s,
+    struct Rule {
+        QRegularExpression pattern; ///< made ready at its first use, which takes longer than the use
+        QString standIn;
+        QStringList hints; ///< one of them stands in what it finds
+    };
+    static const Rule rules[] = {
+        {QRegularExpression(u"'(\\d{1,5})-[^\\n]*'"_s), u"'#\\1'"_s, {u"'"_s}},
+        {QRegularExpression(u"\\bset (\\d{1,5})-[^\\n]*"_s), u"set #\\1"_s, {u"set "_s}},
+        {QRegularExpression(u"(texture sets[\\\\/])(\\d{1,5})-[^\\\\/\\n]*"_s, anyCase),
+         u"\\1#\\2"_s,
+         {u"texture sets"_s}},
+        {QRegularExpression(u"(users[\\\\/])[^\\\\/\\n\"]*~\\d"_s, anyCase), u"\\1~"_s, {u"~"_s}},
+        {QRegularExpression(u"[^\\\\/\\n\"]*[^\\\\/\\n\"\\s]\\.("_s + fileEndings.join(u'|') +
+                                u")(?![\\p{L}\\p{N}])"_s,
                             anyCase),
-         u"<file>.\\1"_s}};
-    for (const auto& [pattern, standIn] : rules)
-        line.replace(pattern, standIn);
+         u"<file>.\\1"_s, fileEndings}};
+    for (const Rule& rule : rules)
+        if (std::ranges::any_of(
+                rule.hints, [&](const QString& hint) { return line.contains(hint, Qt::CaseInsensitive); }))
+            line.replace(rule.pattern, rule.standIn);
 }
 
 QString asOneLine(QString text) {

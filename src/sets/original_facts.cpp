@@ -2,6 +2,7 @@
 
 #include "core/error.h"
 #include "core/literals.h"
+#include "sets/fact_format.h"
 
 #include <QHash>
 #include <QVarLengthArray>
@@ -13,48 +14,15 @@ namespace morvane {
 
 namespace {
 
-constexpr int currentVersion = 2, octal = 8;
-constexpr QByteArrayView formatName = "morvane-originals";
-
-constexpr std::pair<FactKind, QByteArrayView> factWords[] = {
-    {FactKind::kept, "kept"}, {FactKind::added, "added"},   {FactKind::ours, "ours"},
-    {FactKind::mode, "mode"}, {FactKind::folder, "folder"}, {FactKind::gone, "gone"}};
-
 std::optional<FactKind> kindOf(QByteArrayView word) {
     for (const auto& [kind, known] : factWords)
         if (word == known) return kind;
     return std::nullopt;
 }
 
-/// Names may hold what ends columns and lines.
-bool isEscaped(char c) {
-    return c == '%' || c == '\t' || c == '\n' || c == '\r' || c == '\0';
-}
-
-void addEscaped(QByteArray& line, const QString& text) {
-    const QByteArray bytes = text.toUtf8();
-    if (std::ranges::none_of(bytes, isEscaped)) {
-        line += bytes;
-        return;
-    }
-    for (const char c : bytes)
-        if (isEscaped(c))
-            line += '%' + QByteArray(1, c).toHex();
-        else
-            line += c;
-}
-
 QString unescaped(QByteArrayView text) {
     if (!text.contains('%')) return QString::fromUtf8(text);
     return QString::fromUtf8(QByteArray::fromPercentEncoding(text.toByteArray()));
-}
-
-/// As Qt::ISODate, which takes the longest of all columns.
-void addDay(QByteArray& line, const QDate& day) {
-    if (!day.isValid()) return;
-    const int number = (day.year() * 100 + day.month()) * 100 + day.day();
-    const QByteArray digits = QByteArray::number(number).rightJustified(8, '0');
-    line += digits.first(4) + '-' + digits.sliced(4, 2) + '-' + digits.sliced(6);
 }
 
 /// The path as the program joins it; empty for one that would lead out of its folder.
@@ -96,12 +64,6 @@ private:
     QDate day_;
 };
 
-/// None for zero.
-template <class Number>
-void addNumber(QByteArray& line, Number number, int base = 10) {
-    if (number) line += QByteArray::number(number, base);
-}
-
 using Columns = QVarLengthArray<QByteArrayView, 12>;
 
 Columns columnsOf(QByteArrayView line) {
@@ -127,7 +89,7 @@ std::optional<OriginalFact> factOf(const Columns& columns, CommonColumns& common
                         {columns[1].toLongLong(), CheckSum::ofHex(columns[2].toByteArray())},
                         columns[3].toLongLong(),
                         columns[4].toULongLong(),
-                        columns[5].toUInt(nullptr, octal),
+                        columns[5].toUInt(nullptr, baseOfModes),
                         common.day(columns[6]),
                         where == path ? path : where};
 }
@@ -156,8 +118,8 @@ private:
 /// False when the line is no head.
 bool readHead(QByteArrayView line, const FilePath& file, OriginalsText& text) {
     const Columns columns = columnsOf(line);
-    if (columns[0] != formatName) return false;
-    if (columns.value(1).toInt() > currentVersion)
+    if (columns[0] != factFormatName) return false;
+    if (columns.value(1).toInt() > factFormatVersion)
         throw Error::withDescription(ErrorCode::permissionDenied,
                                      u"The list of your kept files was written by a newer version of Morvane "
                                      u"and is left as it is: "_s +
@@ -180,40 +142,6 @@ QByteArrayView takeLine(QByteArrayView& text) {
 
 QString folderOf(const QString& path) {
     return path.left(std::max<qsizetype>(path.lastIndexOf(u'\\'), 0));
-}
-
-QByteArray headLine(const QString& simulator, std::uint64_t folderNumber) {
-    QByteArray line = formatName.toByteArray() + '\t' + QByteArray::number(currentVersion) + '\t' +
-                      QByteArray::number(qulonglong{folderNumber}) + '\t';
-    addEscaped(line, simulator);
-    return line += '\n';
-}
-
-void addFactLine(QByteArray& lines, const OriginalFact& fact) {
-    lines.append(
-        std::ranges::find(factWords, fact.kind, &std::pair<FactKind, QByteArrayView>::first)->second);
-    lines += '\t';
-    addNumber(lines, fact.print.size);
-    lines += '\t';
-    lines += fact.print.checksum.hex();
-    lines += '\t';
-    addNumber(lines, fact.time);
-    lines += '\t';
-    addNumber(lines, fact.number);
-    lines += '\t';
-    addNumber(lines, fact.mode, octal);
-    lines += '\t';
-    addDay(lines, fact.day);
-    lines += '\t';
-    addEscaped(lines, fact.where);
-    lines += '\t';
-    addEscaped(lines, fact.path);
-    lines += '\n';
-}
-
-qsizetype usualLength(const OriginalFact& fact) {
-    constexpr qsizetype otherColumns = 120;
-    return otherColumns + fact.where.size() + fact.path.size();
 }
 
 OriginalsText parseOriginals(const QByteArray& bytes, const FilePath& file) {
