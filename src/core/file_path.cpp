@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QVarLengthArray>
 #include <algorithm>
+#include <cstring>
 
 namespace morvane {
 
@@ -57,9 +58,14 @@ QString joined(QStringView start, const Names& names, QChar separator, qsizetype
     for (const PathName* name : names)
         size += name->text.size() + 1;
     QString text(size, Qt::Uninitialized);
-    QChar* end = std::ranges::copy(start, text.data()).out;
+    QChar* end = text.data();
+    const auto add = [&end](QStringView name) {
+        std::memcpy(end, name.data(), static_cast<std::size_t>(name.size()) * sizeof(QChar));
+        end += name.size();
+    };
+    add(start);
     for (qsizetype i = names.size() - 1 - passed; i >= 0; --i) {
-        end = std::ranges::copy(names[i]->text, end).out;
+        add(names[i]->text);
         if (i > 0) *end++ = separator;
     }
     text.truncate(end - text.constData());

@@ -13,9 +13,9 @@ namespace morvane {
 /// Replaces a file of that name; from drive to drive it fails.
 std::error_code renameInOneStep(const std::filesystem::path& source, const std::filesystem::path& target);
 
-/// A plain file's bytes in as few calls to the system as can be. Nothing where it cannot be had so: read in
+/// The file's bytes in as few calls to the system as can be. Nothing where they cannot be had so: read in
 /// another way, it tells why.
-std::optional<QByteArray> readPlainFile(const QString& file);
+std::optional<QByteArray> readAll(const QString& file);
 
 /// Copies a plain file's contents without reading them, where the system and both drives can do that: some
 /// only note that two files share their blocks. False where it cannot be done so, or not to the end: copied in

@@ -34,7 +34,7 @@ private:
     int number_;
 };
 
-/// Of one that is no plain file, or has no size, as those that the system makes up while they are read: none.
+/// Of one that is no plain file, or that the system makes up while it is read: none.
 std::int64_t sizeOfPlain(const Descriptor& file) {
     struct stat known {};
     return ::fstat(file.number(), &known) == 0 && S_ISREG(known.st_mode) ? known.st_size : 0;
@@ -42,18 +42,22 @@ std::int64_t sizeOfPlain(const Descriptor& file) {
 
 } // namespace
 
-std::optional<QByteArray> readPlainFile(const QString& file) {
+/// A pipe has to be read here, too: opened once more it would have lost who writes into it.
+std::optional<QByteArray> readAll(const QString& file) {
+    constexpr qsizetype firstBlock = 1 << 16;
     const Descriptor in(file, O_RDONLY);
     const std::int64_t size = sizeOfPlain(in);
-    if (size == 0) return std::nullopt;
-    QByteArray contents(size, Qt::Uninitialized);
-    std::int64_t done = 0;
-    while (done < size) {
-        const ssize_t count =
-            ::read(in.number(), contents.data() + done, static_cast<std::size_t>(size - done));
-        if (count <= 0) return std::nullopt;
+    QByteArray contents((size > 0 ? size : firstBlock) + 1, Qt::Uninitialized);
+    qsizetype done = 0;
+    while (true) {
+        const qsizetype room = contents.size() - done;
+        const ssize_t count = ::read(in.number(), contents.data() + done, static_cast<std::size_t>(room));
+        if (count < 0) return std::nullopt;
         done += count;
+        if (count == 0 || (size > 0 && count < room)) break;
+        if (count == room) contents.resize(2 * done);
     }
+    contents.truncate(done);
     return contents;
 }
 

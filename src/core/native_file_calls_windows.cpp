@@ -21,7 +21,7 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
     return lastErrorUnless(MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING));
 }
 
-std::optional<QByteArray> readPlainFile(const QString&) {
+std::optional<QByteArray> readAll(const QString&) {
     return std::nullopt;
 }
 

@@ -233,7 +233,7 @@ bool NativeFileSystem::isOnNetwork(const FilePath& folder) {
 
 QByteArray NativeFileSystem::read(const FilePath& file) {
     const QString path = file.native();
-    if (const auto contents = readPlainFile(path)) return *contents;
+    if (const auto contents = readAll(path)) return *contents;
     QFile in(path);
     openFile(in, file, QIODevice::ReadOnly, heldFiles_);
     const QByteArray contents = in.readAll();

@@ -6,6 +6,7 @@
 #include "core/safe_copy.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace morvane {
 
@@ -289,7 +290,7 @@ void Originals::settle() {
 /// bytes can tell.
 void Originals::settlePlaced() {
     const std::int64_t now = momentNow();
-    for (OriginalFact last : std::as_const(placed_)) {
+    for (OriginalFact last : std::exchange(placed_, {})) {
         if (!showsWritesFrom(now, last.time)) last.number = 0;
         OriginalRecord& record = list_.records()[last.path];
         const FileFingerprint stood = stood_.value(last.path).print;

@@ -40,7 +40,10 @@ public:
     /// A folder for copies; a restore of the originals takes it away when it is empty by then.
     void makeFolder(const FilePath& folder) { originals_.makeFolder(folder); }
     /// After the last copy of the list.
-    void finish() { originals_.settle(); }
+    void finish() {
+        ahead_.reset(); // has no more to do
+        originals_.settle();
+    }
 
 private:
     void put(const FileCopy& copy, const FilePath& place);

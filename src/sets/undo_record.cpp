@@ -28,6 +28,10 @@ QByteArray undoText(const UndoRecord& record) {
                            {u"rows"_s, record.rows}};
     QByteArray lines = headLine(record.simulator, 0);
     lines += mark + QJsonDocument(done).toJson(QJsonDocument::Compact) + '\n';
+    qsizetype size = lines.size();
+    for (const OriginalFact& fact : record.stood)
+        size += usualLength(fact);
+    lines.reserve(size);
     for (const OriginalFact& fact : record.stood)
         addFactLine(lines, fact);
     return lines;

@@ -108,7 +108,10 @@ void keepForUndo(Session& session, const Originals& originals) {
     for (const OriginalFact& fact : originals.stood())
         if (!known.contains(fact.path)) stood.push_back(fact);
     saveWhatGoesForEver(session, stood);
-    keeping.step.stood.insert(keeping.step.stood.end(), stood.begin(), stood.end());
+    if (keeping.step.stood.empty())
+        keeping.step.stood.swap(stood);
+    else
+        keeping.step.stood.insert(keeping.step.stood.end(), stood.begin(), stood.end());
     session.files.makeFolder(undoFolder(session));
     session.files.write(recordFile(session), undoText(keeping.step));
 }
