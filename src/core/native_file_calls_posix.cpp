@@ -54,7 +54,7 @@ std::optional<QByteArray> readAll(const QString& file) {
         const ssize_t count = ::read(in.number(), contents.data() + done, static_cast<std::size_t>(room));
         if (count < 0) return std::nullopt;
         done += count;
-        if (count == 0 || (size > 0 && count < room)) break;
+        if (count == 0 || done == size) break;
         if (count == room) contents.resize(2 * done);
     }
     contents.truncate(done);
