@@ -1,0 +1,105 @@
+#include "core/attempts.h"
+#include "core/store.h"
+#include "ground/ground_installation.h"
+#include "simulator/backup_files.h"
+#include "simulator/backup_removal.h"
+#include "simulator/backup_restore.h"
+#include "simulator/backups.h"
+#include "simulator/base_install.h"
+#include "simulator/options.h"
+#include "simulator/simulator_restore.h"
+#include "simulator/texture_switches.h"
+#include "simulator/undo_install.h"
+#include "support/small_install.h"
+
+namespace morvane::test {
+namespace {
+
+struct Work {
+    const char* name;
+    std::function<void(Session&)> run;
+    bool putsOursThere; ///< into the simulator
+};
+
+const Work works[] = {
+    {"install", [](Session& session) { GroundInstallation(session).installTextureSet(u"2-Red"_s); }, true},
+    {"base install", [](Session& session) { copyBaseResources(session, {addOnConfig}); }, true},
+    {"restored backup", restoreBackupOnRequest, true},
+    {"splash", [](Session& session) { setCustomSplashVal(session, true); }, true},
+    {"Netherlands", [](Session& session) { attempt([&] { switchDutch(session, true); }); }, true},
+    {"tropics", [](Session& session) { attempt([&] { switchTropical(session, true); }); }, true},
+    {"halo", [](Session& session) { attempt([&] { switchHalo(session, true); }); }, true},
+    {"backup", [](Session& session) { createBackup(session, false, true); }, false},
+    {"removed backup", [](Session& session) { removeBackup(session, u"1-Backup"_s); }, false},
+    {"undo", undoLastInstall, false},
+    {"originals", restoreOriginals, false},
+    {"originals asked for", askRestoreOriginals, false},
+};
+
+/// A set is installed, another one is at hand, and the backup would put back what was before both.
+struct RefusedWork : InstallTest {
+    void SetUp() override {
+        createBackup(session, false, true);
+        for (const QString& name : {u"1-Blue"_s, u"2-Red"_s})
+            install.addGroundSet(name, u"Sunny"_s, true, {"Texture\\029h2su6.bmp", "UTEurLC\\034b2su4.bmp"});
+        GroundInstallation(session).installTextureSet(u"1-Blue"_s);
+        user.onModal = [this](Screen) {
+            session.state<BackupChoice>().chosenBackup = u"1-Backup"_s;
+            session.state<BackupChoice>().backupConfirmed = true;
+        };
+    }
+    auto everything() const {
+        return std::pair(contentsBelow(install.simulator()), contentsBelow(install.home() / u"Backup"));
+    }
+    /// Of the works those that do nothing here, when nothing is in their way.
+    void expectEachToBeRefused(bool areAll) {
+        const auto before = everything();
+        for (const Work& work : works) {
+            if (!areAll && !work.putsOursThere) continue;
+            work.run(session);
+            EXPECT_TRUE(everything() == before) << work.name;
+            EXPECT_EQ(install.installedSets(), QStringList{u"1-Blue"_s}) << work.name;
+        }
+    }
+};
+
+TEST_F(RefusedWork, nothingBeginsInsideAJob) {
+    session.jobRunning = true; // a click while its events are served
+    expectEachToBeRefused(true);
+    session.jobRunning = false;
+    const auto before = everything();
+    undoLastInstall(session);
+    EXPECT_FALSE(everything() == before);
+}
+
+TEST_F(RefusedWork, aNoLeavesAnotherInstallsSimulatorAlone) {
+    const FilePath other = install.folder / u"Another Mörvane";
+    install.files.makeFolder(other);
+    writeFile(install.simulator() / u"Morvane note.ini",
+              "[Morvane]\r\nInstallFolder=" + other.native().toUtf8() + "\r\n");
+    user.otherwise = false;
+    expectEachToBeRefused(false);
+}
+
+/// A store that was edited by hand: such a row is all that there is of the backup.
+TEST_F(RefusedWork, aBackupWhoseNameLeadsOutOfItsFolderIsARowAlone) {
+    const auto before = everything();
+    for (const QString& name : {u".."_s, u"..\\.."_s, u"C:"_s}) {
+        session.adoConn->execute(u"UPDATE MV_BACKUP SET BACKUP_NAME = '%1'"_s.arg(name));
+        clsBackups::reload(session);
+        ASSERT_EQ(session.rows<clsBackups>()->begin()->get()->BackupName, name);
+        user.onModal = [&](Screen) {
+            session.state<BackupChoice>().chosenBackup = name;
+            session.state<BackupChoice>().backupConfirmed = true;
+        };
+        restoreBackupOnRequest(session);
+        EXPECT_TRUE(everything() == before) << qPrintable(name);
+    }
+    EXPECT_TRUE(removeBackup(session, u"C:"_s));
+    EXPECT_TRUE(everything() == before);
+    clsBackups::reload(session);
+    EXPECT_EQ(session.rows<clsBackups>()->Count(), 0);
+}
+
+} // namespace
+} // namespace morvane::test
