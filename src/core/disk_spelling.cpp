@@ -28,7 +28,7 @@ FilePath DiskSpelling::findExactly(const QString& path) {
 
 FilePath DiskSpelling::spelled(const QString& path, bool isExact) {
     const qsizetype end = path.lastIndexOf(u'\\');
-    Folder& inside = folder(path.left(std::max<qsizetype>(end, 0)));
+    Folder& inside = folder(QStringView(path).first(std::max<qsizetype>(end, 0)));
     const QString name = path.mid(end + 1);
     const FilePath asGiven = inside.path.exactChild(name);
     const QString known = inside.names.spellingOf(name);
@@ -46,13 +46,18 @@ std::vector<FilePath> DiskSpelling::filesEndingWith(const QString& path, QString
     return found;
 }
 
-DiskSpelling::Folder& DiskSpelling::folder(const QString& path) {
-    if (!spelledFolders_.contains(path)) {
+DiskSpelling::Folder& DiskSpelling::folder(QStringView asked) {
+    if (last_ && asked == lastPath_) return *last_;
+    const QString path = asked.toString();
+    Folder*& known = spelledFolders_[path];
+    if (!known) {
         const FilePath found = findFolder(path);
-        if (!folders_.contains(found.relative())) folders_.insert(found.relative(), list(found));
-        spelledFolders_.insert(path, found.relative());
+        auto listed = folders_.find(found.relative());
+        if (listed == folders_.end()) listed = folders_.emplace(found.relative(), list(found)).first;
+        known = &listed->second;
     }
-    return folders_[spelledFolders_.value(path)];
+    lastPath_ = path;
+    return *(last_ = known);
 }
 
 DiskSpelling::Folder DiskSpelling::list(const FilePath& folder) {

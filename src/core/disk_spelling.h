@@ -4,6 +4,7 @@
 #include "core/folder_names.h"
 
 #include <QHash>
+#include <map>
 
 namespace morvane {
 
@@ -13,6 +14,7 @@ namespace morvane {
 class DiskSpelling {
 public:
     DiskSpelling(FileSystem& files, const FilePath& root) : files_(files), root_(root.native()) {}
+    DiskSpelling(DiskSpelling&&) = default; ///< a copy's folders would be this one's
 
     /// The file of that path below the root, names joined by "\": the exact spelling where the folder has it,
     /// else another one, else as given; a name not found is taken as the file's spelling from then on. Both
@@ -31,14 +33,16 @@ private:
         FilePath path;
         FolderNames names;
     };
-    Folder& folder(const QString& path);
+    Folder& folder(QStringView path);
     Folder list(const FilePath& folder);
     FilePath spelled(const QString& path, bool isExact);
 
     FileSystem& files_;
     FilePath root_;
-    QHash<QString, QString> spelledFolders_; ///< by the spelling that was asked for
-    QHash<QString, Folder> folders_;         ///< by their own
+    std::map<QString, Folder> folders_;      ///< by their own spelling
+    QHash<QString, Folder*> spelledFolders_; ///< by the one that was asked for
+    QString lastPath_;                       ///< asked for last, as thousands of files lie in one folder
+    Folder* last_ = nullptr;
 };
 
 } // namespace morvane

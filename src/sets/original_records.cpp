@@ -17,8 +17,10 @@ bool OriginalRecord::wasKept(const FileFingerprint& print) const {
 }
 
 void OriginalRecords::apply(OriginalFact fact) {
-    fact.path = oneText(fact.path);
-    OriginalRecord& record = records_[fact.path];
+    auto found = records_.find(fact.path);
+    if (found == records_.end()) found = records_.insert(fact.path, {});
+    fact.path = found.key();
+    OriginalRecord& record = *found;
     const OriginalRecord::Mark mark{fact.mode, fact.day};
     switch (fact.kind) {
     case FactKind::kept:
@@ -39,7 +41,7 @@ void OriginalRecords::apply(OriginalFact fact) {
         record.madeFolder = mark;
         break;
     case FactKind::gone:
-        records_.remove(fact.path);
+        records_.erase(found);
         break;
     }
 }
