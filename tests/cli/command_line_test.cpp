@@ -2,7 +2,9 @@
 
 #include "core/store.h"
 
+#include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 
 namespace morvane::test {
 namespace {
@@ -82,6 +84,9 @@ TEST(CommandLine, helpAndVersionGoToStandardOutput) {
 }
 
 TEST(CommandLine, everyCommandHasAnExampleThatIsUnderstood) {
+    const TemporaryFolder folder; // for a report, which is saved all the same
+    const auto back = qScopeGuard([before = QDir::currentPath()] { QDir::setCurrent(before); });
+    QDir::setCurrent(folder.path().native());
     const QString overview = QString::fromUtf8(runWords(u"--help"_s).output);
     int commands = 0;
     for (const QString& line : overview.section(u"Commands:\n"_s, 1).split(u'\n')) {
