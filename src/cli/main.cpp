@@ -86,6 +86,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv,
 } // namespace
 
 int main(int argc, char** argv) {
+    keepFreedMemory();
     std::optional<QTemporaryDir> runFolder;
     const auto application = makeApplication(argc, argv, runFolder);
     leaveBytesAlone();

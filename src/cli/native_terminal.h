@@ -8,6 +8,10 @@ namespace morvane {
 
 // What each system has its own way for.
 
+/// What pictures take, of which a run has thousands, is kept for the next one: given back to the system page
+/// by page it has to be asked for, and is emptied, at each.
+void keepFreedMemory();
+
 /// Bytes go in and out as they are, with no other ends of line and no letter that ends the input.
 void leaveBytesAlone();
 

@@ -1,6 +1,7 @@
 #include "cli/native_terminal.h"
 
 #include <csignal>
+#include <malloc.h>
 #include <unistd.h>
 
 namespace morvane {
@@ -15,6 +16,12 @@ void onSignal(int) {
 }
 
 } // namespace
+
+void keepFreedMemory() {
+    constexpr int megabyte = 1 << 20;
+    mallopt(M_MMAP_THRESHOLD, megabyte);
+    mallopt(M_TRIM_THRESHOLD, 2 * megabyte);
+}
 
 void leaveBytesAlone() {}
 

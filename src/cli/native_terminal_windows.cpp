@@ -25,6 +25,9 @@ BOOL WINAPI onControl(DWORD event) {
 
 } // namespace
 
+/// Is what the system's own memory does.
+void keepFreedMemory() {}
+
 void leaveBytesAlone() {
     for (FILE* file : {stdin, stdout, stderr})
         _setmode(_fileno(file), _O_BINARY);
