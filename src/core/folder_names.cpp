@@ -51,7 +51,7 @@ QString FolderNames::spellingOf(const QString& name) const {
     std::size_t found = none;
     for (std::size_t index = last_.value(hashOf(name), none); index != none; index = names_[index].before) {
         if (text(index) == name) return name;
-        // Folded texts are alike where the names are not ("ß" and "ss").
+        // The hash may be another name's, too.
         if (text(index).compare(name, Qt::CaseInsensitive) != 0) continue;
         if (found == none || comesFirst(index, found)) found = index;
     }

@@ -119,7 +119,7 @@ TEST(DiskSpelling, findsTheNameItselfElseTheFirstThatDiffersInCaseAlone) {
     NativeFileSystem files;
     files.makeFolder(folder / u"Ünder\\inner.part");
     for (const char16_t* name : {u"ab.bmp", u"Ab.bmp", u"aB.bmp", u"straße.bmp", u"Ärger.BMP", u"\u212A.bmp",
-                                 u"STRASSE.txt", u"a\U00010400.bmp", u"one.bmp.Part", u"part"})
+                                 u"STRASSE.txt", u"a\U00010400.bmp", u"one.bmp.Part", u"part", u"liquid"})
         files.write((folder / u"Ünder").exactChild(QStringView(name).toString()), "x");
     DiskSpelling spelling(files, folder.path());
     const std::pair<QStringView, QStringView> cases[] = {
@@ -132,9 +132,13 @@ TEST(DiskSpelling, findsTheNameItselfElseTheFirstThatDiffersInCaseAlone) {
         {u"A\U00010428.bmp", u"a\U00010400.bmp"},
         {u"New.bmp", u"New.bmp"},
         {u"new.bmp", u"New.bmp"},
+        {u"costarring", u"costarring"}, // has the hash of "liquid"
+        {u"zap.bmp", u"zap.bmp"},
     };
     for (const auto& [asked, found] : cases)
         EXPECT_EQ(spelling.find(u"ünder\\"_s + asked.toString()).fileName(), found.toString());
+    EXPECT_EQ(spelling.findExactly(u"ünder\\Zap.bmp"_s).fileName(), "Zap.bmp");
+    EXPECT_EQ(spelling.find(u"ünder\\ZAP.bmp"_s).fileName(), "zap.bmp"); // the first of them
     EXPECT_EQ(spelling.findExactly(u"ünder\\STRAßE.bmp"_s).fileName(), "STRAßE.bmp");
     const std::vector<FilePath> parts = spelling.filesEndingWith(u"Ünder"_s, u".part");
     ASSERT_EQ(parts.size(), 1U);
