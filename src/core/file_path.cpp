@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QVarLengthArray>
 #include <algorithm>
-#include <cstring>
 
 namespace morvane {
 
@@ -59,10 +58,7 @@ QString joined(QStringView start, const Names& names, QChar separator, qsizetype
         size += name->text.size() + 1;
     QString text(size, Qt::Uninitialized);
     QChar* end = text.data();
-    const auto add = [&end](QStringView name) {
-        std::memcpy(end, name.data(), static_cast<std::size_t>(name.size()) * sizeof(QChar));
-        end += name.size();
-    };
+    const auto add = [&end](QStringView name) { end = std::copy(name.begin(), name.end(), end); };
     add(start);
     for (qsizetype i = names.size() - 1 - passed; i >= 0; --i) {
         add(names[i]->text);
