@@ -18,8 +18,8 @@ std::error_code renameInOneStep(const std::filesystem::path& source, const std::
 std::optional<QByteArray> readAll(const QString& file);
 
 /// Copies a plain file's contents without reading them, where the system and both drives can do that: some
-/// only note that two files share their blocks. False where it cannot be done so, or not to the end: copied in
-/// another way, it tells why.
+/// only note that two files share their blocks. False where it cannot be done so, or not to the end: copied
+/// in another way, it tells why.
 bool copyInsideSystem(const QString& source, const QString& target);
 
 /// Opens it so that what one call writes comes to its end in one piece, whatever other programs append there

@@ -97,7 +97,8 @@ TEST_F(UpgradeTest, anInstallOfVersionTwoBecomesAWorkingOne) {
     QStringList said;
     for (const Message& message : install.user.messages)
         said << message.title + '|' + message.text;
-    EXPECT_EQ(fingerprintOf(said.join('\n').toUtf8()).checksum.hex(), "0e78d4bfc2bae9a412a8e46086ac4cd33c5a6251")
+    EXPECT_EQ(fingerprintOf(said.join('\n').toUtf8()).checksum.hex(),
+              "0e78d4bfc2bae9a412a8e46086ac4cd33c5a6251")
         << said.join('\n').toStdString();
     const QString tables[][3] = {
         {"AIRPORTDATA WHERE ICAO < 'KAA3'", "ICAO STATE WMO_REGION", "KAA1:Washington:4|KAA2:Washington:4"},
