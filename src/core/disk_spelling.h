@@ -26,14 +26,14 @@ public:
     /// The folder of that path, alike.
     FilePath findFolder(const QString& path);
     /// The files with such an ending that the folder of that path had when it was listed.
-    std::vector<FilePath> filesEndingWith(const QString& folder, QStringView ending);
+    std::vector<FilePath> filesEndingWith(const QString& path, QStringView ending);
 
 private:
     struct Folder {
         FilePath path;
         FolderNames names;
     };
-    Folder& folder(QStringView path);
+    Folder& folder(QStringView asked);
     Folder list(const FilePath& folder);
     FilePath spelled(const QString& path, bool isExact);
 
