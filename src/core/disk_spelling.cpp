@@ -6,18 +6,6 @@
 
 namespace morvane {
 
-namespace {
-
-/// Nothing when none is.
-QString spellingAmong(const QStringList& names, const QString& name) {
-    if (names.contains(name)) return name;
-    const auto same = std::ranges::find_if(
-        names, [&](const QString& other) { return other.compare(name, Qt::CaseInsensitive) == 0; });
-    return same == names.end() ? QString() : *same;
-}
-
-} // namespace
-
 FilePath DiskSpelling::find(const QString& path) {
     return spelled(path, false);
 }
@@ -72,7 +60,11 @@ FilePath DiskSpelling::findFolder(const QString& path) {
     for (const QString& name : path.split(u'\\', Qt::SkipEmptyParts)) {
         // What FilePath finds, a link included; on a drive that takes any spelling that is the one asked for.
         const QString found = FilePath(at.child(name).native()).fileName();
-        const QString listed = spellingAmong(files_.listFolders(at), found);
+        FolderNames folders;
+        for (const QString& folder : files_.listFolders(at))
+            folders.add(folder);
+        folders.endListing();
+        const QString listed = folders.spellingOf(found);
         at = at.exactChild(listed.isEmpty() ? found : listed);
     }
     return at;
