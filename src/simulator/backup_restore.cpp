@@ -69,7 +69,7 @@ RestoreReport copyBack(Session& session, const QString& name) {
     });
     copier.keepAll(overUnknown);
     walk.round(nullptr, [&](const FileCopy& copy) {
-        const std::optional<CheckedFile> file = std::move(toCome.front());
+        const std::optional<CheckedFile> file = toCome.front();
         toCome.pop_front();
         if (file) ++(report.*putBack(session, copier, copy, list.isOurs(copy.source, file->print), *file));
     });
