@@ -85,18 +85,32 @@ TEST_F(OriginalsTest, aFileIsKeptOnceWithAllThatIsKnownOfIt) {
 /// Changed by another hand since ours, a file is kept beside the first; the youngest comes back. A path that
 /// was given back has no facts: the next install keeps what lies there then.
 TEST_F(OriginalsTest, aLaterFileOfThePilotsIsKeptBesideTheFirst) {
-    for (const char* own : {"the first", "the second", "the third"}) {
+    const std::pair<QString, QString> paths[] = {{a, u"Texture\\a (%1).bmp"_s},
+                                                 {u"Texture.old\\a"_s, u"Texture.old\\a (%1)"_s}};
+    for (const auto& [path, numbered] : paths) {
+        for (const char* own : {"our", "the second", "the third"}) {
+            writeFile(target(path), own);
+            install("ours", {path});
+            install("ours again", {path});
+        }
+        EXPECT_EQ(keptPaths(), (QStringList{path + u" 1"_s, path + u" 2"_s, path + u" 3"_s}));
+        EXPECT_EQ(readFile(keptFiles / path), "our");
+        EXPECT_EQ(readFile(keptFiles / numbered.arg(2)), "the second");
+        EXPECT_EQ(originals().restore().putBack, 1);
+        EXPECT_EQ(contents(path), "the third");
+        EXPECT_EQ(keptPaths(), QStringList());
+        EXPECT_EQ(readFile(keptFiles / numbered.arg(3)), "the third"); // kept files themselves always stay
+    }
+}
+
+/// Known as his, it is no part of a copy of ours, whatever it looks like.
+TEST_F(OriginalsTest, anEarlierFileOfThePilotsThatHeBroughtBackIsHisYoungest) {
+    for (const char* own : {"our", "the second", "our"}) {
         writeFile(target(a), own);
         install("ours", {a});
-        install("ours again", {a});
     }
-    EXPECT_EQ(keptPaths(), (QStringList{a + u" 1"_s, a + u" 2"_s, a + u" 3"_s}));
-    EXPECT_EQ(readFile(keptFiles / u"Texture\\a.bmp"), "the first");
-    EXPECT_EQ(readFile(keptFiles / u"Texture\\a (2).bmp"), "the second");
     EXPECT_EQ(originals().restore().putBack, 1);
-    EXPECT_EQ(contents(a), "the third");
-    EXPECT_EQ(keptPaths(), QStringList());
-    EXPECT_EQ(readFile(keptFiles / u"Texture\\a (3).bmp"), "the third"); // kept files themselves always stay
+    EXPECT_EQ(contents(a), "our");
 }
 
 /// What a cut of power left of a copy of ours is no file of the pilot's: no restore brings it back, before or
@@ -107,6 +121,7 @@ TEST_F(OriginalsTest, aRemnantOfOursIsNoFileOfThePilots) {
                                                  {QByteArray("ours\0\0", 6), false},
                                                  {"our", false},
                                                  {"ours, ", false},
+                                                 {"the f", false}, // his own, on its way back
                                                  {QByteArray(400, '\0'), true},
                                                  {QByteArray("oUrs\0\0", 6), true},
                                                  {"ours, new or not", true}};
@@ -124,19 +139,74 @@ TEST_F(OriginalsTest, aRemnantOfOursIsNoFileOfThePilots) {
         }
 }
 
+/// What is left of one whose set is gone can be told by its zeros alone.
+TEST_F(OriginalsTest, aRemnantWithoutItsSourceIsThePilotsUnlessItIsAllZeros) {
+    for (const QByteArray& left : {QByteArray("our"), QByteArray(3, '\0')}) {
+        writeFile(target(a), "the first");
+        install("ours, new", {a});
+        files.remove(app / u"ours.bmp");
+        writeFile(target(a), left);
+        EXPECT_EQ(originals().restore().left.size(), left == "our");
+    }
+}
+
+/// An undo brings back what was to stand where a cut of power left a part of it; the next copy itself, of which
+/// the cut took the fact alone, is not kept.
+TEST_F(OriginalsTest, inThePlaceOfARemnantStoodWhatItIsOf) {
+    const FileCopy copy{app / u"ours.bmp", target(a)};
+    for (const bool isPilots : {false, true}) {
+        if (isPilots) writeFile(target(a), "the pilot's");
+        files.makeFolder(simulator / u"Texture");
+        install("ours, old", {a});
+        for (const QByteArray& left : {QByteArray("ours, o"), QByteArray("ours, new")}) {
+            writeFile(copy.source, left.contains('n') ? left : "ours, old");
+            writeFile(target(a), left);
+            Originals again = originals();
+            again.prepare({copy});
+            EXPECT_EQ(again.stood().value(a).kind, isPilots ? FactKind::kept : FactKind::ours);
+            EXPECT_EQ(contentsBelow(keptFiles).values().contains(left), left == "ours, o");
+        }
+        files.remove(target(a));
+        QDir(keptFiles.native()).removeRecursively();
+    }
+}
+
+/// As a restored backup has it: what stands there is kept when it is replaced, not when it was looked at.
+TEST_F(OriginalsTest, aCopyThatWasNotPreparedKeepsWhatStandsInItsPlace) {
+    const FileCopy back{app / u"backup.bmp", target(a)};
+    writeFile(target(a), "the first");
+    install("ours", {a});
+    auto seen = seeFile(files, target(a));
+    originals().place(back, seen);
+    EXPECT_EQ(keptPaths(), QStringList(a + u" 1"_s));
+    writeFile(target(a), "written since");
+    originals().place(back, seen);
+    EXPECT_EQ(keptPaths(), (QStringList{a + u" 1"_s, a + u" 2"_s}));
+    writeFile(target(a), "the third");
+    seen = seeFile(files, target(a));
+    Originals third = originals();
+    EXPECT_EQ(third.place(back, seen), third.place(back, seen));
+    EXPECT_EQ(keptPaths(), (QStringList{a + u" 1"_s, a + u" 2"_s, a + u" 3"_s}));
+}
+
 /// A copy is spared where its bytes stand already, unless they have come to be others since they were read,
 /// or it would end as another file than now.
 TEST_F(OriginalsTest, aCopyWhoseBytesStandIsSpared) {
     const FileCopy copy{app / u"ours.bmp", target(a)};
-    const std::pair<std::function<void()>, bool> cases[] = {
-        {[] {}, true},
-        {[&] { writeFile(target(a), "another program's"); }, false},
-        {[&] { files.remove(target(a)); }, false},
-        {[&] { files.setReadOnly(target(a), true); }, false},
+    const auto nothing = [] {};
+    const auto mark = [&] { files.setReadOnly(target(a), true); };
+    const std::tuple<std::function<void()>, std::function<void()>, bool> cases[] = {
+        {nothing, nothing, true},
+        {nothing, [&] { writeFile(target(a), "another program's"); }, false},
+        {nothing, [&] { files.remove(target(a)); }, false},
+        {nothing, mark, false},
+        {mark, nothing, false},
     };
-    for (const auto& [meanwhile, isSpared] : cases) {
+    for (const auto& [before, meanwhile, isSpared] : cases) {
+        if (files.exists(target(a))) files.setReadOnly(target(a), false);
         writeFile(copy.source, "ours");
         writeFile(target(a), "ours");
+        before();
         Originals prepared = originals();
         prepared.prepare({copy});
         const FilePath place = prepared.place(copy);
@@ -327,6 +397,74 @@ TEST_F(OriginalsTest, aDamagedKeptFileIsLeftOutAndTheOthersComeBack) {
     EXPECT_EQ(contents(a) + '|' + contents(c), "ours|" + c.toUtf8());
 }
 
+/// The kept file stands for one of ours, or for what is left of one, and for nothing else.
+TEST_F(OriginalsTest, thePilotsFileIsTakenInThePlaceOfOursAlone) {
+    writeFile(target(a), "the pilot's");
+    install("ours, new", {a});
+    const std::pair<const char*, bool> cases[] = {{"ours, new", true}, {"ours", true}, {"another's", false}};
+    for (const auto& [standing, isOurs] : cases) {
+        writeFile(target(a), standing);
+        EXPECT_EQ(originals().isOurs(target(a)), isOurs) << standing;
+        EXPECT_EQ(originals().keptFile(target(a)).has_value(), isOurs) << standing;
+    }
+    writeFile(target(a), "ours, new");
+    writeFile(keptFiles / a, "damaged");
+    EXPECT_FALSE(originals().keptFile(target(a)));
+    files.remove(target(a));
+    EXPECT_FALSE(originals().isOurs(target(a)));
+}
+
+/// A folder stands where one of ours should: no look, restore or undo can read it.
+TEST_F(OriginalsTest, whatCannotBeReadCostsNoOther) {
+    const QString b = u"Texture\\b.bmp"_s;
+    for (const QString& path : {a, b})
+        writeFile(target(path), path.toUtf8());
+    install("ours", {a, b});
+    const auto makeUnreadable = [&] {
+        files.remove(target(a));
+        files.makeFolder(target(a));
+    };
+    makeUnreadable();
+    const auto places = originals().check(CheckDepth::everyFile);
+    EXPECT_TRUE(places.at(0).state == PlaceState::changed && places.at(1).state == PlaceState::ours);
+    const OriginalsReport report = originals().restore();
+    ASSERT_TRUE(report.failure);
+    EXPECT_TRUE(report.failure->description().contains(target(a).fileName())) << report.failure->what();
+    EXPECT_EQ(report.putBack, 1);
+    EXPECT_EQ(contents(b), b.toUtf8());
+
+    files.removeFolder(target(a));
+    Originals step = originals();
+    step.prepare({{app / u"ours.bmp", target(a)}, {app / u"ours.bmp", target(b)}});
+    writeFile(target(b), "ours");
+    files.makeFolder(target(a));
+    const OriginalsReport undone = originals().undo({step.stood().cbegin(), step.stood().cend()}, {});
+    EXPECT_TRUE(undone.failure && undone.putBack == 1);
+    EXPECT_EQ(contents(b), b.toUtf8());
+}
+
+/// Of another install's kept files those come along that are whole and not known yet.
+TEST_F(OriginalsTest, whatIsTakenOverIsWhole) {
+    const QString b = u"Texture\\b.bmp"_s, c = u"Texture\\c.bmp"_s;
+    const FilePath another = folder / u"Another Mörvane";
+    for (const QString& path : {a, b, c})
+        writeFile(target(path), path.toUtf8());
+    install("ours", {a, b, c});
+    files.rename(app, another);
+    writeFile(another / u"Backup\\Originals" / b, "damaged");
+    files.remove(another / u"Backup\\Originals" / c);
+    for (const int time : {1, 2}) {
+        originals().adopt(another);
+        EXPECT_EQ(keptPaths(), QStringList(a + u" 1"_s)) << time;
+        EXPECT_EQ(contentsBelow(keptFiles).size(), 2) << "the list and one file";
+    }
+    writeFile(another / u"Backup\\Originals\\originals.lst", "morvane-originals\t3\tnobody knows\n");
+    originals().adopt(another);
+    EXPECT_EQ(keptPaths(), QStringList(a + u" 1"_s));
+    EXPECT_EQ(originals().restore().putBack, 1);
+    EXPECT_EQ(contents(a) + '|' + contents(b), a.toUtf8() + "|ours");
+}
+
 TEST_F(OriginalsTest, foldersThatWereMadeGoWhenTheyAreEmpty) {
     files.makeFolder(simulator);
     for (const bool hasOther : {false, true}) {
@@ -338,6 +476,10 @@ TEST_F(OriginalsTest, foldersThatWereMadeGoWhenTheyAreEmpty) {
         EXPECT_FALSE(files.exists(target(made)));
         EXPECT_EQ(files.exists(target(u"Flights"_s)), hasOther);
     }
+    originals().makeFolder(target(u"Taken away"_s));
+    files.removeFolder(target(u"Taken away"_s));
+    EXPECT_FALSE(originals().restore().failure);
+    EXPECT_FALSE(originals().records().contains(u"Taken away"_s));
     if (!hasLinks) return;
     // In its place the pilot has put a link.
     const FilePath link = target(u"Linked"_s);
@@ -395,8 +537,28 @@ TEST_F(OriginalsTest, aFolderThatWasRenamedIsKnownByItsNumber) {
     install("the same", {a});
     const FilePath renamed((folder / u"Renamed").native());
     files.rename(simulator, renamed);
+    simulator = FilePath((folder / u"Nowhere").native());
+    EXPECT_EQ(keptPaths(), QStringList());
     simulator = renamed;
     EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+    install("ours", {a});
+    if (hasLinks) {
+        simulator = FilePath((folder / u"Linked").native());
+        ASSERT_TRUE(QFile::link(renamed.native(), simulator.native()));
+        EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+    }
+}
+
+TEST_F(OriginalsTest, aRenamedFolderWithNothingThatWasThereIsANewOne) {
+    writeFile(simulator / u"fs9.exe", "MZ");
+    writeFile(target(a), "the pilot's");
+    install("ours", {a});
+    const FilePath renamed((folder / u"Renamed").native());
+    files.rename(simulator, renamed);
+    simulator = renamed;
+    EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+    files.remove(target(a));
+    EXPECT_EQ(keptPaths(), QStringList());
 }
 
 /// What stands in the new place, and whether it is the old simulator, moved there.
@@ -411,6 +573,7 @@ TEST_F(OriginalsTest, aMovedSimulatorIsKnownByWhatWePutThere) {
         {"and all but one changed since", 1, true, false, true},
         {"moved, the times lost", many, false, false, true},
         {"the pilot's files and one of ours by chance", 1, false, false, false},
+        {"and more by chance", 2 * many / 5 + 1, false, false, false},
         {"a copy of it", many, true, true, false},
         {"new", 0, false, false, false},
     };
@@ -455,6 +618,7 @@ TEST_F(OriginalsTest, aListOfOldIsTakenOver) {
     install("ours, the second", {a});
     EXPECT_TRUE(readFile(listFile).startsWith("morvane-originals\t2\t"));
     EXPECT_EQ(keptPaths(), QStringList{a + u" 1"_s});
+    files.remove(target(a)); // nor was a mode noted
     // What stood in the other's place was never noted, so it is not taken away.
     EXPECT_EQ(originals().restore().left, QStringList{other});
     EXPECT_EQ(contents(a) + '|' + contents(other), "abc|ours");
