@@ -129,7 +129,7 @@ void tellPartial(Session& session, const BackupReport& report) {
     if (report.saved < report.files)
         text += u", as it lacks %1 of %2"_s.arg(countText(report.files - report.saved),
                                                 countText(report.files, u"texture"_s));
-    else
+    else if (!report.isCancelled)
         text += u", as its list could not be written"_s;
     session.user.hideMessage();
     session.user.showMessage({MessageKind::exclamation, progressTitle, text + u'.'});

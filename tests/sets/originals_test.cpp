@@ -150,8 +150,8 @@ TEST_F(OriginalsTest, aRemnantWithoutItsSourceIsThePilotsUnlessItIsAllZeros) {
     }
 }
 
-/// An undo brings back what was to stand where a cut of power left a part of it; the next copy itself, of which
-/// the cut took the fact alone, is not kept.
+/// An undo brings back what was to stand where a cut of power left a part of it; the next copy itself, of
+/// which the cut took the fact alone, is not kept.
 TEST_F(OriginalsTest, inThePlaceOfARemnantStoodWhatItIsOf) {
     const FileCopy copy{app / u"ours.bmp", target(a)};
     for (const bool isPilots : {false, true}) {

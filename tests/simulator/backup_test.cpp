@@ -1,5 +1,6 @@
 #include "app/first_run.h"
 #include "core/registry.h"
+#include "core/safe_copy.h"
 #include "core/store.h"
 #include "ground/ground_installation.h"
 #include "sets/options_in_force.h"
@@ -9,6 +10,7 @@
 #include "simulator/backups.h"
 #include "simulator/simulator_restore.h"
 #include "support/small_install.h"
+#include "support/system_files.h"
 
 #include <QDir>
 #include <fstream>
@@ -106,20 +108,45 @@ TEST_F(BackupTest, restorePassesOverReadOnlyTargetsAndDamagedCopiesWithoutAWord)
     EXPECT_EQ(readFile(world / u"005A2SU2.BMP"), "a set") << "clicked, and left without an OK";
 }
 
+/// A source that is none any more, and what stands already.
+TEST_F(BackupTest, aRestoreSaysWhatItLeftAndWhatWasThere) {
+    createBackup(session, false);
+    const FilePath texture029 = folder / u"Texture\\029H2SU6.BMP";
+    writeFile(world / u"005A2SU2.BMP", "a set");
+    install.files.remove(texture029);
+    install.files.makeFolder(texture029);
+    restore(u"1-Backup"_s);
+    EXPECT_EQ(install.user.calls.back(), u"done 1 put back"_s) << "a folder is no texture";
+    EXPECT_EQ(install.user.doneRemark, u"4 were there already"_s);
+    install.files.removeFolder(texture029);
+    const UnreadableFile unreadable(texture029);
+    restore(u"1-Backup"_s);
+    EXPECT_EQ(install.user.calls.back(), u"done 0 put back, 1 could not be replaced"_s);
+}
+
 TEST_F(BackupTest, whatIsCutShortIsMarkedAndNothingIsOverwritten) {
     writeFile(folder / u"Texture\\old.bmp", "of a store that was lost");
+    writeFile(folder.parent() / u"1-Backup kept 1\\Texture\\older.bmp", "and of another");
     install.user.onPump = [this] { session.user.answers().cancelRequested = true; };
     createBackup(session, false);
     EXPECT_TRUE(install.user.told().back().contains(
         u"cancelled.  The backup 1-Backup is marked as partial, as it lacks 6 of 6 textures."_s));
     EXPECT_FALSE(isBackupComplete(session, u"1-Backup"_s));
-    EXPECT_EQ(readFile(install.home() / u"Backup\\1-Backup kept 1\\Texture\\old.bmp"),
-              "of a store that was lost");
+    EXPECT_EQ(readFile(folder.parent() / u"1-Backup kept 2\\Texture\\old.bmp"), "of a store that was lost");
+    EXPECT_EQ(readFile(folder.parent() / u"1-Backup kept 1\\Texture\\older.bmp"), "and of another");
+    // Cancelled when all are copied, before each was read again.
+    install.user.onPump = [this] {
+        session.user.answers().cancelRequested =
+            install.files.list(install.home() / u"Backup\\2-Backup\\UTEurLC", u"*.bmp"_s).size() == 1;
+    };
+    createBackup(session, false);
+    EXPECT_TRUE(
+        install.user.told().back().contains(u"cancelled.  The backup 2-Backup is marked as partial."_s));
     install.user.onPump = [] {};
     createBackup(session, false);
-    EXPECT_TRUE(isBackupComplete(session, u"2-Backup"_s));
+    EXPECT_TRUE(isBackupComplete(session, u"3-Backup"_s));
     restore(u"1-Backup"_s, false);
-    ASSERT_EQ(session.state<BackupChoice>().backups.size(), 2U);
+    ASSERT_EQ(session.state<BackupChoice>().backups.size(), 3U);
     EXPECT_FALSE(session.state<BackupChoice>().backups[0].isComplete);
     EXPECT_FALSE(install.user.calls.contains(restoring)) << "the list was left with Cancel";
 }
@@ -217,6 +244,27 @@ struct FirstRunTest : BackupTest {
     FilePath keptSplash = install.home() / u"Media\\dlgsplash.bmp";
     FilePath flights = install.simulator() / u"Flights\\Morvane";
 };
+
+/// A row without a list is the first run's only where nothing would be written over.
+TEST_F(FirstRunTest, goesOnWithABackupThatHoldsNothingAlone) {
+    session.adoConn->execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME) VALUES ('..')"_s);
+    int number = 1;
+    for (const QString& file :
+         {u"note.txt"_s, u"Texture\\a.bmp"_s, u"UTEurLC\\a.bmp"_s, u"Texture\\a.bmp.morvane-part"_s}) {
+        const QString name = u"%1-Backup"_s.arg(++number);
+        session.adoConn->execute(
+            u"INSERT INTO MV_BACKUP(ID, BACKUP_NAME) VALUES (%1, '%2')"_s.arg(number).arg(name));
+        clsBackups::reload(session);
+        const FilePath place = folder.parent() / name / file;
+        writeFile(place, "another hand's");
+        const auto report = createBackup(session, true);
+        ASSERT_TRUE(report);
+        EXPECT_EQ(report->name == name, file.endsWith(partialCopySuffix)) << file.toStdString();
+        EXPECT_EQ(install.files.exists(place), report->name != name);
+        QDir(folder.parent().native()).removeRecursively();
+        session.adoConn->execute(u"DELETE FROM MV_BACKUP WHERE BACKUP_NAME <> '..'"_s);
+    }
+}
 
 /// The flights go through the list of originals, too: a pilot's of that name is not lost, and all is undone.
 TEST_F(FirstRunTest, isDoneOnceAndOnlyWhenAskedForAndCanBeTakenBack) {

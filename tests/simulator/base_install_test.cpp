@@ -91,6 +91,53 @@ TEST_F(BaseInstall, theGlobalTitlesLeaveDefaultAsTheOneInstalledSet) {
     EXPECT_EQ(readFile(world / u"045B2LM1.BMP"), "body of GENERIC WORLD NIGHT\\045b2lm1.bmp");
 }
 
+/// The rows say what is installed; where the store has none or refuses them, the files come all the same.
+TEST_F(BaseInstall, aStoreThatRefusesItsRowsKeepsNoFileBack) {
+    const QStringList both{globalDayConfig, globalNightConfig};
+    const QString refusal = u"CREATE TRIGGER refused_%1 BEFORE UPDATE ON %1 "_s;
+    const QString refusing = u"BEGIN SELECT RAISE(ABORT, 'no'); END"_s;
+    const auto refuse = [&](const QString& of) {
+        for (const QString& table : {u"TEXTURE_SETS"_s, u"NIGHT_TEXTURE_SETS"_s})
+            session.adoConn->execute(of.arg(table));
+    };
+    const std::pair<QString, int> cases[] = {
+        // What is done to both tables, and the messages of failures.
+        {refusal + u"WHEN new.TEXTURE_SET LIKE '2-%' "_s + refusing, 2},
+        {refusal + refusing, 2},
+        {u"DELETE FROM %1"_s, 0},
+        {u"DROP TABLE %1"_s, 2},
+    };
+    for (const auto& [statement, failures] : cases) {
+        SCOPED_TRACE(statement.toStdString());
+        writeFile(world / u"029H2SU6.BMP", "a set");
+        writeFile(world / u"045B2LM1.BMP", "a set");
+        user.messages.clear();
+        refuse(statement);
+        copyBaseResources(session, both);
+        EXPECT_GE(user.countOfKind(MessageKind::error), failures);
+        EXPECT_EQ(readFile(world / u"029H2SU6.BMP"), "body of GENERIC WORLD\\029h2su6.bmp");
+        EXPECT_EQ(readFile(world / u"045B2LM1.BMP"), "body of GENERIC WORLD NIGHT\\045b2lm1.bmp");
+        if (statement.startsWith(u"CREATE")) refuse(u"DROP TRIGGER refused_%1"_s);
+    }
+}
+
+/// The desktop's session ends between two files, of which some came ahead: each is whole, and nothing is
+/// told.
+TEST_F(BaseInstall, theEndOfTheSessionEndsItBehindAFile) {
+    const auto before = contentsBelow(install.simulator());
+    user.onPump = [&] {
+        if (contentsBelow(install.simulator()) != before)
+            session.ExitInProgress.moveTo(ExitStage::sessionEnd);
+    };
+    copyBaseResources(session, {globalDayConfig});
+    const auto after = contentsBelow(install.simulator());
+    EXPECT_NE(after, before);
+    for (const auto& [path, contents] : after.asKeyValueRange())
+        EXPECT_TRUE(contents == before.value(path) || contents.startsWith("body of")) << path.toStdString();
+    EXPECT_EQ(user.calls.filter(u"done"_s), QStringList());
+    EXPECT_EQ(user.countOfKind(MessageKind::error), 0);
+}
+
 /// Whatever fails, each file of the simulator is an old or a new one as a whole.
 TEST_F(BaseInstall, everyFailingOperationLeavesWholeFiles) {
     const auto before = contentsBelow(install.simulator());

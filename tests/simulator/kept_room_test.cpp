@@ -6,7 +6,9 @@
 #include "simulator/backups.h"
 #include "simulator/kept_removal.h"
 #include "support/small_install.h"
+#include "support/system_files.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <algorithm>
 
@@ -35,6 +37,12 @@ struct KeptInstall : SmallInstall {
         session.adoConn->execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME) VALUES ('%1')"_s.arg(name));
     }
     void write(const QString& file) const { writeFile(backups / file, "another hand's"); }
+    /// Its files stay where they were.
+    void linkFolder(const QString& path) {
+        const FilePath link = backups / path, aside = folder / u"aside";
+        files.rename(link, aside);
+        ASSERT_TRUE(QFile::link(aside.native(), link.native()));
+    }
     /// One thing that happens to the backups and to a texture in them.
     void happens(const QString& what) {
         if (what == u"taken away") files.remove(place);
@@ -49,6 +57,9 @@ struct KeptInstall : SmallInstall {
         if (what == u"edited") write(u"1-Backup\\Texture\\"_s + texture);
         if (what == u"note") write(u"1-Backup\\Texture\\note.txt"_s);
         if (what == u"folder") write(u"1-Backup\\older\\a.bmp"_s);
+        if (what == u"link") linkFolder(u"1-Backup\\UTEurLC"_s);
+        if (what == u"unreadable") UnreadableFile{backups / u"1-Backup\\Texture\\new.bmp"};
+        if (what == u"odd row") addRow(u".."_s);
     }
 
     const QString texture = u"029H2SU6.BMP"_s;
@@ -58,17 +69,19 @@ struct KeptInstall : SmallInstall {
 
 /// What happens after the first backup; a file that was the pilot's has to be somewhere else behind it.
 TEST(KeptRoom, aBackupWithALastCopyStays) {
-    const QStringList goes{u""_s, u"ours"_s, u"backup,taken away"_s};
-    const QStringList stays{u"changed"_s,
-                            u"taken away"_s,
-                            u"ours,torn original"_s,
-                            u"ours alike,backup"_s, // a restore of the originals takes both away
-                            u"backup,taken away,partial"_s,
-                            u"backup,taken away,torn"_s,
-                            u"alias,taken away"_s,
-                            u"edited"_s,
-                            u"note"_s,
-                            u"folder"_s};
+    const QStringList goes{u""_s, u"ours"_s, u"backup,taken away"_s, u"odd row"_s};
+    QStringList stays{u"changed"_s,
+                      u"taken away"_s,
+                      u"ours,torn original"_s,
+                      u"ours alike,backup"_s, // a restore of the originals takes both away
+                      u"backup,taken away,partial"_s,
+                      u"backup,taken away,torn"_s,
+                      u"alias,taken away"_s,
+                      u"edited"_s,
+                      u"note"_s,
+                      u"folder"_s,
+                      u"odd row,taken away"_s};
+    if (hasLinks) stays += {u"link"_s, u"unreadable"_s};
     for (const QString& what : goes + stays) {
         SCOPED_TRACE(what.toStdString());
         KeptInstall it;

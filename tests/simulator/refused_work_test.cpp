@@ -1,5 +1,7 @@
 #include "core/attempts.h"
+#include "core/install_lock.h"
 #include "core/store.h"
+#include "core/writing.h"
 #include "ground/ground_installation.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_removal.h"
@@ -72,6 +74,15 @@ TEST_F(RefusedWork, nothingBeginsInsideAJob) {
     EXPECT_FALSE(everything() == before);
 }
 
+/// In both places where a job asks: before its questions, or behind them.
+TEST_F(RefusedWork, nothingBeginsWhileAnotherProgramWrites) {
+    InstallLock other(install.home(), u"Writing.lock"_s);
+    ASSERT_TRUE(other.tryTake());
+    session.writing->patience = {};
+    expectEachToBeRefused(true);
+    EXPECT_GE(user.countOfKind(MessageKind::exclamation), 8);
+}
+
 TEST_F(RefusedWork, aNoLeavesAnotherInstallsSimulatorAlone) {
     const FilePath other = install.folder / u"Another Mörvane";
     install.files.makeFolder(other);
@@ -79,6 +90,53 @@ TEST_F(RefusedWork, aNoLeavesAnotherInstallsSimulatorAlone) {
               "[Morvane]\r\nInstallFolder=" + other.native().toUtf8() + "\r\n");
     user.otherwise = false;
     expectEachToBeRefused(false);
+}
+
+/// Questions with a No, and a list that was left without a choice.
+TEST_F(RefusedWork, aNoChangesNothing) {
+    user.otherwise = false;
+    user.onModal = [this](Screen) { session.state<BackupChoice>().backupConfirmed = true; };
+    const auto before = everything();
+    askRestoreOriginals(session);
+    restoreBackupOnRequest(session);
+    removeBackup(session, u"1-Backup"_s);
+    undoLastInstall(session);
+    EXPECT_TRUE(everything() == before);
+    EXPECT_EQ(user.countOfKind(MessageKind::question), 3);
+    EXPECT_TRUE(user.told().join(u'/').contains(u"kept yours, in 2 places of 2 folders."_s));
+    user.otherwise = true;
+    EXPECT_TRUE(askRestoreOriginals(session));
+    EXPECT_EQ(install.installedSets(), QStringList());
+}
+
+/// Neither list of backups nor a row that is taken for another may lead to a backup that nobody can find.
+TEST_F(RefusedWork, aStoreWithoutItsBackupsStopsWhatNeedsThem) {
+    const auto before = everything();
+    EXPECT_FALSE(removeBackup(session, u"7-Backup"_s));
+    for (const QString& meanwhile : {u"DELETE FROM MV_BACKUP"_s, u"DROP TABLE MV_BACKUP"_s}) {
+        session.adoConn->execute(u"INSERT INTO MV_BACKUP(BACKUP_NAME) VALUES ('1-Backup')"_s);
+        user.onQuestion = [&] { session.adoConn->execute(meanwhile); };
+        EXPECT_FALSE(removeBackup(session, u"1-Backup"_s));
+    }
+    for (const Work& work : {works[2], works[7], works[8]}) {
+        session.rows<clsBackups>().reset();
+        user.calls.clear();
+        work.run(session);
+        EXPECT_EQ(user.calls.filter(u"box "_s).size(), 1) << work.name;
+    }
+    EXPECT_TRUE(everything() == before);
+}
+
+/// Folders stand where all of ours stood: what could not be begun leaves the rows as they are.
+TEST_F(RefusedWork, aRestoreThatBringsNothingBackLeavesTheSetInstalled) {
+    for (const QString& path : {u"World\\Texture\\029H2SU6.BMP"_s, u"UTEurLC\\Texture\\034B2SU4.BMP"_s}) {
+        const FilePath place = install.simulator() / (u"Scenery\\"_s + path);
+        install.files.remove(place);
+        install.files.makeFolder(place);
+    }
+    EXPECT_TRUE(restoreOriginals(session)->failure);
+    EXPECT_EQ(install.installedSets(), QStringList{u"1-Blue"_s});
+    EXPECT_EQ(user.countOfKind(MessageKind::error), 1);
 }
 
 /// A store that was edited by hand: such a row is all that there is of the backup.

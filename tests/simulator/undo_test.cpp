@@ -82,6 +82,9 @@ TEST_F(UndoTest, bringsBackWhatStoodBeforeTheLastStep) {
     const auto put2 = [&] { put(u"2-Á"_s); };
     const auto put3 = [&] { put(u"3-B"_s); };
     const auto nothing = [] {};
+    const auto write2 = [&](const QByteArray& bytes) {
+        writeFile(install.home() / u"Texture Sets\\2-Á\\Texture\\neu.bmp", bytes);
+    };
     struct Case {
         const char* name;
         std::function<void()> before, step, meanwhile;
@@ -93,6 +96,8 @@ TEST_F(UndoTest, bringsBackWhatStoodBeforeTheLastStep) {
         {"the splash", put2, [&] { setCustomSplashVal(session, true); }, nothing},
         {"a base install", put2, [&] { copyBaseResources(session, {globalDayConfig}); }, nothing},
         {"a second set", put2, put3, nothing},
+        {"over one that was written to since", [&] { put2(), write2("longer than it was before"); }, put3,
+         nothing},
         {"over one that was made anew since", put2, put3, [&] { take2(), GroundKind::activate(session); }},
         {"over one that was deleted since", put2, put3, [&] { take2(), GroundKind::remove(session, false); }},
     };
@@ -137,6 +142,61 @@ TEST_F(UndoTest, leavesWhatAnotherHandChanged) {
     EXPECT_EQ(now, pilots);
 }
 
+/// A set that was changed, and then deleted, cannot give its files back; those of the others come.
+TEST_F(UndoTest, namesWhatItCannotBringBack) {
+    put(u"2-Á"_s);
+    put(u"3-B"_s);
+    writeFile(install.home() / u"Texture Sets\\2-Á\\Texture\\neu.bmp", "2-Á Texture\\neu.BMP");
+    session.state<GroundSelection>().SelectedGroundSet = u"2-Á"_s;
+    GroundKind::remove(session, false);
+    EXPECT_EQ(undoLastInstall(session)->damaged, QStringList(u"Scenery\\World\\texture\\neu.bmp"_s));
+    EXPECT_TRUE(readFile(world / u"029H2SU6.BMP").startsWith("2-"));
+    EXPECT_TRUE(lastStep(session)) << "its files may turn up again";
+}
+
+/// The pilot may do without, and then nothing is kept for it.
+TEST_F(UndoTest, leavesNoRecordWhereItIsNotWanted) {
+    put(u"2-Á"_s);
+    ASSERT_TRUE(canUndo(session));
+    setUndoWanted(session, true);
+    EXPECT_TRUE(canUndo(session));
+    setUndoWanted(session, false);
+    EXPECT_FALSE(canUndo(session));
+    put(u"3-B"_s);
+    EXPECT_FALSE(canUndo(session) || undoLastInstall(session));
+    EXPECT_EQ(user.told().last(), u"Information|Undo Last Install|There is no install to undo."_s);
+}
+
+/// Nor does one of another simulator, or one that cannot be understood, bring anything back.
+TEST_F(UndoTest, takesNoRecordThatIsNotOfThisSimulator) {
+    put(u"2-Á"_s);
+    const FilePath file = undoFolder(session) / u"undo.lst";
+    const QByteArray whole = readFile(file), head = whole.first(whole.indexOf('\n') + 1);
+    for (const QByteArray& bytes : {QByteArray(), head, head + "undo\t[]\n", head + "undo\t{\n",
+                                    QByteArray(whole).replace("Simulator", "Another simulator")}) {
+        writeFile(file, bytes);
+        EXPECT_FALSE(canUndo(session) || lastStep(session)) << bytes.toStdString();
+    }
+    writeFile(file, whole);
+    EXPECT_TRUE(canUndo(session));
+}
+
+/// What was asked about is what is undone.
+TEST_F(UndoTest, refusesWhenAnotherProgramInstalledMeanwhile) {
+    const std::function<void()> meanwhile[] = {[&] { forgetLastStep(session); }, [&] { put(u"3-B"_s); },
+                                               [&] {
+                                                   install.clock.now = install.clock.now.addSecs(60);
+                                                   put(u"2-Á"_s);
+                                               }};
+    for (const auto& happens : meanwhile) {
+        put(u"2-Á"_s);
+        user.onQuestion = happens;
+        undoLastInstall(session);
+        EXPECT_TRUE(user.told().last().contains(u"Another program has installed or undone something"_s));
+        EXPECT_NE(files(), pilots);
+    }
+}
+
 /// An undo that failed or was killed anywhere is undone by the next one.
 TEST_F(UndoTest, comesToItsEndAfterAnyFault) {
     put(u"2-Á"_s);
@@ -176,6 +236,7 @@ TEST_F(UndoTest, tellsAndSettlesDifferences) {
     EXPECT_EQ(summary(), "1 ours, 0 own, 2 changed, 1 missing, 0 damaged; Ground 2-Á: 2 changed, 1 missing");
     EXPECT_EQ(settleDifferences(session, DifferenceChoice::takeAsMine, names)->leftOut, names.mid(2));
     EXPECT_EQ(settleDifferences(session, DifferenceChoice::putOursBack, names.mid(2))->done, 1);
+    EXPECT_EQ(settleDifferences(session, DifferenceChoice::takeAsMine, names.mid(2))->leftOut, names.mid(2));
     EXPECT_EQ(summary(), "2 ours, 2 own, 0 changed, 0 missing, 0 damaged; Ground 2-Á: 2 not there");
     put(u"2-Á"_s);
     restoreOriginals(session);
@@ -244,8 +305,28 @@ TEST_F(UndoTest, theQuickLookGoesByStampAndTheThoroughOneReads) {
     std::fstream(file, std::ios::in | std::ios::out).put('!');
     setOld();
     EXPECT_EQ(summary().section(u';', 0, 0), "4 ours, 0 own, 0 changed, 0 missing, 0 damaged");
-    EXPECT_EQ(summary(CheckDepth::everyFile).section(u';', 0, 0),
-              "3 ours, 0 own, 1 changed, 0 missing, 0 damaged");
+    const auto changed = "3 ours, 0 own, 1 changed, 0 missing, 0 damaged";
+    EXPECT_EQ(summary(CheckDepth::everyFile).section(u';', 0, 0), changed);
+    // Whatever of the three is another, the quick look reads.
+    const FilePath aside = world / u"aside";
+    const QByteArray bytes = readFile(world / u"neu.bmp");
+    const std::function<void()> ways[] = {[&] { writeFile(world / u"neu.bmp", bytes); },
+                                          [&] {
+                                              writeFile(aside, bytes);
+                                              install.files.rename(aside, world / u"neu.bmp");
+                                              setOld();
+                                          },
+                                          [&] {
+                                              put(u"2-Á"_s);
+                                              setOld();
+                                              put(u"2-Á"_s);
+                                              writeFile(world / u"neu.bmp", bytes + '!');
+                                              setOld();
+                                          }};
+    for (const auto& change : ways) {
+        change();
+        EXPECT_EQ(summary().section(u';', 0, 0), changed);
+    }
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "support/scripted_user.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace morvane::test {
 
@@ -15,7 +16,9 @@ void ScriptedUser::showMessage(const Message& message) {
     messages.push_back(message);
     calls << u"message "_s + kindWord(message.kind) + u' ' + message.title;
     messageVisible_ = message.isProgress;
-    if (!message.isProgress && message.withCancel) answers().answer(nextAnswer());
+    if (message.isProgress || !message.withCancel) return;
+    std::exchange(onQuestion, [] {})();
+    answers().answer(nextAnswer());
 }
 
 void ScriptedUser::updateProgress(const QString&, const QString& text, double value) {

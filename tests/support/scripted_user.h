@@ -44,7 +44,8 @@ public:
     std::deque<QString> foldersToChoose;
     std::function<void(Screen)> onModal = [](Screen) {};
     std::function<void()> onPump = [] {};
-    std::function<void()> onHide = [] {}; ///< a message closes
+    std::function<void()> onQuestion = [] {}; ///< once, when the next one is shown
+    std::function<void()> onHide = [] {};     ///< a message closes
     std::function<void()> onMinimise = [] {};
 
     /// What was shown, in order. Calls are lines such as "hide frm_Main", "progress 50", "file Processing
