@@ -9,11 +9,16 @@ namespace morvane {
 
 namespace {
 
+/// Half a picture must not become a texture.
+void save(const cDIBSection& picture, const FilePath& target) {
+    if (!picture.SavePicture(target)) throw Error(ErrorCode::diskFull, target.text());
+}
+
 /// On the thread that coloured it; a failure is told by the one that may.
 void saveAhead(ColouredFile& coloured, const FilePath& target) {
     if (!coloured.picture) return;
     try {
-        coloured.picture->SavePicture(target);
+        save(*coloured.picture, target);
         coloured.isSaved = true;
     } catch (const Error&) {
         coloured.saveFailure = std::current_exception();
@@ -80,7 +85,7 @@ void TexturePasses::takeColoured(ColouredFile&& coloured, const FilePath& target
     if (coloured.saveFailure) std::rethrow_exception(coloured.saveFailure);
     if (coloured.isSaved) return;
     if (resultDib_.Width() > 0)
-        resultDib_.SavePicture(target);
+        save(resultDib_, target);
     else if (session_.files.exists(target))
         session_.files.remove(target); // an earlier set's bitmap must not pass for this one's
 }

@@ -122,6 +122,24 @@ TEST(GroundGeneration, aBaseFileThatFailsGetsThePictureBefore) {
     EXPECT_NE(readFile(textures / u"031a2su1.bmp"), readFile(textures / u"029a2su1.bmp"));
 }
 
+/// The disk is full; the folder is the one of which nothing is cleared before a run.
+TEST(GroundGeneration, aPictureThatCouldNotBeWrittenIsNamedAndBecomesNoTexture) {
+    if (!hasLinks) GTEST_SKIP() << "no file that can be opened and not be written on this system";
+    SmallInstall install;
+    const FilePath temporary = install.home() / u"TempBitmaps\\Dutch";
+    install.files.makeFolder(temporary);
+    ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, // of which nothing lies at the beginning
+                            (temporary / u"005a2su2.bmp").native()));
+    create(install, {1, 0, 0, 0, 0});
+    EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
+    EXPECT_TRUE(install.user.told().join(u'/').contains(u"005a2su2.bmp"_s))
+        << install.user.told().join(u'/').toStdString();
+    const FilePath set =
+        groundSetFolder(install.session, install.session.state<GroundSelection>().SelectedGroundSet);
+    EXPECT_EQ(install.files.list(set / u"Dutch", u"*"_s), QStringList());
+    EXPECT_EQ(install.files.list(set / u"Texture", u"*"_s).size(), 3);
+}
+
 TEST(GroundGeneration, allSetsOfACoverComeBeforeTheNextAndNoJobStartsInsideAnother) {
     SmallInstall install({{u"GENERIC WORLD\\029h2su6.bmp"_s}});
     install.user.onPump = [&] { GroundGeneration(install.session).createTextureSets(true); };
