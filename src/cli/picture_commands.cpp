@@ -3,6 +3,7 @@
 #include "core/bounded_reading.h"
 #include "core/error.h"
 #include "core/reading_limits.h"
+#include "imaging/picture_reader.h"
 #include "imaging/texture_codec.h"
 #include "sets/colour_settings.h"
 #include "sky/sky_groups.h"
@@ -54,11 +55,19 @@ void recolourSky(CommandContext& context) {
     });
 }
 
+/// The codec does not tell why it made none.
 void compress(CommandContext& context) {
+    FileSystem& files = context.session.files;
     const FilePath source = pathOfArgument(context.arguments[0]);
     const FilePath target = pathOfArgument(context.arguments[1]);
-    if (!BMPScompressBMPVB(context.session.files, source, u"1"_s, 10, -1, 0, target))
-        fail(context, u"No texture was made of "_s + source.text());
+    if (BMPScompressBMPVB(files, source, u"1"_s, 10, -1, 0, target)) return;
+    const Picture picture = loadPicture(files, source, largestTextureSide);
+    if (isTextureSide(picture.width) && isTextureSide(picture.height))
+        return fail(context, u"The texture could not be written to "_s + target.text());
+    fail(context, u"No texture was made of "_s + source.text() + u", which has "_s +
+                      u"%1 by %2 pixels"_s.arg(picture.width).arg(picture.height) +
+                      u": a texture's sides are powers of two, from 4 to "_s +
+                      QString::number(largestTextureSide));
 }
 
 } // namespace

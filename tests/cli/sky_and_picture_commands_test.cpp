@@ -39,8 +39,17 @@ TEST_F(PictureCommands, spoiltMissingAndUnwritableFilesAreTold) {
         }
         expectError(command, {missing, out}, missing);
         for (const QString& unwritable : {nowhere, taken})
-            expectError(command, {in, unwritable}, command == compress ? in : unwritable);
+            expectError(command, {in, unwritable}, unwritable);
     }
+    const std::pair<int, QString> sides[] = {
+        {20, u"has 20 by 20 pixels: a texture's sides are powers of two, from 4 to 1024"_s},
+        {2048, u"it is larger than 1024 pixels a side"_s}};
+    for (const auto& [side, why] : sides) {
+        writeFile(inFile, smallBitmap(side, 90));
+        expectError(compress, {in, out}, in);
+        EXPECT_TRUE(runConsole(compress, {in, out}).messages.contains(why)) << side;
+    }
+    writeFile(inFile, good);
     const auto run = runConsole(recolour, {in, out});
     EXPECT_EQ(run.messages + QString::fromUtf8(run.output), QString());
     EXPECT_EQ(QImage(out).pixel(5, 9), qRgb(96, 185, 38));
