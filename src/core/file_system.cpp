@@ -26,7 +26,7 @@ std::vector<FilePath> filesIn(FileSystem& files, const FilePath& folder, const Q
     const FilePath inside = folder.resolved();
     std::vector<FilePath> found;
     for (const QString& name : files.list(inside, mask))
-        found.push_back(inside.exactChild(name));
+        if (FilePath::isChildName(name)) found.push_back(inside.exactChild(name));
     return found;
 }
 

@@ -90,7 +90,8 @@ public:
     virtual void makeDurable(const std::vector<FilePath>& files) = 0;
 };
 
-/// The files of a listing, in their own spelling: no operation on one of them looks for another.
+/// The files of a listing, in their own spelling: no operation on one of them looks for another. A name that
+/// the system takes and no path of ours can have is passed over: the file is nobody's that we know.
 std::vector<FilePath> filesIn(FileSystem& files, const FilePath& folder, const QString& mask);
 
 /// The real one.

@@ -18,9 +18,12 @@ QStringList strangersIn(FileSystem& files, const FilePath& folder, const QString
                         const QStringList& folders) {
     QStringList names;
     if (files.isLink(folder)) names << folder.fileName();
+    const auto isKnown = [&](const QString& name) {
+        return FilePath::isChildName(name) &&
+               std::ranges::any_of(masks, [&](const QString& mask) { return matchesMask(name, mask); });
+    };
     for (const QString& name : files.list(folder, u"*"_s))
-        if (std::ranges::none_of(masks, [&](const QString& mask) { return matchesMask(name, mask); }))
-            names << name;
+        if (!isKnown(name)) names << name;
     for (const QString& name : files.listFolders(folder))
         if (!folders.contains(name, Qt::CaseInsensitive)) names << name;
     for (int left = files.namelessFiles(folder, {}); left > 0; --left)

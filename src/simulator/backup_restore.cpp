@@ -55,8 +55,8 @@ std::optional<CheckedFile> fileToCome(const BackupList& list, const FileCopy& co
 RestoreReport copyBack(Session& session, const QString& name) {
     const std::vector<FileCopy> copies = texturesOf(session, name);
     const BackupList list = BackupList::readIfReadable(session, name);
-    forgetLastStep(session); // what it speaks of is replaced
     SimulatorCopier copier(session);
+    forgetLastStep(session); // what it speaks of is replaced
     copier.clearStrays(copies);
     RestoreReport report;
     CheckAhead sources(copies);
@@ -117,8 +117,9 @@ void addTextures(Session& session, const BackupPlace& place, std::vector<FileCop
     for (const QString& name : names)
         ++spellings[name.toCaseFolded()];
     for (const QString& name : names) {
+        if (!FilePath::isChildName(name)) continue; // put there by another hand
         const bool isAlone = spellings.value(name.toCaseFolded()) == 1;
-        const QString own = isAlone && FilePath::isChildName(name) ? spelling.find(name).fileName() : name;
+        const QString own = isAlone ? spelling.find(name).fileName() : name;
         copies.push_back({backup.exactChild(name), simulator.exactChild(own)});
     }
 }

@@ -214,6 +214,16 @@ TEST_F(BackupTest, whatCannotBeReadIsMissing) {
     std::remove(noText.c_str()); // no folder can be removed by Qt while it is there
 }
 
+/// Put there by another hand.
+TEST_F(BackupTest, aNameThatIsNoPathCostsNoOther) {
+    createBackup(session, false);
+    std::ofstream((folder / u"Texture").native().toStdString() + "/no path : .bmp") << "texture";
+    writeFile(world / u"029H2SU6.BMP", "a set");
+    restore(u"1-Backup"_s);
+    EXPECT_TRUE(readFile(world / u"029H2SU6.BMP").startsWith("the pilot's"));
+    EXPECT_EQ(install.user.calls.back(), u"done 1 put back"_s);
+}
+
 TEST_F(BackupTest, eachSpellingOfANameIsBackedUpAndRestoredAsItself) {
     const FilePath first = world.resolved().exactChild(u"GELÄNDE Ñ.BMP"_s), second = world / u"Gelände ñ.bmp";
     writeFile(first, "another");

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <algorithm>
+#include <fstream>
 
 namespace morvane::test {
 namespace {
@@ -51,6 +52,7 @@ struct KeptInstall : SmallInstall {
         if (what == u"ours alike") files.remove(place), installSet(own);
         if (what == u"backup") createBackup(session, false);
         if (what == u"partial") BackupList::markPartial(session, u"2-Backup"_s);
+        if (what == u"own bytes") writeFile(backups / u"2-Backup\\Texture" / texture, own);
         if (what == u"torn") write(u"2-Backup\\Texture\\"_s + texture);
         if (what == u"torn original") write(u"Originals\\Scenery\\World\\texture\\"_s + texture);
         if (what == u"alias") addRow(u"1-BACKUP"_s);
@@ -92,9 +94,36 @@ TEST(KeptRoom, aBackupWithALastCopyStays) {
         EXPECT_EQ(it.has(u"1-Backup"_s) || it.files.exists(it.backups / u"1-Backup"), stays.contains(what));
         if (goes.contains(what)) continue;
         EXPECT_TRUE(contentsBelow(it.backups) == before);
-        EXPECT_TRUE(it.user.told().back().contains(u"as 1 of your own files is nowhere else: "_s));
+        EXPECT_TRUE(it.user.told().back().contains(what == u"note,folder"
+                                                       ? u"as 2 of your own files are nowhere else: "_s
+                                                       : u"as 1 of your own files is nowhere else: "_s));
     }
 }
+
+/// Nothing has gone as long as it is looked for.
+TEST(KeptRoom, aRemovalThatIsCancelledTakesNothing) {
+    KeptInstall it;
+    const auto before = contentsBelow(it.backups);
+    it.user.onPump = [&] { it.session.user.answers().cancelRequested = true; };
+    EXPECT_FALSE(removeBackup(it.session, u"1-Backup"_s));
+    EXPECT_TRUE(contentsBelow(it.backups) == before && it.has(u"1-Backup"_s));
+    EXPECT_EQ(it.user.calls.filter(u"done"_s).size(), 0);
+}
+
+#ifndef Q_OS_WIN
+TEST(KeptRoom, aFileWhoseNameIsNoTextOrNoPathKeepsItsBackup) {
+    KeptInstall it;
+    for (const auto& [name, told] :
+         {std::pair("\xff.txt", u"?"_s), {"no path : .bmp", u"no path : .bmp"_s}}) {
+        const std::string file = (it.backups / u"1-Backup\\Texture").native().toStdString() + '/' + name;
+        std::ofstream(file) << "another hand's";
+        EXPECT_FALSE(removeBackup(it.session, u"1-Backup"_s));
+        EXPECT_TRUE(it.user.told().back().contains(u"as 1 of your own files is nowhere else: "_s + told));
+        std::remove(file.c_str()); // no folder can be removed by Qt while one is no text
+    }
+    EXPECT_TRUE(removeBackup(it.session, u"1-Backup"_s));
+}
+#endif
 
 /// Wherever it is cut, what is left is whole or a partial backup, and the next removal takes it.
 TEST(KeptRoom, aRemovalThatIsCutLeavesNoBackupThatCountsAsComplete) {
