@@ -38,8 +38,9 @@ std::optional<OriginalsReport> restoreOriginals(Session& session) {
                        .text = u"Morvane is putting your own files back.  Please wait......."_s,
                        .restore =
                            [&](const auto& progress) {
+                               Originals originals = originalsOf(session);
                                forgetLastStep(session); // what it would bring back is ours
-                               return originalsOf(session).restore(progress);
+                               return originals.restore(progress);
                            },
                        .finish =
                            [&](const OriginalsReport& report) {

@@ -408,6 +408,9 @@ TEST_F(OriginalsTest, thePilotsFileIsTakenInThePlaceOfOursAlone) {
         EXPECT_EQ(originals().keptFile(target(a)).has_value(), isOurs) << standing;
     }
     writeFile(target(a), "ours, new");
+    EXPECT_FALSE(originals().takeAsPilots(a));
+    originals().layAside(target(a));
+    EXPECT_EQ(contentsBelow(keptFiles).size(), 2) << "the list and what was kept";
     writeFile(keptFiles / a, "damaged");
     EXPECT_FALSE(originals().keptFile(target(a)));
     files.remove(target(a));

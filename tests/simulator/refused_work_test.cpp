@@ -3,6 +3,8 @@
 #include "core/store.h"
 #include "core/writing.h"
 #include "ground/ground_installation.h"
+#include "sets/simulator_copy.h"
+#include "sets/simulator_note.h"
 #include "simulator/backup_files.h"
 #include "simulator/backup_removal.h"
 #include "simulator/backup_restore.h"
@@ -96,6 +98,7 @@ TEST_F(RefusedWork, aNoLeavesAnotherInstallsSimulatorAlone) {
 TEST_F(RefusedWork, aNoChangesNothing) {
     user.otherwise = false;
     user.onModal = [this](Screen) { session.state<BackupChoice>().backupConfirmed = true; };
+    originalsOf(session).makeFolder(install.simulator() / u"Flights\\Morvane");
     const auto before = everything();
     askRestoreOriginals(session);
     restoreBackupOnRequest(session);
@@ -137,6 +140,23 @@ TEST_F(RefusedWork, aRestoreThatBringsNothingBackLeavesTheSetInstalled) {
     EXPECT_TRUE(restoreOriginals(session)->failure);
     EXPECT_EQ(install.installedSets(), QStringList{u"1-Blue"_s});
     EXPECT_EQ(user.countOfKind(MessageKind::error), 1);
+    install.files.removeFolder(install.simulator() / u"Scenery\\World\\Texture\\029H2SU6.BMP");
+    EXPECT_EQ(restoreOriginals(session)->putBack, 1);
+    EXPECT_EQ(install.installedSets(), QStringList());
+    EXPECT_TRUE(readSimulatorNote(install.files, install.simulator())) << "one of ours may stand there";
+}
+
+/// Nobody knows what it says, so nothing is replaced or given back, also where a row was written before; a
+/// backup can be made.
+TEST_F(RefusedWork, aListOfANewerVersionStopsWhatNeedsIt) {
+    writeFile(install.home() / u"Backup\\Originals\\originals.lst", "morvane-originals\t3\tnobody knows\n");
+    const auto before = everything();
+    for (const Work& work : works)
+        if (work.putsOursThere) work.run(session);
+    EXPECT_FALSE(askRestoreOriginals(session) || restoreOriginals(session) || undoLastInstall(session));
+    EXPECT_TRUE(everything() == before) << "the step before can still be undone";
+    const auto report = createBackup(session, false, true);
+    EXPECT_TRUE(report && report->isComplete());
 }
 
 /// A store that was edited by hand: such a row is all that there is of the backup.

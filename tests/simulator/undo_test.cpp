@@ -15,6 +15,7 @@
 #include "simulator/difference_choices.h"
 #include "simulator/installed_rows.h"
 #include "simulator/options.h"
+#include "simulator/restored_files.h"
 #include "simulator/set_matching.h"
 #include "simulator/simulator_check.h"
 #include "simulator/simulator_restore.h"
@@ -258,6 +259,18 @@ TEST_F(UndoTest, tellsAndSettlesDifferences) {
     EXPECT_EQ(report->leftOut.join(u' ').compare(names[0] + u' ' + names[2], Qt::CaseInsensitive), 0)
         << "damaged, and never his";
     EXPECT_EQ(readFile(simulator / names[1]), "another hand's");
+    QDir((install.home() / u"Backup\\Originals\\Scenery").native()).removeRecursively();
+    EXPECT_TRUE(summary().section(u';', 0, 0).endsWith(u", 1 damaged"_s)) << summary().toStdString();
+}
+
+TEST(ListedPaths, tenAreNamedAndTheRestIsCounted) {
+    QStringList paths;
+    for (const int count : {10, 11}) {
+        while (paths.size() < count)
+            paths << u"a"_s;
+        EXPECT_EQ(listedPaths(paths).endsWith(u"a\nand 1 more"_s), count == 11);
+        EXPECT_EQ(listedPaths(paths).count(u'a'), count);
+    }
 }
 
 /// Two installs on one simulator: the second asks before it takes the first one's textures for the pilot's.
