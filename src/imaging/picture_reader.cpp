@@ -1,5 +1,6 @@
 #include "imaging/picture_reader.h"
 
+#include "core/bounded_reading.h"
 #include "core/error.h"
 #include "imaging/pixel_rows.h"
 
@@ -47,7 +48,7 @@ Picture readPicture(const QByteArray& bytes, int largestSide) {
 }
 
 Picture loadPicture(FileSystem& files, const FilePath& path, int largestSide) {
-    const QByteArray bytes = files.read(path);
+    const QByteArray bytes = readAtMost(files, path, largestPictureFile, u"a picture"_s);
     try {
         return readPicture(bytes, largestSide);
     } catch (const Error& error) {

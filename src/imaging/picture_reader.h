@@ -14,8 +14,8 @@ namespace morvane {
 /// of `core/reading_limits.h` included: "it is larger than 1024 pixels a side".
 Picture readPicture(const QByteArray& bytes, int largestSide = largestPictureSide);
 
-/// The same from a file; its path is then in the error's description. A missing file raises what
-/// FileSystem::read raises.
+/// The same from a file; its path is then in the error's description. A missing file and one beyond
+/// `largestPictureFile` raise what readAtMost raises.
 Picture loadPicture(FileSystem& files, const FilePath& path, int largestSide = largestPictureSide);
 
 } // namespace morvane

@@ -1,5 +1,6 @@
 #include "ui/skin.h"
 
+#include "core/bounded_reading.h"
 #include "core/literals.h"
 #include "core/reading_limits.h"
 #include "imaging/window_region.h"
@@ -53,7 +54,7 @@ void Skin::noteMissing(const QString& fileName, const QString& remark) {
 
 QByteArray Skin::bytesOf(const QString& fileName) {
     try {
-        return files_.read(media_ / fileName);
+        return readAtMost(files_, media_ / fileName, largestPictureFile, u"a picture"_s);
     } catch (const std::exception&) {
         return {};
     }

@@ -96,6 +96,9 @@ TEST(PictureReader, aBaseImageIsNoLargerThanATexture) {
     };
     EXPECT_EQ(toldOfWidth(1024), "");
     EXPECT_EQ(toldOfWidth(1025), u"Invalid picture: it is larger than 1024 pixels a side: "_s + file.text());
+    ASSERT_TRUE(QFile::resize(file.native(), largestPictureFile + 1));
+    EXPECT_EQ(descriptionRaisedBy([&] { loadPicture(files, file); }),
+              "base.bmp is far too large for a picture: more than 128 MB");
 }
 
 TEST(PictureReader, manyJumpsStayOutside) {
