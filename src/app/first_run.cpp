@@ -2,43 +2,15 @@
 
 #include "core/failure_report.h"
 #include "core/registry.h"
-#include "core/safe_copy.h"
 #include "core/writing.h"
-#include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
 #include "sets/simulator_copy.h"
 #include "sets/simulator_note.h"
 #include "simulator/backup_files.h"
 #include "simulator/flights.h"
-
-#include <algorithm>
+#include "simulator/kept_splash.h"
 
 namespace morvane {
-
-namespace {
-
-/// One of the splashes that an install puts there for its cloud cover; no list knows of one that an earlier
-/// installation of the program left there.
-bool isCoverSplash(Session& session, const FilePath& splash) {
-    const QByteArray contents = session.files.read(splash);
-    return std::any_of(cloudCovers(), cloudCovers() + cloudCoverCount, [&](const CloudCover& cover) {
-        const FilePath ours = session.AppPath / u"Media" / cover.splash;
-        return session.files.exists(ours) && session.files.read(ours) == contents;
-    });
-}
-
-/// For the option that brings it back. Where one of ours stands the pilot's is among the originals; if it is
-/// not, what was kept before is left alone.
-void keepSimulatorSplash(Session& session) {
-    const FilePath splash = splashTarget(session);
-    if (!session.files.exists(splash)) return;
-    Originals originals = originalsOf(session);
-    const bool isOurs = originals.isOurs(splash) || isCoverSplash(session, splash);
-    const std::optional<FilePath> own = isOurs ? originals.keptFile(splash) : splash;
-    if (own) replaceFile(session.files, *own, session.AppPath / u"Media\\dlgsplash.bmp");
-}
-
-} // namespace
 
 void doFirstRun(Session& session) {
     const QString firstTime = u"FirstTime"_s;
@@ -52,7 +24,9 @@ void doFirstRun(Session& session) {
     const bool isClaimed =
         claimSimulator(session); // else another's textures would be backed up as the pilot's
     // Each is told for itself, costs none of the others, and is no reason not to start.
-    reportFailures(session.user, morvaneError, [&] { keepSimulatorSplash(session); });
+    reportFailures(session.user, morvaneError, [&] {
+        if (session.files.exists(splashTarget(session))) keepPilotsSplash(session);
+    });
     if (isClaimed && !session.state<OptionsInForce>().IsWideClient)
         reportFailures(session.user, morvaneError, [&] { copyDeliveredFlights(session); });
     const std::optional<BackupReport> backup = createBackup(session, true);

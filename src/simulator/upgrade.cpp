@@ -5,6 +5,7 @@
 #include "core/store_backup.h"
 #include "core/store_connection.h"
 #include "sets/simulator_copy.h"
+#include "simulator/kept_splash.h"
 #include "simulator/upgrade_dutch.h"
 #include "simulator/upgrade_tables.h"
 
@@ -35,9 +36,7 @@ void backupSplashV2(Session& session) {
     // The kind is misspelt here and nowhere else: it names an icon of its own.
     const FailureReport report{u"Morvane Error"_s, MessageKind::exclamtion, u"Sub backUserFSSplash "_s};
     reportFailures(session.user, report, [&] {
-        const FilePath splash = splashTarget(session);
-        if (session.files.isFolder(splash.parent()))
-            replaceFile(session.files, splash, session.AppPath / u"Media\\dlgsplash.bmp");
+        if (session.files.isFolder(splashTarget(session).parent())) keepPilotsSplash(session);
     });
 }
 

@@ -127,6 +127,16 @@ TEST_F(UpgradeTest, anInstallOfVersionTwoBecomesAWorkingOne) {
     EXPECT_FALSE(install.files.exists(home / u"AIRPORTDATA.txt"));
 }
 
+// Version 2 has shown its sets' covers by then.
+TEST_F(UpgradeTest, aSplashOfOursIsNotKeptAsThePilots) {
+    const FilePath kept = home / u"Media\\dlgsplash.bmp";
+    writeFile(kept, "the pilot's, kept before");
+    writeFile(home / u"Media\\dlgSplashOVC.bmp", "overcast");
+    writeFile(install.simulator() / u"Uires\\dlgsplash.bmp", "overcast");
+    EXPECT_TRUE(start());
+    EXPECT_EQ(readFile(kept), "the pilot's, kept before");
+}
+
 // What a step finds done it passes over, whatever the rows or the folders hold.
 TEST_F(UpgradeTest, stepsThatWereDoneArePassedOver) {
     connectDatabase(session);
