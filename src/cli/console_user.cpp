@@ -93,6 +93,12 @@ std::optional<QString> ConsoleUser::typedLine() {
     return line;
 }
 
+QString ConsoleUser::askText(const QString& prompt) {
+    if (settings_.policy != AnswerPolicy::ask) return {};
+    print(prompt);
+    return typedLine().value_or(QString()).trimmed();
+}
+
 /// Nothing when nobody answers.
 std::optional<bool> ConsoleUser::answerOf(const QString& question) {
     if (settings_.policy == AnswerPolicy::nobody) return std::nullopt;
@@ -153,8 +159,7 @@ QString ConsoleUser::browseForFolder(const QString&) {
         print(u"  Nobody can choose a folder here; use config set simulator DIR, or flights DIR\n"_s);
         return {};
     }
-    print(u"Please select a folder... "_s);
-    const QString typed = typedLine().value_or(QString()).trimmed();
+    const QString typed = askText(u"Please select a folder... "_s);
     if (typed.isEmpty()) return {};
     failed_ = failedBefore_; // what was told last was that a folder is needed
     return fullPath(typed);

@@ -44,6 +44,9 @@ public:
     void minimiseProgram() override {}
     void pumpMessages() override;
 
+    /// A line that is typed, without blanks around it; empty where nobody is asked.
+    QString askText(const QString& prompt);
+
     /// What a modal screen does here; the command that expects one sets it.
     std::function<void(Screen)> onModal = [](Screen) {};
 

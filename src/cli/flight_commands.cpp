@@ -2,6 +2,7 @@
 #include "cli/command_tables.h"
 #include "cli/json_output.h"
 #include "cli/ordered_flight.h"
+#include "core/attempts.h"
 #include "core/file_helpers.h"
 #include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
@@ -41,8 +42,29 @@ QJsonObject toJson(const Session& session, const FlyReport& report) {
     return json;
 }
 
+/// What the window shows a screen for. Asked again until one is meant, or none.
+void chooseFlight(CommandContext& context) {
+    loadFlights(context);
+    const QStringList names = savedFlights(context.session);
+    if (!names.isEmpty()) context.user.tellDone({names.join(u'\n')});
+    for (;;) {
+        const QString typed = context.user.askText(u"Which flight? An empty line means none: "_s);
+        if (typed.isEmpty()) break;
+        const auto failure = failureOf([&] {
+            context.session.state<FlightChoice>() = {.SelectedFlightName = flightNamed(typed, names),
+                                                     .FlightSelected = true};
+        });
+        if (!failure) return;
+        context.user.tellDone({failure->description()});
+    }
+    context.user.tellDone({u"No saved flight; with --cover, --flight NAME starts one unasked"_s});
+}
+
 void fly(CommandContext& context) {
     if (isOrdered(context.options)) return flyAsOrdered(context);
+    context.user.onModal = [&](Screen screen) {
+        if (screen == Screen::frm_flight) chooseFlight(context);
+    };
     context.session.CommandLineRun = true; // as when another program drives this one
     const CloudCover& cover = *cloudCoverOfCode(context.arguments[0]);
     printJson(QJsonDocument(toJson(context.session, flyWithCover(context.session, cover))));

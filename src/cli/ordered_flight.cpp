@@ -147,17 +147,7 @@ void OrderedFlight::findFlight() {
     session_.MyDocumentsPath = GetSpecialFolder(documents);
     if (!isTrial()) loadFlightFiles(session_);
     const QStringList names = isTrial() ? flightsToGather(session_) : savedFlights(session_);
-    const QString& wanted = options_[flightOption];
-    const auto same = [&](const QString& name) { return name.compare(wanted, Qt::CaseInsensitive) == 0; };
-    const auto found = std::ranges::find_if(names, same);
-    if (found == names.end()) {
-        const QString nearest = nearestWord(wanted, names);
-        throw Error::withDescription(ErrorCode::fileNotFound,
-                                     u"There is no saved flight '%1'; "_s.arg(wanted) +
-                                         (nearest.isEmpty() ? u"'morvane-cli flights list' names them"_s
-                                                            : u"did you mean '%1'?"_s.arg(nearest)));
-    }
-    flight_ = *found;
+    flight_ = flightNamed(options_[flightOption], names);
 }
 
 /// A trial writes no reports either.
@@ -314,6 +304,16 @@ QString orderProblem(const QHash<QString, QString>& options) {
         if (option.name != jsonOption.name && options.contains(option.name))
             return option.name + u" goes with "_s + either(sources());
     return {};
+}
+
+QString flightNamed(const QString& wanted, const QStringList& names) {
+    const auto isMeant = [&](const QString& name) { return name.compare(wanted, Qt::CaseInsensitive) == 0; };
+    if (const auto found = std::ranges::find_if(names, isMeant); found != names.end()) return *found;
+    const QString nearest = nearestWord(wanted, names);
+    throw Error::withDescription(ErrorCode::fileNotFound,
+                                 u"There is no saved flight '%1'; "_s.arg(wanted) +
+                                     (nearest.isEmpty() ? u"'morvane-cli flights list' names them"_s
+                                                        : u"did you mean '%1'?"_s.arg(nearest)));
 }
 
 void flyAsOrdered(CommandContext& context) {

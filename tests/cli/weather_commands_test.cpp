@@ -220,6 +220,21 @@ TEST_F(FlyCommand, aReportWithoutCloudsOrANoInstallsNothing) {
     EXPECT_FALSE(install.sets().contains(u'*'));
 }
 
+// By its name, as there is no screen to choose on; a slip costs no install.
+TEST_F(FlyCommand, theFlightThatAYesMeansIsAskedFor) {
+    writeFile(install.simulator() / u"Flights\\Morvane\\Évening Rain.flt", "flight");
+    const QStringList home{u"--answer"_s, u"ask"_s, u"--home"_s, install.home().native()};
+    const std::pair<QByteArray, QByteArray> cases[] = {{"y\ny\névening rian\névening rain\n", "saved flight"},
+                                                       {"y\ny\n\ny\n", "simulator"}};
+    for (const auto& [typed, start] : cases) {
+        const auto run = runConsole(u"fly OVC"_s, home, typed);
+        EXPECT_EQ(run.status, 0) << run.messages.toStdString();
+        EXPECT_TRUE(run.output.contains("\"start\":\"" + start + '"')) << run.output.toStdString();
+        EXPECT_EQ(run.messages.contains(u"'évening rian'; did you mean 'Évening Rain'?"), start == "saved flight")
+            << run.messages.toStdString();
+    }
+}
+
 /// What an order ends in: its status and what it says, and of the object some values, joined by "|".
 struct OrderCase {
     QString words; ///< parted by "|"
