@@ -30,8 +30,7 @@ std::vector<CatalogueFile> TextureCatalogue::popTextureList(int seasonCount, int
 
 TextureCatalogue::Folders TextureCatalogue::foldersOf(const CatalogueCategory& category, bool forSet,
                                                       const QString& setName) {
-    if (!session_.rows<clsResourceFolders>()) clsResourceFolders::reload(session_);
-    for (const auto& row : *session_.rows<clsResourceFolders>()) {
+    for (const auto& row : resourceFolders(session_)) {
         if (row->ResourceName != QStringView(category.resourceName)) continue;
         const FilePath set = session_.AppPath / u"Texture Sets";
         return {session_.AppPath / u"Resources" / row->ResourceMVFolder,

@@ -18,4 +18,13 @@ const StoredTable<clsResourceFolder>& clsResourceFolder::table() {
     return table;
 }
 
+const clsResourceFolders& resourceFolders(Session& session) {
+    auto& folders = session.rows<clsResourceFolders>();
+    if (!folders && !clsResourceFolders::reload(session)) {
+        folders.reset();
+        throw Error(ErrorCode::interrupted);
+    }
+    return *folders;
+}
+
 } // namespace morvane

@@ -53,7 +53,6 @@ public:
           world_(worldNames_), addOn_(session.files.list(source.addOn, u"*.*"_s)) {}
 
     StockPlan plan() {
-        if (!session_.rows<clsResourceFolders>()) clsResourceFolders::reload(session_);
         for (std::size_t number = 1; number <= lastCategory; ++number)
             planCategory(number);
         planWhere(isNightName, true, u"Resources\\GENERIC WORLD NIGHT"_s, u"Resources\\DUTCH NIGHT"_s);
@@ -65,7 +64,7 @@ public:
 
 private:
     QString resourceFolder(const QString& name) const {
-        for (const auto& row : *session_.rows<clsResourceFolders>())
+        for (const auto& row : resourceFolders(session_))
             if (row->ResourceName == name) return row->ResourceMVFolder;
         return {};
     }

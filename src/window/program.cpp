@@ -4,6 +4,7 @@
 #include "app/exit_flow.h"
 #include "app/first_run.h"
 #include "app/start_up.h"
+#include "core/attempts.h"
 #include "core/failure_report.h"
 #include "core/file_helpers.h"
 #include "core/session.h"
@@ -70,7 +71,7 @@ void loadBehindSplash(WindowShell& shell) {
     getCustomSplashVal(session);
     gatherFlights(session, splash);
     if (hasStore(session)) {
-        clsResourceFolders::reload(session);
+        attempt([&] { resourceFolders(session); });
         clsWxFinders::reload(session);
     }
     showStep(splash, u"Loading the texture sets. Please Wait............."_s, 60);

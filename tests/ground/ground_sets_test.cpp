@@ -10,6 +10,7 @@
 #include "imaging/picture_reader.h"
 #include "sets/catalogue_file.h"
 #include "sets/options_in_force.h"
+#include "sets/resource_folders.h"
 #include "support/small_install.h"
 #include "support/system_files.h"
 
@@ -170,6 +171,22 @@ TEST(GroundGeneration, aLockedStoreEndsARunWithOneMessageBeforeItMakesAnyFile) {
     EXPECT_EQ(install.user.countOfKind(MessageKind::error), 1);
     EXPECT_TRUE(install.user.calls.contains("show frm_Main"));
     EXPECT_TRUE(setFolders(install).isEmpty());
+}
+
+// Where the files would lie is in a table: without it every set would be an empty one.
+TEST(GroundGeneration, noSetIsMadeWithoutTheTableOfFolders) {
+    SmallInstall install;
+    const auto rename = [&](const char* from, const char* to) {
+        install.session.adoConn->execute(u"ALTER TABLE %1 RENAME TO %2"_s.arg(from, to));
+    };
+    rename("RESOURCE_FOLDERS", "AWAY");
+    install.session.rows<clsResourceFolders>().reset();
+    create(install, {0, 0, 0, 0, 1});
+    EXPECT_EQ(covers(install).size(), 1);
+    EXPECT_EQ(install.user.calls.filter(u"box "_s).size(), 1) << install.user.calls.join('\n').toStdString();
+    rename("AWAY", "RESOURCE_FOLDERS");
+    create(install, {0, 0, 0, 0, 1});
+    EXPECT_EQ(covers(install).size(), 2);
 }
 
 TEST(GroundRandomiser, realSourceGivesEachFieldAFractionOfItsOwn) {
