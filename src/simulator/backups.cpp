@@ -18,8 +18,8 @@ const StoredTable<clsBackup>& clsBackup::table() {
     return table;
 }
 
-QString dayText(const QDateTime& takenAt) {
-    return QLocale(QLocale::English).toString(takenAt, u"d MMM yyyy, HH:mm"_s);
+QString dayText(const QDateTime& takenAt, const QString& format) {
+    return takenAt.isValid() ? QLocale(QLocale::English).toString(takenAt, format) : u"unknown date"_s;
 }
 
 } // namespace morvane

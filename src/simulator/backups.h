@@ -16,8 +16,8 @@ struct clsBackup {
     static const StoredTable<clsBackup>& table();
 };
 
-/// When it was taken, for the user's eyes: "30 May 2007, 21:14".
-QString dayText(const QDateTime& takenAt);
+/// When it was taken, for the user's eyes: "30 May 2007, 21:14"; "unknown date" where the row has none.
+QString dayText(const QDateTime& takenAt, const QString& format = u"d MMM yyyy, HH:mm"_s);
 
 using clsBackups = StoredRows<clsBackup>;
 

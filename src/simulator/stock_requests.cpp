@@ -49,7 +49,7 @@ std::optional<StockSource> sourceFromBackup(Session& session) {
              "textures.  Restore them first, then try again."_s);
         return std::nullopt;
     }
-    const QString taken = backup->BackupDateTime.toString(u"yyyy-MM-dd hh:mm");
+    const QString taken = dayText(backup->BackupDateTime, u"yyyy-MM-dd hh:mm"_s);
     if (!session.user.ask(Question::backup, stockTitle,
                           u"A Morvane texture set is installed in Flight Simulator now.  Would you like to "
                           u"use the textures of your newest backup, "_s +

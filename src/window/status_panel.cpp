@@ -155,10 +155,10 @@ void StatusPanel::refreshInstalledItems() {
         label->setFont(fontOf(config->ConfigInstalled ? TextRole::value : TextRole::body));
     }
     if (!clsBackups::reload(session)) return;
-    const int count = session.rows<clsBackups>()->Count();
-    lblBackupValue_->setText(count == 0 ? u"No backups created yet"_s
-                                        : session.rows<clsBackups>()->Item(count)->BackupDateTime.toString(
-                                              u"yyyy/MM/dd hh:mm:ss"_s));
+    const clsBackups& backups = *session.rows<clsBackups>();
+    lblBackupValue_->setText(backups.Count() == 0 ? u"No backups created yet"_s
+                                                  : dayText(backups.Item(backups.Count())->BackupDateTime,
+                                                            u"yyyy/MM/dd hh:mm:ss"_s));
 }
 
 void StatusPanel::fill(const SetLabels& labels, const SetSummary& summary) {

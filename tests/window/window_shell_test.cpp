@@ -155,6 +155,10 @@ TEST_F(ShellTest, theStatusPageCountsSetsAndTellsOfAWideClient) {
          "condition) the more variety you will enjoy in game"_s}};
     for (const auto& [label, text] : labels)
         EXPECT_EQ(program.text(u"frm_Main"_s, label), text);
+    program.session.adoConn->execute(
+        u"INSERT INTO MV_BACKUP(BACKUP_NAME, BACKUP_DATE_TIME) VALUES ('1-Backup', 'yesterday')"_s);
+    shell.refreshMainStatus();
+    EXPECT_EQ(program.text(u"frm_Main"_s, u"lblBackupValue"_s), u"unknown date"_s);
 }
 
 /// A page's own text goes and comes with the page; what a job said is on whichever window is shown next.

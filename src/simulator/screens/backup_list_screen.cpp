@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "simulator/backup_restore.h"
+#include "simulator/backups.h"
 #include "ui/controls/set_table.h"
 
 #include <QKeyEvent>
@@ -25,7 +26,7 @@ frm_BackupList::frm_BackupList(Shell& shell)
 void frm_BackupList::popBackupList() {
     lstBackupList_->clearRows();
     for (const BackupChoice::Backup& backup : session().state<BackupChoice>().backups) {
-        QString date = backup.takenAt.toString(u"yyyy/MM/dd hh:mm:ss"_s);
+        QString date = dayText(backup.takenAt, u"yyyy/MM/dd hh:mm:ss"_s);
         if (!backup.isComplete) date += u" (partial)"_s;
         lstBackupList_->addRow({backup.name, {backup.name, date}, {backup.name, date}});
     }
