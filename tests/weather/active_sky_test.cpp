@@ -143,9 +143,9 @@ TEST_F(ActiveSkyTest, whatARunnerRunsIsKnownByItsName) {
     const QString title = u"AS %1"_s.arg(QCoreApplication::applicationPid());
     EXPECT_FALSE(systemActiveSky().isWindowOpen(title));
     QProcess runner;
-    runner.start(u"sh"_s,
-                 {u"-c"_s, u"read line; true"_s, u"Z:\\Program Files\\"_s + title.toLower() + u".EXE"_s});
-    ASSERT_TRUE(runner.waitForStarted());
+    runner.start(u"sh"_s, {u"-c"_s, u"echo; read line; true"_s,
+                           u"Z:\\Program Files\\"_s + title.toLower() + u".EXE"_s});
+    ASSERT_TRUE(runner.waitForReadyRead()); // a program has started a little before it has its words
     EXPECT_TRUE(systemActiveSky().isWindowOpen(title));
     EXPECT_FALSE(systemActiveSky().isWindowOpen(title.mid(1))) << "no part of a name";
     runner.closeWriteChannel();
