@@ -25,7 +25,7 @@ bool isWholeCommand(const UserAnswers& asked) {
 } // namespace
 
 ConsoleUser::ConsoleUser(const Settings& settings)
-    : settings_(settings), canChooseFolder_(settings.policy == AnswerPolicy::ask && isTerminal()) {
+    : settings_(settings), canChooseFolder_(isAsked() && isTerminal()) {
     catchInterrupts();
     lastPaint_.start();
 }
@@ -94,7 +94,6 @@ std::optional<QString> ConsoleUser::typedLine() {
 }
 
 QString ConsoleUser::askText(const QString& prompt) {
-    if (settings_.policy != AnswerPolicy::ask) return {};
     print(prompt);
     return typedLine().value_or(QString()).trimmed();
 }
@@ -119,8 +118,7 @@ std::optional<bool> ConsoleUser::answerOf(const QString& question) {
 std::optional<bool> ConsoleUser::answerOfPending() {
     for (const auto& [question, answer] : settings_.settled)
         if (answers().isPending(question)) return answer;
-    if (answers().isPending(Question::wideClient) && settings_.policy != AnswerPolicy::ask)
-        return std::nullopt;
+    if (answers().isPending(Question::wideClient) && !isAsked()) return std::nullopt;
     return answerOf(u"OK"_s);
 }
 

@@ -44,7 +44,9 @@ public:
     void minimiseProgram() override {}
     void pumpMessages() override;
 
-    /// A line that is typed, without blanks around it; empty where nobody is asked.
+    /// Somebody types the answers.
+    bool isAsked() const { return settings_.policy == AnswerPolicy::ask; }
+    /// A line that is typed, without blanks around it; empty at the end of input.
     QString askText(const QString& prompt);
 
     /// What a modal screen does here; the command that expects one sets it.

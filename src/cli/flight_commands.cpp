@@ -42,22 +42,27 @@ QJsonObject toJson(const Session& session, const FlyReport& report) {
     return json;
 }
 
-/// What the window shows a screen for. Asked again until one is meant, or none.
-void chooseFlight(CommandContext& context) {
+/// Asked again until one is meant, or none.
+bool isFlightNamed(CommandContext& context) {
     loadFlights(context);
     const QStringList names = savedFlights(context.session);
     if (!names.isEmpty()) context.user.tellDone({names.join(u'\n')});
     for (;;) {
         const QString typed = context.user.askText(u"Which flight? An empty line means none: "_s);
-        if (typed.isEmpty()) break;
+        if (typed.isEmpty()) return false;
         const auto failure = failureOf([&] {
             context.session.state<FlightChoice>() = {.SelectedFlightName = flightNamed(typed, names),
                                                      .FlightSelected = true};
         });
-        if (!failure) return;
+        if (!failure) return true;
         context.user.tellDone({failure->description()});
     }
-    context.user.tellDone({u"No saved flight; with --cover, --flight NAME starts one unasked"_s});
+}
+
+/// What the window shows a screen for. A script's yes names none, and has nothing gathered.
+void chooseFlight(CommandContext& context) {
+    if (!context.user.isAsked() || !isFlightNamed(context))
+        context.user.tellDone({u"No saved flight; with --cover, --flight NAME starts one unasked"_s});
 }
 
 void fly(CommandContext& context) {
