@@ -42,20 +42,22 @@ QJsonObject toJson(const Session& session, const FlyReport& report) {
     return json;
 }
 
-/// Asked again until one is meant, or none.
+/// Asked again until one is meant, or none. The names stand in the prompt, as the log is to have none of
+/// them.
 bool isFlightNamed(CommandContext& context) {
     loadFlights(context);
     const QStringList names = savedFlights(context.session);
-    if (!names.isEmpty()) context.user.tellDone({names.join(u'\n')});
+    QString told = names.join(u'\n');
     for (;;) {
-        const QString typed = context.user.askText(u"Which flight? An empty line means none: "_s);
+        if (!told.isEmpty()) told += u'\n';
+        const QString typed = context.user.askText(told + u"Which flight? An empty line means none: "_s);
         if (typed.isEmpty()) return false;
         const auto failure = failureOf([&] {
             context.session.state<FlightChoice>() = {.SelectedFlightName = flightNamed(typed, names),
                                                      .FlightSelected = true};
         });
         if (!failure) return true;
-        context.user.tellDone({failure->description()});
+        told = failure->description();
     }
 }
 

@@ -230,9 +230,12 @@ TEST_F(FlyCommand, theFlightThatAYesMeansIsAskedFor) {
         const auto run = runConsole(u"fly OVC"_s, home, typed);
         EXPECT_EQ(run.status, 0) << run.messages.toStdString();
         EXPECT_TRUE(run.output.contains("\"start\":\"" + start + '"')) << run.output.toStdString();
-        EXPECT_EQ(run.messages.contains(u"'évening rian'; did you mean 'Évening Rain'?"), start == "saved flight")
+        EXPECT_EQ(run.messages.contains(u"'évening rian'; did you mean 'Évening Rain'?"),
+                  start == "saved flight")
             << run.messages.toStdString();
     }
+    const QByteArray log = readFile(install.home() / u"Morvane.log");
+    EXPECT_TRUE(log.contains(" End") && !log.contains("Rain") && !log.contains("rian")) << log.toStdString();
 }
 
 /// What an order ends in: its status and what it says, and of the object some values, joined by "|".
