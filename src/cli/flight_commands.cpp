@@ -53,8 +53,8 @@ bool isFlightNamed(CommandContext& context) {
         const QString typed = context.user.askText(told + u"Which flight? An empty line means none: "_s);
         if (typed.isEmpty()) return false;
         const auto failure = failureOf([&] {
-            context.session.state<FlightChoice>() = {.SelectedFlightName = flightNamed(typed, names),
-                                                     .FlightSelected = true};
+            context.session.state<FlightChoice>() = {
+                .SelectedFlightName = flightNamed(context.session, typed, names), .FlightSelected = true};
         });
         if (!failure) return true;
         told = failure->description();

@@ -234,6 +234,9 @@ TEST_F(FlyCommand, theFlightThatAYesMeansIsAskedFor) {
                   start == "saved flight")
             << run.messages.toStdString();
     }
+    const auto ordered = install.run(u"fly --cover OVC --flight"_s, {u"évening rian"_s});
+    EXPECT_TRUE(ordered.messages.contains(u"did you mean 'Évening Rain'?"_s))
+        << ordered.messages.toStdString();
     const QByteArray log = readFile(install.home() / u"Morvane.log");
     EXPECT_TRUE(log.contains(" End") && !log.contains("Rain") && !log.contains("rian")) << log.toStdString();
 }
