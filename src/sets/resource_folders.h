@@ -19,8 +19,9 @@ struct clsResourceFolder {
 
 using clsResourceFolders = StoredRows<clsResourceFolder>;
 
-/// All of them, read once. Behind a read that failed, which is told, it raises ErrorCode::interrupted, and the
-/// next call reads anew: a set that is made or a stock that is taken over without them is one without files.
+/// All of them, read once. Behind a read that failed, which is told, it raises ErrorCode::interrupted, and
+/// the next call reads anew: a set that is made or a stock that is taken over without them is one without
+/// files.
 const clsResourceFolders& resourceFolders(Session& session);
 
 } // namespace morvane
