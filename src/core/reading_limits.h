@@ -30,7 +30,6 @@ inline constexpr std::int64_t longestRegistryLine = 8192; ///< bytes: no path co
 inline constexpr int largestTextureSide = 1024; ///< of a texture and of a base image
 inline constexpr int largestPictureSide = 8192; ///< of any other, the skin's included
 inline constexpr int largestPictureArea = 4096 * 4096;
-inline constexpr std::int64_t largestPictureFile =
-    128 * megabyte; ///< of that area at 32 bits, with its levels
+inline constexpr std::int64_t largestPictureFile = 128 * megabyte; ///< of that area, with its levels
 
 } // namespace morvane
