@@ -7,6 +7,7 @@
 #include "ground/texture_sets.h"
 #include "night/night_texture_sets.h"
 #include "sets/set_names.h"
+#include "simulator/flights.h"
 #include "sky/sky_texture_sets.h"
 #include "weather/weather_sources.h"
 
@@ -52,6 +53,8 @@ Texts privateTextsOf(Session& session) {
     addNames<clsTextureSets>(session, texts);
     addNames<clsNightTextureSets>(session, texts);
     addNames<clsSkyTextureSets>(session, texts);
+    for (const QString& flight : session.state<KnownFlights>().names)
+        texts.push_back({flight, u"<flight>"_s});
     addWeatherServers(session.registry, texts);
     if (const QString runner = ownValue(session.registry, u"SimulatorRunner"_s); !runner.isEmpty())
         texts.push_back({runner, u"<runner>"_s});

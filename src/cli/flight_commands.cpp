@@ -42,8 +42,7 @@ QJsonObject toJson(const Session& session, const FlyReport& report) {
     return json;
 }
 
-/// Asked again until one is meant, or none. The names stand in the prompt, as the log is to have none of
-/// them.
+/// Asked again until one is meant, or none. What was typed stands in the prompt alone, which no log has.
 bool isFlightNamed(CommandContext& context) {
     loadFlights(context);
     const QStringList names = savedFlights(context.session);
@@ -53,8 +52,8 @@ bool isFlightNamed(CommandContext& context) {
         const QString typed = context.user.askText(told + u"Which flight? An empty line means none: "_s);
         if (typed.isEmpty()) return false;
         const auto failure = failureOf([&] {
-            context.session.state<FlightChoice>() = {
-                .SelectedFlightName = flightNamed(context.session, typed, names), .FlightSelected = true};
+            context.session.state<FlightChoice>() = {.SelectedFlightName = flightNamed(typed, names),
+                                                     .FlightSelected = true};
         });
         if (!failure) return true;
         told = failure->description();

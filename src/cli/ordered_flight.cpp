@@ -7,7 +7,6 @@
 #include "core/error.h"
 #include "core/file_helpers.h"
 #include "core/numbers.h"
-#include "core/private_texts.h"
 #include "sets/cloud_cover.h"
 #include "sets/options_in_force.h"
 #include "sets/simulator_note.h"
@@ -148,7 +147,7 @@ void OrderedFlight::findFlight() {
     session_.MyDocumentsPath = GetSpecialFolder(documents);
     if (!isTrial()) loadFlightFiles(session_);
     const QStringList names = isTrial() ? flightsToGather(session_) : savedFlights(session_);
-    flight_ = flightNamed(session_, options_[flightOption], names);
+    flight_ = flightNamed(options_[flightOption], names);
 }
 
 /// A trial writes no reports either.
@@ -307,13 +306,7 @@ QString orderProblem(const QHash<QString, QString>& options) {
     return {};
 }
 
-QString flightNamed(Session& session, const QString& wanted, const QStringList& names) {
-    session.state<PrivateTexts>().sources.emplace_back([names] {
-        std::vector<PrivateText> texts;
-        for (const QString& name : names)
-            texts.push_back({name, u"<flight>"_s});
-        return texts;
-    });
+QString flightNamed(const QString& wanted, const QStringList& names) {
     const auto isMeant = [&](const QString& name) { return name.compare(wanted, Qt::CaseInsensitive) == 0; };
     if (const auto found = std::ranges::find_if(names, isMeant); found != names.end()) return *found;
     const QString nearest = nearestWord(wanted, names);

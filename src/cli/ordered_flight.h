@@ -14,9 +14,8 @@ QString orderedBy(const QHash<QString, QString>& options);
 /// What is wrong with options that are good each by itself; empty when nothing is.
 QString orderProblem(const QHash<QString, QString>& options);
 
-/// The one of these saved flights that is meant, without regard to case; raises with the nearest name. The
-/// log has none of them from then on.
-QString flightNamed(Session& session, const QString& wanted, const QStringList& names);
+/// The one of these saved flights that is meant, without regard to case; raises with the nearest name.
+QString flightNamed(const QString& wanted, const QStringList& names);
 
 /// From the weather to the started simulator, as far as the order goes. What was done is told in lines, and
 /// with "--json" in one object, also where the road ended early: then nothing was installed, or the simulator

@@ -161,6 +161,7 @@ QStringList savedFlights(Session& session) {
         if (name.isEmpty()) break; // the total was edited by hand
         names << name;
     }
+    session.state<KnownFlights>().names = names;
     return names;
 }
 
@@ -172,6 +173,7 @@ QStringList flightsToGather(Session& session) {
             for (const QString& fileName : session.files.list(folder, flightMask))
                 names << baseName(fileName);
     names.removeDuplicates();
+    session.state<KnownFlights>().names = names;
     return names;
 }
 

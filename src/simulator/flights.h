@@ -25,6 +25,11 @@ void loadFlightFiles(Session& session);
 /// What the splash says meanwhile.
 extern const QString flightsProgressText;
 
+/// What one of the next two named last: the pilot's own words, which the log leaves out.
+struct KnownFlights {
+    QStringList names;
+};
+
 /// The names in "flights.cfg"; none, after a message, when that file is missing.
 QStringList savedFlights(Session& session);
 
